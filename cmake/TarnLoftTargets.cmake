@@ -1,0 +1,61 @@
+# Settings that every target shares, and the functions by which targets are made.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+find_program(MOLD_PROGRAM mold)
+if(MOLD_PROGRAM)
+  add_link_options(-fuse-ld=mold)
+endif()
+
+option(TARNLOFT_WERROR "Treat warnings as errors" OFF)
+set(TARNLOFT_SANITIZERS "" CACHE STRING "Sanitizers to build with, such as address,undefined")
+
+add_compile_options(-Wall -Wextra -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast)
+if(TARNLOFT_WERROR)
+  add_compile_options(-Werror)
+endif()
+if(TARNLOFT_SANITIZERS)
+  add_compile_options(-fsanitize=${TARNLOFT_SANITIZERS} -fno-sanitize-recover=all
+                      -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${TARNLOFT_SANITIZERS})
+endif()
+add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
+                        QT_STRICT_ITERATORS)
+
+# One library per source folder. LINKS names the folders below it (and only those) that it may use;
+# PRIVATE_LINKS the libraries that its sources use and its headers don't show. A folder that holds no
+# C++ yet is an interface target, so that its place among the layers is told from the start.
+function(tarnloft_layer name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS;PRIVATE_LINKS")
+  set(target tarnloft_${name})
+  list(TRANSFORM arg_LINKS PREPEND tarnloft_)
+  if(arg_SOURCES)
+    add_library(${target} STATIC ${arg_SOURCES})
+    target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+    target_link_libraries(${target} PUBLIC Qt6::Core ${arg_LINKS} PRIVATE ${arg_PRIVATE_LINKS})
+  else()
+    add_library(${target} INTERFACE)
+    target_include_directories(${target} INTERFACE ${CMAKE_SOURCE_DIR}/src)
+    target_link_libraries(${target} INTERFACE Qt6::Core ${arg_LINKS})
+  endif()
+endfunction()
+
+# One test program: NAME.cpp, the layers that it tests, and the shared helpers.
+function(tarnloft_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS;DEFINITIONS")
+  list(TRANSFORM arg_LINKS PREPEND tarnloft_)
+  add_executable(${name} ${name}.cpp)
+  target_link_libraries(${name} PRIVATE Qt6::Test tarnloft_testing ${arg_LINKS})
+  target_compile_definitions(${name} PRIVATE ${arg_DEFINITIONS})
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT "QTEST_DISABLE_STACK_DUMP=1")
+endfunction()

@@ -1,0 +1,79 @@
+#include "document/Package.h"
+
+#include "model/Json.h"
+
+namespace tarnloft::Package {
+namespace {
+
+// Far beyond any brand; keeps a hostile file from filling the memory.
+constexpr qint64 largestManifest = qint64(512) * 1024 * 1024;
+
+QString inPackage(const QString& packageURL, const char* name) {
+  return packageURL + QLatin1Char('/') + QLatin1String(name);
+}
+
+bool isPlainFileName(const QString& name) {
+  return !name.isEmpty() && name != QLatin1String(".") && name != QLatin1String("..") &&
+         !name.contains(QLatin1Char('/')) && !name.contains(QChar(u'\0'));
+}
+
+Result<QByteArray> readAll(FileReader& file) {
+  if (file.size() > largestManifest) {
+    return failure(ErrorKind::refused, QStringLiteral("The file is too large"));
+  }
+  QByteArray bytes;
+  bytes.reserve(file.size() + jsonPadding);
+  bytes.resize(file.size());
+  qint64 filled = 0;
+  while (filled < bytes.size()) {
+    const auto count = file.read(bytes.data() + filled, bytes.size() - filled);
+    if (!count) return tl::unexpected(count.error());
+    if (*count == 0) break;  // cut short since it was opened
+    filled += *count;
+  }
+  bytes.resize(filled);
+  return bytes;
+}
+
+}  // namespace
+
+QString manifestPath(const QString& packageURL) { return inPackage(packageURL, "manifest.json"); }
+QString assetsPath(const QString& packageURL) { return inPackage(packageURL, "assets"); }
+QString thumbnailsPath(const QString& packageURL) { return inPackage(packageURL, "thumbnails"); }
+
+QString folderOf(const QString& path) {
+  const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
+  return slash < 0 ? QStringLiteral(".") : path.left(std::max<qsizetype>(slash, 1));
+}
+
+QString fileNameFor(const QString& brandName) {
+  QString name = brandName.trimmed();
+  name.replace(QLatin1Char('/'), QLatin1Char('-')).replace(QLatin1Char(':'), QLatin1Char('-'));
+  return name.isEmpty() ? QStringLiteral("Untitled Brand") : name;
+}
+
+QString uniquePackageURL(const FileStore& files, const QString& folder, const QString& name) {
+  const QString base = folder + QLatin1Char('/') + fileNameFor(name);
+  const QString extension = QStringLiteral(".tarnloft");
+  QString candidate = base + extension;
+  for (int counter = 2; files.exists(candidate); ++counter) {
+    candidate = base + QLatin1Char(' ') + QString::number(counter) + extension;
+  }
+  return candidate;
+}
+
+Result<QByteArray> readManifest(const FileStore& files, const QString& packageURL) {
+  return files.open(manifestPath(packageURL), packageURL).and_then([](const auto& file) {
+    return readAll(*file);
+  });
+}
+
+Result<std::unique_ptr<FileReader>> openAsset(const FileStore& files, const QString& packageURL,
+                                              const AssetRef& asset) {
+  if (!isPlainFileName(asset.filename)) {
+    return failure(ErrorKind::refused, QStringLiteral("Not a plain file name"));
+  }
+  return files.open(assetsPath(packageURL) + QLatin1Char('/') + asset.filename, packageURL);
+}
+
+}  // namespace tarnloft::Package

@@ -1,0 +1,64 @@
+#include "entry/selftest/SelfTest.h"
+
+#include "entry/selftest/Checks.h"
+
+#include <QDir>
+
+#include <cstdio>
+
+namespace tarnloft::SelfTest {
+namespace {
+
+void print(const QString& line) {
+  std::fputs(line.toUtf8().constData(), stdout);
+  std::fputc('\n', stdout);
+}
+
+}  // namespace
+
+void Report::check(const QString& label, bool passed) {
+  if (passed) {
+    print(QStringLiteral("  ✔ ") + label);
+    ++passed_;
+  } else {
+    print(QStringLiteral("  x ") + label + QStringLiteral("  <-- FAILED"));
+    ++failed_;
+  }
+}
+
+void Report::setupFailed(const QString& label, const Error& error) {
+  check(label + QStringLiteral(" (") + error.message + QLatin1Char(')'), false);
+}
+
+ScratchFolder::ScratchFolder(const QString& prefix)
+    : path_(QDir::tempPath() + QLatin1Char('/') + prefix +
+            QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper()) {
+  QDir().mkpath(path_);
+}
+
+ScratchFolder::~ScratchFolder() { QDir(path_).removeRecursively(); }
+
+bool run(const DocumentServices& services) {
+  print(QStringLiteral("Tarn Loft self-test"));
+  Report report;
+  checkColors(report);
+  checkBrandStructure(report);
+  checkPackage(report, services);
+  checkInvalidate(report, services);
+  checkAccentResolution(report);
+  checkConversions(report);
+  checkPalette(report);
+  checkBrandPage(report, services);
+  checkLogoSet(report);
+  checkLogoPage(report, services);
+  checkSpotColor(report);
+  checkUsageNotes(report);
+  checkNotesPage(report, services);
+  checkFonts(report, services);
+  checkUngrouping(report);
+  checkExportableAssets(report);
+  print(QStringLiteral("\n%1 passed, %2 failed").arg(report.passed()).arg(report.failed()));
+  return report.failed() == 0;
+}
+
+}  // namespace tarnloft::SelfTest

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QUuid>
+
+#include <optional>
+
+namespace tarnloft {
+
+struct GradientStop {
+  QUuid id;
+  QString hex;
+  double location = 0;  // 0 to 1 along the gradient line
+
+  bool operator==(const GradientStop&) const = default;
+};
+
+struct GradientValue {
+  QList<GradientStop> stops;  // in the user's order, not sorted by location
+  double angle = 0;           // degrees, in the sense of CSS `linear-gradient`
+  std::optional<QString> name;
+
+  bool operator==(const GradientValue&) const = default;
+
+  // "linear-gradient(90deg, #FF0000 0%, #00FF00 50%)", stops by location, numbers rounded half away
+  // from zero. A number that doesn't fit a 64-bit integer stops the process.
+  QString cssString() const;
+};
+
+}  // namespace tarnloft

@@ -1,0 +1,131 @@
+#pragma once
+
+#include <QList>
+
+#include <algorithm>
+#include <initializer_list>
+#include <iterator>
+
+namespace tarnloft {
+
+// A list for long runs of records. Copies share their storage, and changing one element of a copy
+// duplicates a run of at most `runLength` elements and the index of runs, not the whole list: that
+// is what keeps one undo step of a large brand small. Positions are 0 to size() - 1; any other is a
+// programming error. Thread safety is that of QList.
+template <class T>
+class SharedList {
+ public:
+  using value_type = T;
+  static constexpr qsizetype runLength = 64;
+
+  class const_iterator {
+   public:
+    using iterator_category = std::forward_iterator_tag;
+    using value_type = T;
+    using difference_type = qsizetype;
+    using pointer = const T*;
+    using reference = const T&;
+
+    const_iterator() = default;
+    const T& operator*() const { return (*run_)[index_]; }
+    const T* operator->() const { return &(*run_)[index_]; }
+    const_iterator& operator++() {
+      if (++index_ == run_->size()) {
+        ++run_;
+        index_ = 0;
+      }
+      return *this;
+    }
+    const_iterator operator++(int) {
+      auto before = *this;
+      ++*this;
+      return before;
+    }
+    bool operator==(const const_iterator&) const = default;
+
+   private:
+    friend SharedList;
+    explicit const_iterator(const QList<T>* run) : run_(run) {}
+    const QList<T>* run_ = nullptr;
+    qsizetype index_ = 0;
+  };
+
+  SharedList() = default;
+  SharedList(std::initializer_list<T> values) {
+    for (const T& value : values) append(value);
+  }
+
+  qsizetype size() const { return size_; }
+  bool isEmpty() const { return size_ == 0; }
+  const_iterator begin() const { return const_iterator(runs_.constData()); }
+  const_iterator end() const { return const_iterator(runs_.constData() + runs_.size()); }
+
+  const T& at(qsizetype position) const {
+    const Place place = find(position);
+    return runs_.at(place.run).at(place.index);
+  }
+  const T& operator[](qsizetype position) const { return at(position); }
+  // Detaches the run that holds the element; read through `at` or a const list where possible.
+  T& operator[](qsizetype position) {
+    const Place place = find(position);
+    return runs_[place.run][place.index];
+  }
+
+  void append(T value) {
+    if (runs_.isEmpty() || runs_.constLast().size() >= runLength) runs_.append(QList<T>());
+    runs_.last().append(std::move(value));
+    ++size_;
+  }
+
+  // `position` may be size(), which appends.
+  void insert(qsizetype position, T value) {
+    if (position == size_) return append(std::move(value));
+    const Place place = find(position);
+    runs_[place.run].insert(place.index, std::move(value));
+    ++size_;
+    if (runs_.at(place.run).size() > runLength) split(place.run);
+  }
+
+  T takeAt(qsizetype position) {
+    const Place place = find(position);
+    T value = runs_[place.run].takeAt(place.index);
+    if (runs_.at(place.run).isEmpty()) runs_.removeAt(place.run);
+    --size_;
+    return value;
+  }
+
+  void clear() { *this = SharedList(); }
+
+  // Runs that are shared compare at once; how elements fall into runs plays no part.
+  friend bool operator==(const SharedList& a, const SharedList& b) {
+    if (a.size_ != b.size_) return false;
+    const bool sameRuns = std::equal(
+        a.runs_.begin(), a.runs_.end(), b.runs_.begin(), b.runs_.end(),
+        [](const QList<T>& x, const QList<T>& y) { return x.size() == y.size(); });
+    return sameRuns ? a.runs_ == b.runs_ : std::equal(a.begin(), a.end(), b.begin());
+  }
+
+ private:
+  struct Place {
+    qsizetype run;
+    qsizetype index;
+  };
+
+  Place find(qsizetype position) const {
+    Q_ASSERT(position >= 0 && position < size_);
+    qsizetype run = 0;
+    while (position >= runs_.at(run).size()) position -= runs_.at(run++).size();
+    return {run, position};
+  }
+
+  void split(qsizetype run) {
+    const qsizetype half = runs_.at(run).size() / 2;
+    runs_.insert(run + 1, runs_.at(run).mid(half));
+    runs_[run].resize(half);
+  }
+
+  QList<QList<T>> runs_;  // no run is empty
+  qsizetype size_ = 0;
+};
+
+}  // namespace tarnloft

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tarnloft {
+
+// A moment in UTC. Files keep whole seconds of it.
+using Timestamp = std::chrono::sys_time<std::chrono::milliseconds>;
+
+// Where the present time comes from; tests hand in their own.
+using Clock = std::function<Timestamp()>;
+
+Timestamp systemNow();
+
+// "2026-03-01T09:30:00Z": ISO 8601 in UTC, cut down to whole seconds. For the years 0 to 9999.
+std::string iso8601(Timestamp moment);
+
+// Takes "Z" or an offset such as "+01:00" behind the time; refuses fractional seconds, dates that
+// the calendar doesn't have, and any other form.
+std::optional<Timestamp> fromIso8601(std::string_view text);
+
+}  // namespace tarnloft

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "model/Error.h"
+
+#include <QByteArray>
+#include <QByteArrayView>
+
+#include <memory>
+
+namespace tarnloft {
+
+// An open file being read from its beginning. Closed on destruction.
+class FileReader {
+ public:
+  virtual ~FileReader() = default;
+
+  // Fills up to `capacity` bytes and gives their number; 0 only at the end of the file.
+  virtual Result<qint64> read(char* buffer, qint64 capacity) = 0;
+  // Size in bytes when the file was opened.
+  virtual qint64 size() const = 0;
+};
+
+// A new file being written. Closed, not removed, on destruction.
+class FileWriter {
+ public:
+  virtual ~FileWriter() = default;
+
+  virtual const QString& path() const = 0;
+  virtual Result<void> write(QByteArrayView bytes) = 0;
+  // Writes `length` bytes that stand in the file from `offset` on once more, at its end.
+  virtual Result<void> repeat(qint64 offset, qint64 length) = 0;
+  // Cuts the file back to `size` bytes; writing goes on from there.
+  virtual Result<void> truncate(qint64 size) = 0;
+  // Returns when the content is on the medium.
+  virtual Result<void> sync() = 0;
+};
+
+// The one door to the disk. Each call is one step that either happened or didn't; procedures such
+// as `writeAtomically` are written above it, so that a test can cut them after each step. Paths are
+// absolute or relative to the working directory; one that holds a NUL is refused. No call follows a
+// link in the last component unless it says so.
+class FileStore {
+ public:
+  virtual ~FileStore() = default;
+
+  // True if anything stands at the path, a dangling link included.
+  virtual bool exists(const QString& path) const = 0;
+
+  // Opens a regular file. Follows links, but refuses a file that, with all links followed, does not
+  // stand inside `root`; an empty `root` allows any place. Never waits on a pipe or a device.
+  virtual Result<std::unique_ptr<FileReader>> open(const QString& path,
+                                                   const QString& root) const = 0;
+
+  // Where a link leads in the end; a path that is no link as it stands. Fails on a dangling link.
+  virtual Result<QString> resolved(const QString& path) const = 0;
+
+  // Makes a folder and its missing parents; one that exists is no error.
+  virtual Result<void> makeFolder(const QString& path) = 0;
+
+  // Makes a new, empty, hidden file in the folder of `target`, with the rights that `target` has or
+  // a new file would get.
+  virtual Result<std::unique_ptr<FileWriter>> createTemporary(const QString& target) = 0;
+
+  // Renames a file over `target`, which must be a regular file, a link (it is replaced, not
+  // followed), or not exist.
+  virtual Result<void> replace(const QString& temporary, const QString& target) = 0;
+
+  // Returns when the folder's list of names is on the medium.
+  virtual Result<void> syncFolder(const QString& path) = 0;
+
+  virtual Result<void> remove(const QString& path) = 0;
+
+  // Renames a folder; fails if anything stands at `target`.
+  virtual Result<void> moveFolder(const QString& path, const QString& target) = 0;
+};
+
+}  // namespace tarnloft

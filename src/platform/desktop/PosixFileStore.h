@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/FileStore.h"
+
+namespace tarnloft {
+
+// The file system of a POSIX system. Without state; any thread.
+class PosixFileStore : public FileStore {
+ public:
+  bool exists(const QString& path) const override;
+  Result<std::unique_ptr<FileReader>> open(const QString& path,
+                                           const QString& root) const override;
+  Result<QString> resolved(const QString& path) const override;
+  Result<void> makeFolder(const QString& path) override;
+  Result<std::unique_ptr<FileWriter>> createTemporary(const QString& target) override;
+  Result<void> replace(const QString& temporary, const QString& target) override;
+  Result<void> syncFolder(const QString& path) override;
+  Result<void> remove(const QString& path) override;
+  Result<void> moveFolder(const QString& path, const QString& target) override;
+};
+
+}  // namespace tarnloft

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "document/BrandDocument.h"
+#include "platform/FileDialogs.h"
+#include "platform/FileViewer.h"
+#include "publish/PageSink.h"
+
+namespace tarnloft {
+
+// Turns a brand into one HTML page that needs nothing else: styles, script, pictures, videos and
+// fonts travel inside it. Reads the document and its assets, writes nothing back. An asset that
+// can't be read degrades its fragment and is never an error.
+namespace BrandPageExporter {
+
+// The whole page, held in memory.
+QString html(const BrandDocument& document);
+
+// The whole page, piece by piece: memory stays flat whatever the assets weigh.
+void writePage(const BrandDocument& document, PageSink& sink);
+
+// Writes the page to a file atomically. A link at `path` is followed.
+Result<void> writeFile(const BrandDocument& document, FileStore& files, const QString& path);
+
+// "Acme Brand Page.html": the brand's name made fit for a file's.
+QString suggestedFileName(const QString& brandName);
+
+// Asks where to, writes the page there and reveals it, also if writing failed.
+void exportPage(const BrandDocument& document, FileStore& files, FileDialogs& dialogs,
+                FileViewer& viewer);
+
+// The `@font-face` rules: one for each family, of its first font item that has a file.
+void fontFaceBlock(const Brand& brand, const BrandDocument& document, PageSink& sink);
+
+// The inside of the header's mark box: the brand's picture, else its initial.
+void markHTML(const Brand& brand, const BrandDocument& document, PageSink& sink);
+
+}  // namespace BrandPageExporter
+}  // namespace tarnloft

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "document/BrandDocument.h"
+#include "publish/PageSink.h"
+
+namespace tarnloft::BrandPageExporter {
+
+// The fragments of a section and of each kind of item; each goes to the sink without a line feed
+// behind it. Notes show on colours, images, videos and logo sets alone.
+
+void sectionHTML(const Section& section, const BrandDocument& document, PageSink& sink);
+void itemHTML(const Item& item, const BrandDocument& document, PageSink& sink);
+void colorHTML(const ColorValue& color, const QList<UsageNote>& notes, PageSink& sink);
+void gradientHTML(const GradientValue& gradient, PageSink& sink);
+void fontHTML(const FontValue& font, const BrandDocument& document, PageSink& sink);
+void logoHTML(const LogoValue& logo, const BrandDocument& document, const QList<UsageNote>& notes,
+              PageSink& sink);
+
+// Empty for no notes.
+QByteArray notesHTML(const QList<UsageNote>& notes);
+
+}  // namespace tarnloft::BrandPageExporter

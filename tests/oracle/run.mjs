@@ -1,0 +1,247 @@
+// Checks the program against random and broken packages.
+// Usage: node run.mjs <path to tarnloft> [count=300] [seed]
+
+import { spawn } from 'node:child_process';
+import {
+  copyFileSync, lstatSync, mkdirSync, mkdtempSync, readFileSync, readdirSync, readlinkSync, realpathSync, rmSync, symlinkSync, writeFileSync,
+} from 'node:fs';
+import { cpus, tmpdir } from 'node:os';
+import { join, resolve } from 'node:path';
+import { GOOD, badManifests } from './bad.mjs';
+import { parseBrand } from './manifest.mjs';
+import { randomFrom, writePackage } from './package.mjs';
+import { pageText } from './page.mjs';
+import { fillBlanks, seededText } from './seed.mjs';
+
+const usage = 'usage: node run.mjs <path to tarnloft> [count=300] [seed]';
+const [program, count, firstSeed] = readArguments(process.argv.slice(2));
+const root = realpathSync(mkdtempSync(join(tmpdir(), 'tarnloft-oracle-')));
+const home = join(root, 'home');
+const temporary = join(root, 'tmp');
+let homePage = null;
+
+class Mismatch extends Error {}
+
+function readArguments([path, ...numbers]) {
+  const [amount, seed] = [numbers[0] ?? 300, numbers[1] ?? Date.now() % 1e9].map(Number);
+  if (path && Number.isSafeInteger(amount) && Number.isSafeInteger(seed)) return [resolve(path), amount, seed];
+  console.error(usage);
+  process.exit(2);
+}
+
+function demand(truth, message) {
+  if (!truth) throw new Mismatch(message);
+}
+
+// Running the program
+
+// A home of its own: a run must neither read nor leave anything in the user's.
+function environment(locale) {
+  return {
+    PATH: process.env.PATH, TMPDIR: temporary, LC_ALL: locale, HOME: home,
+    XDG_DATA_HOME: join(home, 'data'), XDG_CONFIG_HOME: join(home, 'config'), XDG_CACHE_HOME: join(home, 'cache'),
+  };
+}
+
+function run(args, { cwd = root, locale = 'C.UTF-8' } = {}) {
+  return new Promise((done, fail) => {
+    const limits = { stdio: ['ignore', 'pipe', 'pipe'], timeout: 20000, killSignal: 'SIGKILL' };
+    const child = spawn(program, args, { cwd, env: environment(locale), ...limits });
+    let output = '';
+    for (const stream of [child.stdout, child.stderr]) stream.on('data', (data) => { output += data; });
+    child.on('error', fail);
+    child.on('close', (status, signal) => done({ status: signal ?? status, output }));
+  });
+}
+
+async function runQuietly(args, status, options) {
+  const result = await run(args, options);
+  demand(result.output === '', `${args.join(' ')} printed ${JSON.stringify(result.output)}`);
+  demand(result.status === status, `${args.join(' ')} ended with ${result.status} instead of ${status}`);
+}
+
+// Comparing
+
+/** Everything below a folder by path: what it is and what it holds. */
+function snapshot(folder, prefix = '') {
+  return readdirSync(folder).sort().flatMap((name) => {
+    const path = join(folder, name);
+    const info = lstatSync(path);
+    if (info.isSymbolicLink()) return [[prefix + name, 'link', readlinkSync(path)]];
+    if (info.isDirectory()) return [[prefix + name, 'folder', ''], ...snapshot(path, `${prefix}${name}/`)];
+    return [[prefix + name, 'file', readFileSync(path, 'latin1')]];
+  });
+}
+
+function demandSameTree(actual, expected, message) {
+  const paths = (tree) => JSON.stringify(tree.map(([path, kind]) => [path, kind]));
+  demand(paths(actual) === paths(expected), `${message}: ${paths(expected)} became ${paths(actual)}`);
+  const other = actual.find((entry, i) => entry[2] !== expected[i][2]);
+  demand(!other, `${message}: ${other?.[0]} has other content`);
+}
+
+function demandSameBytes(actual, text, what) {
+  const expected = Buffer.from(text);
+  if (actual.equals(expected)) return;
+  let at = 0;
+  while (at < actual.length && at < expected.length && actual[at] === expected[at]) at++;
+  const part = (bytes, from, to) => JSON.stringify(bytes.toString('utf8', Math.max(0, from), to));
+  const around = (bytes) => `${part(bytes, at - 80, at)} then ${part(bytes, at, at + 80)}`;
+  throw new Mismatch(`${what} differs at byte ${at} (${actual.length} bytes, expected ${expected.length})\n`
+    + `  expected ${around(expected)}\n  actual   ${around(actual)}`);
+}
+
+// Random packages
+
+// Three ways to name a package: as it is, from the working directory, and through a link.
+function calledPaths(folder, name, rng) {
+  symlinkSync(name, join(folder, 'alias'));
+  return rng.pick([
+    { path: join(folder, name), page: join(folder, 'out', 'page.html') },
+    { path: name, page: join('out', 'page.html') },
+    { path: join(folder, 'alias'), page: join('.', 'out', 'page.html') },
+  ]);
+}
+
+function noteHomePage(page) {
+  const [, address] = /<footer>Made with <a href="([^"<>]*)" target="_blank"/.exec(page) ?? [];
+  demand(/^https?:\/\/[^\s/]+\S*$/.test(address ?? ''), `the footer's address is ${JSON.stringify(address)}`);
+  homePage ??= address;
+  demand(address === homePage, `the footer's address was ${homePage} and is ${address}`);
+}
+
+async function checkExport(folder, name, { path, page }, options, replaces) {
+  const out = join(folder, 'out');
+  const before = snapshot(join(folder, name));
+  mkdirSync(out);
+  if (replaces) writeFileSync(join(out, 'page.html'), 'old '.repeat(100000));
+  await runQuietly(['--export-page', path, page], 0, options);
+  demand(readdirSync(out).join() === 'page.html', `the page's folder holds ${JSON.stringify(readdirSync(out))}`);
+  const actual = readFileSync(join(out, 'page.html'));
+  noteHomePage(actual.toString('utf8'));
+  const expected = pageText(join(folder, name), homePage);
+  writeFileSync(join(folder, 'expected.html'), expected);
+  demandSameBytes(actual, expected, 'the page');
+  demandSameTree(snapshot(join(folder, name)), before, 'exporting changed the package');
+}
+
+async function checkSeed(folder, name, { path }, options) {
+  const manifest = join(folder, name, 'manifest.json');
+  const before = snapshot(join(folder, name));
+  const expected = seededText(parseBrand(readFileSync(manifest)));
+  const started = Date.now();
+  copyFileSync(manifest, join(folder, 'manifest.before.json'));
+  await runQuietly(['--seed-logo', path], expected === null ? 1 : 0, options);
+  const actual = readFileSync(manifest);
+  if (expected !== null) {
+    demandSameBytes(actual, fillBlanks(expected, actual.toString('utf8'), started), 'the seeded manifest');
+  }
+  const except = (tree) => (expected === null ? tree : tree.filter(([entry]) => entry !== 'manifest.json'));
+  demandSameTree(except(snapshot(join(folder, name))), except(before), 'seeding changed the package');
+}
+
+async function checkRandom(seed) {
+  const rng = randomFrom(seed);
+  const folder = join(root, `package-${seed}`);
+  const name = rng.pick(['Acme.tarnloft', 'Brand é 1.tarnloft', "it's & %20 #1.tarnloft", 'plain']);
+  mkdirSync(folder);
+  const { wild } = writePackage(join(folder, name), rng);
+  const paths = calledPaths(folder, name, rng);
+  const options = { cwd: folder, locale: rng.pick(['C.UTF-8', 'C.UTF-8', 'C']) };
+  if (!wild) await checkExport(folder, name, paths, options, rng.chance(0.2));
+  await checkSeed(folder, name, paths, options);
+  return folder;
+}
+
+// Broken packages and the rest
+
+function makeGood(folder, manifest = JSON.stringify(GOOD)) {
+  mkdirSync(join(folder, 'kit', 'assets'), { recursive: true });
+  writeFileSync(join(folder, 'kit', 'assets', 'plain.png'), 'picture');
+  if (manifest !== null) writeFileSync(join(folder, 'kit', 'manifest.json'), manifest);
+}
+
+const EXPORT = ['--export-page', 'kit', 'page.html'];
+const SEED = ['--seed-logo', 'kit'];
+
+async function demandRefused(folder, ...commands) {
+  const before = snapshot(folder);
+  for (const args of commands) await runQuietly(args, 1, { cwd: folder });
+  demandSameTree(snapshot(folder), before, 'a failing run changed something');
+}
+
+// Each prepares a folder and gives the commands that must fail there.
+const REFUSALS = [
+  ['no manifest', (folder) => makeGood(folder, null), EXPORT, SEED],
+  ["folder in the manifest's place", (folder) => {
+    makeGood(folder, null);
+    mkdirSync(join(folder, 'kit', 'manifest.json'));
+  }, EXPORT, SEED],
+  ['no package', () => {}, EXPORT, SEED],
+  ["file in the package's place", (folder) => writeFileSync(join(folder, 'kit'), JSON.stringify(GOOD)), EXPORT, SEED],
+  ['page into no folder', (folder) => makeGood(folder), ['--export-page', 'kit', 'gone/page.html']],
+  ["page in a folder's place", (folder) => makeGood(folder), ['--export-page', 'kit', 'kit/assets']],
+  ['values that look like options', (folder) => makeGood(folder), ['--export-page', '--seed-logo', 'kit']],
+  ['only the first of two counts', (folder) => makeGood(folder), ['--export-page', 'none', 'page.html', ...EXPORT], ['--seed-logo', 'none', ...SEED]],
+];
+
+async function checkRefusal([name, prepare, ...commands], number) {
+  const folder = join(root, `refused-${number}`);
+  mkdirSync(folder);
+  prepare(folder);
+  await demandRefused(folder, ...commands);
+  return folder;
+}
+
+// The unbroken manifest must work, or the broken ones would prove nothing; exporting goes before seeding.
+async function checkGood() {
+  const folder = join(root, 'good');
+  makeGood(folder);
+  const bytes = () => readFileSync(join(folder, 'kit', 'manifest.json'));
+  const before = bytes();
+  await runQuietly(['other', ...SEED, '--else', ...EXPORT, 'more'], 0, { cwd: folder });
+  demand(bytes().equals(before), 'exporting seeded as well');
+  demand(readdirSync(folder).join() === 'kit,page.html', 'no page was made');
+  const expected = seededText(parseBrand(before));
+  const started = Date.now();
+  await runQuietly(['other', ...SEED, 'more'], 0, { cwd: folder });
+  demandSameBytes(bytes(), fillBlanks(expected, bytes().toString('utf8'), started), 'the seeded manifest');
+  return folder;
+}
+
+function allChecks() {
+  const broken = badManifests().map(([name, content]) => [name, (folder) => makeGood(folder, content), EXPORT, SEED]);
+  const refusals = [...REFUSALS, ...broken];
+  return [
+    ['good package', checkGood],
+    ...refusals.map((refusal, i) => [refusal[0], () => checkRefusal(refusal, i)]),
+    ...Array.from({ length: count }, (_, i) => [`random package, seed ${firstSeed + i}`, () => checkRandom(firstSeed + i)]),
+  ];
+}
+
+// Some workers share one list; the first failure stops them all and keeps its folder.
+async function runAll(checks) {
+  let next = 0, passed = 0, failed = 0;
+  const work = async () => {
+    while (next < checks.length && failed === 0) {
+      const [name, check] = checks[next++];
+      try {
+        rmSync(await check(), { recursive: true });
+        passed++;
+      } catch (error) {
+        if (failed++ === 0) console.error(`FAILED ${name}\n${error instanceof Mismatch ? error.message : error.stack}`);
+      }
+    }
+  };
+  await Promise.all(Array.from({ length: Math.max(1, Math.min(8, cpus().length)) }, work));
+  return { passed, failed };
+}
+
+for (const folder of [home, temporary]) mkdirSync(folder);
+const { passed, failed } = await runAll(allChecks());
+const strays = [home, temporary].flatMap((folder) => snapshot(folder).map(([path]) => join(folder, path)));
+if (strays.length > 0) console.error(`FAILED the program left ${strays.join(', ')}`);
+if (failed === 0 && strays.length === 0) rmSync(root, { recursive: true });
+else console.error(`kept in ${root}; first seed of this run ${firstSeed}`);
+console.log(`${passed} passed, ${failed + (strays.length > 0 ? 1 : 0)} failed`);
+process.exitCode = failed > 0 || strays.length > 0 ? 1 : 0;
