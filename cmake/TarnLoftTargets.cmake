@@ -28,8 +28,6 @@ if(TARNLOFT_SANITIZERS)
                       -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${TARNLOFT_SANITIZERS})
 endif()
-add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
-                        QT_STRICT_ITERATORS)
 
 # One library per source folder. LINKS names the folders below it (and only those) that it may use;
 # PRIVATE_LINKS the libraries that its sources use and its headers don't show. A folder that holds no

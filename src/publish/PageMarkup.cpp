@@ -35,7 +35,7 @@ constexpr std::array<std::pair<QLatin1StringView, const char*>, 15> mimeTypes{{
 Result<qint64> fill(FileReader& file, std::vector<char>& buffer) {
   qint64 filled = 0;
   while (filled < qint64(buffer.size())) {
-    const auto count = file.read(buffer.data() + filled, qint64(buffer.size()) - filled);
+    auto count = file.read(buffer.data() + filled, qint64(buffer.size()) - filled);
     if (!count) return count;
     if (*count == 0) break;
     filled += *count;

@@ -20,8 +20,8 @@ bool hasVariant(const char* hex, Test&& test) {
 
 std::optional<CMYKColor> cmyk(const char* hex) { return ColorUtil::cmyk(QString::fromUtf8(hex)); }
 
-QString accent(std::optional<QString> brand, std::optional<QString> brandDark,
-               std::optional<QString> defaultDark, ColorUtil::Appearance appearance) {
+QString accent(const std::optional<QString>& brand, const std::optional<QString>& brandDark,
+               const std::optional<QString>& defaultDark, ColorUtil::Appearance appearance) {
   return ColorUtil::effectiveAccent(brand, brandDark, QStringLiteral("#111111"), defaultDark,
                                     appearance);
 }

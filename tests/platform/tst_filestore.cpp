@@ -1,0 +1,155 @@
+#include "testing/TestServices.h"
+
+#include <QTest>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace tarnloft;
+
+class TestFileStore : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void opensOnlyWhatStandsInside_data();
+  void opensOnlyWhatStandsInside();
+  void neverWaitsOnAPipe();
+  void refusesToReplaceWhatIsNoFile();
+  void keepsTheRightsOfAReplacedFile();
+  void takesBackAndRepeats();
+  void makesParents();
+  void movesOnlyToAFreePlace();
+  void followsLinksForPages();
+};
+
+namespace {
+
+struct Tree {
+  TestServices disk;
+  QString root = disk.path(QStringLiteral("p.tarnloft"));
+
+  Tree() {
+    writeFile(disk.path(QStringLiteral("secret")), "secret");
+    writeFile(disk.path(QStringLiteral("p.tarnloft-other/x")), "other");
+    writeFile(root + QStringLiteral("/assets/a.png"), "a");
+    link("../../secret", "/assets/out");
+    link("a.png", "/assets/in");
+    link("in", "/assets/twice");
+    link("../../p.tarnloft-other/x", "/assets/sibling");
+    link("nowhere", "/assets/dangling");
+    link("loop", "/assets/loop");
+    ::symlink(QFile::encodeName(root + QStringLiteral("/assets/a.png")).constData(),
+              QFile::encodeName(root + QStringLiteral("/assets/absolute")).constData());
+  }
+  void link(const char* target, const char* name) {
+    ::symlink(target, QFile::encodeName(root + QLatin1String(name)).constData());
+  }
+};
+
+Result<void> replaced(FileStore& files, const QString& path, const QByteArray& content) {
+  auto file = files.createTemporary(path);
+  if (!file) return tl::unexpected(file.error());
+  if (auto written = (*file)->write(content); !written) return written;
+  auto result = files.replace((*file)->path(), path);
+  if (!result) (void)files.remove((*file)->path());
+  return result;
+}
+
+}  // namespace
+
+void TestFileStore::opensOnlyWhatStandsInside_data() {
+  QTest::addColumn<QString>("name");
+  QTest::addColumn<bool>("opens");
+  for (const char* good : {"a.png", "in", "twice", "absolute", "../assets/a.png"}) {
+    QTest::newRow(good) << QString::fromLatin1(good) << true;
+  }
+  for (const char* bad : {"out", "sibling", "dangling", "loop", "missing", "../../secret", "", "."}) {
+    QTest::newRow(bad) << QString::fromLatin1(bad) << false;
+  }
+  QTest::newRow("NUL") << QStringLiteral("a.png") + QChar(u'\0') << false;
+}
+
+void TestFileStore::opensOnlyWhatStandsInside() {
+  QFETCH(QString, name);
+  const Tree tree;
+  const auto file = tree.disk.files.open(tree.root + QStringLiteral("/assets/") + name, tree.root);
+  QTEST(file.has_value(), "opens");
+}
+
+void TestFileStore::neverWaitsOnAPipe() {
+  const Tree tree;
+  const QString pipe = tree.root + QStringLiteral("/assets/pipe");
+  QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+  const auto file = tree.disk.files.open(pipe, tree.root);
+  QVERIFY(!file);
+  QCOMPARE(file.error().kind, ErrorKind::refused);
+}
+
+void TestFileStore::refusesToReplaceWhatIsNoFile() {
+  Tree tree;
+  const QString pipe = tree.disk.path(QStringLiteral("pipe"));
+  QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+  for (const QString& path : {pipe, tree.root}) {
+    QVERIFY(!replaced(tree.disk.files, path, "x"));
+    QVERIFY(!QFileInfo(path).isFile());
+  }
+  QVERIFY(QDir(tree.disk.folder.path()).entryList({QStringLiteral(".tarnloft-*")}, QDir::Hidden | QDir::Files).isEmpty());
+}
+
+void TestFileStore::keepsTheRightsOfAReplacedFile() {
+  TestServices disk;
+  const QString path = disk.path(QStringLiteral("file"));
+  QVERIFY(writeFile(path, "old"));
+  QCOMPARE(::chmod(QFile::encodeName(path).constData(), 0640), 0);
+  QVERIFY(replaced(disk.files, path, "new"));
+  QCOMPARE(contentOf(path), QByteArray("new"));
+  struct stat info;
+  QCOMPARE(::stat(QFile::encodeName(path).constData(), &info), 0);
+  QCOMPARE(info.st_mode & 0777, 0640u);
+}
+
+void TestFileStore::takesBackAndRepeats() {
+  TestServices disk;
+  auto file = disk.files.createTemporary(disk.path(QStringLiteral("x")));
+  QVERIFY(file);
+  QVERIFY((*file)->write("abcdef"));
+  QVERIFY((*file)->truncate(4));
+  QVERIFY((*file)->repeat(1, 3));
+  QVERIFY((*file)->write("!"));
+  QVERIFY(!(*file)->repeat(20, 5));  // stands beyond the end
+  QCOMPARE(contentOf((*file)->path()).left(8), QByteArray("abcdbcd!"));
+}
+
+void TestFileStore::makesParents() {
+  TestServices disk;
+  const QString deep = disk.path(QStringLiteral("a/b/c"));
+  QVERIFY(disk.files.makeFolder(deep));
+  QVERIFY(disk.files.makeFolder(deep));
+  QVERIFY(disk.files.makeFolder(disk.path(QStringLiteral("d/e/"))));
+  QVERIFY(QFileInfo(deep).isDir());
+  QVERIFY(writeFile(disk.path(QStringLiteral("file")), "x"));
+  QVERIFY(!disk.files.makeFolder(disk.path(QStringLiteral("file"))));
+  QVERIFY(!disk.files.makeFolder(disk.path(QStringLiteral("file/inside"))));
+}
+
+void TestFileStore::movesOnlyToAFreePlace() {
+  TestServices disk;
+  QVERIFY(writeFile(disk.path(QStringLiteral("old/kept")), "x"));
+  QVERIFY(QDir().mkpath(disk.path(QStringLiteral("taken"))));
+  QVERIFY(!disk.files.moveFolder(disk.path(QStringLiteral("old")), disk.path(QStringLiteral("taken"))));
+  QVERIFY(disk.files.moveFolder(disk.path(QStringLiteral("old")), disk.path(QStringLiteral("new"))));
+  QCOMPARE(contentOf(disk.path(QStringLiteral("new/kept"))), QByteArray("x"));
+  QVERIFY(!disk.files.exists(disk.path(QStringLiteral("old"))));
+}
+
+void TestFileStore::followsLinksForPages() {
+  const Tree tree;
+  const QString assets = tree.root + QStringLiteral("/assets/");
+  QCOMPARE(*tree.disk.files.resolved(assets + QStringLiteral("twice")),
+           QFileInfo(assets + QStringLiteral("a.png")).canonicalFilePath());
+  QCOMPARE(*tree.disk.files.resolved(assets + QStringLiteral("new")), assets + QStringLiteral("new"));
+  QVERIFY(!tree.disk.files.resolved(assets + QStringLiteral("dangling")));
+}
+
+QTEST_APPLESS_MAIN(TestFileStore)
+#include "tst_filestore.moc"

@@ -1,0 +1,178 @@
+#include "document/Package.h"
+#include "publish/BrandPageExporter.h"
+#include "publish/PageMarkup.h"
+#include "testing/FaultyStore.h"
+#include "testing/RandomBrand.h"
+#include "testing/TestServices.h"
+
+#include <QTest>
+
+using namespace tarnloft;
+
+// The page's exact bytes are checked by the independent reading in tests/oracle.
+class TestPage : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void theFileHoldsTheSameAsTheText();
+  void dataURLsHoldTheFile_data();
+  void dataURLsHoldTheFile();
+  void anAssetThatFailsMidwayDegradesItsFragment();
+  void aFailedWriteLeavesTheOldPage();
+  void suggestsAFileName_data();
+  void suggestsAFileName();
+  void exportsThroughTheDialog();
+  void mimeTypes();
+};
+
+namespace {
+
+QString str(const char* text) { return QString::fromUtf8(text); }
+
+struct Page {
+  TestServices disk;
+  FaultyStore store;
+  std::unique_ptr<BrandDocument> document;
+  QString path = disk.path(QStringLiteral("page.html"));
+
+  Page() {
+    const DocumentServices services{store, disk.log, [this] { return disk.now; }};
+    document = *BrandDocument::create(services, disk.folder.path(), str("Acme"));
+  }
+  void addAsset(const AssetRef& asset, const QByteArray& content) {
+    writeFile(Package::assetsPath(document->packageURL()) + u'/' + asset.filename, content);
+  }
+  void setItems(const SharedList<Item>& items) {
+    document->edit([&](Brand& brand) { brand.sections.first().items = items; });
+  }
+  QStringList strays() const {
+    return QDir(disk.folder.path()).entryList({str(".*")}, QDir::Files | QDir::Hidden);
+  }
+};
+
+const AssetRef picture{QStringLiteral("a.PNG"), QStringLiteral("Mark.png")};
+
+SharedList<Item> everyUseOfAFile() {
+  Item image = Item::create(ImagePayload{picture, {}});
+  image.setUsageNotes({{QUuid(), UsageKind::note, str("seen")}});
+  return {image, Item::create(VideoPayload{picture, str("Reel")}),
+          Item::create(FontPayload{{str("Face"), {}, {}, picture, {}}}),
+          Item::create(LogoPayload{{str("Set"), {{QUuid(), picture, LogoRole::icon, {}}}}})};
+}
+
+class ScriptedDialogs : public FileDialogs {
+ public:
+  std::optional<QString> answer;
+  QString suggested;
+  std::optional<QString> savePath(const QString& name, const QString& mimeType) override {
+    suggested = name;
+    return mimeType == str("text/html") ? answer : std::nullopt;
+  }
+};
+
+class ListedViewer : public FileViewer {
+ public:
+  QStringList revealed;
+  void reveal(const QString& path) override { revealed << path; }
+};
+
+}  // namespace
+
+void TestPage::theFileHoldsTheSameAsTheText() {
+  Page page;
+  RandomBrand random(21);
+  page.addAsset(picture, QByteArray(1'000'000, 'x'));
+  page.document->setBrand(random.brand(3, 40));
+  page.setItems(everyUseOfAFile());
+  QVERIFY(BrandPageExporter::writeFile(*page.document, page.store, page.path));
+  QCOMPARE(contentOf(page.path), BrandPageExporter::html(*page.document).toUtf8());
+  QVERIFY(page.strays().isEmpty());
+}
+
+void TestPage::dataURLsHoldTheFile_data() {
+  QTest::addColumn<int>("size");
+  for (const int size : {0, 1, 2, 3, 4, 393215, 393216, 393217, 2 * 393216, 1'000'001}) {
+    QTest::addRow("%d", size) << size;
+  }
+}
+
+void TestPage::dataURLsHoldTheFile() {
+  QFETCH(int, size);
+  QByteArray content(size, Qt::Uninitialized);
+  QRandomGenerator random(1);
+  for (char& c : content) c = char(random.generate());
+  Page page;
+  page.addAsset(picture, content);
+  MemorySink sink;
+  QVERIFY(writeDataURL(picture, *page.document, sink));
+  QCOMPARE(sink.bytes(), "data:image/png;base64," + content.toBase64());
+}
+
+void TestPage::anAssetThatFailsMidwayDegradesItsFragment() {
+  Page page;
+  page.setItems(everyUseOfAFile());
+  const QString missing = BrandPageExporter::html(*page.document);
+  QVERIFY(missing.contains(str("<div class=\"asset\"><div class=\"frame\">Reel</div></div>")));
+  QVERIFY(!missing.contains(str("seen")) && !missing.contains(str("Download")));
+  page.addAsset(picture, QByteArray(1000, 'x'));
+  QVERIFY(BrandPageExporter::html(*page.document).contains(str("Download font")));
+  page.store.fault = FaultyStore::Fault::failReads;
+  QCOMPARE(BrandPageExporter::html(*page.document), missing);
+  QVERIFY(BrandPageExporter::writeFile(*page.document, page.store, page.path));
+  QCOMPARE(contentOf(page.path), missing.toUtf8());
+}
+
+void TestPage::aFailedWriteLeavesTheOldPage() {
+  Page page;
+  page.addAsset(picture, QByteArray(3'000'000, 'x'));
+  page.setItems(everyUseOfAFile());
+  page.store.steps = 0;
+  QVERIFY(BrandPageExporter::writeFile(*page.document, page.store, page.path));
+  const int steps = page.store.steps;
+  QVERIFY(writeFile(page.path, "old"));
+  for (int step = 1; step <= steps; ++step) {
+    page.store.fault = FaultyStore::Fault::failStep;
+    page.store.atStep = step;
+    page.store.steps = 0;
+    QVERIFY(!BrandPageExporter::writeFile(*page.document, page.store, page.path));
+    QCOMPARE(contentOf(page.path), QByteArray("old"));
+    QVERIFY(page.strays().isEmpty());
+  }
+}
+
+void TestPage::suggestsAFileName_data() {
+  QTest::addColumn<QString>("name");
+  QTest::addColumn<QString>("file");
+  QTest::newRow("plain") << " Acme\n" << "Acme Brand Page.html";
+  QTest::newRow("separators") << "a/b:c" << "a-b-c Brand Page.html";
+  QTest::newRow("blank") << "  " << "Untitled Brand Brand Page.html";
+}
+
+void TestPage::suggestsAFileName() {
+  QFETCH(QString, name);
+  QTEST(BrandPageExporter::suggestedFileName(name), "file");
+}
+
+void TestPage::exportsThroughTheDialog() {
+  Page page;
+  ScriptedDialogs dialogs;
+  ListedViewer viewer;
+  BrandPageExporter::exportPage(*page.document, page.store, dialogs, viewer);
+  QCOMPARE(dialogs.suggested, str("Acme Brand Page.html"));
+  QVERIFY(viewer.revealed.isEmpty());
+  dialogs.answer = page.path;
+  BrandPageExporter::exportPage(*page.document, page.store, dialogs, viewer);
+  QVERIFY(contentOf(page.path).startsWith("<!DOCTYPE html>"));
+  dialogs.answer = page.disk.path(str("no/such/folder.html"));
+  BrandPageExporter::exportPage(*page.document, page.store, dialogs, viewer);
+  QCOMPARE(viewer.revealed, QStringList({page.path, *dialogs.answer}));
+}
+
+void TestPage::mimeTypes() {
+  QCOMPARE(mimeType(str("webm")), QByteArrayView("video/webm"));
+  QCOMPARE(mimeType(str("jpeg")), QByteArrayView("image/jpeg"));
+  QCOMPARE(mimeType(str("PNG")), QByteArrayView("application/octet-stream"));
+}
+
+QTEST_GUILESS_MAIN(TestPage)
+#include "tst_page.moc"

@@ -1,0 +1,94 @@
+#include "testing/FaultyStore.h"
+
+namespace tarnloft {
+namespace {
+
+class FaultyWriter : public FileWriter {
+ public:
+  FaultyWriter(FaultyStore& store, std::unique_ptr<FileWriter> file)
+      : store_(store), file_(std::move(file)) {}
+
+  const QString& path() const override { return file_->path(); }
+  Result<void> write(QByteArrayView bytes) override {
+    if (store_.step()) return file_->write(bytes);
+    if (store_.fault == FaultyStore::Fault::failStep) {
+      (void)file_->write(bytes.first(bytes.size() / 2));
+    }
+    return tl::unexpected(fullDisk());
+  }
+  Result<void> repeat(qint64 offset, qint64 length) override {
+    return store_.step() ? file_->repeat(offset, length) : tl::unexpected(fullDisk());
+  }
+  Result<void> truncate(qint64 size) override {
+    return store_.step() ? file_->truncate(size) : tl::unexpected(fullDisk());
+  }
+  Result<void> sync() override {
+    return store_.step() ? file_->sync() : tl::unexpected(fullDisk());
+  }
+
+ private:
+  FaultyStore& store_;
+  std::unique_ptr<FileWriter> file_;
+};
+
+class FaultyReader : public FileReader {
+ public:
+  explicit FaultyReader(std::unique_ptr<FileReader> file) : file_(std::move(file)) {}
+
+  Result<qint64> read(char* buffer, qint64 capacity) override {
+    if (std::exchange(begun_, true)) return failure(ErrorKind::io, QStringLiteral("Bad sector"));
+    return file_->read(buffer, std::min<qint64>(capacity, 10));
+  }
+  qint64 size() const override { return file_->size(); }
+
+ private:
+  std::unique_ptr<FileReader> file_;
+  bool begun_ = false;
+};
+
+}  // namespace
+
+Error fullDisk() { return {ErrorKind::io, QStringLiteral("No space left on device")}; }
+
+bool FaultyStore::step() {
+  ++steps;
+  if (fault == Fault::failStep) return steps != atStep;
+  if (fault == Fault::cutBehind) return steps <= atStep;
+  return true;
+}
+
+Result<std::unique_ptr<FileReader>> FaultyStore::open(const QString& path,
+                                                      const QString& root) const {
+  auto file = PosixFileStore::open(path, root);
+  if (!file || fault != Fault::failReads) return file;
+  return std::make_unique<FaultyReader>(std::move(*file));
+}
+
+Result<void> FaultyStore::makeFolder(const QString& path) {
+  return step() ? PosixFileStore::makeFolder(path) : tl::unexpected(fullDisk());
+}
+
+Result<std::unique_ptr<FileWriter>> FaultyStore::createTemporary(const QString& target) {
+  if (!step()) return tl::unexpected(fullDisk());
+  auto file = PosixFileStore::createTemporary(target);
+  if (!file) return file;
+  return std::make_unique<FaultyWriter>(*this, std::move(*file));
+}
+
+Result<void> FaultyStore::replace(const QString& temporary, const QString& target) {
+  return step() ? PosixFileStore::replace(temporary, target) : tl::unexpected(fullDisk());
+}
+
+Result<void> FaultyStore::syncFolder(const QString& path) {
+  return step() ? PosixFileStore::syncFolder(path) : tl::unexpected(fullDisk());
+}
+
+Result<void> FaultyStore::remove(const QString& path) {
+  return step() ? PosixFileStore::remove(path) : tl::unexpected(fullDisk());
+}
+
+Result<void> FaultyStore::moveFolder(const QString& path, const QString& target) {
+  return step() ? PosixFileStore::moveFolder(path, target) : tl::unexpected(fullDisk());
+}
+
+}  // namespace tarnloft
