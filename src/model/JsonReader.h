@@ -16,11 +16,11 @@ class JsonReader {
  public:
   using Element = simdjson::dom::element;
 
+  // Every value that is read into must be fresh: what the document doesn't name stays as it is.
   template <Record R>
   bool read(Element element, R& record) {
     simdjson::dom::object object;
     if (element.get(object) != simdjson::SUCCESS) return fail("expected an object");
-    record = R{};
     FieldSet seen = 0;
     for (const auto [key, content] : object) {
       if (!readField(key, content, record, seen)) return false;
@@ -30,6 +30,8 @@ class JsonReader {
 
   template <class T>
   bool read(Element element, QList<T>& list) {
+    simdjson::dom::array array;
+    if (element.get(array) == simdjson::SUCCESS) list.reserve(qsizetype(array.size()));
     return readElements(element, list);
   }
   template <class T>
@@ -79,12 +81,18 @@ class JsonReader {
         bit <<= 1;
         return false;
       }
-      good = read(content, record.*(field.member)) || at(key);
+      if (seen & bit) renew(record.*(field.member));  // a repeated key: the last counts
       seen |= bit;
+      good = read(content, record.*(field.member)) || at(key);
       return true;
     };
     std::apply([&](const auto&... field) { (tryField(field) || ...); }, RecordFields<R>::fields);
     return good;
+  }
+
+  template <class T>
+  static void renew(T& value) {
+    value = T();
   }
 
   template <class R, class T>
@@ -115,11 +123,8 @@ class JsonReader {
   bool readElements(Element element, List& list) {
     simdjson::dom::array array;
     if (element.get(array) != simdjson::SUCCESS) return fail("expected a list");
-    list.clear();
     for (const Element entry : array) {
-      typename List::value_type content{};
-      if (!read(entry, content)) return at(list.size());
-      list.append(std::move(content));
+      if (!read(entry, list.emplaceBack())) return at(list.size() - 1);
     }
     return true;
   }

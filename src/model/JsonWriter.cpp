@@ -2,6 +2,7 @@
 
 #include "model/Uuid.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -33,56 +34,67 @@ constexpr qsizetype longestEscape = 6;
 
 }  // namespace
 
-JsonWriter::JsonWriter() : utf8_(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless) {}
+JsonWriter::JsonWriter()
+    : bytes_(4096, Qt::Uninitialized),
+      end_(bytes_.data()),
+      limit_(bytes_.constData() + bytes_.size()),
+      utf8_(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless) {}
 
-char* JsonWriter::room(qsizetype bytes) {
-  if (size_ + bytes > bytes_.size()) bytes_.resize(std::max(bytes_.size() * 2, size_ + bytes + 4096));
-  return bytes_.data() + size_;
+void JsonWriter::grow(qsizetype bytes) {
+  const qsizetype written = end_ - bytes_.constData();
+  bytes_.resize(std::max(2 * bytes_.size(), written + bytes));
+  end_ = bytes_.data() + written;
+  limit_ = bytes_.constData() + bytes_.size();
 }
 
-void JsonWriter::raw(std::string_view text) {
-  char* const out = room(qsizetype(text.size()));
-  std::memcpy(out, text.data(), text.size());
-  size_ += qsizetype(text.size());
+char* JsonWriter::lineFeed(char* out) {
+  *out++ = '\n';
+  std::memset(out, ' ', size_t(2 * depth_));
+  return out + 2 * depth_;
+}
+
+// What stands between two members or elements, and in front of the first.
+char* JsonWriter::separator(char* out) {
+  if (!first_) *out++ = ',';
+  first_ = false;
+  return lineFeed(out);
+}
+
+void JsonWriter::nextLine() { end_ = separator(room(2 * depth_ + 2)); }
+
+void JsonWriter::startMember(std::string_view key) {
+  char* out = separator(room(2 * depth_ + 7 + qsizetype(key.size())));
+  *out++ = '"';
+  out = std::copy(key.begin(), key.end(), out);
+  end_ = std::copy_n("\" : ", 4, out);
 }
 
 void JsonWriter::quotedAscii(std::string_view text) {
-  char* const out = room(qsizetype(text.size()) + 2);
-  out[0] = '"';
-  std::memcpy(out + 1, text.data(), text.size());
-  out[text.size() + 1] = '"';
-  size_ += qsizetype(text.size()) + 2;
-}
-
-void JsonWriter::lineFeed() {
-  const qsizetype blanks = 2 * depth_;
-  char* const out = room(blanks + 1);
-  out[0] = '\n';
-  std::memset(out + 1, ' ', size_t(blanks));
-  size_ += blanks + 1;
-}
-
-void JsonWriter::nextLine() {
-  if (!first_) raw(",");
-  first_ = false;
-  lineFeed();
+  char* out = room(qsizetype(text.size()) + 2);
+  *out++ = '"';
+  out = std::copy(text.begin(), text.end(), out);
+  *out++ = '"';
+  end_ = out;
 }
 
 void JsonWriter::open(char bracket) {
-  raw({&bracket, 1});
+  *room(1) = bracket;
+  ++end_;
   ++depth_;
   first_ = true;
 }
 
 void JsonWriter::close(char bracket) {
   --depth_;
-  if (first_) raw("\n");  // an empty list keeps an empty line
-  lineFeed();
-  raw({&bracket, 1});
+  char* out = room(2 * depth_ + 3);
+  if (first_) *out++ = '\n';  // an empty list keeps an empty line
+  out = lineFeed(out);
+  *out++ = bracket;
+  end_ = out;
   first_ = false;
 }
 
-char* JsonWriter::escaped(char* out, char16_t unit) const {
+char* JsonWriter::escaped(char* out, char16_t unit) {
   constexpr char digits[] = "0123456789abcdef";
   *out++ = '\\';
   if (const char letter = shortEscape(unit)) {
@@ -112,7 +124,7 @@ void JsonWriter::value(const QString& text) {
     }
   }
   *out++ = '"';
-  advanceTo(out);
+  end_ = out;
 }
 
 void JsonWriter::value(const QUuid& id) {
@@ -124,7 +136,7 @@ void JsonWriter::value(Timestamp moment) { quotedAscii(iso8601(moment)); }
 
 void JsonWriter::value(qint64 number) {
   char* const out = room(24);
-  advanceTo(std::to_chars(out, out + 24, number).ptr);
+  end_ = std::to_chars(out, out + 24, number).ptr;
 }
 
 void JsonWriter::value(double number) {
@@ -137,9 +149,8 @@ void JsonWriter::value(double number) {
   const double size = std::fabs(number);
   const bool fixed = size == 0 || (size >= 1e-4 && size < 1e16);
   char* const out = room(32);
-  advanceTo(std::to_chars(out, out + 32, number,
-                          fixed ? std::chars_format::fixed : std::chars_format::scientific)
-                .ptr);
+  const auto format = fixed ? std::chars_format::fixed : std::chars_format::scientific;
+  end_ = std::to_chars(out, out + 32, number, format).ptr;
 }
 
 void JsonWriter::value(const ItemPayload& payload) {
@@ -153,7 +164,7 @@ Result<QByteArray> JsonWriter::finish() {
     return failure(ErrorKind::unwritable,
                    QStringLiteral("a number that is not finite can't be written"));
   }
-  bytes_.resize(size_);
+  bytes_.resize(end_ - bytes_.constData());
   return std::move(bytes_);
 }
 

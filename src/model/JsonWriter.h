@@ -47,9 +47,7 @@ class JsonWriter {
  private:
   template <class T>
   void member(std::string_view key, const T& content) {
-    nextLine();
-    quotedAscii(key);
-    raw(" : ");
+    startMember(key);
     value(content);
   }
   template <class T>
@@ -69,17 +67,26 @@ class JsonWriter {
   void open(char bracket);
   void close(char bracket);
   void nextLine();
-  void lineFeed();
-  void raw(std::string_view text);
+  void startMember(std::string_view key);
   void quotedAscii(std::string_view text);
-  char* room(qsizetype bytes);
-  void advanceTo(const char* end) { size_ = end - bytes_.constData(); }
-  char* escaped(char* out, char16_t unit) const;
 
-  QByteArray bytes_;    // longer than what is written; `size_` tells how much is
-  qsizetype size_ = 0;
+  // Each writes at `out` and gives the place behind it.
+  char* lineFeed(char* out);
+  char* separator(char* out);
+  static char* escaped(char* out, char16_t unit);
+
+  // At least so many bytes to write into; what is written is told by setting `end_`.
+  char* room(qsizetype bytes) {
+    if (limit_ - end_ < bytes) grow(bytes);
+    return end_;
+  }
+  void grow(qsizetype bytes);
+
+  QByteArray bytes_;
+  char* end_ = nullptr;          // behind what is written
+  const char* limit_ = nullptr;  // behind the buffer
   int depth_ = 0;
-  bool first_ = true;   // no member or element yet at the present depth
+  bool first_ = true;  // no member or element yet at the present depth
   bool finite_ = true;
   QStringEncoder utf8_;
 };

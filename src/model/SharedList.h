@@ -71,10 +71,14 @@ class SharedList {
     return runs_[place.run][place.index];
   }
 
-  void append(T value) {
-    if (runs_.isEmpty() || runs_.constLast().size() >= runLength) runs_.append(QList<T>());
-    runs_.last().append(std::move(value));
+  void append(T value) { emplaceBack(std::move(value)); }
+
+  // Makes an element at the end, where it will stay until the list changes.
+  template <class... Arguments>
+  T& emplaceBack(Arguments&&... arguments) {
+    if (runs_.isEmpty() || runs_.constLast().size() >= runLength) startRun();
     ++size_;
+    return runs_.last().emplaceBack(std::forward<Arguments>(arguments)...);
   }
 
   // `position` may be size(), which appends.
@@ -116,6 +120,11 @@ class SharedList {
     qsizetype run = 0;
     while (position >= runs_.at(run).size()) position -= runs_.at(run++).size();
     return {run, position};
+  }
+
+  void startRun() {
+    runs_.append(QList<T>());
+    if (runs_.size() > 1) runs_.last().reserve(runLength);  // a long list will fill it
   }
 
   void split(qsizetype run) {

@@ -1,0 +1,3 @@
+#include <QString>
+
+int main(int argc, char**) { return QString::number(argc).isEmpty(); }
