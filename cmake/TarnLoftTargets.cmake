@@ -29,6 +29,10 @@ if(TARNLOFT_SANITIZERS)
   add_link_options(-fsanitize=${TARNLOFT_SANITIZERS})
 endif()
 
+if(TARNLOFT_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)  # coverage, which steers the fuzzers
+endif()
+
 # One library per source folder. LINKS names the folders below it (and only those) that it may use;
 # PRIVATE_LINKS the libraries that its sources use and its headers don't show. A folder that holds no
 # C++ yet is an interface target, so that its place among the layers is told from the start.
