@@ -50,9 +50,7 @@ ItemPayload deep(const ItemPayload& payload);
 template <Record R>
 R deep(const R& record) {
   R copy{};
-  forEachField<R>([&](const auto& field) {
-    copy.*(field.member) = deep(record.*(field.member));
-  });
+  forEachField<R>([&](const auto& field) { copy.*(field.member) = deep(record.*(field.member)); });
   return copy;
 }
 template <class T>
@@ -117,7 +115,8 @@ class Collector : public benchmark::ConsoleReporter {
   void ReportRuns(const std::vector<Run>& runs) override {
     ConsoleReporter::ReportRuns(runs);
     for (const Run& run : runs) {
-      if (run.aggregate_name == "median") medians[run.run_name.function_name] = run.GetAdjustedCPUTime();
+      if (run.aggregate_name == "median")
+        medians[run.run_name.function_name] = run.GetAdjustedCPUTime();
     }
   }
   double ratio(const char* a, const char* b) const { return medians.at(a) / medians.at(b); }
@@ -158,8 +157,10 @@ int main(int argc, char** argv) {
   std::printf("\n");
   printRatio("decode / the bare parse of the same bytes",
              results.ratio("decode", "decode: bare parse"), Aim::atMost, 6);
-  printRatio("Qt's reader / decode", results.ratio("decode: Qt's reader", "decode"), Aim::atLeast, 3);
-  printRatio("Qt's writer / encode", results.ratio("encode: Qt's writer", "encode"), Aim::atLeast, 5);
+  printRatio("Qt's reader / decode", results.ratio("decode: Qt's reader", "decode"), Aim::atLeast,
+             3);
+  printRatio("Qt's writer / encode", results.ratio("encode: Qt's writer", "encode"), Aim::atLeast,
+             5);
   printRatio("deep copy / copy and one change, 20 sections of 500",
              results.ratio("copy deeply, 20 sections", "copy, 20 sections"), Aim::atLeast, 50);
   printRatio("deep copy / copy and one change, one section of 10,000",

@@ -38,8 +38,7 @@ std::unique_ptr<BrandDocument> BrandDocument::load(const DocumentServices& servi
                                                    const QString& packageURL) {
   auto brand = Package::readManifest(services.files, packageURL).and_then(decode<Brand>);
   if (!brand) return nullptr;
-  return std::unique_ptr<BrandDocument>(
-      new BrandDocument(services, packageURL, *std::move(brand)));
+  return std::unique_ptr<BrandDocument>(new BrandDocument(services, packageURL, *std::move(brand)));
 }
 
 void BrandDocument::setBrand(Brand brand) {

@@ -38,8 +38,7 @@ QList<LogoVariant> variantsOf(const QList<AssetRef>& images) {
 }
 
 Item logoItem(const QString& brandName, const QList<AssetRef>& images) {
-  Item item = Item::create(
-      LogoPayload{{brandName + QStringLiteral(" Logo"), variantsOf(images)}});
+  Item item = Item::create(LogoPayload{{brandName + QStringLiteral(" Logo"), variantsOf(images)}});
   item.setUsageNotes(
       {note(UsageKind::doRule, QStringLiteral("Keep clear space equal to the icon height.")),
        note(UsageKind::dontRule, QStringLiteral("Don't recolor or stretch the mark.")),
@@ -63,8 +62,7 @@ void seedColor(Item& item, qsizetype number) {
   static const std::array spots{QStringLiteral("PMS 130 C"), QStringLiteral("PMS 476 C"),
                                 QStringLiteral("PMS 021 C")};
   std::get<ColorPayload>(item.payload).value.spot = spots[size_t(number) % spots.size()];
-  item.setUsageNotes(
-      {note(UsageKind::doRule, QStringLiteral("Use for primary brand moments."))});
+  item.setUsageNotes({note(UsageKind::doRule, QStringLiteral("Use for primary brand moments."))});
 }
 
 void seedColors(Brand& brand) {

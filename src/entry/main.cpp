@@ -1,4 +1,5 @@
 #include "entry/Main.h"
+
 #include "platform/desktop/PosixFileStore.h"
 #include "platform/desktop/Syslog.h"
 

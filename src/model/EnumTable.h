@@ -18,7 +18,9 @@ template <class E>
 struct EnumTable;
 
 template <class E>
-concept TabledEnum = requires { EnumTable<E>::cases; };
+concept TabledEnum = requires {
+  EnumTable<E>::cases;
+};
 
 template <TabledEnum E>
 constexpr std::string_view rawValue(E value) {

@@ -10,9 +10,9 @@ namespace tarnloft {
 
 QString GradientValue::cssString() const {
   QList<GradientStop> sorted = stops;
-  std::stable_sort(
-      sorted.begin(), sorted.end(),
-      [](const GradientStop& a, const GradientStop& b) { return a.location < b.location; });
+  std::stable_sort(sorted.begin(), sorted.end(), [](const GradientStop& a, const GradientStop& b) {
+    return a.location < b.location;
+  });
   QStringList parts;
   for (const GradientStop& stop : std::as_const(sorted)) {
     parts << QStringLiteral("%1 %2%").arg(stop.hex.toUpper(),

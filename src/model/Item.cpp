@@ -99,16 +99,16 @@ std::optional<AssetRef> Item::exportableAsset() const {
 }
 
 QStringList Item::searchTokens() const {
-  const QStringList further = std::visit(
-      Overloaded{
-          [](const ColorPayload& color) { return furtherTokens(color.value); },
-          [](const GradientPayload& gradient) { return furtherTokens(gradient.value); },
-          [](const FontPayload& font) { return furtherTokens(font.value); },
-          [](const CodePayload& code) { return QStringList{code.value.language}; },
-          [](const LogoPayload& logo) { return furtherTokens(logo.value); },
-          [](const auto&) { return QStringList(); },
-      },
-      payload);
+  const QStringList further =
+      std::visit(Overloaded{
+                     [](const ColorPayload& color) { return furtherTokens(color.value); },
+                     [](const GradientPayload& gradient) { return furtherTokens(gradient.value); },
+                     [](const FontPayload& font) { return furtherTokens(font.value); },
+                     [](const CodePayload& code) { return QStringList{code.value.language}; },
+                     [](const LogoPayload& logo) { return furtherTokens(logo.value); },
+                     [](const auto&) { return QStringList(); },
+                 },
+                 payload);
   return QStringList{displayName(), typeLabel()} + further;
 }
 

@@ -23,7 +23,7 @@ Result<QByteArray> encode(const R& record) {
   return writer.finish();
 }
 
-#define TARNLOFT_CODED(Type)                           \
+#define TARNLOFT_CODED(Type)                             \
   template Result<Type> decode<Type>(const QByteArray&); \
   template Result<QByteArray> encode<Type>(const Type&);
 

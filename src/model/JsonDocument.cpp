@@ -24,8 +24,8 @@ bool exceeds64Bits(QByteArrayView integer) {
   return integer.size() > largest.size() || (integer.size() == largest.size() && integer > largest);
 }
 
-// The parser refuses integers beyond 64 bits, which are good JSON. With ".0" behind it such a number
-// is read as the double that it stands for.
+// The parser refuses integers beyond 64 bits, which are good JSON. With ".0" behind it such a
+// number is read as the double that it stands for.
 QByteArray withLongIntegersAsDoubles(const QByteArray& json) {
   QByteArray result;
   result.reserve(json.size() + json.size() / 8 + jsonPadding);
@@ -38,11 +38,11 @@ QByteArray withLongIntegersAsDoubles(const QByteArray& json) {
     if (!inString && (isDigit(c) || c == '-')) {
       while (i < json.size() && continuesNumber(json.at(i))) ++i;
     }
-    const QByteArrayView token = QByteArrayView(json).sliced(start, std::min(i, json.size()) - start);
+    const QByteArrayView token =
+        QByteArrayView(json).sliced(start, std::min(i, json.size()) - start);
     result += token;
-    const bool integer = std::none_of(token.begin(), token.end(), [](char d) {
-      return !isDigit(d) && d != '-';
-    });
+    const bool integer =
+        std::none_of(token.begin(), token.end(), [](char d) { return !isDigit(d) && d != '-'; });
     if (!inString && integer && exceeds64Bits(token)) result += ".0";
   }
   return result;
@@ -76,9 +76,8 @@ Result<simdjson::dom::element> parseJson(const QByteArray& json) {
     problem = parse(withLongIntegersAsDoubles(json), root);
   }
   if (problem == simdjson::SUCCESS) return root;
-  return failure(ErrorKind::malformed,
-                 QStringLiteral("document: ") +
-                     QString::fromLatin1(simdjson::error_message(problem)));
+  return failure(ErrorKind::malformed, QStringLiteral("document: ") +
+                                           QString::fromLatin1(simdjson::error_message(problem)));
 }
 
 }  // namespace tarnloft

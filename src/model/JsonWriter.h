@@ -10,7 +10,8 @@
 namespace tarnloft {
 
 // Writes records in the exact layout of the files on disk: two-space indent, `"key" : value`, keys
-// in the order of their table, `\/`, UTF-8, no line feed at the end. One writer writes one document.
+// in the order of their table, `\/`, UTF-8, no line feed at the end. One writer writes one
+// document.
 class JsonWriter {
  public:
   JsonWriter();

@@ -22,7 +22,9 @@ template <class R>
 struct RecordFields;
 
 template <class R>
-concept Record = requires { RecordFields<R>::fields; };
+concept Record = requires {
+  RecordFields<R>::fields;
+};
 
 // Calls `visit(field)` for each field of the record type.
 template <Record R, class Visit>
@@ -152,17 +154,17 @@ struct RecordFields<Item> {
 
 template <>
 struct RecordFields<Emblem> {
-  static constexpr std::tuple fields{
-      Field{"asset", &Emblem::asset}, Field{"colorHex", &Emblem::colorHex},
-      Field{"emoji", &Emblem::emoji}, Field{"kind", &Emblem::kind},
-      Field{"symbolName", &Emblem::symbolName}};
+  static constexpr std::tuple fields{Field{"asset", &Emblem::asset},
+                                     Field{"colorHex", &Emblem::colorHex},
+                                     Field{"emoji", &Emblem::emoji}, Field{"kind", &Emblem::kind},
+                                     Field{"symbolName", &Emblem::symbolName}};
 };
 
 template <>
 struct RecordFields<Section> {
-  static constexpr std::tuple fields{
-      Field{"emblem", &Section::emblem}, Field{"id", &Section::id},
-      Field{"items", &Section::items}, Field{"name", &Section::name}};
+  static constexpr std::tuple fields{Field{"emblem", &Section::emblem}, Field{"id", &Section::id},
+                                     Field{"items", &Section::items},
+                                     Field{"name", &Section::name}};
 };
 
 template <>

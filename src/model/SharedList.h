@@ -103,9 +103,9 @@ class SharedList {
   // Runs that are shared compare at once; how elements fall into runs plays no part.
   friend bool operator==(const SharedList& a, const SharedList& b) {
     if (a.size_ != b.size_) return false;
-    const bool sameRuns = std::equal(
-        a.runs_.begin(), a.runs_.end(), b.runs_.begin(), b.runs_.end(),
-        [](const QList<T>& x, const QList<T>& y) { return x.size() == y.size(); });
+    const bool sameRuns =
+        std::equal(a.runs_.begin(), a.runs_.end(), b.runs_.begin(), b.runs_.end(),
+                   [](const QList<T>& x, const QList<T>& y) { return x.size() == y.size(); });
     return sameRuns ? a.runs_ == b.runs_ : std::equal(a.begin(), a.end(), b.begin());
   }
 

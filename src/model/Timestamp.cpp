@@ -50,10 +50,10 @@ std::string iso8601(Timestamp moment) {
   const year_month_day date{midnight};
   const hh_mm_ss time{floor<seconds>(moment - midnight)};
   std::array<char, 40> text;
-  const int length = std::snprintf(
-      text.data(), text.size(), "%04d-%02u-%02uT%02d:%02d:%02dZ", int(date.year()),
-      unsigned(date.month()), unsigned(date.day()), int(time.hours().count()),
-      int(time.minutes().count()), int(time.seconds().count()));
+  const int length =
+      std::snprintf(text.data(), text.size(), "%04d-%02u-%02uT%02d:%02d:%02dZ", int(date.year()),
+                    unsigned(date.month()), unsigned(date.day()), int(time.hours().count()),
+                    int(time.minutes().count()), int(time.seconds().count()));
   return std::string(text.data(), size_t(length));
 }
 

@@ -127,8 +127,8 @@ QString BrandPageExporter::suggestedFileName(const QString& brandName) {
 
 void BrandPageExporter::exportPage(const BrandDocument& document, FileStore& files,
                                    FileDialogs& dialogs, FileViewer& viewer) {
-  const auto path = dialogs.savePath(suggestedFileName(document.brand().name),
-                                     QStringLiteral("text/html"));
+  const auto path =
+      dialogs.savePath(suggestedFileName(document.brand().name), QStringLiteral("text/html"));
   if (!path) return;
   (void)writeFile(document, files, *path);  // a failed write is dropped
   viewer.reveal(*path);

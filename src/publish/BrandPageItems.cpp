@@ -31,8 +31,9 @@ void mediaHTML(Media media, const AssetRef& asset, const std::optional<QString>&
   const QByteArray label = escaped(name.value_or(asset.originalName));
   const bool image = media == Media::image;
   const QByteArray element = image ? "<img alt=\"" + label + "\" src=\"" : "<video controls src=\"";
-  const auto url = writeDataURLBehind(
-      "      <div class=\"asset\">\n        <div class=\"frame\">" + element, asset, document, sink);
+  const auto url =
+      writeDataURLBehind("      <div class=\"asset\">\n        <div class=\"frame\">" + element,
+                         asset, document, sink);
   if (!url) {
     sink << "      <div class=\"asset\"><div class=\"frame\">" << label << "</div></div>";
     return;
@@ -88,8 +89,7 @@ QByteArray spotBlock(const std::optional<QString>& spot) {
 }  // namespace
 
 void sectionHTML(const Section& section, const BrandDocument& document, PageSink& sink) {
-  const QString label =
-      section.name.isEmpty() ? QStringLiteral("Untitled Section") : section.name;
+  const QString label = section.name.isEmpty() ? QStringLiteral("Untitled Section") : section.name;
   sink << "  <section class=\"band\">\n    <h2>" << escaped(label) << "</h2>\n"
        << "    <div class=\"grid\">\n";
   QByteArrayView separator;
@@ -103,30 +103,29 @@ void sectionHTML(const Section& section, const BrandDocument& document, PageSink
 
 void itemHTML(const Item& item, const BrandDocument& document, PageSink& sink) {
   const QList<UsageNote> notes = item.usageNotes();
-  std::visit(
-      Overloaded{
-          [&](const HeaderPayload& header) {
-            sink << "      <div class=\"full heading\">" << escaped(header.text) << "</div>";
-          },
-          [&](const TextPayload& text) {
-            sink << "      <div class=\"full textblock\">" << escaped(text.body) << "</div>";
-          },
-          [&](const ColorPayload& color) { colorHTML(color.value, notes, sink); },
-          [&](const GradientPayload& gradient) { gradientHTML(gradient.value, sink); },
-          [&](const ImagePayload& image) {
-            mediaHTML(Media::image, image.asset, image.name, notes, document, sink);
-          },
-          [&](const VideoPayload& video) {
-            mediaHTML(Media::video, video.asset, video.name, notes, document, sink);
-          },
-          [&](const FontPayload& font) { fontHTML(font.value, document, sink); },
-          [&](const CodePayload& code) {
-            sink << "      <div class=\"full\"><pre class=\"code\">" << escaped(code.value.snippet)
-                 << "</pre></div>";
-          },
-          [&](const LogoPayload& logo) { logoHTML(logo.value, document, notes, sink); },
-      },
-      item.payload);
+  std::visit(Overloaded{
+                 [&](const HeaderPayload& header) {
+                   sink << "      <div class=\"full heading\">" << escaped(header.text) << "</div>";
+                 },
+                 [&](const TextPayload& text) {
+                   sink << "      <div class=\"full textblock\">" << escaped(text.body) << "</div>";
+                 },
+                 [&](const ColorPayload& color) { colorHTML(color.value, notes, sink); },
+                 [&](const GradientPayload& gradient) { gradientHTML(gradient.value, sink); },
+                 [&](const ImagePayload& image) {
+                   mediaHTML(Media::image, image.asset, image.name, notes, document, sink);
+                 },
+                 [&](const VideoPayload& video) {
+                   mediaHTML(Media::video, video.asset, video.name, notes, document, sink);
+                 },
+                 [&](const FontPayload& font) { fontHTML(font.value, document, sink); },
+                 [&](const CodePayload& code) {
+                   sink << "      <div class=\"full\"><pre class=\"code\">"
+                        << escaped(code.value.snippet) << "</pre></div>";
+                 },
+                 [&](const LogoPayload& logo) { logoHTML(logo.value, document, notes, sink); },
+             },
+             item.payload);
 }
 
 void colorHTML(const ColorValue& color, const QList<UsageNote>& notes, PageSink& sink) {
@@ -152,8 +151,8 @@ void gradientHTML(const GradientValue& gradient, PageSink& sink) {
   const QString css = gradient.cssString();
   sink << "      <div class=\"swatch\" title=\"" << label << "\">\n"
        << "        <div class=\"chip\" style=\"background: " << css.toUtf8() << "\"></div>\n"
-       << "        <div class=\"meta\"><div class=\"name\">" << label
-       << "</div><div class=\"val\">" << escaped(css) << "</div></div>\n"
+       << "        <div class=\"meta\"><div class=\"name\">" << label << "</div><div class=\"val\">"
+       << escaped(css) << "</div></div>\n"
        << "      </div>";
 }
 

@@ -98,8 +98,7 @@ enum class Appearance { light, dark };
 // The accent in force: the brand's own, in which case a missing dark one means its light one; else
 // the application's default.
 QString effectiveAccent(const std::optional<QString>& brandAccent,
-                        const std::optional<QString>& brandAccentDark,
-                        const QString& defaultAccent,
+                        const std::optional<QString>& brandAccentDark, const QString& defaultAccent,
                         const std::optional<QString>& defaultAccentDark, Appearance appearance);
 
 }  // namespace ColorUtil

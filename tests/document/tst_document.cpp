@@ -70,10 +70,18 @@ void TestDocument::findsAFreePackageName_data() {
   QTest::addColumn<QString>("name");
   QTest::addColumn<QString>("first");
   QTest::addColumn<QString>("third");
-  QTest::newRow("plain") << "Acme" << "Acme.tarnloft" << "Acme 3.tarnloft";
-  QTest::newRow("cleaned") << "\tA/B:C\n" << "A-B-C.tarnloft" << "A-B-C 3.tarnloft";
-  QTest::newRow("blank") << " \u00a0\n" << "Untitled Brand.tarnloft" << "Untitled Brand 3.tarnloft";
-  QTest::newRow("dots") << ".." << "...tarnloft" << ".. 3.tarnloft";
+  QTest::newRow("plain") << "Acme"
+                         << "Acme.tarnloft"
+                         << "Acme 3.tarnloft";
+  QTest::newRow("cleaned") << "\tA/B:C\n"
+                           << "A-B-C.tarnloft"
+                           << "A-B-C 3.tarnloft";
+  QTest::newRow("blank") << " \u00a0\n"
+                         << "Untitled Brand.tarnloft"
+                         << "Untitled Brand 3.tarnloft";
+  QTest::newRow("dots") << ".."
+                        << "...tarnloft"
+                        << ".. 3.tarnloft";
 }
 
 void TestDocument::findsAFreePackageName() {
@@ -92,8 +100,8 @@ void TestDocument::findsAFreePackageName() {
 void TestDocument::createFailsWhereNoFolderCanBeMade() {
   TestServices disk;
   QVERIFY(writeFile(disk.path(QStringLiteral("file")), "x"));
-  const auto document =
-      BrandDocument::create(disk.services(), disk.path(QStringLiteral("file")), QStringLiteral("A"));
+  const auto document = BrandDocument::create(disk.services(), disk.path(QStringLiteral("file")),
+                                              QStringLiteral("A"));
   QVERIFY(!document);
   QVERIFY(!document.error().message.isEmpty());
 }
@@ -172,7 +180,8 @@ void TestDocument::loadsNothingFromABadPackage() {
   }
   QVERIFY(!BrandDocument::load(disk.services(), package));
   QVERIFY(!BrandDocument::load(disk.services(), disk.path(QStringLiteral("missing"))));
-  QCOMPARE(QDir(package).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(), 1);
+  QCOMPARE(QDir(package).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(),
+           1);
   QVERIFY(disk.log.lines.isEmpty());
 }
 

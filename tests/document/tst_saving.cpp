@@ -46,7 +46,8 @@ struct Saving {
   }
   QByteArray after() const { return *encode(document->brand()); }
   QStringList strays() const {
-    return QDir(document->packageURL()).entryList({QStringLiteral(".*")}, QDir::Files | QDir::Hidden);
+    return QDir(document->packageURL())
+        .entryList({QStringLiteral(".*")}, QDir::Files | QDir::Hidden);
   }
 };
 
@@ -68,7 +69,8 @@ void TestSaving::aCutLeavesTheOldFileOrTheNewOne() {
     QCOMPARE(contentOf(saving.manifest), replacedByThen ? saving.after() : saving.before);
     QVERIFY(BrandDocument::load(saving.disk.services(), saving.document->packageURL()));
     QVERIFY(saving.strays().size() <= 1);
-    for (const QString& stray : saving.strays()) QVERIFY(stray.startsWith(QStringLiteral(".tarnloft-")));
+    for (const QString& stray : saving.strays())
+      QVERIFY(stray.startsWith(QStringLiteral(".tarnloft-")));
   }
 }
 

@@ -28,7 +28,8 @@ void TestEntry::dispatches_data() {
   row("t --export-page a b --selftest", SelfTestMode{});
   row("t x --export-page a b c", PageExportMode{QStringLiteral("a"), QStringLiteral("b")});
   row("t --export-page a", ApplicationMode{});
-  row("t --export-page a --seed-logo", PageExportMode{QStringLiteral("a"), QStringLiteral("--seed-logo")});
+  row("t --export-page a --seed-logo",
+      PageExportMode{QStringLiteral("a"), QStringLiteral("--seed-logo")});
   row("t --seed-logo p --export-page a", LogoSeedingMode{QStringLiteral("p")});
   row("t --seed-logo p --seed-logo q", LogoSeedingMode{QStringLiteral("p")});
   row("t a --seed-logo", ApplicationMode{});
@@ -48,8 +49,8 @@ void TestEntry::movesTheOldSupportFolderOnce() {
     QCOMPARE(contentOf(disk.path(QStringLiteral("Tarn Loft/Brands/x"))), QByteArray("kept"));
     QVERIFY(!disk.files.exists(disk.path(QStringLiteral("Fenwright"))));
   }
-  QCOMPARE(disk.log.lines, QStringList(QStringLiteral(
-                               "migrated support folder from “Fenwright” to “Tarn Loft”")));
+  QCOMPARE(disk.log.lines,
+           QStringList(QStringLiteral("migrated support folder from “Fenwright” to “Tarn Loft”")));
 }
 
 void TestEntry::leavesFoldersAlone() {

@@ -73,9 +73,12 @@ void TestProgram::takesOverTheOldSupportFolderInEveryMode() {
 
 void TestProgram::failsWithoutAWord_data() {
   QTest::addColumn<QStringList>("arguments");
-  QTest::newRow("no package") << QStringList{QStringLiteral("--export-page"), QStringLiteral("x"), QStringLiteral("page.html")};
-  QTest::newRow("a name with a line break") << QStringList{QStringLiteral("--seed-logo"), QStringLiteral("a\nb")};
-  QTest::newRow("the root") << QStringList{QStringLiteral("--export-page"), QStringLiteral("/"), QStringLiteral("/")};
+  QTest::newRow("no package") << QStringList{QStringLiteral("--export-page"), QStringLiteral("x"),
+                                             QStringLiteral("page.html")};
+  QTest::newRow("a name with a line break")
+      << QStringList{QStringLiteral("--seed-logo"), QStringLiteral("a\nb")};
+  QTest::newRow("the root") << QStringList{QStringLiteral("--export-page"), QStringLiteral("/"),
+                                           QStringLiteral("/")};
 }
 
 void TestProgram::failsWithoutAWord() {

@@ -131,11 +131,17 @@ void TestJson::otherReadersAgree() {
 void TestJson::numbersSurviveInShortestForm_data() {
   QTest::addColumn<QByteArray>("given");
   QTest::addColumn<QByteArray>("written");
-  const QList<QList<QByteArray>> rows{
-      {"1.0", "1"},       {"100000", "100000"},     {"0.1", "0.1"},     {"1e-5", "1e-05"},
-      {"0.0001", "0.0001"}, {"1E16", "1e+16"},      {"123456789012345680", "1.2345678901234568e+17"},
-      {"-0.0", "0"},      {"-12.50", "-12.5"},      {"9007199254740993", "9007199254740992"},
-      {"100000000000000000000", "1e+20"}};
+  const QList<QList<QByteArray>> rows{{"1.0", "1"},
+                                      {"100000", "100000"},
+                                      {"0.1", "0.1"},
+                                      {"1e-5", "1e-05"},
+                                      {"0.0001", "0.0001"},
+                                      {"1E16", "1e+16"},
+                                      {"123456789012345680", "1.2345678901234568e+17"},
+                                      {"-0.0", "0"},
+                                      {"-12.50", "-12.5"},
+                                      {"9007199254740993", "9007199254740992"},
+                                      {"100000000000000000000", "1e+20"}};
   for (const auto& row : rows) QTest::newRow(row.first().constData()) << row.first() << row.last();
 }
 
@@ -168,15 +174,23 @@ void TestJson::refusesNumbersThatAreNotFinite() {
 void TestJson::takesOldAndForeignFiles_data() {
   QTest::addColumn<QByteArray>("json");
   QTest::addColumn<QByteArray>("same");
-  QTest::newRow("without optional keys") << QByteArray(R"({"hex":"#FFF"})") << QByteArray(R"({"hex":"#FFF"})");
-  QTest::newRow("null for none") << QByteArray(R"({"hex":"#FFF","name":null})") << QByteArray(R"({"hex":"#FFF"})");
-  QTest::newRow("unknown keys") << QByteArray(R"({"x":[{}],"hex":"#FFF","y":123456789012345678901234567890})")
-                                << QByteArray(R"({"hex":"#FFF"})");
-  QTest::newRow("the last of a repeated key") << QByteArray(R"({"hex":"#000","hex":"#FFF"})") << QByteArray(R"({"hex":"#FFF"})");
-  QTest::newRow("a slash in both forms") << QByteArray(R"({"hex":"a\/b"})") << QByteArray(R"({"hex":"a/b"})");
-  QTest::newRow("U+FEFF in front of a text") << QByteArray("{\"hex\":\"\xEF\xBB\xBF\xEF\xBB\xBFx\"}") << QByteArray(R"({"hex":"\ufeff\ufeffx"})");
-  QTest::newRow("digits in a string") << QByteArray(R"({"hex":"\" 12345678901234567890123","y":123456789012345678901234567890})")
-                                      << QByteArray(R"({"hex":"\" 12345678901234567890123"})");
+  QTest::newRow("without optional keys")
+      << QByteArray(R"({"hex":"#FFF"})") << QByteArray(R"({"hex":"#FFF"})");
+  QTest::newRow("null for none") << QByteArray(R"({"hex":"#FFF","name":null})")
+                                 << QByteArray(R"({"hex":"#FFF"})");
+  QTest::newRow("unknown keys")
+      << QByteArray(R"({"x":[{}],"hex":"#FFF","y":123456789012345678901234567890})")
+      << QByteArray(R"({"hex":"#FFF"})");
+  QTest::newRow("the last of a repeated key")
+      << QByteArray(R"({"hex":"#000","hex":"#FFF"})") << QByteArray(R"({"hex":"#FFF"})");
+  QTest::newRow("a slash in both forms")
+      << QByteArray(R"({"hex":"a\/b"})") << QByteArray(R"({"hex":"a/b"})");
+  QTest::newRow("U+FEFF in front of a text")
+      << QByteArray("{\"hex\":\"\xEF\xBB\xBF\xEF\xBB\xBFx\"}")
+      << QByteArray(R"({"hex":"\ufeff\ufeffx"})");
+  QTest::newRow("digits in a string")
+      << QByteArray(R"({"hex":"\" 12345678901234567890123","y":123456789012345678901234567890})")
+      << QByteArray(R"({"hex":"\" 12345678901234567890123"})");
 }
 
 void TestJson::takesOldAndForeignFiles() {
@@ -198,21 +212,34 @@ void TestJson::refusesAndNamesThePlace_data() {
   row("empty", "", "document: ");
   row("mark", "\xEF\xBB\xBF" + itemWith("{}"), "document: begins with a byte-order mark");
   row("list", "[]", "document: expected an object");
-  row("missing", itemWith(R"({"color":{"value":{"name":"x"}}})"), "payload.color.value.hex: missing");
-  row("null for required", itemWith(R"({"text":{"body":null}})"), "payload.text.body: expected a string");
-  row("wrong type", itemWith(R"({"header":{"text":"x","level":"1"}})"), "payload.header.level: expected an integer");
-  row("fraction", itemWith(R"({"header":{"text":"x","level":1.5}})"), "payload.header.level: expected an integer");
-  row("too large", itemWith(R"({"header":{"text":"x","level":9223372036854775808}})"), "payload.header.level: expected an integer");
-  row("no known key", itemWith(R"({"sound":{}})"), "payload: Invalid number of keys found, expected one.");
-  row("two known keys", itemWith(R"({"text":{"body":""},"code":null})"), "payload: Invalid number of keys found, expected one.");
-  row("unknown role", itemWith(R"({"logo":{"value":{"name":"","variants":[{"id":"8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E21","asset":{"filename":"","originalName":""},"role":"hero"}]}}})"),
+  row("missing", itemWith(R"({"color":{"value":{"name":"x"}}})"),
+      "payload.color.value.hex: missing");
+  row("null for required", itemWith(R"({"text":{"body":null}})"),
+      "payload.text.body: expected a string");
+  row("wrong type", itemWith(R"({"header":{"text":"x","level":"1"}})"),
+      "payload.header.level: expected an integer");
+  row("fraction", itemWith(R"({"header":{"text":"x","level":1.5}})"),
+      "payload.header.level: expected an integer");
+  row("too large", itemWith(R"({"header":{"text":"x","level":9223372036854775808}})"),
+      "payload.header.level: expected an integer");
+  row("no known key", itemWith(R"({"sound":{}})"),
+      "payload: Invalid number of keys found, expected one.");
+  row("two known keys", itemWith(R"({"text":{"body":""},"code":null})"),
+      "payload: Invalid number of keys found, expected one.");
+  row("unknown role",
+      itemWith(
+          R"({"logo":{"value":{"name":"","variants":[{"id":"8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E21","asset":{"filename":"","originalName":""},"role":"hero"}]}}})"),
       "payload.logo.value.variants[0].role: unknown value");
-  row("bad id", R"({"id":"8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E2","payload":{"text":{"body":""}}})", "id: expected a UUID");
-  row("id in braces", R"({"id":"{8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E21}","payload":{"text":{"body":""}}})", "id: expected a UUID");
+  row("bad id", R"({"id":"8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E2","payload":{"text":{"body":""}}})",
+      "id: expected a UUID");
+  row("id in braces",
+      R"({"id":"{8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E21}","payload":{"text":{"body":""}}})",
+      "id: expected a UUID");
   row("truncated", itemWith("{}").chopped(1), "document: ");
   row("bad UTF-8", itemWith("{\"text\":{\"body\":\"\xC3\"}}"), "document: ");
   row("lone surrogate", itemWith(R"({"text":{"body":"\ud800"}})"), "document: ");
-  row("long number", itemWith("{\"text\":" + QByteArray(100, '9') + "}"), "payload.text: expected an object");
+  row("long number", itemWith("{\"text\":" + QByteArray(100, '9') + "}"),
+      "payload.text: expected an object");
   row("number beyond all", itemWith("{\"text\":" + QByteArray(400, '9') + "}"), "document: ");
   row("deep", QByteArray(100000, '['), "document: ");
   row("deep objects", QByteArray("{\"a\":").repeated(5000), "document: ");
@@ -230,8 +257,10 @@ void TestJson::readsDates_data() {
   QTest::addColumn<QByteArray>("text");
   QTest::addColumn<QByteArray>("same");
   QTest::newRow("UTC") << QByteArray("2026-03-01T09:30:00Z") << QByteArray("2026-03-01T09:30:00Z");
-  QTest::newRow("leap day") << QByteArray("2024-02-29T23:59:59Z") << QByteArray("2024-02-29T23:59:59Z");
-  QTest::newRow("offset") << QByteArray("2026-03-01T00:30:00+01:30") << QByteArray("2026-02-28T23:00:00Z");
+  QTest::newRow("leap day") << QByteArray("2024-02-29T23:59:59Z")
+                            << QByteArray("2024-02-29T23:59:59Z");
+  QTest::newRow("offset") << QByteArray("2026-03-01T00:30:00+01:30")
+                          << QByteArray("2026-02-28T23:00:00Z");
   for (const char* bad : {"2026-03-01T09:30:00.5Z", "2026-02-29T09:30:00Z", "2026-03-01 09:30:00Z",
                           "2026-03-01T24:00:00Z", "2026-03-01T09:30:60Z", "2026-03-01T09:30:00",
                           "2026-03-01", "", "2026-3-1T09:30:00Z", "2026-03-01T09:30:00+0130"}) {

@@ -44,17 +44,28 @@ void TestRecords::showsNames_data() {
   QTest::addColumn<Item>("item");
   QTest::addColumn<QString>("name");
   QTest::addColumn<QString>("type");
-  QTest::newRow("header") << Item::create(HeaderPayload{str("Basics"), 2}) << "Basics" << "Header";
-  QTest::newRow("text") << Item::create(TextPayload{str("a\nb")}) << "a\nb" << "Text";
-  QTest::newRow("colour by hex") << color("#123") << "#123" << "Color";
-  QTest::newRow("empty name is a name") << color("#123", str("")) << "" << "Color";
-  QTest::newRow("gradient") << Item::create(GradientPayload{}) << "Gradient" << "Gradient";
-  QTest::newRow("image by file") << Item::create(ImagePayload{file("a.b.png"), {}}) << "a.b" << "Image";
-  QTest::newRow("image without any") << Item::create(ImagePayload{file(""), {}}) << "Image" << "Image";
-  QTest::newRow("video") << Item::create(VideoPayload{file(""), {}}) << "Video" << "Video";
-  QTest::newRow("font") << Item::create(FontPayload{{str("Inter"), {}, {}, {}, {}}}) << "Inter" << "Type";
-  QTest::newRow("code") << Item::create(CodePayload{{str("css"), {}, {}}}) << "css" << "Code";
-  QTest::newRow("logo") << logo({}) << "Set" << "Logo";
+  QTest::newRow("header") << Item::create(HeaderPayload{str("Basics"), 2}) << "Basics"
+                          << "Header";
+  QTest::newRow("text") << Item::create(TextPayload{str("a\nb")}) << "a\nb"
+                        << "Text";
+  QTest::newRow("colour by hex") << color("#123") << "#123"
+                                 << "Color";
+  QTest::newRow("empty name is a name") << color("#123", str("")) << ""
+                                        << "Color";
+  QTest::newRow("gradient") << Item::create(GradientPayload{}) << "Gradient"
+                            << "Gradient";
+  QTest::newRow("image by file") << Item::create(ImagePayload{file("a.b.png"), {}}) << "a.b"
+                                 << "Image";
+  QTest::newRow("image without any") << Item::create(ImagePayload{file(""), {}}) << "Image"
+                                     << "Image";
+  QTest::newRow("video") << Item::create(VideoPayload{file(""), {}}) << "Video"
+                         << "Video";
+  QTest::newRow("font") << Item::create(FontPayload{{str("Inter"), {}, {}, {}, {}}}) << "Inter"
+                        << "Type";
+  QTest::newRow("code") << Item::create(CodePayload{{str("css"), {}, {}}}) << "css"
+                        << "Code";
+  QTest::newRow("logo") << logo({}) << "Set"
+                        << "Logo";
 }
 
 void TestRecords::showsNames() {
@@ -116,8 +127,8 @@ void TestRecords::ungroupsLogoSets() {
 
 void TestRecords::writesGradientsAsCss() {
   const auto stop = [](const char* hex, double at) { return GradientStop{{}, str(hex), at}; };
-  const GradientValue value{{stop("#00ff00", 0.505), stop("#ff0000", 0), stop("#0000ff", 0.505)},
-                            -0.5, {}};
+  const GradientValue value{
+      {stop("#00ff00", 0.505), stop("#ff0000", 0), stop("#0000ff", 0.505)}, -0.5, {}};
   QCOMPARE(value.cssString(), str("linear-gradient(-1deg, #FF0000 0%, #00FF00 51%, #0000FF 51%)"));
   QCOMPARE(value.stops.first().hex, str("#00ff00"));
 }
@@ -126,11 +137,21 @@ void TestRecords::splitsExtensions_data() {
   QTest::addColumn<QString>("path");
   QTest::addColumn<QString>("base");
   QTest::addColumn<QString>("extension");
-  QTest::newRow("plain") << "Mark.PNG" << "Mark" << "PNG";
-  QTest::newRow("two") << "a.tar.gz" << "a.tar" << "gz";
-  QTest::newRow("hidden") << ".png" << ".png" << "";
-  QTest::newRow("dot at the end") << "Mark." << "Mark." << "";
-  QTest::newRow("dot in a folder") << "a.b/c" << "a.b/c" << "";
+  QTest::newRow("plain") << "Mark.PNG"
+                         << "Mark"
+                         << "PNG";
+  QTest::newRow("two") << "a.tar.gz"
+                       << "a.tar"
+                       << "gz";
+  QTest::newRow("hidden") << ".png"
+                          << ".png"
+                          << "";
+  QTest::newRow("dot at the end") << "Mark."
+                                  << "Mark."
+                                  << "";
+  QTest::newRow("dot in a folder") << "a.b/c"
+                                   << "a.b/c"
+                                   << "";
 }
 
 void TestRecords::splitsExtensions() {

@@ -63,7 +63,8 @@ void TestFileStore::opensOnlyWhatStandsInside_data() {
   for (const char* good : {"a.png", "in", "twice", "absolute", "../assets/a.png"}) {
     QTest::newRow(good) << QString::fromLatin1(good) << true;
   }
-  for (const char* bad : {"out", "sibling", "dangling", "loop", "missing", "../../secret", "", "."}) {
+  for (const char* bad :
+       {"out", "sibling", "dangling", "loop", "missing", "../../secret", "", "."}) {
     QTest::newRow(bad) << QString::fromLatin1(bad) << false;
   }
   QTest::newRow("NUL") << QStringLiteral("a.png") + QChar(u'\0') << false;
@@ -93,7 +94,9 @@ void TestFileStore::refusesToReplaceWhatIsNoFile() {
     QVERIFY(!replaced(tree.disk.files, path, "x"));
     QVERIFY(!QFileInfo(path).isFile());
   }
-  QVERIFY(QDir(tree.disk.folder.path()).entryList({QStringLiteral(".tarnloft-*")}, QDir::Hidden | QDir::Files).isEmpty());
+  QVERIFY(QDir(tree.disk.folder.path())
+              .entryList({QStringLiteral(".tarnloft-*")}, QDir::Hidden | QDir::Files)
+              .isEmpty());
 }
 
 void TestFileStore::keepsTheRightsOfAReplacedFile() {
@@ -136,8 +139,10 @@ void TestFileStore::movesOnlyToAFreePlace() {
   TestServices disk;
   QVERIFY(writeFile(disk.path(QStringLiteral("old/kept")), "x"));
   QVERIFY(QDir().mkpath(disk.path(QStringLiteral("taken"))));
-  QVERIFY(!disk.files.moveFolder(disk.path(QStringLiteral("old")), disk.path(QStringLiteral("taken"))));
-  QVERIFY(disk.files.moveFolder(disk.path(QStringLiteral("old")), disk.path(QStringLiteral("new"))));
+  QVERIFY(
+      !disk.files.moveFolder(disk.path(QStringLiteral("old")), disk.path(QStringLiteral("taken"))));
+  QVERIFY(
+      disk.files.moveFolder(disk.path(QStringLiteral("old")), disk.path(QStringLiteral("new"))));
   QCOMPARE(contentOf(disk.path(QStringLiteral("new/kept"))), QByteArray("x"));
   QVERIFY(!disk.files.exists(disk.path(QStringLiteral("old"))));
 }
@@ -147,7 +152,8 @@ void TestFileStore::followsLinksForPages() {
   const QString assets = tree.root + QStringLiteral("/assets/");
   QCOMPARE(*tree.disk.files.resolved(assets + QStringLiteral("twice")),
            QFileInfo(assets + QStringLiteral("a.png")).canonicalFilePath());
-  QCOMPARE(*tree.disk.files.resolved(assets + QStringLiteral("new")), assets + QStringLiteral("new"));
+  QCOMPARE(*tree.disk.files.resolved(assets + QStringLiteral("new")),
+           assets + QStringLiteral("new"));
   QVERIFY(!tree.disk.files.resolved(assets + QStringLiteral("dangling")));
 }
 

@@ -29,12 +29,25 @@ QString str(const char* text) { return QString::fromUtf8(text); }
 void TestColorUtil::parsesAndWritesBack_data() {
   QTest::addColumn<QString>("text");
   QTest::addColumn<QString>("written");  // with alpha; empty for a text that is refused
-  const QList<QList<const char*>> rows{
-      {"#4C6FFF", "#4C6FFFFF"}, {"#FFF", "#FFFFFFFF"},  {"4c6fff80", "#4C6FFF80"},
-      {" #abc\n", "#AABBCCFF"}, {"\u2003#abc\u00a0", "#AABBCCFF"}, {"+FF", "#00FFFFFF"},
-      {"-00", "#000000FF"},     {"#+00000", "#000000FF"}, {"-01", ""},  {"", ""},  {"#", ""},
-      {"##FFF", ""},            {"#1234", ""},          {"nope", ""},   {"#12 456", ""},
-      {"+", ""},                {"0x123456", ""},       {"#FFFFFFFFF", ""}, {"１２３", ""}};
+  const QList<QList<const char*>> rows{{"#4C6FFF", "#4C6FFFFF"},
+                                       {"#FFF", "#FFFFFFFF"},
+                                       {"4c6fff80", "#4C6FFF80"},
+                                       {" #abc\n", "#AABBCCFF"},
+                                       {"\u2003#abc\u00a0", "#AABBCCFF"},
+                                       {"+FF", "#00FFFFFF"},
+                                       {"-00", "#000000FF"},
+                                       {"#+00000", "#000000FF"},
+                                       {"-01", ""},
+                                       {"", ""},
+                                       {"#", ""},
+                                       {"##FFF", ""},
+                                       {"#1234", ""},
+                                       {"nope", ""},
+                                       {"#12 456", ""},
+                                       {"+", ""},
+                                       {"0x123456", ""},
+                                       {"#FFFFFFFFF", ""},
+                                       {"１２３", ""}};
   for (const auto& row : rows) QTest::newRow(row.first()) << str(row.first()) << str(row.last());
 }
 
@@ -48,7 +61,11 @@ void TestColorUtil::parsesAndWritesBack() {
 
 void TestColorUtil::everyByteSurvives() {
   for (int value = 0; value < 256; ++value) {
-    const QString text = QStringLiteral("#%1%2%3").arg(value, 2, 16, QLatin1Char('0')).arg(255 - value, 2, 16, QLatin1Char('0')).arg(value / 2, 2, 16, QLatin1Char('0')).toUpper();
+    const QString text = QStringLiteral("#%1%2%3")
+                             .arg(value, 2, 16, QLatin1Char('0'))
+                             .arg(255 - value, 2, 16, QLatin1Char('0'))
+                             .arg(value / 2, 2, 16, QLatin1Char('0'))
+                             .toUpper();
     QCOMPARE(ColorUtil::hex(*ColorUtil::nsColor(text)), text);
   }
 }
@@ -58,13 +75,17 @@ void TestColorUtil::notations_data() {
   QTest::addColumn<QStringList>("values");
   const auto row = [](const char* hex, const char* upper, const char* lower, const char* rgb,
                       const char* hsl, const char* cmyk) {
-    QTest::newRow(hex) << str(hex) << QStringList{str(upper), str(lower), str(rgb), str(hsl), str(cmyk)};
+    QTest::newRow(hex) << str(hex)
+                       << QStringList{str(upper), str(lower), str(rgb), str(hsl), str(cmyk)};
   };
-  row("#FF0000", "#FF0000", "#ff0000", "rgb(255, 0, 0)", "hsl(0, 100%, 50%)", "cmyk(0%, 100%, 100%, 0%)");
+  row("#FF0000", "#FF0000", "#ff0000", "rgb(255, 0, 0)", "hsl(0, 100%, 50%)",
+      "cmyk(0%, 100%, 100%, 0%)");
   row("fff", "FFF", "fff", "rgb(255, 255, 255)", "hsl(0, 0%, 100%)", "cmyk(0%, 0%, 0%, 0%)");
   row("#000000", "#000000", "#000000", "rgb(0, 0, 0)", "hsl(0, 0%, 0%)", "cmyk(0%, 0%, 0%, 100%)");
-  row(" #4c6fff ", " #4C6FFF ", " #4c6fff ", "rgb(76, 111, 255)", "hsl(228, 100%, 65%)", "cmyk(70%, 56%, 0%, 0%)");
-  row("#FF0001", "#FF0001", "#ff0001", "rgb(255, 0, 1)", "hsl(360, 100%, 50%)", "cmyk(0%, 100%, 100%, 0%)");
+  row(" #4c6fff ", " #4C6FFF ", " #4c6fff ", "rgb(76, 111, 255)", "hsl(228, 100%, 65%)",
+      "cmyk(70%, 56%, 0%, 0%)");
+  row("#FF0001", "#FF0001", "#ff0001", "rgb(255, 0, 1)", "hsl(360, 100%, 50%)",
+      "cmyk(0%, 100%, 100%, 0%)");
 }
 
 void TestColorUtil::notations() {

@@ -143,9 +143,12 @@ void TestPage::aFailedWriteLeavesTheOldPage() {
 void TestPage::suggestsAFileName_data() {
   QTest::addColumn<QString>("name");
   QTest::addColumn<QString>("file");
-  QTest::newRow("plain") << " Acme\n" << "Acme Brand Page.html";
-  QTest::newRow("separators") << "a/b:c" << "a-b-c Brand Page.html";
-  QTest::newRow("blank") << "  " << "Untitled Brand Brand Page.html";
+  QTest::newRow("plain") << " Acme\n"
+                         << "Acme Brand Page.html";
+  QTest::newRow("separators") << "a/b:c"
+                              << "a-b-c Brand Page.html";
+  QTest::newRow("blank") << "  "
+                         << "Untitled Brand Brand Page.html";
 }
 
 void TestPage::suggestsAFileName() {

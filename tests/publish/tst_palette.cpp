@@ -34,8 +34,10 @@ void TestPalette::writesEachFormat_data() {
   QTest::addColumn<QString>("full");
   QTest::addColumn<QString>("empty");
   QTest::newRow("css") << Format::cssVariables
-                       << ":root {\n  --brand-blue: #123456;\n  --abcdef: #ABCDEF;\n}" << ":root {\n\n}";
-  QTest::newRow("scss") << Format::scss << "$brand-blue: #123456;\n$abcdef: #ABCDEF;" << "";
+                       << ":root {\n  --brand-blue: #123456;\n  --abcdef: #ABCDEF;\n}"
+                       << ":root {\n\n}";
+  QTest::newRow("scss") << Format::scss << "$brand-blue: #123456;\n$abcdef: #ABCDEF;"
+                        << "";
   QTest::newRow("tailwind")
       << Format::tailwind
       << "// tailwind.config.js\nmodule.exports = {\n  theme: {\n    extend: {\n      colors: {\n"
@@ -47,10 +49,11 @@ void TestPalette::writesEachFormat_data() {
                             "    static let brandBlue = Color(hex: \"#123456\")\n"
                             "    static let abcdef = Color(hex: \"#ABCDEF\")\n}"
                          << "import SwiftUI\n\nextension Color {\n\n}";
-  QTest::newRow("json") << Format::json
-                        << "[\n  { \"name\": \"Brand Blue\", \"hex\": \"#123456\", \"spot\": \"PMS 021 C\" },\n"
-                           "  { \"name\": \"#ABCDEF\", \"hex\": \"#ABCDEF\" }\n]"
-                        << "[\n\n]";
+  QTest::newRow("json")
+      << Format::json
+      << "[\n  { \"name\": \"Brand Blue\", \"hex\": \"#123456\", \"spot\": \"PMS 021 C\" },\n"
+         "  { \"name\": \"#ABCDEF\", \"hex\": \"#ABCDEF\" }\n]"
+      << "[\n\n]";
 }
 
 void TestPalette::writesEachFormat() {
@@ -64,11 +67,14 @@ void TestPalette::writesEachFormat() {
 void TestPalette::makesSlugs_data() {
   QTest::addColumn<QStringList>("names");
   QTest::addColumn<QStringList>("slugs");
-  QTest::newRow("repeated") << QStringList{"Blue", "blue", "BLUE"} << QStringList{"blue", "blue-2", "blue-3"};
-  QTest::newRow("collision stays") << QStringList{"Blue", "Blue", "Blue 2"} << QStringList{"blue", "blue-2", "blue-2"};
+  QTest::newRow("repeated") << QStringList{"Blue", "blue", "BLUE"}
+                            << QStringList{"blue", "blue-2", "blue-3"};
+  QTest::newRow("collision stays")
+      << QStringList{"Blue", "Blue", "Blue 2"} << QStringList{"blue", "blue-2", "blue-2"};
   QTest::newRow("punctuation") << QStringList{"a", "b", "***"} << QStringList{"a", "b", "color-3"};
   QTest::newRow("runs and ends") << QStringList{"--A  &  b!"} << QStringList{"a-b"};
-  QTest::newRow("accents and other digits") << QStringList{"Éclair e\u0301 ٣½"} << QStringList{"éclair-e\u0301-٣½"};
+  QTest::newRow("accents and other digits")
+      << QStringList{"Éclair e\u0301 ٣½"} << QStringList{"éclair-e\u0301-٣½"};
 }
 
 void TestPalette::makesSlugs() {
@@ -84,11 +90,16 @@ void TestPalette::makesSlugs() {
 void TestPalette::makesIdentifiers_data() {
   QTest::addColumn<QString>("slug");
   QTest::addColumn<QString>("identifier");
-  QTest::newRow("words") << "brand-blue" << "brandBlue";
-  QTest::newRow("number behind") << "blue-2" << "blue2";
-  QTest::newRow("number in front") << "123456" << "c123456";
-  QTest::newRow("nothing") << "--" << "color";
-  QTest::newRow("accents") << "bleu-été" << "bleuÉté";
+  QTest::newRow("words") << "brand-blue"
+                         << "brandBlue";
+  QTest::newRow("number behind") << "blue-2"
+                                 << "blue2";
+  QTest::newRow("number in front") << "123456"
+                                   << "c123456";
+  QTest::newRow("nothing") << "--"
+                           << "color";
+  QTest::newRow("accents") << "bleu-été"
+                           << "bleuÉté";
 }
 
 void TestPalette::makesIdentifiers() {

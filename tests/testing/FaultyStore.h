@@ -19,8 +19,7 @@ class FaultyStore : public PosixFileStore {
   int atStep = 0;
   int steps = 0;
 
-  Result<std::unique_ptr<FileReader>> open(const QString& path,
-                                           const QString& root) const override;
+  Result<std::unique_ptr<FileReader>> open(const QString& path, const QString& root) const override;
   Result<void> makeFolder(const QString& path) override;
   Result<std::unique_ptr<FileWriter>> createTemporary(const QString& target) override;
   Result<void> replace(const QString& temporary, const QString& target) override;

@@ -17,9 +17,13 @@ QUuid RandomBrand::id() {
 }
 
 QString RandomBrand::text() {
-  static const QStringList odd{QString(), QStringLiteral("a\"b\\c/d"), QStringLiteral("tab\tline\n"),
-                               QStringLiteral("\u0001\u001f\u007f\u2028"), QStringLiteral("Überzug ✓"),
-                               QString::fromUtf8("👩‍👩‍👧 & <co>"), QString(QChar(0xFEFF)) + u'x'};
+  static const QStringList odd{QString(),
+                               QStringLiteral("a\"b\\c/d"),
+                               QStringLiteral("tab\tline\n"),
+                               QStringLiteral("\u0001\u001f\u007f\u2028"),
+                               QStringLiteral("Überzug ✓"),
+                               QString::fromUtf8("👩‍👩‍👧 & <co>"),
+                               QString(QChar(0xFEFF)) + u'x'};
   if (below(8) == 0) return odd.at(below(int(odd.size())));
   static const QStringList words{QStringLiteral("Harbour"), QStringLiteral("Lane"),
                                  QStringLiteral("primary"), QStringLiteral("Mark")};
@@ -45,7 +49,8 @@ Emblem RandomBrand::emblem() {
 
 QList<UsageNote> RandomBrand::notes() {
   QList<UsageNote> list;
-  for (int count = below(3); count >= 0; --count) list << UsageNote{id(), anyOf<UsageKind>(), text()};
+  for (int count = below(3); count >= 0; --count)
+    list << UsageNote{id(), anyOf<UsageKind>(), text()};
   return list;
 }
 
@@ -100,8 +105,15 @@ Section RandomBrand::section(int items) {
 
 Brand RandomBrand::brand(int sections, int itemsEach) {
   const auto moment = [&] { return Timestamp(std::chrono::seconds(random_.generate())); };
-  Brand brand{id(), text(), maybe([&] { return emblem(); }), maybe([&] { return hex(); }),
-              maybe([&] { return hex(); }), moment(), moment(), 1 + below(3), {}};
+  Brand brand{id(),
+              text(),
+              maybe([&] { return emblem(); }),
+              maybe([&] { return hex(); }),
+              maybe([&] { return hex(); }),
+              moment(),
+              moment(),
+              1 + below(3),
+              {}};
   for (int i = 0; i < sections; ++i) brand.sections << section(itemsEach);
   return brand;
 }

@@ -67,8 +67,7 @@ void checkConversions(Report& report) {
   report.check(QStringLiteral("cmyk white all 0"), cmyk("#FFFFFF") == CMYKColor{});
   report.check(QStringLiteral("contrast white/black = 21"),
                white && black && qRound(ColorUtil::contrastRatio(*white, *black)) == 21);
-  report.check(QStringLiteral("wcag grade AAA"),
-               ColorUtil::wcagGrade(7) == QStringLiteral("AAA"));
+  report.check(QStringLiteral("wcag grade AAA"), ColorUtil::wcagGrade(7) == QStringLiteral("AAA"));
   report.check(QStringLiteral("wcag grade Fail"),
                ColorUtil::wcagGrade(2.99) == QStringLiteral("Fail"));
   report.check(QStringLiteral("cmyk copy variant present"),
@@ -98,9 +97,9 @@ void checkPalette(Report& report) {
   report.check(QStringLiteral("swiftui camelCase"),
                PaletteExport::format(colors, Format::swiftUI)
                    .contains(QStringLiteral("static let brandBlue = Color(hex: \"#123456\")")));
-  report.check(QStringLiteral("palette de-dups slugs"),
-               twinCss.contains(QStringLiteral("--blue:")) &&
-                   twinCss.contains(QStringLiteral("--blue-2:")));
+  report.check(
+      QStringLiteral("palette de-dups slugs"),
+      twinCss.contains(QStringLiteral("--blue:")) && twinCss.contains(QStringLiteral("--blue-2:")));
 }
 
 }  // namespace tarnloft::SelfTest

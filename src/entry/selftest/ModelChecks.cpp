@@ -137,11 +137,10 @@ void checkUsageNotes(Report& report) {
 }
 
 void checkUngrouping(Report& report) {
-  const LogoValue logo{QStringLiteral("Logo"),
-                       {variant(asset("1.png", "Image.png"), LogoRole::primary,
-                                ImageBackground::white),
-                        variant(asset("2.png", "Image.png"), LogoRole::reversed,
-                                ImageBackground::dark)}};
+  const LogoValue logo{
+      QStringLiteral("Logo"),
+      {variant(asset("1.png", "Image.png"), LogoRole::primary, ImageBackground::white),
+       variant(asset("2.png", "Image.png"), LogoRole::reversed, ImageBackground::dark)}};
   const QList<Item> items = logo.ungroupedImageItems();
   const LogoValue single{logo.name, {logo.variants.first()}};
   const QList<Item> one = single.ungroupedImageItems();
@@ -170,10 +169,9 @@ void checkExportableAssets(Report& report) {
   const AssetRef picture = asset("1.png", "1.png"), mark = asset("Logo.png", "Logo.png");
   const AssetRef fontFile = asset("f.otf", "f.otf");
   const Item image = Item::create(ImagePayload{picture, {}});
-  const Item logo = Item::create(
-      LogoPayload{{QStringLiteral("Logo"), {variant(mark, LogoRole::primary)}}});
-  const Item font =
-      Item::create(FontPayload{{QStringLiteral("Demo Sans"), {}, {}, fontFile, {}}});
+  const Item logo =
+      Item::create(LogoPayload{{QStringLiteral("Logo"), {variant(mark, LogoRole::primary)}}});
+  const Item font = Item::create(FontPayload{{QStringLiteral("Demo Sans"), {}, {}, fontFile, {}}});
   const Item color = Item::create(ColorPayload{{QStringLiteral("#123456"), {}, {}}});
   const Item emptyLogo = Item::create(LogoPayload{});
   report.check(QStringLiteral("image exports its asset"), image.exportableAsset() == picture);

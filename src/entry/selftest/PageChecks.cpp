@@ -27,8 +27,7 @@ std::unique_ptr<BrandDocument> pageDocument(Report& report, const DocumentServic
 
 bool writeAsset(FileStore& files, const BrandDocument& document, const QString& filename,
                 const QByteArray& content) {
-  const QString path =
-      Package::assetsPath(document.packageURL()) + QLatin1Char('/') + filename;
+  const QString path = Package::assetsPath(document.packageURL()) + QLatin1Char('/') + filename;
   return writeAtomically(files, path, Durability::atomic,
                          [&](FileWriter& file) { return file.write(content); })
       .has_value();
@@ -59,16 +58,16 @@ void checkLogoPage(Report& report, const DocumentServices& services) {
   const LogoValue logo{QStringLiteral("Wordmark"),
                        {{QUuid::createUuid(), file, LogoRole::wordmark, std::nullopt}}};
   const auto document = pageDocument(
-      report, services, folder, QStringLiteral("logo page doc create"),
-      QStringLiteral("LogoBrand"), QStringLiteral("Logos"), {Item::create(LogoPayload{logo})});
+      report, services, folder, QStringLiteral("logo page doc create"), QStringLiteral("LogoBrand"),
+      QStringLiteral("Logos"), {Item::create(LogoPayload{logo})});
   if (!document) return;
   const QString page = BrandPageExporter::html(*document);
   report.check(
       QStringLiteral("brand page renders logo set"),
       page.contains(QStringLiteral("logo-set")) && page.contains(QStringLiteral("Wordmark")));
-  report.check(QStringLiteral("brand page shows variant role"),
-               page.contains(QStringLiteral("class=\"role\"")) &&
-                   page.contains(QStringLiteral("Wordmark")));
+  report.check(
+      QStringLiteral("brand page shows variant role"),
+      page.contains(QStringLiteral("class=\"role\"")) && page.contains(QStringLiteral("Wordmark")));
 }
 
 void checkNotesPage(Report& report, const DocumentServices& services) {
@@ -89,8 +88,12 @@ void checkNotesPage(Report& report, const DocumentServices& services) {
 }
 
 void checkFonts(Report& report, const DocumentServices& services) {
-  const Item withFile = Item::create(FontPayload{
-      {QStringLiteral("F"), {}, {}, AssetRef{QStringLiteral("f.otf"), QStringLiteral("f.otf")}, {}}});
+  const Item withFile =
+      Item::create(FontPayload{{QStringLiteral("F"),
+                                {},
+                                {},
+                                AssetRef{QStringLiteral("f.otf"), QStringLiteral("f.otf")},
+                                {}}});
   const Item nameOnly = Item::create(FontPayload{{QStringLiteral("NoFile"), {}, {}, {}, {}}});
   report.check(QStringLiteral("font with a file is exportable"), withFile.isExportable());
   report.check(QStringLiteral("name-only font is not exportable"), !nameOnly.isExportable());
@@ -99,9 +102,8 @@ void checkFonts(Report& report, const DocumentServices& services) {
   const AssetRef file{QStringLiteral("demo.otf"), QStringLiteral("DemoSans.otf")};
   const FontValue demo{QStringLiteral("Demo Sans"), QStringLiteral("Bold"), {}, file, {}};
   const QString setup = QStringLiteral("font page doc");
-  const auto document =
-      pageDocument(report, services, folder, setup, QStringLiteral("FontBrand"),
-                   QStringLiteral("Type"), {Item::create(FontPayload{demo})});
+  const auto document = pageDocument(report, services, folder, setup, QStringLiteral("FontBrand"),
+                                     QStringLiteral("Type"), {Item::create(FontPayload{demo})});
   if (!document) return;
   if (!writeAsset(services.files, *document, file.filename, "not-a-real-font")) {
     return report.check(setup, false);

@@ -8,8 +8,7 @@ namespace tarnloft {
 class PosixFileStore : public FileStore {
  public:
   bool exists(const QString& path) const override;
-  Result<std::unique_ptr<FileReader>> open(const QString& path,
-                                           const QString& root) const override;
+  Result<std::unique_ptr<FileReader>> open(const QString& path, const QString& root) const override;
   Result<QString> resolved(const QString& path) const override;
   Result<void> makeFolder(const QString& path) override;
   Result<std::unique_ptr<FileWriter>> createTemporary(const QString& target) override;
