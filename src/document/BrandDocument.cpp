@@ -36,9 +36,14 @@ Result<std::unique_ptr<BrandDocument>> BrandDocument::create(const DocumentServi
 
 std::unique_ptr<BrandDocument> BrandDocument::load(const DocumentServices& services,
                                                    const QString& packageURL) {
-  auto brand = Package::readManifest(services.files, packageURL).and_then(decode<Brand>);
+  const auto file =
+      Package::readJson(services.files, Package::manifestPath(packageURL), packageURL);
+  if (!file) return nullptr;
+  const auto brand = decode<Brand>(file->bytes);
   if (!brand) return nullptr;
-  return std::unique_ptr<BrandDocument>(new BrandDocument(services, packageURL, *std::move(brand)));
+  std::unique_ptr<BrandDocument> document(new BrandDocument(services, packageURL, *brand));
+  document->known_ = {file->identity, *brand};
+  return document;
 }
 
 void BrandDocument::setBrand(Brand brand) {
@@ -69,8 +74,12 @@ Result<void> BrandDocument::writeManifest() {
   const auto json = encode(brand_);
   if (!json) return tl::unexpected(json.error());
   if (auto made = services_.files.makeFolder(packageURL_); !made) return made;
-  return writeAtomically(services_.files, Package::manifestPath(packageURL_), Durability::synced,
-                         [&](FileWriter& file) { return file.write(*json); });
+  if (auto kept = keepForeignManifest(); !kept) return kept;
+  const QString manifest = Package::manifestPath(packageURL_);
+  auto written = writeAtomically(services_.files, manifest, Durability::synced,
+                                 [&](FileWriter& file) { return file.write(*json); });
+  known_ = {services_.files.identity(manifest), brand_};
+  return written;
 }
 
 void BrandDocument::invalidate() {

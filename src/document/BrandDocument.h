@@ -1,7 +1,8 @@
 #pragma once
 
 #include "document/DocumentServices.h"
-#include "model/Brand.h"
+#include "document/UndoManager.h"
+#include "document/VersionEnvelope.h"
 
 #include <QObject>
 #include <QTimer>
@@ -9,6 +10,15 @@
 #include <memory>
 
 namespace tarnloft {
+
+// A row of the version list.
+struct BrandVersion {
+  QString url;  // the version file's path, the row's identity
+  Timestamp createdAt;
+  std::optional<QString> label;
+
+  bool operator==(const BrandVersion&) const = default;
+};
 
 // The open form of one package: owns the brand in memory and is the only writer of the package's
 // `manifest.json`. Every assignment to `brand` tells observers and saves 0.4 s after the last one,
@@ -42,7 +52,8 @@ class BrandDocument : public QObject {
   }
 
   // Saves at once: sets `updatedAt`, then replaces `manifest.json` atomically and durably, making
-  // the package folder again if it is gone. A failure is one line in the system log.
+  // the package folder again if it is gone. A manifest that another machine has put there since is
+  // kept as a version first. A failure is one line in the system log.
   void saveNow();
 
   // Ends all writing, for a package that is about to go. `brand` can still be assigned.
@@ -52,6 +63,41 @@ class BrandDocument : public QObject {
   // Opens a file of the package's `assets`; refuses names that lead out of the package.
   Result<std::unique_ptr<FileReader>> openAsset(const AssetRef& asset) const;
 
+  // --- Edits. What names a section or an item that isn't there does nothing.
+
+  // The undoable edit: assigns what `change` makes of the brand and registers its restoring under
+  // that name. A change that changes nothing does nothing.
+  void mutate(const QString& actionName, UndoManager* undoManager,
+              const std::function<void(Brand&)>& change);
+
+  // Appends the item to the section.
+  void addItem(const Item& item, const QUuid& section);
+  // Moves the item in front of another of the target section, or to its end. Assigns twice.
+  void moveItem(const QUuid& item, const QUuid& toSection, const std::optional<QUuid>& before);
+  // Moves the section in front of another, or to the end. Assigns twice.
+  void moveSection(const QUuid& section, const std::optional<QUuid>& before);
+
+  // Copies a file into `assets` under a new name; the caller makes the item.
+  Result<AssetRef> importAsset(const QString& source);
+  // Writes bytes into `assets` under a new name with that extension.
+  Result<AssetRef> importImageData(const QByteArray& data, const QString& suggestedName,
+                                   const QString& extension);
+
+  // Registers the restoring of an earlier brand, for an edit that was assigned already.
+  void registerRestore(const Brand& brand, UndoManager& undoManager, const QString& actionName);
+
+  // --- Versions. All are silent about failure.
+
+  // Keeps the brand as it is in memory; the 30 newest versions stay.
+  void snapshotVersion(const std::optional<QString>& label);
+  // Newest first. A file that doesn't read is left alone and left out.
+  QList<BrandVersion> listVersions() const;
+  // One undo step, "Restore Version".
+  void restoreVersion(const BrandVersion& version, UndoManager* undoManager);
+  void deleteVersion(const BrandVersion& version);
+  // "Initial" if there is no version, "Daily" if the newest is a day old.
+  void maybeAutoSnapshot();
+
  signals:
   void brandChanged();
 
@@ -60,10 +106,21 @@ class BrandDocument : public QObject {
 
   void scheduleSave();
   Result<void> writeManifest();
+  Result<void> keepForeignManifest();
+  Result<void> writeVersion(const VersionEnvelope& envelope);
+  Result<VersionEnvelope> readVersion(const QString& path) const;
+  void pruneVersions(qsizetype max);
+
+  // The manifest as this document last read or wrote it.
+  struct Known {
+    std::optional<FileIdentity> identity;  // none for a package that had no manifest
+    Brand brand;
+  };
 
   const DocumentServices services_;
   const QString packageURL_;
   Brand brand_;
+  Known known_;
   QTimer saveWorkItem_;  // the pending save
   bool invalidated_ = false;
   bool suppressSchedule_ = false;  // while `saveNow` itself assigns

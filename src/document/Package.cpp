@@ -1,12 +1,13 @@
 #include "document/Package.h"
 
 #include "model/Json.h"
+#include "model/Uuid.h"
 
 namespace tarnloft::Package {
 namespace {
 
 // Far beyond any brand; keeps a hostile file from filling the memory.
-constexpr qint64 largestManifest = qint64(512) * 1024 * 1024;
+constexpr qint64 largestJson = qint64(512) * 1024 * 1024;
 
 QString inPackage(const QString& packageURL, const char* name) {
   return packageURL + QLatin1Char('/') + QLatin1String(name);
@@ -18,7 +19,7 @@ bool isPlainFileName(const QString& name) {
 }
 
 Result<QByteArray> readAll(FileReader& file) {
-  if (file.size() > largestManifest) {
+  if (file.size() > largestJson) {
     return failure(ErrorKind::refused, QStringLiteral("The file is too large"));
   }
   QByteArray bytes;
@@ -40,6 +41,11 @@ Result<QByteArray> readAll(FileReader& file) {
 QString manifestPath(const QString& packageURL) { return inPackage(packageURL, "manifest.json"); }
 QString assetsPath(const QString& packageURL) { return inPackage(packageURL, "assets"); }
 QString thumbnailsPath(const QString& packageURL) { return inPackage(packageURL, "thumbnails"); }
+QString versionsPath(const QString& packageURL) { return inPackage(packageURL, "versions"); }
+
+QString newAssetName(const QString& extension) {
+  return canonicalString(QUuid::createUuid()) + QLatin1Char('.') + extension;
+}
 
 QString folderOf(const QString& path) {
   const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
@@ -62,10 +68,18 @@ QString uniquePackageURL(const FileStore& files, const QString& folder, const QS
   return candidate;
 }
 
-Result<QByteArray> readManifest(const FileStore& files, const QString& packageURL) {
-  return files.open(manifestPath(packageURL), packageURL).and_then([](const auto& file) {
-    return readAll(*file);
-  });
+Result<ReadFile> readJson(const FileStore& files, const QString& path, const QString& packageURL) {
+  const auto file = files.open(path, packageURL);
+  if (!file) return tl::unexpected(file.error());
+  auto bytes = readAll(**file);
+  if (!bytes) return tl::unexpected(bytes.error());
+  return ReadFile{std::move(*bytes), (*file)->identity()};
+}
+
+Result<void> makeFolder(FileStore& files, const QString& path, const QString& packageURL) {
+  if (auto made = files.makeFolder(path); !made) return made;
+  if (files.standsInside(path, packageURL)) return {};
+  return failure(ErrorKind::refused, QStringLiteral("The folder is outside of its package"));
 }
 
 Result<std::unique_ptr<FileReader>> openAsset(const FileStore& files, const QString& packageURL,

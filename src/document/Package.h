@@ -9,6 +9,10 @@ namespace tarnloft::Package {
 QString manifestPath(const QString& packageURL);
 QString assetsPath(const QString& packageURL);
 QString thumbnailsPath(const QString& packageURL);
+QString versionsPath(const QString& packageURL);
+
+// A new name for a file of `assets`: a fresh UUID and the extension.
+QString newAssetName(const QString& extension);
 
 // The folder that a file stands in.
 QString folderOf(const QString& path);
@@ -21,8 +25,17 @@ QString uniquePackageURL(const FileStore& files, const QString& folder, const QS
 // nothing is left.
 QString fileNameFor(const QString& brandName);
 
-// The whole of `manifest.json`, with room for the JSON reader behind it.
-Result<QByteArray> readManifest(const FileStore& files, const QString& packageURL);
+// A file's whole content, with room for the JSON reader behind it, and which state of it that is.
+struct ReadFile {
+  QByteArray bytes;
+  FileIdentity identity;
+};
+
+// Reads a JSON file of the package; refuses one that leads out of it.
+Result<ReadFile> readJson(const FileStore& files, const QString& path, const QString& packageURL);
+
+// Makes a folder of the package, such as `assets`; refuses one that leads out of it.
+Result<void> makeFolder(FileStore& files, const QString& path, const QString& packageURL);
 
 // Opens a file of `assets`. A `filename` that is not a plain file name, or that leads out of the
 // package, is refused.

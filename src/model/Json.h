@@ -14,7 +14,8 @@ inline constexpr qsizetype jsonPadding = 64;
 // reason, such as "sections[0].items[2].id: missing". Strict: a missing or mistyped required key,
 // an unknown enumeration value, a payload without exactly one known key, a date with fractional
 // seconds, invalid UTF-8 and a byte-order mark all fail. Unknown keys are ignored, of a repeated
-// key the last counts, and `1.0` is an integer. Any thread. For all records of `RecordFields`.
+// key the last counts, and `1.0` is an integer. Any thread. For all records of `RecordFields`, and
+// for a record of another folder in whose source TARNLOFT_CODED makes it.
 template <Record R>
 Result<R> decode(const QByteArray& json);
 

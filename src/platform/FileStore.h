@@ -4,10 +4,23 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
+#include <QStringList>
 
 #include <memory>
+#include <optional>
 
 namespace tarnloft {
+
+// Tells one state of a file from any other: a file that was replaced or written to has another one.
+struct FileIdentity {
+  quint64 device = 0;
+  quint64 inode = 0;
+  qint64 size = 0;
+  qint64 modified = 0;  // nanoseconds since 1970
+  qint64 changed = 0;   // the same of the file's own record
+
+  bool operator==(const FileIdentity&) const = default;
+};
 
 // An open file being read from its beginning. Closed on destruction.
 class FileReader {
@@ -18,6 +31,8 @@ class FileReader {
   virtual Result<qint64> read(char* buffer, qint64 capacity) = 0;
   // Size in bytes when the file was opened.
   virtual qint64 size() const = 0;
+  // Of the very file that is open, when it was opened.
+  virtual FileIdentity identity() const = 0;
 };
 
 // A new file being written. Closed, not removed, on destruction.
@@ -33,6 +48,7 @@ class FileWriter {
   virtual Result<void> truncate(qint64 size) = 0;
   // Returns when the content is on the medium.
   virtual Result<void> sync() = 0;
+  virtual FileIdentity identity() const = 0;
 };
 
 // The one door to the disk. Each call is one step that either happened or didn't; procedures such
@@ -46,6 +62,15 @@ class FileStore {
   // True if anything stands at the path, a dangling link included.
   virtual bool exists(const QString& path) const = 0;
 
+  // Of the file or link at the path; none if there is nothing.
+  virtual std::optional<FileIdentity> identity(const QString& path) const = 0;
+
+  // True if the path, with all links followed, exists and lies inside `root`.
+  virtual bool standsInside(const QString& path, const QString& root) const = 0;
+
+  // The names in a folder without hidden ones, in the order of their code units.
+  virtual Result<QStringList> list(const QString& folder) const = 0;
+
   // Opens a regular file. Follows links, but refuses a file that, with all links followed, does not
   // stand inside `root`; an empty `root` allows any place. Never waits on a pipe or a device.
   virtual Result<std::unique_ptr<FileReader>> open(const QString& path,
@@ -56,6 +81,10 @@ class FileStore {
 
   // Makes a folder and its missing parents; one that exists is no error.
   virtual Result<void> makeFolder(const QString& path) = 0;
+
+  // Copies a regular file, links to it followed, to a path where nothing stands. Shares blocks with
+  // the source where the file system can; keeps rights and times. On failure nothing is left.
+  virtual Result<void> copyFile(const QString& source, const QString& target) = 0;
 
   // Makes a new, empty, hidden file in the folder of `target`, with the rights that `target` has or
   // a new file would get.

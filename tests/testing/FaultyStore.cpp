@@ -25,6 +25,7 @@ class FaultyWriter : public FileWriter {
   Result<void> sync() override {
     return store_.step() ? file_->sync() : tl::unexpected(fullDisk());
   }
+  FileIdentity identity() const override { return file_->identity(); }
 
  private:
   FaultyStore& store_;
@@ -40,6 +41,7 @@ class FaultyReader : public FileReader {
     return file_->read(buffer, std::min<qint64>(capacity, 10));
   }
   qint64 size() const override { return file_->size(); }
+  FileIdentity identity() const override { return file_->identity(); }
 
  private:
   std::unique_ptr<FileReader> file_;
@@ -66,6 +68,10 @@ Result<std::unique_ptr<FileReader>> FaultyStore::open(const QString& path,
 
 Result<void> FaultyStore::makeFolder(const QString& path) {
   return step() ? PosixFileStore::makeFolder(path) : tl::unexpected(fullDisk());
+}
+
+Result<void> FaultyStore::copyFile(const QString& source, const QString& target) {
+  return step() ? PosixFileStore::copyFile(source, target) : tl::unexpected(fullDisk());
 }
 
 Result<std::unique_ptr<FileWriter>> FaultyStore::createTemporary(const QString& target) {

@@ -38,8 +38,10 @@ class ScratchFolder {
 void checkColors(Report& report);
 void checkBrandStructure(Report& report);
 void checkPackage(Report& report, const DocumentServices& services);
+void checkReorder(Report& report, const DocumentServices& services);
 void checkInvalidate(Report& report, const DocumentServices& services);
 void checkAccentResolution(Report& report);
+void checkUndo(Report& report, const DocumentServices& services);
 void checkConversions(Report& report);
 void checkPalette(Report& report);
 void checkBrandPage(Report& report, const DocumentServices& services);
@@ -48,6 +50,7 @@ void checkLogoPage(Report& report, const DocumentServices& services);
 void checkSpotColor(Report& report);
 void checkUsageNotes(Report& report);
 void checkNotesPage(Report& report, const DocumentServices& services);
+void checkVersions(Report& report, const DocumentServices& services);
 void checkFonts(Report& report, const DocumentServices& services);
 void checkUngrouping(Report& report);
 void checkExportableAssets(Report& report);

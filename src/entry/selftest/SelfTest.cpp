@@ -44,8 +44,10 @@ bool run(const DocumentServices& services) {
   checkColors(report);
   checkBrandStructure(report);
   checkPackage(report, services);
+  checkReorder(report, services);
   checkInvalidate(report, services);
   checkAccentResolution(report);
+  checkUndo(report, services);
   checkConversions(report);
   checkPalette(report);
   checkBrandPage(report, services);
@@ -54,6 +56,7 @@ bool run(const DocumentServices& services) {
   checkSpotColor(report);
   checkUsageNotes(report);
   checkNotesPage(report, services);
+  checkVersions(report, services);
   checkFonts(report, services);
   checkUngrouping(report);
   checkExportableAssets(report);

@@ -1,30 +1,22 @@
 #include "platform/desktop/PosixFileStore.h"
 
+#include "platform/desktop/PosixFiles.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
 
 #include <cerrno>
 #include <cstdio>
+#include <dirent.h>
 #include <fcntl.h>
 #include <optional>
-#include <sys/stat.h>
-#include <system_error>
-#include <unistd.h>
-#include <vector>
 
 namespace tarnloft {
+
+using namespace posix;
+
 namespace {
-
-tl::unexpected<Error> systemFailure(int code) {
-  return failure(code == ENOENT ? ErrorKind::notFound : ErrorKind::io,
-                 QString::fromStdString(std::generic_category().message(code)));
-}
-
-Result<void> done(int status) {
-  if (status == 0) return {};
-  return systemFailure(errno);
-}
 
 // The path as the system takes it. The system would end it at a NUL, and so name another file.
 std::optional<QByteArray> native(const QString& path) {
@@ -32,90 +24,7 @@ std::optional<QByteArray> native(const QString& path) {
   return QFile::encodeName(path);
 }
 
-class Descriptor {
- public:
-  explicit Descriptor(int number) : number_(number) {}
-  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  Descriptor& operator=(Descriptor&&) = delete;
-  ~Descriptor() {
-    if (number_ >= 0) ::close(number_);
-  }
-  int number() const { return number_; }
-  bool isOpen() const { return number_ >= 0; }
-
- private:
-  int number_;
-};
-
-// Some file systems have no way to wait for the medium; there is nothing more to do on them.
-Result<void> synced(const Descriptor& file) {
-  if (::fsync(file.number()) == 0 || errno == EINVAL || errno == ENOTSUP) return {};
-  return systemFailure(errno);
-}
-
-class PosixReader : public FileReader {
- public:
-  PosixReader(Descriptor file, qint64 size) : file_(std::move(file)), size_(size) {}
-
-  Result<qint64> read(char* buffer, qint64 capacity) override {
-    for (;;) {
-      const ssize_t count = ::read(file_.number(), buffer, size_t(capacity));
-      if (count >= 0) return count;
-      if (errno != EINTR) return systemFailure(errno);
-    }
-  }
-  qint64 size() const override { return size_; }
-
- private:
-  Descriptor file_;
-  qint64 size_;
-};
-
-class PosixWriter : public FileWriter {
- public:
-  PosixWriter(Descriptor file, QString path) : file_(std::move(file)), path_(std::move(path)) {}
-
-  const QString& path() const override { return path_; }
-
-  Result<void> write(QByteArrayView bytes) override {
-    while (!bytes.isEmpty()) {
-      const ssize_t count = ::write(file_.number(), bytes.data(), size_t(bytes.size()));
-      if (count < 0 && errno == EINTR) continue;
-      if (count < 0) return systemFailure(errno);
-      bytes = bytes.sliced(count);
-    }
-    return {};
-  }
-
-  Result<void> repeat(qint64 offset, qint64 length) override {
-    std::vector<char> buffer(size_t(std::min<qint64>(length, 1 << 20)));
-    while (length > 0) {
-      const size_t wanted = size_t(std::min<qint64>(length, qint64(buffer.size())));
-      const ssize_t count = ::pread(file_.number(), buffer.data(), wanted, offset);
-      if (count < 0 && errno == EINTR) continue;
-      if (count <= 0) return systemFailure(count < 0 ? errno : EIO);
-      if (auto written = write({buffer.data(), count}); !written) return written;
-      offset += count;
-      length -= count;
-    }
-    return {};
-  }
-
-  Result<void> truncate(qint64 size) override {
-    if (::ftruncate(file_.number(), size) != 0) return systemFailure(errno);
-    return ::lseek(file_.number(), size, SEEK_SET) < 0 ? systemFailure(errno) : Result<void>();
-  }
-
-  Result<void> sync() override { return synced(file_); }
-
- private:
-  Descriptor file_;
-  QString path_;
-};
-
-bool standsInside(const QString& canonicalPath, const QString& root) {
+bool liesInside(const QString& canonicalPath, const QString& root) {
   if (root.isEmpty()) return true;
   const QString canonicalRoot = QFileInfo(root).canonicalFilePath();
   return !canonicalRoot.isEmpty() && canonicalPath.startsWith(canonicalRoot + QLatin1Char('/'));
@@ -148,12 +57,38 @@ bool PosixFileStore::exists(const QString& path) const {
   return name && ::lstat(name->constData(), &info) == 0;
 }
 
+std::optional<FileIdentity> PosixFileStore::identity(const QString& path) const {
+  const auto name = native(path);
+  struct stat info;
+  if (!name || ::lstat(name->constData(), &info) != 0) return std::nullopt;
+  return identityOf(info);
+}
+
+bool PosixFileStore::standsInside(const QString& path, const QString& root) const {
+  if (!native(path)) return false;
+  const QString canonicalPath = QFileInfo(path).canonicalFilePath();
+  return !canonicalPath.isEmpty() && liesInside(canonicalPath, root);
+}
+
+Result<QStringList> PosixFileStore::list(const QString& folder) const {
+  const auto name = native(folder);
+  if (!name) return systemFailure(EINVAL);
+  const std::unique_ptr<DIR, int (*)(DIR*)> entries(::opendir(name->constData()), ::closedir);
+  if (!entries) return systemFailure(errno);
+  QStringList names;
+  while (const dirent* entry = ::readdir(entries.get())) {
+    if (entry->d_name[0] != '.') names << QFile::decodeName(entry->d_name);
+  }
+  names.sort();
+  return names;
+}
+
 Result<std::unique_ptr<FileReader>> PosixFileStore::open(const QString& path,
                                                          const QString& root) const {
   if (!native(path)) return systemFailure(EINVAL);
   const QString canonicalPath = QFileInfo(path).canonicalFilePath();
   if (canonicalPath.isEmpty()) return systemFailure(ENOENT);
-  if (!standsInside(canonicalPath, root)) {
+  if (!liesInside(canonicalPath, root)) {
     return failure(ErrorKind::refused, QStringLiteral("The file is outside of its package"));
   }
   Descriptor file(::open(QFile::encodeName(canonicalPath).constData(),
@@ -162,7 +97,7 @@ Result<std::unique_ptr<FileReader>> PosixFileStore::open(const QString& path,
   struct stat info;
   if (::fstat(file.number(), &info) != 0) return systemFailure(errno);
   if (!S_ISREG(info.st_mode)) return failure(ErrorKind::refused, QStringLiteral("Not a file"));
-  return std::make_unique<PosixReader>(std::move(file), info.st_size);
+  return makeReader(std::move(file), info);
 }
 
 Result<QString> PosixFileStore::resolved(const QString& path) const {
@@ -183,6 +118,27 @@ Result<void> PosixFileStore::makeFolder(const QString& path) {
   return makeFolder(parent).and_then([&] { return makeFolder(path); });
 }
 
+Result<void> PosixFileStore::copyFile(const QString& source, const QString& target) {
+  const auto from = native(source), to = native(target);
+  if (!from || !to) return systemFailure(EINVAL);
+  const Descriptor in(::open(from->constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  if (!in.isOpen()) return systemFailure(errno);
+  struct stat info;
+  if (::fstat(in.number(), &info) != 0) return systemFailure(errno);
+  if (!S_ISREG(info.st_mode)) return failure(ErrorKind::refused, QStringLiteral("Not a file"));
+  const Descriptor out(::open(to->constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, newFileMode));
+  if (!out.isOpen()) return systemFailure(errno);
+  if (auto copied = copyContent(in, out); !copied) {
+    (void)::unlink(to->constData());
+    return copied;
+  }
+  // Best effort: on some file systems rights or times can't be set.
+  const timespec times[] = {info.st_atim, info.st_mtim};
+  (void)::fchmod(out.number(), info.st_mode & 0777);
+  (void)::futimens(out.number(), times);
+  return {};
+}
+
 Result<std::unique_ptr<FileWriter>> PosixFileStore::createTemporary(const QString& target) {
   const auto targetName = native(target);
   if (!targetName) return systemFailure(EINVAL);
@@ -192,7 +148,7 @@ Result<std::unique_ptr<FileWriter>> PosixFileStore::createTemporary(const QStrin
   if (!file.isOpen()) return systemFailure(errno);
   // Best effort: on some file systems rights can't be set.
   if (const auto mode = presentMode(*targetName)) (void)::fchmod(file.number(), *mode);
-  return std::make_unique<PosixWriter>(std::move(file), path);
+  return makeWriter(std::move(file), path);
 }
 
 Result<void> PosixFileStore::replace(const QString& temporary, const QString& target) {

@@ -8,9 +8,13 @@ namespace tarnloft {
 class PosixFileStore : public FileStore {
  public:
   bool exists(const QString& path) const override;
+  std::optional<FileIdentity> identity(const QString& path) const override;
+  bool standsInside(const QString& path, const QString& root) const override;
+  Result<QStringList> list(const QString& folder) const override;
   Result<std::unique_ptr<FileReader>> open(const QString& path, const QString& root) const override;
   Result<QString> resolved(const QString& path) const override;
   Result<void> makeFolder(const QString& path) override;
+  Result<void> copyFile(const QString& source, const QString& target) override;
   Result<std::unique_ptr<FileWriter>> createTemporary(const QString& target) override;
   Result<void> replace(const QString& temporary, const QString& target) override;
   Result<void> syncFolder(const QString& path) override;

@@ -1,0 +1,129 @@
+#include "document/AtomicWrite.h"
+#include "document/BrandDocument.h"
+#include "document/Package.h"
+#include "model/FileName.h"
+
+#include <QPointer>
+
+#include <algorithm>
+
+namespace tarnloft {
+namespace {
+
+// Position of the element of that id, or -1.
+template <class List>
+qsizetype indexOf(const List& list, const QUuid& id) {
+  qsizetype index = 0;
+  for (const auto& element : list) {
+    if (element.id == id) return index;
+    ++index;
+  }
+  return -1;
+}
+
+struct ItemPlace {
+  qsizetype section;
+  qsizetype item;
+};
+
+std::optional<ItemPlace> placeOf(const Brand& brand, const QUuid& id) {
+  for (qsizetype section = 0; section < brand.sections.size(); ++section) {
+    const qsizetype item = indexOf(brand.sections.at(section).items, id);
+    if (item >= 0) return ItemPlace{section, item};
+  }
+  return std::nullopt;
+}
+
+// Where to insert in front of `before`: the end if there is no such element.
+template <class List>
+qsizetype insertionIndex(const List& list, const std::optional<QUuid>& before) {
+  const qsizetype index = before ? indexOf(list, *before) : -1;
+  return index < 0 ? list.size() : index;
+}
+
+QString lastComponent(const QString& path) {
+  return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+}
+
+}  // namespace
+
+void BrandDocument::mutate(const QString& actionName, UndoManager* undoManager,
+                           const std::function<void(Brand&)>& change) {
+  const Brand before = brand_;
+  Brand working = before;
+  change(working);
+  if (working == before) return;
+  setBrand(std::move(working));
+  if (undoManager) registerRestore(before, *undoManager, actionName);
+}
+
+void BrandDocument::registerRestore(const Brand& brand, UndoManager& undoManager,
+                                    const QString& actionName) {
+  undoManager.registerUndo([document = QPointer(this), brand, &undoManager, actionName] {
+    if (!document) return;
+    const Brand present = document->brand();
+    document->setBrand(brand);
+    document->registerRestore(present, undoManager, actionName);
+  });
+  undoManager.setActionName(actionName);
+}
+
+void BrandDocument::addItem(const Item& item, const QUuid& section) {
+  const qsizetype target = indexOf(brand_.sections, section);
+  if (target < 0) return;
+  edit([&](Brand& brand) { brand.sections[target].items.append(item); });
+}
+
+void BrandDocument::moveItem(const QUuid& item, const QUuid& toSection,
+                             const std::optional<QUuid>& before) {
+  if (before == item) return;
+  const auto place = placeOf(brand_, item);
+  const qsizetype target = indexOf(brand_.sections, toSection);
+  if (!place || target < 0) return;
+  Item moved;
+  edit([&](Brand& brand) { moved = brand.sections[place->section].items.takeAt(place->item); });
+  edit([&](Brand& brand) {
+    SharedList<Item>& items = brand.sections[target].items;
+    items.insert(insertionIndex(items, before), moved);
+  });
+}
+
+void BrandDocument::moveSection(const QUuid& section, const std::optional<QUuid>& before) {
+  if (before == section) return;
+  const qsizetype index = indexOf(brand_.sections, section);
+  if (index < 0) return;
+  Section moved;
+  edit([&](Brand& brand) { moved = brand.sections.takeAt(index); });
+  edit([&](Brand& brand) { brand.sections.insert(insertionIndex(brand.sections, before), moved); });
+}
+
+Result<AssetRef> BrandDocument::importAsset(const QString& source) {
+  const QString folder = Package::assetsPath(packageURL_);
+  if (auto made = Package::makeFolder(services_.files, folder, packageURL_); !made) {
+    return tl::unexpected(made.error());
+  }
+  const QString extension = pathExtension(source);
+  const QString name =
+      Package::newAssetName(extension.isEmpty() ? QStringLiteral("dat") : extension);
+  if (auto copied = services_.files.copyFile(source, folder + QLatin1Char('/') + name); !copied) {
+    return tl::unexpected(copied.error());
+  }
+  return AssetRef{name, lastComponent(source)};
+}
+
+Result<AssetRef> BrandDocument::importImageData(const QByteArray& data,
+                                                const QString& suggestedName,
+                                                const QString& extension) {
+  const QString folder = Package::assetsPath(packageURL_);
+  if (auto made = Package::makeFolder(services_.files, folder, packageURL_); !made) {
+    return tl::unexpected(made.error());
+  }
+  const QString name = Package::newAssetName(extension);
+  const auto written =
+      writeAtomically(services_.files, folder + QLatin1Char('/') + name, Durability::atomic,
+                      [&](FileWriter& file) { return file.write(data); });
+  if (!written) return tl::unexpected(written.error());
+  return AssetRef{name, suggestedName};
+}
+
+}  // namespace tarnloft

@@ -1,0 +1,151 @@
+#include "platform/desktop/PosixFiles.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <system_error>
+#include <vector>
+
+namespace tarnloft::posix {
+namespace {
+
+class PosixReader : public FileReader {
+ public:
+  PosixReader(Descriptor file, const FileIdentity& identity)
+      : file_(std::move(file)), identity_(identity) {}
+
+  Result<qint64> read(char* buffer, qint64 capacity) override {
+    for (;;) {
+      const ssize_t count = ::read(file_.number(), buffer, size_t(capacity));
+      if (count >= 0) return count;
+      if (errno != EINTR) return systemFailure(errno);
+    }
+  }
+  qint64 size() const override { return identity_.size; }
+  FileIdentity identity() const override { return identity_; }
+
+ private:
+  Descriptor file_;
+  FileIdentity identity_;
+};
+
+class PosixWriter : public FileWriter {
+ public:
+  PosixWriter(Descriptor file, QString path) : file_(std::move(file)), path_(std::move(path)) {}
+
+  const QString& path() const override { return path_; }
+
+  Result<void> write(QByteArrayView bytes) override {
+    while (!bytes.isEmpty()) {
+      const ssize_t count = ::write(file_.number(), bytes.data(), size_t(bytes.size()));
+      if (count < 0 && errno == EINTR) continue;
+      if (count < 0) return systemFailure(errno);
+      bytes = bytes.sliced(count);
+    }
+    return {};
+  }
+
+  Result<void> repeat(qint64 offset, qint64 length) override {
+    std::vector<char> buffer(size_t(std::min<qint64>(length, 1 << 20)));
+    while (length > 0) {
+      const size_t wanted = size_t(std::min<qint64>(length, qint64(buffer.size())));
+      const ssize_t count = ::pread(file_.number(), buffer.data(), wanted, offset);
+      if (count < 0 && errno == EINTR) continue;
+      if (count <= 0) return systemFailure(count < 0 ? errno : EIO);
+      if (auto written = write({buffer.data(), count}); !written) return written;
+      offset += count;
+      length -= count;
+    }
+    return {};
+  }
+
+  Result<void> truncate(qint64 size) override {
+    if (::ftruncate(file_.number(), size) != 0) return systemFailure(errno);
+    return ::lseek(file_.number(), size, SEEK_SET) < 0 ? systemFailure(errno) : Result<void>();
+  }
+
+  Result<void> sync() override { return synced(file_); }
+
+  FileIdentity identity() const override {
+    struct stat info {};
+    (void)::fstat(file_.number(), &info);
+    return identityOf(info);
+  }
+
+ private:
+  Descriptor file_;
+  QString path_;
+};
+
+bool sharesBlocks(const Descriptor& source, const Descriptor& target) {
+  return ::ioctl(target.number(), FICLONE, source.number()) == 0;
+}
+
+// False with nothing copied where the system can't copy between the two files.
+Result<bool> copiedBySystem(const Descriptor& source, const Descriptor& target) {
+  constexpr size_t piece = size_t(1) << 30;
+  for (bool begun = false;; begun = true) {
+    const ssize_t count =
+        ::copy_file_range(source.number(), nullptr, target.number(), nullptr, piece, 0);
+    if (count == 0) return begun;  // an empty first piece may be a file that can't tell its size
+    if (count < 0 && !begun) return false;
+    if (count < 0) return systemFailure(errno);
+  }
+}
+
+Result<void> copiedByHand(const Descriptor& source, FileWriter& target) {
+  std::vector<char> buffer(1 << 20);
+  for (;;) {
+    const ssize_t count = ::read(source.number(), buffer.data(), buffer.size());
+    if (count == 0) return {};
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) return systemFailure(errno);
+    if (auto written = target.write({buffer.data(), count}); !written) return written;
+  }
+}
+
+qint64 nanoseconds(const timespec& time) {
+  return qint64(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+}
+
+}  // namespace
+
+tl::unexpected<Error> systemFailure(int code) {
+  return failure(code == ENOENT ? ErrorKind::notFound : ErrorKind::io,
+                 QString::fromStdString(std::generic_category().message(code)));
+}
+
+Result<void> done(int status) {
+  if (status == 0) return {};
+  return systemFailure(errno);
+}
+
+Result<void> synced(const Descriptor& file) {
+  if (::fsync(file.number()) == 0 || errno == EINVAL || errno == ENOTSUP) return {};
+  return systemFailure(errno);
+}
+
+FileIdentity identityOf(const struct stat& info) {
+  return {info.st_dev, info.st_ino, info.st_size, nanoseconds(info.st_mtim),
+          nanoseconds(info.st_ctim)};
+}
+
+std::unique_ptr<FileReader> makeReader(Descriptor file, const struct stat& info) {
+  return std::make_unique<PosixReader>(std::move(file), identityOf(info));
+}
+
+std::unique_ptr<FileWriter> makeWriter(Descriptor file, const QString& path) {
+  return std::make_unique<PosixWriter>(std::move(file), path);
+}
+
+Result<void> copyContent(const Descriptor& source, const Descriptor& target) {
+  if (sharesBlocks(source, target)) return {};
+  const auto copied = copiedBySystem(source, target);
+  if (!copied) return tl::unexpected(copied.error());
+  if (*copied) return {};
+  PosixWriter writer(Descriptor(::dup(target.number())), QString());
+  return copiedByHand(source, writer);
+}
+
+}  // namespace tarnloft::posix

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/FileStore.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+// The pieces that PosixFileStore is made of.
+namespace tarnloft::posix {
+
+tl::unexpected<Error> systemFailure(int code);
+
+// Success for 0, else the failure that `errno` tells.
+Result<void> done(int status);
+
+// Owns an open file; closes it on destruction. `errno` tells why one isn't open.
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {}
+  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  Descriptor& operator=(Descriptor&&) = delete;
+  ~Descriptor() {
+    if (number_ >= 0) ::close(number_);
+  }
+  int number() const { return number_; }
+  bool isOpen() const { return number_ >= 0; }
+
+ private:
+  int number_;
+};
+
+// Returns when the content is on the medium. Some file systems have no way to wait for that; there
+// is nothing more to do on them, and it counts as success.
+Result<void> synced(const Descriptor& file);
+
+FileIdentity identityOf(const struct stat& info);
+
+std::unique_ptr<FileReader> makeReader(Descriptor file, const struct stat& info);
+std::unique_ptr<FileWriter> makeWriter(Descriptor file, const QString& path);
+
+// Copies the whole content, by shared blocks or inside of the system where that can be done.
+Result<void> copyContent(const Descriptor& source, const Descriptor& target);
+
+}  // namespace tarnloft::posix
