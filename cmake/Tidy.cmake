@@ -1,5 +1,4 @@
 # The target `tidy`: clang-tidy over every source, each again only when it or a header has changed.
-find_program(CLANG_TIDY_PROGRAM clang-tidy)
 file(GLOB_RECURSE tidy_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/*.cpp)
 file(GLOB_RECURSE tidy_headers CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/*.h)
 
@@ -10,7 +9,7 @@ foreach(source IN LISTS tidy_sources)
   add_custom_command(
     OUTPUT ${stamp}
     COMMAND ${CMAKE_COMMAND} -E make_directory ${folder}
-    COMMAND ${CLANG_TIDY_PROGRAM} -p ${CMAKE_BINARY_DIR} --quiet ${source}
+    COMMAND clang-tidy -p ${CMAKE_BINARY_DIR} --quiet ${source}
     COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
     DEPENDS ${source} ${tidy_headers} ${CMAKE_SOURCE_DIR}/.clang-tidy
     COMMENT "Checking ${name}"
