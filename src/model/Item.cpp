@@ -1,6 +1,7 @@
 #include "model/Item.h"
 
 #include "model/FileName.h"
+#include "model/SearchText.h"
 
 #include <algorithm>
 
@@ -115,9 +116,9 @@ QStringList Item::searchTokens() const {
 bool Item::matchesSearch(const QString& query) const {
   if (query.isEmpty()) return false;
   const QStringList tokens = searchTokens();
-  return std::any_of(tokens.begin(), tokens.end(), [&](const QString& token) {
-    return token.contains(query, Qt::CaseInsensitive);
-  });
+  const QString folded = foldedForSearch(query);
+  return std::any_of(tokens.begin(), tokens.end(),
+                     [&](const QString& token) { return foldedForSearch(token).contains(folded); });
 }
 
 void Item::setUsageNotes(const QList<UsageNote>& value) {

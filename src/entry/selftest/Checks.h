@@ -41,6 +41,7 @@ void checkPackage(Report& report, const DocumentServices& services);
 void checkReorder(Report& report, const DocumentServices& services);
 void checkInvalidate(Report& report, const DocumentServices& services);
 void checkAccentResolution(Report& report);
+void checkGlobalSearch(Report& report);
 void checkUndo(Report& report, const DocumentServices& services);
 void checkConversions(Report& report);
 void checkPalette(Report& report);

@@ -47,6 +47,7 @@ bool run(const DocumentServices& services) {
   checkReorder(report, services);
   checkInvalidate(report, services);
   checkAccentResolution(report);
+  checkGlobalSearch(report);
   checkUndo(report, services);
   checkConversions(report);
   checkPalette(report);

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "library/BrandSummary.h"
+#include "library/SearchableBrand.h"
+#include "platform/FileStore.h"
+
+#include <QHash>
+
+#include <utility>
+
+namespace tarnloft {
+
+using BrandAtURL = std::pair<QString, Brand>;
+
+// The hits of brands in memory, in order: brand, section, item. White space around the query is
+// dropped; an empty one finds nothing. Pure.
+QList<SearchHit> searchHits(const QList<BrandAtURL>& brands, const QString& query);
+
+// Searches packages on disk as if each query read every manifest anew, but reads only those that
+// have changed since the last one: by the file's identity, size and times.
+class GlobalSearch {
+ public:
+  explicit GlobalSearch(const FileStore& files) : files_(files) {}
+
+  // `open` is the brand of the row at `openURL`, searched as it is in memory; null for none. A
+  // package that can't be read is left out.
+  QList<SearchHit> hits(const QList<BrandSummary>& rows, const QString& openURL, const Brand* open,
+                        const QString& query);
+
+  // Bytes held for later queries.
+  qsizetype memory() const;
+
+ private:
+  struct Kept {
+    std::optional<FileIdentity> identity;
+    std::optional<SearchableBrand> brand;  // none for a manifest that can't be read
+  };
+  struct KeptOpen {
+    Brand brand;
+    SearchableBrand searchable;
+  };
+
+  const SearchableBrand* onDisk(const QString& packageURL);
+  const SearchableBrand* inMemory(const Brand& brand);
+  void forgetAllBut(const QList<BrandSummary>& rows);
+
+  const FileStore& files_;
+  QHash<QString, Kept> kept_;
+  std::optional<KeptOpen> open_;
+};
+
+}  // namespace tarnloft

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "document/DocumentServices.h"
+#include "platform/Appearance.h"
+#include "platform/Beep.h"
+#include "platform/ColorSampler.h"
+#include "platform/Preferences.h"
+
+#include <functional>
+#include <memory>
+
+namespace tarnloft {
+
+// What the library needs of its surroundings. Borrowed: all of it outlives the store.
+struct LibraryServices {
+  DocumentServices document;
+  Preferences& preferences;
+  Appearance& appearance;
+  Beep& beep;
+  std::function<std::unique_ptr<ColorSampler>()> makeColorSampler;
+  // The user's folder for the data of applications.
+  QString applicationSupport;
+};
+
+}  // namespace tarnloft

@@ -1,0 +1,149 @@
+#include "testing/RandomBrand.h"
+#include "testing/TestLibrary.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace tarnloft;
+
+class TestSearch : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void findsWhatTheRulesTell_data();
+  void findsWhatTheRulesTell();
+  void agreesWithEachItemOverRandomBrands();
+  void findsInStoredOrder();
+  void searchesUnsavedEditsAndWhatChangedOnDisk();
+  void holdsLessThanTheManifests();
+  void revealsASection();
+};
+
+namespace {
+
+Section section(const QString& name, const SharedList<Item>& items) {
+  Section made = Section::create(name);
+  made.items = items;
+  return made;
+}
+
+QList<BrandAtURL> twoBrands() {
+  Brand acme = Brand::create("Acme"), beta = Brand::create("Beta");
+  acme.sections = {
+      section(
+          "Logos",
+          {Item::create(ImagePayload{{"1.png", "x.png"}, "Primary Logo"}),
+           Item::create(ColorPayload{{"#123456", "Brand Blue", "PMS 021 C"}}),
+           Item::create(LogoPayload{{"Set", {{{}, {"m.svg", "m.svg"}, LogoRole::wordmark, {}}}}})}),
+      section("", {Item::create(TextPayload{"überblau"})})};
+  beta.sections = {section("Brand Colors", {Item::create(GradientPayload{{{}, 0, "Sunset"}})})};
+  return {{"/tmp/A.tarnloft", acme}, {"/tmp/B.tarnloft", beta}};
+}
+
+}  // namespace
+
+void TestSearch::findsWhatTheRulesTell_data() {
+  QTest::addColumn<QString>("query");
+  QTest::addColumn<QStringList>("titles");
+  QTest::newRow("section first") << "logo" << QStringList{"Logos", "Primary Logo", "Set"};
+  QTest::newRow("both brands") << "brand" << QStringList{"Brand Blue", "Brand Colors"};
+  QTest::newRow("any case, trimmed") << "  PRIMARY\n" << QStringList{"Primary Logo"};
+  QTest::newRow("blanks") << "   " << QStringList{};
+  QTest::newRow("none") << "zzznope" << QStringList{};
+  QTest::newRow("type") << "color" << QStringList{"Brand Blue", "Brand Colors"};
+  QTest::newRow("part of a hex") << "#1234" << QStringList{"Brand Blue"};
+  QTest::newRow("spot") << "pms 021" << QStringList{"Brand Blue"};
+  QTest::newRow("role") << "wordmark" << QStringList{"Set"};
+  QTest::newRow("no label of a nameless section") << "untitled" << QStringList{};
+  QTest::newRow("beyond ASCII") << "ÜBER" << QStringList{"überblau"};
+  QTest::newRow("not across tokens") << "LogoImage" << QStringList{};
+}
+
+void TestSearch::findsWhatTheRulesTell() {
+  QFETCH(QString, query);
+  QStringList titles;
+  for (const SearchHit& hit : searchHits(twoBrands(), query)) titles << hit.title;
+  QTEST(titles, "titles");
+}
+
+void TestSearch::agreesWithEachItemOverRandomBrands() {
+  RandomBrand random(31);
+  for (int round = 0; round < 10; ++round) {
+    QList<BrandAtURL> brands;
+    for (int i = 0; i < 3; ++i) brands << BrandAtURL{QString::number(i), random.brand(3, 40)};
+    for (const QString& query :
+         QStringList{"harbour", "MARK 1", "7", "ü", "logo", "\"", "<co>", "#F"}) {
+      QStringList expected;
+      for (const auto& [url, brand] : brands) {
+        for (const Section& part : brand.sections) {
+          const QString prefix = url + '|' + part.id.toString(QUuid::WithoutBraces).toUpper() + '|';
+          if (part.name.contains(query, Qt::CaseInsensitive)) expected << prefix + "section";
+          for (const Item& item : part.items) {
+            if (item.matchesSearch(query))
+              expected << prefix + item.id.toString(QUuid::WithoutBraces).toUpper();
+          }
+        }
+      }
+      QStringList found;
+      for (const SearchHit& hit : searchHits(brands, query)) found << hit.id();
+      QCOMPARE(found, expected);
+    }
+  }
+}
+
+void TestSearch::findsInStoredOrder() {
+  const QList<BrandAtURL> brands = twoBrands();
+  const auto hits = searchHits(brands, "e");
+  QVERIFY(hits.size() > 3);
+  QCOMPARE(hits.first().brandName, "Acme");
+  QCOMPARE(hits.last().brandURL, "/tmp/B.tarnloft");
+  for (const SearchHit& hit : hits) {
+    QCOMPARE(hit.isSection(), hit.typeLabel == "Section");
+    QVERIFY(!hit.sectionName.isEmpty());
+  }
+  QVERIFY(searchHits(brands, "e") == hits);
+}
+
+void TestSearch::searchesUnsavedEditsAndWhatChangedOnDisk() {
+  TestLibrary library;
+  library.add("A");
+  Brand b = library.add("B");
+  QVERIFY(QDir().mkpath(library.packagePath("Bad")));
+  LibraryStore& store = library.start();
+  const auto count = [&](const QString& query) { return store.searchAllBrands(query).size(); };
+  QCOMPARE(count("logos"), 2);
+  store.openDocument()->edit([](Brand& brand) { brand.sections[1].name = "Marks"; });
+  QCOMPARE(count("logos"), 1);
+  QCOMPARE(count("marks"), 1);
+  b.sections[0].name = "Marks";
+  library.save("B", b);
+  QCOMPARE(count("marks"), 2);
+  QVERIFY(writeFile(Package::manifestPath(library.packagePath("B")), "{"));
+  QCOMPARE(count("marks"), 1);
+  library.save("Bad", b);
+  QCOMPARE(count("marks"), 2);
+  QVERIFY(QDir(library.packagePath("Bad")).removeRecursively());
+  QCOMPARE(count("marks"), 1);
+}
+
+void TestSearch::holdsLessThanTheManifests() {
+  RandomBrand random(2);
+  const Brand brand = random.brand(5, 60);
+  QVERIFY(SearchableBrand(brand).memory() < encode(brand)->size());
+}
+
+void TestSearch::revealsASection() {
+  TestLibrary library;
+  library.add("A");
+  library.add("B");
+  LibraryStore& store = library.start();
+  const SearchHit hit = store.searchAllBrands("logos").last();
+  store.reveal(hit);
+  QCOMPARE(store.selection(), library.packagePath("B"));
+  QVERIFY(!store.scrollToSection());
+  QCoreApplication::processEvents();
+  QCOMPARE(store.scrollToSection(), hit.sectionID);
+}
+
+QTEST_GUILESS_MAIN(TestSearch)
+#include "tst_search.moc"
