@@ -9,7 +9,7 @@ foreach(source IN LISTS tidy_sources)
   add_custom_command(
     OUTPUT ${stamp}
     COMMAND ${CMAKE_COMMAND} -E make_directory ${folder}
-    COMMAND clang-tidy -p ${CMAKE_BINARY_DIR} --quiet ${source}
+    COMMAND ${CMAKE_SOURCE_DIR}/cmake/quiet-tidy -p ${CMAKE_BINARY_DIR} --quiet ${source}
     COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
     DEPENDS ${source} ${tidy_headers} ${CMAKE_SOURCE_DIR}/.clang-tidy
     COMMENT "Checking ${name}"

@@ -12,7 +12,7 @@ Result<void> fillAndReplace(FileStore& files, FileWriter& temporary, const QStri
   if (durability == Durability::synced) {
     if (auto synced = temporary.sync(); !synced) return synced;
   }
-  return files.replace(temporary.path(), path);
+  return files.replace(temporary, path);
 }
 
 }  // namespace
@@ -22,7 +22,6 @@ Result<void> writeAtomically(FileStore& files, const QString& path, Durability d
   const auto temporary = files.createTemporary(path);
   if (!temporary) return tl::unexpected(temporary.error());
   if (auto replaced = fillAndReplace(files, **temporary, path, durability, fill); !replaced) {
-    (void)files.remove((*temporary)->path());  // best effort: the first error is the one to tell
     return replaced;
   }
   if (durability == Durability::atomic) return {};

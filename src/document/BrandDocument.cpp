@@ -64,6 +64,7 @@ void BrandDocument::saveNow() {
     const QScopedValueRollback suppress(suppressSchedule_, true);
     edit([&](Brand& brand) { brand.updatedAt = services_.clock(); });
   }
+  if (invalidated_) return;  // by one who was told of the change
   if (const auto written = writeManifest(); !written) {
     services_.log.write(QStringLiteral("failed to save ") + Package::manifestPath(packageURL_) +
                         QStringLiteral(": ") + written.error().message);

@@ -6,8 +6,8 @@
 namespace tarnloft::Package {
 namespace {
 
-// Far beyond any brand; keeps a hostile file from filling the memory.
-constexpr qint64 largestJson = qint64(512) * 1024 * 1024;
+// A hundred thousand items; reading takes some ten times as much memory.
+constexpr qint64 largestJson = qint64(64) * 1024 * 1024;
 
 QString inPackage(const QString& packageURL, const char* name) {
   return packageURL + QLatin1Char('/') + QLatin1String(name);

@@ -12,7 +12,7 @@ void SupportFolder::migrateIfNeeded(FileStore& files, SystemLog& log,
                                     const QString& applicationSupport) {
   const QString present = applicationSupport + QStringLiteral("/Tarn Loft");
   const QString old = applicationSupport + QStringLiteral("/Fenwright");
-  if (files.exists(present) || !files.exists(old)) return;
+  if (files.exists(present) || !files.isFolder(old)) return;
   if (const auto moved = files.moveFolder(old, present); moved) {
     log.write(QStringLiteral("migrated support folder from “Fenwright” to “Tarn Loft”"));
   } else {

@@ -8,6 +8,12 @@
 
 namespace tarnloft {
 
+bool GradientValue::hasCss() const {
+  return fitsInteger(angle) &&
+         std::all_of(stops.begin(), stops.end(),
+                     [](const GradientStop& stop) { return fitsInteger(stop.location * 100); });
+}
+
 QString GradientValue::cssString() const {
   QList<GradientStop> sorted = stops;
   std::stable_sort(sorted.begin(), sorted.end(), [](const GradientStop& a, const GradientStop& b) {

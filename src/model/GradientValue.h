@@ -23,8 +23,11 @@ struct GradientValue {
 
   bool operator==(const GradientValue&) const = default;
 
+  // True if all its numbers, rounded, fit a 64-bit integer. A manifest can hold others.
+  bool hasCss() const;
+
   // "linear-gradient(90deg, #FF0000 0%, #00FF00 50%)", stops by location, numbers rounded half away
-  // from zero. A number that doesn't fit a 64-bit integer stops the process.
+  // from zero. Without `hasCss` it stops the process.
   QString cssString() const;
 };
 

@@ -8,12 +8,15 @@
 namespace tarnloft {
 namespace {
 
-// The name of a picture or movie: the user's, else the file's own without its extension.
+// The user's own name of the file without its extension; none if that leaves nothing.
+std::optional<QString> assetBaseName(const AssetRef& asset) {
+  const QString name = withoutPathExtension(asset.originalName);
+  return name.isEmpty() ? std::nullopt : std::optional(name);
+}
+
 QString mediaName(const std::optional<QString>& name, const AssetRef& asset,
                   const QString& fallback) {
-  if (name) return *name;
-  const QString baseName = withoutPathExtension(asset.originalName);
-  return baseName.isEmpty() ? fallback : baseName;
+  return name ? *name : assetBaseName(asset).value_or(fallback);
 }
 
 QStringList furtherTokens(const ColorValue& color) {

@@ -10,7 +10,7 @@ namespace {
 static_assert(jsonPadding >= qsizetype(simdjson::SIMDJSON_PADDING));
 
 constexpr size_t maxDepth = 512;
-constexpr size_t keptCapacity = 64 * 1024 * 1024;  // beyond this a parser is not kept
+constexpr size_t keptCapacity = 64 * 1024 * 1024;  // a larger parser goes at the next document
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
@@ -60,7 +60,8 @@ simdjson::error_code parse(const QByteArray& json, simdjson::dom::element& root)
   if (parser.max_depth() != maxDepth) {
     if (const auto problem = parser.allocate(size_t(json.size()), maxDepth)) return problem;
   }
-  const bool padded = json.capacity() - json.size() >= jsonPadding;
+  QByteArray shared = json;  // its storage tells the room behind the text alone
+  const bool padded = shared.data_ptr().freeSpaceAtEnd() >= jsonPadding;
   return parser.parse(json.constData(), size_t(json.size()), !padded).get(root);
 }
 

@@ -132,7 +132,13 @@ void JsonWriter::value(const QUuid& id) {
   quotedAscii({text.data(), text.size()});
 }
 
-void JsonWriter::value(Timestamp moment) { quotedAscii(iso8601(moment)); }
+void JsonWriter::value(Timestamp moment) {
+  if (!isWritable(moment)) {
+    unwritable_ = "a date beyond the years 0 to 9999 can't be written";
+    moment = Timestamp();
+  }
+  quotedAscii(iso8601(moment));
+}
 
 void JsonWriter::value(qint64 number) {
   char* const out = room(24);
@@ -141,7 +147,7 @@ void JsonWriter::value(qint64 number) {
 
 void JsonWriter::value(double number) {
   if (!std::isfinite(number)) {
-    finite_ = false;
+    unwritable_ = "a number that is not finite can't be written";
     number = 0;
   }
   // Readers take "-0" for the integer 0, so a negative zero would not survive another round.
@@ -160,10 +166,7 @@ void JsonWriter::value(const ItemPayload& payload) {
 }
 
 Result<QByteArray> JsonWriter::finish() {
-  if (!finite_) {
-    return failure(ErrorKind::unwritable,
-                   QStringLiteral("a number that is not finite can't be written"));
-  }
+  if (unwritable_) return failure(ErrorKind::unwritable, QString::fromUtf8(unwritable_));
   bytes_.resize(end_ - bytes_.constData());
   return std::move(bytes_);
 }

@@ -37,6 +37,7 @@ class JsonWriter {
   void value(const ItemPayload& payload);
   void value(const QString& text);
   void value(const QUuid& id);
+  // A moment without a written form fails the document.
   void value(Timestamp moment);
   void value(qint64 number);
   // Shortest digits that read back as the same number. One that is not finite fails the document.
@@ -87,8 +88,8 @@ class JsonWriter {
   char* end_ = nullptr;          // behind what is written
   const char* limit_ = nullptr;  // behind the buffer
   int depth_ = 0;
-  bool first_ = true;  // no member or element yet at the present depth
-  bool finite_ = true;
+  bool first_ = true;                 // no member or element yet at the present depth
+  const char* unwritable_ = nullptr;  // why the document fails
   QStringEncoder utf8_;
 };
 

@@ -5,11 +5,15 @@
 
 namespace tarnloft {
 
-qint64 rounded(double value) {
+bool fitsInteger(double value) {
   constexpr double limit = 9223372036854775808.0;  // 2^63, the first value that doesn't fit
   const double whole = std::round(value);
-  if (!(whole >= -limit && whole < limit)) std::abort();
-  return static_cast<qint64>(whole);
+  return whole >= -limit && whole < limit;
+}
+
+qint64 rounded(double value) {
+  if (!fitsInteger(value)) std::abort();
+  return static_cast<qint64>(std::round(value));
 }
 
 }  // namespace tarnloft

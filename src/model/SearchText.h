@@ -4,8 +4,8 @@
 
 namespace tarnloft {
 
-// The text with its case folded. One text contains another whatever their case exactly if its
-// folded form contains the other's.
-inline QString foldedForSearch(const QString& text) { return text.toCaseFolded(); }
+// The text made fit for comparing whatever the case, in the user's language: composed, and with its
+// case folded. One text contains another exactly if its folded form contains the other's.
+QString foldedForSearch(const QString& text);
 
 }  // namespace tarnloft

@@ -45,6 +45,10 @@ std::optional<seconds> offsetOf(std::string_view zone) {
 
 Timestamp systemNow() { return floor<milliseconds>(system_clock::now()); }
 
+bool isWritable(Timestamp moment) {
+  return moment >= sys_days{year{0} / 1 / 1} && moment < sys_days{year{10000} / 1 / 1};
+}
+
 std::string iso8601(Timestamp moment) {
   const auto midnight = floor<days>(moment);
   const year_month_day date{midnight};
@@ -64,7 +68,8 @@ std::optional<Timestamp> fromIso8601(std::string_view text) {
   const auto time = timeOf(text);
   const auto offset = offsetOf(text.substr(zoneAt));
   if (!date || !time || !offset) return std::nullopt;
-  return Timestamp(*date + *time - *offset);
+  const Timestamp moment(*date + *time - *offset);
+  return isWritable(moment) ? std::optional(moment) : std::nullopt;
 }
 
 }  // namespace tarnloft

@@ -16,11 +16,14 @@ using Clock = std::function<Timestamp()>;
 
 Timestamp systemNow();
 
-// "2026-03-01T09:30:00Z": ISO 8601 in UTC, cut down to whole seconds. For the years 0 to 9999.
+// True for the years 0 to 9999, which are all that have a written form.
+bool isWritable(Timestamp moment);
+
+// "2026-03-01T09:30:00Z": ISO 8601 in UTC, cut down to whole seconds. The moment must be writable.
 std::string iso8601(Timestamp moment);
 
 // Takes "Z" or an offset such as "+01:00" behind the time; refuses fractional seconds, dates that
-// the calendar doesn't have, and any other form.
+// the calendar doesn't have, moments that are not writable, and any other form.
 std::optional<Timestamp> fromIso8601(std::string_view text);
 
 }  // namespace tarnloft

@@ -35,12 +35,11 @@ class FileReader {
   virtual FileIdentity identity() const = 0;
 };
 
-// A new file being written. Closed, not removed, on destruction.
+// A new file being written. Gone on destruction, unless a store has put it in its place.
 class FileWriter {
  public:
   virtual ~FileWriter() = default;
 
-  virtual const QString& path() const = 0;
   virtual Result<void> write(QByteArrayView bytes) = 0;
   // Writes `length` bytes that stand in the file from `offset` on once more, at its end.
   virtual Result<void> repeat(qint64 offset, qint64 length) = 0;
@@ -53,14 +52,16 @@ class FileWriter {
 
 // The one door to the disk. Each call is one step that either happened or didn't; procedures such
 // as `writeAtomically` are written above it, so that a test can cut them after each step. Paths are
-// absolute or relative to the working directory; one that holds a NUL is refused. No call follows a
-// link in the last component unless it says so.
+// absolute or relative to the working directory; an empty one, or one that holds a NUL, is refused.
 class FileStore {
  public:
   virtual ~FileStore() = default;
 
   // True if anything stands at the path, a dangling link included.
   virtual bool exists(const QString& path) const = 0;
+
+  // True for a folder and for a link to one.
+  virtual bool isFolder(const QString& path) const = 0;
 
   // Of the file or link at the path; none if there is nothing.
   virtual std::optional<FileIdentity> identity(const QString& path) const = 0;
@@ -72,7 +73,7 @@ class FileStore {
   virtual Result<QStringList> list(const QString& folder) const = 0;
 
   // Opens a regular file. Follows links, but refuses a file that, with all links followed, does not
-  // stand inside `root`; an empty `root` allows any place. Never waits on a pipe or a device.
+  // stand inside `root`. Never waits on a pipe or a device.
   virtual Result<std::unique_ptr<FileReader>> open(const QString& path,
                                                    const QString& root) const = 0;
 
@@ -86,13 +87,14 @@ class FileStore {
   // the source where the file system can; keeps rights and times. On failure nothing is left.
   virtual Result<void> copyFile(const QString& source, const QString& target) = 0;
 
-  // Makes a new, empty, hidden file in the folder of `target`, with the rights that `target` has or
-  // a new file would get.
+  // Makes a new, empty file in the folder of `target`, with the rights that `target` has or a new
+  // file would get: without a name where the file system knows such files, so that no crash leaves
+  // one behind, else hidden. Fails if something other than a file or a link is at `target`.
   virtual Result<std::unique_ptr<FileWriter>> createTemporary(const QString& target) = 0;
 
-  // Renames a file over `target`, which must be a regular file, a link (it is replaced, not
-  // followed), or not exist.
-  virtual Result<void> replace(const QString& temporary, const QString& target) = 0;
+  // Renames a file that this store made over `target`, which must be a regular file, a link (it is
+  // replaced, not followed), or not exist.
+  virtual Result<void> replace(FileWriter& temporary, const QString& target) = 0;
 
   // Returns when the folder's list of names is on the medium.
   virtual Result<void> syncFolder(const QString& path) = 0;

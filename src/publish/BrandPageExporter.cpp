@@ -103,6 +103,16 @@ void BrandPageExporter::writePage(const BrandDocument& document, PageSink& sink)
        << BrandPageText::tail;
 }
 
+bool BrandPageExporter::canPublish(const Brand& brand) {
+  for (const Section& section : brand.sections) {
+    for (const Item& item : section.items) {
+      const auto* gradient = std::get_if<GradientPayload>(&item.payload);
+      if (gradient && !gradient->value.hasCss()) return false;
+    }
+  }
+  return true;
+}
+
 QString BrandPageExporter::html(const BrandDocument& document) {
   MemorySink sink;
   writePage(document, sink);
@@ -111,6 +121,10 @@ QString BrandPageExporter::html(const BrandDocument& document) {
 
 Result<void> BrandPageExporter::writeFile(const BrandDocument& document, FileStore& files,
                                           const QString& path) {
+  if (!canPublish(document.brand())) {
+    return failure(ErrorKind::unwritable,
+                   QStringLiteral("A gradient has numbers without CSS form"));
+  }
   const auto target = files.resolved(path);
   if (!target) return tl::unexpected(target.error());
   // Not synced: a page can be made again, and may weigh gigabytes.

@@ -12,13 +12,17 @@ namespace tarnloft {
 // can't be read degrades its fragment and is never an error.
 namespace BrandPageExporter {
 
+// False for a brand with a gradient that has no CSS form, which no manifest made by the program
+// holds. The page of such a brand can't be made: trying stops the process.
+bool canPublish(const Brand& brand);
+
 // The whole page, held in memory.
 QString html(const BrandDocument& document);
 
 // The whole page, piece by piece: memory stays flat whatever the assets weigh.
 void writePage(const BrandDocument& document, PageSink& sink);
 
-// Writes the page to a file atomically. A link at `path` is followed.
+// Writes the page to a file atomically, if it can be published. A link at `path` is followed.
 Result<void> writeFile(const BrandDocument& document, FileStore& files, const QString& path);
 
 // "Acme Brand Page.html": the brand's name made fit for a file's.

@@ -8,7 +8,6 @@ constexpr qsizetype bufferSize = 256 * 1024;
 }  // namespace
 
 void MemorySink::repeat(qint64 position, qint64 length) {
-  bytes_.reserve(bytes_.size() + length);
   bytes_.append(QByteArrayView(bytes_).sliced(position, length));
 }
 

@@ -19,11 +19,14 @@ class TestDocument : public QObject {
   void createFailsWhereNoFolderCanBeMade();
   void savesABurstOnceBehindItsLastEdit();
   void savingSchedulesNothing();
+  void savingAtOnceReplacesThePendingSave();
+  void anObserverMayInvalidateDuringASave();
   void losesAYoungChangeWithTheDocument();
   void aDeadDocumentWritesNothing();
   void makesAVanishedPackageAgain();
   void loadsNothingFromABadPackage_data();
   void loadsNothingFromABadPackage();
+  void refusesAManifestBeyondAllBrands();
   void savesWhatItReadUnchanged();
   void refusesHostileAssetNames_data();
   void refusesHostileAssetNames();
@@ -129,6 +132,27 @@ void TestDocument::savingSchedulesNothing() {
   QVERIFY(!disk.files.exists(Package::manifestPath(document->packageURL())));
 }
 
+void TestDocument::savingAtOnceReplacesThePendingSave() {
+  TestServices disk;
+  const auto document = newDocument(disk);
+  rename(*document, "Edited");
+  document->saveNow();
+  QVERIFY(QFile::remove(Package::manifestPath(document->packageURL())));
+  QTest::qWait(600);
+  QVERIFY(!disk.files.exists(Package::manifestPath(document->packageURL())));
+}
+
+void TestDocument::anObserverMayInvalidateDuringASave() {
+  TestServices disk;
+  const auto document = newDocument(disk);
+  connect(document.get(), &BrandDocument::brandChanged, this, [&] {
+    document->invalidate();
+    QDir(document->packageURL()).removeRecursively();
+  });
+  document->saveNow();
+  QVERIFY(!disk.files.exists(document->packageURL()));
+}
+
 void TestDocument::losesAYoungChangeWithTheDocument() {
   TestServices disk;
   auto document = newDocument(disk);
@@ -180,9 +204,21 @@ void TestDocument::loadsNothingFromABadPackage() {
   }
   QVERIFY(!BrandDocument::load(disk.services(), package));
   QVERIFY(!BrandDocument::load(disk.services(), disk.path(QStringLiteral("missing"))));
+  QVERIFY(!BrandDocument::load(disk.services(), QString()));
   QCOMPARE(QDir(package).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(),
            1);
   QVERIFY(disk.log.lines.isEmpty());
+}
+
+void TestDocument::refusesAManifestBeyondAllBrands() {
+  TestServices disk;
+  const QString manifest = Package::manifestPath(disk.path(QStringLiteral("Huge.tarnloft")));
+  QVERIFY(
+      writeFile(manifest, *encode(Brand::create(QStringLiteral("x"))) + QByteArray(1 << 20, ' ')));
+  QVERIFY(BrandDocument::load(disk.services(), disk.path(QStringLiteral("Huge.tarnloft"))));
+  QVERIFY(QFile::resize(manifest, qint64(65) << 20));  // sparse
+  const auto file = Package::readJson(disk.files, manifest, disk.folder.path());
+  QCOMPARE(file.error().kind, ErrorKind::refused);
 }
 
 void TestDocument::savesWhatItReadUnchanged() {

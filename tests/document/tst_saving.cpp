@@ -16,6 +16,7 @@ class TestSaving : public QObject {
   void theStepsAreThoseWrittenDown();
   void aCutLeavesTheOldFileOrTheNewOne();
   void aFailedStepLeavesTheOldFileAndOneLine();
+  void afterAFailedSyncOfTheFolderTheNewFileStands();
   void aManifestThatLeadsOutIsNeitherReadNorFollowed();
 };
 
@@ -88,6 +89,13 @@ void TestSaving::aFailedStepLeavesTheOldFileAndOneLine() {
     saving.document->saveNow();
     QCOMPARE(contentOf(saving.manifest), saving.after());
   }
+}
+
+void TestSaving::afterAFailedSyncOfTheFolderTheNewFileStands() {
+  Saving saving;
+  saving.save(FaultyStore::Fault::failStep, stepsOfASave);
+  QCOMPARE(contentOf(saving.manifest), saving.after());
+  QCOMPARE(saving.disk.log.lines.size(), 1);
 }
 
 void TestSaving::aManifestThatLeadsOutIsNeitherReadNorFollowed() {

@@ -1,3 +1,4 @@
+#include "model/Json.h"
 #include "testing/TestServices.h"
 
 #include <QProcess>
@@ -12,6 +13,7 @@ class TestProgram : public QObject {
  private slots:
   void selfTestPassesAndCleansUp();
   void takesOverTheOldSupportFolderInEveryMode();
+  void refusesNamesThatAreNoText();
   void failsWithoutAWord_data();
   void failsWithoutAWord();
 };
@@ -71,12 +73,30 @@ void TestProgram::takesOverTheOldSupportFolderInEveryMode() {
   QVERIFY(run.output.isEmpty() && run.errors.isEmpty());
 }
 
+void TestProgram::refusesNamesThatAreNoText() {
+  Program program;
+  const QString package = program.home.filePath(QStringLiteral("p.tarnloft"));
+  QVERIFY(writeFile(package + QStringLiteral("/manifest.json"),
+                    *encode(Brand::create(QStringLiteral("x")))));
+  // Only a shell can hand over bytes that are no text.
+  QProcess shell;
+  shell.start(
+      QStringLiteral("/bin/sh"),
+      {QStringLiteral("-c"),
+       QStringLiteral("\"$1\" --export-page \"$2\" \"$3/$(printf 'caf\\351').html\""),
+       QStringLiteral("sh"), QStringLiteral(TARNLOFT_PROGRAM), package, program.home.path()});
+  QVERIFY(shell.waitForFinished());
+  QCOMPARE(shell.exitCode(), 1);
+  QCOMPARE(QDir(program.home.path()).entryList({QStringLiteral("caf*")}), QStringList());
+}
+
 void TestProgram::failsWithoutAWord_data() {
   QTest::addColumn<QStringList>("arguments");
   QTest::newRow("no package") << QStringList{QStringLiteral("--export-page"), QStringLiteral("x"),
                                              QStringLiteral("page.html")};
   QTest::newRow("a name with a line break")
       << QStringList{QStringLiteral("--seed-logo"), QStringLiteral("a\nb")};
+  QTest::newRow("an empty path") << QStringList{QStringLiteral("--seed-logo"), QString()};
   QTest::newRow("the root") << QStringList{QStringLiteral("--export-page"), QStringLiteral("/"),
                                            QStringLiteral("/")};
 }

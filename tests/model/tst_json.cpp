@@ -21,6 +21,8 @@ class TestJson : public QObject {
   void numbersSurviveInShortestForm();
   void randomNumbersSurvive();
   void refusesNumbersThatAreNotFinite();
+  void refusesDatesWithoutWrittenForm();
+  void readsFromTheMiddleOfABuffer();
   void takesOldAndForeignFiles_data();
   void takesOldAndForeignFiles();
   void refusesAndNamesThePlace_data();
@@ -171,6 +173,24 @@ void TestJson::refusesNumbersThatAreNotFinite() {
   QVERIFY(!encode(GradientValue{{GradientStop{{}, {}, qQNaN()}}, 0, {}}));
 }
 
+void TestJson::refusesDatesWithoutWrittenForm() {
+  Brand brand = Brand::create(QStringLiteral("x"));
+  brand.createdAt = Timestamp(std::chrono::seconds(-62167219201));  // the second before year 0
+  QCOMPARE(encode(brand).error().kind, ErrorKind::unwritable);
+  brand.createdAt += std::chrono::seconds(1);
+  QVERIFY(decode<Brand>(*encode(brand)));
+}
+
+void TestJson::readsFromTheMiddleOfABuffer() {
+  QByteArray bytes(300, ' ');
+  bytes += "{\"hex\":\"#FFF\"}";
+  bytes.squeeze();
+  bytes.remove(0, 300);  // the room is in front now, not behind
+  QCOMPARE(decode<ColorValue>(bytes)->hex, QStringLiteral("#FFF"));
+  QCOMPARE(decode<ColorValue>(QByteArray::fromRawData("{\"hex\":\"#000\"}  ", 14))->hex,
+           QStringLiteral("#000"));
+}
+
 void TestJson::takesOldAndForeignFiles_data() {
   QTest::addColumn<QByteArray>("json");
   QTest::addColumn<QByteArray>("same");
@@ -262,6 +282,7 @@ void TestJson::readsDates_data() {
   QTest::newRow("offset") << QByteArray("2026-03-01T00:30:00+01:30")
                           << QByteArray("2026-02-28T23:00:00Z");
   for (const char* bad : {"2026-03-01T09:30:00.5Z", "2026-02-29T09:30:00Z", "2026-03-01 09:30:00Z",
+                          "0000-01-01T00:00:00+01:00", "9999-12-31T23:59:59-01:00",
                           "2026-03-01T24:00:00Z", "2026-03-01T09:30:60Z", "2026-03-01T09:30:00",
                           "2026-03-01", "", "2026-3-1T09:30:00Z", "2026-03-01T09:30:00+0130"}) {
     QTest::newRow(bad) << QByteArray(bad) << QByteArray();

@@ -81,6 +81,7 @@ void TestRecords::findsItems_data() {
   QTest::newRow("type, any case") << "cOLOR" << true;
   QTest::newRow("spot") << "pms 021" << true;
   QTest::newRow("name, beyond ASCII") << "ÜBER" << true;
+  QTest::newRow("composed and decomposed") << "u\u0308berbl" << true;
   QTest::newRow("blanks count") << " 123456" << false;
   QTest::newRow("nothing finds nothing") << "" << false;
 }

@@ -228,7 +228,7 @@ function looseText(kind, value, rng, gap) {
   return `{${lines.join(',') || gap()}}`;
 }
 
-/** Makes a package at `folder`; `wild` tells that it holds numbers which a page can't print. */
+/** Makes a package at `folder`. A few hold numbers that a page can't print. */
 export function writePackage(folder, rng) {
   const wild = rng.chance(0.08);
   const images = rng.pick([0, 1, 1, 2, 3, 6]);
@@ -237,5 +237,4 @@ export function writePackage(folder, rng) {
   const gap = () => rng.pick(gaps);
   const manifest = rng.chance(0.4) ? canonicalText(brand) : gap() + looseText('Brand', brand, rng, gap) + gap();
   writeFileSync(join(folder, 'manifest.json'), manifest);
-  return { wild };
 }

@@ -17,6 +17,7 @@ class TestFileStore : public QObject {
   void refusesToReplaceWhatIsNoFile();
   void keepsTheRightsOfAReplacedFile();
   void takesBackAndRepeats();
+  void leavesNothingOfAFileThatFoundNoPlace();
   void makesParents();
   void movesOnlyToAFreePlace();
   void followsLinksForPages();
@@ -50,9 +51,11 @@ Result<void> replaced(FileStore& files, const QString& path, const QByteArray& c
   auto file = files.createTemporary(path);
   if (!file) return tl::unexpected(file.error());
   if (auto written = (*file)->write(content); !written) return written;
-  auto result = files.replace((*file)->path(), path);
-  if (!result) (void)files.remove((*file)->path());
-  return result;
+  return files.replace(**file, path);
+}
+
+QStringList entries(const TestServices& disk) {
+  return QDir(disk.folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
 }
 
 }  // namespace
@@ -103,12 +106,12 @@ void TestFileStore::keepsTheRightsOfAReplacedFile() {
   TestServices disk;
   const QString path = disk.path(QStringLiteral("file"));
   QVERIFY(writeFile(path, "old"));
-  QCOMPARE(::chmod(QFile::encodeName(path).constData(), 0640), 0);
+  QCOMPARE(::chmod(QFile::encodeName(path).constData(), 06640), 0);
   QVERIFY(replaced(disk.files, path, "new"));
   QCOMPARE(contentOf(path), QByteArray("new"));
   struct stat info;
   QCOMPARE(::stat(QFile::encodeName(path).constData(), &info), 0);
-  QCOMPARE(info.st_mode & 0777, 0640u);
+  QCOMPARE(info.st_mode & 07777, 0640u);
 }
 
 void TestFileStore::takesBackAndRepeats() {
@@ -120,7 +123,19 @@ void TestFileStore::takesBackAndRepeats() {
   QVERIFY((*file)->repeat(1, 3));
   QVERIFY((*file)->write("!"));
   QVERIFY(!(*file)->repeat(20, 5));  // stands beyond the end
-  QCOMPARE(contentOf((*file)->path()).left(8), QByteArray("abcdbcd!"));
+  QVERIFY(disk.files.replace(**file, disk.path("x")));
+  QCOMPARE(contentOf(disk.path("x")), QByteArray("abcdbcd!"));
+}
+
+void TestFileStore::leavesNothingOfAFileThatFoundNoPlace() {
+  TestServices disk;
+  {
+    auto file = disk.files.createTemporary(disk.path("x"));
+    QVERIFY(file && (*file)->write("abc"));
+    // Without a name from the start: not even a killed process leaves it behind.
+    QCOMPARE(entries(disk), QStringList());
+  }
+  QCOMPARE(entries(disk), QStringList());
 }
 
 void TestFileStore::makesParents() {

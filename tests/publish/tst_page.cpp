@@ -19,6 +19,7 @@ class TestPage : public QObject {
   void dataURLsHoldTheFile();
   void anAssetThatFailsMidwayDegradesItsFragment();
   void aFailedWriteLeavesTheOldPage();
+  void refusesAGradientWithoutCss();
   void suggestsAFileName_data();
   void suggestsAFileName();
   void exportsThroughTheDialog();
@@ -138,6 +139,15 @@ void TestPage::aFailedWriteLeavesTheOldPage() {
     QCOMPARE(contentOf(page.path), QByteArray("old"));
     QVERIFY(page.strays().isEmpty());
   }
+}
+
+void TestPage::refusesAGradientWithoutCss() {
+  Page page;
+  page.setItems({Item::create(GradientPayload{{{}, 1e300, {}}})});
+  QVERIFY(!BrandPageExporter::writeFile(*page.document, page.store, page.path));
+  page.setItems({Item::create(GradientPayload{{{GradientStop{{}, "#000", -9.3e16}}, 0, {}}})});
+  QVERIFY(!BrandPageExporter::canPublish(page.document->brand()));
+  QVERIFY(!QFile::exists(page.path) && page.strays().isEmpty());
 }
 
 void TestPage::suggestsAFileName_data() {

@@ -8,7 +8,6 @@ class FaultyWriter : public FileWriter {
   FaultyWriter(FaultyStore& store, std::unique_ptr<FileWriter> file)
       : store_(store), file_(std::move(file)) {}
 
-  const QString& path() const override { return file_->path(); }
   Result<void> write(QByteArrayView bytes) override {
     if (store_.step()) return file_->write(bytes);
     if (store_.fault == FaultyStore::Fault::failStep) {
@@ -26,6 +25,7 @@ class FaultyWriter : public FileWriter {
     return store_.step() ? file_->sync() : tl::unexpected(fullDisk());
   }
   FileIdentity identity() const override { return file_->identity(); }
+  FileWriter& inner() { return *file_; }
 
  private:
   FaultyStore& store_;
@@ -81,8 +81,9 @@ Result<std::unique_ptr<FileWriter>> FaultyStore::createTemporary(const QString& 
   return std::make_unique<FaultyWriter>(*this, std::move(*file));
 }
 
-Result<void> FaultyStore::replace(const QString& temporary, const QString& target) {
-  return step() ? PosixFileStore::replace(temporary, target) : tl::unexpected(fullDisk());
+Result<void> FaultyStore::replace(FileWriter& temporary, const QString& target) {
+  if (!step()) return tl::unexpected(fullDisk());
+  return PosixFileStore::replace(static_cast<FaultyWriter&>(temporary).inner(), target);
 }
 
 Result<void> FaultyStore::syncFolder(const QString& path) {

@@ -23,7 +23,7 @@ class FaultyStore : public PosixFileStore {
   Result<void> makeFolder(const QString& path) override;
   Result<void> copyFile(const QString& source, const QString& target) override;
   Result<std::unique_ptr<FileWriter>> createTemporary(const QString& target) override;
-  Result<void> replace(const QString& temporary, const QString& target) override;
+  Result<void> replace(FileWriter& temporary, const QString& target) override;
   Result<void> syncFolder(const QString& path) override;
   Result<void> remove(const QString& path) override;
   Result<void> moveFolder(const QString& path, const QString& target) override;

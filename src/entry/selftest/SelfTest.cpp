@@ -62,7 +62,8 @@ bool run(const DocumentServices& services) {
   checkUngrouping(report);
   checkExportableAssets(report);
   print(QStringLiteral("\n%1 passed, %2 failed").arg(report.passed()).arg(report.failed()));
-  return report.failed() == 0;
+  const bool printed = std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
+  return report.failed() == 0 && printed;
 }
 
 }  // namespace tarnloft::SelfTest

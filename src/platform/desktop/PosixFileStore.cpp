@@ -11,6 +11,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <optional>
+#include <unistd.h>
 
 namespace tarnloft {
 
@@ -25,7 +26,6 @@ std::optional<QByteArray> native(const QString& path) {
 }
 
 bool liesInside(const QString& canonicalPath, const QString& root) {
-  if (root.isEmpty()) return true;
   const QString canonicalRoot = QFileInfo(root).canonicalFilePath();
   return !canonicalRoot.isEmpty() && canonicalPath.startsWith(canonicalRoot + QLatin1Char('/'));
 }
@@ -45,9 +45,21 @@ constexpr mode_t newFileMode = 0666;
 // The rights of the file that will be replaced; none if there isn't one.
 std::optional<mode_t> presentMode(const QByteArray& path) {
   struct stat info;
-  if (::stat(path.constData(), &info) != 0) return std::nullopt;
-  return info.st_mode & 07777;
+  if (::lstat(path.constData(), &info) != 0 || !S_ISREG(info.st_mode)) return std::nullopt;
+  return info.st_mode & 0777;
 }
+
+bool isReplaceable(const QByteArray& path) {
+  struct stat info;
+  return ::lstat(path.constData(), &info) != 0 || S_ISREG(info.st_mode) || S_ISLNK(info.st_mode);
+}
+
+tl::unexpected<Error> notReplaceable() {
+  return failure(ErrorKind::refused, QStringLiteral("Something other than a file is there"));
+}
+
+// A file without a name can be given one only through it.
+bool hasProc() { return ::access("/proc/self/fd", F_OK) == 0; }
 
 }  // namespace
 
@@ -55,6 +67,10 @@ bool PosixFileStore::exists(const QString& path) const {
   const auto name = native(path);
   struct stat info;
   return name && ::lstat(name->constData(), &info) == 0;
+}
+
+bool PosixFileStore::isFolder(const QString& path) const {
+  return native(path) && QFileInfo(path).isDir();
 }
 
 std::optional<FileIdentity> PosixFileStore::identity(const QString& path) const {
@@ -142,24 +158,28 @@ Result<void> PosixFileStore::copyFile(const QString& source, const QString& targ
 Result<std::unique_ptr<FileWriter>> PosixFileStore::createTemporary(const QString& target) {
   const auto targetName = native(target);
   if (!targetName) return systemFailure(EINVAL);
-  const QString path = temporaryPath(target);
-  Descriptor file(::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC,
-                         newFileMode));
-  if (!file.isOpen()) return systemFailure(errno);
-  // Best effort: on some file systems rights can't be set.
-  if (const auto mode = presentMode(*targetName)) (void)::fchmod(file.number(), *mode);
-  return makeWriter(std::move(file), path);
+  if (!isReplaceable(*targetName)) return notReplaceable();
+  const auto present = presentMode(*targetName);
+  const mode_t mode = present.value_or(newFileMode);
+  const QByteArray folder = QFile::encodeName(folderOf(target));
+  QByteArray name;  // none while the file system knows files without one
+  int file = hasProc() ? ::open(folder.constData(), O_RDWR | O_TMPFILE | O_CLOEXEC, mode) : -1;
+  if (file < 0) {
+    name = QFile::encodeName(temporaryPath(target));
+    file = ::open(name.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+  }
+  if (file < 0) return systemFailure(errno);
+  // The new file's rights went through the user's mask, which the old one's don't. Best effort.
+  if (present) (void)::fchmod(file, mode);
+  return std::make_unique<PosixWriter>(Descriptor(file), name);
 }
 
-Result<void> PosixFileStore::replace(const QString& temporary, const QString& target) {
-  const auto from = native(temporary), to = native(target);
-  if (!from || !to) return systemFailure(EINVAL);
-  struct stat info;
-  const bool present = ::lstat(to->constData(), &info) == 0;
-  if (present && !S_ISREG(info.st_mode) && !S_ISLNK(info.st_mode)) {
-    return failure(ErrorKind::refused, QStringLiteral("Something other than a file is there"));
-  }
-  return done(::rename(from->constData(), to->constData()));
+Result<void> PosixFileStore::replace(FileWriter& temporary, const QString& target) {
+  const auto name = native(target);
+  if (!name) return systemFailure(EINVAL);
+  if (!isReplaceable(*name)) return notReplaceable();
+  return static_cast<PosixWriter&>(temporary).moveTo(QFile::encodeName(temporaryPath(target)),
+                                                     *name);
 }
 
 Result<void> PosixFileStore::syncFolder(const QString& path) {

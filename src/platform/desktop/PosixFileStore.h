@@ -8,6 +8,7 @@ namespace tarnloft {
 class PosixFileStore : public FileStore {
  public:
   bool exists(const QString& path) const override;
+  bool isFolder(const QString& path) const override;
   std::optional<FileIdentity> identity(const QString& path) const override;
   bool standsInside(const QString& path, const QString& root) const override;
   Result<QStringList> list(const QString& folder) const override;
@@ -16,7 +17,7 @@ class PosixFileStore : public FileStore {
   Result<void> makeFolder(const QString& path) override;
   Result<void> copyFile(const QString& source, const QString& target) override;
   Result<std::unique_ptr<FileWriter>> createTemporary(const QString& target) override;
-  Result<void> replace(const QString& temporary, const QString& target) override;
+  Result<void> replace(FileWriter& temporary, const QString& target) override;
   Result<void> syncFolder(const QString& path) override;
   Result<void> remove(const QString& path) override;
   Result<void> moveFolder(const QString& path, const QString& target) override;

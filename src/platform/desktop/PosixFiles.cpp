@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <system_error>
@@ -28,54 +30,6 @@ class PosixReader : public FileReader {
  private:
   Descriptor file_;
   FileIdentity identity_;
-};
-
-class PosixWriter : public FileWriter {
- public:
-  PosixWriter(Descriptor file, QString path) : file_(std::move(file)), path_(std::move(path)) {}
-
-  const QString& path() const override { return path_; }
-
-  Result<void> write(QByteArrayView bytes) override {
-    while (!bytes.isEmpty()) {
-      const ssize_t count = ::write(file_.number(), bytes.data(), size_t(bytes.size()));
-      if (count < 0 && errno == EINTR) continue;
-      if (count < 0) return systemFailure(errno);
-      bytes = bytes.sliced(count);
-    }
-    return {};
-  }
-
-  Result<void> repeat(qint64 offset, qint64 length) override {
-    std::vector<char> buffer(size_t(std::min<qint64>(length, 1 << 20)));
-    while (length > 0) {
-      const size_t wanted = size_t(std::min<qint64>(length, qint64(buffer.size())));
-      const ssize_t count = ::pread(file_.number(), buffer.data(), wanted, offset);
-      if (count < 0 && errno == EINTR) continue;
-      if (count <= 0) return systemFailure(count < 0 ? errno : EIO);
-      if (auto written = write({buffer.data(), count}); !written) return written;
-      offset += count;
-      length -= count;
-    }
-    return {};
-  }
-
-  Result<void> truncate(qint64 size) override {
-    if (::ftruncate(file_.number(), size) != 0) return systemFailure(errno);
-    return ::lseek(file_.number(), size, SEEK_SET) < 0 ? systemFailure(errno) : Result<void>();
-  }
-
-  Result<void> sync() override { return synced(file_); }
-
-  FileIdentity identity() const override {
-    struct stat info {};
-    (void)::fstat(file_.number(), &info);
-    return identityOf(info);
-  }
-
- private:
-  Descriptor file_;
-  QString path_;
 };
 
 bool sharesBlocks(const Descriptor& source, const Descriptor& target) {
@@ -135,8 +89,56 @@ std::unique_ptr<FileReader> makeReader(Descriptor file, const struct stat& info)
   return std::make_unique<PosixReader>(std::move(file), identityOf(info));
 }
 
-std::unique_ptr<FileWriter> makeWriter(Descriptor file, const QString& path) {
-  return std::make_unique<PosixWriter>(std::move(file), path);
+PosixWriter::~PosixWriter() {
+  if (!name_.isEmpty()) (void)::unlink(name_.constData());
+}
+
+Result<void> PosixWriter::write(QByteArrayView bytes) {
+  while (!bytes.isEmpty()) {
+    const ssize_t count = ::write(file_.number(), bytes.data(), size_t(bytes.size()));
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) return systemFailure(errno);
+    bytes = bytes.sliced(count);
+  }
+  return {};
+}
+
+Result<void> PosixWriter::repeat(qint64 offset, qint64 length) {
+  std::vector<char> buffer(size_t(std::min<qint64>(length, 1 << 20)));
+  while (length > 0) {
+    const size_t wanted = size_t(std::min<qint64>(length, qint64(buffer.size())));
+    const ssize_t count = ::pread(file_.number(), buffer.data(), wanted, offset);
+    if (count < 0 && errno == EINTR) continue;
+    if (count <= 0) return systemFailure(count < 0 ? errno : EIO);
+    if (auto written = write({buffer.data(), count}); !written) return written;
+    offset += count;
+    length -= count;
+  }
+  return {};
+}
+
+Result<void> PosixWriter::truncate(qint64 size) {
+  if (::ftruncate(file_.number(), size) != 0) return systemFailure(errno);
+  return ::lseek(file_.number(), size, SEEK_SET) < 0 ? systemFailure(errno) : Result<void>();
+}
+
+FileIdentity PosixWriter::identity() const {
+  struct stat info {};
+  (void)::fstat(file_.number(), &info);
+  return identityOf(info);
+}
+
+Result<void> PosixWriter::moveTo(const QByteArray& name, const QByteArray& target) {
+  if (name_.isEmpty()) {
+    const QByteArray self = "/proc/self/fd/" + QByteArray::number(file_.number());
+    if (::linkat(AT_FDCWD, self.constData(), AT_FDCWD, name.constData(), AT_SYMLINK_FOLLOW) != 0) {
+      return systemFailure(errno);
+    }
+    name_ = name;
+  }
+  if (::rename(name_.constData(), target.constData()) != 0) return systemFailure(errno);
+  name_.clear();
+  return {};
 }
 
 Result<void> copyContent(const Descriptor& source, const Descriptor& target) {
@@ -144,7 +146,7 @@ Result<void> copyContent(const Descriptor& source, const Descriptor& target) {
   const auto copied = copiedBySystem(source, target);
   if (!copied) return tl::unexpected(copied.error());
   if (*copied) return {};
-  PosixWriter writer(Descriptor(::dup(target.number())), QString());
+  PosixWriter writer(Descriptor(::dup(target.number())), QByteArray());
   return copiedByHand(source, writer);
 }
 

@@ -39,7 +39,27 @@ Result<void> synced(const Descriptor& file);
 FileIdentity identityOf(const struct stat& info);
 
 std::unique_ptr<FileReader> makeReader(Descriptor file, const struct stat& info);
-std::unique_ptr<FileWriter> makeWriter(Descriptor file, const QString& path);
+
+// A file without a name, or one that is removed under its name on destruction.
+class PosixWriter : public FileWriter {
+ public:
+  PosixWriter(Descriptor file, QByteArray name) : file_(std::move(file)), name_(std::move(name)) {}
+  ~PosixWriter() override;
+  Q_DISABLE_COPY_MOVE(PosixWriter)
+
+  Result<void> write(QByteArrayView bytes) override;
+  Result<void> repeat(qint64 offset, qint64 length) override;
+  Result<void> truncate(qint64 size) override;
+  Result<void> sync() override { return synced(file_); }
+  FileIdentity identity() const override;
+
+  // Gives the file that name, if it has none yet, and then `target`, by renaming it.
+  Result<void> moveTo(const QByteArray& name, const QByteArray& target);
+
+ private:
+  Descriptor file_;
+  QByteArray name_;  // empty while it has none, and once it stands in its place
+};
 
 // Copies the whole content, by shared blocks or inside of the system where that can be done.
 Result<void> copyContent(const Descriptor& source, const Descriptor& target);
