@@ -1,6 +1,7 @@
 // Reading, writing and copying a brand of 10,000 items, each beside its reference.
 #include "Ratio.h"
 #include "model/Json.h"
+#include "model/ListDifference.h"
 #include "testing/RandomBrand.h"
 
 #include <QJsonDocument>
@@ -109,6 +110,26 @@ void copyDeeply(benchmark::State& state, const Brand& brand) {
   }
 }
 
+SharedList<Item> oneMoved() {
+  SharedList<Item> items = oneSectionBrand().sections.first().items;
+  const Item moved = items.takeAt(2'000);
+  items.insert(7'000, moved);
+  return items;
+}
+void differenceOfOneMove(benchmark::State& state) {
+  const SharedList<Item> before = oneSectionBrand().sections.first().items, after = oneMoved();
+  for (auto _ : state) benchmark::DoNotOptimize(listDifference(before, after));
+}
+void oneWalk(benchmark::State& state) {
+  const SharedList<Item> before = oneSectionBrand().sections.first().items, after = oneMoved();
+  for (auto _ : state) {
+    qsizetype same = 0;
+    auto other = after.begin();
+    for (const Item& item : before) same += item.id == (other++)->id ? 1 : 0;
+    benchmark::DoNotOptimize(same);
+  }
+}
+
 // Keeps each benchmark's median.
 class Collector : public benchmark::ConsoleReporter {
  public:
@@ -145,6 +166,8 @@ int main(int argc, char** argv) {
   add("copy deeply, 20 sections", [](auto& state) { copyDeeply(state, spreadBrand()); });
   add("copy, 1 section", [](auto& state) { copyAndChange(state, oneSectionBrand()); });
   add("copy deeply, 1 section", [](auto& state) { copyDeeply(state, oneSectionBrand()); });
+  add("difference of one move", differenceOfOneMove);
+  add("one walk over both lists", oneWalk);
   // Interleaved, so that a busy moment of the machine falls on a figure and its reference alike.
   std::vector<char*> arguments(argv, argv + argc);
   std::string interleave = "--benchmark_enable_random_interleaving=true";
@@ -165,4 +188,6 @@ int main(int argc, char** argv) {
              results.ratio("copy deeply, 20 sections", "copy, 20 sections"), Aim::atLeast, 50);
   printRatio("deep copy / copy and one change, one section of 10,000",
              results.ratio("copy deeply, 1 section", "copy, 1 section"), Aim::atLeast, 50);
+  printRatio("difference of one move among 10,000 / one walk over both lists",
+             results.ratio("difference of one move", "one walk over both lists"), Aim::atMost, 10);
 }
