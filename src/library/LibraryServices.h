@@ -4,7 +4,10 @@
 #include "platform/Appearance.h"
 #include "platform/Beep.h"
 #include "platform/ColorSampler.h"
+#include "platform/FileDialogs.h"
+#include "platform/FileViewer.h"
 #include "platform/Preferences.h"
+#include "platform/Trash.h"
 
 #include <functional>
 #include <memory>
@@ -17,6 +20,9 @@ struct LibraryServices {
   Preferences& preferences;
   Appearance& appearance;
   Beep& beep;
+  Trash& trash;
+  FileDialogs& dialogs;
+  FileViewer& viewer;
   std::function<std::unique_ptr<ColorSampler>()> makeColorSampler;
   // The user's folder for the data of applications.
   QString applicationSupport;

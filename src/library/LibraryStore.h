@@ -46,6 +46,21 @@ class LibraryStore : public QObject {
   // Null if none is open. Owned by the store; it goes with the next selection.
   BrandDocument* openDocument() const { return openDocument_.get(); }
 
+  // --- Brands that come and go. Each does its work on the disk, scans and moves the selection.
+
+  // Makes a brand, selects it and gives its document; null, with a line in the system log, if its
+  // folder can't be made.
+  BrandDocument* createBrand(const QString& name);
+  // Renames the open brand and moves its package to a name made from it, which gets a suffix if it
+  // is taken, by the package itself too.
+  void renameSelectedBrand(const QString& name);
+  // Copies the package as "<name> Copy" with an id of its own and selects the copy.
+  void duplicateBrand(const BrandSummary& brand);
+  // Moves the package to the trash. The selection moves on to the first row if it was selected.
+  void deleteBrand(const BrandSummary& brand);
+  // Selects the brand, asks where to and publishes its page.
+  void exportBrandPage(const BrandSummary& brand);
+
   // --- Preferences
 
   const LibraryPreferences& preferences() const { return preferences_; }

@@ -87,6 +87,11 @@ class FileStore {
   // the source where the file system can; keeps rights and times. On failure nothing is left.
   virtual Result<void> copyFile(const QString& source, const QString& target) = 0;
 
+  // Copies a folder with all that is in it, hidden files included, to a path where nothing stands:
+  // files as `copyFile` does, links as links, sockets and the like not at all. The copy appears
+  // whole, by a rename; on failure nothing is left.
+  virtual Result<void> copyFolder(const QString& source, const QString& target) = 0;
+
   // Makes a new, empty file in the folder of `target`, with the rights that `target` has or a new
   // file would get: without a name where the file system knows such files, so that no crash leaves
   // one behind, else hidden. Fails if something other than a file or a link is at `target`.

@@ -74,6 +74,10 @@ Result<void> FaultyStore::copyFile(const QString& source, const QString& target)
   return step() ? PosixFileStore::copyFile(source, target) : tl::unexpected(fullDisk());
 }
 
+Result<void> FaultyStore::copyFolder(const QString& source, const QString& target) {
+  return step() ? PosixFileStore::copyFolder(source, target) : tl::unexpected(fullDisk());
+}
+
 Result<std::unique_ptr<FileWriter>> FaultyStore::createTemporary(const QString& target) {
   if (!step()) return tl::unexpected(fullDisk());
   auto file = PosixFileStore::createTemporary(target);

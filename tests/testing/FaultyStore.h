@@ -22,6 +22,7 @@ class FaultyStore : public PosixFileStore {
   Result<std::unique_ptr<FileReader>> open(const QString& path, const QString& root) const override;
   Result<void> makeFolder(const QString& path) override;
   Result<void> copyFile(const QString& source, const QString& target) override;
+  Result<void> copyFolder(const QString& source, const QString& target) override;
   Result<std::unique_ptr<FileWriter>> createTemporary(const QString& target) override;
   Result<void> replace(FileWriter& temporary, const QString& target) override;
   Result<void> syncFolder(const QString& path) override;

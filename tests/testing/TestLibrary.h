@@ -33,12 +33,46 @@ class ScriptedSampler : public ColorSampler {
   std::function<void(std::optional<SampledColor>)>& pending_;
 };
 
+// Answers the dialogs as the test told it.
+class ScriptedDialogs : public FileDialogs {
+ public:
+  std::optional<QString> answer;
+  QString suggested;
+  std::optional<QString> savePath(const QString& name, const QString&) override {
+    suggested = name;
+    return answer;
+  }
+};
+
+class ListedViewer : public FileViewer {
+ public:
+  QStringList revealed;
+  void reveal(const QString& path) override { revealed << path; }
+};
+
+// Puts what is thrown away into a folder of the test's.
+class FolderTrash : public Trash {
+ public:
+  explicit FolderTrash(const QString& folder) : folder_(folder) { QDir().mkpath(folder); }
+  bool works = true;
+  Result<void> moveToTrash(const QString& path) override {
+    const bool moved = works && QDir().rename(path, folder_ + '/' + QFileInfo(path).fileName());
+    return moved ? Result<void>() : failure(ErrorKind::io, "no trash");
+  }
+
+ private:
+  QString folder_;
+};
+
 // A library folder on the real disk, with its preferences in a real file.
 struct TestLibrary {
   TestServices disk;
   IniPreferences preferences{disk.path("tarnloft.ini")};
   ListedAppearance appearance;
   CountingBeep beep;
+  FolderTrash trash{disk.path("trash")};
+  ScriptedDialogs dialogs;
+  ListedViewer viewer;
   std::function<void(std::optional<SampledColor>)> pendingPick;
   QString folder = disk.path("Tarn Loft/Library");
   std::unique_ptr<LibraryStore> store;
@@ -48,6 +82,9 @@ struct TestLibrary {
             preferences,
             appearance,
             beep,
+            trash,
+            dialogs,
+            viewer,
             [this] { return std::make_unique<ScriptedSampler>(pendingPick); },
             disk.folder.path()};
   }

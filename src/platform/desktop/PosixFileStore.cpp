@@ -2,11 +2,13 @@
 
 #include "platform/desktop/PosixFiles.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
 
 #include <cerrno>
+#include <climits>
 #include <cstdio>
 #include <dirent.h>
 #include <fcntl.h>
@@ -56,6 +58,22 @@ bool isReplaceable(const QByteArray& path) {
 
 tl::unexpected<Error> notReplaceable() {
   return failure(ErrorKind::refused, QStringLiteral("Something other than a file is there"));
+}
+
+Result<void> copyLink(const QByteArray& source, const QByteArray& target) {
+  QByteArray content(PATH_MAX, Qt::Uninitialized);
+  const ssize_t length = ::readlink(source.constData(), content.data(), size_t(content.size()));
+  if (length < 0) return systemFailure(errno);
+  content.truncate(length);
+  return done(::symlink(content.constData(), target.constData()));
+}
+
+// Best effort: on some file systems they can't be set.
+Result<void> setRightsAndTimes(const QByteArray& path, const struct stat& info) {
+  const timespec times[] = {info.st_atim, info.st_mtim};
+  (void)::chmod(path.constData(), info.st_mode & 0777);
+  (void)::utimensat(AT_FDCWD, path.constData(), times, 0);
+  return {};
 }
 
 // A file without a name can be given one only through it.
@@ -148,11 +166,37 @@ Result<void> PosixFileStore::copyFile(const QString& source, const QString& targ
     (void)::unlink(to->constData());
     return copied;
   }
-  // Best effort: on some file systems rights or times can't be set.
-  const timespec times[] = {info.st_atim, info.st_mtim};
-  (void)::fchmod(out.number(), info.st_mode & 0777);
-  (void)::futimens(out.number(), times);
-  return {};
+  return setRightsAndTimes(*to, info);
+}
+
+Result<void> PosixFileStore::copyFolder(const QString& source, const QString& target) {
+  if (!native(source) || !native(target)) return systemFailure(EINVAL);
+  const QString temporary = temporaryPath(target);
+  auto copied = copyTree(source, temporary).and_then([&] { return moveFolder(temporary, target); });
+  if (!copied) QDir(temporary).removeRecursively();
+  return copied;
+}
+
+// Leaves what was copied by then on failure.
+Result<void> PosixFileStore::copyTree(const QString& source, const QString& target) {
+  struct stat info;
+  if (::stat(QFile::encodeName(source).constData(), &info) != 0) return systemFailure(errno);
+  if (!S_ISDIR(info.st_mode)) return systemFailure(ENOTDIR);
+  if (auto made = makeFolder(target); !made) return made;
+  const auto everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+  for (const QFileInfo& entry : QDir(source).entryInfoList(everything)) {
+    const QString copy = target + QLatin1Char('/') + entry.fileName();
+    Result<void> copied;
+    if (entry.isSymLink()) {
+      copied = copyLink(QFile::encodeName(entry.filePath()), QFile::encodeName(copy));
+    } else if (entry.isDir()) {
+      copied = copyTree(entry.filePath(), copy);
+    } else if (entry.isFile()) {
+      copied = copyFile(entry.filePath(), copy);
+    }
+    if (!copied) return copied;
+  }
+  return setRightsAndTimes(QFile::encodeName(target), info);
 }
 
 Result<std::unique_ptr<FileWriter>> PosixFileStore::createTemporary(const QString& target) {

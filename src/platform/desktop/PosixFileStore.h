@@ -16,11 +16,15 @@ class PosixFileStore : public FileStore {
   Result<QString> resolved(const QString& path) const override;
   Result<void> makeFolder(const QString& path) override;
   Result<void> copyFile(const QString& source, const QString& target) override;
+  Result<void> copyFolder(const QString& source, const QString& target) override;
   Result<std::unique_ptr<FileWriter>> createTemporary(const QString& target) override;
   Result<void> replace(FileWriter& temporary, const QString& target) override;
   Result<void> syncFolder(const QString& path) override;
   Result<void> remove(const QString& path) override;
   Result<void> moveFolder(const QString& path, const QString& target) override;
+
+ private:
+  Result<void> copyTree(const QString& source, const QString& target);
 };
 
 }  // namespace tarnloft
