@@ -8,8 +8,14 @@
 
 namespace tarnloft {
 
+namespace {
+
+QByteArray foldedQuery(const QString& query) { return foldedForSearch(query.trimmed()).toUtf8(); }
+
+}  // namespace
+
 QList<SearchHit> searchHits(const QList<BrandAtURL>& brands, const QString& query) {
-  const QString folded = foldedForSearch(query.trimmed());
+  const QByteArray folded = foldedQuery(query);
   QList<SearchHit> hits;
   if (folded.isEmpty()) return hits;
   for (const auto& [packageURL, brand] : brands) {
@@ -20,7 +26,7 @@ QList<SearchHit> searchHits(const QList<BrandAtURL>& brands, const QString& quer
 
 QList<SearchHit> GlobalSearch::hits(const QList<BrandSummary>& rows, const QString& openURL,
                                     const Brand* open, const QString& query) {
-  const QString folded = foldedForSearch(query.trimmed());
+  const QByteArray folded = foldedQuery(query);
   QList<SearchHit> hits;
   if (folded.isEmpty()) return hits;
   for (const BrandSummary& row : rows) {

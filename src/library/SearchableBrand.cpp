@@ -3,15 +3,15 @@
 #include "model/SearchText.h"
 #include "model/Uuid.h"
 
-#include <QStringMatcher>
-
 #include <algorithm>
+#include <cstring>
+#include <string_view>
 
 namespace tarnloft {
 namespace {
 
-// Half of a surrogate pair: no text from a file holds one by itself, so no query spans two tokens.
-constexpr QChar separator(0xD800);
+// No byte of UTF-8, so no query spans two tokens.
+constexpr char separator = '\xFF';
 
 QString shownName(const QString& sectionName) {
   return sectionName.isEmpty() ? QStringLiteral("Untitled Section") : sectionName;
@@ -69,23 +69,27 @@ void SearchableBrand::addItem(const Item& item) {
 }
 
 void SearchableBrand::addToken(const QString& token) {
-  folded_ += foldedForSearch(token);
+  folded_ += foldedForSearch(token).toUtf8();
   folded_ += separator;
 }
 
-void SearchableBrand::appendHits(const QString& packageURL, const QString& foldedQuery,
+void SearchableBrand::appendHits(const QString& packageURL, const QByteArray& foldedQuery,
                                  QList<SearchHit>& hits) const {
-  const QStringMatcher matcher(foldedQuery);
+  const std::string_view text(folded_.constData(), size_t(folded_.size()));
+  const auto find = [&](size_t from) -> std::optional<size_t> {
+    const void* place = ::memmem(text.data() + from, text.size() - from, foldedQuery.constData(),
+                                 size_t(foldedQuery.size()));
+    if (!place) return std::nullopt;
+    return size_t(static_cast<const char*>(place) - text.data());
+  };
   auto entry = entries_.begin();
-  for (qsizetype from = 0; (from = matcher.indexIn(folded_, from)) >= 0;) {
+  for (auto place = find(0); place; place = find(entry->tokensAt)) {
     // The entry is the last that begins at or before the place; on to the next one behind it.
-    const auto next = std::upper_bound(
-        entry, entries_.end(), from,
-        [](qsizetype place, const Entry& candidate) { return place < candidate.tokensAt; });
-    hits << hit(*std::prev(next), packageURL);
-    if (next == entries_.end()) break;
-    from = next->tokensAt;
-    entry = next;
+    entry = std::upper_bound(entry, entries_.end(), *place, [](size_t at, const Entry& candidate) {
+      return at < candidate.tokensAt;
+    });
+    hits << hit(*std::prev(entry), packageURL);
+    if (entry == entries_.end()) break;
   }
 }
 
@@ -103,7 +107,7 @@ SearchHit SearchableBrand::hit(const Entry& entry, const QString& packageURL) co
 }
 
 qsizetype SearchableBrand::memory() const {
-  qsizetype bytes = qsizetype(sizeof *this) + folded_.capacity() * 2 + titles_.capacity() +
+  qsizetype bytes = qsizetype(sizeof *this) + folded_.capacity() + titles_.capacity() +
                     qsizetype(entries_.capacity() * sizeof(Entry)) +
                     qsizetype(sections_.capacity() * sizeof(SectionRow));
   for (const SectionRow& section : sections_) bytes += section.name.capacity() * 2;

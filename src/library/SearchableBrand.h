@@ -14,8 +14,8 @@ class SearchableBrand {
   explicit SearchableBrand(const Brand& brand);
 
   // Appends the brand's hits in stored order, a section's own before those of its items; an item
-  // gives at most one. The query must be folded and not empty.
-  void appendHits(const QString& packageURL, const QString& foldedQuery,
+  // gives at most one. The query must be folded, in UTF-8 and not empty.
+  void appendHits(const QString& packageURL, const QByteArray& foldedQuery,
                   QList<SearchHit>& hits) const;
 
   // Bytes held, without the allocator's own.
@@ -43,7 +43,7 @@ class SearchableBrand {
 
   QString brandName_;
   std::optional<Emblem> brandEmblem_;
-  QString folded_;     // each token with a separator behind it
+  QByteArray folded_;  // UTF-8, each token with a separator behind it
   QByteArray titles_;  // UTF-8, one behind the other
   std::vector<SectionRow> sections_;
   std::vector<Entry> entries_;
