@@ -79,7 +79,8 @@ Result<void> BrandDocument::writeManifest() {
   const QString manifest = Package::manifestPath(packageURL_);
   auto written = writeAtomically(services_.files, manifest, Durability::synced,
                                  [&](FileWriter& file) { return file.write(*json); });
-  known_ = {services_.files.identity(manifest), brand_};
+  // After a failure another machine's manifest may be there that nobody has looked at yet.
+  if (written) known_ = {services_.files.identity(manifest), brand_};
   return written;
 }
 

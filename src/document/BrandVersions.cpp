@@ -115,16 +115,20 @@ Result<void> BrandDocument::keepForeignManifest() {
     // The same content may come back with another identity, as when a folder is synced anew.
     if (asWritten(*foreign) == asWritten(known_.brand)) return {};
     auto kept = writeVersion({services_.clock(), QStringLiteral("Synced copy"), *foreign});
-    if (kept) pruneVersions(keptVersions);
-    return kept;
+    if (!kept) return kept;
+    known_ = {file->identity, *foreign};  // kept once, also if the save fails further on
+    pruneVersions(keptVersions);
+    return {};
   }
   // A link that leads out, or a folder, is nobody's work; replacing it is decided by the write.
   if (!file) return {};
   const QString folder = Package::versionsPath(packageURL_);
   if (auto made = Package::makeFolder(services_.files, folder, packageURL_); !made) return made;
-  return services_.files.copyFile(manifest,
-                                  freeVersionPath(services_.files, packageURL_, services_.clock(),
-                                                  QStringLiteral(".unreadable")));
+  const QString copy = freeVersionPath(services_.files, packageURL_, services_.clock(),
+                                       QStringLiteral(".unreadable"));
+  auto kept = services_.files.copyFile(manifest, copy);
+  if (kept) known_.identity = file->identity;
+  return kept;
 }
 
 }  // namespace tarnloft

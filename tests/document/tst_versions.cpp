@@ -21,6 +21,7 @@ class TestVersions : public QObject {
   void leavesDamagedFilesAlone();
   void writesNothingWhenDeadOrLedOut();
   void keepsWhatAnotherMachineSaved();
+  void aFailedSaveNeitherForgetsNorRepeats();
   void keepsAForeignManifestThatDoesNotRead();
   void takesTheSameContentForItsOwn();
   void doesNotReplaceWhatItCannotKeep();
@@ -162,6 +163,26 @@ void TestVersions::keepsWhatAnotherMachineSaved() {
   QCOMPARE(brand.labels().size(), 1);
   brand.document->restoreVersion(brand.document->listVersions().first(), nullptr);
   QCOMPARE(brand.document->brand().name, "Theirs");
+}
+
+void TestVersions::aFailedSaveNeitherForgetsNorRepeats() {
+  Versioned brand;
+  brand.saveElsewhere("Theirs");
+  brand.rename("Ours");
+  brand.store.fault = FaultyStore::Fault::failStep;
+  brand.store.steps = 0;
+  brand.store.atStep = 10;  // behind the version's own steps: the manifest's sync
+  brand.document->saveNow();
+  brand.store.steps = 0;
+  brand.store.atStep = 4;  // the same, now that there is no version to keep
+  brand.document->saveNow();
+  QCOMPARE(decode<Brand>(contentOf(brand.manifest))->name, "Theirs");
+  QCOMPARE(brand.labels(), QStringList("Synced copy"));
+  brand.saveElsewhere("Theirs again");
+  brand.store.fault = FaultyStore::Fault::none;
+  brand.document->saveNow();
+  QCOMPARE(decode<Brand>(contentOf(brand.manifest))->name, "Ours");
+  QCOMPARE(brand.labels(), QStringList({"Synced copy", "Synced copy"}));
 }
 
 void TestVersions::keepsAForeignManifestThatDoesNotRead() {

@@ -1,6 +1,7 @@
 #include "document/Package.h"
 #include "publish/BrandPageExporter.h"
 #include "publish/PageMarkup.h"
+#include "testing/FakeDialogs.h"
 #include "testing/FaultyStore.h"
 #include "testing/RandomBrand.h"
 #include "testing/TestServices.h"
@@ -60,22 +61,6 @@ SharedList<Item> everyUseOfAFile() {
           Item::create(FontPayload{{str("Face"), {}, {}, picture, {}}}),
           Item::create(LogoPayload{{str("Set"), {{QUuid(), picture, LogoRole::icon, {}}}}})};
 }
-
-class ScriptedDialogs : public FileDialogs {
- public:
-  std::optional<QString> answer;
-  QString suggested;
-  std::optional<QString> savePath(const QString& name, const QString& mimeType) override {
-    suggested = name;
-    return mimeType == str("text/html") ? answer : std::nullopt;
-  }
-};
-
-class ListedViewer : public FileViewer {
- public:
-  QStringList revealed;
-  void reveal(const QString& path) override { revealed << path; }
-};
 
 }  // namespace
 
@@ -172,6 +157,7 @@ void TestPage::exportsThroughTheDialog() {
   ListedViewer viewer;
   BrandPageExporter::exportPage(*page.document, page.store, dialogs, viewer);
   QCOMPARE(dialogs.suggested, str("Acme Brand Page.html"));
+  QCOMPARE(dialogs.mimeType, str("text/html"));
   QVERIFY(viewer.revealed.isEmpty());
   dialogs.answer = page.path;
   BrandPageExporter::exportPage(*page.document, page.store, dialogs, viewer);

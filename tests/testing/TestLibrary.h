@@ -4,6 +4,7 @@
 #include "library/LibraryStore.h"
 #include "model/Json.h"
 #include "platform/desktop/IniPreferences.h"
+#include "testing/FakeDialogs.h"
 #include "testing/TestServices.h"
 
 namespace tarnloft {
@@ -31,23 +32,6 @@ class ScriptedSampler : public ColorSampler {
 
  private:
   std::function<void(std::optional<SampledColor>)>& pending_;
-};
-
-// Answers the dialogs as the test told it.
-class ScriptedDialogs : public FileDialogs {
- public:
-  std::optional<QString> answer;
-  QString suggested;
-  std::optional<QString> savePath(const QString& name, const QString&) override {
-    suggested = name;
-    return answer;
-  }
-};
-
-class ListedViewer : public FileViewer {
- public:
-  QStringList revealed;
-  void reveal(const QString& path) override { revealed << path; }
 };
 
 // Puts what is thrown away into a folder of the test's.

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/FileDialogs.h"
+#include "platform/FileViewer.h"
+
+#include <QStringList>
+
+namespace tarnloft {
+
+// Answers the dialogs as the test told it.
+class ScriptedDialogs : public FileDialogs {
+ public:
+  std::optional<QString> answer;
+  QString suggested;
+  QString mimeType;
+  std::optional<QString> savePath(const QString& name, const QString& type) override {
+    suggested = name;
+    mimeType = type;
+    return answer;
+  }
+};
+
+class ListedViewer : public FileViewer {
+ public:
+  QStringList revealed;
+  void reveal(const QString& path) override { revealed << path; }
+};
+
+}  // namespace tarnloft
