@@ -77,37 +77,45 @@ std::optional<QString> LibraryPreferences::libraryPath() const {
 void LibraryPreferences::setDefaultAccentHex(const QString& hex) {
   defaultAccentHex_ = hex;
   store_.setText(keys::defaultAccentHex, hex);
+  emit defaultAccentHexChanged();
 }
 
 void LibraryPreferences::setDefaultAccentHexDark(const std::optional<QString>& hex) {
   defaultAccentHexDark_ = hex;
   hex ? store_.setText(keys::defaultAccentHexDark, *hex)
       : store_.remove(keys::defaultAccentHexDark);
+  emit defaultAccentHexDarkChanged();
 }
 
 void LibraryPreferences::setAppearanceMode(AppearanceMode mode) {
   writeCase(store_, keys::appearanceMode, appearanceMode_ = mode);
+  emit appearanceModeChanged();
 }
 
 void LibraryPreferences::setTileSize(TileSize size) {
   writeCase(store_, keys::tileSize, tileSize_ = size);
+  emit tileSizeChanged();
 }
 
 void LibraryPreferences::setColorCopyFormat(ColorCopyFormat format) {
   writeCase(store_, keys::colorCopyFormat, colorCopyFormat_ = format);
+  emit colorCopyFormatChanged();
 }
 
 void LibraryPreferences::setAssetDisplayMode(AssetDisplayMode mode) {
   writeCase(store_, keys::assetDisplayMode, assetDisplayMode_ = mode);
+  emit assetDisplayModeChanged();
 }
 
 void LibraryPreferences::setLastExportFormat(ExportFormat format) {
   writeCase(store_, keys::lastExportFormat, lastExportFormat_ = format);
+  emit lastExportFormatChanged();
 }
 
 void LibraryPreferences::setLastExportQuality(double quality) {
   lastExportQuality_ = quality;
   store_.setNumber(keys::lastExportQuality, quality);
+  emit lastExportQualityChanged();
 }
 
 void LibraryPreferences::setBrandOrder(const QList<QUuid>& order) {

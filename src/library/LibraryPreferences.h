@@ -5,6 +5,7 @@
 #include "publish/ColorUtil.h"
 
 #include <QList>
+#include <QObject>
 #include <QUuid>
 
 namespace tarnloft {
@@ -48,8 +49,10 @@ double tileHeight(TileSize size);
 QString symbol(TileSize size);
 
 // The library's preferences in memory, each read once; a value that can't be understood yields the
-// default. Each setter writes at once.
-class LibraryPreferences {
+// default. Each setter writes at once and tells observers.
+class LibraryPreferences : public QObject {
+  Q_OBJECT
+
  public:
   explicit LibraryPreferences(Preferences& store);
 
@@ -75,6 +78,16 @@ class LibraryPreferences {
   void setLastExportQuality(double quality);
   void setBrandOrder(const QList<QUuid>& order);
   void setLibraryPath(const QString& path);
+
+ signals:
+  void defaultAccentHexChanged();
+  void defaultAccentHexDarkChanged();
+  void appearanceModeChanged();
+  void tileSizeChanged();
+  void colorCopyFormatChanged();
+  void assetDisplayModeChanged();
+  void lastExportFormatChanged();
+  void lastExportQualityChanged();
 
  private:
   Preferences& store_;

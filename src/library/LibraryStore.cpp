@@ -13,6 +13,8 @@ LibraryStore::LibraryStore(const LibraryServices& services)
       preferences_(services.preferences),
       search_(services.document.files),
       libraryURL_(defaultLibraryURL(services)) {
+  connect(&preferences_, &LibraryPreferences::appearanceModeChanged, this,
+          &LibraryStore::applyAppearance);
   applyAppearance();
   openLibrary();
 }
@@ -88,47 +90,6 @@ void LibraryStore::setOpenDocument(std::unique_ptr<BrandDocument> document) {
   // The old document lives until all have been told of the new one.
   const auto old = std::exchange(openDocument_, std::move(document));
   emit openDocumentChanged();
-}
-
-void LibraryStore::setDefaultAccentHex(const QString& hex) {
-  preferences_.setDefaultAccentHex(hex);
-  emit preferencesChanged();
-}
-
-void LibraryStore::setDefaultAccentHexDark(const std::optional<QString>& hex) {
-  preferences_.setDefaultAccentHexDark(hex);
-  emit preferencesChanged();
-}
-
-void LibraryStore::setAppearanceMode(AppearanceMode mode) {
-  preferences_.setAppearanceMode(mode);
-  applyAppearance();
-  emit preferencesChanged();
-}
-
-void LibraryStore::setTileSize(TileSize size) {
-  preferences_.setTileSize(size);
-  emit preferencesChanged();
-}
-
-void LibraryStore::setColorCopyFormat(ColorCopyFormat format) {
-  preferences_.setColorCopyFormat(format);
-  emit preferencesChanged();
-}
-
-void LibraryStore::setAssetDisplayMode(AssetDisplayMode mode) {
-  preferences_.setAssetDisplayMode(mode);
-  emit preferencesChanged();
-}
-
-void LibraryStore::setLastExportFormat(ExportFormat format) {
-  preferences_.setLastExportFormat(format);
-  emit preferencesChanged();
-}
-
-void LibraryStore::setLastExportQuality(double quality) {
-  preferences_.setLastExportQuality(quality);
-  emit preferencesChanged();
 }
 
 double LibraryStore::gridMinWidth() const {

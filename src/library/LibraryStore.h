@@ -63,15 +63,7 @@ class LibraryStore : public QObject {
 
   // --- Preferences
 
-  const LibraryPreferences& preferences() const { return preferences_; }
-  void setDefaultAccentHex(const QString& hex);
-  void setDefaultAccentHexDark(const std::optional<QString>& hex);
-  void setAppearanceMode(AppearanceMode mode);
-  void setTileSize(TileSize size);
-  void setColorCopyFormat(ColorCopyFormat format);
-  void setAssetDisplayMode(AssetDisplayMode mode);
-  void setLastExportFormat(ExportFormat format);
-  void setLastExportQuality(double quality);
+  LibraryPreferences& preferences() { return preferences_; }
 
   // Bounds of a tile's width in the grid, in points.
   double gridMinWidth() const;
@@ -109,7 +101,6 @@ class LibraryStore : public QObject {
   void selectionChanged();
   void openDocumentChanged();
   void brandChanged();  // of the open document
-  void preferencesChanged();
   void newBrandRequestedChanged();
   void scrollToSectionChanged();
 

@@ -264,23 +264,23 @@ void TestLibraryStore::readsPreferences() {
 
 void TestLibraryStore::writesPreferences() {
   TestLibrary library;
-  LibraryStore& store = library.start();
-  QSignalSpy changes(&store, &LibraryStore::preferencesChanged);
-  store.setDefaultAccentHex("#111111");
-  store.setDefaultAccentHexDark(QString("#222222"));
-  store.setAppearanceMode(AppearanceMode::dark);
-  store.setTileSize(TileSize::small);
-  store.setColorCopyFormat(ColorCopyFormat::cmyk);
-  store.setAssetDisplayMode(AssetDisplayMode::expanded);
-  store.setLastExportFormat(ExportFormat::tiff);
-  store.setLastExportQuality(0.4);
-  QCOMPARE(changes.size(), 8);
+  LibraryPreferences& preferences = library.start().preferences();
+  QSignalSpy sizes(&preferences, &LibraryPreferences::tileSizeChanged);
+  preferences.setDefaultAccentHex("#111111");
+  preferences.setDefaultAccentHexDark(QString("#222222"));
+  preferences.setAppearanceMode(AppearanceMode::dark);
+  preferences.setTileSize(TileSize::small);
+  preferences.setColorCopyFormat(ColorCopyFormat::cmyk);
+  preferences.setAssetDisplayMode(AssetDisplayMode::expanded);
+  preferences.setLastExportFormat(ExportFormat::tiff);
+  preferences.setLastExportQuality(0.4);
+  QCOMPARE(sizes.size(), 1);
   QCOMPARE(library.appearance.set.last(), AppearanceOverride::dark);
   const LibraryPreferences anew(library.preferences);
   QCOMPARE(anew.defaultAccentHexDark(), QString("#222222"));
   QCOMPARE(anew.colorCopyFormat(), ColorCopyFormat::cmyk);
   QCOMPARE(anew.lastExportQuality(), 0.4);
-  store.setDefaultAccentHexDark(std::nullopt);
+  preferences.setDefaultAccentHexDark(std::nullopt);
   QVERIFY(!LibraryPreferences(library.preferences).defaultAccentHexDark());
 }
 
@@ -288,10 +288,10 @@ void TestLibraryStore::gridBoundsAndAccent() {
   TestLibrary library;
   Brand brand = library.add("A");
   LibraryStore& store = library.start();
-  store.setTileSize(TileSize::large);
+  store.preferences().setTileSize(TileSize::large);
   QCOMPARE(store.gridMinWidth(), 176.0);
   QCOMPARE(store.gridMaxWidth(), 240.0);
-  store.setAssetDisplayMode(AssetDisplayMode::expanded);
+  store.preferences().setAssetDisplayMode(AssetDisplayMode::expanded);
   QCOMPARE(store.gridMinWidth(), 250.0);
   QCOMPARE(store.effectiveAccentHex(ColorUtil::Appearance::light), "#0A84FF");
   store.openDocument()->edit([](Brand& open) { open.accentHex = "#123456"; });
