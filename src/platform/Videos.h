@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QImage>
+#include <QSize>
+#include <QString>
+
+#include <optional>
+
+namespace tarnloft {
+
+struct VideoProperties {
+  std::optional<double> duration;  // seconds
+  std::optional<QSize> size;       // of the first video track, as stored; none without a track
+};
+
+// Reads clips. Files are foreign: a broken or hostile one is an absent result, takes bounded memory
+// and time, and nothing outside of the file is read. Any thread, several at a time.
+class Videos {
+ public:
+  virtual ~Videos() = default;
+
+  // None if the file is no clip at all.
+  virtual std::optional<VideoProperties> properties(const QString& path) = 0;
+
+  // The picture at `seconds` (the last one before its end if it is shorter), turned as the track
+  // tells, whose longer side is at most `maxPixel`.
+  virtual std::optional<QImage> frame(const QString& path, double seconds, int maxPixel) = 0;
+};
+
+}  // namespace tarnloft
