@@ -41,10 +41,6 @@ qsizetype insertionIndex(const List& list, const std::optional<QUuid>& before) {
   return index < 0 ? list.size() : index;
 }
 
-QString lastComponent(const QString& path) {
-  return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
-}
-
 }  // namespace
 
 void BrandDocument::mutate(const QString& actionName, UndoManager* undoManager,
@@ -108,7 +104,7 @@ Result<AssetRef> BrandDocument::importAsset(const QString& source) {
   if (auto copied = services_.files.copyFile(source, folder + QLatin1Char('/') + name); !copied) {
     return tl::unexpected(copied.error());
   }
-  return AssetRef{name, lastComponent(source)};
+  return AssetRef{name, lastPathComponent(source)};
 }
 
 Result<AssetRef> BrandDocument::importImageData(const QByteArray& data,

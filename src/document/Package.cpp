@@ -1,5 +1,6 @@
 #include "document/Package.h"
 
+#include "model/FileName.h"
 #include "model/Json.h"
 #include "model/Uuid.h"
 
@@ -56,6 +57,11 @@ QString fileNameFor(const QString& brandName) {
   QString name = brandName.trimmed();
   name.replace(QLatin1Char('/'), QLatin1Char('-')).replace(QLatin1Char(':'), QLatin1Char('-'));
   return name.isEmpty() ? QStringLiteral("Untitled Brand") : name;
+}
+
+bool isPackagePath(const QString& path) {
+  const QString extension = pathExtension(path);
+  return extension == QLatin1String("tarnloft") || extension == QLatin1String("yewstack");
 }
 
 QString uniquePackageURL(const FileStore& files, const QString& folder, const QString& name) {

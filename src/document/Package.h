@@ -17,6 +17,9 @@ QString newAssetName(const QString& extension);
 // The folder that a file stands in.
 QString folderOf(const QString& path);
 
+// True for the path of a package, of the present extension or the former one, in that case exactly.
+bool isPackagePath(const QString& path);
+
 // A package path in the folder that is still free, made from a brand's name: "Acme.tarnloft", then
 // "Acme 2.tarnloft" and so on.
 QString uniquePackageURL(const FileStore& files, const QString& folder, const QString& name);

@@ -60,6 +60,12 @@ class LibraryStore : public QObject {
   void deleteBrand(const BrandSummary& brand);
   // Selects the brand, asks where to and publishes its page.
   void exportBrandPage(const BrandSummary& brand);
+  // Asks where to, writes the package as a zip and shows it.
+  void exportBrand(const BrandSummary& brand);
+  void exportSelectedBrand();
+  // Asks for an archive or a package and adds it as a brand with an id of its own, named after its
+  // package; selects it. An archive without a whole package in it adds nothing.
+  void importBrand();
 
   // --- Preferences
 
@@ -110,6 +116,10 @@ class LibraryStore : public QObject {
   void loadSelection();
   void setOpenDocument(std::unique_ptr<BrandDocument> document);
   void addPickedColor(const QString& hex);
+  void importBrandArchive(const QString& path);
+  void importArchivedPackage(const QString& archive, const QString& folder);
+  std::optional<QString> findYewstack(const QString& folder) const;
+  void finishImport(const QString& packageURL);
 
   const LibraryServices services_;
   LibraryPreferences preferences_;

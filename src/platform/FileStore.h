@@ -106,7 +106,10 @@ class FileStore {
 
   virtual Result<void> remove(const QString& path) = 0;
 
-  // Renames a folder; fails if anything stands at `target`.
+  // Removes a folder with all that is in it; links in it are removed, not followed.
+  virtual Result<void> removeFolder(const QString& path) = 0;
+
+  // Renames a file or folder on one file system; fails if anything stands at `target`.
   virtual Result<void> moveFolder(const QString& path, const QString& target) = 0;
 };
 

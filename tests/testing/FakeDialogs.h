@@ -18,6 +18,11 @@ class ScriptedDialogs : public FileDialogs {
     mimeType = type;
     return answer;
   }
+  QStringList openTypes;
+  std::optional<QString> openFileOrFolder(const QStringList& types) override {
+    openTypes = types;
+    return answer;
+  }
 };
 
 class ListedViewer : public FileViewer {

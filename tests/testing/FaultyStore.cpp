@@ -98,6 +98,10 @@ Result<void> FaultyStore::remove(const QString& path) {
   return step() ? PosixFileStore::remove(path) : tl::unexpected(fullDisk());
 }
 
+Result<void> FaultyStore::removeFolder(const QString& path) {
+  return step() ? PosixFileStore::removeFolder(path) : tl::unexpected(fullDisk());
+}
+
 Result<void> FaultyStore::moveFolder(const QString& path, const QString& target) {
   return step() ? PosixFileStore::moveFolder(path, target) : tl::unexpected(fullDisk());
 }

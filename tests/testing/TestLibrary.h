@@ -4,6 +4,7 @@
 #include "library/LibraryStore.h"
 #include "model/Json.h"
 #include "platform/desktop/IniPreferences.h"
+#include "platform/desktop/ZipArchiver.h"
 #include "testing/FakeDialogs.h"
 #include "testing/TestServices.h"
 
@@ -55,6 +56,7 @@ struct TestLibrary {
   ListedAppearance appearance;
   CountingBeep beep;
   FolderTrash trash{disk.path("trash")};
+  ZipArchiver archiver;
   ScriptedDialogs dialogs;
   ListedViewer viewer;
   std::function<void(std::optional<SampledColor>)> pendingPick;
@@ -67,10 +69,12 @@ struct TestLibrary {
             appearance,
             beep,
             trash,
+            archiver,
             dialogs,
             viewer,
             [this] { return std::make_unique<ScriptedSampler>(pendingPick); },
-            disk.folder.path()};
+            disk.folder.path(),
+            disk.path("tmp")};
   }
   // Starts the library anew, as a new run of the program would.
   LibraryStore& start() {

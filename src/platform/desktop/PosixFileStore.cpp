@@ -239,6 +239,16 @@ Result<void> PosixFileStore::remove(const QString& path) {
   return name ? done(::unlink(name->constData())) : systemFailure(EINVAL);
 }
 
+Result<void> PosixFileStore::removeFolder(const QString& path) {
+  struct stat info;
+  const auto name = native(path);
+  if (!name) return systemFailure(EINVAL);
+  if (::lstat(name->constData(), &info) != 0) return systemFailure(errno);
+  if (!S_ISDIR(info.st_mode)) return systemFailure(ENOTDIR);
+  if (QDir(path).removeRecursively()) return {};
+  return failure(ErrorKind::io, QStringLiteral("Some of the folder could not be removed"));
+}
+
 Result<void> PosixFileStore::moveFolder(const QString& path, const QString& target) {
   const auto from = native(path), to = native(target);
   if (!from || !to) return systemFailure(EINVAL);
