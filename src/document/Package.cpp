@@ -59,10 +59,9 @@ QString fileNameFor(const QString& brandName) {
   return name.isEmpty() ? QStringLiteral("Untitled Brand") : name;
 }
 
-bool isPackagePath(const QString& path) {
-  const QString extension = pathExtension(path);
-  return extension == QLatin1String("tarnloft") || extension == QLatin1String("yewstack");
-}
+QStringList pathExtensions() { return {QStringLiteral("tarnloft"), QStringLiteral("yewstack")}; }
+
+bool isPackagePath(const QString& path) { return pathExtensions().contains(pathExtension(path)); }
 
 QString uniquePackageURL(const FileStore& files, const QString& folder, const QString& name) {
   const QString base = folder + QLatin1Char('/') + fileNameFor(name);

@@ -17,7 +17,10 @@ QString newAssetName(const QString& extension);
 // The folder that a file stands in.
 QString folderOf(const QString& path);
 
-// True for the path of a package, of the present extension or the former one, in that case exactly.
+// The extensions of packages: the present one and the former.
+QStringList pathExtensions();
+
+// True for a path that ends in one of them, exactly.
 bool isPackagePath(const QString& path);
 
 // A package path in the folder that is still free, made from a brand's name: "Acme.tarnloft", then

@@ -37,7 +37,8 @@ void LibraryStore::exportSelectedBrand() {
 }
 
 void LibraryStore::importBrand() {
-  if (const auto path = services_.dialogs.openFileOrFolder({zipType})) importBrandArchive(*path);
+  const auto path = services_.dialogs.openFileOrFolder({zipType}, Package::pathExtensions());
+  if (path) importBrandArchive(*path);
 }
 
 void LibraryStore::importBrandArchive(const QString& path) {

@@ -19,7 +19,8 @@ class ScriptedDialogs : public FileDialogs {
     return answer;
   }
   QStringList openTypes;
-  std::optional<QString> openFileOrFolder(const QStringList& types) override {
+  std::optional<QString> openFileOrFolder(const QStringList& types,
+                                          const QStringList& /*extensions*/) override {
     openTypes = types;
     return answer;
   }
