@@ -1,7 +1,6 @@
 #include "assets/DropImport.h"
 
 #include "assets/ItemDrag.h"
-#include "assets/ItemLanding.h"
 #include "model/FileName.h"
 
 #include <QCoreApplication>
@@ -31,7 +30,8 @@ using SharedImport = std::shared_ptr<Import>;
 SharedImport begin(const ImportServices& services, const QUuid& section, BrandDocument& document) {
   const auto folder = document.assetFolder();
   if (!folder) return nullptr;
-  return std::make_shared<Import>(Import{services, *folder, ItemLanding(document, section)});
+  return std::make_shared<Import>(
+      Import{services, *folder, ItemLanding(document, section, services.addToClosed)});
 }
 
 // Runs `work` on a worker and `done` with its result on the main thread.
@@ -124,8 +124,8 @@ void importImage(const SharedImport& import, ItemLanding::Place place, const QBy
         return import->folder.write(data, base + QStringLiteral(".png"), QStringLiteral("png"));
       },
       [import, place, base](const Result<AssetRef>& asset) {
-        import->landing.land(place, asset ? std::optional(Item::create(ImagePayload{*asset, base}))
-                                          : std::nullopt);
+        import->landing.land(
+            place, asset ? std::optional(Item::create(ImagePayload{*asset, base})) : std::nullopt);
       });
 }
 
@@ -167,10 +167,10 @@ void importChosen(const ImportServices& services, const QStringList& paths, File
 }  // namespace
 
 const QSet<QString>& fontExtensions() {
-  static const QSet<QString> extensions{
-      QStringLiteral("otf"),  QStringLiteral("ttf"),   QStringLiteral("ttc"),
-      QStringLiteral("otc"),  QStringLiteral("woff"),  QStringLiteral("woff2"),
-      QStringLiteral("dfont")};
+  static const QSet<QString> extensions{QStringLiteral("otf"),  QStringLiteral("ttf"),
+                                        QStringLiteral("ttc"),  QStringLiteral("otc"),
+                                        QStringLiteral("woff"), QStringLiteral("woff2"),
+                                        QStringLiteral("dfont")};
   return extensions;
 }
 
@@ -195,8 +195,8 @@ void importFiles(const ImportServices& services, const QStringList& paths, Media
                section, document);
 }
 
-void importFontFiles(const ImportServices& services, const QStringList& paths,
-                     const QUuid& section, BrandDocument& document) {
+void importFontFiles(const ImportServices& services, const QStringList& paths, const QUuid& section,
+                     BrandDocument& document) {
   importChosen(services, paths, FileKind::font, section, document);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/BrandDocument.h"
+#include "assets/ItemLanding.h"
 #include "platform/ContentTypes.h"
 #include "platform/DroppedThing.h"
 #include "platform/Fonts.h"
@@ -15,12 +15,13 @@ struct ImportServices {
   const ContentTypes& types;
   Fonts& fonts;
   QThreadPool& workers;
+  AddToClosed addToClosed;
 };
 
 // Files and pictures become items of a section. Main thread; files are copied and read by the
 // workers, and an item comes into being, without an undo step, when its copy is whole. The items of
-// one call land in its order, at the section's end. All failures are silent: what can't be read, or
-// whose document or section has gone by then, makes no item.
+// one call land in its order, at the section's end, even when the document has been closed by then.
+// All failures are silent: what can't be read, or whose section has gone, makes no item.
 namespace DropImport {
 
 enum class MediaKind { image, video };
@@ -39,8 +40,8 @@ void importFiles(const ImportServices& services, const QStringList& paths, Media
                  const QUuid& section, BrandDocument& document);
 
 // Takes files that the user chose as fonts.
-void importFontFiles(const ImportServices& services, const QStringList& paths,
-                     const QUuid& section, BrandDocument& document);
+void importFontFiles(const ImportServices& services, const QStringList& paths, const QUuid& section,
+                     BrandDocument& document);
 
 }  // namespace DropImport
 }  // namespace tarnloft

@@ -13,9 +13,8 @@ DragItem provider(const QUuid& id, const QString& payloadType, DragItem base) {
 
 bool loadUUID(const DroppedThings& things, const QString& payloadType,
               const std::function<void(const QUuid&)>& done) {
-  const auto found = std::find_if(things.begin(), things.end(), [&](const auto& thing) {
-    return thing->conforms(payloadType);
-  });
+  const auto found = std::find_if(things.begin(), things.end(),
+                                  [&](const auto& thing) { return thing->conforms(payloadType); });
   if (found == things.end()) return false;
   (*found)->loadData(payloadType, [done](const std::optional<QByteArray>& bytes) {
     if (!bytes) return;

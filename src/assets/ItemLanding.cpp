@@ -13,7 +13,8 @@ void ItemLanding::land(Place place, std::optional<Item> item) {
   for (; next_ < slots_.size() && slots_[next_].landed; ++next_) {
     if (auto& landed = slots_[next_].item) ready << *std::exchange(landed, std::nullopt);
   }
-  if (document_) document_->addItems(ready, section_);
+  if (ready.isEmpty()) return;
+  document_ ? document_->addItems(ready, section_) : addToClosed_(packageURL_, section_, ready);
 }
 
 }  // namespace tarnloft

@@ -47,9 +47,8 @@ DragItem fileExportProvider(const DragServices& services, const BrandDocument& d
 DragItem makeDragProvider(const DragServices& services, const BrandDocument& document,
                           const Item& item) {
   const auto asset = item.exportableAsset();
-  return ItemDrag::provider(
-      item.id, ItemDrag::type,
-      asset ? fileExportProvider(services, document, *asset) : DragItem());
+  return ItemDrag::provider(item.id, ItemDrag::type,
+                            asset ? fileExportProvider(services, document, *asset) : DragItem());
 }
 
 QStringList exportURLs(FileStore& files, const BrandDocument& document, const Section& section,

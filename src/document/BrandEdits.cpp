@@ -105,9 +105,8 @@ Result<AssetRef> BrandDocument::importAsset(const QString& source) {
 Result<AssetRef> BrandDocument::importImageData(const QByteArray& data,
                                                 const QString& suggestedName,
                                                 const QString& extension) {
-  return assetFolder().and_then([&](const AssetFolder& folder) {
-    return folder.write(data, suggestedName, extension);
-  });
+  return assetFolder().and_then(
+      [&](const AssetFolder& folder) { return folder.write(data, suggestedName, extension); });
 }
 
 }  // namespace tarnloft

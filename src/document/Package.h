@@ -39,8 +39,7 @@ Result<void> makeFolder(FileStore& files, const QString& path, const QString& pa
 
 // The path of a file of `assets`, whether or not it is there, for those who need a path. A
 // `filename` that is not a plain file name, or a link that leads out of the package, is refused.
-Result<QString> assetPath(const FileStore& files, const QString& packageURL,
-                          const AssetRef& asset);
+Result<QString> assetPath(const FileStore& files, const QString& packageURL, const AssetRef& asset);
 
 // Opens a file of `assets`. A `filename` that is not a plain file name, or that leads out of the
 // package, is refused.
