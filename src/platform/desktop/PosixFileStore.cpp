@@ -163,9 +163,8 @@ Result<void> PosixFileStore::makeFolder(const QString& path) {
 }
 
 Result<QString> PosixFileStore::makeTemporaryFolder(const QString& name) {
-  const QString path = QDir::tempPath() + QLatin1Char('/') + name;
-  if (!native(path)) return systemFailure(EINVAL);
-  if (auto made = makeFolder(QDir::tempPath()); !made) return tl::unexpected(made.error());
+  const QString root = QDir::tempPath(), path = root + QLatin1Char('/') + name;
+  if (root.isEmpty() || !native(path)) return systemFailure(ENOENT);
   if (makePrivateFolder(QFile::encodeName(path))) return path;
   const QString own = path + QLatin1Char('-') + QString::number(::geteuid());
   return makePrivateFolder(QFile::encodeName(own)).map([&] { return own; });
