@@ -2,11 +2,12 @@
 
 #include "platform/desktop/LibavPicture.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 
 extern "C" {
-#include <libavutil/mathematics.h>
+#include <libavutil/common.h>
 }
 
 namespace tarnloft {
@@ -53,7 +54,7 @@ class FrameAtMoment {
       const bool isPast = begin == AV_NOPTS_VALUE || begin > moment_;
       if (isPast && shown_) return true;
       shown_ = std::exchange(next_, Frame(av_frame_alloc()));
-      if (isPast || begin + shown_->pkt_duration > moment_) return true;
+      if (isPast || av_sat_add64(begin, shown_->pkt_duration) > moment_) return true;
     }
     return false;
   }
