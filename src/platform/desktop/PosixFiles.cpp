@@ -99,6 +99,21 @@ Result<OpenFile> openRegularFile(const QString& path, Links links) {
   return OpenFile{std::move(file), info};
 }
 
+Result<QByteArray> contentOf(const OpenFile& file) {
+  QByteArray bytes(file.info.st_size, Qt::Uninitialized);
+  qsizetype filled = 0;
+  while (filled < bytes.size()) {
+    const ssize_t count =
+        ::pread(file.file.number(), bytes.data() + filled, size_t(bytes.size() - filled), filled);
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) return systemFailure(errno);
+    if (count == 0) break;  // cut short since it was opened
+    filled += count;
+  }
+  bytes.truncate(filled);
+  return bytes;
+}
+
 FileIdentity identityOf(const struct stat& info) {
   return {info.st_dev, info.st_ino, info.st_size, nanoseconds(info.st_mtim),
           nanoseconds(info.st_ctim)};

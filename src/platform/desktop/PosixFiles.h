@@ -47,6 +47,9 @@ enum class Links { follow, refuse };
 // Opens a regular file for reading. Never waits on a pipe or a device.
 Result<OpenFile> openRegularFile(const QString& path, Links links = Links::follow);
 
+// All bytes of a file that nothing was read from yet; memory for its whole size.
+Result<QByteArray> contentOf(const OpenFile& file);
+
 // Returns when the content is on the medium. Some file systems have no way to wait for that; there
 // is nothing more to do on them, and it counts as success.
 Result<void> synced(const Descriptor& file);
