@@ -1,17 +1,14 @@
 #include "platform/desktop/FreeTypeFonts.h"
+#include "testing/DrawnText.h"
 #include "testing/TestServices.h"
 
-#include <QFont>
 #include <QGuiApplication>
-#include <QImage>
-#include <QPainter>
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTest>
 #include <QThread>
 #include <QtEndian>
 
-#include <algorithm>
 #include <memory>
 #include <sys/stat.h>
 
@@ -40,35 +37,6 @@ class TestFonts : public QObject {
 namespace {
 
 const QString fixtures = QStringLiteral(FONT_FIXTURES "/");
-constexpr int em = 200;  // pixels; a fixture's "A" is then a box 140 high
-
-QRect inkOf(const QImage& picture) {
-  QRect ink;
-  for (int y = 0; y < picture.height(); ++y) {
-    for (int x = 0; x < picture.width(); ++x) {
-      if (qGray(picture.pixel(x, y)) < 128) ink |= QRect(x, y, 1, 1);
-    }
-  }
-  return ink;
-}
-
-// Where ink falls when "A" is drawn at (0, em).
-QRect drawnBox(const QString& family, QFont::Weight weight = QFont::Normal) {
-  QFont font;
-  font.setFamilies({family});
-  font.setPixelSize(em);
-  font.setWeight(weight);
-  QImage picture(2 * em, 2 * em, QImage::Format_RGB32);
-  picture.fill(Qt::white);
-  QPainter painter(&picture);
-  painter.setFont(font);
-  painter.drawText(QPointF(0, em), QStringLiteral("A"));
-  painter.end();
-  return inkOf(picture);
-}
-
-// The box of the fixture whose "A" is `width` thousandths of the em wide.
-QRect boxOfWidth(int width) { return {em / 10, em * 3 / 10, width * em / 1000, em * 7 / 10}; }
 
 }  // namespace
 
@@ -249,9 +217,8 @@ void TestFonts::survivesDamage() {
   }
 }
 
-// Fonts can be drawn without a display.
 int main(int argc, char** argv) {
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  useNoDisplay();
   const QGuiApplication application(argc, argv);
   TestFonts test;
   return QTest::qExec(&test, argc, argv);
