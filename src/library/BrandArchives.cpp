@@ -47,7 +47,7 @@ void LibraryStore::importBrandArchive(const QString& path) {
     const QString folder = services_.temporaryFolder + QStringLiteral("/ys-import-") +
                            canonicalString(QUuid::createUuid());
     importArchivedPackage(path, folder);
-    (void)files.removeTree(folder);
+    (void)files.removeFolder(folder);
     return;
   }
   const QString target =

@@ -103,8 +103,8 @@ Result<void> FaultyStore::remove(const QString& path) {
   return step() ? PosixFileStore::remove(path) : tl::unexpected(fullDisk());
 }
 
-Result<void> FaultyStore::removeTree(const QString& path) {
-  return step() ? PosixFileStore::removeTree(path) : tl::unexpected(fullDisk());
+Result<void> FaultyStore::removeFolder(const QString& path) {
+  return step() ? PosixFileStore::removeFolder(path) : tl::unexpected(fullDisk());
 }
 
 Result<void> FaultyStore::moveFolder(const QString& path, const QString& target) {

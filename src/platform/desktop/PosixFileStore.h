@@ -22,7 +22,7 @@ class PosixFileStore : public FileStore {
   Result<void> replace(FileWriter& temporary, const QString& target) override;
   Result<void> syncFolder(const QString& path) override;
   Result<void> remove(const QString& path) override;
-  Result<void> removeTree(const QString& path) override;
+  Result<void> removeFolder(const QString& path) override;
   Result<void> moveFolder(const QString& path, const QString& target) override;
 
  private:
