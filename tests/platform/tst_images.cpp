@@ -46,6 +46,7 @@ class TestImages : public QObject {
  private slots:
   void readsEachKind_data();
   void readsEachKind();
+  void readsAsTheToolkitDoes();
   void readsEachDepth_data();
   void readsEachDepth();
   void tellsResolutions_data();
@@ -106,6 +107,16 @@ void TestImages::readsEachKind() {
   QCOMPARE(thumbnail->hasAlphaChannel(), isClear);
   const int difference = differenceAtCells(*thumbnail, isClear ? clearChart() : Chart::image());
   QVERIFY2(difference <= tolerance, qPrintable(QString::number(difference)));
+}
+
+void TestImages::readsAsTheToolkitDoes() {
+  for (const char* name : {"chart.gif", "gray.jpg", "interlaced.png"}) {
+    const QString path = pictureFixture(name);
+    const auto thumbnail = images_.thumbnail(path, 512);
+    QVERIFY(thumbnail);
+    QVERIFY(differenceAtCells(*thumbnail, QImage(path)) <= 1);
+    QCOMPARE(images_.properties(path)->hasAlpha, QImage(path).hasAlphaChannel());
+  }
 }
 
 void TestImages::readsEachDepth_data() {
