@@ -1,61 +1,16 @@
 // Whole runs of the program beside references: the page of a package with 1 GB of assets, and the
 // start for a small page.
+#include "Process.h"
 #include "Ratio.h"
 #include "document/Package.h"
 #include "model/Json.h"
 #include "testing/TestServices.h"
 
-#include <QElapsedTimer>
 #include <QRandomGenerator>
-
-#include <algorithm>
-#include <fcntl.h>
-#include <functional>
-#include <spawn.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <vector>
 
 using namespace tarnloft;
 
-extern char** environ;
-
 namespace {
-
-struct Cost {
-  double seconds = 0;
-  double peakMegabytes = 0;
-};
-
-// Runs a program to its end; stops the benchmark if it fails.
-Cost run(const std::vector<QByteArray>& command) {
-  std::vector<char*> arguments;
-  for (const QByteArray& word : command) arguments.push_back(const_cast<char*>(word.constData()));
-  arguments.push_back(nullptr);
-  QElapsedTimer clock;
-  clock.start();
-  pid_t child = 0;
-  int status = 1;
-  rusage usage{};
-  if (::posix_spawnp(&child, arguments[0], nullptr, nullptr, arguments.data(), environ) != 0 ||
-      ::wait4(child, &status, 0, &usage) < 0 || status != 0) {
-    std::fprintf(stderr, "%s failed\n", arguments[0]);
-    std::exit(1);
-  }
-  return {double(clock.nsecsElapsed()) / 1e9, double(usage.ru_maxrss) / 1024};
-}
-
-template <class Value>
-double medianOf(std::vector<Cost> costs, Value&& value) {
-  std::vector<double> values;
-  for (const Cost& cost : costs) values.push_back(value(cost));
-  std::sort(values.begin(), values.end());
-  return values[values.size() / 2];
-}
-
-double medianSeconds(const std::vector<Cost>& costs) {
-  return medianOf(costs, [](const Cost& cost) { return cost.seconds; });
-}
 
 // Eight pictures of 128 MB of random bytes.
 QByteArray largePackage(const TestServices& disk) {
@@ -95,7 +50,7 @@ void benchLargePage() {
     run({"sync"});
     copies.push_back(run({"cp", page, copy}));
   }
-  const double peak = medianOf(exports, [](const Cost& cost) { return cost.peakMegabytes; });
+  const double peak = medianPeak(exports);
   std::printf("\nA page of %.2f GB: %.2f s, cp %.2f s, peak memory %.1f MB (aim: under 64 MB) %s\n",
               double(QFileInfo(QFile::decodeName(page)).size()) / 1e9, medianSeconds(exports),
               medianSeconds(copies), peak, peak < 64 ? "met" : "MISSED");
