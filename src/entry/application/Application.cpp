@@ -1,4 +1,5 @@
 #include "entry/ApplicationModule.h"
+#include "entry/media/LateMedia.h"
 #include "entry/selftest/SelfTest.h"
 #include "platform/desktop/PosixFileStore.h"
 #include "platform/desktop/Syslog.h"
@@ -13,7 +14,8 @@ int tarnloftSelfTest(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
   PosixFileStore files;
   Syslog log;
-  return SelfTest::run({files, log}) ? 0 : 1;
+  LateImages images;
+  return SelfTest::run({files, log}, images) ? 0 : 1;
 }
 
 int tarnloftApplication(int /*argc*/, char** /*argv*/) {
