@@ -78,13 +78,18 @@ function(tarnloft_qml_module target name)
     COMPILE_OPTIONS "-Wno-shadow;-Wno-old-style-cast;-Wno-unused-variable;-Wno-unused-but-set-variable")
 endfunction()
 
-# One test program: NAME.cpp, the layers that it tests, and the shared helpers.
+# One test program: NAME.cpp, the layers that it tests, and the shared helpers. With DISPLAY it runs
+# with an X server and a session bus of its own.
 function(tarnloft_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS;DEFINITIONS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "DISPLAY" "" "LINKS;DEFINITIONS")
   list(TRANSFORM arg_LINKS PREPEND tarnloft_)
   add_executable(${name} ${name}.cpp)
   target_link_libraries(${name} PRIVATE Qt6::Test tarnloft_testing ${arg_LINKS})
   target_compile_definitions(${name} PRIVATE ${arg_DEFINITIONS})
-  add_test(NAME ${name} COMMAND ${name})
+  set(launcher "")
+  if(arg_DISPLAY)
+    set(launcher ${CMAKE_SOURCE_DIR}/tests/testing/with-display)
+  endif()
+  add_test(NAME ${name} COMMAND ${launcher} $<TARGET_FILE:${name}>)
   set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT "QTEST_DISABLE_STACK_DUMP=1")
 endfunction()

@@ -12,10 +12,10 @@ below.document = ['platform', ...below.platform];
 below.publish = ['document', ...below.document];
 below.library = ['publish', ...below.publish];
 below.assets = ['library', ...below.library];
-below.workspace = ['assets', ...below.assets];
 below.sheets = ['assets', ...below.assets];
-below.shell = ['workspace', 'sheets', ...below.workspace];
-below.quickgrab = ['workspace', 'sheets', ...below.workspace];
+below.workspace = ['sheets', ...below.sheets];
+below.shell = ['workspace', ...below.workspace];
+below.quickgrab = ['workspace', ...below.workspace];
 below.entry = ['shell', 'quickgrab', ...below.shell];
 const controlsUsers = new Set(['workspace', 'sheets', 'shell', 'quickgrab', 'entry']);
 

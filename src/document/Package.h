@@ -17,6 +17,12 @@ QString newAssetName(const QString& extension);
 // The folder that a file stands in.
 QString folderOf(const QString& path);
 
+// The extensions of packages: the present one and the former.
+QStringList pathExtensions();
+
+// True for a path that ends in one of them, exactly.
+bool isPackagePath(const QString& path);
+
 // A package path in the folder that is still free, made from a brand's name: "Acme.tarnloft", then
 // "Acme 2.tarnloft" and so on.
 QString uniquePackageURL(const FileStore& files, const QString& folder, const QString& name);
@@ -36,6 +42,10 @@ Result<ReadFile> readJson(const FileStore& files, const QString& path, const QSt
 
 // Makes a folder of the package, such as `assets`; refuses one that leads out of it.
 Result<void> makeFolder(FileStore& files, const QString& path, const QString& packageURL);
+
+// The path of a file of `assets`, whether or not it is there, for those who need a path. A
+// `filename` that is not a plain file name, or a link that leads out of the package, is refused.
+Result<QString> assetPath(const FileStore& files, const QString& packageURL, const AssetRef& asset);
 
 // Opens a file of `assets`. A `filename` that is not a plain file name, or that leads out of the
 // package, is refused.

@@ -1,5 +1,7 @@
-#include "entry/Main.h"
-
+#include "entry/ApplicationModule.h"
+#include "entry/QuickModes.h"
+#include "entry/SupportFolder.h"
+#include "model/ItemPayload.h"
 #include "platform/desktop/PosixFileStore.h"
 #include "platform/desktop/Syslog.h"
 
@@ -8,10 +10,13 @@
 
 #include <clocale>
 #include <cstdio>
+#include <dlfcn.h>
 #include <langinfo.h>
 #include <pwd.h>
 #include <string_view>
 #include <unistd.h>
+
+using namespace tarnloft;
 
 namespace {
 
@@ -34,9 +39,12 @@ QString argumentText(const char* argument) {
   return QFile::encodeName(text) == argument ? text : QString();
 }
 
-int startApplication() {
-  std::fputs("Tarn Loft: this version has no window yet; see --export-page in the README.\n",
-             stderr);
+// Looks beside the program and where packages put such modules.
+int runInModule(const char* entryName, int argc, char** argv) {
+  void* const module = ::dlopen("libtarnloft-application.so", RTLD_NOW | RTLD_LOCAL);
+  void* const entry = module ? ::dlsym(module, entryName) : nullptr;
+  if (entry) return reinterpret_cast<TarnLoftEntry>(entry)(argc, argv);
+  std::fprintf(stderr, "Tarn Loft: %s\n", ::dlerror());
   return 1;
 }
 
@@ -47,8 +55,19 @@ int main(int argc, char* argv[]) {
   useHomeFolder();
   QStringList arguments;
   for (int i = 0; i < argc; ++i) arguments << argumentText(argv[i]);
-  const QCoreApplication application(argc, argv);
-  tarnloft::PosixFileStore files;
-  tarnloft::Syslog log;
-  return tarnloft::Main::run(arguments, {files, log}, startApplication);
+  PosixFileStore files;
+  Syslog log;
+  SupportFolder::migrateIfNeeded(files, log);
+  const auto quickly = [&](auto&& run, const auto& mode) {
+    const QCoreApplication application(argc, argv);
+    return run(mode, DocumentServices{files, log}) ? 0 : 1;
+  };
+  return std::visit(
+      Overloaded{
+          [&](const SelfTestMode&) { return runInModule("tarnloftSelfTest", argc, argv); },
+          [&](const PageExportMode& mode) { return quickly(QuickModes::exportPage, mode); },
+          [&](const LogoSeedingMode& mode) { return quickly(QuickModes::seedLogo, mode); },
+          [&](const ApplicationMode&) { return runInModule("tarnloftApplication", argc, argv); },
+      },
+      modeOf(arguments));
 }

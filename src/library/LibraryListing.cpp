@@ -27,8 +27,8 @@ BrandSummary summaryOf(const FileStore& files, const QString& packageURL) {
     return {packageURL,       brand->name,          brand->emblem,
             brand->accentHex, brand->accentHexDark, brand->id};
   }
-  const QString folderName = packageURL.mid(packageURL.lastIndexOf(QLatin1Char('/')) + 1);
-  return {packageURL, withoutPathExtension(folderName), {}, {}, {}, QUuid::createUuid()};
+  const QString name = withoutPathExtension(lastPathComponent(packageURL));
+  return {packageURL, name, {}, {}, {}, QUuid::createUuid()};
 }
 
 // A bare C locale has no order of letters beyond their codes; English has a sensible one.
@@ -55,8 +55,7 @@ QHash<QUuid, qsizetype> positionsOf(const QList<QUuid>& order) {
 QList<BrandSummary> LibraryListing::read(const FileStore& files, const QString& folder) {
   QList<BrandSummary> rows;
   for (const QString& name : files.list(folder).value_or(QStringList())) {
-    const QString extension = pathExtension(name);
-    if (extension != presentExtension && extension != legacyExtension) continue;
+    if (!Package::isPackagePath(name)) continue;
     rows << summaryOf(files, folder + QLatin1Char('/') + name);
   }
   return rows;

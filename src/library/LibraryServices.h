@@ -2,6 +2,7 @@
 
 #include "document/DocumentServices.h"
 #include "platform/Appearance.h"
+#include "platform/Archiver.h"
 #include "platform/Beep.h"
 #include "platform/ColorSampler.h"
 #include "platform/FileDialogs.h"
@@ -21,11 +22,14 @@ struct LibraryServices {
   Appearance& appearance;
   Beep& beep;
   Trash& trash;
+  Archiver& archiver;
   FileDialogs& dialogs;
   FileViewer& viewer;
   std::function<std::unique_ptr<ColorSampler>()> makeColorSampler;
   // The user's folder for the data of applications.
   QString applicationSupport;
+  // The user's folder for files of the moment.
+  QString temporaryFolder;
 };
 
 }  // namespace tarnloft

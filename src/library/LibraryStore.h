@@ -46,6 +46,10 @@ class LibraryStore : public QObject {
   // Null if none is open. Owned by the store; it goes with the next selection.
   BrandDocument* openDocument() const { return openDocument_.get(); }
 
+  // Appends items to a section of a package that was open when their making began, whether or not
+  // it still is. A package that is gone loses them.
+  void addItems(const QString& packageURL, const QUuid& section, const QList<Item>& items);
+
   // --- Brands that come and go. Each does its work on the disk, scans and moves the selection.
 
   // Makes a brand, selects it and gives its document; null, with a line in the system log, if its
@@ -60,6 +64,12 @@ class LibraryStore : public QObject {
   void deleteBrand(const BrandSummary& brand);
   // Selects the brand, asks where to and publishes its page.
   void exportBrandPage(const BrandSummary& brand);
+  // Asks where to, writes the package as a zip and shows it.
+  void exportBrand(const BrandSummary& brand);
+  void exportSelectedBrand();
+  // Asks for an archive or a package and adds it as a brand with an id of its own, named after its
+  // package; selects it. An archive without a whole package in it adds nothing.
+  void importBrand();
 
   // --- Preferences
 
@@ -110,6 +120,10 @@ class LibraryStore : public QObject {
   void loadSelection();
   void setOpenDocument(std::unique_ptr<BrandDocument> document);
   void addPickedColor(const QString& hex);
+  void importBrandArchive(const QString& path);
+  void importArchivedPackage(const QString& archive, const QString& folder);
+  std::optional<QString> findYewstack(const QString& folder) const;
+  void finishImport(const QString& packageURL);
 
   const LibraryServices services_;
   LibraryPreferences preferences_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -15,6 +16,11 @@ class FileDialogs {
   // cancels.
   virtual std::optional<QString> savePath(const QString& suggestedName,
                                           const QString& mimeType) = 0;
+
+  // Asks for one thing that exists: a file of one of the types, or a folder whose name has one of
+  // the extensions. None if the user cancels.
+  virtual std::optional<QString> openFileOrFolder(const QStringList& mimeTypes,
+                                                  const QStringList& folderExtensions) = 0;
 };
 
 }  // namespace tarnloft

@@ -18,6 +18,12 @@ class ScriptedDialogs : public FileDialogs {
     mimeType = type;
     return answer;
   }
+  QStringList openTypes;
+  std::optional<QString> openFileOrFolder(const QStringList& types,
+                                          const QStringList& /*extensions*/) override {
+    openTypes = types;
+    return answer;
+  }
 };
 
 class ListedViewer : public FileViewer {

@@ -4,6 +4,7 @@
 #include "library/LibraryStore.h"
 #include "model/Json.h"
 #include "platform/desktop/IniPreferences.h"
+#include "platform/desktop/ZipArchiver.h"
 #include "testing/FakeDialogs.h"
 #include "testing/TestServices.h"
 
@@ -51,10 +52,12 @@ class FolderTrash : public Trash {
 // A library folder on the real disk, with its preferences in a real file.
 struct TestLibrary {
   TestServices disk;
+  FileStore* files = &disk.files;  // a test may put a faulty one in
   IniPreferences preferences{disk.path("tarnloft.ini")};
   ListedAppearance appearance;
   CountingBeep beep;
   FolderTrash trash{disk.path("trash")};
+  ZipArchiver archiver;
   ScriptedDialogs dialogs;
   ListedViewer viewer;
   std::function<void(std::optional<SampledColor>)> pendingPick;
@@ -62,15 +65,17 @@ struct TestLibrary {
   std::unique_ptr<LibraryStore> store;
 
   LibraryServices services() {
-    return {disk.services(),
+    return {{*files, disk.log, [this] { return disk.now; }},
             preferences,
             appearance,
             beep,
             trash,
+            archiver,
             dialogs,
             viewer,
             [this] { return std::make_unique<ScriptedSampler>(pendingPick); },
-            disk.folder.path()};
+            disk.folder.path(),
+            disk.path("tmp")};
   }
   // Starts the library anew, as a new run of the program would.
   LibraryStore& start() {

@@ -21,12 +21,6 @@ using namespace posix;
 
 namespace {
 
-// The path as the system takes it. The system would end it at a NUL, and so name another file.
-std::optional<QByteArray> native(const QString& path) {
-  if (path.isEmpty() || path.contains(QChar(u'\0'))) return std::nullopt;
-  return QFile::encodeName(path);
-}
-
 bool liesInside(const QString& canonicalPath, const QString& root) {
   const QString canonicalRoot = QFileInfo(root).canonicalFilePath();
   return !canonicalRoot.isEmpty() && canonicalPath.startsWith(canonicalRoot + QLatin1Char('/'));
@@ -74,6 +68,16 @@ Result<void> setRightsAndTimes(const QByteArray& path, const struct stat& info) 
   (void)::chmod(path.constData(), info.st_mode & 0777);
   (void)::utimensat(AT_FDCWD, path.constData(), times, 0);
   return {};
+}
+
+// Makes a folder that only the user can enter, or makes one of the user's such.
+Result<void> makePrivateFolder(const QByteArray& path) {
+  if (::mkdir(path.constData(), 0700) == 0) return {};
+  if (errno != EEXIST) return systemFailure(errno);
+  struct stat info;
+  if (::lstat(path.constData(), &info) != 0) return systemFailure(errno);
+  if (!S_ISDIR(info.st_mode) || info.st_uid != ::geteuid()) return systemFailure(EEXIST);
+  return (info.st_mode & 077) == 0 ? Result<void>() : done(::chmod(path.constData(), 0700));
 }
 
 // A file without a name can be given one only through it.
@@ -125,13 +129,9 @@ Result<std::unique_ptr<FileReader>> PosixFileStore::open(const QString& path,
   if (!liesInside(canonicalPath, root)) {
     return failure(ErrorKind::refused, QStringLiteral("The file is outside of its package"));
   }
-  Descriptor file(::open(QFile::encodeName(canonicalPath).constData(),
-                         O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
-  if (!file.isOpen()) return systemFailure(errno);
-  struct stat info;
-  if (::fstat(file.number(), &info) != 0) return systemFailure(errno);
-  if (!S_ISREG(info.st_mode)) return failure(ErrorKind::refused, QStringLiteral("Not a file"));
-  return makeReader(std::move(file), info);
+  auto opened = openRegularFile(canonicalPath, Links::refuse);
+  if (!opened) return tl::unexpected(opened.error());
+  return makeReader(std::move(opened->file), opened->info);
 }
 
 Result<QString> PosixFileStore::resolved(const QString& path) const {
@@ -152,21 +152,26 @@ Result<void> PosixFileStore::makeFolder(const QString& path) {
   return makeFolder(parent).and_then([&] { return makeFolder(path); });
 }
 
+Result<QString> PosixFileStore::makeTemporaryFolder(const QString& name) {
+  const QString root = QDir::tempPath(), path = root + QLatin1Char('/') + name;
+  if (root.isEmpty() || !native(path)) return systemFailure(ENOENT);
+  if (makePrivateFolder(QFile::encodeName(path))) return path;
+  const QString own = path + QLatin1Char('-') + QString::number(::geteuid());
+  return makePrivateFolder(QFile::encodeName(own)).map([&] { return own; });
+}
+
 Result<void> PosixFileStore::copyFile(const QString& source, const QString& target) {
-  const auto from = native(source), to = native(target);
-  if (!from || !to) return systemFailure(EINVAL);
-  const Descriptor in(::open(from->constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-  if (!in.isOpen()) return systemFailure(errno);
-  struct stat info;
-  if (::fstat(in.number(), &info) != 0) return systemFailure(errno);
-  if (!S_ISREG(info.st_mode)) return failure(ErrorKind::refused, QStringLiteral("Not a file"));
+  const auto to = native(target);
+  if (!to) return systemFailure(EINVAL);
+  const auto in = openRegularFile(source);
+  if (!in) return tl::unexpected(in.error());
   const Descriptor out(::open(to->constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, newFileMode));
   if (!out.isOpen()) return systemFailure(errno);
-  if (auto copied = copyContent(in, out); !copied) {
+  if (auto copied = copyContent(in->file, out); !copied) {
     (void)::unlink(to->constData());
     return copied;
   }
-  return setRightsAndTimes(*to, info);
+  return setRightsAndTimes(*to, in->info);
 }
 
 Result<void> PosixFileStore::copyFolder(const QString& source, const QString& target) {
@@ -237,6 +242,16 @@ Result<void> PosixFileStore::syncFolder(const QString& path) {
 Result<void> PosixFileStore::remove(const QString& path) {
   const auto name = native(path);
   return name ? done(::unlink(name->constData())) : systemFailure(EINVAL);
+}
+
+Result<void> PosixFileStore::removeFolder(const QString& path) {
+  struct stat info;
+  const auto name = native(path);
+  if (!name) return systemFailure(EINVAL);
+  if (::lstat(name->constData(), &info) != 0) return systemFailure(errno);
+  if (!S_ISDIR(info.st_mode)) return systemFailure(ENOTDIR);
+  if (QDir(path).removeRecursively()) return {};
+  return failure(ErrorKind::io, QStringLiteral("Some of the folder could not be removed"));
 }
 
 Result<void> PosixFileStore::moveFolder(const QString& path, const QString& target) {

@@ -15,12 +15,14 @@ class PosixFileStore : public FileStore {
   Result<std::unique_ptr<FileReader>> open(const QString& path, const QString& root) const override;
   Result<QString> resolved(const QString& path) const override;
   Result<void> makeFolder(const QString& path) override;
+  Result<QString> makeTemporaryFolder(const QString& name) override;
   Result<void> copyFile(const QString& source, const QString& target) override;
   Result<void> copyFolder(const QString& source, const QString& target) override;
   Result<std::unique_ptr<FileWriter>> createTemporary(const QString& target) override;
   Result<void> replace(FileWriter& temporary, const QString& target) override;
   Result<void> syncFolder(const QString& path) override;
   Result<void> remove(const QString& path) override;
+  Result<void> removeFolder(const QString& path) override;
   Result<void> moveFolder(const QString& path, const QString& target) override;
 
  private:

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/Pasteboard.h"
+
+namespace tarnloft {
+
+// Needs a Gui application.
+class DesktopPasteboard : public Pasteboard {
+ public:
+  void setText(const QString& text) override;
+};
+
+}  // namespace tarnloft

@@ -1,0 +1,234 @@
+#include "platform/desktop/window/DesktopColorSampler.h"
+#include "platform/desktop/window/DesktopFileDialogs.h"
+#include "platform/desktop/window/DesktopFileViewer.h"
+
+#include <QApplication>
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusContext>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QPainter>
+#include <QProcess>
+#include <QRasterWindow>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+using namespace tarnloft;
+
+// The desktop's services against a session bus and a screen of the test's own.
+class TestWindow : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void revealsByTheFileManager();
+  void opensTheFolderWithoutAFileManager();
+  void picksByThePortal_data();
+  void picksByThePortal();
+  void picksFromTheScreen_data();
+  void picksFromTheScreen();
+  void choosesFilesAndPackages_data();
+  void choosesFilesAndPackages();
+};
+
+// --- The other side of the bus
+
+class FakeFileManager : public QObject {
+  Q_OBJECT
+  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.FileManager1")
+
+ public:
+  QStringList shown;
+
+ public slots:
+  void ShowItems(const QStringList& urls, const QString& /*startup*/) { shown << urls; }
+};
+
+class FakePortal : public QObject, protected QDBusContext {
+  Q_OBJECT
+  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Screenshot")
+
+ public:
+  uint response = 0;
+
+ public slots:
+  QDBusObjectPath PickColor(const QString& /*window*/, const QVariantMap& options) {
+    QString sender = message().service().mid(1);
+    const QString path = "/org/freedesktop/portal/desktop/request/" + sender.replace('.', '_') +
+                         '/' + options.value("handle_token").toString();
+    const QDBusConnection bus = connection();
+    QTimer::singleShot(0, this, [this, path, bus] { answer(path, bus); });
+    return QDBusObjectPath(path);
+  }
+
+ private:
+  void answer(const QString& path, QDBusConnection bus) const {
+    QDBusArgument color;
+    color.beginStructure();
+    color << 1.0 << 0.5 << 0.25;
+    color.endStructure();
+    QDBusMessage signal =
+        QDBusMessage::createSignal(path, "org.freedesktop.portal.Request", "Response");
+    signal << response << QVariantMap{{"color", QVariant::fromValue(color)}};
+    bus.send(signal);
+  }
+};
+
+namespace {
+
+// A service of another program, as far as the bus knows.
+struct Service {
+  QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "other");
+  QString name;
+
+  Service(const QString& serviceName, const QString& path, QObject* object) : name(serviceName) {
+    if (!bus.registerObject(path, object, QDBusConnection::ExportAllSlots) ||
+        !bus.registerService(name)) {
+      qFatal("no session bus");
+    }
+  }
+  ~Service() { bus.unregisterService(name); }
+  Q_DISABLE_COPY_MOVE(Service)
+};
+
+class FolderListingViewer : public DesktopFileViewer {
+ public:
+  QStringList opened;
+
+ protected:
+  void openFolder(const QString& path) override { opened << path; }
+};
+
+class Plain : public QRasterWindow {
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QPainter(this).fillRect(QRect(QPoint(), size()), QColor(0xcc, 0x33, 0x11));
+  }
+};
+
+bool xdotool(const QStringList& arguments) { return QProcess::execute("xdotool", arguments) == 0; }
+
+struct Pick {
+  int calls = 0;
+  std::optional<SampledColor> color;
+  DesktopColorSampler sampler;
+
+  void start() {
+    sampler.show([this](std::optional<SampledColor> picked) {
+      ++calls;
+      color = picked;
+    });
+  }
+};
+
+}  // namespace
+
+void TestWindow::revealsByTheFileManager() {
+  FakeFileManager manager;
+  const Service service("org.freedesktop.FileManager1", "/org/freedesktop/FileManager1", &manager);
+  const QTemporaryDir folder;
+  QFile file(folder.filePath(QStringLiteral("Acmé & 北.zip")));
+  QVERIFY(file.open(QIODevice::WriteOnly));
+  FolderListingViewer viewer;
+  viewer.reveal(file.fileName());
+  viewer.reveal(folder.filePath("missing"));
+  QTRY_COMPARE(manager.shown.size(), 1);
+  QCOMPARE(QUrl::fromEncoded(manager.shown.first().toLatin1()).toLocalFile(), file.fileName());
+  QVERIFY(viewer.opened.isEmpty());
+}
+
+void TestWindow::opensTheFolderWithoutAFileManager() {
+  const QTemporaryDir folder;
+  FolderListingViewer viewer;
+  viewer.reveal(folder.path());
+  QTRY_COMPARE(viewer.opened, QStringList(QFileInfo(folder.path()).path()));
+}
+
+void TestWindow::picksByThePortal_data() {
+  QTest::addColumn<uint>("response");
+  QTest::addColumn<bool>("picked");
+  QTest::newRow("picked") << 0u << true;
+  QTest::newRow("cancelled") << 1u << false;
+}
+
+void TestWindow::picksByThePortal() {
+  FakePortal portal;
+  QFETCH(uint, response);
+  portal.response = response;
+  const Service service("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
+                        &portal);
+  Pick pick;
+  pick.start();
+  QTRY_COMPARE(pick.calls, 1);
+  QTEST(pick.color.has_value(), "picked");
+  if (!pick.color) return;
+  QCOMPARE(pick.color->red, 1.0);
+  QCOMPARE(pick.color->green, 0.5);
+  QCOMPARE(pick.color->blue, 0.25);
+}
+
+void TestWindow::picksFromTheScreen_data() {
+  QTest::addColumn<QStringList>("gesture");
+  QTest::addColumn<bool>("picked");
+  QTest::newRow("click") << QStringList{"click", "1"} << true;
+  QTest::newRow("Esc") << QStringList{"key", "Escape"} << false;
+  QTest::newRow("other button") << QStringList{"click", "3"} << false;
+}
+
+void TestWindow::picksFromTheScreen() {
+  QFETCH(QStringList, gesture);
+  Plain window;
+  window.setGeometry(100, 100, 200, 200);
+  window.show();
+  QVERIFY(QTest::qWaitForWindowExposed(&window));
+  QTest::qWait(100);
+  const qsizetype before = QGuiApplication::allWindows().size();
+  Pick pick;
+  pick.start();
+  QTRY_VERIFY(QGuiApplication::allWindows().size() > before);
+  QTest::qWait(200);
+  QVERIFY(xdotool(QStringList{"mousemove", "150", "160"} + gesture));
+  QTRY_COMPARE(pick.calls, 1);
+  QTEST(pick.color.has_value(), "picked");
+  if (!pick.color) return;
+  QCOMPARE(qRound(pick.color->red * 255), 0xcc);
+  QCOMPARE(qRound(pick.color->green * 255), 0x33);
+  QCOMPARE(qRound(pick.color->blue * 255), 0x11);
+}
+
+void TestWindow::choosesFilesAndPackages_data() {
+  QTest::addColumn<QString>("name");
+  QTest::addColumn<bool>("chosen");
+  QTest::newRow("archive") << "a.zip" << true;
+  QTest::newRow("package") << "A.tarnloft" << true;
+  QTest::newRow("other folder") << "plain" << false;
+}
+
+void TestWindow::choosesFilesAndPackages() {
+  QFETCH(QString, name);
+  const QTemporaryDir folder;
+  QVERIFY(QDir(folder.path()).mkpath("A.tarnloft") && QDir(folder.path()).mkpath("plain"));
+  QFile file(folder.filePath("a.zip"));
+  QVERIFY(file.open(QIODevice::WriteOnly));
+  QTimer user;
+  user.callOnTimeout([&] {
+    auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    if (!dialog) return;
+    user.stop();
+    dialog->findChild<QLineEdit*>()->setText(folder.filePath(name));
+    QTest::keyClick(dialog->findChild<QLineEdit*>(), Qt::Key_Return);
+    QTimer::singleShot(200, dialog, &QDialog::reject);  // one that is still there
+  });
+  user.start(50);
+  const auto path = DesktopFileDialogs().openFileOrFolder({"application/zip"}, {"tarnloft"});
+  QTEST(path.has_value(), "chosen");
+  if (path) QCOMPARE(*path, folder.filePath(name));
+}
+
+QTEST_MAIN(TestWindow)
+#include "tst_window.moc"
