@@ -53,6 +53,7 @@ class FileWriter {
 // The one door to the disk. Each call is one step that either happened or didn't; procedures such
 // as `writeAtomically` are written above it, so that a test can cut them after each step. Paths are
 // absolute or relative to the working directory; an empty one, or one that holds a NUL, is refused.
+// Several threads may call the const members at once.
 class FileStore {
  public:
   virtual ~FileStore() = default;
