@@ -75,8 +75,9 @@ std::shared_ptr<ThumbnailLoader::Job> ThumbnailLoader::jobFor(const QString& pat
   const auto image = std::make_shared<std::optional<QImage>>();
   job->task = work_.start(
       [&images = images_, path, maxPixel, image] { *image = images.thumbnail(path, maxPixel); },
-      [job, image] {
-        if (job->loader) job->loader->finish(*job, *image);
+      [weak = std::weak_ptr(job), image] {
+        const auto wanted = weak.lock();
+        if (wanted && wanted->loader) wanted->loader->finish(*wanted, *image);
       });
   jobs_.insert(key, job);
   return job;
