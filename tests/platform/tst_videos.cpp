@@ -2,6 +2,7 @@
 #include "testing/TestServices.h"
 
 #include <QRandomGenerator>
+#include <QScopeGuard>
 #include <QTest>
 #include <QtEndian>
 
@@ -260,6 +261,9 @@ void TestVideos::readsNoOtherFile() {
   QFETCH(QByteArray, content);
   TestServices disk;
   QVERIFY(writeFile(disk.path("clip.ts"), clip("h264.ts")));
+  const QString before = QDir::currentPath();
+  const auto restore = qScopeGuard([&] { QDir::setCurrent(before); });
+  QVERIFY(QDir::setCurrent(disk.folder.path()));
   for (const char* name : {"a.mp4", "a.m3u8", "a.mpd", "a.sdp"}) {
     QVERIFY(writeFile(disk.path(QString::fromLatin1(name)), content));
     QVERIFY(!LibavVideos().properties(disk.path(QString::fromLatin1(name))));
