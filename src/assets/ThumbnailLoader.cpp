@@ -67,9 +67,9 @@ ThumbnailLoader::Request ThumbnailLoader::thumbnail(const QString& path, int max
 
 std::shared_ptr<ThumbnailLoader::Job> ThumbnailLoader::jobFor(const QString& path, int maxPixel) {
   const QString key = keyOf(path, maxPixel);
-  if (const auto job = jobs_.value(key)) {
-    work_.raise(job->task);
-    return job;
+  if (auto wanted = jobs_.value(key)) {
+    work_.raise(wanted->task);
+    return wanted;
   }
   auto job = std::make_shared<Job>(Job{this, key, {}, {}, 0});
   const auto image = std::make_shared<std::optional<QImage>>();
