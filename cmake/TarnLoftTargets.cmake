@@ -51,6 +51,33 @@ function(tarnloft_layer name)
   endif()
 endfunction()
 
+# The QML module TarnLoft.NAME of a library, which it makes: SOURCES and QML_FILES as for
+# qt_add_qml_module, LINKS as above. A program that uses the module links TARGET and TARGETplugin and
+# says Q_IMPORT_QML_PLUGIN(TarnLoft_NAMEPlugin). Qt 6.4 looks for modules in programs under this
+# prefix alone.
+function(tarnloft_qml_module target name)
+  cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "SOURCES;QML_FILES;LINKS;PRIVATE_LINKS")
+  list(TRANSFORM arg_LINKS PREPEND tarnloft_)
+  qt_add_library(${target} STATIC)
+  qt_add_qml_module(${target}
+    URI TarnLoft.${name}
+    VERSION 1.0
+    RESOURCE_PREFIX /qt-project.org/imports
+    OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/TarnLoft/${name}
+    IMPORT_PATH ${CMAKE_BINARY_DIR}/qml
+    DEPENDENCIES QtQuick
+    SOURCES ${arg_SOURCES}
+    QML_FILES ${arg_QML_FILES})
+  # The registration of types includes headers by their bare names.
+  target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR}/src
+                                       PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+  target_link_libraries(${target} PUBLIC Qt6::Quick ${arg_LINKS} PRIVATE ${arg_PRIVATE_LINKS})
+  get_target_property(generated ${target} SOURCES)
+  list(FILTER generated INCLUDE REGEX "/qmlcache/.*\\.cpp$")
+  set_source_files_properties(${generated} PROPERTIES
+    COMPILE_OPTIONS "-Wno-shadow;-Wno-old-style-cast;-Wno-unused-variable;-Wno-unused-but-set-variable")
+endfunction()
+
 # One test program: NAME.cpp, the layers that it tests, and the shared helpers. With DISPLAY it runs
 # with an X server and a session bus of its own.
 function(tarnloft_test name)

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+namespace tarnloft {
+
+// Whether the user last worked by keyboard or by pointer, for QML: focus is marked only where the
+// keyboard moved it.
+class FocusOrigin : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_SINGLETON
+  Q_PROPERTY(bool keyboard READ isKeyboard NOTIFY keyboardChanged)
+
+ public:
+  explicit FocusOrigin(QObject* parent = nullptr);
+
+  bool isKeyboard() const { return m_keyboard; }
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ signals:
+  void keyboardChanged();
+
+ private:
+  void set(bool keyboard);
+
+  bool m_keyboard = false;
+};
+
+}  // namespace tarnloft

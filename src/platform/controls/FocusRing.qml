@@ -1,0 +1,23 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Controls
+
+// The ring about a control that has the keyboard's focus. Put it into the control's background.
+//   FocusRing { shown: control.visualFocus; base: Theme.fieldRadius }
+Rectangle {
+    id: root
+
+    required property bool shown
+    property int gap: 0 // between the control's edge and the ring
+    property int base: Theme.fieldRadius // the control's own radius
+
+    anchors.fill: parent
+    anchors.margins: -3 - gap
+    visible: shown
+    radius: base + 3 + gap
+    color: "transparent"
+    border.width: 3
+    border.color: Theme.focusRing
+    Accessible.ignored: true
+}

@@ -1,0 +1,68 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import TarnLoft.Controls
+
+// An entry of a menu.
+//   MenuItem { text: "New Brand…"; shortcut: "Ctrl+N"; onTriggered: … }
+// The shortcut is only shown; an entry with an `action` shows that one's and carries it out.
+T.MenuItem {
+    id: root
+
+    property string shortcut: action && action.shortcut ? action.shortcut : ""
+    property string symbol: ""
+    property bool destructive: false
+
+    readonly property bool chosen: highlighted && enabled
+    readonly property color ink: chosen ? (destructive ? Theme.onDestructive : Theme.onAccent)
+                                        : !enabled ? Theme.tertiaryLabel : destructive ? Theme.destructive : Theme.label
+    readonly property int markWidth: root.menu && (root.menu as Menu)?.marked ? 20 : 0
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: visible ? 25 : 0
+    leftPadding: 9 + markWidth
+    rightPadding: subMenu ? 26 : 9
+    spacing: 24
+    font: Theme.body
+
+    Accessible.role: Accessible.MenuItem
+    Accessible.name: text
+    Accessible.description: KeyText.display(shortcut)
+    Accessible.checkable: checkable
+    Accessible.checked: checked
+    Accessible.onPressAction: triggered()
+
+    contentItem: MenuItemContent {
+        text: root.text
+        symbol: root.symbol
+        keys: KeyText.display(root.shortcut)
+        color: root.ink
+        keysColor: root.chosen ? root.ink : Theme.tertiaryLabel
+        spacing: root.spacing
+    }
+
+    indicator: Symbol {
+        x: 8
+        anchors.verticalCenter: parent.verticalCenter
+        visible: root.checked
+        name: "checkmark"
+        size: 11
+        weight: Font.DemiBold
+        color: root.ink
+    }
+
+    arrow: Symbol {
+        x: root.width - width - 6
+        anchors.verticalCenter: parent.verticalCenter
+        visible: root.subMenu !== null
+        name: "chevron.right"
+        size: 11
+        color: root.chosen ? root.ink : Theme.secondaryLabel
+    }
+
+    background: Rectangle {
+        radius: 5
+        color: root.chosen ? (root.destructive ? Theme.destructiveFill : Theme.accentFill) : "transparent"
+    }
+}

@@ -1,0 +1,30 @@
+#include "platform/controls/Motion.h"
+
+#include <cmath>
+
+namespace tarnloft {
+
+void Motion::setReduced(bool reduced) {
+  if (m_reduced == reduced) return;
+  m_reduced = reduced;
+  emit reducedChanged();
+}
+
+int Motion::duration(double response, double dampingFraction) const {
+  return time(
+      static_cast<int>(std::lround(Spring{response, dampingFraction}.settlingTime() * 1000)));
+}
+
+QEasingCurve Motion::easing(double response, double dampingFraction) const {
+  return Spring{response, dampingFraction}.easing();
+}
+
+double Motion::stiffness(double response, double dampingFraction) const {
+  return Spring{response, dampingFraction}.steps().spring;
+}
+
+double Motion::friction(double response, double dampingFraction) const {
+  return Spring{response, dampingFraction}.steps().damping;
+}
+
+}  // namespace tarnloft

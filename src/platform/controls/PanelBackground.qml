@@ -1,0 +1,35 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Controls
+
+// What floats above the window: a fill with a fine edge and a shadow.
+Item {
+    id: root
+
+    property color color: Theme.menuBackground
+    property int radius: Theme.cardRadius
+    property int blur: 14
+    property int drop: 6
+
+    Shadow {
+        anchors.fill: parent
+        radius: root.radius
+        blur: root.blur
+        drop: root.drop
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: root.radius
+        color: root.color
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: root.radius
+        color: "transparent"
+        border.width: 1
+        border.color: Theme.panelBorder
+    }
+}

@@ -1,0 +1,39 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import TarnLoft.Controls
+
+// One choice of a SegmentedPicker, which moves the focus and draws the thumb beneath it.
+T.AbstractButton {
+    id: root
+
+    required property PickerOption modelData
+    required property int index
+    property bool chosen: false
+    property int controlSize: ControlSize.Regular
+
+    implicitWidth: Math.max(implicitContentWidth + 2 * (controlSize === ControlSize.Small ? 8 : 12), modelData.text === "" ? 34 : 0)
+    padding: 0
+    font: Theme.font(Theme.controlText(controlSize), chosen ? Font.Medium : Font.Normal)
+    focusPolicy: Qt.NoFocus
+
+    Accessible.role: Accessible.RadioButton
+    Accessible.name: modelData.text || modelData.help
+    Accessible.checkable: true
+    Accessible.checked: chosen
+    Accessible.onPressAction: clicked()
+
+    contentItem: ButtonContent {
+        text: root.modelData.text
+        symbol: root.modelData.symbol
+        symbolSize: 13
+        font: root.font
+        color: root.chosen || root.hovered ? Theme.label : Theme.secondaryLabel
+    }
+
+    Help {
+        text: root.modelData.help
+        shown: root.hovered && !root.down
+    }
+}

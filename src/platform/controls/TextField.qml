@@ -1,0 +1,68 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import TarnLoft.Controls
+
+// A field of one line. `placeholderText` is its prompt and, with no `accessibleName`, its name.
+//   TextField { placeholderText: "Brand name"; text: …; onTextEdited: … }
+// Entered by Tab it selects its text. Return emits `accepted` and then goes on to the sheet's
+// default button. A right click offers cut, copy and paste.
+T.TextField {
+    id: root
+
+    property bool bordered: true
+    property int controlSize: ControlSize.Regular
+    property string accessibleName: placeholderText
+    readonly property real fieldPadding: bordered ? 8 : 0
+
+    implicitWidth: bordered ? 200 : Math.max(contentWidth, prompt.implicitWidth) + leftPadding + rightPadding + 2
+    implicitHeight: bordered ? Theme.controlHeight(controlSize) : Math.ceil(contentHeight)
+    leftPadding: fieldPadding
+    rightPadding: fieldPadding
+    font: Theme.font(Theme.controlText(controlSize))
+    color: Theme.label
+    placeholderTextColor: Theme.placeholder
+    selectionColor: Theme.textSelection
+    selectedTextColor: Theme.label
+    verticalAlignment: TextInput.AlignVCenter
+    selectByMouse: true
+    opacity: enabled ? 1 : 0.45
+
+    onActiveFocusChanged: {
+        if (activeFocus && (focusReason === Qt.TabFocusReason || focusReason === Qt.BacktabFocusReason))
+            selectAll();
+    }
+
+    Accessible.role: Accessible.EditableText
+    Accessible.name: accessibleName
+    Accessible.editable: !readOnly
+
+    cursorDelegate: TextCursor {
+        field: root
+    }
+
+    Label {
+        id: prompt
+
+        x: root.leftPadding
+        width: root.width - root.leftPadding - root.rightPadding
+        height: root.height
+        visible: root.length === 0 && root.preeditText === ""
+        text: root.placeholderText
+        font: root.font
+        color: root.placeholderTextColor
+        horizontalAlignment: root.horizontalAlignment
+        verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true
+    }
+
+    TextEditMenuArea {
+        field: root
+    }
+
+    background: FieldBackground {
+        visible: root.bordered
+        focused: root.activeFocus
+    }
+}

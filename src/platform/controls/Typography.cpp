@@ -1,0 +1,51 @@
+#include "platform/controls/Typography.h"
+
+#include <QGuiApplication>
+#include <QQuickWindow>
+#include <QStringList>
+
+namespace tarnloft {
+
+namespace {
+
+constexpr int displaySize = 20;  // from here on the cut for large sizes looks better
+
+QFont font(const QStringList& families, int pixelSize, QFont::Weight weight) {
+  QFont result;
+  result.setFamilies(families);
+  result.setPixelSize(pixelSize);
+  result.setWeight(weight);
+  result.setHintingPreference(QFont::PreferVerticalHinting);
+  return result;
+}
+
+QStringList interfaceFamilies(int pixelSize) {
+  QStringList families{QStringLiteral("Inter"), QStringLiteral("Cantarell"),
+                       QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans")};
+  if (pixelSize >= displaySize) families.prepend(QStringLiteral("Inter Display"));
+  return families;
+}
+
+}  // namespace
+
+QFont interfaceFont(int pixelSize, QFont::Weight weight) {
+  return font(interfaceFamilies(pixelSize), pixelSize, weight);
+}
+
+QFont monospacedFont(int pixelSize, QFont::Weight weight) {
+  static const QStringList families{
+      QStringLiteral("JetBrains Mono"), QStringLiteral("Noto Sans Mono"),
+      QStringLiteral("DejaVu Sans Mono"), QStringLiteral("monospace")};
+  QFont result = font(families, pixelSize, weight);
+  result.setStyleHint(QFont::Monospace);
+  return result;
+}
+
+void prepareTypography() {
+  constexpr int body = 13;
+  QGuiApplication::setFont(interfaceFont(body));
+  // Glyphs drawn for their size are crisper at 13 pixels than those scaled from one large drawing.
+  QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
+}
+
+}  // namespace tarnloft

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QFont>
+#include <QString>
+
+namespace tarnloft {
+
+// The interface's typeface, with fallbacks where it isn't installed. Sizes are logical pixels.
+QFont interfaceFont(int pixelSize, QFont::Weight weight = QFont::Normal);
+
+// For code and other text in columns.
+QFont monospacedFont(int pixelSize, QFont::Weight weight = QFont::Normal);
+
+// Sets the default font and the way that windows draw text. Call it once, after the application
+// object and before the first window.
+void prepareTypography();
+
+}  // namespace tarnloft

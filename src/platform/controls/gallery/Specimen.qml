@@ -1,0 +1,27 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Controls
+
+// Controls in a row with what they show written above.
+Column {
+    id: root
+
+    required property string title
+    default property alias controls: row.data
+    property alias gap: row.spacing
+
+    spacing: 8
+
+    Label {
+        text: root.title
+        font: Theme.subheadline
+        color: Theme.secondaryLabel
+    }
+
+    Row {
+        id: row
+
+        spacing: 10
+    }
+}
