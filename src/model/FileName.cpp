@@ -12,10 +12,6 @@ qsizetype extensionDot(const QString& path) {
 
 }  // namespace
 
-QString lastPathComponent(const QString& path) {
-  return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
-}
-
 QString pathExtension(const QString& path) {
   const qsizetype dot = extensionDot(path);
   return dot < 0 ? QString() : path.mid(dot + 1);
