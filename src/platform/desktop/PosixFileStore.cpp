@@ -267,13 +267,6 @@ Result<void> PosixFileStore::removeFolder(const QString& path) {
   return failure(ErrorKind::io, QStringLiteral("Some of the folder could not be removed"));
 }
 
-Result<void> PosixFileStore::removeTree(const QString& path) {
-  auto removed = remove(path);
-  // Only a folder itself: what lies behind a link stays.
-  if (removed || QFileInfo(path).isSymLink() || !isFolder(path)) return removed;
-  return QDir(path).removeRecursively() ? Result<void>() : systemFailure(EIO);
-}
-
 Result<void> PosixFileStore::moveFolder(const QString& path, const QString& target) {
   const auto from = native(path), to = native(target);
   if (!from || !to) return systemFailure(EINVAL);
