@@ -76,7 +76,7 @@ Page {
     }
     Item {
         width: 1090
-        height: 250
+        height: 200
 
         StillPanel {
             NamingForm {}
@@ -91,8 +91,8 @@ Page {
         Button {
             id: anchor
 
-            x: 860
-            y: 0
+            x: 840
+            y: 150
             text: "Shown from here"
 
             Popover {

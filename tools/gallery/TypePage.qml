@@ -29,7 +29,7 @@ Page {
             leftPadding: 40
             Label { text: "Large title, bold"; font: Theme.font(26, Font.Bold) }
             Label { text: "Medium 13"; font: Theme.font(13, Font.Medium) }
-            Label { text: "Semibold 12.5 → 13"; font: Theme.font(13, Font.DemiBold) }
+            Label { text: "Semibold 13"; font: Theme.font(13, Font.DemiBold) }
             Label { text: "const hex = \"#4C6FFF\""; font: Theme.monospaced(12) }
             Label { text: "1.0 × 1,024 px · 11:01 · 87 %"; font: Theme.digits(11) }
         }
