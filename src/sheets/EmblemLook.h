@@ -41,11 +41,12 @@ Q_ENUM_NS(Ink)
 class EmblemLook {
   Q_GADGET
   QML_VALUE_TYPE(emblemLook)
-  Q_PROPERTY(tarnloft::EmblemStyle::Ground ground MEMBER ground)
+  // Compiled QML reads no enumerations from values, but numbers.
+  Q_PROPERTY(int ground READ groundNumber)
   Q_PROPERTY(QColor color MEMBER color)
-  Q_PROPERTY(tarnloft::EmblemStyle::Mark mark MEMBER mark)
+  Q_PROPERTY(int mark READ markNumber)
   Q_PROPERTY(QString text MEMBER text)
-  Q_PROPERTY(tarnloft::EmblemStyle::Ink ink MEMBER ink)
+  Q_PROPERTY(int ink READ inkNumber)
 
  public:
   EmblemStyle::Ground ground = EmblemStyle::Ground::NoGround;
@@ -55,6 +56,10 @@ class EmblemLook {
   EmblemStyle::Ink ink = EmblemStyle::Ink::Primary;
 
   bool operator==(const EmblemLook&) const = default;
+
+  int groundNumber() const { return int(ground); }
+  int markNumber() const { return int(mark); }
+  int inkNumber() const { return int(ink); }
 };
 
 // The place that shows an emblem, and what it shows without one.

@@ -41,7 +41,7 @@ Item {
         color: root.look.ground === EmblemStyle.Filled ? root.look.color : Theme.thin(Theme.secondaryLabel, 0.2)
     }
 
-    Loader {
+    LazyItem {
         anchors.centerIn: parent
         active: root.isSymbol
         sourceComponent: Symbol {
@@ -52,7 +52,7 @@ Item {
         }
     }
 
-    Loader {
+    LazyItem {
         anchors.centerIn: parent
         active: root.isText
         sourceComponent: Text {
@@ -64,7 +64,7 @@ Item {
         }
     }
 
-    Loader {
+    LazyItem {
         anchors.fill: parent
         active: root.look.mark === EmblemStyle.Picture
         sourceComponent: EmblemImage {
