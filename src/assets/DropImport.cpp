@@ -66,10 +66,10 @@ std::optional<ImportedFile> bringIn(const Import& import, const QString& path,
   if (!asset) return std::nullopt;
   file.asset = *asset;
   if (file.kind == FileKind::font) {
-    const QString path = import.folder.pathOf(file.asset);
+    const QString copy = import.folder.pathOf(file.asset);
     // Here rather than on the main thread, which unwrapping a large file would hold up.
-    import.services.fonts.registerForProcess(path);
-    file.fontNames = import.services.fonts.names(path);
+    import.services.fonts.registerForProcess(copy);
+    file.fontNames = import.services.fonts.names(copy);
   }
   return file;
 }
