@@ -61,17 +61,17 @@ void LazyItem::make() {
   item_->setParentItem(this);
   followSize();
   component_->completeCreate();
-  connect(item_, &QQuickItem::implicitWidthChanged, this, &LazyItem::followSize);
-  connect(item_, &QQuickItem::implicitHeightChanged, this, &LazyItem::followSize);
+  connect(item_, &QQuickItem::widthChanged, this, &LazyItem::followSize);
+  connect(item_, &QQuickItem::heightChanged, this, &LazyItem::followSize);
   followSize();
   emit itemChanged();
 }
 
 void LazyItem::followSize() {
   if (!item_) return;
-  setImplicitSize(item_->implicitWidth(), item_->implicitHeight());
   if (widthValid()) item_->setWidth(width());
   if (heightValid()) item_->setHeight(height());
+  setImplicitSize(item_->width(), item_->height());
 }
 
 }  // namespace tarnloft

@@ -16,7 +16,9 @@ Item {
         clip: true
 
         Text {
+            width: parent.width
             text: root.tile.snippet
+            wrapMode: Text.Wrap
             font: Theme.monospaced(9)
             color: Theme.label
             textFormat: Text.PlainText

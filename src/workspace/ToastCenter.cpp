@@ -4,9 +4,9 @@
 
 namespace tarnloft {
 
-ToastCenter::ToastCenter(QObject* parent) : QObject(parent) {
+ToastCenter::ToastCenter(std::chrono::milliseconds shownFor, QObject* parent) : QObject(parent) {
   clearWork_.setSingleShot(true);
-  clearWork_.setInterval(duration);
+  clearWork_.setInterval(shownFor);
   connect(&clearWork_, &QTimer::timeout, this, [this] { setMessage(std::nullopt); });
 }
 

@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <QtQml/qqmlregistration.h>
 
+#include <chrono>
 #include <optional>
 
 namespace tarnloft {
@@ -19,7 +20,7 @@ class ToastCenter : public QObject {
  public:
   static constexpr std::chrono::milliseconds duration{1400};
 
-  explicit ToastCenter(QObject* parent = nullptr);
+  explicit ToastCenter(std::chrono::milliseconds shownFor = duration, QObject* parent = nullptr);
 
   const std::optional<QString>& message() const { return message_; }
   QString text() const { return message_.value_or(QString()); }

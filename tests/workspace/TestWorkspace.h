@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/UndoHistory.h"
+#include "platform/desktop/DragData.h"
 #include "platform/desktop/MimeDrops.h"
 #include "testing/FakeDrops.h"
 #include "testing/TestLibrary.h"

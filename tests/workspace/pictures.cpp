@@ -1,6 +1,6 @@
 // Draws the page of a brand into a file, for looking at it.
 //   workspace_pictures PACKAGE FILE [--dark] [--scale FACTOR] [--size WIDTHxHEIGHT] [--scroll Y]
-//                      [--select N] [--hover X,Y]
+//                      [--select SECTION,ITEM] [--hover X,Y]
 #include "platform/controls/Theme.h"
 #include "platform/controls/Typography.h"
 #include "platform/desktop/VipsImages.h"
@@ -43,7 +43,7 @@ int main(int argc, char** argv) {
                      {"scale", "", "f", "1"},
                      {"size", "", "s", "1000x760"},
                      {"scroll", "", "y", "0"},
-                     {"select", "", "n", "-1"},
+                     {"select", "", "n"},
                      {"hover", "", "p"}});
   parser.process(application);
   VipsImages images(QCoreApplication::applicationDirPath() + "/" TARNLOFT_VECTORS);
@@ -63,10 +63,10 @@ int main(int argc, char** argv) {
   for (QQuickItem* item : view.rootObject()->findChildren<QQuickItem*>()) {
     if (item->inherits("QQuickFlickable")) item->setProperty("contentY", parser.value("scroll"));
   }
-  const int select = parser.value("select").toInt();
-  if (select >= 0) {
-    auto& section = test.section(0);
-    test.selection.toggle(section.items()->items().at(select).id, section.id());
+  if (parser.isSet("select")) {
+    const QStringList at = parser.value("select").split(',');
+    auto& section = test.section(at.at(0).toInt());
+    test.selection.toggle(section.items()->items().at(at.at(1).toInt()).id, section.id());
   }
   if (parser.isSet("hover")) {
     const QStringList at = parser.value("hover").split(',');
