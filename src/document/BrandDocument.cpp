@@ -93,4 +93,8 @@ Result<std::unique_ptr<FileReader>> BrandDocument::openAsset(const AssetRef& ass
   return Package::openAsset(services_.files, packageURL_, asset);
 }
 
+Result<QString> BrandDocument::assetPath(const AssetRef& asset) const {
+  return Package::assetPath(services_.files, packageURL_, asset);
+}
+
 }  // namespace tarnloft

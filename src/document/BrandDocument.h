@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/AssetFolder.h"
 #include "document/DocumentServices.h"
 #include "document/UndoManager.h"
 #include "document/VersionEnvelope.h"
@@ -62,6 +63,8 @@ class BrandDocument : public QObject {
 
   // Opens a file of the package's `assets`; refuses names that lead out of the package.
   Result<std::unique_ptr<FileReader>> openAsset(const AssetRef& asset) const;
+  // The path of such a file, whether or not it is there; refuses the same names.
+  Result<QString> assetPath(const AssetRef& asset) const;
 
   // --- Edits. What names a section or an item that isn't there does nothing.
 
@@ -72,11 +75,15 @@ class BrandDocument : public QObject {
 
   // Appends the item to the section.
   void addItem(const Item& item, const QUuid& section);
+  // Appends them all in one assignment.
+  void addItems(const QList<Item>& items, const QUuid& section);
   // Moves the item in front of another of the target section, or to its end. Assigns twice.
   void moveItem(const QUuid& item, const QUuid& toSection, const std::optional<QUuid>& before);
   // Moves the section in front of another, or to the end. Assigns twice.
   void moveSection(const QUuid& section, const std::optional<QUuid>& before);
 
+  // Makes `assets` if needed, for bringing files in from another thread.
+  Result<AssetFolder> assetFolder() const;
   // Copies a file into `assets` under a new name; the caller makes the item.
   Result<AssetRef> importAsset(const QString& source);
   // Writes bytes into `assets` under a new name with that extension.

@@ -1,7 +1,4 @@
-#include "document/AtomicWrite.h"
 #include "document/BrandDocument.h"
-#include "document/Package.h"
-#include "model/FileName.h"
 
 #include <QPointer>
 
@@ -64,10 +61,14 @@ void BrandDocument::registerRestore(const Brand& brand, UndoManager& undoManager
   undoManager.setActionName(actionName);
 }
 
-void BrandDocument::addItem(const Item& item, const QUuid& section) {
+void BrandDocument::addItem(const Item& item, const QUuid& section) { addItems({item}, section); }
+
+void BrandDocument::addItems(const QList<Item>& items, const QUuid& section) {
   const qsizetype target = indexOf(brand_.sections, section);
-  if (target < 0) return;
-  edit([&](Brand& brand) { brand.sections[target].items.append(item); });
+  if (target < 0 || items.isEmpty()) return;
+  edit([&](Brand& brand) {
+    for (const Item& item : items) brand.sections[target].items.append(item);
+  });
 }
 
 void BrandDocument::moveItem(const QUuid& item, const QUuid& toSection,
@@ -93,33 +94,19 @@ void BrandDocument::moveSection(const QUuid& section, const std::optional<QUuid>
   edit([&](Brand& brand) { brand.sections.insert(insertionIndex(brand.sections, before), moved); });
 }
 
+Result<AssetFolder> BrandDocument::assetFolder() const {
+  return AssetFolder::make(services_.files, packageURL_);
+}
+
 Result<AssetRef> BrandDocument::importAsset(const QString& source) {
-  const QString folder = Package::assetsPath(packageURL_);
-  if (auto made = Package::makeFolder(services_.files, folder, packageURL_); !made) {
-    return tl::unexpected(made.error());
-  }
-  const QString extension = pathExtension(source);
-  const QString name =
-      Package::newAssetName(extension.isEmpty() ? QStringLiteral("dat") : extension);
-  if (auto copied = services_.files.copyFile(source, folder + QLatin1Char('/') + name); !copied) {
-    return tl::unexpected(copied.error());
-  }
-  return AssetRef{name, lastPathComponent(source)};
+  return assetFolder().and_then([&](const AssetFolder& folder) { return folder.copyIn(source); });
 }
 
 Result<AssetRef> BrandDocument::importImageData(const QByteArray& data,
                                                 const QString& suggestedName,
                                                 const QString& extension) {
-  const QString folder = Package::assetsPath(packageURL_);
-  if (auto made = Package::makeFolder(services_.files, folder, packageURL_); !made) {
-    return tl::unexpected(made.error());
-  }
-  const QString name = Package::newAssetName(extension);
-  const auto written =
-      writeAtomically(services_.files, folder + QLatin1Char('/') + name, Durability::atomic,
-                      [&](FileWriter& file) { return file.write(data); });
-  if (!written) return tl::unexpected(written.error());
-  return AssetRef{name, suggestedName};
+  return assetFolder().and_then(
+      [&](const AssetFolder& folder) { return folder.write(data, suggestedName, extension); });
 }
 
 }  // namespace tarnloft

@@ -14,9 +14,13 @@ QString inPackage(const QString& packageURL, const char* name) {
   return packageURL + QLatin1Char('/') + QLatin1String(name);
 }
 
-bool isPlainFileName(const QString& name) {
-  return !name.isEmpty() && name != QLatin1String(".") && name != QLatin1String("..") &&
-         !name.contains(QLatin1Char('/')) && !name.contains(QChar(u'\0'));
+tl::unexpected<Error> notPlain() {
+  return failure(ErrorKind::refused, QStringLiteral("Not a plain file name"));
+}
+
+// Of an asset whose name is plain.
+QString pathOf(const QString& packageURL, const AssetRef& asset) {
+  return assetsPath(packageURL) + QLatin1Char('/') + asset.filename;
 }
 
 Result<QByteArray> readAll(FileReader& file) {
@@ -87,12 +91,18 @@ Result<void> makeFolder(FileStore& files, const QString& path, const QString& pa
   return failure(ErrorKind::refused, QStringLiteral("The folder is outside of its package"));
 }
 
+Result<QString> assetPath(const FileStore& files, const QString& packageURL,
+                          const AssetRef& asset) {
+  if (!isPlainFileName(asset.filename)) return notPlain();
+  const QString path = pathOf(packageURL, asset);
+  if (!files.exists(path) || files.standsInside(path, packageURL)) return path;
+  return failure(ErrorKind::refused, QStringLiteral("The file is outside of its package"));
+}
+
 Result<std::unique_ptr<FileReader>> openAsset(const FileStore& files, const QString& packageURL,
                                               const AssetRef& asset) {
-  if (!isPlainFileName(asset.filename)) {
-    return failure(ErrorKind::refused, QStringLiteral("Not a plain file name"));
-  }
-  return files.open(assetsPath(packageURL) + QLatin1Char('/') + asset.filename, packageURL);
+  if (!isPlainFileName(asset.filename)) return notPlain();
+  return files.open(pathOf(packageURL, asset), packageURL);
 }
 
 }  // namespace tarnloft::Package

@@ -43,6 +43,10 @@ Result<ReadFile> readJson(const FileStore& files, const QString& path, const QSt
 // Makes a folder of the package, such as `assets`; refuses one that leads out of it.
 Result<void> makeFolder(FileStore& files, const QString& path, const QString& packageURL);
 
+// The path of a file of `assets`, whether or not it is there, for those who need a path. A
+// `filename` that is not a plain file name, or a link that leads out of the package, is refused.
+Result<QString> assetPath(const FileStore& files, const QString& packageURL, const AssetRef& asset);
+
 // Opens a file of `assets`. A `filename` that is not a plain file name, or that leads out of the
 // package, is refused.
 Result<std::unique_ptr<FileReader>> openAsset(const FileStore& files, const QString& packageURL,

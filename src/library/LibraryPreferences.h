@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/EnumTable.h"
+#include "model/ExportFormat.h"
 #include "platform/Preferences.h"
 #include "publish/ColorUtil.h"
 
@@ -13,7 +14,6 @@ namespace tarnloft {
 enum class TileSize { small, medium, large };
 enum class AssetDisplayMode { compact, expanded };
 enum class AppearanceMode { system, light, dark };
-enum class ExportFormat { png, jpeg, heic, tiff };
 
 template <>
 struct EnumTable<TileSize> {
@@ -34,14 +34,6 @@ struct EnumTable<AppearanceMode> {
   static constexpr std::array cases{EnumCase<AppearanceMode>{AppearanceMode::system, "system"},
                                     EnumCase<AppearanceMode>{AppearanceMode::light, "light"},
                                     EnumCase<AppearanceMode>{AppearanceMode::dark, "dark"}};
-};
-
-template <>
-struct EnumTable<ExportFormat> {
-  static constexpr std::array cases{EnumCase<ExportFormat>{ExportFormat::png, "png"},
-                                    EnumCase<ExportFormat>{ExportFormat::jpeg, "jpeg"},
-                                    EnumCase<ExportFormat>{ExportFormat::heic, "heic"},
-                                    EnumCase<ExportFormat>{ExportFormat::tiff, "tiff"}};
 };
 
 // Height of a tile in points, and the name of the size's symbol.

@@ -92,6 +92,17 @@ void LibraryStore::setOpenDocument(std::unique_ptr<BrandDocument> document) {
   emit openDocumentChanged();
 }
 
+void LibraryStore::addItems(const QString& packageURL, const QUuid& section,
+                            const QList<Item>& items) {
+  if (openDocument_ && openDocument_->packageURL() == packageURL) {
+    return openDocument_->addItems(items, section);
+  }
+  const auto closed = BrandDocument::load(services_.document, packageURL);
+  if (!closed) return;
+  closed->addItems(items, section);
+  closed->saveNow();
+}
+
 double LibraryStore::gridMinWidth() const {
   if (preferences_.assetDisplayMode() == AssetDisplayMode::expanded) return 250;
   switch (preferences_.tileSize()) {

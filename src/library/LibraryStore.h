@@ -46,6 +46,10 @@ class LibraryStore : public QObject {
   // Null if none is open. Owned by the store; it goes with the next selection.
   BrandDocument* openDocument() const { return openDocument_.get(); }
 
+  // Appends items to a section of a package that was open when their making began, whether or not
+  // it still is. A package that is gone loses them.
+  void addItems(const QString& packageURL, const QUuid& section, const QList<Item>& items);
+
   // --- Brands that come and go. Each does its work on the disk, scans and moves the selection.
 
   // Makes a brand, selects it and gives its document; null, with a line in the system log, if its

@@ -53,6 +53,7 @@ class FileWriter {
 // The one door to the disk. Each call is one step that either happened or didn't; procedures such
 // as `writeAtomically` are written above it, so that a test can cut them after each step. Paths are
 // absolute or relative to the working directory; an empty one, or one that holds a NUL, is refused.
+// Any thread, several calls at a time; a reader or a writer is for one thread at a time.
 class FileStore {
  public:
   virtual ~FileStore() = default;
@@ -83,6 +84,11 @@ class FileStore {
   // Makes a folder and its missing parents; one that exists is no error.
   virtual Result<void> makeFolder(const QString& path) = 0;
 
+  // Gives the path of the folder of that name in the temporary directory, made if it isn't there.
+  // It is the user's own and nobody else can look into it or change it: where another user's stands
+  // in its place, it has the user's number behind its name.
+  virtual Result<QString> makeTemporaryFolder(const QString& name) = 0;
+
   // Copies a regular file, links to it followed, to a path where nothing stands. Shares blocks with
   // the source where the file system can; keeps rights and times. On failure nothing is left.
   virtual Result<void> copyFile(const QString& source, const QString& target) = 0;
@@ -108,6 +114,9 @@ class FileStore {
 
   // Removes a folder with all that is in it; links in it are removed, not followed.
   virtual Result<void> removeFolder(const QString& path) = 0;
+
+  // Removes what stands at the path, a folder with all that is in it. A link goes, not its target.
+  virtual Result<void> removeTree(const QString& path) = 0;
 
   // Renames a file or folder on one file system; fails if anything stands at `target`.
   virtual Result<void> moveFolder(const QString& path, const QString& target) = 0;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/ExportFormat.h"
+
 #include <QByteArray>
 #include <QImage>
 #include <QSize>
@@ -17,18 +19,17 @@ struct ImageProperties {
   std::optional<double> dpi;  // horizontal
 };
 
-enum class ImageFormat { png, jpeg, heic, tiff };
-
 // Reads and writes pictures. Files are foreign: a broken or hostile one is an absent result, takes
 // bounded memory and time, and nothing outside of the file is read. Any thread, several at a time.
 class Images {
  public:
   virtual ~Images() = default;
 
-  // Of the first picture of a bitmap file, without decoding it; none for vector formats.
+  // Of a file's first picture, without decoding it. A document's first page counts as one of 72
+  // pixels an inch; a scalable drawing has none.
   virtual std::optional<ImageProperties> properties(const QString& path) = 0;
 
-  // The size that a vector file claims for itself, in points.
+  // The size that a drawing or a document's first page claims for itself, in points.
   virtual std::optional<QSizeF> vectorSize(const QString& path) = 0;
 
   // A picture whose longer side is at most `maxPixel` (a vector is drawn at that size), upright, in
@@ -38,7 +39,7 @@ class Images {
   // The picture stretched to `size` pixels, in sRGB, 8 bits a component, in another format. JPEG
   // has white under what is transparent. `quality` from 0 to 1 counts for JPEG and HEIC. None also
   // where there is no encoder for the format.
-  virtual std::optional<QByteArray> convert(const QString& path, ImageFormat format, QSize size,
+  virtual std::optional<QByteArray> convert(const QString& path, ExportFormat format, QSize size,
                                             double quality) = 0;
 };
 

@@ -19,6 +19,8 @@ class TestFileStore : public QObject {
   void takesBackAndRepeats();
   void leavesNothingOfAFileThatFoundNoPlace();
   void makesParents();
+  void temporaryFoldersAreTheUsersOwn_data();
+  void temporaryFoldersAreTheUsersOwn();
   void movesOnlyToAFreePlace();
   void followsLinksForPages();
 };
@@ -148,6 +150,42 @@ void TestFileStore::makesParents() {
   QVERIFY(writeFile(disk.path(QStringLiteral("file")), "x"));
   QVERIFY(!disk.files.makeFolder(disk.path(QStringLiteral("file"))));
   QVERIFY(!disk.files.makeFolder(disk.path(QStringLiteral("file/inside"))));
+}
+
+void TestFileStore::temporaryFoldersAreTheUsersOwn_data() {
+  QTest::addColumn<QString>("inPlace");
+  QTest::addColumn<bool>("takesIt");
+  QTest::newRow("nothing") << QString() << true;
+  QTest::newRow("the user's") << QStringLiteral("folder") << true;
+  QTest::newRow("a file") << QStringLiteral("file") << false;
+  QTest::newRow("a link to a folder") << QStringLiteral("link") << false;
+  if (::geteuid() == 0) QTest::newRow("another user's") << QStringLiteral("foreign") << false;
+}
+
+void TestFileStore::temporaryFoldersAreTheUsersOwn() {
+  QFETCH(QString, inPlace);
+  QFETCH(bool, takesIt);
+  TestServices disk;
+  qputenv("TMPDIR", QFile::encodeName(disk.folder.path()));
+  const QString path = disk.path("drags");
+  if (inPlace == "file") QVERIFY(writeFile(path, "x"));
+  if (inPlace == "link") QVERIFY(QFile::link(disk.folder.path(), path));
+  if (inPlace == "folder" || inPlace == "foreign") {
+    QCOMPARE(::mkdir(QFile::encodeName(path).constData(), 0777), 0);
+  }
+  if (inPlace == "foreign") QCOMPARE(::chown(QFile::encodeName(path).constData(), 12345, 0), 0);
+  for (int again = 0; again < 2; ++again) {
+    const auto folder = disk.files.makeTemporaryFolder("drags");
+    QVERIFY(folder);
+    QCOMPARE(*folder, takesIt ? path : path + '-' + QString::number(::geteuid()));
+    struct stat info;
+    QCOMPARE(::lstat(QFile::encodeName(*folder).constData(), &info), 0);
+    QVERIFY(S_ISDIR(info.st_mode) && info.st_uid == ::geteuid());
+    QCOMPARE(info.st_mode & 07777, 0700u);
+  }
+  qputenv("TMPDIR", QFile::encodeName(disk.path("missing")));
+  QVERIFY(!disk.files.makeTemporaryFolder("drags"));
+  qunsetenv("TMPDIR");
 }
 
 void TestFileStore::movesOnlyToAFreePlace() {

@@ -70,6 +70,11 @@ Result<void> FaultyStore::makeFolder(const QString& path) {
   return step() ? PosixFileStore::makeFolder(path) : tl::unexpected(fullDisk());
 }
 
+Result<QString> FaultyStore::makeTemporaryFolder(const QString& name) {
+  if (!step()) return tl::unexpected(fullDisk());
+  return PosixFileStore::makeTemporaryFolder(name);
+}
+
 Result<void> FaultyStore::copyFile(const QString& source, const QString& target) {
   return step() ? PosixFileStore::copyFile(source, target) : tl::unexpected(fullDisk());
 }
@@ -100,6 +105,10 @@ Result<void> FaultyStore::remove(const QString& path) {
 
 Result<void> FaultyStore::removeFolder(const QString& path) {
   return step() ? PosixFileStore::removeFolder(path) : tl::unexpected(fullDisk());
+}
+
+Result<void> FaultyStore::removeTree(const QString& path) {
+  return step() ? PosixFileStore::removeTree(path) : tl::unexpected(fullDisk());
 }
 
 Result<void> FaultyStore::moveFolder(const QString& path, const QString& target) {

@@ -21,6 +21,7 @@ class FaultyStore : public PosixFileStore {
 
   Result<std::unique_ptr<FileReader>> open(const QString& path, const QString& root) const override;
   Result<void> makeFolder(const QString& path) override;
+  Result<QString> makeTemporaryFolder(const QString& name) override;
   Result<void> copyFile(const QString& source, const QString& target) override;
   Result<void> copyFolder(const QString& source, const QString& target) override;
   Result<std::unique_ptr<FileWriter>> createTemporary(const QString& target) override;
@@ -28,6 +29,7 @@ class FaultyStore : public PosixFileStore {
   Result<void> syncFolder(const QString& path) override;
   Result<void> remove(const QString& path) override;
   Result<void> removeFolder(const QString& path) override;
+  Result<void> removeTree(const QString& path) override;
   Result<void> moveFolder(const QString& path, const QString& target) override;
 
   // Counts a step; false if it must not happen.

@@ -43,6 +43,7 @@ void checkInvalidate(Report& report, const DocumentServices& services);
 void checkAccentResolution(Report& report);
 void checkGlobalSearch(Report& report);
 void checkUndo(Report& report, const DocumentServices& services);
+void checkTileSelection(Report& report);
 void checkConversions(Report& report);
 void checkPalette(Report& report);
 void checkBrandPage(Report& report, const DocumentServices& services);
@@ -54,6 +55,7 @@ void checkNotesPage(Report& report, const DocumentServices& services);
 void checkVersions(Report& report, const DocumentServices& services);
 void checkFonts(Report& report, const DocumentServices& services);
 void checkUngrouping(Report& report);
+void checkDragOut(Report& report, const DocumentServices& services);
 void checkExportableAssets(Report& report);
 
 }  // namespace tarnloft::SelfTest

@@ -49,6 +49,7 @@ bool run(const DocumentServices& services) {
   checkAccentResolution(report);
   checkGlobalSearch(report);
   checkUndo(report, services);
+  checkTileSelection(report);
   checkConversions(report);
   checkPalette(report);
   checkBrandPage(report, services);
@@ -60,6 +61,7 @@ bool run(const DocumentServices& services) {
   checkVersions(report, services);
   checkFonts(report, services);
   checkUngrouping(report);
+  checkDragOut(report, services);
   checkExportableAssets(report);
   print(QStringLiteral("\n%1 passed, %2 failed").arg(report.passed()).arg(report.failed()));
   const bool printed = std::fflush(stdout) == 0 && std::ferror(stdout) == 0;

@@ -76,6 +76,16 @@ Result<void> setRightsAndTimes(const QByteArray& path, const struct stat& info) 
   return {};
 }
 
+// Makes a folder that only the user can enter, or makes one of the user's such.
+Result<void> makePrivateFolder(const QByteArray& path) {
+  if (::mkdir(path.constData(), 0700) == 0) return {};
+  if (errno != EEXIST) return systemFailure(errno);
+  struct stat info;
+  if (::lstat(path.constData(), &info) != 0) return systemFailure(errno);
+  if (!S_ISDIR(info.st_mode) || info.st_uid != ::geteuid()) return systemFailure(EEXIST);
+  return (info.st_mode & 077) == 0 ? Result<void>() : done(::chmod(path.constData(), 0700));
+}
+
 // A file without a name can be given one only through it.
 bool hasProc() { return ::access("/proc/self/fd", F_OK) == 0; }
 
@@ -150,6 +160,14 @@ Result<void> PosixFileStore::makeFolder(const QString& path) {
   const QString parent = folderOf(path).chopped(1);
   if (errno != ENOENT || parent.isEmpty() || exists(parent)) return systemFailure(errno);
   return makeFolder(parent).and_then([&] { return makeFolder(path); });
+}
+
+Result<QString> PosixFileStore::makeTemporaryFolder(const QString& name) {
+  const QString root = QDir::tempPath(), path = root + QLatin1Char('/') + name;
+  if (root.isEmpty() || !native(path)) return systemFailure(ENOENT);
+  if (makePrivateFolder(QFile::encodeName(path))) return path;
+  const QString own = path + QLatin1Char('-') + QString::number(::geteuid());
+  return makePrivateFolder(QFile::encodeName(own)).map([&] { return own; });
 }
 
 Result<void> PosixFileStore::copyFile(const QString& source, const QString& target) {
@@ -247,6 +265,13 @@ Result<void> PosixFileStore::removeFolder(const QString& path) {
   if (!S_ISDIR(info.st_mode)) return systemFailure(ENOTDIR);
   if (QDir(path).removeRecursively()) return {};
   return failure(ErrorKind::io, QStringLiteral("Some of the folder could not be removed"));
+}
+
+Result<void> PosixFileStore::removeTree(const QString& path) {
+  auto removed = remove(path);
+  // Only a folder itself: what lies behind a link stays.
+  if (removed || QFileInfo(path).isSymLink() || !isFolder(path)) return removed;
+  return QDir(path).removeRecursively() ? Result<void>() : systemFailure(EIO);
 }
 
 Result<void> PosixFileStore::moveFolder(const QString& path, const QString& target) {

@@ -15,6 +15,7 @@ class PosixFileStore : public FileStore {
   Result<std::unique_ptr<FileReader>> open(const QString& path, const QString& root) const override;
   Result<QString> resolved(const QString& path) const override;
   Result<void> makeFolder(const QString& path) override;
+  Result<QString> makeTemporaryFolder(const QString& name) override;
   Result<void> copyFile(const QString& source, const QString& target) override;
   Result<void> copyFolder(const QString& source, const QString& target) override;
   Result<std::unique_ptr<FileWriter>> createTemporary(const QString& target) override;
@@ -22,6 +23,7 @@ class PosixFileStore : public FileStore {
   Result<void> syncFolder(const QString& path) override;
   Result<void> remove(const QString& path) override;
   Result<void> removeFolder(const QString& path) override;
+  Result<void> removeTree(const QString& path) override;
   Result<void> moveFolder(const QString& path, const QString& target) override;
 
  private:

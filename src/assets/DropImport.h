@@ -1,0 +1,47 @@
+#pragma once
+
+#include "assets/ItemLanding.h"
+#include "platform/ContentTypes.h"
+#include "platform/DroppedThing.h"
+#include "platform/Fonts.h"
+
+#include <QSet>
+#include <QThreadPool>
+
+namespace tarnloft {
+
+// What importing needs of its surroundings. Borrowed: all of it outlives the imports that began.
+struct ImportServices {
+  const ContentTypes& types;
+  Fonts& fonts;
+  QThreadPool& workers;
+  AddToClosed addToClosed;
+};
+
+// Files and pictures become items of a section. Main thread; files are copied and read by the
+// workers, and an item comes into being, without an undo step, when its copy is whole. The items of
+// one call land in its order, at the section's end, even when the document has been closed by then.
+// All failures are silent: what can't be read, or whose section has gone, makes no item.
+namespace DropImport {
+
+enum class MediaKind { image, video };
+
+// The path extensions, in lower case, of files that are fonts whatever the desktop says.
+const QSet<QString>& fontExtensions();
+
+// Takes a drop on a section. A tile that is dragged within the program moves to the section's end,
+// and nothing else of the drop counts; each file becomes a font, a video or else an image, whatever
+// it is; picture data without a file becomes an image. False if there was nothing to take.
+bool handle(const ImportServices& services, const DroppedThings& things, const QUuid& section,
+            BrandDocument& document);
+
+// Takes files that the user chose as images or as videos.
+void importFiles(const ImportServices& services, const QStringList& paths, MediaKind kind,
+                 const QUuid& section, BrandDocument& document);
+
+// Takes files that the user chose as fonts.
+void importFontFiles(const ImportServices& services, const QStringList& paths, const QUuid& section,
+                     BrandDocument& document);
+
+}  // namespace DropImport
+}  // namespace tarnloft

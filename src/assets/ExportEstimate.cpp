@@ -1,0 +1,57 @@
+#include "assets/ExportEstimate.h"
+
+#include "assets/ByteCount.h"
+#include "assets/ImageExporter.h"
+
+#include <QPointer>
+
+namespace tarnloft {
+
+QString ExportChoice::key() const {
+  const std::string_view name = rawValue(format);
+  return QStringLiteral("%1x%2-%3-%4")
+      .arg(pixelSize.width())
+      .arg(pixelSize.height())
+      .arg(QLatin1String(name.data(), qsizetype(name.size())))
+      .arg(int(quality * 100));
+}
+
+ExportEstimate::ExportEstimate(Images& images, BackgroundWork& work, QString path,
+                               std::chrono::milliseconds delay)
+    : images_(images), work_(work), path_(std::move(path)) {
+  timer_.setSingleShot(true);
+  timer_.setInterval(delay);
+  connect(&timer_, &QTimer::timeout, this, &ExportEstimate::convert);
+}
+
+ExportEstimate::~ExportEstimate() { work_.drop(task_); }
+
+void ExportEstimate::setChoice(const ExportChoice& choice) {
+  if (choice.key() == key_) return;
+  choice_ = choice;
+  key_ = choice.key();
+  work_.drop(task_);
+  setText(std::nullopt);
+  timer_.start();
+}
+
+void ExportEstimate::convert() {
+  const auto size = std::make_shared<std::optional<qint64>>();
+  task_ = work_.start(
+      [&images = images_, path = path_, choice = choice_, size] {
+        const auto bytes = ImageExporter::exportImage(images, path, choice.format, choice.pixelSize,
+                                                      choice.quality);
+        if (bytes) *size = bytes->size();
+      },
+      [self = QPointer(this), key = key_, size] {
+        if (self && self->key_ == key && *size) self->setText(byteCountText(**size));
+      });
+}
+
+void ExportEstimate::setText(const std::optional<QString>& text) {
+  if (text == text_) return;
+  text_ = text;
+  emit textChanged();
+}
+
+}  // namespace tarnloft

@@ -1,0 +1,71 @@
+#include "assets/TileDrag.h"
+
+#include "assets/DragFileExport.h"
+#include "assets/ItemDrag.h"
+#include "model/FileName.h"
+
+namespace tarnloft::TileDrag {
+namespace {
+
+// None for a name that leads out of the package, which counts as a file that can't be read.
+std::optional<QString> exported(FileStore& files, const BrandDocument& document,
+                                const AssetRef& asset) {
+  const auto path = document.assetPath(asset);
+  if (!path) return std::nullopt;
+  return DragFileExport::tempURL(files, *path, asset.originalName);
+}
+
+DragItem fileItem(const std::optional<QString>& path, const QString& originalName) {
+  return {path, withoutPathExtension(lastPathComponent(originalName)), std::nullopt, nullptr};
+}
+
+bool isPicture(const ContentTypes& types, const AssetRef& asset) {
+  return types.conforms(types.typeOfExtension(pathExtension(asset.originalName)),
+                        ContentClass::image);
+}
+
+}  // namespace
+
+DragItem variantProvider(FileStore& files, const BrandDocument& document, const AssetRef& asset) {
+  const auto url = exported(files, document, asset);
+  const bool isThere = url && files.exists(*url) && !files.isFolder(*url);
+  return fileItem(isThere ? url : std::nullopt, asset.originalName);
+}
+
+DragItem fileExportProvider(const DragServices& services, const BrandDocument& document,
+                            const AssetRef& asset) {
+  DragItem item = variantProvider(services.files, document, asset);
+  if (item.file && isPicture(services.types, asset)) {
+    // Of the package's own file: the copy may have made way for another of its name by then.
+    item.makeTiff = [tiff = services.tiff, path = *document.assetPath(asset)] {
+      return tiff(path);
+    };
+  }
+  return item;
+}
+
+DragItem makeDragProvider(const DragServices& services, const BrandDocument& document,
+                          const Item& item) {
+  const auto asset = item.exportableAsset();
+  return ItemDrag::provider(item.id, ItemDrag::type,
+                            asset ? fileExportProvider(services, document, *asset) : DragItem());
+}
+
+QStringList exportURLs(FileStore& files, const BrandDocument& document, const Section& section,
+                       const QSet<QUuid>& items) {
+  QStringList urls;
+  for (const Item& item : section.items) {
+    const auto asset = items.contains(item.id) ? item.exportableAsset() : std::nullopt;
+    if (!asset) continue;
+    if (const auto url = exported(files, document, *asset)) urls << *url;
+  }
+  return urls;
+}
+
+QList<DragItem> providers(const QStringList& urls) {
+  QList<DragItem> items;
+  for (const QString& url : urls) items << fileItem(url, url);
+  return items;
+}
+
+}  // namespace tarnloft::TileDrag

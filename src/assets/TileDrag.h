@@ -1,0 +1,43 @@
+#pragma once
+
+#include "document/BrandDocument.h"
+#include "platform/ContentTypes.h"
+#include "platform/DragSession.h"
+
+#include <QSet>
+
+namespace tarnloft {
+
+// What a drag needs of its surroundings. Borrowed: all of it outlives the drags' receivers.
+struct DragServices {
+  FileStore& files;
+  const ContentTypes& types;
+  // The TIFF form of a picture file; none if it can't be read.
+  std::function<std::optional<QByteArray>(const QString& path)> tiff;
+};
+
+// What is dragged from a brand's tiles. Main thread. Files are copied here, as the drag begins.
+namespace TileDrag {
+
+// A tile of a section: the item's file, if it has one, with the item's id beside it. A block row is
+// an item without a file.
+DragItem makeDragProvider(const DragServices& services, const BrandDocument& document,
+                          const Item& item);
+
+// The file part of that, with a TIFF form for a picture.
+DragItem fileExportProvider(const DragServices& services, const BrandDocument& document,
+                            const AssetRef& asset);
+
+// One file of a logo set: the file alone, so that a drop inside the program imports it.
+DragItem variantProvider(FileStore& files, const BrandDocument& document, const AssetRef& asset);
+
+// The files of those items of a section that have one, in the section's order. Files of the same
+// name are one file, the last one, listed twice.
+QStringList exportURLs(FileStore& files, const BrandDocument& document, const Section& section,
+                       const QSet<QUuid>& items);
+
+// The drag of several files.
+QList<DragItem> providers(const QStringList& urls);
+
+}  // namespace TileDrag
+}  // namespace tarnloft

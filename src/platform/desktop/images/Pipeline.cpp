@@ -1,0 +1,96 @@
+#include "platform/desktop/images/Pipeline.h"
+
+#include <QDeadlineTimer>
+
+#include <chrono>
+
+namespace tarnloft::Pipeline {
+namespace {
+
+using vips::VImage;
+
+constexpr std::chrono::seconds timeLimit{30};
+
+// True if a profile tells what the colours are: the file's own, or, for printing inks, the usual
+// one.
+bool hasProfile(const VImage& image) {
+  if (image.format() != VIPS_FORMAT_UCHAR && image.format() != VIPS_FORMAT_USHORT) return false;
+  if (image.interpretation() == VIPS_INTERPRETATION_CMYK) return true;
+  if (image.get_typeof(VIPS_META_ICC_NAME) == 0) return false;
+  size_t size = 0;
+  const void* profile = image.get_blob(VIPS_META_ICC_NAME, &size);
+  return vips_icc_is_compatible_profile(image.get_image(), profile, size);
+}
+
+// A space that the library can't tell counts as what its number of components says.
+VImage toSpace(const VImage& image, VipsInterpretation space) {
+  try {
+    return image.colourspace(space);
+  } catch (const vips::VError&) {
+    const auto guess = image.bands() < 3 ? VIPS_INTERPRETATION_B_W : VIPS_INTERPRETATION_sRGB;
+    return image.cast(VIPS_FORMAT_UCHAR)
+        .copy(VImage::option()->set("interpretation", guess))
+        .colourspace(space);
+  }
+}
+
+// Values that can be scaled as they are, so that colours need be converted only for the few pixels
+// of the result: 8 bits of any device, or what a profile speaks of.
+VImage toScalable(const VImage& image) {
+  const bool isDevice = image.coding() == VIPS_CODING_NONE && image.format() == VIPS_FORMAT_UCHAR;
+  if (isDevice || hasProfile(image)) return image;
+  return toSpace(image, image.bands() < 3 ? VIPS_INTERPRETATION_B_W : VIPS_INTERPRETATION_sRGB);
+}
+
+VImage resized(const VImage& image, QSize size) {
+  if (image.width() == size.width() && image.height() == size.height()) return image;
+  const double horizontal = double(size.width()) / image.width();
+  const double vertical = double(size.height()) / image.height();
+  const auto resize = [&](const VImage& source) {
+    return source.resize(horizontal, VImage::option()->set("vscale", vertical));
+  };
+  if (!image.has_alpha()) return resize(image);
+  // What is transparent has no colour to give to its neighbours.
+  return resize(image.premultiply().cast(image.format())).unpremultiply().cast(image.format());
+}
+
+VImage toSrgb(const VImage& image) {
+  const bool inks = image.interpretation() == VIPS_INTERPRETATION_CMYK;
+  if (hasProfile(image)) {
+    try {
+      return image.icc_transform("srgb", VImage::option()
+                                             ->set("embedded", true)
+                                             ->set("input_profile", inks ? "cmyk" : "srgb")
+                                             ->set("intent", VIPS_INTENT_RELATIVE)
+                                             ->set("depth", 8));
+    } catch (const vips::VError&) {  // a profile that can't be used is as none
+    }
+  }
+  return toSpace(image, VIPS_INTERPRETATION_sRGB);
+}
+
+VImage withFourBandsAtMost(const VImage& image) {
+  return image.bands() > 4 ? image.extract_band(0, VImage::option()->set("n", 4)) : image;
+}
+
+void stopWhenLate(VipsImage* image, VipsProgress*, QDeadlineTimer* deadline) {
+  if (deadline->hasExpired()) vips_image_set_kill(image, TRUE);
+}
+
+}  // namespace
+
+VImage render(VImage image, QSize size) {
+  return withFourBandsAtMost(toSrgb(resized(toScalable(image), size)).cast(VIPS_FORMAT_UCHAR));
+}
+
+void limitTime(VImage& image) {
+  auto deadline = std::make_unique<QDeadlineTimer>(timeLimit);
+  VipsImage* raw = image.get_image();
+  vips_image_set_progress(raw, TRUE);
+  g_signal_connect_data(
+      raw, "eval", G_CALLBACK(stopWhenLate), deadline.release(),
+      [](gpointer data, GClosure*) { delete static_cast<QDeadlineTimer*>(data); },
+      GConnectFlags(0));
+}
+
+}  // namespace tarnloft::Pipeline

@@ -1,0 +1,268 @@
+#include "assets/DragFileExport.h"
+#include "assets/ItemDrag.h"
+#include "assets/TileDrag.h"
+#include "document/Package.h"
+#include "model/Uuid.h"
+#include "testing/FakeDrops.h"
+#include "testing/TestServices.h"
+
+#include <QTest>
+
+using namespace tarnloft;
+
+class TestDragOut : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void copiesUnderTheClientsName_data();
+  void copiesUnderTheClientsName();
+  void theNewestDragReplacesWhateverStandsThere_data();
+  void theNewestDragReplacesWhateverStandsThere();
+  void fallsBackToTheAssetItself_data();
+  void fallsBackToTheAssetItself();
+  void handsOutByKind_data();
+  void handsOutByKind();
+  void aPictureHasATiffOnDemand();
+  void handsOutNothingFromOutsideThePackage_data();
+  void handsOutNothingFromOutsideThePackage();
+  void aVariantIsAPlainFile();
+  void severalFilesComeInTheSectionsOrder();
+};
+
+namespace {
+
+// A document whose files are "<stored> of <brand folder>"; drags copy into a folder of the test's.
+struct Dragging {
+  TestServices disk;
+  FakeTypes types;
+  QStringList tiffed;
+  std::unique_ptr<BrandDocument> document =
+      *BrandDocument::create(disk.services(), disk.folder.path(), "Acme");
+  QString temporary = disk.path("tmp");
+  QString folder = temporary + "/tarnloft-drag";
+
+  Dragging() {
+    QDir().mkpath(temporary);
+    qputenv("TMPDIR", temporary.toUtf8());
+  }
+  ~Dragging() { qunsetenv("TMPDIR"); }
+
+  QString assetPath(const QString& filename) const {
+    return Package::assetsPath(document->packageURL()) + '/' + filename;
+  }
+  AssetRef asset(const QString& filename, const QString& originalName) {
+    writeFile(assetPath(filename), filename.toUtf8());
+    return {filename, originalName};
+  }
+  DragServices services() {
+    return {disk.files, types, [this](const QString& path) -> std::optional<QByteArray> {
+              tiffed << path;
+              return "tiff of " + contentOf(path);
+            }};
+  }
+  DragItem drag(const Item& item) {
+    return TileDrag::makeDragProvider(services(), *document, item);
+  }
+};
+
+Item image(const AssetRef& asset) { return Item::create(ImagePayload{asset, std::nullopt}); }
+
+}  // namespace
+
+void TestDragOut::copiesUnderTheClientsName_data() {
+  QTest::addColumn<QString>("originalName");
+  QTest::addColumn<QString>("copy");
+  QTest::newRow("plain") << "AcmeLogo.png"
+                         << "AcmeLogo.png";
+  QTest::newRow("odd") << "Überzug & Co #1 100%.png"
+                       << "Überzug & Co #1 100%.png";
+  QTest::newRow("no extension") << "Logo"
+                                << "Logo";
+  QTest::newRow("hidden") << ".png"
+                          << ".png";
+  QTest::newRow("upwards") << "../../../etc/passwd"
+                           << "passwd";
+  QTest::newRow("absolute") << "/etc/cron.d/x"
+                            << "x";
+  QTest::newRow("slash at the end") << "a/Logo.png/"
+                                    << "Logo.png";
+  for (const char* bad : {"", ".", "..", "a/..", "/", "//"}) {
+    QTest::newRow(qPrintable(QString("no name: %1").arg(bad))) << bad << "stored.png";
+  }
+  QTest::newRow("NUL") << "a" + QString(QChar(u'\0')) + "b"
+                       << "stored.png";
+}
+
+void TestDragOut::copiesUnderTheClientsName() {
+  QFETCH(QString, originalName);
+  QFETCH(QString, copy);
+  Dragging dragging;
+  (void)dragging.asset("stored.png", "");
+  const QString url =
+      DragFileExport::tempURL(dragging.disk.files, dragging.assetPath("stored.png"), originalName);
+  QCOMPARE(url, dragging.folder + '/' + copy);
+  QCOMPARE(contentOf(url), "stored.png");
+  QCOMPARE(QDir(dragging.temporary).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
+           QStringList("tarnloft-drag"));
+}
+
+void TestDragOut::theNewestDragReplacesWhateverStandsThere_data() {
+  QTest::addColumn<QString>("what");
+  for (const char* what : {"file", "folder", "link", "link to a folder", "dangling link"}) {
+    QTest::newRow(what) << what;
+  }
+}
+
+void TestDragOut::theNewestDragReplacesWhateverStandsThere() {
+  QFETCH(QString, what);
+  Dragging dragging;
+  (void)dragging.asset("stored.png", "");
+  const QString target = dragging.folder + "/Logo.png", other = dragging.disk.path("other/file");
+  QVERIFY(writeFile(other, "other") && QDir().mkpath(dragging.folder));
+  if (what == "file") QVERIFY(writeFile(target, "old"));
+  if (what == "folder") QVERIFY(writeFile(target + "/inside/x", "old"));
+  if (what == "link") QVERIFY(QFile::link(other, target));
+  if (what == "link to a folder") QVERIFY(QFile::link(QFileInfo(other).path(), target));
+  if (what == "dangling link") QVERIFY(QFile::link("nowhere", target));
+  const auto drag = [&] {
+    return DragFileExport::tempURL(dragging.disk.files, dragging.assetPath("stored.png"),
+                                   "Logo.png");
+  };
+  for (int again = 0; again < 2; ++again) QCOMPARE(drag(), target);
+  QVERIFY(!QFileInfo(target).isSymLink());
+  QCOMPARE(contentOf(target), "stored.png");
+  QCOMPARE(contentOf(other), "other");
+}
+
+void TestDragOut::fallsBackToTheAssetItself_data() {
+  QTest::addColumn<QString>("fault");
+  for (const char* fault : {"asset gone", "no temporary folder", "name too long"}) {
+    QTest::newRow(fault) << fault;
+  }
+}
+
+void TestDragOut::fallsBackToTheAssetItself() {
+  QFETCH(QString, fault);
+  Dragging dragging;
+  (void)dragging.asset("stored.png", "");
+  const QString path = dragging.assetPath("stored.png");
+  QVERIFY(writeFile(dragging.folder + "/Logo.png", "of another brand"));
+  if (fault == "asset gone") QVERIFY(QFile::remove(path));
+  if (fault == "no temporary folder") {
+    qputenv("TMPDIR", QFile::encodeName(dragging.folder + "/Logo.png"));
+  }
+  const QString name = fault == "name too long" ? QString(300, 'x') : "Logo.png";
+  QCOMPARE(DragFileExport::tempURL(dragging.disk.files, path, name), path);
+}
+
+void TestDragOut::handsOutByKind_data() {
+  QTest::addColumn<QString>("kind");
+  QTest::addColumn<QString>("file");
+  QTest::addColumn<bool>("tiff");
+  const auto row = [](const char* kind, const char* file, bool tiff) {
+    QTest::newRow(kind) << kind << file << tiff;
+  };
+  row("png", "Client.png", true);
+  row("svg", "Client.svg", true);
+  row("pdf image", "Client.pdf", false);
+  row("image without extension", "Client", false);
+  row("video", "Client.mp4", false);
+  row("font", "Client.ttf", false);
+  row("name-only font", "", false);
+  row("logo", "Primary.png", true);
+  row("empty logo", "", false);
+  row("color", "", false);
+  row("header", "", false);
+  row("lost image", "", false);
+}
+
+void TestDragOut::handsOutByKind() {
+  QFETCH(QString, kind);
+  QFETCH(QString, file);
+  QFETCH(bool, tiff);
+  Dragging dragging;
+  const AssetRef asset = dragging.asset("stored", file), other = dragging.asset("other", "x.mp4");
+  const QList<LogoVariant> variants{{QUuid::createUuid(), other, LogoRole::mono, std::nullopt},
+                                    {QUuid::createUuid(), asset, LogoRole::primary, std::nullopt}};
+  const QHash<QString, ItemPayload> odd{
+      {"video", VideoPayload{asset, std::nullopt}},
+      {"font", FontPayload{{"F", {}, {}, asset, {}}}},
+      {"name-only font", FontPayload{{"F", {}, {}, {}, {}}}},
+      {"logo", LogoPayload{{"Logo", variants}}},
+      {"empty logo", LogoPayload{{"Logo", {}}}},
+      {"color", ColorPayload{{"#123456", {}, {}}}},
+      {"header", HeaderPayload{"H", 1}},
+      {"lost image", ImagePayload{{"lost", "lost.png"}, std::nullopt}}};
+  const Item item = Item::create(odd.value(kind, ImagePayload{asset, std::nullopt}));
+  const DragItem drag = dragging.drag(item);
+  QCOMPARE(drag.file.value_or(QString()), file.isEmpty() ? file : dragging.folder + '/' + file);
+  QCOMPARE(bool(drag.makeTiff), tiff);
+  QCOMPARE(drag.payload->type, "com.quillmoor.tarnloft.item");
+  QCOMPARE(drag.payload->bytes, canonicalString(item.id).toUtf8());
+  if (!file.isEmpty()) QCOMPARE(drag.suggestedName, file.section('.', 0, 0));
+}
+
+void TestDragOut::aPictureHasATiffOnDemand() {
+  Dragging dragging;
+  const DragItem drag = dragging.drag(image(dragging.asset("stored.jpg", "Photo.jpg")));
+  QVERIFY(dragging.tiffed.isEmpty());
+  QVERIFY(QFile::remove(*drag.file));
+  QCOMPARE(*drag.makeTiff(), "tiff of stored.jpg");
+  QCOMPARE(dragging.tiffed, QStringList(dragging.assetPath("stored.jpg")));
+}
+
+void TestDragOut::handsOutNothingFromOutsideThePackage_data() {
+  QTest::addColumn<QString>("filename");
+  for (const char* bad : {"../../secret.png", "", ".", "..", "out.png", "folder.png", "gone.png"}) {
+    QTest::newRow(bad) << bad;
+  }
+}
+
+void TestDragOut::handsOutNothingFromOutsideThePackage() {
+  QFETCH(QString, filename);
+  Dragging dragging;
+  QVERIFY(writeFile(dragging.disk.path("secret.png"), "secret"));
+  QVERIFY(QFile::link(dragging.disk.path("secret.png"), dragging.assetPath("out.png")));
+  QVERIFY(QFile::link(dragging.disk.path("gone"), dragging.assetPath("gone.png")));
+  QVERIFY(QDir().mkpath(dragging.assetPath("folder.png")));
+  const Item item = image({filename, "Logo.png"});
+  const DragItem drag = dragging.drag(item);
+  QVERIFY(!drag.file && !drag.makeTiff && drag.payload);
+  QVERIFY(!QFileInfo::exists(dragging.folder + "/Logo.png"));
+}
+
+void TestDragOut::aVariantIsAPlainFile() {
+  Dragging dragging;
+  const DragItem drag = TileDrag::variantProvider(dragging.disk.files, *dragging.document,
+                                                  dragging.asset("v.png", "Mark.final.png"));
+  QCOMPARE(drag.file, dragging.folder + "/Mark.final.png");
+  QCOMPARE(drag.suggestedName, "Mark.final");
+  QVERIFY(!drag.payload && !drag.makeTiff);
+}
+
+void TestDragOut::severalFilesComeInTheSectionsOrder() {
+  Dragging dragging;
+  Section section = Section::create("S");
+  section.items = {image(dragging.asset("1", "One.png")),
+                   Item::create(TextPayload{"text"}),
+                   image(dragging.asset("2", "Same.png")),
+                   image(dragging.asset("3", "Same.png")),
+                   image({"lost", "Lost.png"}),
+                   image({"../x", "Outside.png"}),
+                   image(dragging.asset("4", "Not.png"))};
+  QSet<QUuid> selected;
+  for (qsizetype i = 5; i >= 0; --i) selected << section.items.at(i).id;
+  const QStringList urls =
+      TileDrag::exportURLs(dragging.disk.files, *dragging.document, section, selected);
+  const QString same = dragging.folder + "/Same.png";
+  QCOMPARE(urls,
+           QStringList({dragging.folder + "/One.png", same, same, dragging.assetPath("lost")}));
+  QCOMPARE(contentOf(same), "3");
+  const QList<DragItem> drag = TileDrag::providers(urls);
+  QCOMPARE(drag.size(), 4);
+  QCOMPARE(drag.at(0).file, urls.at(0));
+  QCOMPARE(drag.at(0).suggestedName, "One");
+}
+
+QTEST_GUILESS_MAIN(TestDragOut)
+#include "tst_dragout.moc"
