@@ -10,8 +10,9 @@ import TarnLoft.Controls
 T.Menu {
     id: root
 
+    property real least: 150 // its least width
     readonly property real widest: {
-        let most = 150;
+        let most = least;
         for (let i = 0; i < count; ++i)
             most = Math.max(most, itemAt(i).implicitWidth);
         return Math.ceil(Math.min(most, 420));

@@ -1,0 +1,46 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Controls
+
+// Gives the item that it stands in a context menu, made at the first right click, press of the Menu
+// key or Shift+F10 while the item has the focus.
+//   Tile { ContextMenuArea { menu: Menu { … } } }
+// `requested` comes just before the menu opens, so that the view can select what was clicked.
+Item {
+    id: root
+
+    required property Component menu // of a Menu
+    property bool keyboardOnly: false // the view opens it by pointer itself
+
+    signal requested
+
+    function openMenu(x: real, y: real) {
+        requested();
+        holder.active = true;
+        (holder.item as Menu).popup(root, x, y);
+    }
+
+    anchors.fill: parent
+    Accessible.ignored: true
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        enabled: !root.keyboardOnly
+        gesturePolicy: TapHandler.ReleaseWithinBounds
+        onPressedChanged: if (pressed) root.openMenu(point.position.x, point.position.y)
+    }
+
+    Shortcut {
+        enabled: root.parent?.activeFocus ?? false
+        sequences: ["Menu", "Shift+F10"]
+        onActivated: root.openMenu(root.width / 2, root.height / 2)
+    }
+
+    Loader {
+        id: holder
+
+        active: false
+        sourceComponent: root.menu
+    }
+}

@@ -1,0 +1,38 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import TarnLoft.Controls
+
+// The window's menus. Alt or F10 and the arrows reach it.
+//   MenuBar { Menu { title: "File"; MenuItem { … } } }
+T.MenuBar {
+    id: root
+
+    implicitWidth: contentWidth + leftPadding + rightPadding
+    implicitHeight: contentHeight + topPadding + bottomPadding
+    leftPadding: 8
+    rightPadding: 8
+    topPadding: 3
+    bottomPadding: 3
+    delegate: MenuBarItem {}
+    Accessible.role: Accessible.MenuBar
+    Accessible.name: "Menus"
+
+    contentItem: Row {
+        spacing: root.spacing
+
+        Repeater {
+            model: root.contentModel
+        }
+    }
+
+    background: Rectangle {
+        color: Theme.windowBackground
+
+        Divider {
+            anchors.bottom: parent.bottom
+            width: parent.width
+        }
+    }
+}

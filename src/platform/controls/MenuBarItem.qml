@@ -1,0 +1,31 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import TarnLoft.Controls
+
+// The title of one menu of a MenuBar, which makes it.
+T.MenuBarItem {
+    id: root
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: 22
+    leftPadding: 9
+    rightPadding: 9
+    font: Theme.body
+    Accessible.role: Accessible.MenuItem
+    Accessible.name: text
+    Accessible.onPressAction: triggered()
+
+    contentItem: Label {
+        text: root.text
+        font: root.font
+        verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true
+    }
+
+    background: Rectangle {
+        radius: 5
+        color: root.down || root.highlighted ? Theme.pressedFill : root.hovered ? Theme.hoverFill : "transparent"
+    }
+}

@@ -1,0 +1,60 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import TarnLoft.Controls
+
+// Text of several lines that grows with what it holds, without a frame; TextEditor has one.
+//   TextArea { placeholderText: "Text"; text: …; onEdited: … }
+// Tab leaves it unless `tabInserts`. `edited` tells of the user's changes alone.
+T.TextArea {
+    id: root
+
+    property string accessibleName: placeholderText
+    property bool tabInserts: false
+
+    signal edited
+
+    implicitWidth: contentWidth + leftPadding + rightPadding
+    implicitHeight: Math.max(contentHeight, prompt.implicitHeight) + topPadding + bottomPadding
+    padding: 0
+    font: Theme.body
+    color: Theme.label
+    placeholderTextColor: Theme.placeholder
+    selectionColor: Theme.textSelection
+    selectedTextColor: Theme.label
+    wrapMode: TextEdit.Wrap
+    textFormat: TextEdit.PlainText
+    selectByMouse: true
+    opacity: enabled ? 1 : 0.45
+
+    onTextChanged: if (activeFocus) edited()
+
+    Keys.onTabPressed: event => {
+        event.accepted = !tabInserts;
+        if (!tabInserts)
+            nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason);
+    }
+    Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+
+    Accessible.role: Accessible.EditableText
+    Accessible.name: accessibleName
+    Accessible.multiLine: true
+
+    cursorDelegate: TextCursor {
+        field: root
+    }
+
+    Label {
+        id: prompt
+
+        x: root.leftPadding
+        y: root.topPadding
+        width: root.width - root.leftPadding - root.rightPadding
+        visible: root.length === 0 && root.preeditText === ""
+        text: root.placeholderText
+        font: root.font
+        color: root.placeholderTextColor
+        Accessible.ignored: true
+    }
+}
