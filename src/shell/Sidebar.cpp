@@ -1,6 +1,6 @@
 #include "shell/Sidebar.h"
 
-#include "model/Uuid.h"
+#include "platform/DesktopWords.h"
 
 #include <algorithm>
 
@@ -34,6 +34,8 @@ void Sidebar::exportFile(const QString& packageURL) {
 }
 
 void Sidebar::reveal(const QString& packageURL) { viewer_.reveal(packageURL); }
+
+QString Sidebar::revealText() { return inDesktopWords(QStringLiteral("Reveal in Finder")); }
 
 void Sidebar::setRenaming(const std::optional<BrandSummary>& brand) {
   renaming_ = brand;
@@ -77,16 +79,20 @@ void Sidebar::setDragging(const QString& brandID) {
   emit draggingChanged();
 }
 
+void Sidebar::move(const QString& brandID, const std::optional<QUuid>& before) {
+  library_.moveBrand(QUuid::fromString(brandID), before);
+  emit moved();
+}
+
 void Sidebar::beginDrag(const QString& brandID) { setDragging(brandID); }
 
 void Sidebar::dragEntered(const QString& targetID) {
   if (draggingBrandID_.isEmpty() || draggingBrandID_ == targetID) return;
-  library_.moveBrand(QUuid::fromString(draggingBrandID_), QUuid::fromString(targetID));
+  move(draggingBrandID_, QUuid::fromString(targetID));
 }
 
 void Sidebar::dragEnteredEnd() {
-  if (draggingBrandID_.isEmpty()) return;
-  library_.moveBrand(QUuid::fromString(draggingBrandID_), std::nullopt);
+  if (!draggingBrandID_.isEmpty()) move(draggingBrandID_, std::nullopt);
 }
 
 void Sidebar::endDrag() { setDragging({}); }
@@ -101,7 +107,7 @@ qsizetype Sidebar::indexOf(const QString& brandID) const {
 void Sidebar::moveUp(const QString& brandID) {
   const qsizetype index = indexOf(brandID);
   if (index < 1) return;
-  library_.moveBrand(QUuid::fromString(brandID), library_.brands().at(index - 1).brandID);
+  move(brandID, library_.brands().at(index - 1).brandID);
 }
 
 void Sidebar::moveDown(const QString& brandID) {
@@ -109,8 +115,7 @@ void Sidebar::moveDown(const QString& brandID) {
   const qsizetype index = indexOf(brandID);
   if (index < 0 || index + 1 >= brands.size()) return;
   const bool toEnd = index + 2 >= brands.size();
-  library_.moveBrand(QUuid::fromString(brandID),
-                      toEnd ? std::nullopt : std::optional(brands.at(index + 2).brandID));
+  move(brandID, toEnd ? std::nullopt : std::optional(brands.at(index + 2).brandID));
 }
 
 }  // namespace tarnloft

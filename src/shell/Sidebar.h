@@ -15,6 +15,8 @@ class Sidebar : public QObject {
   Q_PROPERTY(QString renameText READ renameText NOTIFY renamingChanged)
   Q_PROPERTY(bool deleting READ isDeleting NOTIFY deletingChanged)
   Q_PROPERTY(QString deleteTitle READ deleteTitle NOTIFY deletingChanged)
+  // The file manager's entry of a brand's menu.
+  Q_PROPERTY(QString revealText READ revealText CONSTANT)
   Q_PROPERTY(QString draggingBrandID READ draggingBrandID NOTIFY draggingChanged)
 
  public:
@@ -31,6 +33,8 @@ class Sidebar : public QObject {
   Q_INVOKABLE void exportPage(const QString& packageURL);
   Q_INVOKABLE void exportFile(const QString& packageURL);
   Q_INVOKABLE void reveal(const QString& packageURL);
+
+  static QString revealText();
 
   // --- The rename sheet, up while `renaming`. It starts with `renameText`.
 
@@ -66,6 +70,8 @@ class Sidebar : public QObject {
   void renamingChanged();
   void deletingChanged();
   void draggingChanged();
+  // The user moved a brand; the rows follow on the next turn of the event loop.
+  void moved();
 
  private:
   std::optional<BrandSummary> brandAt(const QString& packageURL) const;
@@ -73,6 +79,7 @@ class Sidebar : public QObject {
   void setRenaming(const std::optional<BrandSummary>& brand);
   void setPendingDelete(const std::optional<BrandSummary>& brand);
   void setDragging(const QString& brandID);
+  void move(const QString& brandID, const std::optional<QUuid>& before);
 
   LibraryStore& library_;
   FileViewer& viewer_;

@@ -51,6 +51,7 @@ QVariant SidebarModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
     case name: return row.name;
     case emblem: return orNothing(row.emblem);
+    case marked: return !row.emblem || row.emblem->kind != Emblem::Kind::none;
     case accent: return orNothing(accentColor(row.accentHex));
     case accentDark: return orNothing(accentColor(row.accentHexDark));
     case selected: return row.selected;
@@ -60,7 +61,7 @@ QVariant SidebarModel::data(const QModelIndex& index, int role) const {
 
 QHash<int, QByteArray> SidebarModel::roleNames() const {
   return {{kind, "kind"},     {rowID, "rowID"},   {packageURL, "packageURL"},
-          {name, "name"},     {emblem, "emblem"}, {accent, "accent"},
+          {name, "name"}, {emblem, "emblem"}, {marked, "marked"}, {accent, "accent"},
           {accentDark, "accentDark"}, {selected, "selected"}};
 }
 

@@ -25,6 +25,7 @@ class SidebarModel : public QAbstractListModel {
     packageURL,           // text: of the row's brand
     name,                 // text: never empty
     emblem,               // Emblem, or nothing: the brand's or the section's
+    marked,               // bool: false if the user wants no mark on it
     accent,               // QColor, or nothing: the brand's own in the light look
     accentDark,           // the same in the dark look
     selected              // bool: the row is the selected brand's own
@@ -53,7 +54,7 @@ class SidebarModel : public QAbstractListModel {
 
   const QList<Row>& rows() const { return rows_; }
   // Position of the selected brand's row, or -1.
-  int selectedRow() const;
+  Q_INVOKABLE int selectedRow() const;
 
  private:
   void scheduleUpdate();
