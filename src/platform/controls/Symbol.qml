@@ -21,8 +21,8 @@ Item {
 
     Text {
         anchors.centerIn: parent
-        font: SymbolTable.font(Math.round(root.size * 1.25), root.weight)
-        text: SymbolTable.glyph(root.name)
+        font: SymbolGlyphs.font(Math.round(root.size * 1.25), root.weight)
+        text: SymbolGlyphs.text(root.name)
         color: root.color
         textFormat: Text.PlainText
         Accessible.ignored: true

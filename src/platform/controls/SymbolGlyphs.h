@@ -6,8 +6,8 @@
 
 namespace tarnloft {
 
-// The system symbols, for QML.
-class SymbolTable : public QObject {
+// The symbol table for QML; views use `Symbol`.
+class SymbolGlyphs : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_SINGLETON
@@ -16,9 +16,10 @@ class SymbolTable : public QObject {
   using QObject::QObject;
 
   // The character of a symbol in `font`; empty for a name that isn't in the table.
-  Q_INVOKABLE QString glyph(const QString& name) const;
+  Q_INVOKABLE static QString text(const QString& name);
 
-  Q_INVOKABLE QFont font(int pixelSize, int weight = QFont::Normal) const;
+  // A glyph fills a square of `pixelSize`.
+  Q_INVOKABLE static QFont font(int pixelSize, int weight);
 };
 
 }  // namespace tarnloft

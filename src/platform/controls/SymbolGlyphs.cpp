@@ -1,0 +1,21 @@
+#include "platform/controls/SymbolGlyphs.h"
+
+#include "platform/controls/symbols/SymbolFont.h"
+#include "platform/controls/symbols/SymbolTable.h"
+
+namespace tarnloft {
+
+QString SymbolGlyphs::text(const QString& name) {
+  const auto glyph = symbols::glyph(name);
+  return glyph ? QString::fromUcs4(&*glyph, 1) : QString();
+}
+
+QFont SymbolGlyphs::font(int pixelSize, int weight) {
+  QFont font(symbols::fontFamily());
+  font.setPixelSize(pixelSize);
+  font.setWeight(static_cast<QFont::Weight>(weight));
+  font.setHintingPreference(QFont::PreferNoHinting);
+  return font;
+}
+
+}  // namespace tarnloft
