@@ -36,9 +36,9 @@ FocusScope {
             }
         }
 
-        Loader {
+        Lazy {
             SplitView.fillWidth: true
-            sourceComponent: root.content.detail === ContentModel.Detail.brand ? brandPage : emptyLibrary
+            component: root.content.detail === ContentModel.Detail.brand ? brandPage : emptyLibrary
         }
     }
 
@@ -56,9 +56,10 @@ FocusScope {
         Item {}
     }
 
-    SheetLoader {
-        shown: root.content.showNewBrand
-        sheet: NewBrandSheet {
+    LazySheet {
+        active: root.content.showNewBrand
+
+        NewBrandSheet {
             text: root.content.newBrandName
             onTextEdited: text => root.content.newBrandName = text
             onCreate: name => root.content.createBrand(name)

@@ -10,10 +10,10 @@ Item {
 
     required property ContentModel content
 
-    Loader {
+    Lazy {
         anchors.centerIn: parent
         anchors.verticalCenterOffset: -12 // the optical middle
-        sourceComponent: root.content.detail === ContentModel.Detail.welcome ? welcome : noSelection
+        component: root.content.detail === ContentModel.Detail.welcome ? welcome : noSelection
     }
 
     Component {

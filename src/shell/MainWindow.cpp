@@ -8,7 +8,9 @@
 namespace tarnloft {
 namespace {
 
-const auto sidebarWidth = "sidebarWidth";  // a property of the window
+// Properties of the window.
+const auto initialSidebarWidth = QStringLiteral("initialSidebarWidth");
+constexpr auto sidebarWidth = "sidebarWidth";
 
 QList<QRect> screenRooms() {
   QList<QRect> rooms;
@@ -44,7 +46,7 @@ bool MainWindow::open() {
   auto content = std::make_unique<ContentModel>(library_, services_);
   std::unique_ptr<QObject> made(component.createWithInitialProperties(
       {{QStringLiteral("content"), QVariant::fromValue(content.get())},
-       {QLatin1String(sidebarWidth), state.sidebarWidth}}));
+       {initialSidebarWidth, state.sidebarWidth}}));
   window_.reset(qobject_cast<QQuickWindow*>(made.release()));
   if (!window_) {
     qCritical("%s", qPrintable(component.errorString()));

@@ -21,10 +21,11 @@ Item {
     height: width
     visible: isBrand || marked
 
-    Loader {
+    Lazy {
         anchors.centerIn: parent
         active: root.marked
-        sourceComponent: EmblemView {
+
+        EmblemView {
             emblem: root.emblem
             defaultSymbol: root.isBrand ? "square.stack.3d.up" : "rectangle.grid.1x2"
             size: root.width

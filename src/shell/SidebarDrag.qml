@@ -34,7 +34,7 @@ Item {
     function enterRow() {
         const y = Math.max(0, Math.min(height - 1, pointerY)) + list.contentY;
         const row = list.itemAt(list.width / 2, y) as SidebarRow;
-        const target = row ? row.rowID : y >= list.footerItem.y ? "end" : "";
+        const target = row ? row.rowID : y >= list.originY + list.contentHeight ? "end" : "";
         if (target === lastTarget || (row && !row.isBrand))
             return;
         lastTarget = target;
@@ -51,7 +51,8 @@ Item {
         repeat: true
         running: root.active && root.pull !== 0
         onTriggered: {
-            const most = root.list.originY + root.list.contentHeight - root.list.height;
+            const end = root.list.originY + root.list.contentHeight + root.list.bottomMargin;
+            const most = Math.max(root.list.originY, end - root.list.height);
             const wanted = root.list.contentY + root.pull * 0.35;
             root.list.contentY = Math.max(root.list.originY, Math.min(most, wanted));
             root.enterRow();

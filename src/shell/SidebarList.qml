@@ -11,6 +11,7 @@ ListView {
     id: root
 
     required property Sidebar sidebar
+    readonly property int endStrip: 14 // behind the last row, for what is dragged to the end
     readonly property SidebarRow current: currentItem as SidebarRow
 
     signal rowDragged(row: SidebarRow, point: point)
@@ -18,7 +19,7 @@ ListView {
 
     function openMenu(row: SidebarRow, x: real, y: real) {
         menu.active = true;
-        (menu.item as BrandMenu).openFor(row, x, y);
+        (menu.object as BrandMenu).openFor(row, x, y);
     }
 
     function onBrand(act: var) {
@@ -31,6 +32,7 @@ ListView {
     activeFocusOnTab: true
     highlightFollowsCurrentItem: false
     keyNavigationEnabled: true
+    bottomMargin: endStrip
     boundsBehavior: Flickable.StopAtBounds
     currentIndex: sidebar.rows.selectedRow()
     onActiveFocusChanged: {
@@ -39,16 +41,6 @@ ListView {
     }
     Accessible.role: Accessible.List
     Accessible.name: "Brands"
-
-    header: Label {
-        width: ListView.view.width
-        height: 26
-        leftPadding: 18
-        text: "Brands"
-        font: Theme.font(11, Font.DemiBold)
-        color: Theme.secondaryLabel
-        verticalAlignment: Text.AlignVCenter
-    }
 
     delegate: SidebarRow {
         width: ListView.view.width
@@ -64,16 +56,7 @@ ListView {
         onDropped: root.rowDropped()
     }
 
-    footer: Item {
-        width: ListView.view.width
-        height: 14
-    }
-
     T.ScrollBar.vertical: ScrollBar {}
-
-    WheelScroll {
-        flickable: root
-    }
 
     Timer {
         id: settled
@@ -89,11 +72,12 @@ ListView {
         }
     }
 
-    Loader {
+    Lazy {
         id: menu
 
         active: false
-        sourceComponent: BrandMenu {
+
+        BrandMenu {
             sidebar: root.sidebar
         }
     }

@@ -51,10 +51,11 @@ MouseArea {
             activated();
     }
 
-    Loader {
+    Lazy {
         anchors.fill: parent
         active: root.overHandle && !root.dragging
-        sourceComponent: Item {
+
+        Item {
             Help {
                 width: root.handleEnd
                 text: "Drag to reorder"

@@ -15,18 +15,31 @@ Rectangle {
 
     color: Theme.sidebarBackground
 
-    Loader {
+    Lazy {
         id: top
 
         width: parent.width
         height: 44
-        sourceComponent: root.header
+        component: root.header
+    }
+
+    Label {
+        id: heading
+
+        anchors.top: top.bottom
+        width: parent.width
+        height: 26
+        leftPadding: 16
+        text: "Brands"
+        font: Theme.font(11, Font.DemiBold)
+        color: Theme.secondaryLabel
+        verticalAlignment: Text.AlignVCenter
     }
 
     SidebarList {
         id: list
 
-        anchors.top: top.bottom
+        anchors.top: heading.bottom
         anchors.bottom: foot.top
         width: parent.width
         sidebar: root.sidebar
@@ -68,9 +81,10 @@ Rectangle {
         }
     }
 
-    SheetLoader {
-        shown: root.sidebar.renaming
-        sheet: RenameSheet {
+    LazySheet {
+        active: root.sidebar.renaming
+
+        RenameSheet {
             title: "Rename Brand"
             text: root.sidebar.renameText
             onSave: name => root.sidebar.commitRename(name)
@@ -78,9 +92,10 @@ Rectangle {
         }
     }
 
-    SheetLoader {
-        shown: root.sidebar.deleting
-        sheet: ConfirmationDialog {
+    LazySheet {
+        active: root.sidebar.deleting
+
+        ConfirmationDialog {
             title: root.sidebar.deleteTitle
             message: "The brand file goes to the Trash. You can restore it from there."
             confirmText: "Move to Trash"
