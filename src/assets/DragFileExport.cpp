@@ -10,7 +10,7 @@ QString tempURL(FileStore& files, const QString& assetURL, const QString& origin
   const QString clientName = lastPathComponent(originalName);
   const QString name = isPlainFileName(clientName) ? clientName : lastPathComponent(assetURL);
   const QString target = *folder + QLatin1Char('/') + name;
-  (void)files.removeTree(target);  // usually nothing stood there
+  if (!files.remove(target)) (void)files.removeFolder(target);  // usually nothing stood there
   return files.copyFile(assetURL, target) ? target : assetURL;
 }
 

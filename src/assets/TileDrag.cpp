@@ -37,8 +37,8 @@ DragItem fileExportProvider(const DragServices& services, const BrandDocument& d
   DragItem item = variantProvider(services.files, document, asset);
   if (item.file && isPicture(services.types, asset)) {
     // Of the package's own file: the copy may have made way for another of its name by then.
-    item.makeTiff = [tiff = services.tiff, path = *document.assetPath(asset)] {
-      return tiff(path);
+    item.makeTiff = [tiff = services.tiff, path = *document.assetPath(asset)](qint64 maxBytes) {
+      return tiff(path, maxBytes);
     };
   }
   return item;

@@ -12,8 +12,8 @@ namespace tarnloft {
 struct DragServices {
   FileStore& files;
   const ContentTypes& types;
-  // The TIFF form of a picture file; none if it can't be read.
-  std::function<std::optional<QByteArray>(const QString& path)> tiff;
+  // The TIFF form of a picture file, of so many bytes at most; none if it can't be had.
+  std::function<std::optional<QByteArray>(const QString& path, qint64 maxBytes)> tiff;
 };
 
 // What is dragged from a brand's tiles. Main thread. Files are copied here, as the drag begins.

@@ -23,9 +23,10 @@ struct DragItem {
   std::optional<QString> file;  // the path of a file that exists and stays
   QString suggestedName;        // the file's name without its extension; may be empty
   std::optional<PrivatePayload> payload;
-  // Makes a TIFF picture of it when a receiver asks, perhaps long after the drag. Main thread,
-  // which waits for it. Null for a thing that is no picture; none if it can't be made.
-  std::function<std::optional<QByteArray>()> makeTiff;
+  // Makes a TIFF picture of it, of so many bytes at most, when a receiver asks, perhaps long after
+  // the drag. Main thread, which waits for it. None if it can't be made; null for a thing that is
+  // no picture.
+  std::function<std::optional<QByteArray>(qint64 maxBytes)> makeTiff;
 };
 
 // What follows the pointer.

@@ -115,9 +115,6 @@ class FileStore {
   // Removes a folder with all that is in it; links in it are removed, not followed.
   virtual Result<void> removeFolder(const QString& path) = 0;
 
-  // Removes what stands at the path, a folder with all that is in it. A link goes, not its target.
-  virtual Result<void> removeTree(const QString& path) = 0;
-
   // Renames a file or folder on one file system; fails if anything stands at `target`.
   virtual Result<void> moveFolder(const QString& path, const QString& target) = 0;
 };

@@ -18,11 +18,15 @@ class Fonts {
  public:
   virtual ~Fonts() = default;
 
-  // Of the file's first face; none without a family. Any thread.
+  // Of the file's first face; none without a family. The typographic names, where a font has them
+  // ("Acme" and "Light" instead of "Acme Light" and "Regular"), in English if it can be. Any
+  // thread.
   virtual std::optional<FontNames> names(const QString& path) = 0;
 
-  // Makes the file's faces drawable by their family for as long as the process lives, without
-  // installing them. Repeats and failures are ignored. Main thread, with a Gui application.
+  // Makes the file's faces drawable by their family for as long as the process lives, even if the
+  // file goes, without installing them. Repeats and failures are ignored. Any thread. On the main
+  // thread, a file of ordinary size draws when this returns; a large one is read aside, and it as
+  // well as one of another thread draws once the event loop has come by.
   virtual void registerForProcess(const QString& path) = 0;
 };
 

@@ -22,8 +22,9 @@ class Videos {
   // None if the file is no clip at all.
   virtual std::optional<VideoProperties> properties(const QString& path) = 0;
 
-  // The picture at `seconds` (the last one before its end if it is shorter), turned as the track
-  // tells, whose longer side is at most `maxPixel`.
+  // The picture shown `seconds` after the beginning (the last one of a shorter clip), with square
+  // pixels, turned as the track tells, and no longer than `maxPixel` on a side; never enlarged but
+  // to make pixels square. For the first seconds: all that comes before is decoded too.
   virtual std::optional<QImage> frame(const QString& path, double seconds, int maxPixel) = 0;
 };
 

@@ -55,7 +55,7 @@ struct Dragging {
     return {filename, originalName};
   }
   DragServices services() {
-    return {disk.files, types, [this](const QString& path) -> std::optional<QByteArray> {
+    return {disk.files, types, [this](const QString& path, qint64) -> std::optional<QByteArray> {
               tiffed << path;
               return "tiff of " + contentOf(path);
             }};
@@ -207,7 +207,7 @@ void TestDragOut::aPictureHasATiffOnDemand() {
   const DragItem drag = dragging.drag(image(dragging.asset("stored.jpg", "Photo.jpg")));
   QVERIFY(dragging.tiffed.isEmpty());
   QVERIFY(QFile::remove(*drag.file));
-  QCOMPARE(*drag.makeTiff(), "tiff of stored.jpg");
+  QCOMPARE(*drag.makeTiff(100), "tiff of stored.jpg");
   QCOMPARE(dragging.tiffed, QStringList(dragging.assetPath("stored.jpg")));
 }
 

@@ -33,7 +33,7 @@ DragItem file(const QString& path) { return {path, {}, std::nullopt, nullptr}; }
 
 DragItem tile() {
   return {"/tmp/a b.png", "a b", PrivatePayload{privateType, "id"},
-          [] { return std::optional<QByteArray>("tiff"); }};
+          [](qint64) { return std::optional<QByteArray>("tiff"); }};
 }
 
 // What a thing answers, or "none".
@@ -93,7 +93,7 @@ void TestDragData::listsFilesForEveryReader() {
 void TestDragData::makesItsPictureOnceAndOnDemand() {
   int made = 0;
   DragItem item = file("/tmp/a.png");
-  item.makeTiff = [&]() -> std::optional<QByteArray> {
+  item.makeTiff = [&](qint64) -> std::optional<QByteArray> {
     return ++made == 1 ? "picture" : "another";
   };
   const DragData data({item});
@@ -103,7 +103,7 @@ void TestDragData::makesItsPictureOnceAndOnDemand() {
   QCOMPARE(data.data("image/tiff"), "picture");
   QCOMPARE(data.data("image/tiff"), "picture");
   QCOMPARE(made, 1);
-  item.makeTiff = [] { return std::nullopt; };
+  item.makeTiff = [](qint64) { return std::nullopt; };
   QCOMPARE(DragData({item}).data("image/tiff"), QByteArray());
 }
 

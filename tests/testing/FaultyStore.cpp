@@ -107,10 +107,6 @@ Result<void> FaultyStore::removeFolder(const QString& path) {
   return step() ? PosixFileStore::removeFolder(path) : tl::unexpected(fullDisk());
 }
 
-Result<void> FaultyStore::removeTree(const QString& path) {
-  return step() ? PosixFileStore::removeTree(path) : tl::unexpected(fullDisk());
-}
-
 Result<void> FaultyStore::moveFolder(const QString& path, const QString& target) {
   return step() ? PosixFileStore::moveFolder(path, target) : tl::unexpected(fullDisk());
 }

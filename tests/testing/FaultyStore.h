@@ -29,7 +29,6 @@ class FaultyStore : public PosixFileStore {
   Result<void> syncFolder(const QString& path) override;
   Result<void> remove(const QString& path) override;
   Result<void> removeFolder(const QString& path) override;
-  Result<void> removeTree(const QString& path) override;
   Result<void> moveFolder(const QString& path, const QString& target) override;
 
   // Counts a step; false if it must not happen.

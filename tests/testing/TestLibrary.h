@@ -52,6 +52,7 @@ class FolderTrash : public Trash {
 // A library folder on the real disk, with its preferences in a real file.
 struct TestLibrary {
   TestServices disk;
+  FileStore* files = &disk.files;  // a test may put a faulty one in
   IniPreferences preferences{disk.path("tarnloft.ini")};
   ListedAppearance appearance;
   CountingBeep beep;
@@ -64,7 +65,7 @@ struct TestLibrary {
   std::unique_ptr<LibraryStore> store;
 
   LibraryServices services() {
-    return {disk.services(),
+    return {{*files, disk.log, [this] { return disk.now; }},
             preferences,
             appearance,
             beep,

@@ -28,49 +28,30 @@ Page {
     }
     Specimen {
         title: "Small, regular, large"
-        Button { text: "50 %"; controlSize: ControlSize.Small; anchors.verticalCenter: parent.verticalCenter }
-        Button { text: "Choose Image…"; anchors.verticalCenter: parent.verticalCenter }
+        Button { text: "50 %"; controlSize: ControlSize.Small }
+        Button { text: "Choose Image…" }
         Button { text: "Create your first brand"; symbol: "plus"; kind: Button.Prominent; controlSize: ControlSize.Large }
     }
     Specimen {
         title: "Borderless and plain"
         Button { text: "New Brand"; symbol: "plus"; kind: Button.Borderless; tint: Theme.secondaryLabel }
         Button { symbol: "gearshape"; help: "Menu Bar settings"; kind: Button.Borderless }
+        Button { symbol: "macwindow"; help: "Open Tarn Loft"; kind: Button.Borderless }
         Button { symbol: "clock.arrow.circlepath"; help: "Version history"; kind: Button.Borderless; down: true }
-        Button { text: "Copy CSS"; kind: Button.Plain; tint: Theme.accentText; font: Theme.font(11, Font.Medium); anchors.verticalCenter: parent.verticalCenter }
+        Button { text: "Copy CSS"; kind: Button.Plain; tint: Theme.accentText; font: Theme.font(11, Font.Medium) }
     }
     Specimen {
-        title: "Focus"
-        Button { id: focused; text: "Save"; kind: Button.Prominent; Component.onCompleted: forceActiveFocus(Qt.TabFocusReason) }
+        title: "Menu buttons"
+        MenuButton { text: "Move to…"; menu: Menu { MenuItem { text: "Logos" } } }
+        MenuButton { text: "Add Rule"; symbol: "plus"; menu: Menu { MenuItem { text: "Do" } } }
+        MenuButton { symbol: "plus"; help: "Add content to this section"; kind: Button.Borderless; menu: Menu { MenuItem { text: "Color" } } }
+        MenuButton { symbol: "ellipsis.circle"; help: "Section options"; kind: Button.Borderless; menu: Menu { MenuItem { text: "Set Icon…" } } }
     }
     Specimen {
-        title: "Text fields"
-        TextField { placeholderText: "Brand name" }
-        TextField { text: "Juniper & Salt" }
-        TextField { text: "Disabled"; enabled: false; width: 90 }
-        TextField { text: "W"; controlSize: ControlSize.Small; width: 70 }
-        TextField { bordered: false; text: "Borderless"; font: Theme.title3 }
-    }
-    Specimen {
-        title: "Segmented picker"
-        SegmentedPicker {
-            currentIndex: 0
-            onActivated: index => currentIndex = index
-            options: [
-                PickerOption { text: "Symbol" },
-                PickerOption { text: "Emoji" },
-                PickerOption { text: "Color" },
-                PickerOption { text: "Image" }
-            ]
-        }
-        SegmentedPicker {
-            currentIndex: 1
-            onActivated: index => currentIndex = index
-            options: [
-                PickerOption { symbol: "square.grid.3x3.fill"; help: "small" },
-                PickerOption { symbol: "square.grid.2x2.fill"; help: "medium" },
-                PickerOption { symbol: "square.fill"; help: "large" }
-            ]
-        }
+        title: "Keyboard focus"
+        gap: 14
+        Focused { radius: 6; Button { text: "Cancel" } }
+        Focused { radius: 6; gap: 1; Button { text: "Save"; kind: Button.Prominent } }
+        Focused { radius: 6; Button { symbol: "gearshape"; help: "Settings"; kind: Button.Borderless } }
     }
 }

@@ -14,9 +14,8 @@ Window {
     color: Theme.windowBackground
     title: "Tarn Loft controls"
 
-    Flickable {
+    ScrollArea {
         anchors.fill: parent
-        contentHeight: pages.height
 
         Column {
             id: pages
@@ -25,8 +24,25 @@ Window {
             padding: 32
             spacing: 36
 
+            TypePage {}
+            ColorsPage {}
             ButtonsPage {}
+            FieldsPage {}
+            PickersPage {}
             MenusPage {}
+            PanelsPage {}
+            ListsPage {}
+            TilesPage {}
         }
+    }
+
+    Button {
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.margins: 20
+        visible: !root.whole
+        text: Theme.dark ? "Light" : "Dark"
+        symbol: Theme.dark ? "sun.max.fill" : "moon.fill"
+        onClicked: Theme.dark = !Theme.dark
     }
 }

@@ -1,46 +1,56 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import TarnLoft.Controls
 
 Page {
-    title: "Menus and panels"
+    title: "Menus"
 
     Specimen {
-        title: "Menu"
-        Item {
-            width: 300
-            height: 300
-
-            Menu {
-                visible: true
-                closePolicy: Menu.NoAutoClose
-                MenuItem { text: "New Brand…"; shortcut: "Ctrl+N" }
-                MenuItem { text: "Import Brand…"; shortcut: "Ctrl+Shift+I" }
-                MenuSeparator {}
-                MenuItem { text: "Export Brand…"; shortcut: "Ctrl+Shift+E"; enabled: false }
-                MenuItem { text: "Compact"; checkable: true; checked: true }
-                MenuItem { text: "Expanded"; checkable: true }
-                MenuSeparator {}
-                Menu {
-                    title: "Copy Colors as…"
-                    MenuItem { text: "CSS Variables" }
-                }
-                MenuItem { text: "Move to Trash"; destructive: true }
-            }
+        title: "Menu bar"
+        MenuBar {
+            width: 320
+            Menu { title: "File"; MenuItem { text: "New Brand…"; shortcut: "Ctrl+N" } }
+            Menu { title: "Edit"; MenuItem { text: "Undo"; shortcut: "Ctrl+Z" } }
+            Menu { title: "Insert"; MenuItem { text: "Pick Color from Screen"; shortcut: "Ctrl+P" } }
         }
     }
     Specimen {
-        title: "Toast"
+        title: "Menu, with an entry under the pointer and its sub-menu"
         Item {
-            width: 300
-            height: 120
-            Toast { message: "Copied #4C6FFF" }
-        }
-        Item {
-            width: 300
-            height: 120
-            Toast { message: "Copied snippet"; symbol: "checkmark.circle.fill" }
+            width: 560
+            height: 270
+
+            Menu {
+                visible: true
+                closePolicy: T.Popup.NoAutoClose
+                MenuItem { text: "Copy HEX: #4C6FFF" }
+                MenuTitle { text: "Contrast (WCAG)" }
+                MenuTitle { prominent: false; text: "On white  4.18:1 · AA Large" }
+                MenuSeparator {}
+                MenuItem { text: "Duplicate"; shortcut: "Ctrl+D"; highlighted: true }
+                MenuItem { text: "Move Left"; enabled: false }
+                Menu {
+                    title: "Background"
+                    MenuItem { text: "Default" }
+                }
+                MenuSeparator {}
+                MenuItem { text: "Delete"; destructive: true }
+            }
+
+            Menu {
+                x: 280
+                visible: true
+                closePolicy: T.Popup.NoAutoClose
+                MenuItem { text: "Default"; checkable: true; checked: true }
+                MenuItem { text: "White"; checkable: true }
+                MenuItem { text: "Dark"; checkable: true }
+                MenuItem { text: "Checkerboard"; checkable: true }
+                MenuSeparator {}
+                MenuItem { text: "New Brand…"; symbol: "plus"; shortcut: "Ctrl+N" }
+                MenuItem { text: "Export Brand Page…"; symbol: "square.and.arrow.up"; shortcut: "Ctrl+Alt+Shift+E" }
+            }
         }
     }
 }

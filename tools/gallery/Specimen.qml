@@ -23,5 +23,10 @@ Column {
         id: row
 
         spacing: 10
+
+        Component.onCompleted: {
+            for (const child of children)
+                child.anchors.verticalCenter = verticalCenter;
+        }
     }
 }

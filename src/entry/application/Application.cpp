@@ -1,5 +1,6 @@
 #include "entry/ApplicationModule.h"
 #include "entry/application/WindowApplication.h"
+#include "entry/media/LateMedia.h"
 #include "entry/selftest/SelfTest.h"
 #include "platform/controls/Typography.h"
 #include "platform/desktop/PosixFileStore.h"
@@ -39,7 +40,8 @@ int tarnloftSelfTest(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
   PosixFileStore files;
   Syslog log;
-  return SelfTest::run({files, log}) ? 0 : 1;
+  LateImages images;
+  return SelfTest::run({files, log}, images) ? 0 : 1;
 }
 
 int tarnloftApplication(int argc, char** argv) {

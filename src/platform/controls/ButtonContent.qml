@@ -12,6 +12,7 @@ Item {
     property real symbolSize: 13
     property font font: Theme.body
     property color color: Theme.label
+    property color symbolColor: color
     property int spacing: 6
     property bool leading: false // at the start instead of the centre
 
@@ -29,7 +30,7 @@ Item {
         name: root.symbol
         size: root.symbolSize
         weight: root.font.weight
-        color: root.color
+        color: root.symbolColor
     }
 
     Label {

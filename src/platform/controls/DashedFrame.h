@@ -6,7 +6,8 @@
 
 namespace tarnloft {
 
-// A dashed line along the inside of a rounded rectangle, which is the item's own. Lengths in points.
+// A dashed line along the inside of a rounded rectangle, which is the item's own. Lengths in
+// points.
 class DashedFrame : public QQuickPaintedItem {
   Q_OBJECT
   QML_ELEMENT

@@ -11,12 +11,13 @@ T.Menu {
     id: root
 
     property real least: 150 // its least width
-    readonly property real widest: {
-        let most = least;
+    readonly property real natural: {
+        let most = 0;
         for (let i = 0; i < count; ++i)
             most = Math.max(most, itemAt(i).implicitWidth);
         return Math.ceil(Math.min(most, 420));
     }
+    readonly property real widest: Math.max(least, natural)
     // Room for check marks, wanted as soon as one entry can have one.
     readonly property bool marked: {
         for (let i = 0; i < count; ++i) {

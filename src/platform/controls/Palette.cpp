@@ -128,7 +128,9 @@ void tint(Palette& p, ColorScheme scheme, const QColor& accent) {
   p.accentFillHovered = shifted(p.accentFill, 0.08);
   p.accentFillPressed = shifted(p.accentFill, 0.18);
   p.onAccent = textOn(p.accentFill);
-  p.focusRing = alpha(readableOn(accent, p.windowBackground, 3.0), 0.75);
+  p.focusRing = scheme == ColorScheme::light
+                    ? alpha(readableOn(accent, p.windowBackground, 4.0), 0.68)
+                    : alpha(readableOn(accent, p.windowBackground, 5.5), 0.85);
   p.textSelection = alpha(accent, scheme == ColorScheme::light ? 0.28 : 0.45);
 }
 

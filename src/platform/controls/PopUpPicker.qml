@@ -24,7 +24,7 @@ T.Button {
             menu.popup(root, -2, (height - 25) / 2 - menu.topPadding - 25 * Math.max(0, currentIndex), menu.itemAt(currentIndex) as T.MenuItem);
     }
 
-    implicitWidth: Math.min(menu.widest, 240) + 14
+    implicitWidth: Math.min(menu.natural, 240) + 14
     implicitHeight: Theme.controlHeight(controlSize)
     leftPadding: 10
     rightPadding: 26

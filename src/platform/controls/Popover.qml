@@ -25,6 +25,8 @@ T.Popup {
 
     x: parent ? Math.round((parent.width - width) / 2) : 0
     y: above ? -height - gap : (parent ? parent.height + gap : 0)
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
     margins: 10
     padding: 14
     modal: false

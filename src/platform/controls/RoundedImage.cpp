@@ -6,6 +6,7 @@
 #include <QQuickWindow>
 #include <QSGImageNode>
 #include <QThreadPool>
+
 #include <algorithm>
 #include <memory>
 #include <utility>
@@ -102,8 +103,8 @@ void RoundedImage::load() {
   setStatus(m_source.isEmpty() ? Null : Loading);
   if (m_source.isEmpty()) return;
   if (m_source.scheme() == QLatin1String("image"))
-    loadFromProvider(m_source.host(), m_source.toString(QUrl::RemoveScheme | QUrl::RemoveAuthority)
-                                          .mid(1));
+    loadFromProvider(m_source.host(),
+                     m_source.toString(QUrl::RemoveScheme | QUrl::RemoveAuthority).mid(1));
   else
     loadInBackground([path = localPath(m_source)] { return readFile(path); });
 }
@@ -205,7 +206,8 @@ QSGNode* RoundedImage::updatePaintNode(QSGNode* node, UpdatePaintNodeData* /*dat
     m_cutChanged = true;
   }
   if (std::exchange(m_cutChanged, false))
-    image->setTexture(window()->createTextureFromImage(m_cut, QQuickWindow::TextureHasAlphaChannel));
+    image->setTexture(
+        window()->createTextureFromImage(m_cut, QQuickWindow::TextureHasAlphaChannel));
   image->setFiltering(QSGTexture::Linear);
   image->setRect(0, 0, width(), height());
   return image;

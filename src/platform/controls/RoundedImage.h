@@ -5,8 +5,9 @@
 #include <QQuickImageProvider>
 #include <QQuickItem>
 #include <QUrl>
-#include <functional>
 #include <QtQml/qqmlregistration.h>
+
+#include <functional>
 
 namespace tarnloft {
 

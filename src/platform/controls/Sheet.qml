@@ -34,6 +34,8 @@ T.Popup {
     parent: T.Overlay.overlay
     x: parent ? Math.round((parent.width - width) / 2) : 0
     y: parent ? Math.round(Math.max(12, (parent.height - height) * 0.4)) : 0
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
     margins: 12
     padding: 20
     modal: true

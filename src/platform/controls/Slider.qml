@@ -30,6 +30,7 @@ T.Slider {
         color: Theme.thin(Theme.primary, Theme.dark ? 0.20 : 0.13)
 
         Rectangle {
+            visible: root.visualPosition > 0
             width: root.visualPosition * (root.width - 18) + 9
             height: 4
             radius: 2

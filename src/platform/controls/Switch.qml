@@ -17,7 +17,7 @@ T.Switch {
         toggled();
     }
 
-    implicitWidth: indicator.implicitWidth + (text !== "" ? spacing + implicitContentWidth : 0)
+    implicitWidth: text !== "" ? implicitContentWidth : indicator.implicitWidth
     implicitHeight: Math.max(22, implicitContentHeight)
     padding: 0
     spacing: 8

@@ -20,8 +20,13 @@ Item {
     Accessible.ignored: true
 
     Text {
-        anchors.centerIn: parent
-        font: SymbolGlyphs.font(Math.round(root.size * 1.25), root.weight)
+        readonly property int em: Math.round(root.size * 1.25)
+
+        // The middle of the font's square is three eighths of it above the baseline; centring the
+        // line instead would be half a pixel off at some sizes.
+        x: Math.round((root.width - em) / 2)
+        y: Math.round(root.height / 2 + em * 0.375) - baselineOffset
+        font: SymbolGlyphs.font(em, root.weight)
         text: SymbolGlyphs.text(root.name)
         color: root.color
         textFormat: Text.PlainText

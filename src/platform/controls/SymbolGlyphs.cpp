@@ -13,7 +13,8 @@ QString SymbolGlyphs::text(const QString& name) {
 QFont SymbolGlyphs::font(int pixelSize, int weight) {
   QFont font(symbols::fontFamily());
   font.setPixelSize(pixelSize);
-  font.setWeight(static_cast<QFont::Weight>(weight));
+  // The font has one weight; from semibold on the glyphs are made bolder as they are drawn.
+  font.setWeight(weight >= QFont::DemiBold ? QFont::Bold : QFont::Normal);
   font.setHintingPreference(QFont::PreferNoHinting);
   return font;
 }

@@ -59,6 +59,7 @@ Item {
         anchors.rightMargin: root.sidePadding
         text: root.lastMessage
         symbol: root.symbol
+        symbolColor: root.symbolColor
         font: root.font
     }
 }

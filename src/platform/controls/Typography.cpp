@@ -8,13 +8,17 @@ namespace tarnloft {
 
 namespace {
 
+// Qt smears a font from the weight 700 on, even one whose face is bold; just below it takes the bold
+// face and leaves it alone.
+constexpr auto bold = static_cast<QFont::Weight>(QFont::Bold - 1);
+
 constexpr int displaySize = 20;  // from here on the cut for large sizes looks better
 
 QFont font(const QStringList& families, int pixelSize, QFont::Weight weight) {
   QFont result;
   result.setFamilies(families);
   result.setPixelSize(pixelSize);
-  result.setWeight(weight);
+  result.setWeight(weight == QFont::Bold ? bold : weight);
   result.setHintingPreference(QFont::PreferVerticalHinting);
   return result;
 }

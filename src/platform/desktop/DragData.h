@@ -29,7 +29,7 @@ class DragData : public QMimeData {
  private:
   QByteArray uriList() const;
   QString plainPaths() const;
-  std::optional<QByteArray> tiff() const;
+  std::optional<QByteArray> makeTiff() const;
 
   const QList<DragItem> items_;
   // Receivers ask several times.

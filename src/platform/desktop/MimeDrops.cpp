@@ -10,9 +10,12 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <limits>
 
 namespace tarnloft {
 namespace {
+
+constexpr qint64 largest = std::numeric_limits<qint64>::max();
 
 using Done = std::function<void(std::optional<QByteArray>)>;
 using PathDone = std::function<void(std::optional<QString>)>;
@@ -46,7 +49,7 @@ class OwnThing : public DroppedThing {
   void loadURL(const PathDone& done) override { done(item_.file); }
   void loadData(const QString& type, const Done& done) override {
     if (item_.payload && type == item_.payload->type) return done(item_.payload->bytes);
-    done(type == DropType::image && item_.makeTiff ? item_.makeTiff() : std::nullopt);
+    done(type == DropType::image && item_.makeTiff ? item_.makeTiff(largest) : std::nullopt);
   }
   QString suggestedName() const override { return item_.suggestedName; }
 

@@ -21,12 +21,6 @@ using namespace posix;
 
 namespace {
 
-// The path as the system takes it. The system would end it at a NUL, and so name another file.
-std::optional<QByteArray> native(const QString& path) {
-  if (path.isEmpty() || path.contains(QChar(u'\0'))) return std::nullopt;
-  return QFile::encodeName(path);
-}
-
 bool liesInside(const QString& canonicalPath, const QString& root) {
   const QString canonicalRoot = QFileInfo(root).canonicalFilePath();
   return !canonicalRoot.isEmpty() && canonicalPath.startsWith(canonicalRoot + QLatin1Char('/'));
@@ -135,13 +129,9 @@ Result<std::unique_ptr<FileReader>> PosixFileStore::open(const QString& path,
   if (!liesInside(canonicalPath, root)) {
     return failure(ErrorKind::refused, QStringLiteral("The file is outside of its package"));
   }
-  Descriptor file(::open(QFile::encodeName(canonicalPath).constData(),
-                         O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
-  if (!file.isOpen()) return systemFailure(errno);
-  struct stat info;
-  if (::fstat(file.number(), &info) != 0) return systemFailure(errno);
-  if (!S_ISREG(info.st_mode)) return failure(ErrorKind::refused, QStringLiteral("Not a file"));
-  return makeReader(std::move(file), info);
+  auto opened = openRegularFile(canonicalPath, Links::refuse);
+  if (!opened) return tl::unexpected(opened.error());
+  return makeReader(std::move(opened->file), opened->info);
 }
 
 Result<QString> PosixFileStore::resolved(const QString& path) const {
@@ -166,25 +156,22 @@ Result<QString> PosixFileStore::makeTemporaryFolder(const QString& name) {
   const QString root = QDir::tempPath(), path = root + QLatin1Char('/') + name;
   if (root.isEmpty() || !native(path)) return systemFailure(ENOENT);
   if (makePrivateFolder(QFile::encodeName(path))) return path;
-  const QString own = path + QLatin1Char('-') + QString::number(::geteuid());
+  QString own = path + QLatin1Char('-') + QString::number(::geteuid());
   return makePrivateFolder(QFile::encodeName(own)).map([&] { return own; });
 }
 
 Result<void> PosixFileStore::copyFile(const QString& source, const QString& target) {
-  const auto from = native(source), to = native(target);
-  if (!from || !to) return systemFailure(EINVAL);
-  const Descriptor in(::open(from->constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-  if (!in.isOpen()) return systemFailure(errno);
-  struct stat info;
-  if (::fstat(in.number(), &info) != 0) return systemFailure(errno);
-  if (!S_ISREG(info.st_mode)) return failure(ErrorKind::refused, QStringLiteral("Not a file"));
+  const auto to = native(target);
+  if (!to) return systemFailure(EINVAL);
+  const auto in = openRegularFile(source);
+  if (!in) return tl::unexpected(in.error());
   const Descriptor out(::open(to->constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, newFileMode));
   if (!out.isOpen()) return systemFailure(errno);
-  if (auto copied = copyContent(in, out); !copied) {
+  if (auto copied = copyContent(in->file, out); !copied) {
     (void)::unlink(to->constData());
     return copied;
   }
-  return setRightsAndTimes(*to, info);
+  return setRightsAndTimes(*to, in->info);
 }
 
 Result<void> PosixFileStore::copyFolder(const QString& source, const QString& target) {
@@ -265,13 +252,6 @@ Result<void> PosixFileStore::removeFolder(const QString& path) {
   if (!S_ISDIR(info.st_mode)) return systemFailure(ENOTDIR);
   if (QDir(path).removeRecursively()) return {};
   return failure(ErrorKind::io, QStringLiteral("Some of the folder could not be removed"));
-}
-
-Result<void> PosixFileStore::removeTree(const QString& path) {
-  auto removed = remove(path);
-  // Only a folder itself: what lies behind a link stays.
-  if (removed || QFileInfo(path).isSymLink() || !isFolder(path)) return removed;
-  return QDir(path).removeRecursively() ? Result<void>() : systemFailure(EIO);
 }
 
 Result<void> PosixFileStore::moveFolder(const QString& path, const QString& target) {

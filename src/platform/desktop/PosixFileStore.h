@@ -23,7 +23,6 @@ class PosixFileStore : public FileStore {
   Result<void> syncFolder(const QString& path) override;
   Result<void> remove(const QString& path) override;
   Result<void> removeFolder(const QString& path) override;
-  Result<void> removeTree(const QString& path) override;
   Result<void> moveFolder(const QString& path, const QString& target) override;
 
  private:

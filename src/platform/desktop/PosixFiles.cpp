@@ -1,5 +1,7 @@
 #include "platform/desktop/PosixFiles.h"
 
+#include <QFile>
+
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
@@ -78,6 +80,38 @@ Result<void> done(int status) {
 Result<void> synced(const Descriptor& file) {
   if (::fsync(file.number()) == 0 || errno == EINVAL || errno == ENOTSUP) return {};
   return systemFailure(errno);
+}
+
+std::optional<QByteArray> native(const QString& path) {
+  if (path.isEmpty() || path.contains(QChar(u'\0'))) return std::nullopt;
+  return QFile::encodeName(path);
+}
+
+Result<OpenFile> openRegularFile(const QString& path, Links links) {
+  const auto name = native(path);
+  if (!name) return systemFailure(EINVAL);
+  const int onLinks = links == Links::refuse ? O_NOFOLLOW : 0;
+  Descriptor file(::open(name->constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | onLinks));
+  if (!file.isOpen()) return systemFailure(errno);
+  struct stat info;
+  if (::fstat(file.number(), &info) != 0) return systemFailure(errno);
+  if (!S_ISREG(info.st_mode)) return failure(ErrorKind::refused, QStringLiteral("Not a file"));
+  return OpenFile{std::move(file), info};
+}
+
+Result<QByteArray> contentOf(const OpenFile& file) {
+  QByteArray bytes(file.info.st_size, Qt::Uninitialized);
+  qsizetype filled = 0;
+  while (filled < bytes.size()) {
+    const ssize_t count =
+        ::pread(file.file.number(), bytes.data() + filled, size_t(bytes.size() - filled), filled);
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) return systemFailure(errno);
+    if (count == 0) break;  // cut short since it was opened
+    filled += count;
+  }
+  bytes.truncate(filled);
+  return bytes;
 }
 
 FileIdentity identityOf(const struct stat& info) {

@@ -2,6 +2,7 @@
 
 #include "platform/FileStore.h"
 
+#include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -31,6 +32,23 @@ class Descriptor {
  private:
   int number_;
 };
+
+struct OpenFile {
+  Descriptor file;
+  struct stat info;
+};
+
+// The path as the system takes it; none for an empty one and for one that holds a NUL, at which the
+// system would end it and so name another file.
+std::optional<QByteArray> native(const QString& path);
+
+enum class Links { follow, refuse };
+
+// Opens a regular file for reading. Never waits on a pipe or a device.
+Result<OpenFile> openRegularFile(const QString& path, Links links = Links::follow);
+
+// All bytes of a file that nothing was read from yet; memory for its whole size.
+Result<QByteArray> contentOf(const OpenFile& file);
 
 // Returns when the content is on the medium. Some file systems have no way to wait for that; there
 // is nothing more to do on them, and it counts as success.

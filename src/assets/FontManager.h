@@ -1,0 +1,18 @@
+#pragma once
+
+#include "document/BrandDocument.h"
+#include "platform/Fonts.h"
+
+// A brand's fonts, drawable by family name without being installed.
+namespace tarnloft::FontManager {
+
+// Of a font file's first face; none if it has no family. Any thread.
+inline std::optional<FontNames> names(Fonts& fonts, const QString& path) {
+  return fonts.names(path);
+}
+
+// Registers the file of each font item that has one; for whenever the brand is shown, because what
+// is registered already costs little. Main thread.
+void registerAll(const BrandDocument& document, Fonts& fonts);
+
+}  // namespace tarnloft::FontManager

@@ -1,0 +1,9 @@
+#include "entry/media/MediaModules.h"
+#include "platform/desktop/VipsImages.h"
+
+using namespace tarnloft;
+
+Images* tarnloftImages(const QString& programFolder) {
+  static VipsImages images(programFolder + QStringLiteral("/tarnloft-vectors"));
+  return &images;
+}

@@ -1,0 +1,59 @@
+#include "entry/media/LateMedia.h"
+
+#include <QCoreApplication>
+
+#include <cstdio>
+#include <dlfcn.h>
+
+namespace tarnloft {
+namespace {
+
+template <class Service>
+Service* fromModule(const char* file, const char* entryName) {
+  using Entry = Service* (*)(const QString&);
+  void* const module = ::dlopen(file, RTLD_NOW | RTLD_LOCAL);
+  void* const entry = module ? ::dlsym(module, entryName) : nullptr;
+  if (entry) return reinterpret_cast<Entry>(entry)(QCoreApplication::applicationDirPath());
+  std::fprintf(stderr, "Tarn Loft: %s\n", ::dlerror());
+  return nullptr;
+}
+
+// A local static is made once, whichever thread comes first.
+Images* images() {
+  static Images* const loaded = fromModule<Images>("libtarnloft-images.so", "tarnloftImages");
+  return loaded;
+}
+
+Videos* videos() {
+  static Videos* const loaded = fromModule<Videos>("libtarnloft-videos.so", "tarnloftVideos");
+  return loaded;
+}
+
+}  // namespace
+
+std::optional<ImageProperties> LateImages::properties(const QString& path) {
+  return images() ? images()->properties(path) : std::nullopt;
+}
+
+std::optional<QSizeF> LateImages::vectorSize(const QString& path) {
+  return images() ? images()->vectorSize(path) : std::nullopt;
+}
+
+std::optional<QImage> LateImages::thumbnail(const QString& path, int maxPixel) {
+  return images() ? images()->thumbnail(path, maxPixel) : std::nullopt;
+}
+
+std::optional<QByteArray> LateImages::convert(const QString& path, ExportFormat format, QSize size,
+                                              double quality) {
+  return images() ? images()->convert(path, format, size, quality) : std::nullopt;
+}
+
+std::optional<VideoProperties> LateVideos::properties(const QString& path) {
+  return videos() ? videos()->properties(path) : std::nullopt;
+}
+
+std::optional<QImage> LateVideos::frame(const QString& path, double seconds, int maxPixel) {
+  return videos() ? videos()->frame(path, seconds, maxPixel) : std::nullopt;
+}
+
+}  // namespace tarnloft
