@@ -38,7 +38,7 @@ FocusScope {
 
         Lazy {
             SplitView.fillWidth: true
-            component: root.content.detail === ContentModel.Detail.brand ? brandPage : emptyLibrary
+            sourceComponent: root.content.detail === ContentModel.Detail.brand ? brandPage : emptyLibrary
         }
     }
 

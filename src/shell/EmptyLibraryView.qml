@@ -13,7 +13,7 @@ Item {
     Lazy {
         anchors.centerIn: parent
         anchors.verticalCenterOffset: -12 // the optical middle
-        component: root.content.detail === ContentModel.Detail.welcome ? welcome : noSelection
+        sourceComponent: root.content.detail === ContentModel.Detail.welcome ? welcome : noSelection
     }
 
     Component {

@@ -34,7 +34,8 @@ Column {
     }
 
     Label {
-        width: parent.width
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: implicitWidth > root.width ? Math.ceil(implicitWidth * 0.6) : implicitWidth // two lines of one length
         text: root.subtitle
         font: Theme.subheadline
         color: Theme.secondaryLabel

@@ -14,10 +14,10 @@ void Lazy::setActive(bool active) {
   emit activeChanged();
 }
 
-void Lazy::setComponent(QQmlComponent* component) {
+void Lazy::setSourceComponent(QQmlComponent* component) {
   if (std::exchange(component_, component) == component) return;
   renew();
-  emit componentChanged();
+  emit sourceComponentChanged();
 }
 
 void Lazy::componentComplete() {

@@ -16,9 +16,10 @@ class Lazy : public QQuickItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged)
-  Q_PROPERTY(QQmlComponent* component READ component WRITE setComponent NOTIFY componentChanged)
+  Q_PROPERTY(QQmlComponent* sourceComponent READ sourceComponent WRITE setSourceComponent NOTIFY
+                 sourceComponentChanged)
   Q_PROPERTY(QObject* object READ object NOTIFY objectChanged)
-  Q_CLASSINFO("DefaultProperty", "component")
+  Q_CLASSINFO("DefaultProperty", "sourceComponent")
 
  public:
   explicit Lazy(QQuickItem* parent = nullptr);
@@ -27,14 +28,14 @@ class Lazy : public QQuickItem {
 
   bool isActive() const { return active_; }
   void setActive(bool active);
-  QQmlComponent* component() const { return component_; }
-  void setComponent(QQmlComponent* component);
+  QQmlComponent* sourceComponent() const { return component_; }
+  void setSourceComponent(QQmlComponent* component);
   // Null while inactive.
   QObject* object() const { return object_.get(); }
 
  signals:
   void activeChanged();
-  void componentChanged();
+  void sourceComponentChanged();
   void objectChanged();
 
  protected:

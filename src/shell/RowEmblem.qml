@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import TarnLoft.Controls
+import TarnLoft.Shell
 
 // The mark in front of a row's name. A brand without one keeps its place, and under the pointer
 // shows what it can be dragged by.

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import TarnLoft.Controls
+import TarnLoft.Shell
 
 // The pointer on a row of the sidebar: a click opens it, a drag from its handle moves it, a right
 // click asks for its menu.

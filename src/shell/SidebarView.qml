@@ -15,12 +15,17 @@ Rectangle {
 
     color: Theme.sidebarBackground
 
-    Lazy {
+    Item {
         id: top
 
         width: parent.width
         height: 44
-        component: root.header
+    }
+
+    Lazy {
+        x: 2
+        anchors.verticalCenter: top.verticalCenter
+        sourceComponent: root.header
     }
 
     Label {
