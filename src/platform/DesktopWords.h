@@ -19,7 +19,8 @@ inline constexpr std::array desktopWords{
 
 // The text as it is shown here.
 inline QString inDesktopWords(QString text) {
-  for (const DesktopWord& word : desktopWords) text.replace(word.told.toString(), word.here.toString());
+  for (const DesktopWord& word : desktopWords)
+    text.replace(word.told.toString(), word.here.toString());
   return text;
 }
 

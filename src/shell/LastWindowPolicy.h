@@ -11,7 +11,7 @@ enum class LastWindowPolicy { quit, hide };
 // The program never hides where nothing can bring it back.
 constexpr LastWindowPolicy lastWindowPolicy(KeepRunning keepRunning, WayBack wayBack) {
   return keepRunning == KeepRunning::yes && wayBack == WayBack::tray ? LastWindowPolicy::hide
-                                                                      : LastWindowPolicy::quit;
+                                                                     : LastWindowPolicy::quit;
 }
 
 }  // namespace tarnloft

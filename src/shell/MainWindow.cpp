@@ -85,8 +85,7 @@ void MainWindow::remember() {
   if (!window_ || window_->windowStates() & Qt::WindowMinimized) return;
   WindowState state = WindowState::read(state_);
   state.sidebarWidth = window_->property(sidebarWidth).toDouble();
-  state.maximized =
-      window_->windowStates() & Qt::WindowMaximized ? Maximized::yes : Maximized::no;
+  state.maximized = window_->windowStates() & Qt::WindowMaximized ? Maximized::yes : Maximized::no;
   if (window_->windowStates() == Qt::WindowNoState) {
     state.position = window_->framePosition();
     state.size = window_->size();

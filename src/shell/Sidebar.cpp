@@ -99,8 +99,7 @@ void Sidebar::endDrag() { setDragging({}); }
 
 qsizetype Sidebar::indexOf(const QString& brandID) const {
   const QList<BrandSummary>& brands = library_.brands();
-  const auto found =
-      std::ranges::find(brands, QUuid::fromString(brandID), &BrandSummary::brandID);
+  const auto found = std::ranges::find(brands, QUuid::fromString(brandID), &BrandSummary::brandID);
   return found == brands.cend() ? -1 : found - brands.cbegin();
 }
 

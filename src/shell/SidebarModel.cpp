@@ -60,9 +60,9 @@ QVariant SidebarModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> SidebarModel::roleNames() const {
-  return {{kind, "kind"},     {rowID, "rowID"},   {packageURL, "packageURL"},
-          {name, "name"}, {emblem, "emblem"}, {marked, "marked"}, {accent, "accent"},
-          {accentDark, "accentDark"}, {selected, "selected"}};
+  return {{kind, "kind"},     {rowID, "rowID"},           {packageURL, "packageURL"},
+          {name, "name"},     {emblem, "emblem"},         {marked, "marked"},
+          {accent, "accent"}, {accentDark, "accentDark"}, {selected, "selected"}};
 }
 
 int SidebarModel::selectedRow() const {
@@ -123,8 +123,10 @@ QList<SidebarModel::Row> SidebarModel::wantedRows() const {
 }
 
 SidebarModel::Row SidebarModel::brandRow(const BrandSummary& brand) const {
-  Row row{brand.brandID,   Kind::brand,           brand.packageURL,    brand.name, brand.emblem,
-          brand.accentHex, brand.accentHexDark, library_.selection() == brand.packageURL};
+  Row row{brand.brandID,       Kind::brand,
+          brand.packageURL,    brand.name,
+          brand.emblem,        brand.accentHex,
+          brand.accentHexDark, library_.selection() == brand.packageURL};
   const BrandDocument* const open = library_.openDocument();
   if (row.selected && open && open->packageURL() == brand.packageURL) {
     // Edits of the open brand show at once, before they are on disk.

@@ -53,8 +53,7 @@ void WindowState::write(Preferences& store) const {
   }
   store.setNumber(keys::width, size.width());
   store.setNumber(keys::height, size.height());
-  maximized == Maximized::yes ? store.setText(keys::maximized, yes)
-                              : store.remove(keys::maximized);
+  maximized == Maximized::yes ? store.setText(keys::maximized, yes) : store.remove(keys::maximized);
   store.setNumber(keys::sidebarWidth, sidebarWidth);
 }
 

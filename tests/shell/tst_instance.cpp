@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
 #include <csignal>
 
 // One running program a user, tried with real processes.
@@ -51,9 +52,7 @@ QByteArray line(QProcess& process) {
   return process.readLine().trimmed();
 }
 
-int exitCode(QProcess& process) {
-  return process.waitForFinished(20000) ? process.exitCode() : -1;
-}
+int exitCode(QProcess& process) { return process.waitForFinished(20000) ? process.exitCode() : -1; }
 
 }  // namespace
 
@@ -93,7 +92,7 @@ void TestInstance::startsAtTheSameMomentAgreeOnOne() {
       lines << line(*process);
       if (lines.last() == "first") first = process;
     }
-    lines.sort();
+    std::ranges::sort(lines);
     QCOMPARE(lines, QList<QByteArray>({"first", "shown", "shown", "shown"}));
     for (int i = 0; i < 3; ++i) QCOMPARE(line(*first), QByteArray("asked"));
   }

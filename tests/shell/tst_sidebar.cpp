@@ -1,3 +1,4 @@
+#include "model/Uuid.h"
 #include "shell/Sidebar.h"
 #include "testing/TestLibrary.h"
 
@@ -50,10 +51,12 @@ struct SidebarTest {
     }
     return result;
   }
-  QVariant value(int row, SidebarModel::Role role) const {
-    return sidebar->rows()->data(sidebar->rows()->index(row), role);
+  QVariant value(const QString& name, SidebarModel::Role role) const {
+    const SidebarModel& rows = *sidebar->rows();
+    const QModelIndexList found = rows.match(rows.index(0), SidebarModel::name, name);
+    return found.isEmpty() ? QVariant() : found.first().data(role);
   }
-  QString id(int row) const { return value(row, SidebarModel::rowID).toString(); }
+  QString id(const QString& name) const { return value(name, SidebarModel::rowID).toString(); }
 };
 
 // Counts each signal by which a model tells of a change.
@@ -84,7 +87,7 @@ void TestSidebar::listsBrandsAndTheOpenOnesSections() {
   QCoreApplication::processEvents();
   QCOMPARE(test.texts(), QStringList({"Acme", "Birch *", "  Colors"}));
   QCOMPARE(sidebar.rows()->selectedRow(), 1);
-  sidebar.scrollToSection(test.id(2));
+  sidebar.scrollToSection(test.id("Colors"));
   QCOMPARE(test.library.store->scrollToSection(),
            test.library.store->openDocument()->brand().sections.at(0).id);
 }
@@ -92,18 +95,18 @@ void TestSidebar::listsBrandsAndTheOpenOnesSections() {
 void TestSidebar::tellsOfMarksAndAccents() {
   SidebarTest test;
   Brand plain = Brand::create("Plain");
-  plain.emblem = Emblem{Emblem::Kind::none};
+  plain.emblem = Emblem{};
   test.library.save("Plain", plain);
   Brand tinted = Brand::create("Tinted");
   tinted.accentHex = "#11223380";
   tinted.accentHexDark = "no colour";
   test.library.save("Tinted", tinted);
   test.start();
-  QCOMPARE(test.value(0, SidebarModel::marked), false);
-  QVERIFY(!test.value(0, SidebarModel::accent).isValid());
-  QCOMPARE(test.value(1, SidebarModel::marked), true);
-  QCOMPARE(test.value(1, SidebarModel::accent).value<QColor>().rgba(), 0x80112233u);
-  QCOMPARE(test.value(1, SidebarModel::accentDark).value<QColor>(), QColor(Qt::gray));
+  QCOMPARE(test.value("Plain", SidebarModel::marked), false);
+  QVERIFY(!test.value("Plain", SidebarModel::accent).isValid());
+  QCOMPARE(test.value("Tinted", SidebarModel::marked), true);
+  QCOMPARE(test.value("Tinted", SidebarModel::accent).value<QColor>().rgba(), 0x80112233u);
+  QCOMPARE(test.value("Tinted", SidebarModel::accentDark).value<QColor>(), QColor(Qt::gray));
 }
 
 void TestSidebar::showsEditsOfTheOpenBrandAtOnce() {
@@ -111,11 +114,11 @@ void TestSidebar::showsEditsOfTheOpenBrandAtOnce() {
   test.library.add("Acme");
   test.start();
   test.library.store->openDocument()->edit([](Brand& brand) {
-    brand.emblem = Emblem{Emblem::Kind::none};
+    brand.emblem = Emblem{};
     brand.sections = {section("New")};
   });
   QCoreApplication::processEvents();
-  QCOMPARE(test.value(0, SidebarModel::marked), false);
+  QCOMPARE(test.value("Acme", SidebarModel::marked), false);
   QCOMPARE(test.texts(), QStringList({"Acme *", "  New"}));
 }
 
@@ -138,9 +141,9 @@ void TestSidebar::oneMoveIsOneSignal() {
   }
   Sidebar& sidebar = test.start();
   Signals told(*sidebar.rows());
-  sidebar.beginDrag(test.id(5));  // Cedar
-  sidebar.dragEntered(test.id(0));
-  sidebar.dragEntered(test.id(0));
+  sidebar.beginDrag(test.id("Cedar"));
+  sidebar.dragEntered(test.id("Acme"));
+  sidebar.dragEntered(test.id("Acme"));
   QCoreApplication::processEvents();
   QCOMPARE(told.counts(), QList<qsizetype>({0, 0, 1, 0, 0}));
   QCOMPARE(test.texts().first(), QStringLiteral("Cedar"));
@@ -212,7 +215,7 @@ void TestSidebar::reordersWhileDragging() {
   SidebarTest test;
   for (const char* name : {"Acme", "Birch", "Cedar"}) test.library.add(name);
   Sidebar& sidebar = test.start();
-  const QString acme = test.id(0), birch = test.id(1), cedar = test.id(2);
+  const QString acme = test.id("Acme"), birch = test.id("Birch"), cedar = test.id("Cedar");
   QSignalSpy moved(&sidebar, &Sidebar::moved);
   sidebar.dragEntered(birch);
   sidebar.dragEnteredEnd();
@@ -231,24 +234,24 @@ void TestSidebar::reordersWhileDragging() {
 }
 
 void TestSidebar::movesByKeyboard_data() {
-  QTest::addColumn<int>("row");
+  QTest::addColumn<QString>("brand");
   QTest::addColumn<bool>("up");
   QTest::addColumn<QString>("order");
-  QTest::newRow("first up") << 0 << true << "Acme Birch Cedar";
-  QTest::newRow("second up") << 1 << true << "Birch Acme Cedar";
-  QTest::newRow("first down") << 0 << false << "Birch Acme Cedar";
-  QTest::newRow("second down") << 1 << false << "Acme Cedar Birch";
-  QTest::newRow("last down") << 2 << false << "Acme Birch Cedar";
+  QTest::newRow("first up") << "Acme" << true << "Acme Birch Cedar";
+  QTest::newRow("second up") << "Birch" << true << "Birch Acme Cedar";
+  QTest::newRow("first down") << "Acme" << false << "Birch Acme Cedar";
+  QTest::newRow("second down") << "Birch" << false << "Acme Cedar Birch";
+  QTest::newRow("last down") << "Cedar" << false << "Acme Birch Cedar";
 }
 
 void TestSidebar::movesByKeyboard() {
-  QFETCH(int, row);
+  QFETCH(QString, brand);
   QFETCH(bool, up);
   QFETCH(QString, order);
   SidebarTest test;
   for (const char* name : {"Acme", "Birch", "Cedar"}) test.library.add(name);
   Sidebar& sidebar = test.start();
-  up ? sidebar.moveUp(test.id(row)) : sidebar.moveDown(test.id(row));
+  up ? sidebar.moveUp(test.id(brand)) : sidebar.moveDown(test.id(brand));
   QCOMPARE(test.library.names().join(' '), order);
 }
 

@@ -1,10 +1,9 @@
+#include "document/UndoHistory.h"
 #include "shell/StackUndoManager.h"
 
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTest>
-
-#include "document/UndoHistory.h"
 
 using namespace tarnloft;
 

@@ -23,9 +23,8 @@ WindowApplication::WindowApplication()
 
 bool WindowApplication::start() {
   if (!mainWindow_.show()) return false;
-  QTimer::singleShot(300ms, this, [this] {
-    rightSizeWindow(mainWindow_.window(), services_.preferences);
-  });
+  QTimer::singleShot(300ms, this,
+                     [this] { rightSizeWindow(mainWindow_.window(), services_.preferences); });
   return true;
 }
 
