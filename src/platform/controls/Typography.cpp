@@ -8,8 +8,8 @@ namespace tarnloft {
 
 namespace {
 
-// Qt smears a font from the weight 700 on, even one whose face is bold; just below it takes the bold
-// face and leaves it alone.
+// Qt smears a font from the weight 700 on, even one whose face is bold; just below it takes the
+// bold face and leaves it alone.
 constexpr auto bold = static_cast<QFont::Weight>(QFont::Bold - 1);
 
 constexpr int displaySize = 20;  // from here on the cut for large sizes looks better
