@@ -39,7 +39,7 @@ T.Button {
     Keys.onEnterPressed: openMenu()
     Keys.onUpPressed: openMenu()
     Keys.onDownPressed: openMenu()
-    Accessible.role: Accessible.ComboBox
+    Accessible.role: Accessible.Button
     Accessible.name: accessibleName !== "" ? accessibleName + ", " + text : text
     Accessible.description: help
     Accessible.onPressAction: openMenu()
