@@ -45,6 +45,6 @@ Rectangle {
     FocusRing {
         shown: root.control.visualFocus
         base: root.radius
-        gap: root.kind === ButtonBackground.Accent || root.kind === ButtonBackground.Destructive ? 1 : 0
+        gap: 1
     }
 }

@@ -46,7 +46,7 @@ T.ItemDelegate {
         FocusRing {
             anchors.margins: 0
             shown: root.visualFocus
-            base: Theme.fieldRadius - 3
+            base: Theme.fieldRadius - 2
         }
     }
 }
