@@ -25,6 +25,7 @@ class TestKeyboard : public QObject {
   void aMenuGoesByArrowsAndLetters();
   void aSubMenuOpensByArrows();
   void aMenuGivesTheFocusBack();
+  void theMenuBarOpensByF10();
   void aPopoverGivesTheFocusBack();
   void aSheetOpenedFromAMenuGivesTheFocusBack();
   void disabledControlsAreSkipped();
@@ -224,6 +225,21 @@ void TestKeyboard::aSubMenuOpensByArrows() {
   stage.press(Qt::Key_Down);
   stage.press(Qt::Key_Return);
   QTRY_COMPARE(stage.log(), QStringLiteral("Dark"));
+}
+
+void TestKeyboard::theMenuBarOpensByF10() {
+  Stage stage(
+      "MenuBar { Menu { title: 'File'; MenuItem { text: 'New'; onTriggered: log(text) } }\n"
+      "Menu { title: 'Edit'; MenuItem { text: 'Undo'; onTriggered: log(text) }\n"
+      "MenuItem { text: 'Redo'; onTriggered: log(text) } } }");
+  stage.press(Qt::Key_F10);
+  QTest::qWait(150);
+  stage.press(Qt::Key_Right);
+  QTest::qWait(150);
+  stage.press(Qt::Key_Down);
+  stage.press(Qt::Key_Down);
+  stage.press(Qt::Key_Return);
+  QTRY_COMPARE(stage.log(), QStringLiteral("Redo"));
 }
 
 void TestKeyboard::aMenuGivesTheFocusBack() {
