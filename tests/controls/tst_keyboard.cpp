@@ -29,6 +29,7 @@ class TestKeyboard : public QObject {
   void aPopoverGivesTheFocusBack();
   void aSheetOpenedFromAMenuGivesTheFocusBack();
   void disabledControlsAreSkipped();
+  void anAmpersandIsALetter();
 };
 
 void TestKeyboard::keysDo_data() {
@@ -288,6 +289,13 @@ void TestKeyboard::disabledControlsAreSkipped() {
       "Button { text: 'B'; objectName: 'on' } }");
   stage.press(Qt::Key_Tab);
   QCOMPARE(stage.focused(), QStringLiteral("on"));
+}
+
+void TestKeyboard::anAmpersandIsALetter() {
+  Stage stage("ListRow { text: 'R&D'; onClicked: log('pressed') }");
+  stage.press(Qt::Key_D, Qt::AltModifier);
+  QTest::qWait(50);
+  QCOMPARE(stage.log(), QString());
 }
 
 QTEST_MAIN(TestKeyboard)
