@@ -52,11 +52,11 @@ function(tarnloft_layer name)
 endfunction()
 
 # The QML module TarnLoft.NAME of a library, which it makes: SOURCES and QML_FILES as for
-# qt_add_qml_module, LINKS as above. A program that uses the module links TARGET and TARGETplugin and
-# says Q_IMPORT_QML_PLUGIN(TarnLoft_NAMEPlugin). Qt 6.4 looks for modules in programs under this
-# prefix alone.
+# qt_add_qml_module, LINKS as above, IMPORTS the modules whose types its C++ shows. A program that
+# uses the module links TARGET and TARGETplugin and says Q_IMPORT_QML_PLUGIN(TarnLoft_NAMEPlugin).
+# Qt 6.4 looks for modules in programs under this prefix alone.
 function(tarnloft_qml_module target name)
-  cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "SOURCES;QML_FILES;LINKS;PRIVATE_LINKS")
+  cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "SOURCES;QML_FILES;LINKS;PRIVATE_LINKS;IMPORTS")
   list(TRANSFORM arg_LINKS PREPEND tarnloft_)
   qt_add_library(${target} STATIC)
   qt_add_qml_module(${target}
@@ -65,7 +65,7 @@ function(tarnloft_qml_module target name)
     RESOURCE_PREFIX /qt-project.org/imports
     OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/TarnLoft/${name}
     IMPORT_PATH ${CMAKE_BINARY_DIR}/qml
-    DEPENDENCIES QtQuick
+    DEPENDENCIES QtQuick ${arg_IMPORTS}
     SOURCES ${arg_SOURCES}
     QML_FILES ${arg_QML_FILES})
   # The registration of types includes headers by their bare names.

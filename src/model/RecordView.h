@@ -10,7 +10,24 @@ template <Record R>
 class RecordView;
 template <class T>
 class ListView;
-class PayloadView;
+
+// A payload in a document that was checked.
+class PayloadView {
+ public:
+  explicit PayloadView(JsonReader::Element element) : element_(element) {}
+
+  // Calls `visitor(kind, content)` with the position of the payload's case and a view of it.
+  template <class Visitor>
+  void visit(Visitor&& visitor) const {
+    JsonReader().walkPayload(element_, [&](auto kind, JsonReader::Element content) {
+      visitor(kind, RecordView<std::variant_alternative_t<kind, ItemPayload>>(content));
+      return true;
+    });
+  }
+
+ private:
+  JsonReader::Element element_;
+};
 
 // How a member of type T is looked at in a document that was checked.
 template <class T>
@@ -134,24 +151,6 @@ class ListView {
 
  private:
   simdjson::dom::array array_;
-};
-
-// A payload in a document that was checked.
-class PayloadView {
- public:
-  explicit PayloadView(JsonReader::Element element) : element_(element) {}
-
-  // Calls `visitor(kind, content)` with the position of the payload's case and a view of it.
-  template <class Visitor>
-  void visit(Visitor&& visitor) const {
-    JsonReader().walkPayload(element_, [&](auto kind, JsonReader::Element content) {
-      visitor(kind, RecordView<std::variant_alternative_t<kind, ItemPayload>>(content));
-      return true;
-    });
-  }
-
- private:
-  JsonReader::Element element_;
 };
 
 template <auto Member, Record R>

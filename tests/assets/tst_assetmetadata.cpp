@@ -33,7 +33,7 @@ class TestAssetMetadata : public QObject {
 
  private:
   QString written(const QString& name) {
-    const QString path = disk_.path(name);
+    QString path = disk_.path(name);
     writeFile(path, QByteArray(1234, 'x'));
     return path;
   }

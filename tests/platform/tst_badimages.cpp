@@ -87,7 +87,7 @@ class TestBadImages : public QObject {
 
  private:
   QString written(const QByteArray& content, const QString& name) {
-    const QString path = disk_.path(name);
+    QString path = disk_.path(name);
     writeFile(path, content);
     return path;
   }

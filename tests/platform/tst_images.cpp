@@ -345,6 +345,7 @@ void TestImages::worksOnSeveralThreads() {
   const QList<QImage> expected = readAll();
   std::array<QList<QImage>, 4> results;
   std::vector<std::thread> threads;
+  threads.reserve(results.size());
   for (auto& result : results) threads.emplace_back([&] { result = readAll(); });
   for (auto& thread : threads) thread.join();
   for (const auto& result : results) QCOMPARE(result, expected);

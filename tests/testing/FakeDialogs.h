@@ -19,6 +19,11 @@ class ScriptedDialogs : public FileDialogs {
     return answer;
   }
   QStringList openTypes;
+  QStringList chosen;
+  QStringList openFiles(const QStringList& types) override {
+    openTypes = types;
+    return chosen;
+  }
   std::optional<QString> openFileOrFolder(const QStringList& types,
                                           const QStringList& /*extensions*/) override {
     openTypes = types;

@@ -2,7 +2,6 @@
 
 #include <QDeadlineTimer>
 
-#include <chrono>
 #include <lcms2.h>
 #include <memory>
 #include <optional>
@@ -11,8 +10,6 @@ namespace tarnloft::Pipeline {
 namespace {
 
 using vips::VImage;
-
-constexpr std::chrono::seconds timeLimit{30};
 
 // How the profile is read that tells what the colours are: the file's own if it fits them, or, for
 // printing inks, the usual one. None if no profile tells.
@@ -103,12 +100,12 @@ void stopWhenLate(VipsImage* image, VipsProgress*, QDeadlineTimer* deadline) {
 
 }  // namespace
 
-VImage render(VImage image, QSize size) {
+VImage render(const VImage& image, QSize size) {
   return withFourBandsAtMost(toSrgb(resized(toScalable(image), size)).cast(VIPS_FORMAT_UCHAR));
 }
 
-void limitTime(VImage& image) {
-  auto deadline = std::make_unique<QDeadlineTimer>(timeLimit);
+void limitTime(VImage& image, std::chrono::seconds time) {
+  auto deadline = std::make_unique<QDeadlineTimer>(time);
   VipsImage* raw = image.get_image();
   vips_image_set_progress(raw, TRUE);
   g_signal_connect_data(

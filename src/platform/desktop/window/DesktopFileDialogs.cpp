@@ -43,6 +43,30 @@ class FileOrFolderDialog : public QFileDialog {
   const QStringList folderExtensions_;
 };
 
+// The types that the desktop knows, for one that ends in "/*" all of that class.
+QStringList knownTypes(const QStringList& mimeTypes) {
+  QStringList known;
+  const auto all = QMimeDatabase().allMimeTypes();
+  for (const QString& wanted : mimeTypes) {
+    const QString prefix = wanted.endsWith(QLatin1Char('*')) ? wanted.chopped(1) : QString();
+    if (prefix.isEmpty()) known << wanted;
+    for (const QMimeType& type : all) {
+      if (!prefix.isEmpty() && type.name().startsWith(prefix)) known << type.name();
+    }
+  }
+  return known;
+}
+
+// One filter of all their names: a list of types would let the user see one of them at a time.
+QString nameFilter(const QStringList& mimeTypes) {
+  QStringList patterns;
+  for (const QString& type : knownTypes(mimeTypes)) {
+    patterns << QMimeDatabase().mimeTypeForName(type).globPatterns();
+  }
+  patterns.removeDuplicates();
+  return QStringLiteral("(%1)").arg(patterns.join(QLatin1Char(' ')));
+}
+
 }  // namespace
 
 std::optional<QString> DesktopFileDialogs::savePath(const QString& suggestedName,
@@ -53,6 +77,16 @@ std::optional<QString> DesktopFileDialogs::savePath(const QString& suggestedName
   dialog.setDefaultSuffix(QMimeDatabase().mimeTypeForName(mimeType).preferredSuffix());
   dialog.selectFile(QString(suggestedName).replace(QLatin1Char('/'), QLatin1Char('-')));
   return chosenIn(dialog);
+}
+
+QStringList DesktopFileDialogs::openFiles(const QStringList& mimeTypes) {
+  QFileDialog dialog;
+  dialog.setFileMode(QFileDialog::ExistingFiles);
+  dialog.setNameFilter(nameFilter(mimeTypes));
+  if (dialog.exec() != QDialog::Accepted) return {};
+  QStringList paths;
+  for (const QString& path : dialog.selectedFiles()) paths << QDir::cleanPath(path);
+  return paths;
 }
 
 std::optional<QString> DesktopFileDialogs::openFileOrFolder(const QStringList& mimeTypes,

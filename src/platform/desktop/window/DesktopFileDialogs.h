@@ -8,6 +8,7 @@ namespace tarnloft {
 class DesktopFileDialogs : public FileDialogs {
  public:
   std::optional<QString> savePath(const QString& suggestedName, const QString& mimeType) override;
+  QStringList openFiles(const QStringList& mimeTypes) override;
   std::optional<QString> openFileOrFolder(const QStringList& mimeTypes,
                                           const QStringList& folderExtensions) override;
 };

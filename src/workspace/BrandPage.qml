@@ -1,0 +1,115 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Controls
+import TarnLoft.Workspace
+
+// The open brand as one scrolling page.
+//   BrandPage { anchors.fill: parent; workspace: window.workspace; onAddSectionRequested: … }
+// The window answers `addSectionRequested` by asking for a name and calling `workspace.addSection`.
+FocusScope {
+    id: root
+
+    required property BrandWorkspace workspace
+
+    signal addSectionRequested
+
+    // Scrolls to that section, which is counted among all.
+    function showSection(index: int) {
+        scroll.showSection(sections.itemAt(index));
+    }
+
+    Shortcut {
+        sequence: "Ctrl+A"
+        onActivated: root.workspace.selectAll()
+    }
+
+    Shortcut {
+        sequences: ["Delete", "Backspace"]
+        enabled: root.workspace.hasSelection
+        onActivated: root.workspace.deleteSelection()
+    }
+
+    Shortcut {
+        sequence: "Esc"
+        enabled: root.workspace.hasSelection
+        onActivated: root.workspace.clearSelection()
+    }
+
+    Label {
+        id: title
+
+        x: 24
+        y: 14
+        width: parent.width - 48
+        text: root.workspace.name
+        font: Theme.font(26, Font.Bold)
+        Accessible.role: Accessible.Heading
+    }
+
+    ScrollArea {
+        id: scroll
+
+        anchors.fill: parent
+        anchors.topMargin: title.y + title.implicitHeight + 10
+        contentHeight: column.height
+
+        function showSection(section: Item) {
+            glide.to = Math.max(0, Math.min(section.y - 6, contentHeight - height));
+            glide.restart();
+        }
+
+        NumberAnimation {
+            id: glide
+
+            target: scroll
+            property: "contentY"
+            duration: Motion.time(250)
+            easing.type: Easing.InOutQuad
+        }
+
+        // A click beside everything ends the editing of a name.
+        TapHandler {
+            onTapped: root.forceActiveFocus(Qt.MouseFocusReason)
+        }
+
+        Column {
+            id: column
+
+            x: 24
+            width: scroll.width - 48
+            topPadding: 6
+            bottomPadding: 28
+            spacing: 28
+
+            Repeater {
+                id: sections
+
+                model: root.workspace.sections
+                delegate: SectionView {
+                    width: column.width
+                    viewTop: scroll.contentY - y
+                    viewHeight: scroll.height
+                    onShifted: by => scroll.contentY += by
+                }
+            }
+
+            Item {
+                width: parent.width
+                height: addSection.height + 4
+
+                Button {
+                    id: addSection
+
+                    x: -8
+                    y: 4
+                    text: "Add Section"
+                    symbol: "plus"
+                    kind: Button.Borderless
+                    tint: Theme.secondaryLabel
+                    onClicked: root.addSectionRequested()
+                }
+            }
+        }
+    }
+}

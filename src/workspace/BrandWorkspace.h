@@ -1,0 +1,115 @@
+#pragma once
+
+#include "workspace/SectionListModel.h"
+#include "workspace/TileSelection.h"
+#include "workspace/ToastCenter.h"
+#include "workspace/WorkspaceServices.h"
+
+#include <QPointer>
+
+namespace tarnloft {
+
+// The view model of one open brand's page. A window makes one for each document that it shows:
+//
+//   BrandWorkspace(document, selection, toasts, undoManager, services)
+//
+// gives it to `BrandPage { workspace: … }`, and drops it when the document goes; all operations do
+// nothing once it has gone. The selection and the toasts are the window's and outlive it, as the
+// services do. `undoManager` may be null. What is on the page follows the document once in each
+// turn of the event loop. Main thread.
+class BrandWorkspace : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("Made by the application")
+  Q_PROPERTY(QString name READ name NOTIFY nameChanged)
+  Q_PROPERTY(tarnloft::SectionListModel* sections READ sections CONSTANT)
+  Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
+  Q_PROPERTY(bool hasSelection READ hasSelection NOTIFY selectionChanged)
+  Q_PROPERTY(double gridMinWidth READ gridMinWidth NOTIFY metricsChanged)
+  Q_PROPERTY(double gridMaxWidth READ gridMaxWidth NOTIFY metricsChanged)
+  Q_PROPERTY(double tileHeight READ tileHeight NOTIFY metricsChanged)
+  Q_PROPERTY(tarnloft::Thumbnails* thumbnails READ thumbnails CONSTANT)
+  Q_PROPERTY(tarnloft::Posters* posters READ posters CONSTANT)
+
+ public:
+  BrandWorkspace(BrandDocument& document, TileSelection& selection, ToastCenter& toasts,
+                 UndoManager* undoManager, const WorkspaceServices& services,
+                 QObject* parent = nullptr);
+  ~BrandWorkspace() override;
+
+  const QString& name() const { return name_; }
+  SectionListModel* sections() { return &sections_; }
+  const QString& searchText() const { return searchText_; }
+  void setSearchText(const QString& text);
+  double gridMinWidth() const { return services_.library.gridMinWidth(); }
+  double gridMaxWidth() const { return services_.library.gridMaxWidth(); }
+  double tileHeight() const;
+  Thumbnails* thumbnails() const { return &services_.thumbnails; }
+  Posters* posters() const { return &services_.posters; }
+
+  bool hasSelection() const { return selection_.count() > 0; }
+  // Selects the tiles of the selected section, else of the first one that has any.
+  Q_INVOKABLE void selectAll();
+  // Undoable.
+  Q_INVOKABLE void deleteSelection();
+  Q_INVOKABLE void clearSelection();
+  // Appends an empty section, not undoable.
+  Q_INVOKABLE void addSection(const QString& name);
+
+  // --- For the models and items of its page
+
+  BrandDocument* document() const { return document_; }  // null once it has gone
+  TileSelection& selection() const { return selection_; }
+  ToastCenter& toasts() const { return toasts_; }
+  const WorkspaceServices& services() const { return services_; }
+
+  EmblemLook lookOf(const std::optional<Emblem>& emblem, const QString& defaultSymbol) const;
+  // Empty for a file that leads out of the package.
+  QString assetPath(const AssetRef& asset) const;
+
+  // Puts the text on the clipboard and tells of it: "Copied " and `what`.
+  void copy(const QString& text, const QString& what);
+  void copyColor(const QString& hex);
+  void sampleColor(const std::function<void(const QString& hex)>& done);
+
+  using SectionChange = std::function<void(Section& section)>;
+  void editSection(const QUuid& section, const SectionChange& change);
+  // As one undoable step of that name.
+  void mutateSection(const QString& actionName, const QUuid& section, const SectionChange& change);
+  // Swaps it with the one `step` places on, if there is one.
+  void moveSection(const QUuid& section, int step);
+  void deleteSection(const QUuid& section);
+
+  void importChosen(const QStringList& mimeTypes, DropImport::MediaKind kind, const QUuid& section);
+  void importChosenFonts(const QUuid& section);
+
+  // A drop on a section: an item of this brand moves to its end, files and pictures are imported.
+  bool drop(const QMimeData& data, const QUuid& section);
+  // A drop on an item, which takes items alone: they move in front of it.
+  bool dropBefore(const QMimeData& data, const QUuid& section, const QUuid& before);
+  // Starts a drag of the item through the desktop; returns when it has ended.
+  void drag(const Item& item, const DragLook& look);
+
+ signals:
+  void nameChanged();
+  void searchTextChanged();
+  void selectionChanged();
+  void metricsChanged();
+
+ private:
+  void refreshSoon();
+  void refresh();
+
+  QPointer<BrandDocument> document_;
+  TileSelection& selection_;
+  ToastCenter& toasts_;
+  UndoManager* undoManager_;
+  const WorkspaceServices services_;
+  QString name_;
+  QString searchText_;
+  bool isRefreshDue_ = false;
+  std::unique_ptr<ColorSampler> colorSampler_;  // while a pick runs
+  SectionListModel sections_;
+};
+
+}  // namespace tarnloft

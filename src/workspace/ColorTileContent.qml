@@ -1,0 +1,36 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Controls
+import TarnLoft.Sheets
+import TarnLoft.Workspace
+
+// The hint on a swatch that a click copies it. The swatch is the card itself.
+Item {
+    id: root
+
+    required property Tile tile
+    property bool hovering: false
+
+    LazyItem {
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        anchors.margins: 6
+        active: root.hovering
+        sourceComponent: Rectangle {
+            width: 24
+            height: 24
+            radius: 6
+            color: Qt.rgba(0, 0, 0, 0.14)
+
+            Symbol {
+                anchors.centerIn: parent
+                name: "doc.on.doc"
+                size: 10
+                weight: Font.DemiBold
+                color: root.tile.lightInk ? "white" : "black"
+                opacity: 0.9
+            }
+        }
+    }
+}

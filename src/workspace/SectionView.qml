@@ -1,0 +1,85 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Controls
+import TarnLoft.Sheets
+import TarnLoft.Workspace
+
+// One section of the page: its header, and its items or a hint. `viewTop` and `viewHeight` tell the
+// strip that is seen, in its own coordinates; outside of it little exists.
+Item {
+    id: root
+
+    required property SectionModel section
+    property real viewTop: 0
+    property real viewHeight: 0
+
+    readonly property bool near: viewTop < height + viewHeight && viewTop + 2 * viewHeight > 0
+
+    signal shifted(by: real)
+
+    implicitHeight: content.y + content.height
+    visible: section.shown
+
+    Accessible.role: Accessible.Grouping
+    Accessible.name: section.name
+
+    LazyItem {
+        id: header
+
+        width: parent.width
+        height: 28
+        active: root.near || focus
+        sourceComponent: SectionHeader {
+            section: root.section
+        }
+    }
+
+    Item {
+        id: content
+
+        y: header.height + 10
+        width: parent.width
+        height: root.section.empty ? hint.height : flow.implicitHeight
+
+        DropTarget {
+            id: dropTarget
+
+            anchors.fill: parent
+            anchors.margins: -8
+            section: root.section
+        }
+
+        DropFrame {
+            anchors.fill: dropTarget
+            shown: dropTarget.targeted
+        }
+
+        Label {
+            id: hint
+
+            visible: root.section.empty
+            padding: 18
+            text: "Drop images here, or use ＋ to add colors, type, and more."
+            font: Theme.callout
+            color: Theme.secondaryLabel
+        }
+
+        TileFlow {
+            id: flow
+
+            width: parent.width
+            height: implicitHeight
+            section: root.section
+            viewTop: root.viewTop - content.y
+            viewHeight: root.viewHeight
+            animated: !Motion.reduced
+            tile: TileContainer {}
+            block: BlockItemView {}
+            onShifted: by => root.shifted(by)
+
+            Accessible.role: Accessible.List
+            Accessible.name: root.section.name
+        }
+    }
+}

@@ -1,0 +1,81 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Controls
+import TarnLoft.Sheets
+import TarnLoft.Workspace
+
+// The card of a tile, with its kind's content and the badge of its notes.
+Card {
+    id: root
+
+    required property Tile tile
+    property bool hovering: false
+
+    readonly property color backdrop: {
+        switch (tile.backdrop) {
+        case TileKind.White:
+            return "white";
+        case TileKind.Dark:
+            return Qt.hsva(0, 0, 0.16, 1);
+        default:
+            return Theme.windowBackground;
+        }
+    }
+
+    selected: tile.selected
+    color: {
+        switch (tile.kind) {
+        case TileKind.Color:
+            return tile.color;
+        case TileKind.Gradient:
+            return "transparent";
+        case TileKind.Video:
+            return Qt.rgba(0, 0, 0, 0.85);
+        case TileKind.Font:
+        case TileKind.Code:
+            return Theme.textBackground;
+        default:
+            return backdrop;
+        }
+    }
+
+    LazyItem {
+        anchors.fill: parent
+        sourceComponent: {
+            switch (root.tile.kind) {
+            case TileKind.Color:
+                return color;
+            case TileKind.Gradient:
+                return gradient;
+            case TileKind.Video:
+                return video;
+            case TileKind.Font:
+                return font;
+            case TileKind.Code:
+                return code;
+            default:
+                return image;
+            }
+        }
+    }
+
+    Component { id: color; ColorTileContent { tile: root.tile; hovering: root.hovering } }
+    Component { id: gradient; GradientTileContent { tile: root.tile } }
+    Component { id: image; ImageTileContent { tile: root.tile } }
+    Component { id: video; VideoTileContent { tile: root.tile } }
+    Component { id: font; FontTileContent { tile: root.tile } }
+    Component { id: code; CodeTileContent { tile: root.tile } }
+
+    LazyItem {
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.margins: 5
+        active: root.tile.hasNotes
+        sourceComponent: Badge {
+            symbol: "checklist"
+            kind: Badge.Dark
+            help: "Has usage notes"
+        }
+    }
+}

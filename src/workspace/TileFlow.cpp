@@ -1,0 +1,285 @@
+#include "workspace/TileFlow.h"
+
+#include "platform/controls/Typography.h"
+#include "workspace/BrandWorkspace.h"
+
+#include <QFontMetricsF>
+#include <QKeyEvent>
+
+#include <algorithm>
+#include <utility>
+
+namespace tarnloft {
+
+// Runs while views are on their way, once a frame.
+class TileFlow::Clock : public QAbstractAnimation {
+ public:
+  explicit Clock(TileFlow& flow) : flow_(flow) {}
+  int duration() const override { return -1; }
+
+ protected:
+  void updateCurrentTime(int now) override {
+    flow_.advance((now - std::exchange(last_, now)) / 1000.0);
+  }
+  void updateState(State /*now*/, State /*before*/) override { last_ = 0; }
+
+ private:
+  TileFlow& flow_;
+  int last_ = 0;
+};
+
+namespace {
+
+// Of a block that isn't measured yet: near enough for what is out of sight.
+double estimatedHeight(const Item& item, double width) {
+  const auto* text = std::get_if<TextPayload>(&item.payload);
+  if (!text) return 24;
+  const QFontMetricsF metrics(interfaceFont(13));
+  double lines = 0;
+  for (const QString& paragraph : text->body.split(QLatin1Char('\n'))) {
+    lines += std::max(1.0, std::ceil(metrics.horizontalAdvance(paragraph) / std::max(width, 1.0)));
+  }
+  return std::ceil(lines * metrics.height());
+}
+
+std::optional<FlowLayout::Direction> directionOf(int key) {
+  using Direction = FlowLayout::Direction;
+  switch (key) {
+    case Qt::Key_Left: return Direction::left;
+    case Qt::Key_Right: return Direction::right;
+    case Qt::Key_Up: return Direction::up;
+    case Qt::Key_Down: return Direction::down;
+    case Qt::Key_Home: return Direction::first;
+    case Qt::Key_End: return Direction::last;
+    default: return std::nullopt;
+  }
+}
+
+}  // namespace
+
+TileFlow::TileFlow(QQuickItem* parent)
+    : QQuickItem(parent), live_(*this), clock_(std::make_unique<Clock>(*this)) {
+  setFlag(ItemIsFocusScope, false);
+  setActiveFocusOnTab(true);
+}
+
+TileFlow::~TileFlow() { live_.clear(); }
+
+void TileFlow::setSection(SectionModel* section) {
+  if (section_ == section) return;
+  if (section_) {
+    section_->items()->disconnect(this);
+    section_->workspace()->disconnect(this);
+  }
+  live_.clear();
+  section_ = section;
+  if (section_) watch(*section_->items());
+  itemsChanged();
+  emit sectionChanged();
+}
+
+void TileFlow::watch(const ItemListModel& items) {
+  using Model = QAbstractItemModel;
+  connect(&items, &Model::rowsInserted, this, &TileFlow::itemsChanged);
+  connect(&items, &Model::rowsRemoved, this, &TileFlow::itemsChanged);
+  connect(&items, &Model::rowsMoved, this, &TileFlow::itemsChanged);
+  connect(&items, &Model::dataChanged, this, &TileFlow::itemsChanged);
+  connect(section_->workspace(), &BrandWorkspace::metricsChanged, this, &TileFlow::layoutChanged);
+}
+
+void TileFlow::setViewTop(qreal top) {
+  if (std::exchange(viewTop_, top) == top) return;
+  emit viewportChanged();
+  polish();
+}
+
+void TileFlow::setViewHeight(qreal height) {
+  if (std::exchange(viewHeight_, height) == height) return;
+  emit viewportChanged();
+  polish();
+}
+
+void TileFlow::componentComplete() {
+  QQuickItem::componentComplete();
+  setOut();
+}
+
+void TileFlow::geometryChange(const QRectF& now, const QRectF& before) {
+  QQuickItem::geometryChange(now, before);
+  if (now.width() != before.width()) layoutChanged();
+}
+
+void TileFlow::itemsChanged() {
+  areItemsStale_ = true;
+  isMoving_ = animated_;
+  layoutChanged();
+}
+
+void TileFlow::layoutChanged() {
+  isLayoutStale_ = true;
+  polish();
+}
+
+void TileFlow::setOut() {
+  if (!section_ || !isComponentComplete()) return;
+  isLayoutStale_ = false;
+  populated_ = {};
+  const BrandWorkspace& workspace = *section_->workspace();
+  layout_.setOut(section_->items()->items(), width(),
+                 {workspace.gridMinWidth(), workspace.gridMaxWidth(), workspace.tileHeight()},
+                 [this](int index) { return blockHeight(index); });
+  setImplicitHeight(layout_.height());
+}
+
+double TileFlow::blockHeight(int index) const {
+  const Item& item = section_->items()->items().at(index);
+  const auto measured = blockHeights_.constFind(item.id);
+  return measured == blockHeights_.constEnd() ? estimatedHeight(item, width()) : *measured;
+}
+
+void TileFlow::updatePolish() {
+  if (!section_ || !tile_ || !block_) return;
+  constexpr int mostRounds = 4;  // a block's height may bring others into sight
+  for (int round = 0; round < mostRounds; ++round) {
+    if (isLayoutStale_) setOut();
+    populate();
+    if (!measureBlocks()) break;
+  }
+  placeViews();
+  isMoving_ = false;
+}
+
+void TileFlow::populate() {
+  const double margin = viewHeight_ / 2;
+  const auto wanted = layout_.range(viewTop_ - margin, viewTop_ + viewHeight_ + margin);
+  if (!areItemsStale_ && wanted == populated_) return;
+  const SharedList<Item>& items = section_->items()->items();
+  if (std::exchange(areItemsStale_, false)) {
+    live_.forEach([](LiveTile& live) { live.index = -1; });
+    int index = 0;
+    for (const Item& item : items) {
+      if (LiveTile* live = live_.find(item.id)) {
+        live->index = index;
+        live->tile->setItem(item);
+      }
+      ++index;
+    }
+  }
+  live_.releaseIf([&](const LiveTile& live) {
+    const bool isWanted = wanted.contains(live.index) || live.motion.isMoving();
+    return !(isWanted && live.index >= 0) && !live.isHeld();
+  });
+  QQuickItem* before = nullptr;
+  for (int index = wanted.first; index < wanted.last; ++index) {
+    const Item& item = items.at(index);
+    LiveTile* live = live_.obtain(*section_, item, TileFacts::isBlock(item) ? *block_ : *tile_);
+    if (!live) continue;
+    live->index = index;
+    if (before && !live->isPlaced) live->view->stackAfter(before);
+    before = live->view;
+  }
+  populated_ = wanted;
+}
+
+// True if a block isn't as high as it was laid out.
+bool TileFlow::measureBlocks() {
+  double above = 0;
+  bool isOff = false;
+  live_.forEach([&](LiveTile& live) {
+    if (live.index < 0 || !TileFacts::isBlock(live.tile->item())) return;
+    const QRectF rect = layout_.rect(live.index);
+    live.view->setWidth(rect.width());
+    const double height = std::ceil(live.view->implicitHeight());
+    blockHeights_[live.tile->item().id] = height;
+    if (height == rect.height()) return;
+    isOff = true;
+    if (rect.bottom() < viewTop_) above += height - rect.height();
+  });
+  if (isOff) isLayoutStale_ = true;
+  if (above != 0) emit shifted(above);
+  return isOff;
+}
+
+void TileFlow::placeViews() {
+  live_.forEach([this](LiveTile& live) {
+    if (live.index >= 0) put(live, layout_.rect(live.index));
+  });
+  constexpr size_t mostWaiting = 12;
+  live_.trim(mostWaiting);
+}
+
+void TileFlow::put(LiveTile& live, const QRectF& rect) {
+  live.view->setSize(rect.size());
+  if (isMoving_ && live.isPlaced) {
+    live.motion.aim(rect.topLeft());
+    if (live.motion.isMoving()) clock_->start();
+  } else if (!live.motion.isMoving() || live.motion.target() != rect.topLeft()) {
+    live.motion.settle(rect.topLeft());
+    live.view->setPosition(rect.topLeft());
+  }
+  live.isPlaced = true;
+}
+
+void TileFlow::advance(double seconds) {
+  bool areMoving = false;
+  live_.forEach([&](LiveTile& live) {
+    if (!live.motion.isMoving()) return;
+    live.motion.advance(seconds);
+    live.view->setPosition(live.motion.position());
+    areMoving = areMoving || live.motion.isMoving();
+  });
+  if (areMoving) return;
+  clock_->stop();
+  populated_ = {};  // those that have moved out of sight may go
+  polish();
+}
+
+int TileFlow::focusedIndex() const {
+  int index = -1;
+  live_.forEach([&](const LiveTile& live) {
+    if (live.view->hasActiveFocus()) index = live.index;
+  });
+  return index;
+}
+
+void TileFlow::focusTile(int index, Qt::FocusReason reason) {
+  const Item& item = section_->items()->items().at(index);
+  LiveTile* live = live_.obtain(*section_, item, *tile_);
+  if (!live) return;
+  live->index = index;
+  put(*live, layout_.rect(index));
+  current_ = item.id;
+  live->view->forceActiveFocus(reason);
+}
+
+void TileFlow::keyPressEvent(QKeyEvent* event) {
+  const int from = focusedIndex();
+  const auto direction = directionOf(event->key());
+  event->setAccepted(from >= 0 && !layout_.isBlock(from));
+  if (!event->isAccepted()) return;
+  if (direction) {
+    focusTile(layout_.neighbour(from, *direction), Qt::TabFocusReason);
+  } else {
+    event->setAccepted(event->key() == Qt::Key_Backtab && leaveBackwards());
+  }
+}
+
+// From a tile, the stop in front of this one: its own would lead back to the tile.
+bool TileFlow::leaveBackwards() {
+  QQuickItem* before = nextItemInFocusChain(false);
+  if (!before || before == this) return false;
+  before->forceActiveFocus(Qt::BacktabFocusReason);
+  return true;
+}
+
+void TileFlow::focusInEvent(QFocusEvent* event) {
+  QQuickItem::focusInEvent(event);
+  if (event->reason() != Qt::TabFocusReason && event->reason() != Qt::BacktabFocusReason) return;
+  const LiveTile* current = live_.find(current_);
+  const int index = current && current->index >= 0
+                        ? current->index
+                        : layout_.neighbour(0, FlowLayout::Direction::first);
+  if (index >= 0 && layout_.count() > 0) focusTile(index, event->reason());
+}
+
+}  // namespace tarnloft

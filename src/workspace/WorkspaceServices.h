@@ -1,0 +1,30 @@
+#pragma once
+
+#include "assets/DropImport.h"
+#include "assets/TileDrag.h"
+#include "library/LibraryStore.h"
+#include "platform/ColorSampler.h"
+#include "platform/DragSession.h"
+#include "platform/DroppedThing.h"
+#include "platform/Pasteboard.h"
+#include "sheets/Thumbnails.h"
+#include "workspace/Posters.h"
+
+namespace tarnloft {
+
+// What a brand's workspace needs of its surroundings. Borrowed: all of it outlives every workspace.
+struct WorkspaceServices {
+  LibraryStore& library;
+  Preferences& preferences;
+  Pasteboard& pasteboard;
+  FileDialogs& dialogs;
+  std::function<std::unique_ptr<ColorSampler>()> makeColorSampler;
+  Thumbnails& thumbnails;
+  Posters& posters;
+  ImportServices imports;
+  DropReader& drops;
+  DragServices drags;
+  DragSession& dragSession;
+};
+
+}  // namespace tarnloft
