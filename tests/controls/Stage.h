@@ -26,6 +26,7 @@ class Stage {
     QObject* root = component.create();
     if (!root) qFatal("%s", qPrintable(component.errorString()));
     m_view.setContent({}, nullptr, root);
+    m_view.setResizeMode(QQuickView::SizeRootObjectToView);
     m_view.resize(600, 500);
     m_view.show();
     m_ready = QTest::qWaitForWindowActive(&m_view);
