@@ -17,6 +17,14 @@ FocusScope {
 
     focus: true
 
+    WindowCommands {
+        id: windowCommands
+
+        commands: root.content.commands
+        undo: root.content.undo
+        onCloseRequested: root.closeRequested()
+    }
+
     SplitView {
         anchors.fill: parent
 
@@ -31,9 +39,7 @@ FocusScope {
             onNewBrandRequested: root.content.showNewBrand = true
 
             header: ShellMenuBar {
-                commands: root.content.commands
-                undo: root.content.undo
-                onCloseRequested: root.closeRequested()
+                commands: windowCommands
             }
         }
 

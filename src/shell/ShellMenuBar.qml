@@ -9,10 +9,7 @@ import TarnLoft.Shell
 MenuBar {
     id: root
 
-    required property ShellCommands commands
-    required property StackUndoManager undo
-
-    signal closeRequested
+    required property WindowCommands commands
 
     function openMenu(index: int) {
         (itemAt(index) as T.MenuBarItem).triggered();
@@ -23,86 +20,27 @@ MenuBar {
     Menu {
         title: "File"
 
-        MenuItem {
-            action: T.Action {
-                text: "New Brand…"
-                shortcut: "Ctrl+N"
-                onTriggered: root.commands.newBrand()
-            }
-        }
+        CommandItem { command: root.commands.newBrand }
         MenuSeparator {}
-        MenuItem {
-            action: T.Action {
-                text: "Import Brand…"
-                shortcut: "Ctrl+Shift+I"
-                onTriggered: root.commands.importBrand()
-            }
-        }
-        MenuItem {
-            action: T.Action {
-                text: "Export Brand…"
-                shortcut: "Ctrl+Shift+E"
-                enabled: root.commands.hasSelection
-                onTriggered: root.commands.exportBrand()
-            }
-        }
-        MenuItem {
-            action: T.Action {
-                text: "Export Brand Page…"
-                shortcut: "Ctrl+Alt+Shift+E"
-                enabled: root.commands.hasSelection
-                onTriggered: root.commands.exportBrandPage()
-            }
-        }
+        CommandItem { command: root.commands.importBrand }
+        CommandItem { command: root.commands.exportBrand }
+        CommandItem { command: root.commands.exportBrandPage }
         MenuSeparator {}
-        MenuItem {
-            action: T.Action {
-                text: "Close Window"
-                shortcut: "Ctrl+W"
-                onTriggered: root.closeRequested()
-            }
-        }
-        MenuItem {
-            action: T.Action {
-                text: "Quit"
-                shortcut: "Ctrl+Q"
-                onTriggered: Qt.quit()
-            }
-        }
+        CommandItem { command: root.commands.closeWindow }
+        CommandItem { command: root.commands.quit }
     }
 
     Menu {
         title: "Edit"
 
-        MenuItem {
-            action: T.Action {
-                text: root.undo.undoText
-                shortcut: "Ctrl+Z"
-                enabled: root.undo.canUndo
-                onTriggered: root.undo.undo()
-            }
-        }
-        MenuItem {
-            action: T.Action {
-                text: root.undo.redoText
-                shortcut: "Ctrl+Shift+Z"
-                enabled: root.undo.canRedo
-                onTriggered: root.undo.redo()
-            }
-        }
+        CommandItem { command: root.commands.undoStep }
+        CommandItem { command: root.commands.redoStep }
     }
 
     Menu {
         title: "Insert"
 
-        MenuItem {
-            action: T.Action {
-                text: "Pick Color from Screen"
-                shortcut: "Ctrl+P"
-                enabled: root.commands.hasSelection
-                onTriggered: root.commands.pickColorFromScreen()
-            }
-        }
+        CommandItem { command: root.commands.pickColor }
     }
 
     Shortcut {

@@ -136,17 +136,17 @@ void TestShellViews::aNameOfBlanksCannotBeCreated() {
 void TestShellViews::selectsByClickAndByKeyboard() {
   Views views;
   for (const char* name : {"Acme", "Birch", "Cedar"}) {
-    views.library.add(name, {Section::create("Logos")});
+    views.library.add(name, {Section::create(QString("Logos of ") + name)});
   }
   views.start();
   views.click(views.item(row, "Birch"));
   QCOMPARE(views.library.store->selection(), views.library.packagePath("Birch"));
-  QTRY_VERIFY(views.item(row, "Logos"));
+  QTRY_VERIFY(views.item(row, "Logos of Birch"));
   views.press(Qt::Key_Down);
   views.press(Qt::Key_Down);
   views.press(Qt::Key_Return);
   QCOMPARE(views.library.store->selection(), views.library.packagePath("Cedar"));
-  QCoreApplication::processEvents();
+  QTRY_VERIFY(views.item(row, "Logos of Cedar"));
   views.press(Qt::Key_Down);
   views.press(Qt::Key_Space);
   QCOMPARE(views.library.store->scrollToSection(),
