@@ -3,7 +3,7 @@
 #include "shell/ShellCommands.h"
 #include "shell/Sidebar.h"
 #include "shell/StackUndoManager.h"
-#include "workspace/TileSelection.h"
+#include "workspace/BrandWorkspace.h"
 
 namespace tarnloft {
 
@@ -15,6 +15,10 @@ class ContentModel : public QObject {
   Q_PROPERTY(tarnloft::ShellCommands* commands READ commands CONSTANT)
   Q_PROPERTY(tarnloft::Sidebar* sidebar READ sidebar CONSTANT)
   Q_PROPERTY(tarnloft::StackUndoManager* undo READ undo CONSTANT)
+  Q_PROPERTY(tarnloft::ToastCenter* toasts READ toasts CONSTANT)
+  Q_PROPERTY(tarnloft::Thumbnails* thumbnails READ thumbnails CONSTANT)
+  // The open brand's; null while none is open.
+  Q_PROPERTY(tarnloft::BrandWorkspace* workspace READ workspace NOTIFY workspaceChanged)
   Q_PROPERTY(Detail detail READ detail NOTIFY detailChanged)
   Q_PROPERTY(QString title READ title NOTIFY titleChanged)
   Q_PROPERTY(bool showNewBrand READ showsNewBrand WRITE setShowNewBrand NOTIFY showNewBrandChanged)
@@ -30,7 +34,8 @@ class ContentModel : public QObject {
   Q_ENUM(Detail)
 
   // Borrowed: the library and all of the services outlive the content.
-  ContentModel(LibraryStore& library, const LibraryServices& services, QObject* parent = nullptr);
+  ContentModel(LibraryStore& library, const LibraryServices& services,
+               const WorkspaceServices& workspaceServices, QObject* parent = nullptr);
   ~ContentModel() override;
   Q_DISABLE_COPY_MOVE(ContentModel)
 
@@ -38,6 +43,9 @@ class ContentModel : public QObject {
   Sidebar* sidebar() { return &sidebar_; }
   StackUndoManager* undo() { return &undo_; }
   TileSelection* selection() { return &selection_; }
+  ToastCenter* toasts() { return &toasts_; }
+  Thumbnails* thumbnails() const { return &workspaceServices_.thumbnails; }
+  BrandWorkspace* workspace() const { return workspace_.get(); }
 
   Detail detail() const;
   // The window's, led by the open brand's name.
@@ -51,6 +59,9 @@ class ContentModel : public QObject {
   Q_INVOKABLE void createBrand(const QString& name) { library_.createBrand(name); }
 
  signals:
+  void workspaceChanged();
+  // The page should scroll to that section, counted among all.
+  void sectionRequested(int index);
   void detailChanged();
   void titleChanged();
   void showNewBrandChanged();
@@ -59,10 +70,16 @@ class ContentModel : public QObject {
  private:
   void answerRequest();
   void followSelection();
+  void openWorkspace();
+  void brandShown();
+  void showRequestedSection();
 
   LibraryStore& library_;
   StackUndoManager undo_;
+  const WorkspaceServices workspaceServices_;
   TileSelection selection_;
+  ToastCenter toasts_;
+  std::unique_ptr<BrandWorkspace> workspace_;
   ShellCommands commands_;
   Sidebar sidebar_;
   std::optional<QString> selectedBrand_;

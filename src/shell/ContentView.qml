@@ -27,6 +27,7 @@ FocusScope {
             SplitView.preferredWidth: root.initialSidebarWidth
             SplitView.maximumWidth: 340
             sidebar: root.content.sidebar
+            thumbnails: root.content.thumbnails
             onNewBrandRequested: root.content.showNewBrand = true
 
             header: ShellMenuBar {
@@ -53,7 +54,13 @@ FocusScope {
     Component {
         id: brandPage
 
-        Item {}
+        BrandDetail {
+            content: root.content
+        }
+    }
+
+    Toast {
+        message: root.content.toasts.message
     }
 
     LazySheet {

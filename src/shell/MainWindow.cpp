@@ -21,8 +21,12 @@ QList<QRect> screenRooms() {
 }  // namespace
 
 MainWindow::MainWindow(QQmlEngine& engine, LibraryStore& library, const LibraryServices& services,
-                       Preferences& state)
-    : engine_(engine), library_(library), services_(services), state_(state) {
+                       const WorkspaceServices& workspaceServices, Preferences& state)
+    : engine_(engine),
+      library_(library),
+      services_(services),
+      workspaceServices_(workspaceServices),
+      state_(state) {
   settled_.setSingleShot(true);
   settled_.setInterval(400);
   connect(&settled_, &QTimer::timeout, this, &MainWindow::remember);
@@ -43,7 +47,7 @@ bool MainWindow::open() {
   const QUrl url(QStringLiteral("qrc:/qt-project.org/imports/TarnLoft/Shell/MainWindow.qml"));
   QQmlComponent component(&engine_, url);
   const WindowState state = WindowState::read(state_).fitting(screenRooms());
-  auto content = std::make_unique<ContentModel>(library_, services_);
+  auto content = std::make_unique<ContentModel>(library_, services_, workspaceServices_);
   std::unique_ptr<QObject> made(component.createWithInitialProperties(
       {{QStringLiteral("content"), QVariant::fromValue(content.get())},
        {initialSidebarWidth, state.sidebarWidth}}));

@@ -18,7 +18,7 @@ class MainWindow : public QObject {
  public:
   // Borrowed: all outlive this. `state` holds what the window keeps.
   MainWindow(QQmlEngine& engine, LibraryStore& library, const LibraryServices& services,
-             Preferences& state);
+             const WorkspaceServices& workspaceServices, Preferences& state);
   ~MainWindow() override;
   Q_DISABLE_COPY_MOVE(MainWindow)
 
@@ -41,6 +41,7 @@ class MainWindow : public QObject {
   QQmlEngine& engine_;
   LibraryStore& library_;
   const LibraryServices services_;
+  const WorkspaceServices workspaceServices_;
   Preferences& state_;
   std::unique_ptr<ContentModel> content_;
   std::unique_ptr<QQuickWindow> window_;

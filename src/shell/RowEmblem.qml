@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import TarnLoft.Controls
+import TarnLoft.Sheets
 import TarnLoft.Shell
 
 // The mark in front of a row's name. A brand without one keeps its place, and under the pointer
@@ -13,10 +14,8 @@ Item {
     required property bool marked
     required property bool hovered
     required property bool selected
-    required property string name
-    required property string packageURL
-    required property var emblem
-    required property var accent // the brand's own, or undefined
+    required property emblemLook look
+    required property Thumbnails thumbnails
 
     width: isBrand ? 18 : 16
     height: width
@@ -27,13 +26,10 @@ Item {
         active: root.marked
 
         EmblemView {
-            emblem: root.emblem
-            defaultSymbol: root.isBrand ? "square.stack.3d.up" : "rectangle.grid.1x2"
+            look: root.look
+            thumbnails: root.thumbnails
             size: root.width
-            packageURL: root.packageURL
             fallbackTint: root.selected ? Theme.accent : Theme.secondaryLabel
-            monogramSeed: root.isBrand ? root.name : ""
-            monogramColorOverride: root.accent
         }
     }
 

@@ -6,8 +6,8 @@
 
 namespace tarnloft {
 
-Sidebar::Sidebar(LibraryStore& library, FileViewer& viewer, QObject* parent)
-    : QObject(parent), library_(library), viewer_(viewer), rows_(library) {}
+Sidebar::Sidebar(LibraryStore& library, const FileStore& files, FileViewer& viewer, QObject* parent)
+    : QObject(parent), library_(library), viewer_(viewer), rows_(library, files) {}
 
 std::optional<BrandSummary> Sidebar::brandAt(const QString& packageURL) const {
   const QList<BrandSummary>& brands = library_.brands();

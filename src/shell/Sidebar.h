@@ -20,8 +20,9 @@ class Sidebar : public QObject {
   Q_PROPERTY(QString draggingBrandID READ draggingBrandID NOTIFY draggingChanged)
 
  public:
-  // Borrowed: both outlive the sidebar.
-  Sidebar(LibraryStore& library, FileViewer& viewer, QObject* parent = nullptr);
+  // Borrowed: all outlive the sidebar.
+  Sidebar(LibraryStore& library, const FileStore& files, FileViewer& viewer,
+          QObject* parent = nullptr);
 
   SidebarModel* rows() { return &rows_; }
 

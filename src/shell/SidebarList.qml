@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 import TarnLoft.Controls
+import TarnLoft.Sheets
 import TarnLoft.Shell
 
 // The brands and the open one's sections. One stop of the Tab key: arrows go from row to row, Return
@@ -11,6 +12,7 @@ ListView {
     id: root
 
     required property Sidebar sidebar
+    required property Thumbnails thumbnails
     readonly property int endStrip: 14 // behind the last row, for what is dragged to the end
     readonly property SidebarRow current: currentItem as SidebarRow
 
@@ -45,6 +47,7 @@ ListView {
     delegate: SidebarRow {
         width: ListView.view.width
         sidebar: root.sidebar
+        thumbnails: root.thumbnails
         focused: ListView.isCurrentItem && root.activeFocus && FocusOrigin.keyboard
         settling: settled.running
         onPressed: {

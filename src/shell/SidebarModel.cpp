@@ -12,11 +12,6 @@
 namespace tarnloft {
 namespace {
 
-template <class T>
-QVariant orNothing(const std::optional<T>& value) {
-  return value ? QVariant::fromValue(*value) : QVariant();
-}
-
 SidebarModel::Row sectionRow(const Section& section, const QString& packageURL) {
   SidebarModel::Row row;
   row.id = section.id;
@@ -29,8 +24,8 @@ SidebarModel::Row sectionRow(const Section& section, const QString& packageURL) 
 
 }  // namespace
 
-SidebarModel::SidebarModel(LibraryStore& library, QObject* parent)
-    : QAbstractListModel(parent), library_(library), rows_(wantedRows()) {
+SidebarModel::SidebarModel(LibraryStore& library, const FileStore& files, QObject* parent)
+    : QAbstractListModel(parent), library_(library), files_(files), rows_(wantedRows()) {
   for (const auto signal : {&LibraryStore::brandsChanged, &LibraryStore::selectionChanged,
                             &LibraryStore::openDocumentChanged, &LibraryStore::brandChanged}) {
     connect(&library, signal, this, &SidebarModel::scheduleUpdate);
@@ -50,19 +45,31 @@ QVariant SidebarModel::data(const QModelIndex& index, int role) const {
     case packageURL: return row.packageURL;
     case Qt::DisplayRole:
     case name: return row.name;
-    case emblem: return orNothing(row.emblem);
+    case look: return QVariant::fromValue(lookOf(row, row.accentHex));
+    case lookDark:
+      return QVariant::fromValue(
+          lookOf(row, row.accentHexDark ? row.accentHexDark : row.accentHex));
     case marked: return !row.emblem || row.emblem->kind != Emblem::Kind::none;
-    case accent: return orNothing(accentColor(row.accentHex));
-    case accentDark: return orNothing(accentColor(row.accentHexDark));
     case selected: return row.selected;
     default: return {};
   }
 }
 
 QHash<int, QByteArray> SidebarModel::roleNames() const {
-  return {{kind, "kind"},     {rowID, "rowID"},           {packageURL, "packageURL"},
-          {name, "name"},     {emblem, "emblem"},         {marked, "marked"},
-          {accent, "accent"}, {accentDark, "accentDark"}, {selected, "selected"}};
+  return {{kind, "kind"},     {rowID, "rowID"},      {packageURL, "packageURL"},
+          {name, "name"},     {look, "look"},        {lookDark, "lookDark"},
+          {marked, "marked"}, {selected, "selected"}};
+}
+
+EmblemLook SidebarModel::lookOf(const Row& row, const std::optional<QString>& accentHex) const {
+  if (row.kind == Kind::section) {
+    return emblemLook(row.emblem, {QStringLiteral("rectangle.grid.1x2"), row.packageURL, {}, {}},
+                      files_);
+  }
+  return emblemLook(
+      row.emblem,
+      {QStringLiteral("square.stack.3d.up"), row.packageURL, row.name, accentColor(accentHex)},
+      files_);
 }
 
 int SidebarModel::selectedRow() const {

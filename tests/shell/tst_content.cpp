@@ -1,3 +1,4 @@
+#include "shell/TestSurroundings.h"
 #include "platform/controls/Theme.h"
 #include "shell/AccentTint.h"
 #include "shell/ContentModel.h"
@@ -30,12 +31,14 @@ namespace {
 
 struct ContentTest {
   TestLibrary library;
+  TestSurroundings surroundings;
   std::unique_ptr<ContentModel> content;
 
   ContentModel& start() {
     content.reset();
     library.start();
-    content = std::make_unique<ContentModel>(*library.store, library.services());
+    content = std::make_unique<ContentModel>(*library.store, library.services(),
+                                             surroundings.services(library));
     return *content;
   }
 };
@@ -77,7 +80,8 @@ void TestContent::answersTheRequestForANewBrand() {
   // One that was made while no window was open.
   test.content.reset();
   test.library.store->setNewBrandRequested(true);
-  const ContentModel reopened(*test.library.store, test.library.services());
+  const ContentModel reopened(*test.library.store, test.library.services(),
+                              test.surroundings.services(test.library));
   QVERIFY(reopened.showsNewBrand());
   QVERIFY(!test.library.store->newBrandRequested());
 }

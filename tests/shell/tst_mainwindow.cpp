@@ -1,3 +1,4 @@
+#include "shell/TestSurroundings.h"
 #include "platform/controls/Theme.h"
 #include "shell/MainWindow.h"
 #include "testing/TestLibrary.h"
@@ -10,6 +11,8 @@
 #include <QtQml/qqmlextensionplugin.h>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
 
 using namespace tarnloft;
@@ -100,7 +103,9 @@ void TestMainWindow::opensAndClosesAndOpensAnew() {
   IniPreferences state(library.disk.path("state.ini"));
   QQmlEngine engine;
   Theme::of(engine);
-  MainWindow main(engine, library.start(), library.services(), state);
+  TestSurroundings surroundings;
+  LibraryStore& store = library.start();
+  MainWindow main(engine, store, library.services(), surroundings.services(library), state);
   QSignalSpy closed(&main, &MainWindow::closed);
   QVERIFY(main.show());
   QPointer<QQuickWindow> window = main.window();

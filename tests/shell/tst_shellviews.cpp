@@ -1,3 +1,4 @@
+#include "shell/TestSurroundings.h"
 #include "platform/controls/Theme.h"
 #include "platform/controls/Typography.h"
 #include "shell/AccentTint.h"
@@ -13,6 +14,8 @@
 #include <QtQml/qqmlextensionplugin.h>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
 
 using namespace tarnloft;
@@ -42,13 +45,15 @@ struct Views {
   IniPreferences state{library.disk.path("state.ini")};
   QQmlEngine engine;
   std::unique_ptr<AccentTint> tint;
+  TestSurroundings surroundings;
   std::unique_ptr<MainWindow> main;
 
   void start() {
     Theme& theme = Theme::of(engine);
     LibraryStore& store = library.start();
     tint = std::make_unique<AccentTint>(store, theme);
-    main = std::make_unique<MainWindow>(engine, store, library.services(), state);
+    main = std::make_unique<MainWindow>(engine, store, library.services(),
+                                        surroundings.services(library), state);
     QVERIFY(main->show());
     QVERIFY(QTest::qWaitForWindowActive(&window()));
   }

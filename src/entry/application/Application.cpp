@@ -13,6 +13,8 @@
 #include <cstdio>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
 
 using namespace tarnloft;

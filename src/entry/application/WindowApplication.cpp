@@ -16,7 +16,9 @@ WindowApplication::WindowApplication()
     : theme_(Theme::of(engine_)),
       library_(services_.library(appearance_)),
       tint_(library_, theme_),
-      mainWindow_(engine_, library_, services_.library(appearance_), services_.state) {
+      workspace_(services_, library_),
+      mainWindow_(engine_, library_, services_.library(appearance_), workspace_.services(),
+                  services_.state) {
   connect(&engine_, &QQmlEngine::quit, qApp, &QCoreApplication::quit);
   connect(&mainWindow_, &MainWindow::closed, this, &WindowApplication::mainWindowClosed);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "entry/application/DesktopServices.h"
+#include "entry/application/WorkspaceParts.h"
 #include "library/LibraryStore.h"
 #include "platform/controls/Theme.h"
 #include "shell/AccentTint.h"
@@ -32,6 +33,7 @@ class WindowApplication : public QObject {
   } appearance_;
   LibraryStore library_;
   AccentTint tint_;
+  WorkspaceParts workspace_;
   MainWindow mainWindow_;
 };
 
