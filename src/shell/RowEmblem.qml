@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import TarnLoft.Controls
-import TarnLoft.Shell
+import TarnLoft.Sheets
 
 // The mark in front of a row's name. A brand without one keeps its place, and under the pointer
 // shows what it can be dragged by.
@@ -13,27 +13,21 @@ Item {
     required property bool marked
     required property bool hovered
     required property bool selected
-    required property string name
-    required property string packageURL
-    required property var emblem
-    required property var accent // the brand's own, or undefined
+    required property emblemLook look
+    required property Thumbnails thumbnails
 
     width: isBrand ? 18 : 16
     height: width
     visible: isBrand || marked
 
-    Lazy {
+    LazyItem {
         anchors.centerIn: parent
         active: root.marked
-
-        EmblemView {
-            emblem: root.emblem
-            defaultSymbol: root.isBrand ? "square.stack.3d.up" : "rectangle.grid.1x2"
+        sourceComponent: EmblemView {
+            look: root.look
+            thumbnails: root.thumbnails
             size: root.width
-            packageURL: root.packageURL
             fallbackTint: root.selected ? Theme.accent : Theme.secondaryLabel
-            monogramSeed: root.isBrand ? root.name : ""
-            monogramColorOverride: root.accent
         }
     }
 

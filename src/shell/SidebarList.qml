@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 import TarnLoft.Controls
+import TarnLoft.Sheets
 import TarnLoft.Shell
 
 // The brands and the open one's sections. One stop of the Tab key: arrows go from row to row, Return
@@ -11,15 +12,19 @@ ListView {
     id: root
 
     required property Sidebar sidebar
+    required property Thumbnails thumbnails
     readonly property int endStrip: 14 // behind the last row, for what is dragged to the end
     readonly property SidebarRow current: currentItem as SidebarRow
 
     signal rowDragged(row: SidebarRow, point: point)
     signal rowDropped
 
+    property BrandMenu menu: null // made at its first opening
+
     function openMenu(row: SidebarRow, x: real, y: real) {
-        menu.active = true;
-        (menu.object as BrandMenu).openFor(row, x, y);
+        if (!menu)
+            menu = menuComponent.createObject(root) as BrandMenu;
+        menu.openFor(row, x, y);
     }
 
     function onBrand(act: var) {
@@ -45,6 +50,7 @@ ListView {
     delegate: SidebarRow {
         width: ListView.view.width
         sidebar: root.sidebar
+        thumbnails: root.thumbnails
         focused: ListView.isCurrentItem && root.activeFocus && FocusOrigin.keyboard
         settling: settled.running
         onPressed: {
@@ -72,10 +78,12 @@ ListView {
         }
     }
 
-    Lazy {
-        id: menu
+    WheelScroll {
+        flickable: root
+    }
 
-        active: false
+    Component {
+        id: menuComponent
 
         BrandMenu {
             sidebar: root.sidebar

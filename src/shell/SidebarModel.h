@@ -1,6 +1,7 @@
 #pragma once
 
 #include "library/LibraryStore.h"
+#include "sheets/EmblemLook.h"
 
 #include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
@@ -24,10 +25,8 @@ class SidebarModel : public QAbstractListModel {
     rowID,                // text: the brand's or the section's id
     packageURL,           // text: of the row's brand
     name,                 // text: never empty
-    emblem,               // Emblem, or nothing: the brand's or the section's
+    look,                 // EmblemLook: the brand's or the section's
     marked,               // bool: false if the user wants no mark on it
-    accent,               // QColor, or nothing: the brand's own in the light look
-    accentDark,           // the same in the dark look
     selected              // bool: the row is the selected brand's own
   };
   Q_ENUM(Role)
@@ -37,16 +36,18 @@ class SidebarModel : public QAbstractListModel {
     Kind kind = Kind::brand;
     QString packageURL;
     QString name;
-    std::optional<Emblem> emblem;
-    std::optional<QString> accentHex;
-    std::optional<QString> accentHexDark;
+    EmblemLook look;
+    bool marked = true;
     bool selected = false;
 
     bool operator==(const Row&) const = default;
   };
 
-  // The library outlives the model.
-  explicit SidebarModel(LibraryStore& library, QObject* parent = nullptr);
+  // Both outlive the model.
+  SidebarModel(LibraryStore& library, const FileStore& files, QObject* parent = nullptr);
+
+  // The look whose accents the brands' marks take; light at first.
+  void setAppearance(ColorUtil::Appearance appearance);
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
@@ -62,8 +63,11 @@ class SidebarModel : public QAbstractListModel {
   void apply(const QList<Row>& rows);
   QList<Row> wantedRows() const;
   Row brandRow(const BrandSummary& brand) const;
+  Row sectionRow(const Section& section, const QString& package) const;
 
   LibraryStore& library_;
+  const FileStore& files_;
+  ColorUtil::Appearance appearance_ = ColorUtil::Appearance::light;
   QList<Row> rows_;
   bool updateScheduled_ = false;
 };

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import TarnLoft.Controls
+import TarnLoft.Sheets
 import TarnLoft.Shell
 
 // A brand, or a section of the open one. A brand is dragged by the slot in front of its name.
@@ -9,6 +10,7 @@ Item {
     id: root
 
     required property Sidebar sidebar
+    required property Thumbnails thumbnails
     required property bool focused
     required property bool settling // moves of rows are shown just now
     required property int index
@@ -16,10 +18,8 @@ Item {
     required property string rowID
     required property string packageURL
     required property string name
-    required property var emblem
+    required property emblemLook look
     required property bool marked
-    required property var accent
-    required property var accentDark
     required property bool selected
 
     readonly property bool isBrand: kind === SidebarModel.Kind.brand
@@ -69,10 +69,8 @@ Item {
             marked: root.marked
             hovered: area.containsMouse
             selected: root.selected
-            name: root.name
-            packageURL: root.packageURL
-            emblem: root.emblem
-            accent: Theme.dark && root.accentDark ? root.accentDark : root.accent
+            look: root.look
+            thumbnails: root.thumbnails
         }
 
         Label {

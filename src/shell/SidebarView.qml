@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import TarnLoft.Controls
+import TarnLoft.Sheets
 import TarnLoft.Shell
 
 // The left column: the window's menus, the brands, and the button that makes one.
@@ -9,6 +10,7 @@ Rectangle {
     id: root
 
     required property Sidebar sidebar
+    required property Thumbnails thumbnails
     required property Component header
 
     signal newBrandRequested
@@ -22,7 +24,7 @@ Rectangle {
         height: 44
     }
 
-    Lazy {
+    LazyItem {
         x: 2
         anchors.verticalCenter: top.verticalCenter
         sourceComponent: root.header
@@ -48,6 +50,7 @@ Rectangle {
         anchors.bottom: foot.top
         width: parent.width
         sidebar: root.sidebar
+        thumbnails: root.thumbnails
         onRowDragged: (row, point) => drag.moveTo(row, point)
         onRowDropped: root.sidebar.endDrag()
     }

@@ -22,14 +22,12 @@ class WindowApplication : public QObject {
   void showMainWindow();
 
  private:
+  void followAppearance();
   void mainWindowClosed();
 
   DesktopServices services_;
   QQmlEngine engine_;
   Theme& theme_;
-  struct Plain : Appearance {
-    void setOverride(AppearanceOverride) override {}
-  } appearance_;
   LibraryStore library_;
   AccentTint tint_;
   MainWindow mainWindow_;
