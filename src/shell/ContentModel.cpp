@@ -1,6 +1,7 @@
 #include "shell/ContentModel.h"
 
 #include "assets/FontManager.h"
+#include "platform/DesktopWords.h"
 
 #include <QTimer>
 
@@ -8,29 +9,38 @@
 #include <utility>
 
 namespace tarnloft {
+namespace {
 
-ContentModel::ContentModel(LibraryStore& library, const LibraryServices& services,
-                           const WorkspaceServices& workspaceServices, QObject* parent)
+constexpr std::chrono::milliseconds snapshotDelay{500};
+
+}  // namespace
+
+ContentModel::ContentModel(const LibraryServices& libraryServices,
+                           const WorkspaceServices& services, QObject* parent)
     : QObject(parent),
-      library_(library),
-      workspaceServices_(workspaceServices),
-      commands_(library, services),
-      sidebar_(library, services.document.files, services.viewer),
-      selectedBrand_(library.selection()) {
-  library.setHostUndoManager(&undo_);
-  connect(&library, &LibraryStore::openDocumentChanged, this, &ContentModel::openWorkspace);
-  connect(&library, &LibraryStore::scrollToSectionChanged, this,
-          &ContentModel::showRequestedSection);
-  connect(&library, &LibraryStore::brandsChanged, this, &ContentModel::detailChanged);
-  connect(&library, &LibraryStore::openDocumentChanged, this, &ContentModel::detailChanged);
-  connect(&library, &LibraryStore::openDocumentChanged, this, &ContentModel::titleChanged);
-  connect(&library, &LibraryStore::brandChanged, this, &ContentModel::titleChanged);
+      services_(services),
+      library_(services.library),
+      commands_(library_, libraryServices),
+      sidebar_(library_, libraryServices),
+      selectedBrand_(library_.selection()) {
+  library_.setHostUndoManager(&undo_);
+  const LibraryStore* const library = &library_;
+  connect(library, &LibraryStore::brandsChanged, this, &ContentModel::detailChanged);
+  connect(library, &LibraryStore::openDocumentChanged, this, &ContentModel::detailChanged);
+  connect(library, &LibraryStore::openDocumentChanged, this, &ContentModel::titleChanged);
+  connect(library, &LibraryStore::brandChanged, this, &ContentModel::titleChanged);
+  // Several documents may come and go in one turn; each page costs.
+  connect(library, &LibraryStore::openDocumentChanged, this, &ContentModel::renewWorkspace,
+          Qt::QueuedConnection);
   // Steps of a document that has gone would do nothing.
-  connect(&library, &LibraryStore::openDocumentChanged, &undo_, &StackUndoManager::clear);
-  connect(&library, &LibraryStore::selectionChanged, this, &ContentModel::followSelection);
-  connect(&library, &LibraryStore::newBrandRequestedChanged, this, &ContentModel::answerRequest);
+  connect(library, &LibraryStore::openDocumentChanged, &undo_, &StackUndoManager::clear);
+  connect(library, &LibraryStore::selectionChanged, this, &ContentModel::followSelection);
+  connect(library, &LibraryStore::newBrandRequestedChanged, this, &ContentModel::answerRequest);
+  connect(library, &LibraryStore::scrollToSectionChanged, this, &ContentModel::answerScrollRequest,
+          Qt::QueuedConnection);
+  connect(&toasts_, &ToastCenter::messageChanged, this, &ContentModel::toastChanged);
+  renewWorkspace();
   answerRequest();
-  openWorkspace();
 }
 
 ContentModel::~ContentModel() { library_.setHostUndoManager(nullptr); }
@@ -60,34 +70,31 @@ void ContentModel::answerRequest() {
   library_.setNewBrandRequested(false);
 }
 
-// Another brand gets a page of its own; the old one lives until views have let go of it.
-void ContentModel::openWorkspace() {
-  BrandDocument* const document = library_.openDocument();
-  if (BrandWorkspace* const old = workspace_.release()) old->deleteLater();
-  if (document) {
-    workspace_ = std::make_unique<BrandWorkspace>(*document, selection_, toasts_, &undo_,
-                                                  workspaceServices_);
-    // Behind the page's first frame, which doesn't show what it does.
-    QTimer::singleShot(0, workspace_.get(), [this] { brandShown(); });
-  }
-  emit workspaceChanged();
-}
+QString ContentModel::toast() const { return inDesktopWords(toasts_.text()); }
 
-void ContentModel::brandShown() {
-  BrandDocument* const document = workspace_->document();
-  if (!document) return;
-  FontManager::registerAll(*document, workspaceServices_.imports.fonts);
-  document->maybeAutoSnapshot();
-}
-
-void ContentModel::showRequestedSection() {
-  const auto section = library_.scrollToSection();
-  if (!section || !workspace_) return;
-  const auto& sections = library_.openDocument()->brand().sections;
-  const auto found = std::find_if(sections.cbegin(), sections.cend(),
-                                  [&](const Section& each) { return each.id == *section; });
-  library_.setScrollToSection(std::nullopt);
+void ContentModel::answerScrollRequest() {
+  const std::optional<QUuid> id = library_.scrollToSection();
+  if (!id || !library_.openDocument()) return;
+  const QList<Section>& sections = library_.openDocument()->brand().sections;
+  const auto found = std::ranges::find(sections, *id, &Section::id);
   if (found != sections.cend()) emit sectionRequested(int(found - sections.cbegin()));
+  library_.setScrollToSection(std::nullopt);
+}
+
+void ContentModel::renewWorkspace() {
+  BrandDocument* const document = library_.openDocument();
+  if (!workspace_ && !document) return;
+  if (workspace_ && document && workspace_->document() == document) return;
+  auto old = std::exchange(workspace_, document ? makeWorkspace(*document) : nullptr);
+  emit workspaceChanged();
+  if (old) old.release()->deleteLater();  // behind the old page, which goes in the same way
+}
+
+std::unique_ptr<BrandWorkspace> ContentModel::makeWorkspace(BrandDocument& document) {
+  FontManager::registerAll(document, services_.imports.fonts);
+  // Reads the versions that there are, for which no page should wait.
+  QTimer::singleShot(snapshotDelay, &document, [&document] { document.maybeAutoSnapshot(); });
+  return std::make_unique<BrandWorkspace>(document, selection_, toasts_, &undo_, services_);
 }
 
 void ContentModel::followSelection() {

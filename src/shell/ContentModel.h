@@ -15,10 +15,11 @@ class ContentModel : public QObject {
   Q_PROPERTY(tarnloft::ShellCommands* commands READ commands CONSTANT)
   Q_PROPERTY(tarnloft::Sidebar* sidebar READ sidebar CONSTANT)
   Q_PROPERTY(tarnloft::StackUndoManager* undo READ undo CONSTANT)
-  Q_PROPERTY(tarnloft::ToastCenter* toasts READ toasts CONSTANT)
-  Q_PROPERTY(tarnloft::Thumbnails* thumbnails READ thumbnails CONSTANT)
-  // The open brand's; null while none is open.
+  // Null while no brand is open.
   Q_PROPERTY(tarnloft::BrandWorkspace* workspace READ workspace NOTIFY workspaceChanged)
+  Q_PROPERTY(tarnloft::Thumbnails* thumbnails READ thumbnails CONSTANT)
+  // The text of the toast that is shown; empty for none.
+  Q_PROPERTY(QString toast READ toast NOTIFY toastChanged)
   Q_PROPERTY(Detail detail READ detail NOTIFY detailChanged)
   Q_PROPERTY(QString title READ title NOTIFY titleChanged)
   Q_PROPERTY(bool showNewBrand READ showsNewBrand WRITE setShowNewBrand NOTIFY showNewBrandChanged)
@@ -33,9 +34,9 @@ class ContentModel : public QObject {
   };
   Q_ENUM(Detail)
 
-  // Borrowed: the library and all of the services outlive the content.
-  ContentModel(LibraryStore& library, const LibraryServices& services,
-               const WorkspaceServices& workspaceServices, QObject* parent = nullptr);
+  // Borrowed: all of the services outlive the content.
+  ContentModel(const LibraryServices& libraryServices, const WorkspaceServices& services,
+               QObject* parent = nullptr);
   ~ContentModel() override;
   Q_DISABLE_COPY_MOVE(ContentModel)
 
@@ -44,8 +45,10 @@ class ContentModel : public QObject {
   StackUndoManager* undo() { return &undo_; }
   TileSelection* selection() { return &selection_; }
   ToastCenter* toasts() { return &toasts_; }
-  Thumbnails* thumbnails() const { return &workspaceServices_.thumbnails; }
+  // Another brand gets another one, on the next turn of the event loop.
   BrandWorkspace* workspace() const { return workspace_.get(); }
+  Thumbnails* thumbnails() const { return &services_.thumbnails; }
+  QString toast() const;
 
   Detail detail() const;
   // The window's, led by the open brand's name.
@@ -59,32 +62,33 @@ class ContentModel : public QObject {
   Q_INVOKABLE void createBrand(const QString& name) { library_.createBrand(name); }
 
  signals:
-  void workspaceChanged();
-  // The page should scroll to that section, counted among all.
-  void sectionRequested(int index);
   void detailChanged();
+  void workspaceChanged();
+  void toastChanged();
+  // The page shall scroll to that section of the open brand.
+  void sectionRequested(int index);
   void titleChanged();
   void showNewBrandChanged();
   void newBrandNameChanged();
 
  private:
   void answerRequest();
+  void answerScrollRequest();
   void followSelection();
-  void openWorkspace();
-  void brandShown();
-  void showRequestedSection();
+  void renewWorkspace();
+  std::unique_ptr<BrandWorkspace> makeWorkspace(BrandDocument& document);
 
+  const WorkspaceServices services_;
   LibraryStore& library_;
   StackUndoManager undo_;
-  const WorkspaceServices workspaceServices_;
   TileSelection selection_;
   ToastCenter toasts_;
-  std::unique_ptr<BrandWorkspace> workspace_;
   ShellCommands commands_;
   Sidebar sidebar_;
   std::optional<QString> selectedBrand_;
   bool showNewBrand_ = false;
   QString newBrandName_;
+  std::unique_ptr<BrandWorkspace> workspace_;
 };
 
 }  // namespace tarnloft

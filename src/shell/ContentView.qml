@@ -2,7 +2,9 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import TarnLoft.Controls
+import TarnLoft.Sheets
 import TarnLoft.Shell
+import TarnLoft.Workspace
 
 // What the main window holds: the sidebar beside the open brand or an empty state, and the sheets
 // of both.
@@ -12,6 +14,8 @@ FocusScope {
     required property ContentModel content
     required property real initialSidebarWidth
     readonly property real sidebarWidth: sidebar.width
+
+    property bool addingSection: false
 
     signal closeRequested
 
@@ -43,30 +47,43 @@ FocusScope {
             }
         }
 
-        Lazy {
+        Item {
             SplitView.fillWidth: true
-            sourceComponent: root.content.detail === ContentModel.Detail.brand ? brandPage : emptyLibrary
+
+            LazyItem {
+                anchors.fill: parent
+                active: !root.content.workspace
+                sourceComponent: EmptyLibraryView {
+                    content: root.content
+                }
+            }
+
+            // Another brand gets another page, with fresh state.
+            Repeater {
+                model: root.content.workspace ? [root.content.workspace] : []
+                delegate: BrandPage {
+                    id: page
+
+                    required property BrandWorkspace modelData
+
+                    anchors.fill: parent
+                    workspace: modelData
+                    onAddSectionRequested: root.addingSection = true
+
+                    Connections {
+                        target: root.content
+
+                        function onSectionRequested(index: int) {
+                            page.showSection(index);
+                        }
+                    }
+                }
+            }
         }
     }
 
-    Component {
-        id: emptyLibrary
-
-        EmptyLibraryView {
-            content: root.content
-        }
-    }
-
-    Component {
-        id: brandPage
-
-        BrandDetail {
-            content: root.content
-        }
-    }
-
-    Toast {
-        message: root.content.toasts.message
+    ToastView {
+        message: root.content.toast
     }
 
     LazySheet {
@@ -77,6 +94,16 @@ FocusScope {
             onTextEdited: text => root.content.newBrandName = text
             onCreate: name => root.content.createBrand(name)
             onClosed: root.content.showNewBrand = false
+        }
+    }
+
+    LazySheet {
+        active: root.addingSection
+
+        RenameSheet {
+            title: "New Section"
+            onSave: name => root.content.workspace.addSection(name)
+            onClosed: root.addingSection = false
         }
     }
 }

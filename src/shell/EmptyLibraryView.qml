@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import TarnLoft.Controls
+import TarnLoft.Sheets
 import TarnLoft.Shell
 
 // What stands beside the sidebar while no brand is open.
@@ -10,7 +11,7 @@ Item {
 
     required property ContentModel content
 
-    Lazy {
+    LazyItem {
         anchors.centerIn: parent
         anchors.verticalCenterOffset: -12 // the optical middle
         sourceComponent: root.content.detail === ContentModel.Detail.welcome ? welcome : noSelection

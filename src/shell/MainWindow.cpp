@@ -1,5 +1,7 @@
 #include "shell/MainWindow.h"
 
+#include "platform/controls/Theme.h"
+
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQuickWindow>
@@ -20,16 +22,13 @@ QList<QRect> screenRooms() {
 
 }  // namespace
 
-MainWindow::MainWindow(QQmlEngine& engine, LibraryStore& library, const LibraryServices& services,
-                       const WorkspaceServices& workspaceServices, Preferences& state)
-    : engine_(engine),
-      library_(library),
-      services_(services),
-      workspaceServices_(workspaceServices),
-      state_(state) {
+MainWindow::MainWindow(QQmlEngine& engine, const LibraryServices& libraryServices,
+                       const WorkspaceServices& services, Preferences& state)
+    : engine_(engine), libraryServices_(libraryServices), services_(services), state_(state) {
   settled_.setSingleShot(true);
   settled_.setInterval(400);
   connect(&settled_, &QTimer::timeout, this, &MainWindow::remember);
+  connect(&Theme::of(engine), &Theme::changed, this, &MainWindow::followAppearance);
 }
 
 MainWindow::~MainWindow() = default;
@@ -47,7 +46,7 @@ bool MainWindow::open() {
   const QUrl url(QStringLiteral("qrc:/qt-project.org/imports/TarnLoft/Shell/MainWindow.qml"));
   QQmlComponent component(&engine_, url);
   const WindowState state = WindowState::read(state_).fitting(screenRooms());
-  auto content = std::make_unique<ContentModel>(library_, services_, workspaceServices_);
+  auto content = std::make_unique<ContentModel>(libraryServices_, services_);
   std::unique_ptr<QObject> made(component.createWithInitialProperties(
       {{QStringLiteral("content"), QVariant::fromValue(content.get())},
        {initialSidebarWidth, state.sidebarWidth}}));
@@ -57,6 +56,7 @@ bool MainWindow::open() {
     return false;
   }
   content_ = std::move(content);
+  followAppearance();
   place(state);
   window_->installEventFilter(this);
   return true;
@@ -95,6 +95,12 @@ void MainWindow::remember() {
     state.size = window_->size();
   }
   state.write(state_);
+}
+
+void MainWindow::followAppearance() {
+  if (!content_) return;
+  content_->sidebar()->rows()->setAppearance(
+      Theme::of(engine_).isDark() ? ColorUtil::Appearance::dark : ColorUtil::Appearance::light);
 }
 
 void MainWindow::close() {

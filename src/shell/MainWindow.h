@@ -17,8 +17,8 @@ class MainWindow : public QObject {
 
  public:
   // Borrowed: all outlive this. `state` holds what the window keeps.
-  MainWindow(QQmlEngine& engine, LibraryStore& library, const LibraryServices& services,
-             const WorkspaceServices& workspaceServices, Preferences& state);
+  MainWindow(QQmlEngine& engine, const LibraryServices& libraryServices,
+             const WorkspaceServices& services, Preferences& state);
   ~MainWindow() override;
   Q_DISABLE_COPY_MOVE(MainWindow)
 
@@ -36,12 +36,12 @@ class MainWindow : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
   void place(const WindowState& state);
   void remember();
+  void followAppearance();
   void close();
 
   QQmlEngine& engine_;
-  LibraryStore& library_;
-  const LibraryServices services_;
-  const WorkspaceServices workspaceServices_;
+  const LibraryServices libraryServices_;
+  const WorkspaceServices services_;
   Preferences& state_;
   std::unique_ptr<ContentModel> content_;
   std::unique_ptr<QQuickWindow> window_;

@@ -3,7 +3,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import TarnLoft.Controls
 import TarnLoft.Sheets
-import TarnLoft.Shell
 
 // The mark in front of a row's name. A brand without one keeps its place, and under the pointer
 // shows what it can be dragged by.
@@ -21,11 +20,10 @@ Item {
     height: width
     visible: isBrand || marked
 
-    Lazy {
+    LazyItem {
         anchors.centerIn: parent
         active: root.marked
-
-        EmblemView {
+        sourceComponent: EmblemView {
             look: root.look
             thumbnails: root.thumbnails
             size: root.width

@@ -6,8 +6,11 @@
 
 namespace tarnloft {
 
-Sidebar::Sidebar(LibraryStore& library, const FileStore& files, FileViewer& viewer, QObject* parent)
-    : QObject(parent), library_(library), viewer_(viewer), rows_(library, files) {}
+Sidebar::Sidebar(LibraryStore& library, const LibraryServices& services, QObject* parent)
+    : QObject(parent),
+      library_(library),
+      viewer_(services.viewer),
+      rows_(library, services.document.files) {}
 
 std::optional<BrandSummary> Sidebar::brandAt(const QString& packageURL) const {
   const QList<BrandSummary>& brands = library_.brands();

@@ -20,9 +20,8 @@ class Sidebar : public QObject {
   Q_PROPERTY(QString draggingBrandID READ draggingBrandID NOTIFY draggingChanged)
 
  public:
-  // Borrowed: all outlive the sidebar.
-  Sidebar(LibraryStore& library, const FileStore& files, FileViewer& viewer,
-          QObject* parent = nullptr);
+  // Borrowed: the library and all of the services outlive the sidebar.
+  Sidebar(LibraryStore& library, const LibraryServices& services, QObject* parent = nullptr);
 
   SidebarModel* rows() { return &rows_; }
 

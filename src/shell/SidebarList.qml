@@ -19,9 +19,12 @@ ListView {
     signal rowDragged(row: SidebarRow, point: point)
     signal rowDropped
 
+    property BrandMenu menu: null // made at its first opening
+
     function openMenu(row: SidebarRow, x: real, y: real) {
-        menu.active = true;
-        (menu.object as BrandMenu).openFor(row, x, y);
+        if (!menu)
+            menu = menuComponent.createObject(root) as BrandMenu;
+        menu.openFor(row, x, y);
     }
 
     function onBrand(act: var) {
@@ -75,10 +78,12 @@ ListView {
         }
     }
 
-    Lazy {
-        id: menu
+    WheelScroll {
+        flickable: root
+    }
 
-        active: false
+    Component {
+        id: menuComponent
 
         BrandMenu {
             sidebar: root.sidebar

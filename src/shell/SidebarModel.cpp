@@ -4,22 +4,29 @@
 #include "model/Uuid.h"
 #include "shell/AccentColor.h"
 
-#include <QColor>
-
 #include <algorithm>
 #include <utility>
 
 namespace tarnloft {
 namespace {
 
-SidebarModel::Row sectionRow(const Section& section, const QString& packageURL) {
-  SidebarModel::Row row;
-  row.id = section.id;
-  row.kind = SidebarModel::Kind::section;
-  row.packageURL = packageURL;
-  row.name = section.name.isEmpty() ? QStringLiteral("Untitled Section") : section.name;
-  row.emblem = section.emblem;
-  return row;
+bool isMarked(const std::optional<Emblem>& emblem) {
+  return !emblem || emblem->kind != Emblem::Kind::none;
+}
+
+// What a brand's row tells of it; edits of the open one show before they are on disk.
+struct BrandMark {
+  std::optional<Emblem> emblem;
+  std::optional<QString> accentHex;
+  std::optional<QString> accentHexDark;
+};
+
+BrandMark markOf(const BrandSummary& row, const BrandDocument* open) {
+  if (!open || open->packageURL() != row.packageURL) {
+    return {row.emblem, row.accentHex, row.accentHexDark};
+  }
+  const Brand& brand = open->brand();
+  return {brand.emblem, brand.accentHex, brand.accentHexDark};
 }
 
 }  // namespace
@@ -30,6 +37,10 @@ SidebarModel::SidebarModel(LibraryStore& library, const FileStore& files, QObjec
                             &LibraryStore::openDocumentChanged, &LibraryStore::brandChanged}) {
     connect(&library, signal, this, &SidebarModel::scheduleUpdate);
   }
+}
+
+void SidebarModel::setAppearance(ColorUtil::Appearance appearance) {
+  if (std::exchange(appearance_, appearance) != appearance) scheduleUpdate();
 }
 
 int SidebarModel::rowCount(const QModelIndex& parent) const {
@@ -45,31 +56,16 @@ QVariant SidebarModel::data(const QModelIndex& index, int role) const {
     case packageURL: return row.packageURL;
     case Qt::DisplayRole:
     case name: return row.name;
-    case look: return QVariant::fromValue(lookOf(row, row.accentHex));
-    case lookDark:
-      return QVariant::fromValue(
-          lookOf(row, row.accentHexDark ? row.accentHexDark : row.accentHex));
-    case marked: return !row.emblem || row.emblem->kind != Emblem::Kind::none;
+    case look: return QVariant::fromValue(row.look);
+    case marked: return row.marked;
     case selected: return row.selected;
     default: return {};
   }
 }
 
 QHash<int, QByteArray> SidebarModel::roleNames() const {
-  return {{kind, "kind"},     {rowID, "rowID"},      {packageURL, "packageURL"},
-          {name, "name"},     {look, "look"},        {lookDark, "lookDark"},
-          {marked, "marked"}, {selected, "selected"}};
-}
-
-EmblemLook SidebarModel::lookOf(const Row& row, const std::optional<QString>& accentHex) const {
-  if (row.kind == Kind::section) {
-    return emblemLook(row.emblem, {QStringLiteral("rectangle.grid.1x2"), row.packageURL, {}, {}},
-                      files_);
-  }
-  return emblemLook(
-      row.emblem,
-      {QStringLiteral("square.stack.3d.up"), row.packageURL, row.name, accentColor(accentHex)},
-      files_);
+  return {{kind, "kind"}, {rowID, "rowID"},   {packageURL, "packageURL"}, {name, "name"},
+          {look, "look"}, {marked, "marked"}, {selected, "selected"}};
 }
 
 int SidebarModel::selectedRow() const {
@@ -130,18 +126,28 @@ QList<SidebarModel::Row> SidebarModel::wantedRows() const {
 }
 
 SidebarModel::Row SidebarModel::brandRow(const BrandSummary& brand) const {
-  Row row{brand.brandID,       Kind::brand,
-          brand.packageURL,    brand.name,
-          brand.emblem,        brand.accentHex,
-          brand.accentHexDark, library_.selection() == brand.packageURL};
-  const BrandDocument* const open = library_.openDocument();
-  if (row.selected && open && open->packageURL() == brand.packageURL) {
-    // Edits of the open brand show at once, before they are on disk.
-    row.emblem = open->brand().emblem;
-    row.accentHex = open->brand().accentHex;
-    row.accentHexDark = open->brand().accentHexDark;
-  }
-  return row;
+  const BrandMark mark = markOf(brand, library_.openDocument());
+  const bool dark = appearance_ == ColorUtil::Appearance::dark && mark.accentHexDark;
+  const EmblemPlace place{QStringLiteral("square.stack.3d.up"), brand.packageURL, brand.name,
+                          accentColor(dark ? mark.accentHexDark : mark.accentHex)};
+  return {brand.brandID,
+          Kind::brand,
+          brand.packageURL,
+          brand.name,
+          emblemLook(mark.emblem, place, files_),
+          isMarked(mark.emblem),
+          library_.selection() == brand.packageURL};
+}
+
+SidebarModel::Row SidebarModel::sectionRow(const Section& section, const QString& package) const {
+  const EmblemPlace place{QStringLiteral("rectangle.grid.1x2"), package, {}, std::nullopt};
+  return {section.id,
+          Kind::section,
+          package,
+          section.name.isEmpty() ? QStringLiteral("Untitled Section") : section.name,
+          emblemLook(section.emblem, place, files_),
+          isMarked(section.emblem),
+          false};
 }
 
 }  // namespace tarnloft

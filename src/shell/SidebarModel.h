@@ -25,8 +25,7 @@ class SidebarModel : public QAbstractListModel {
     rowID,                // text: the brand's or the section's id
     packageURL,           // text: of the row's brand
     name,                 // text: never empty
-    look,                 // EmblemLook: the brand's or the section's, in the light look
-    lookDark,             // the same in the dark look
+    look,                 // EmblemLook: the brand's or the section's
     marked,               // bool: false if the user wants no mark on it
     selected              // bool: the row is the selected brand's own
   };
@@ -37,9 +36,8 @@ class SidebarModel : public QAbstractListModel {
     Kind kind = Kind::brand;
     QString packageURL;
     QString name;
-    std::optional<Emblem> emblem;
-    std::optional<QString> accentHex;
-    std::optional<QString> accentHexDark;
+    EmblemLook look;
+    bool marked = true;
     bool selected = false;
 
     bool operator==(const Row&) const = default;
@@ -47,6 +45,9 @@ class SidebarModel : public QAbstractListModel {
 
   // Both outlive the model.
   SidebarModel(LibraryStore& library, const FileStore& files, QObject* parent = nullptr);
+
+  // The look whose accents the brands' marks take; light at first.
+  void setAppearance(ColorUtil::Appearance appearance);
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
@@ -62,10 +63,11 @@ class SidebarModel : public QAbstractListModel {
   void apply(const QList<Row>& rows);
   QList<Row> wantedRows() const;
   Row brandRow(const BrandSummary& brand) const;
-  EmblemLook lookOf(const Row& row, const std::optional<QString>& accentHex) const;
+  Row sectionRow(const Section& section, const QString& package) const;
 
   LibraryStore& library_;
   const FileStore& files_;
+  ColorUtil::Appearance appearance_ = ColorUtil::Appearance::light;
   QList<Row> rows_;
   bool updateScheduled_ = false;
 };

@@ -19,7 +19,6 @@ Item {
     required property string packageURL
     required property string name
     required property emblemLook look
-    required property emblemLook lookDark
     required property bool marked
     required property bool selected
 
@@ -70,7 +69,7 @@ Item {
             marked: root.marked
             hovered: area.containsMouse
             selected: root.selected
-            look: Theme.dark ? root.lookDark : root.look
+            look: root.look
             thumbnails: root.thumbnails
         }
 

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import TarnLoft.Controls
-import TarnLoft.Shell
+import TarnLoft.Sheets
 
 // The pointer on a row of the sidebar: a click opens it, a drag from its handle moves it, a right
 // click asks for its menu.
@@ -52,16 +52,13 @@ MouseArea {
             activated();
     }
 
-    Lazy {
-        anchors.fill: parent
+    LazyItem {
+        width: root.handleEnd
+        height: root.height
         active: root.overHandle && !root.dragging
-
-        Item {
-            Help {
-                width: root.handleEnd
-                text: "Drag to reorder"
-                shown: true
-            }
+        sourceComponent: Help {
+            text: "Drag to reorder"
+            shown: true
         }
     }
 }

@@ -24,7 +24,7 @@ Rectangle {
         height: 44
     }
 
-    Lazy {
+    LazyItem {
         x: 2
         anchors.verticalCenter: top.verticalCenter
         sourceComponent: root.header

@@ -1,7 +1,6 @@
-#include "shell/TestSurroundings.h"
 #include "platform/controls/Theme.h"
 #include "shell/MainWindow.h"
-#include "testing/TestLibrary.h"
+#include "shell/TestShell.h"
 
 #include <QQmlEngine>
 #include <QQuickWindow>
@@ -12,8 +11,8 @@
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
-Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 using namespace tarnloft;
 
@@ -98,14 +97,14 @@ void TestMainWindow::rightSizesOnce() {
 }
 
 void TestMainWindow::opensAndClosesAndOpensAnew() {
-  TestLibrary library;
+  TestShell test;
+  TestLibrary& library = test.library;
   library.add("Acme");
+  library.start();
   IniPreferences state(library.disk.path("state.ini"));
   QQmlEngine engine;
   Theme::of(engine);
-  TestSurroundings surroundings;
-  LibraryStore& store = library.start();
-  MainWindow main(engine, store, library.services(), surroundings.services(library), state);
+  MainWindow main(engine, library.services(), test.services(), state);
   QSignalSpy closed(&main, &MainWindow::closed);
   QVERIFY(main.show());
   QPointer<QQuickWindow> window = main.window();

@@ -1,9 +1,8 @@
-#include "shell/TestSurroundings.h"
 #include "platform/controls/Theme.h"
 #include "platform/controls/Typography.h"
 #include "shell/AccentTint.h"
 #include "shell/MainWindow.h"
-#include "testing/TestLibrary.h"
+#include "shell/TestShell.h"
 
 #include <QAccessible>
 #include <QQmlEngine>
@@ -15,8 +14,8 @@
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
-Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 using namespace tarnloft;
 
@@ -40,20 +39,17 @@ class TestShellViews : public QObject {
 
 namespace {
 
-struct Views {
-  TestLibrary library;
+struct Views : TestShell {
   IniPreferences state{library.disk.path("state.ini")};
   QQmlEngine engine;
   std::unique_ptr<AccentTint> tint;
-  TestSurroundings surroundings;
   std::unique_ptr<MainWindow> main;
 
   void start() {
     Theme& theme = Theme::of(engine);
     LibraryStore& store = library.start();
     tint = std::make_unique<AccentTint>(store, theme);
-    main = std::make_unique<MainWindow>(engine, store, library.services(),
-                                        surroundings.services(library), state);
+    main = std::make_unique<MainWindow>(engine, library.services(), services(), state);
     QVERIFY(main->show());
     QVERIFY(QTest::qWaitForWindowActive(&window()));
   }

@@ -38,7 +38,7 @@ struct SidebarTest {
   std::unique_ptr<QAbstractItemModelTester> tester;
 
   Sidebar& start() {
-    sidebar = std::make_unique<Sidebar>(library.start(), library.disk.files, library.viewer);
+    sidebar = std::make_unique<Sidebar>(library.start(), library.services());
     tester = std::make_unique<QAbstractItemModelTester>(
         sidebar->rows(), QAbstractItemModelTester::FailureReportingMode::QtTest);
     return *sidebar;
@@ -101,14 +101,15 @@ void TestSidebar::tellsOfMarksAndAccents() {
   tinted.accentHex = "#11223380";
   tinted.accentHexDark = "no colour";
   test.library.save("Tinted", tinted);
-  test.start();
+  Sidebar& sidebar = test.start();
   QCOMPARE(test.value("Plain", SidebarModel::marked), false);
   QCOMPARE(test.value("Tinted", SidebarModel::marked), true);
-  const auto colorOf = [&](SidebarModel::Role role) {
-    return test.value("Tinted", role).value<EmblemLook>().color;
-  };
-  QCOMPARE(colorOf(SidebarModel::look).rgba(), 0x80112233u);
-  QCOMPARE(colorOf(SidebarModel::lookDark), QColor(Qt::gray));
+  const auto look = [&] { return test.value("Tinted", SidebarModel::look).value<EmblemLook>(); };
+  QCOMPARE(look().text, QStringLiteral("T"));
+  QCOMPARE(look().color.rgba(), 0x80112233u);
+  sidebar.rows()->setAppearance(ColorUtil::Appearance::dark);
+  QCoreApplication::processEvents();
+  QCOMPARE(look().color, QColor(Qt::gray));
 }
 
 void TestSidebar::showsEditsOfTheOpenBrandAtOnce() {

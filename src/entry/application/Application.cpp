@@ -14,8 +14,8 @@
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
-Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 using namespace tarnloft;
 

@@ -14,11 +14,13 @@ using namespace std::chrono_literals;
 
 WindowApplication::WindowApplication()
     : theme_(Theme::of(engine_)),
-      library_(services_.library(appearance_)),
+      library_(services_.forLibrary()),
       tint_(library_, theme_),
-      workspace_(services_, library_),
-      mainWindow_(engine_, library_, services_.library(appearance_), workspace_.services(),
+      mainWindow_(engine_, services_.forLibrary(), services_.forWorkspace(library_),
                   services_.state) {
+  followAppearance();
+  connect(&services_.appearance, &DesktopAppearance::darkChanged, this,
+          &WindowApplication::followAppearance);
   connect(&engine_, &QQmlEngine::quit, qApp, &QCoreApplication::quit);
   connect(&mainWindow_, &MainWindow::closed, this, &WindowApplication::mainWindowClosed);
 }
@@ -31,6 +33,8 @@ bool WindowApplication::start() {
 }
 
 void WindowApplication::showMainWindow() { mainWindow_.show(); }
+
+void WindowApplication::followAppearance() { theme_.setDark(services_.appearance.isDark()); }
 
 void WindowApplication::mainWindowClosed() {
   // Nothing is in the tray that could bring a window back.

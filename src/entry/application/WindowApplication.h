@@ -1,7 +1,6 @@
 #pragma once
 
 #include "entry/application/DesktopServices.h"
-#include "entry/application/WorkspaceParts.h"
 #include "library/LibraryStore.h"
 #include "platform/controls/Theme.h"
 #include "shell/AccentTint.h"
@@ -23,17 +22,14 @@ class WindowApplication : public QObject {
   void showMainWindow();
 
  private:
+  void followAppearance();
   void mainWindowClosed();
 
   DesktopServices services_;
   QQmlEngine engine_;
   Theme& theme_;
-  struct Plain : Appearance {
-    void setOverride(AppearanceOverride) override {}
-  } appearance_;
   LibraryStore library_;
   AccentTint tint_;
-  WorkspaceParts workspace_;
   MainWindow mainWindow_;
 };
 

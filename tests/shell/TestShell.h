@@ -1,11 +1,14 @@
 #pragma once
 
-#include "../workspace/TestWorkspace.h"
+#include "shell/ContentModel.h"
+#include "workspace/TestWorkspace.h"
 
 namespace tarnloft {
 
-// What workspaces of a window need, with the desktop played by the test.
-struct TestSurroundings {
+// A library on the real disk and what a window's content needs, with the desktop played by the
+// test.
+struct TestShell {
+  TestLibrary library;
   FakeImages images;
   FakeVideos videos;
   FakeTypes types;
@@ -19,7 +22,8 @@ struct TestSurroundings {
   Posters posters{videos, work};
   MimeDrops drops{workers};
 
-  WorkspaceServices services(TestLibrary& library) {
+  // Of the library as it was started last.
+  WorkspaceServices services() {
     return {*library.store,
             library.preferences,
             pasteboard,
@@ -31,6 +35,9 @@ struct TestSurroundings {
             drops,
             {library.disk.files, types, [](const QString&, qint64) { return std::nullopt; }},
             drags};
+  }
+  std::unique_ptr<ContentModel> makeContent() {
+    return std::make_unique<ContentModel>(library.services(), services());
   }
 };
 
