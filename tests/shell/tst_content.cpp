@@ -1,8 +1,7 @@
 #include "platform/controls/Theme.h"
 #include "shell/AccentTint.h"
-#include "shell/ContentModel.h"
 #include "shell/LastWindowPolicy.h"
-#include "testing/TestLibrary.h"
+#include "shell/TestShell.h"
 
 #include <QQmlEngine>
 #include <QSignalSpy>
@@ -17,6 +16,10 @@ class TestContent : public QObject {
   void showsWhatTheLibraryHolds();
   void answersTheRequestForANewBrand();
   void keepsTheTextOfTheNewBrandSheet();
+  void eachDocumentGetsOneWorkspace();
+  void registersFontsAndKeepsAFirstVersion();
+  void answersARequestToScroll();
+  void tellsToastsInTheDesktopsWords();
   void aNewBrandClearsTheTilesSelection();
   void undoneStepsGoWithTheirDocument();
   void picksColorsUndoably();
@@ -28,14 +31,13 @@ class TestContent : public QObject {
 
 namespace {
 
-struct ContentTest {
-  TestLibrary library;
+struct ContentTest : TestShell {
   std::unique_ptr<ContentModel> content;
 
   ContentModel& start() {
     content.reset();
     library.start();
-    content = std::make_unique<ContentModel>(*library.store, library.services());
+    content = makeContent();
     return *content;
   }
 };
@@ -77,8 +79,7 @@ void TestContent::answersTheRequestForANewBrand() {
   // One that was made while no window was open.
   test.content.reset();
   test.library.store->setNewBrandRequested(true);
-  const ContentModel reopened(*test.library.store, test.library.services());
-  QVERIFY(reopened.showsNewBrand());
+  QVERIFY(test.makeContent()->showsNewBrand());
   QVERIFY(!test.library.store->newBrandRequested());
 }
 
@@ -89,6 +90,58 @@ void TestContent::keepsTheTextOfTheNewBrandSheet() {
   content.setShowNewBrand(true);
   content.setShowNewBrand(false);
   QCOMPARE(content.newBrandName(), QStringLiteral("Ac"));
+}
+
+void TestContent::eachDocumentGetsOneWorkspace() {
+  ContentTest test;
+  ContentModel& content = test.start();
+  QVERIFY(!content.workspace());
+  QSignalSpy changed(&content, &ContentModel::workspaceChanged);
+  content.createBrand("Acme");
+  QTRY_VERIFY(content.workspace());
+  QCOMPARE(changed.size(), 1);  // for two documents, the read one and the made one
+  QCOMPARE(content.workspace()->document(), test.library.store->openDocument());
+
+  test.library.store->select(test.library.packagePath("Acme"));
+  QCoreApplication::processEvents();
+  QCOMPARE(changed.size(), 1);
+
+  QPointer<BrandWorkspace> old = content.workspace();
+  test.library.store->deleteBrand(BrandSummary(test.library.store->brands().first()));
+  QTRY_VERIFY(!content.workspace());
+  QTRY_VERIFY(!old);
+}
+
+void TestContent::registersFontsAndKeepsAFirstVersion() {
+  ContentTest test;
+  Section fonts = Section::create("Type");
+  const AssetRef file{"a.otf", "A.otf"};
+  fonts.items = {Item::create(FontPayload{{"Display", {}, {}, file, {}}})};
+  test.library.add("Acme", {fonts});
+  test.start();
+  QCOMPARE(test.fonts.registered.size(), 1);
+  QTRY_COMPARE(test.library.store->openDocument()->listVersions().size(), 1);
+}
+
+void TestContent::answersARequestToScroll() {
+  ContentTest test;
+  test.library.add("Acme", {Section::create("A"), Section::create("B")});
+  ContentModel& content = test.start();
+  QSignalSpy requested(&content, &ContentModel::sectionRequested);
+  LibraryStore& store = *test.library.store;
+  store.setScrollToSection(store.openDocument()->brand().sections.at(1).id);
+  QTRY_COMPARE(requested, QList<QVariantList>({{1}}));
+  QVERIFY(!store.scrollToSection());
+  store.setScrollToSection(QUuid::createUuid());
+  QTRY_VERIFY(!store.scrollToSection());
+  QCOMPARE(requested.size(), 1);
+}
+
+void TestContent::tellsToastsInTheDesktopsWords() {
+  ContentTest test;
+  ContentModel& content = test.start();
+  content.toasts()->show("Deleted 2 items · ⌘Z to undo");
+  QCOMPARE(content.toast(), QStringLiteral("Deleted 2 items · Ctrl+Z to undo"));
 }
 
 void TestContent::aNewBrandClearsTheTilesSelection() {

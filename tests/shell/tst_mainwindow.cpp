@@ -1,6 +1,6 @@
 #include "platform/controls/Theme.h"
 #include "shell/MainWindow.h"
-#include "testing/TestLibrary.h"
+#include "shell/TestShell.h"
 
 #include <QQmlEngine>
 #include <QQuickWindow>
@@ -10,7 +10,9 @@
 #include <QtQml/qqmlextensionplugin.h>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 using namespace tarnloft;
 
@@ -95,12 +97,14 @@ void TestMainWindow::rightSizesOnce() {
 }
 
 void TestMainWindow::opensAndClosesAndOpensAnew() {
-  TestLibrary library;
+  TestShell test;
+  TestLibrary& library = test.library;
   library.add("Acme");
+  library.start();
   IniPreferences state(library.disk.path("state.ini"));
   QQmlEngine engine;
   Theme::of(engine);
-  MainWindow main(engine, library.start(), library.services(), state);
+  MainWindow main(engine, library.services(), test.services(), state);
   QSignalSpy closed(&main, &MainWindow::closed);
   QVERIFY(main.show());
   QPointer<QQuickWindow> window = main.window();

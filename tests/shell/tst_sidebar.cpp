@@ -38,7 +38,7 @@ struct SidebarTest {
   std::unique_ptr<QAbstractItemModelTester> tester;
 
   Sidebar& start() {
-    sidebar = std::make_unique<Sidebar>(library.start(), library.viewer);
+    sidebar = std::make_unique<Sidebar>(library.start(), library.services());
     tester = std::make_unique<QAbstractItemModelTester>(
         sidebar->rows(), QAbstractItemModelTester::FailureReportingMode::QtTest);
     return *sidebar;
@@ -101,12 +101,15 @@ void TestSidebar::tellsOfMarksAndAccents() {
   tinted.accentHex = "#11223380";
   tinted.accentHexDark = "no colour";
   test.library.save("Tinted", tinted);
-  test.start();
+  Sidebar& sidebar = test.start();
   QCOMPARE(test.value("Plain", SidebarModel::marked), false);
-  QVERIFY(!test.value("Plain", SidebarModel::accent).isValid());
   QCOMPARE(test.value("Tinted", SidebarModel::marked), true);
-  QCOMPARE(test.value("Tinted", SidebarModel::accent).value<QColor>().rgba(), 0x80112233u);
-  QCOMPARE(test.value("Tinted", SidebarModel::accentDark).value<QColor>(), QColor(Qt::gray));
+  const auto look = [&] { return test.value("Tinted", SidebarModel::look).value<EmblemLook>(); };
+  QCOMPARE(look().text, QStringLiteral("T"));
+  QCOMPARE(look().color.rgba(), 0x80112233u);
+  sidebar.rows()->setAppearance(ColorUtil::Appearance::dark);
+  QCoreApplication::processEvents();
+  QCOMPARE(look().color, QColor(Qt::gray));
 }
 
 void TestSidebar::showsEditsOfTheOpenBrandAtOnce() {
@@ -170,7 +173,7 @@ void TestSidebar::followsAnyChange() {
     }
     if (random.bounded(3) == 0) continue;  // several changes in one turn
     QCoreApplication::processEvents();
-    const SidebarModel anew(store);
+    const SidebarModel anew(store, test.library.disk.files);
     QCOMPARE(sidebar.rows()->rows(), anew.rows());
   }
 }
