@@ -39,7 +39,7 @@ inline Cost run(const std::vector<QByteArray>& command) {
 }
 
 template <class Value>
-double medianOf(std::vector<Cost> costs, Value&& value) {
+double medianOf(const std::vector<Cost>& costs, Value&& value) {
   std::vector<double> values;
   for (const Cost& cost : costs) values.push_back(value(cost));
   std::sort(values.begin(), values.end());
@@ -48,6 +48,10 @@ double medianOf(std::vector<Cost> costs, Value&& value) {
 
 inline double medianSeconds(const std::vector<Cost>& costs) {
   return medianOf(costs, [](const Cost& cost) { return cost.seconds; });
+}
+
+inline double medianPeak(const std::vector<Cost>& costs) {
+  return medianOf(costs, [](const Cost& cost) { return cost.peakMegabytes; });
 }
 
 }  // namespace tarnloft

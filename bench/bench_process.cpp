@@ -24,7 +24,7 @@ void benchLargePage() {
     run({"sync"});
     copies.push_back(run({"cp", page, copy}));
   }
-  const double peak = medianOf(exports, [](const Cost& cost) { return cost.peakMegabytes; });
+  const double peak = medianPeak(exports);
   std::printf("\nA page of %.2f GB: %.2f s, cp %.2f s, peak memory %.1f MB (aim: under 64 MB) %s\n",
               double(QFileInfo(QFile::decodeName(page)).size()) / 1e9, medianSeconds(exports),
               medianSeconds(copies), peak, peak < 64 ? "met" : "MISSED");

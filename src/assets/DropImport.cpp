@@ -66,7 +66,10 @@ std::optional<ImportedFile> bringIn(const Import& import, const QString& path,
   if (!asset) return std::nullopt;
   file.asset = *asset;
   if (file.kind == FileKind::font) {
-    file.fontNames = import.services.fonts.names(import.folder.pathOf(file.asset));
+    const QString copy = import.folder.pathOf(file.asset);
+    // Here rather than on the main thread, which unwrapping a large file would hold up.
+    import.services.fonts.registerForProcess(copy);
+    file.fontNames = import.services.fonts.names(copy);
   }
   return file;
 }
@@ -87,11 +90,7 @@ ItemPayload payloadOf(const ImportedFile& file) {
 }
 
 void land(Import& import, ItemLanding::Place place, const std::optional<ImportedFile>& file) {
-  if (!file) return import.landing.land(place, std::nullopt);
-  if (file->kind == FileKind::font) {
-    import.services.fonts.registerForProcess(import.folder.pathOf(file->asset));
-  }
-  import.landing.land(place, Item::create(payloadOf(*file)));
+  import.landing.land(place, file ? std::optional(Item::create(payloadOf(*file))) : std::nullopt);
 }
 
 // `kind` is what the user chose; by content and extension if there is none.

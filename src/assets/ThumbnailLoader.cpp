@@ -67,16 +67,17 @@ ThumbnailLoader::Request ThumbnailLoader::thumbnail(const QString& path, int max
 
 std::shared_ptr<ThumbnailLoader::Job> ThumbnailLoader::jobFor(const QString& path, int maxPixel) {
   const QString key = keyOf(path, maxPixel);
-  if (const auto job = jobs_.value(key)) {
-    work_.raise(job->task);
-    return job;
+  if (auto wanted = jobs_.value(key)) {
+    work_.raise(wanted->task);
+    return wanted;
   }
   auto job = std::make_shared<Job>(Job{this, key, {}, {}, 0});
   const auto image = std::make_shared<std::optional<QImage>>();
   job->task = work_.start(
       [&images = images_, path, maxPixel, image] { *image = images.thumbnail(path, maxPixel); },
-      [job, image] {
-        if (job->loader) job->loader->finish(*job, *image);
+      [weak = std::weak_ptr(job), image] {
+        const auto wanted = weak.lock();
+        if (wanted && wanted->loader) wanted->loader->finish(*wanted, *image);
       });
   jobs_.insert(key, job);
   return job;

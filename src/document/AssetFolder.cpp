@@ -13,7 +13,7 @@ Result<AssetFolder> AssetFolder::make(FileStore& files, const QString& packageUR
 
 Result<AssetRef> AssetFolder::copyIn(const QString& source) const {
   const QString extension = pathExtension(source);
-  const AssetRef asset{
+  AssetRef asset{
       Package::newAssetName(extension.isEmpty() ? QStringLiteral("dat") : extension),
       lastPathComponent(source)};
   return files_->copyFile(source, pathOf(asset)).map([&] { return asset; });
@@ -21,7 +21,7 @@ Result<AssetRef> AssetFolder::copyIn(const QString& source) const {
 
 Result<AssetRef> AssetFolder::write(const QByteArray& data, const QString& originalName,
                                     const QString& extension) const {
-  const AssetRef asset{Package::newAssetName(extension), originalName};
+  AssetRef asset{Package::newAssetName(extension), originalName};
   return writeAtomically(*files_, pathOf(asset), Durability::atomic,
                          [&](FileWriter& file) { return file.write(data); })
       .map([&] { return asset; });

@@ -1,7 +1,7 @@
 #include "library/GlobalSearch.h"
 
 #include "document/Package.h"
-#include "model/Json.h"
+#include "library/InParallel.h"
 #include "model/SearchText.h"
 
 #include <QSet>
@@ -10,14 +10,18 @@ namespace tarnloft {
 
 namespace {
 
-QByteArray foldedQuery(const QString& query) { return foldedForSearch(query.trimmed()).toUtf8(); }
+std::string foldedQuery(const QString& query) {
+  std::string folded;
+  SearchFolding().append(query.trimmed(), folded);
+  return folded;
+}
 
 }  // namespace
 
 QList<SearchHit> searchHits(const QList<BrandAtURL>& brands, const QString& query) {
-  const QByteArray folded = foldedQuery(query);
+  const std::string folded = foldedQuery(query);
   QList<SearchHit> hits;
-  if (folded.isEmpty()) return hits;
+  if (folded.empty()) return hits;
   for (const auto& [packageURL, brand] : brands) {
     SearchableBrand(brand).appendHits(packageURL, folded, hits);
   }
@@ -26,32 +30,41 @@ QList<SearchHit> searchHits(const QList<BrandAtURL>& brands, const QString& quer
 
 QList<SearchHit> GlobalSearch::hits(const QList<BrandSummary>& rows, const QString& openURL,
                                     const Brand* open, const QString& query) {
-  const QByteArray folded = foldedQuery(query);
+  const std::string folded = foldedQuery(query);
   QList<SearchHit> hits;
-  if (folded.isEmpty()) return hits;
+  if (folded.empty()) return hits;
+  std::vector<Kept*> kept;  // null for the open brand; an entry stays where it is
+  const SearchableBrand* inMemory = nullptr;
   for (const BrandSummary& row : rows) {
     const bool isOpen = open && row.packageURL == openURL;
-    const SearchableBrand* brand = isOpen ? inMemory(*open) : onDisk(row.packageURL);
-    if (brand) brand->appendHits(row.packageURL, folded, hits);
+    if (isOpen) inMemory = ofOpen(*open);
+    kept.push_back(isOpen ? nullptr : &kept_[row.packageURL]);
   }
-  if (kept_.size() > rows.size()) forgetAllBut(rows);
+  std::vector<QList<SearchHit>> found(kept.size());
+  inParallel(rows.size(), [&](qsizetype i) {
+    const QString& packageURL = rows.at(i).packageURL;
+    Kept* const file = kept[size_t(i)];
+    const SearchableBrand* brand = file ? upToDate(packageURL, *file) : inMemory;
+    if (brand) brand->appendHits(packageURL, folded, found[size_t(i)]);
+  });
+  for (QList<SearchHit>& part : found) hits += std::move(part);
+  if (kept_.size() > size_t(rows.size())) forgetAllBut(rows);
   return hits;
 }
 
-const SearchableBrand* GlobalSearch::onDisk(const QString& packageURL) {
+const SearchableBrand* GlobalSearch::upToDate(const QString& packageURL, Kept& kept) const {
   const QString manifest = Package::manifestPath(packageURL);
-  Kept& kept = kept_[packageURL];
   const auto present = files_.identity(manifest);
   if (!present || present != kept.identity) {
     const auto file = Package::readJson(files_, manifest, packageURL);
-    const auto brand = file ? decode<Brand>(file->bytes) : tl::unexpected(file.error());
+    auto brand = file ? SearchableBrand::read(file->bytes) : tl::unexpected(file.error());
     kept.identity = file ? std::optional(file->identity) : std::nullopt;
-    kept.brand = brand ? std::optional<SearchableBrand>(*brand) : std::nullopt;
+    kept.brand = brand ? std::optional(std::move(*brand)) : std::nullopt;
   }
   return kept.brand ? &*kept.brand : nullptr;
 }
 
-const SearchableBrand* GlobalSearch::inMemory(const Brand& brand) {
+const SearchableBrand* GlobalSearch::ofOpen(const Brand& brand) {
   // Comparing with a copy that shares its storage costs next to nothing.
   if (!open_ || !(open_->brand == brand)) open_.emplace(KeptOpen{brand, SearchableBrand(brand)});
   return &open_->searchable;
@@ -60,12 +73,12 @@ const SearchableBrand* GlobalSearch::inMemory(const Brand& brand) {
 void GlobalSearch::forgetAllBut(const QList<BrandSummary>& rows) {
   QSet<QString> present;
   for (const BrandSummary& row : rows) present.insert(row.packageURL);
-  erase_if(kept_, [&](const auto& entry) { return !present.contains(entry.key()); });
+  std::erase_if(kept_, [&](const auto& entry) { return !present.contains(entry.first); });
 }
 
 qsizetype GlobalSearch::memory() const {
   qsizetype bytes = 0;
-  for (const Kept& kept : kept_) bytes += kept.brand ? kept.brand->memory() : 0;
+  for (const auto& [packageURL, kept] : kept_) bytes += kept.brand ? kept.brand->memory() : 0;
   return open_ ? bytes + open_->searchable.memory() : bytes;
 }
 

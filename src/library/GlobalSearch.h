@@ -4,8 +4,7 @@
 #include "library/SearchableBrand.h"
 #include "platform/FileStore.h"
 
-#include <QHash>
-
+#include <unordered_map>
 #include <utility>
 
 namespace tarnloft {
@@ -40,12 +39,12 @@ class GlobalSearch {
     SearchableBrand searchable;
   };
 
-  const SearchableBrand* onDisk(const QString& packageURL);
-  const SearchableBrand* inMemory(const Brand& brand);
+  const SearchableBrand* upToDate(const QString& packageURL, Kept& kept) const;
+  const SearchableBrand* ofOpen(const Brand& brand);
   void forgetAllBut(const QList<BrandSummary>& rows);
 
   const FileStore& files_;
-  QHash<QString, Kept> kept_;
+  std::unordered_map<QString, Kept> kept_;  // by package
   std::optional<KeptOpen> open_;
 };
 

@@ -1,8 +1,9 @@
 #include "library/LibraryListing.h"
 
 #include "document/Package.h"
+#include "library/InParallel.h"
 #include "model/FileName.h"
-#include "model/Json.h"
+#include "model/RecordView.h"
 #include "model/Uuid.h"
 
 #include <QCollator>
@@ -11,7 +12,9 @@
 #include <QSet>
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
+#include <vector>
 
 namespace tarnloft {
 namespace {
@@ -20,12 +23,16 @@ constexpr QLatin1String presentExtension("tarnloft");
 constexpr QLatin1String legacyExtension("yewstack");
 
 BrandSummary summaryOf(const FileStore& files, const QString& packageURL) {
-  const auto brand =
-      Package::readJson(files, Package::manifestPath(packageURL), packageURL)
-          .and_then([](const Package::ReadFile& file) { return decode<Brand>(file.bytes); });
+  const auto file = Package::readJson(files, Package::manifestPath(packageURL), packageURL);
+  const auto brand = file.and_then(
+      [](const Package::ReadFile& read) { return RecordView<Brand>::parse(read.bytes); });
   if (brand) {
-    return {packageURL,       brand->name,          brand->emblem,
-            brand->accentHex, brand->accentHexDark, brand->id};
+    return {packageURL,
+            valueOf<&Brand::name>(*brand),
+            valueOf<&Brand::emblem>(*brand),
+            valueOf<&Brand::accentHex>(*brand),
+            valueOf<&Brand::accentHexDark>(*brand),
+            valueOf<&Brand::id>(*brand)};
   }
   const QString name = withoutPathExtension(lastPathComponent(packageURL));
   return {packageURL, name, {}, {}, {}, QUuid::createUuid()};
@@ -53,12 +60,13 @@ QHash<QUuid, qsizetype> positionsOf(const QList<QUuid>& order) {
 }  // namespace
 
 QList<BrandSummary> LibraryListing::read(const FileStore& files, const QString& folder) {
-  QList<BrandSummary> rows;
-  for (const QString& name : files.list(folder).value_or(QStringList())) {
-    if (!Package::isPackagePath(name)) continue;
-    rows << summaryOf(files, folder + QLatin1Char('/') + name);
-  }
-  return rows;
+  QStringList packages = files.list(folder).value_or(QStringList());
+  packages.removeIf([](const QString& name) { return !Package::isPackagePath(name); });
+  std::vector<BrandSummary> rows(size_t(packages.size()));
+  inParallel(packages.size(), [&](qsizetype i) {
+    rows[size_t(i)] = summaryOf(files, folder + QLatin1Char('/') + packages.at(i));
+  });
+  return {std::make_move_iterator(rows.begin()), std::make_move_iterator(rows.end())};
 }
 
 void LibraryListing::renameLegacyPackages(FileStore& files, const QString& folder) {

@@ -2,7 +2,9 @@
 
 #include "library/SearchHit.h"
 #include "model/Brand.h"
+#include "model/Error.h"
 
+#include <string>
 #include <vector>
 
 namespace tarnloft {
@@ -13,15 +15,19 @@ class SearchableBrand {
  public:
   explicit SearchableBrand(const Brand& brand);
 
+  // Of a manifest. Refuses what can't be decoded as a brand. Any thread.
+  static Result<SearchableBrand> read(const QByteArray& json);
+
   // Appends the brand's hits in stored order, a section's own before those of its items; an item
   // gives at most one. The query must be folded, in UTF-8 and not empty.
-  void appendHits(const QString& packageURL, const QByteArray& foldedQuery,
+  void appendHits(const QString& packageURL, const std::string& foldedQuery,
                   QList<SearchHit>& hits) const;
 
   // Bytes held, without the allocator's own.
   qsizetype memory() const;
 
  private:
+  class Filler;
   struct SectionRow {
     QUuid id;
     QString name;
@@ -29,22 +35,21 @@ class SearchableBrand {
   // A section or an item, and where its tokens begin in `folded_`.
   struct Entry {
     quint32 tokensAt;
+    quint32 titleAt;  // in `titles_`, up to that of the next entry; empty for a section
     quint32 section;
-    quint32 titleAt;  // in `titles_`; unused for a section
-    quint32 titleLength;
-    quint8 type;  // in `typeLabels`; 0 for a section
+    quint8 type;  // 0 for a section, 1 and on for the kinds of payload
     QUuid item;   // null for a section
   };
 
-  void addSection(const Section& section);
-  void addItem(const Item& item);
-  void addToken(const QString& token);
+  SearchableBrand() = default;
+
   SearchHit hit(const Entry& entry, const QString& packageURL) const;
+  QString title(const Entry& entry) const;
 
   QString brandName_;
   std::optional<Emblem> brandEmblem_;
-  QByteArray folded_;  // UTF-8, each token with a separator behind it
-  QByteArray titles_;  // UTF-8, one behind the other
+  std::string folded_;  // UTF-8, each token with a separator behind it
+  std::string titles_;  // UTF-8, one behind the other
   std::vector<SectionRow> sections_;
   std::vector<Entry> entries_;
 };

@@ -3,19 +3,22 @@
 namespace tarnloft {
 namespace {
 
-// Position of the dot in front of the extension, or -1.
+// Where the dot in front of the extension stands, or the end.
+template <class Character>
+size_t extensionDot(std::basic_string_view<Character> path) {
+  constexpr size_t none = path.npos;
+  const size_t slash = path.rfind(Character('/')), dot = path.rfind(Character('.'));
+  const size_t nameAt = slash == none ? 0 : slash + 1;
+  return dot != none && dot > nameAt && dot + 1 < path.size() ? dot : path.size();
+}
+
 qsizetype extensionDot(const QString& path) {
-  const qsizetype nameAt = path.lastIndexOf(QLatin1Char('/')) + 1;
-  const qsizetype dot = path.lastIndexOf(QLatin1Char('.'));
-  return dot > nameAt && dot < path.size() - 1 ? dot : -1;
+  return qsizetype(extensionDot(std::u16string_view(QStringView(path).utf16(), path.size())));
 }
 
 }  // namespace
 
-QString pathExtension(const QString& path) {
-  const qsizetype dot = extensionDot(path);
-  return dot < 0 ? QString() : path.mid(dot + 1);
-}
+QString pathExtension(const QString& path) { return path.mid(extensionDot(path) + 1); }
 
 QString lastPathComponent(const QString& path) {
   qsizetype end = path.size();
@@ -29,9 +32,10 @@ bool isPlainFileName(const QString& name) {
          !name.contains(QLatin1Char('/')) && !name.contains(QChar(u'\0'));
 }
 
-QString withoutPathExtension(const QString& path) {
-  const qsizetype dot = extensionDot(path);
-  return dot < 0 ? path : path.left(dot);
+QString withoutPathExtension(const QString& path) { return path.left(extensionDot(path)); }
+
+std::string_view withoutPathExtension(std::string_view utf8) {
+  return utf8.substr(0, extensionDot(utf8));
 }
 
 }  // namespace tarnloft

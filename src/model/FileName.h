@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <string_view>
+
 namespace tarnloft {
 
 // The last path extension without its dot, as it stands: "png" of "Mark.png". A name that only
@@ -17,5 +19,6 @@ bool isPlainFileName(const QString& name);
 
 // The same path without that extension and its dot: "a.b" of "a.b.c".
 QString withoutPathExtension(const QString& path);
+std::string_view withoutPathExtension(std::string_view utf8);
 
 }  // namespace tarnloft

@@ -1,35 +1,16 @@
 #include "model/JsonReader.h"
 
+#include "model/Utf8.h"
 #include "model/Uuid.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace tarnloft {
-namespace {
-
-QString fromUtf8(std::string_view text) {
-  // QString::fromUtf8 takes a leading U+FEFF for a byte-order mark and drops it; in a string it is
-  // a character like any other.
-  constexpr std::string_view mark = "\xEF\xBB\xBF";
-  if (text.size() >= mark.size() && text.substr(0, mark.size()) == mark) {
-    return QChar(0xFEFF) + fromUtf8(text.substr(mark.size()));
-  }
-  return QString::fromUtf8(text.data(), qsizetype(text.size()));
-}
-
-std::optional<size_t> payloadCase(std::string_view key) {
-  const auto found = std::find(payloadKeys.begin(), payloadKeys.end(), key);
-  if (found == payloadKeys.end()) return std::nullopt;
-  return size_t(found - payloadKeys.begin());
-}
-
-}  // namespace
 
 bool JsonReader::read(Element element, QString& text) {
   std::string_view utf8;
   if (element.get(utf8) != simdjson::SUCCESS) return fail("expected a string");
-  text = fromUtf8(utf8);
+  text = textFromUtf8(utf8);
   return true;
 }
 
@@ -68,48 +49,6 @@ bool JsonReader::read(Element element, qint64& number) {
 
 bool JsonReader::read(Element element, double& number) {
   return element.get(number) == simdjson::SUCCESS || fail("expected a number");
-}
-
-bool JsonReader::read(Element element, ItemPayload& payload) {
-  simdjson::dom::object object;
-  if (element.get(object) != simdjson::SUCCESS) return fail("expected an object");
-  std::optional<size_t> index;
-  Element content;
-  for (const auto [key, value] : object) {
-    const auto known = payloadCase(key);
-    if (!known) continue;
-    if (index && index != known) return fail("Invalid number of keys found, expected one.");
-    index = known;
-    content = value;
-  }
-  if (!index) return fail("Invalid number of keys found, expected one.");
-  return readCase(*index, content, payload) || at(payloadKeys[*index]);
-}
-
-bool JsonReader::fail(const char* reason) {
-  reason_ = reason;
-  path_.clear();
-  return false;
-}
-
-bool JsonReader::at(std::string_view key) {
-  path_ << fromUtf8(key);
-  return false;
-}
-
-bool JsonReader::at(qsizetype index) {
-  path_ << QStringLiteral("[%1]").arg(index);
-  return false;
-}
-
-Error JsonReader::error() const {
-  QString place;
-  for (auto step = path_.crbegin(); step != path_.crend(); ++step) {
-    if (!place.isEmpty() && !step->startsWith(QLatin1Char('['))) place += QLatin1Char('.');
-    place += *step;
-  }
-  if (place.isEmpty()) place = QStringLiteral("document");
-  return {ErrorKind::malformed, place + QStringLiteral(": ") + QString::fromUtf8(reason_)};
 }
 
 }  // namespace tarnloft

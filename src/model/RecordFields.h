@@ -26,6 +26,12 @@ concept Record = requires {
   RecordFields<R>::fields;
 };
 
+template <Record R>
+inline constexpr size_t fieldCount = std::tuple_size_v<decltype(RecordFields<R>::fields)>;
+
+template <Record R, size_t Place>
+inline constexpr auto fieldAt = std::get<Place>(RecordFields<R>::fields);
+
 // Calls `visit(field)` for each field of the record type.
 template <Record R, class Visit>
 constexpr void forEachField(Visit&& visit) {

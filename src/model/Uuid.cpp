@@ -1,5 +1,9 @@
 #include "model/Uuid.h"
 
+#include <QtEndian>
+
+#include <cstring>
+
 namespace tarnloft {
 namespace {
 
@@ -48,17 +52,25 @@ std::optional<QUuid> uuidFromText(std::string_view text) {
   for (const size_t dash : {8, 13, 18, 23}) {
     if (text[dash] != '-') return std::nullopt;
   }
-  std::array<uchar, 16> bytes;
-  int anyBad = 0;
-  for (size_t i = 0; i < offsets.size(); ++i) {
-    const int high = digitValue(text[offsets[i]]), low = digitValue(text[offsets[i] + 1u]);
-    anyBad |= high | low;
-    bytes[i] = static_cast<uchar>((high << 4) | low);
-  }
-  if (anyBad < 0) return std::nullopt;
-  const auto two = [&](size_t i) { return ushort((bytes[i] << 8) | bytes[i + 1]); };
-  return QUuid((uint(two(0)) << 16) | two(2), two(4), two(6), bytes[8], bytes[9], bytes[10],
-               bytes[11], bytes[12], bytes[13], bytes[14], bytes[15]);
+  // Eight bytes of it as one number; each digit that isn't one sets `bad` below 0.
+  int bad = 0;
+  const auto half = [&](size_t first) {
+    quint64 number = 0;
+    for (size_t i = first; i < first + 8; ++i) {
+      const int high = digitValue(text[offsets[i]]), low = digitValue(text[offsets[i] + 1u]);
+      bad |= high | low;
+      number = (number << 8) | quint64((high << 4) | low);
+    }
+    return number;
+  };
+  const quint64 front = half(0), back = qToBigEndian(half(8));
+  if (bad < 0) return std::nullopt;
+  QUuid id;
+  id.data1 = uint(front >> 32);
+  id.data2 = ushort(front >> 16);
+  id.data3 = ushort(front);
+  std::memcpy(id.data4, &back, sizeof back);
+  return id;
 }
 
 }  // namespace tarnloft

@@ -22,9 +22,10 @@ class Videos {
   // None if the file is no clip at all.
   virtual std::optional<VideoProperties> properties(const QString& path) = 0;
 
-  // The picture shown `seconds` after the beginning (the last one of a shorter clip), with square
-  // pixels, turned as the track tells, and no longer than `maxPixel` on a side; never enlarged but
-  // to make pixels square. For the first seconds: all that comes before is decoded too.
+  // The picture shown `seconds` after the beginning (the last one of a shorter clip), in sRGB, with
+  // square pixels, turned as the track tells, and no longer than `maxPixel` on a side; never
+  // enlarged but to make pixels square. For the first seconds: all that comes before is decoded
+  // too.
   virtual std::optional<QImage> frame(const QString& path, double seconds, int maxPixel) = 0;
 };
 

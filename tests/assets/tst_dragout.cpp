@@ -1,5 +1,6 @@
 #include "assets/DragFileExport.h"
 #include "assets/ItemDrag.h"
+#include "assets/TiffFlavour.h"
 #include "assets/TileDrag.h"
 #include "document/Package.h"
 #include "model/Uuid.h"
@@ -23,6 +24,8 @@ class TestDragOut : public QObject {
   void handsOutByKind_data();
   void handsOutByKind();
   void aPictureHasATiffOnDemand();
+  void aTiffFitsItsBounds_data();
+  void aTiffFitsItsBounds();
   void handsOutNothingFromOutsideThePackage_data();
   void handsOutNothingFromOutsideThePackage();
   void aVariantIsAPlainFile();
@@ -209,6 +212,53 @@ void TestDragOut::aPictureHasATiffOnDemand() {
   QVERIFY(QFile::remove(*drag.file));
   QCOMPARE(*drag.makeTiff(100), "tiff of stored.jpg");
   QCOMPARE(dragging.tiffed, QStringList(dragging.assetPath("stored.jpg")));
+}
+
+namespace {
+
+// Pictures of 1000 by 500 pixels, with so many bytes to each in any format.
+class PlainImages : public Images {
+ public:
+  double bytesPerPixel = 2;
+  QList<QSize> converted;
+  std::optional<ImageProperties> properties(const QString& path) override {
+    return path == "missing" ? std::nullopt
+                             : std::optional(ImageProperties{{1000, 500}, false, std::nullopt});
+  }
+  std::optional<QSizeF> vectorSize(const QString&) override { return std::nullopt; }
+  std::optional<QImage> thumbnail(const QString&, int) override { return std::nullopt; }
+  std::optional<QByteArray> convert(const QString&, ExportFormat format, QSize size,
+                                    double) override {
+    converted << size;
+    if (format != ExportFormat::tiff) return std::nullopt;
+    return QByteArray(qsizetype(size.width() * size.height() * bytesPerPixel), 't');
+  }
+};
+
+}  // namespace
+
+void TestDragOut::aTiffFitsItsBounds_data() {
+  QTest::addColumn<double>("bytesPerPixel");
+  QTest::addColumn<qint64>("maxBytes");
+  QTest::addColumn<qint64>("atLeast");
+  const qint64 none = std::numeric_limits<qint64>::max();
+  QTest::newRow("unbounded") << 4.0 << none << qint64(2'000'000);
+  QTest::newRow("in its own size") << 2.0 << qint64(1'000'000) << qint64(1'000'000);
+  QTest::newRow("smaller") << 2.0 << qint64(999'999) << qint64(800'000);
+  QTest::newRow("much smaller") << 4.0 << qint64(10'000) << qint64(8'000);
+}
+
+void TestDragOut::aTiffFitsItsBounds() {
+  QFETCH(qint64, maxBytes);
+  QFETCH(qint64, atLeast);
+  PlainImages images;
+  QFETCH(double, bytesPerPixel);
+  images.bytesPerPixel = bytesPerPixel;
+  const auto tiff = TiffFlavour::make(images, "a.png", maxBytes);
+  QVERIFY(tiff && tiff->size() <= maxBytes && tiff->size() >= atLeast);
+  const QSizeF last = images.converted.last();
+  QVERIFY(qAbs(last.width() / last.height() - 2) < 0.05);
+  QVERIFY(!TiffFlavour::make(images, "missing", maxBytes));
 }
 
 void TestDragOut::handsOutNothingFromOutsideThePackage_data() {

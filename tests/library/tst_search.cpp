@@ -13,6 +13,8 @@ class TestSearch : public QObject {
   void findsWhatTheRulesTell_data();
   void findsWhatTheRulesTell();
   void agreesWithEachItemOverRandomBrands();
+  void findsTheSameInAManifestAsInItsBrand();
+  void findsInALibraryWhatItsBrandsHold();
   void findsInStoredOrder();
   void searchesUnsavedEditsAndWhatChangedOnDisk();
   void holdsLessThanTheManifests();
@@ -88,6 +90,60 @@ void TestSearch::agreesWithEachItemOverRandomBrands() {
       for (const SearchHit& hit : searchHits(brands, query)) found << hit.id();
       QCOMPARE(found, expected);
     }
+  }
+}
+
+void TestSearch::findsTheSameInAManifestAsInItsBrand() {
+  RandomBrand random(32);
+  QHash<QUuid, QString> titles;
+  for (const char* query : {"a", "mark", "color", "ü", "\xEF\xBB\xBF", ".", "harbour 1"}) {
+    QList<SearchHit> inManifests, inBrands;
+    for (int round = 0; round < 5; ++round) {
+      const Brand brand = random.brand(3, 40);
+      const auto read = SearchableBrand::read(*encode(brand));
+      QVERIFY(read);
+      read->appendHits("x", query, inManifests);
+      SearchableBrand(brand).appendHits("x", query, inBrands);
+      for (const Section& part : brand.sections) {
+        for (const Item& item : part.items) titles[item.id] = item.displayName();
+      }
+    }
+    QVERIFY(!inBrands.isEmpty());
+    QCOMPARE(inManifests, inBrands);
+    for (const SearchHit& hit : inManifests) {
+      if (!hit.isSection()) QCOMPARE(hit.title, titles.value(*hit.itemID));
+    }
+  }
+  QVERIFY(!SearchableBrand::read("{\"name\":\"x\"}"));
+}
+
+// Enough packages for several threads, some of which can't be read.
+void TestSearch::findsInALibraryWhatItsBrandsHold() {
+  TestLibrary library;
+  QHash<QString, Brand> brands;
+  for (int i = 0; i < 50; ++i) {
+    const QString name = QString::number(i);
+    brands[library.packagePath(name)] =
+        library.add(name, RandomBrand(quint32(i)).brand(2, 9).sections);
+    if (i % 7) continue;
+    brands.remove(library.packagePath(name));
+    QVERIFY(writeFile(Package::manifestPath(library.packagePath(name)),
+                      "{\"name\":\"" + name.toUtf8() + "\"}"));
+  }
+  LibraryStore& store = library.start();
+  QCOMPARE(store.brands().size(), 50);
+  store.select(library.packagePath("0"));
+  QList<BrandAtURL> inOrder;
+  for (const BrandSummary& row : store.brands()) {
+    QCOMPARE(row.name, QFileInfo(row.packageURL).completeBaseName());
+    const auto brand = brands.constFind(row.packageURL);
+    QCOMPARE(row.brandID == brands.value(row.packageURL).id, brand != brands.cend());
+    if (brand != brands.cend()) inOrder << BrandAtURL{row.packageURL, *brand};
+  }
+  for (const QString& query : QStringList{"mark 1", "lane", "color"}) {
+    QVERIFY(!searchHits(inOrder, query).isEmpty());
+    QCOMPARE(store.searchAllBrands(query), searchHits(inOrder, query));
+    QCOMPARE(store.searchAllBrands(query), searchHits(inOrder, query));
   }
 }
 

@@ -1,5 +1,6 @@
 #include "model/FileName.h"
 #include "model/RecordHash.h"
+#include "model/SearchText.h"
 #include "testing/RandomBrand.h"
 
 #include <QTest>
@@ -14,6 +15,8 @@ class TestRecords : public QObject {
   void showsNames();
   void findsItems_data();
   void findsItems();
+  void foldsTextsInTheUsersLanguage_data();
+  void foldsTextsInTheUsersLanguage();
   void handsOutTheRightFile();
   void keepsNoEmptyNotes();
   void ungroupsLogoSets();
@@ -93,6 +96,46 @@ void TestRecords::findsItems() {
   QVERIFY(logo({variant("m.svg", LogoRole::mono)}).matchesSearch(str("monochrome")));
 }
 
+void TestRecords::foldsTextsInTheUsersLanguage_data() {
+  QTest::addColumn<QString>("text");
+  QTest::addColumn<QString>("english");
+  QTest::addColumn<QString>("turkish");
+  QTest::newRow("nothing") << ""
+                           << ""
+                           << "";
+  QTest::newRow("ASCII") << "AZ az @[`{ 09"
+                         << "az az @[`{ 09"
+                         << "az az @[`{ 09";
+  QTest::newRow("letter I") << "ICON"
+                            << "icon"
+                            << "ıcon";
+  QTest::newRow("beyond ASCII") << "Straße ÜBER"
+                                << "straße über"
+                                << "straße über";
+  QTest::newRow("decomposed") << "U\u0308"
+                              << "ü"
+                              << "ü";
+  QTest::newRow("U+FEFF in front") << "\uFEFFX"
+                                   << "\uFEFFx"
+                                   << "\uFEFFx";
+}
+
+void TestRecords::foldsTextsInTheUsersLanguage() {
+  QFETCH(QString, text);
+  for (const auto& [language, column] :
+       {std::pair(QLocale::English, "english"), std::pair(QLocale::Turkish, "turkish")}) {
+    QLocale::setDefault(QLocale(language));
+    const SearchFolding folding;
+    QLocale::setDefault(QLocale::system());
+    std::string ofText, ofUtf8;
+    folding.append(text, ofText);
+    folding.append(text.toStdString(), ofUtf8);
+    QTEST(folding.folded(text), column);
+    QCOMPARE(ofText, folding.folded(text).toStdString());
+    QCOMPARE(ofUtf8, ofText);
+  }
+}
+
 void TestRecords::handsOutTheRightFile() {
   const LogoVariant mono = variant("m.svg", LogoRole::mono);
   const LogoVariant primary = variant("p.svg", LogoRole::primary);
@@ -159,6 +202,8 @@ void TestRecords::splitsExtensions() {
   QFETCH(QString, path);
   QTEST(withoutPathExtension(path), "base");
   QTEST(pathExtension(path), "extension");
+  const std::string utf8 = path.toStdString();
+  QTEST(QString::fromStdString(std::string(withoutPathExtension(utf8))), "base");
 }
 
 void TestRecords::hashesAgreeWithEquality() {

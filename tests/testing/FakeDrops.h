@@ -7,7 +7,6 @@
 #include <QFileInfo>
 #include <QHash>
 #include <QMutex>
-#include <QSet>
 
 namespace tarnloft {
 
@@ -94,7 +93,13 @@ class FakeFonts : public Fonts {
     if (words.first().isEmpty()) return std::nullopt;
     return FontNames{words.first(), words.size() > 1 ? std::optional(words.at(1)) : std::nullopt};
   }
-  void registerForProcess(const QString& path) override { registered << path; }
+  void registerForProcess(const QString& path) override {
+    const QMutexLocker lock(&mutex_);
+    registered << path;
+  }
+
+ private:
+  QMutex mutex_;
 };
 
 }  // namespace tarnloft

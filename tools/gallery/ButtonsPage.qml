@@ -50,8 +50,8 @@ Page {
     Specimen {
         title: "Keyboard focus"
         gap: 14
-        Focused { radius: 6; Button { text: "Cancel" } }
+        Focused { radius: 6; gap: 1; Button { text: "Cancel" } }
         Focused { radius: 6; gap: 1; Button { text: "Save"; kind: Button.Prominent } }
-        Focused { radius: 6; Button { symbol: "gearshape"; help: "Settings"; kind: Button.Borderless } }
+        Focused { radius: 6; gap: 1; Button { symbol: "gearshape"; help: "Settings"; kind: Button.Borderless } }
     }
 }

@@ -9,15 +9,15 @@ Page {
     Specimen {
         title: "Empty, filled, disabled, small, borderless"
         TextField { placeholderText: "Brand name" }
-        TextField { text: "Juniper & Salt" }
-        TextField { text: "Disabled"; enabled: false; width: 90 }
-        TextField { text: "1024"; controlSize: ControlSize.Small; width: 70; horizontalAlignment: TextInput.AlignRight }
+        TextField { text: "Juniper & Salt"; accessibleName: "Brand name" }
+        TextField { text: "Disabled"; accessibleName: "Disabled"; enabled: false; width: 90 }
+        TextField { text: "1024"; accessibleName: "Width"; controlSize: ControlSize.Small; width: 70; horizontalAlignment: TextInput.AlignRight }
         TextField { bordered: false; placeholderText: "Section name"; font: Theme.font(15, Font.DemiBold) }
     }
     Specimen {
         title: "Search"
         SearchField { placeholderText: "Search Acme" }
-        SearchField { text: "logo" }
+        SearchField { text: "logo"; accessibleName: "Search" }
         ScopeBar {
             onActivated: index => currentIndex = index
             options: [
@@ -29,12 +29,13 @@ Page {
     Specimen {
         title: "Several lines"
         TextEditor { width: 300; height: 96; font: Theme.monospaced(12); text: "func tint() -> Color {\n    Color(hex: \"#4C6FFF\")\n}\n\n// one\n// two\n// three"; accessibleName: "Snippet" }
-        TextArea { width: 240; text: "Use the full-colour mark on light grounds. On photographs the reversed one reads better."; color: Theme.secondaryLabel }
+        TextArea { width: 240; accessibleName: "Text"; text: "Use the full-colour mark on light grounds. On photographs the reversed one reads better."; color: Theme.secondaryLabel }
     }
     Specimen {
         title: "Focus"
         TextField {
             text: "Hero"
+            accessibleName: "Name"
             width: 120
             Component.onCompleted: forceActiveFocus(Qt.TabFocusReason)
         }

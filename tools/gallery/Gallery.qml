@@ -29,8 +29,8 @@ Window {
             ButtonsPage {}
             FieldsPage {}
             PickersPage {}
-            MenusPage {}
-            PanelsPage {}
+            MenusPage { still: root.whole }
+            PanelsPage { still: root.whole }
             ListsPage {}
             TilesPage {}
         }

@@ -5,6 +5,10 @@ import QtQuick.Templates as T
 import TarnLoft.Controls
 
 Page {
+    id: page
+
+    property bool still: true // menus stand open, to be looked at
+
     title: "Menus"
 
     Specimen {
@@ -23,7 +27,7 @@ Page {
             height: 270
 
             Menu {
-                visible: true
+                visible: page.still
                 closePolicy: T.Popup.NoAutoClose
                 MenuItem { text: "Copy HEX: #4C6FFF" }
                 MenuTitle { text: "Contrast (WCAG)" }
@@ -41,7 +45,7 @@ Page {
 
             Menu {
                 x: 280
-                visible: true
+                visible: page.still
                 closePolicy: T.Popup.NoAutoClose
                 MenuItem { text: "Default"; checkable: true; checked: true }
                 MenuItem { text: "White"; checkable: true }

@@ -5,6 +5,10 @@ import QtQuick.Templates as T
 import TarnLoft.Controls
 
 Page {
+    id: page
+
+    property bool still: true // popovers stand open, to be looked at
+
     title: "Panels"
 
     Specimen {
@@ -71,7 +75,7 @@ Page {
         Item {
             width: 150
             height: 60
-            ToolTip { visible: true; y: 14; text: "Click to copy #4C6FFF" }
+            ToolTip { visible: page.still; y: 14; text: "Click to copy #4C6FFF" }
         }
     }
     Item {
@@ -96,7 +100,7 @@ Page {
             text: "Shown from here"
 
             Popover {
-                visible: true
+                visible: page.still
                 closePolicy: T.Popup.NoAutoClose
                 focus: false
                 accessibleName: "Details"

@@ -41,6 +41,7 @@ Page {
             ]
         }
         SegmentedPicker {
+            accessibleName: "Disabled"
             enabled: false
             options: [
                 PickerOption { text: "Off" },

@@ -25,8 +25,10 @@ Column {
         spacing: 10
 
         Component.onCompleted: {
-            for (const child of children)
-                child.anchors.verticalCenter = verticalCenter;
+            for (let i = 0; i < children.length; ++i) {
+                const child = children[i];
+                child.y = Qt.binding(() => Math.round((row.height - child.height) / 2));
+            }
         }
     }
 }

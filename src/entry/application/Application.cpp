@@ -1,23 +1,62 @@
 #include "entry/ApplicationModule.h"
+#include "entry/application/WindowApplication.h"
+#include "entry/media/LateMedia.h"
 #include "entry/selftest/SelfTest.h"
+#include "platform/controls/Typography.h"
 #include "platform/desktop/PosixFileStore.h"
 #include "platform/desktop/Syslog.h"
+#include "platform/desktop/instance/RunningInstance.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QtQml/qqmlextensionplugin.h>
 
 #include <cstdio>
 
+Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
+
 using namespace tarnloft;
+
+namespace {
+
+int fail(const char* reason) {
+  std::fprintf(stderr, "Tarn Loft: %s\n", reason);
+  return 1;
+}
+
+int runWindows(RunningInstance& instance) {
+  prepareTypography();
+  WindowApplication windows;
+  QObject::connect(&instance, &RunningInstance::showRequested, &windows,
+                   &WindowApplication::showMainWindow);
+  if (!instance.listen()) std::fputs("Tarn Loft: a second start won't find this one\n", stderr);
+  if (!windows.start()) return fail("the interface can't be loaded");
+  return QApplication::exec();
+}
+
+}  // namespace
 
 int tarnloftSelfTest(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
   PosixFileStore files;
   Syslog log;
-  return SelfTest::run({files, log}) ? 0 : 1;
+  LateImages images;
+  return SelfTest::run({files, log}, images) ? 0 : 1;
 }
 
-int tarnloftApplication(int /*argc*/, char** /*argv*/) {
-  std::fputs("Tarn Loft: this version has no window yet; see --export-page in the README.\n",
-             stderr);
-  return 1;
+int tarnloftApplication(int argc, char** argv) {
+  RunningInstance instance(RunningInstance::runtimeFolder());
+  switch (instance.claim()) {
+    case RunningInstance::Start::shown: return 0;
+    case RunningInstance::Start::noAnswer: return fail("it runs already, but doesn't answer");
+    case RunningInstance::Start::first: break;
+  }
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("tarnloft"));
+  QApplication::setApplicationDisplayName(QStringLiteral("Tarn Loft"));
+  QApplication::setDesktopFileName(QStringLiteral("tarnloft"));
+  QApplication::setQuitOnLastWindowClosed(false);
+  return runWindows(instance);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/BrandDocument.h"
+#include "platform/Images.h"
 
 #include <QString>
 
@@ -53,9 +54,11 @@ void checkSpotColor(Report& report);
 void checkUsageNotes(Report& report);
 void checkNotesPage(Report& report, const DocumentServices& services);
 void checkVersions(Report& report, const DocumentServices& services);
+void checkThumbnail(Report& report, Images& images);
 void checkFonts(Report& report, const DocumentServices& services);
 void checkUngrouping(Report& report);
 void checkDragOut(Report& report, const DocumentServices& services);
 void checkExportableAssets(Report& report);
+void checkImageExport(Report& report, Images& images);
 
 }  // namespace tarnloft::SelfTest

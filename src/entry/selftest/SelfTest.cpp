@@ -38,7 +38,7 @@ ScratchFolder::ScratchFolder(const QString& prefix)
 
 ScratchFolder::~ScratchFolder() { QDir(path_).removeRecursively(); }
 
-bool run(const DocumentServices& services) {
+bool run(const DocumentServices& services, Images& images) {
   print(QStringLiteral("Tarn Loft self-test"));
   Report report;
   checkColors(report);
@@ -59,10 +59,12 @@ bool run(const DocumentServices& services) {
   checkUsageNotes(report);
   checkNotesPage(report, services);
   checkVersions(report, services);
+  checkThumbnail(report, images);
   checkFonts(report, services);
   checkUngrouping(report);
   checkDragOut(report, services);
   checkExportableAssets(report);
+  checkImageExport(report, images);
   print(QStringLiteral("\n%1 passed, %2 failed").arg(report.passed()).arg(report.failed()));
   const bool printed = std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
   return report.failed() == 0 && printed;

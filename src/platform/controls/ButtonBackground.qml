@@ -18,6 +18,7 @@ Rectangle {
 
     required property T.AbstractButton control
     required property int kind
+    property bool on: control.checked
 
     function fill(rest: color, hovered: color, pressed: color): color {
         return control.down ? pressed : control.hovered && control.enabled ? hovered : rest;
@@ -31,9 +32,9 @@ Rectangle {
         case ButtonBackground.Destructive:
             return fill(Theme.destructiveFill, Theme.destructiveFillHovered, Theme.destructiveFillPressed);
         case ButtonBackground.Framed:
-            return fill(control.checked ? Theme.controlFillPressed : Theme.controlFill, Theme.controlFillHovered, Theme.controlFillPressed);
+            return fill(on ? Theme.controlFillPressed : Theme.controlFill, Theme.controlFillHovered, Theme.controlFillPressed);
         case ButtonBackground.Faint:
-            return fill(control.checked ? Theme.selectedFill : "transparent", Theme.hoverFill, Theme.pressedFill);
+            return fill(on ? Theme.selectedFill : "transparent", Theme.hoverFill, Theme.pressedFill);
         default:
             return "transparent";
         }
@@ -44,6 +45,6 @@ Rectangle {
     FocusRing {
         shown: root.control.visualFocus
         base: root.radius
-        gap: root.kind === ButtonBackground.Accent || root.kind === ButtonBackground.Destructive ? 1 : 0
+        gap: 1
     }
 }

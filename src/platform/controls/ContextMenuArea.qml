@@ -13,12 +13,15 @@ Item {
     required property Component menu // of a Menu
     property bool keyboardOnly: false // the view opens it by pointer itself
 
+    property Menu opened: null // made at its first opening
+
     signal requested
 
     function openMenu(x: real, y: real) {
         requested();
-        holder.active = true;
-        (holder.item as Menu).popup(root, x, y);
+        if (!opened)
+            opened = menu.createObject(root) as Menu;
+        opened.popup(root, x, y);
     }
 
     anchors.fill: parent
@@ -35,12 +38,5 @@ Item {
         enabled: root.parent?.activeFocus ?? false
         sequences: ["Menu", "Shift+F10"]
         onActivated: root.openMenu(root.width / 2, root.height / 2)
-    }
-
-    Loader {
-        id: holder
-
-        active: false
-        sourceComponent: root.menu
     }
 }

@@ -13,11 +13,11 @@ Rectangle {
     property int base: Theme.fieldRadius // the control's own radius
 
     anchors.fill: parent
-    anchors.margins: -3 - gap
+    anchors.margins: -2 - gap
     visible: shown
-    radius: base + 3 + gap
+    radius: base + 2 + gap
     color: "transparent"
-    border.width: 3
+    border.width: 2
     border.color: Theme.focusRing
     Accessible.ignored: true
 }

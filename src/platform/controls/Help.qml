@@ -20,21 +20,27 @@ Item {
         id: hover
     }
 
+    readonly property bool due: shown && text !== "" && !pause.running
+    property ToolTip tip: null // while it shows
+
+    onDueChanged: {
+        if (due)
+            tip = making.createObject(root) as ToolTip;
+        else if (tip)
+            tip.leave();
+    }
+
+    readonly property Component making: Component {
+        ToolTip {
+            text: root.text
+            visible: true
+        }
+    }
+
     Timer {
         id: pause
 
         interval: root.delay
         running: root.shown && root.text !== ""
-    }
-
-    Loader {
-        anchors.fill: parent
-        active: root.shown && root.text !== "" && !pause.running
-        sourceComponent: Item {
-            ToolTip {
-                text: root.text
-                visible: true
-            }
-        }
     }
 }

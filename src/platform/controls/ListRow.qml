@@ -7,7 +7,7 @@ import TarnLoft.Controls
 // A row of a list that can be chosen by a click, Space or Return.
 //   ListRow { text: brand.name; selected: …; onClicked: … }
 // A row with other content sets `contentItem` and still gives its `text`, which names it.
-T.AbstractButton {
+T.ItemDelegate {
     id: root
 
     property bool selected: false
@@ -46,7 +46,7 @@ T.AbstractButton {
         FocusRing {
             anchors.margins: 0
             shown: root.visualFocus
-            base: Theme.fieldRadius - 3
+            base: Theme.fieldRadius - 2
         }
     }
 }

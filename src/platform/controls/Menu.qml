@@ -50,6 +50,14 @@ T.Menu {
         }
     }
 
+    onAboutToShow: focusReturn.remember()
+    onClosed: focusReturn.giveBack()
+
+    readonly property FocusReturn focusReturn: FocusReturn {
+        within: root.parent
+        content: root.contentItem
+    }
+
     enter: Transition {
         NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Motion.time(70) }
     }
@@ -58,6 +66,7 @@ T.Menu {
     }
 
     contentItem: ListView {
+        focus: true
         implicitWidth: root.widest
         implicitHeight: contentHeight
         model: root.contentModel

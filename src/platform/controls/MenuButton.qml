@@ -13,7 +13,6 @@ Button {
 
     down: pressed || menu.visible
     rightPadding: chevron ? (kind === Button.Plain ? 15 : 24) : leftPadding
-    Accessible.role: Accessible.ButtonMenu
     Keys.onDownPressed: openMenu()
     onClicked: openMenu()
 

@@ -17,7 +17,7 @@ T.MenuItem {
     enabled: false
     font: prominent ? Theme.font(11, Font.DemiBold) : Theme.body
 
-    Accessible.role: Accessible.StaticText
+    Accessible.role: Accessible.MenuItem
     Accessible.name: text
 
     contentItem: Label {

@@ -117,20 +117,18 @@ QColor shifted(const QColor& fill, double amount) {
 
 // The background on which texts of the scheme have the least contrast.
 QColor hardestBackground(const Palette& p, ColorScheme scheme) {
-  return scheme == ColorScheme::light ? p.sidebarBackground : p.thinMaterial;
+  return over(scheme == ColorScheme::light ? p.sidebarBackground : p.thinMaterial,
+              p.windowBackground);
 }
 
 void tint(Palette& p, ColorScheme scheme, const QColor& accent) {
   p.accent = accent;
-  p.accentText =
-      readableOn(accent, over(hardestBackground(p, scheme), p.windowBackground), readable);
+  p.accentText = readableOn(accent, hardestBackground(p, scheme), readable);
   p.accentFill = fillFor(accent);
   p.accentFillHovered = shifted(p.accentFill, 0.08);
   p.accentFillPressed = shifted(p.accentFill, 0.18);
   p.onAccent = textOn(p.accentFill);
-  p.focusRing = scheme == ColorScheme::light
-                    ? alpha(readableOn(accent, p.windowBackground, 4.0), 0.68)
-                    : alpha(readableOn(accent, p.windowBackground, 5.5), 0.85);
+  p.focusRing = alpha(readableOn(accent, hardestBackground(p, scheme), 3.6), 0.9);
   p.textSelection = alpha(accent, scheme == ColorScheme::light ? 0.28 : 0.45);
 }
 

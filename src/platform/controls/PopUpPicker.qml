@@ -21,7 +21,7 @@ T.Button {
 
     function openMenu() {
         if (!menu.visible)
-            menu.popup(root, -2, (height - 25) / 2 - menu.topPadding - 25 * Math.max(0, currentIndex), menu.itemAt(currentIndex) as T.MenuItem);
+            menu.popup(root, -24, (height - 25) / 2 - menu.topPadding - 25 * Math.max(0, currentIndex), menu.itemAt(currentIndex) as T.MenuItem);
     }
 
     implicitWidth: Math.min(menu.natural, 240) + 14
@@ -39,7 +39,7 @@ T.Button {
     Keys.onEnterPressed: openMenu()
     Keys.onUpPressed: openMenu()
     Keys.onDownPressed: openMenu()
-    Accessible.role: Accessible.ComboBox
+    Accessible.role: Accessible.Button
     Accessible.name: accessibleName !== "" ? accessibleName + ", " + text : text
     Accessible.description: help
     Accessible.onPressAction: openMenu()
@@ -77,7 +77,7 @@ T.Button {
         id: menu
 
         title: root.accessibleName
-        least: root.width - 8
+        least: root.width + 14
 
         Repeater {
             model: root.options

@@ -32,7 +32,17 @@ T.Popup {
     modal: false
     focus: true
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
-    onAboutToShow: place()
+
+    onAboutToShow: {
+        place();
+        focusReturn.remember();
+    }
+    onClosed: focusReturn.giveBack()
+
+    readonly property FocusReturn focusReturn: FocusReturn {
+        within: root.parent
+        content: root.contentItem
+    }
 
     enter: Transition {
         NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Motion.time(110) }

@@ -19,21 +19,23 @@ Row {
 
     Repeater {
         model: root.options
-        delegate: Button {
+        delegate: Segment {
             id: scope
 
-            required property PickerOption modelData
-            required property int index
-
-            text: modelData.text
-            kind: Button.Borderless
+            chosen: index === root.currentIndex
             controlSize: ControlSize.Small
-            checked: index === root.currentIndex
-            tint: checked ? Theme.label : Theme.secondaryLabel
-            Accessible.role: Accessible.RadioButton
-            Accessible.checked: checked
-            Accessible.checkable: true
-            onClicked: if (index !== root.currentIndex) root.activated(index)
+            implicitHeight: 22
+            focusPolicy: Qt.TabFocus
+            Keys.onReturnPressed: clicked()
+            Keys.onEnterPressed: clicked()
+            onClicked: if (!chosen) root.activated(index)
+
+            background: ButtonBackground {
+                control: scope
+                kind: ButtonBackground.Faint
+                on: scope.chosen
+                radius: 5
+            }
         }
     }
 }

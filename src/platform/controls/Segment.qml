@@ -4,8 +4,8 @@ import QtQuick
 import QtQuick.Templates as T
 import TarnLoft.Controls
 
-// One choice of a SegmentedPicker, which moves the focus and draws the thumb beneath it.
-T.AbstractButton {
+// One choice of a SegmentedPicker or ScopeBar, which draws what lies beneath it.
+T.RadioButton {
     id: root
 
     required property PickerOption modelData
@@ -16,6 +16,7 @@ T.AbstractButton {
     implicitWidth: Math.max(implicitContentWidth + 2 * (controlSize === ControlSize.Small ? 8 : 12), modelData.text === "" ? 34 : 0)
     padding: 0
     font: Theme.font(Theme.controlText(controlSize), chosen ? Font.Medium : Font.Normal)
+    checkable: false // the picker knows which is chosen
     focusPolicy: Qt.NoFocus
 
     Accessible.role: Accessible.RadioButton

@@ -6,11 +6,14 @@ import TarnLoft.Controls
 
 // The round check box at the corner of something that can be selected.
 //   SelectionMark { selected: …; onClicked: … }
-T.AbstractButton {
+T.CheckBox {
     id: root
 
     property bool selected: false
 
+    checked: selected
+    nextCheckState: () => selected ? Qt.Checked : Qt.Unchecked // the view's business
+    padding: 0
     implicitWidth: 20
     implicitHeight: 20
     focusPolicy: Qt.TabFocus

@@ -43,6 +43,14 @@ T.Popup {
     focus: true
     closePolicy: T.Popup.NoAutoClose
 
+    onAboutToShow: focusReturn.remember()
+    onClosed: focusReturn.giveBack()
+
+    readonly property FocusReturn focusReturn: FocusReturn {
+        within: root.parent
+        content: root.contentItem
+    }
+
     enter: Transition {
         NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Motion.time(140) }
         SpringNumber { property: "scale"; from: 0.96; to: 1; response: 0.3; dampingFraction: 0.85 }

@@ -36,19 +36,22 @@ double Spring::settlingTime() const {
 }
 
 QEasingCurve Spring::easing() const {
-  constexpr int pieces = 24;
+  constexpr int pieces = 10;        // as many as Qt's easing curves have room for
+  constexpr double crowding = 1.4;  // the pieces are shorter where the spring is fast
   const double duration = settlingTime();
-  const double third = 1.0 / (3 * pieces);
   QEasingCurve curve(QEasingCurve::BezierSpline);
-  for (int piece = 0; piece < pieces; ++piece) {
-    const double start = static_cast<double>(piece) / pieces;
-    const double end = static_cast<double>(piece + 1) / pieces;
-    const bool last = piece + 1 == pieces;
-    const double to = last ? 1 : position(end * duration);
-    const double arriving = last ? 0 : velocity(end * duration) * duration;
-    curve.addCubicBezierSegment(
-        {start + third, position(start * duration) + velocity(start * duration) * duration * third},
-        {end - third, to - arriving * third}, {end, to});
+  QPointF from;
+  double leaving = 0;
+  for (int piece = 1; piece <= pieces; ++piece) {
+    const bool last = piece == pieces;
+    const double x = last ? 1 : std::pow(static_cast<double>(piece) / pieces, crowding);
+    const QPointF to(x, last ? 1 : position(x * duration));
+    const double arriving = last ? 0 : velocity(x * duration) * duration;
+    const double third = (to.x() - from.x()) / 3;
+    curve.addCubicBezierSegment(from + QPointF(third, leaving * third),
+                                to - QPointF(third, arriving * third), to);
+    from = to;
+    leaving = arriving;
   }
   return curve;
 }

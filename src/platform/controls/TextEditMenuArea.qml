@@ -9,6 +9,7 @@ Item {
     id: root
 
     required property T.TextField field
+    property Menu menu: null // made at its first opening
 
     anchors.fill: parent
     Accessible.ignored: true
@@ -17,16 +18,16 @@ Item {
         acceptedButtons: Qt.RightButton
         onTapped: {
             root.field.forceActiveFocus(Qt.MouseFocusReason);
-            menu.active = true;
-            (menu.item as Menu).popup();
+            if (!root.menu)
+                root.menu = making.createObject(root) as Menu;
+            root.menu.popup();
         }
     }
 
-    Loader {
-        id: menu
+    Component {
+        id: making
 
-        active: false
-        sourceComponent: Menu {
+        Menu {
             MenuItem { text: "Cut"; shortcut: "Ctrl+X"; enabled: root.field.selectedText !== "" && !root.field.readOnly; onTriggered: root.field.cut() }
             MenuItem { text: "Copy"; shortcut: "Ctrl+C"; enabled: root.field.selectedText !== ""; onTriggered: root.field.copy() }
             MenuItem { text: "Paste"; shortcut: "Ctrl+V"; enabled: root.field.canPaste; onTriggered: root.field.paste() }

@@ -9,6 +9,12 @@ import TarnLoft.Controls
 T.ToolTip {
     id: root
 
+    // Fades and is gone for good.
+    function leave() {
+        closed.connect(() => root.destroy());
+        close();
+    }
+
     implicitWidth: Math.min(implicitContentWidth + leftPadding + rightPadding, 300)
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     x: parent ? Math.round((parent.width - width) / 2) : 0

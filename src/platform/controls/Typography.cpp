@@ -4,12 +4,15 @@
 #include <QQuickWindow>
 #include <QStringList>
 
+// Qt documents this function and leaves its declaration to callers.
+void Q_GUI_EXPORT qt_set_sequence_auto_mnemonic(bool enabled);
+
 namespace tarnloft {
 
 namespace {
 
-// Qt smears a font from the weight 700 on, even one whose face is bold; just below it takes the bold
-// face and leaves it alone.
+// Qt smears a font from the weight 700 on, even one whose face is bold; just below it takes the
+// bold face and leaves it alone.
 constexpr auto bold = static_cast<QFont::Weight>(QFont::Bold - 1);
 
 constexpr int displaySize = 20;  // from here on the cut for large sizes looks better
@@ -50,6 +53,8 @@ void prepareTypography() {
   QGuiApplication::setFont(interfaceFont(body));
   // Glyphs drawn for their size are crisper at 13 pixels than those scaled from one large drawing.
   QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
+  // Else Alt+D would press whatever is named "R&D".
+  qt_set_sequence_auto_mnemonic(false);
 }
 
 }  // namespace tarnloft

@@ -18,8 +18,8 @@ const QString tiffFormat = QStringLiteral("image/tiff");
 // toolkit puts it.
 qint64 longestAnswer() {
   constexpr qint64 requestHead = 64;
-  const auto* x11 =
-      qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
+  const auto* gui = qobject_cast<QGuiApplication*>(QCoreApplication::instance());
+  const auto* x11 = gui ? gui->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
   xcb_connection_t* connection = x11 ? x11->connection() : nullptr;
   if (!connection) return std::numeric_limits<qint64>::max();
   return qint64(xcb_get_maximum_request_length(connection)) * 4 - requestHead;

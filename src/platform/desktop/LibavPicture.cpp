@@ -1,5 +1,7 @@
 #include "platform/desktop/LibavPicture.h"
 
+#include "platform/desktop/LibavColors.h"
+
 #include <QTransform>
 
 #include <algorithm>
@@ -47,9 +49,9 @@ void setColors(SwsContext* scaler, const AVFrame& frame) {
 
 Scaler makeScaler(const AVFrame& frame, QSize size) {
   const auto format = AVPixelFormat(frame.format);
-  Scaler scaler(sws_getContext(frame.width, frame.height, format, size.width(), size.height(),
-                               AV_PIX_FMT_RGB32, SWS_BICUBIC | SWS_ACCURATE_RND, nullptr, nullptr,
-                               nullptr));
+  Scaler scaler(sws_getContext(
+      frame.width, frame.height, format, size.width(), size.height(), AV_PIX_FMT_RGB32,
+      SWS_BICUBIC | SWS_ACCURATE_RND | SWS_FULL_CHR_H_INT, nullptr, nullptr, nullptr));
   if (scaler) setColors(scaler.get(), frame);
   return scaler;
 }
@@ -93,7 +95,7 @@ std::optional<QImage> pictureOf(const AVFrame& frame, QSize size) {
       isOf(frame, AV_PIX_FMT_FLAG_ALPHA) ? QImage::Format_ARGB32 : QImage::Format_RGB32;
   const AVFrame& filled = *output;
   const QImage shared(filled.data[0], size.width(), size.height(), filled.linesize[0], format);
-  return shared.copy();
+  return inStandardColors(shared.copy(), frame);
 }
 
 QImage oriented(const QImage& picture, Orientation orientation) {

@@ -25,8 +25,8 @@ Orientation orientationOf(const AVStream& stream);
 // the stored one at most, and its width what the pixels' shape makes of it.
 QSize shownSize(QSize stored, AVRational pixelShape, int maxPixel);
 
-// The frame in that size and the colours that it tells, in sRGB's own coding; none if it is of a
-// kind that can't be shown.
+// The frame in that size, in sRGB by the colours that it tells of itself; none if it is of a kind
+// that can't be shown.
 std::optional<QImage> pictureOf(const AVFrame& frame, QSize size);
 
 QImage oriented(const QImage& picture, Orientation orientation);

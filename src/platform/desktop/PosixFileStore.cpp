@@ -156,7 +156,7 @@ Result<QString> PosixFileStore::makeTemporaryFolder(const QString& name) {
   const QString root = QDir::tempPath(), path = root + QLatin1Char('/') + name;
   if (root.isEmpty() || !native(path)) return systemFailure(ENOENT);
   if (makePrivateFolder(QFile::encodeName(path))) return path;
-  const QString own = path + QLatin1Char('-') + QString::number(::geteuid());
+  QString own = path + QLatin1Char('-') + QString::number(::geteuid());
   return makePrivateFolder(QFile::encodeName(own)).map([&] { return own; });
 }
 

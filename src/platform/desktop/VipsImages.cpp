@@ -16,6 +16,7 @@ namespace {
 using vips::VImage;
 
 constexpr int memoryMegabytes = 1536;
+constexpr std::chrono::seconds thumbnailTime{30}, conversionTime{300};
 constexpr qint64 targetLimit = 1 << 28;  // pixels of a converted picture
 
 std::optional<VectorKind> vectorKind(const ImageFile& file) {
@@ -76,29 +77,29 @@ bool isTarget(QSize size) {
   return !size.isEmpty() && qint64(size.width()) * size.height() <= targetLimit;
 }
 
-VImage rendered(const VImage& image, QSize size) {
-  VImage result = Pipeline::render(image, size);
-  Pipeline::limitTime(result);
-  return result;
-}
-
 // What `use` makes of the picture in sRGB at the size that `sizeFor` finds for its own. None if it
-// can't be read or is larger than is good.
+// can't be read, is larger than is good, or takes longer than the limit.
 template <class SizeFor, class Use>
-auto withBitmap(const ImageFile& file, QSemaphore& memory, SizeFor&& sizeFor, Use&& use) {
+auto withBitmap(const ImageFile& file, QSemaphore& memory, std::chrono::seconds limit,
+                SizeFor&& sizeFor, Use&& use) {
+  const auto finish = [&](const VImage& image, QSize size) {
+    VImage result = Pipeline::render(image, size);
+    Pipeline::limitTime(result, limit);
+    return use(result);
+  };
   return orNone([&]() -> std::optional<decltype(use(VImage()))> {
     if (isCut(file)) return std::nullopt;
     if (isForToolkit(file)) {
       const auto pixels = QtImages::read(file);
       if (!pixels) return std::nullopt;
-      return use(rendered(QtView::of(*pixels), sizeFor(pixels->size())));
+      return finish(QtView::of(*pixels), sizeFor(pixels->size()));
     }
     const VImage header = BitmapDecoder::header(file);
     const auto bytes = BitmapDecoder::footprint(file.kind(), header);
     if (!bytes) return std::nullopt;
     const MemoryShare share(memory, *bytes);
     const QSize size = sizeFor(QSize(header.width(), header.height()));
-    return use(rendered(BitmapDecoder::load(file, header, size), size));
+    return finish(BitmapDecoder::load(file, header, size), size);
   });
 }
 
@@ -131,7 +132,7 @@ std::optional<QImage> VipsImages::thumbnail(const QString& path, int maxPixel) {
     return vectors_.fit(*kind, vectorBytes(*file), maxPixel);
   }
   const auto sizeFor = [&](QSize size) { return fitted(size, maxPixel); };
-  return withBitmap(*file, memory_, sizeFor, QtView::toQImage);
+  return withBitmap(*file, memory_, thumbnailTime, sizeFor, QtView::toQImage);
 }
 
 std::optional<QByteArray> VipsImages::convert(const QString& path, ExportFormat format, QSize size,
@@ -140,9 +141,8 @@ std::optional<QByteArray> VipsImages::convert(const QString& path, ExportFormat 
   if (!file || !isTarget(size)) return std::nullopt;
   const auto encode = [&](const VImage& image) { return encodeImage(image, format, quality); };
   const auto kind = vectorKind(*file);
-  if (!kind)
-    return withBitmap(
-        *file, memory_, [&](QSize) { return size; }, encode);
+  const auto sizeFor = [&](QSize) { return size; };
+  if (!kind) return withBitmap(*file, memory_, conversionTime, sizeFor, encode);
   const auto drawn = vectors_.stretch(*kind, vectorBytes(*file), size);
   if (!drawn) return std::nullopt;
   const QImage pixels = drawn->convertToFormat(QImage::Format_RGBA8888);

@@ -2,24 +2,37 @@
 
 #include <QDeadlineTimer>
 
-#include <chrono>
+#include <lcms2.h>
+#include <memory>
+#include <optional>
 
 namespace tarnloft::Pipeline {
 namespace {
 
 using vips::VImage;
 
-constexpr std::chrono::seconds timeLimit{30};
+// How the profile is read that tells what the colours are: the file's own if it fits them, or, for
+// printing inks, the usual one. None if no profile tells.
+std::optional<VipsIntent> profileIntent(const VImage& image) {
+  if (image.format() != VIPS_FORMAT_UCHAR) return std::nullopt;
+  if (image.get_typeof(VIPS_META_ICC_NAME) != 0) {
+    size_t size = 0;
+    const void* bytes = image.get_blob(VIPS_META_ICC_NAME, &size);
+    const std::unique_ptr<void, decltype(&cmsCloseProfile)> profile(
+        cmsOpenProfileFromMem(bytes, cmsUInt32Number(size)), cmsCloseProfile);
+    const bool fits = profile && vips_icc_is_compatible_profile(image.get_image(), bytes, size);
+    for (const VipsIntent intent : {VIPS_INTENT_RELATIVE, VIPS_INTENT_PERCEPTUAL}) {
+      if (fits && cmsIsIntentSupported(profile.get(), intent, LCMS_USED_AS_INPUT)) return intent;
+    }
+  }
+  const bool inks = image.interpretation() == VIPS_INTERPRETATION_CMYK;
+  return inks ? std::optional(VIPS_INTENT_RELATIVE) : std::nullopt;
+}
 
-// True if a profile tells what the colours are: the file's own, or, for printing inks, the usual
-// one.
-bool hasProfile(const VImage& image) {
-  if (image.format() != VIPS_FORMAT_UCHAR && image.format() != VIPS_FORMAT_USHORT) return false;
-  if (image.interpretation() == VIPS_INTERPRETATION_CMYK) return true;
-  if (image.get_typeof(VIPS_META_ICC_NAME) == 0) return false;
-  size_t size = 0;
-  const void* profile = image.get_blob(VIPS_META_ICC_NAME, &size);
-  return vips_icc_is_compatible_profile(image.get_image(), profile, size);
+VImage withoutProfile(const VImage& image) {
+  VImage copy = image.copy();
+  vips_image_remove(copy.get_image(), VIPS_META_ICC_NAME);
+  return copy;
 }
 
 // A space that the library can't tell counts as what its number of components says.
@@ -34,12 +47,20 @@ VImage toSpace(const VImage& image, VipsInterpretation space) {
   }
 }
 
-// Values that can be scaled as they are, so that colours need be converted only for the few pixels
-// of the result: 8 bits of any device, or what a profile speaks of.
+// Values of 8 bits, of whatever device, so that colours need be converted only for the few pixels
+// of the result. 16 bits go first: the colour engine is coarse with them, off by 20 of 255.
 VImage toScalable(const VImage& image) {
-  const bool isDevice = image.coding() == VIPS_CODING_NONE && image.format() == VIPS_FORMAT_UCHAR;
-  if (isDevice || hasProfile(image)) return image;
-  return toSpace(image, image.bands() < 3 ? VIPS_INTERPRETATION_B_W : VIPS_INTERPRETATION_sRGB);
+  const VipsInterpretation space = image.interpretation();
+  if (image.coding() == VIPS_CODING_NONE && image.format() == VIPS_FORMAT_UCHAR) return image;
+  if (space == VIPS_INTERPRETATION_CMYK && image.format() == VIPS_FORMAT_USHORT) {
+    return image.cast(VIPS_FORMAT_UCHAR, VImage::option()->set("shift", true));
+  }
+  VImage bytes =
+      toSpace(image, image.bands() < 3 ? VIPS_INTERPRETATION_B_W : VIPS_INTERPRETATION_sRGB);
+  const bool stillDevice =
+      space == VIPS_INTERPRETATION_RGB16 || space == VIPS_INTERPRETATION_GREY16;
+  if (!stillDevice) bytes = withoutProfile(bytes);
+  return bytes;
 }
 
 VImage resized(const VImage& image, QSize size) {
@@ -56,12 +77,12 @@ VImage resized(const VImage& image, QSize size) {
 
 VImage toSrgb(const VImage& image) {
   const bool inks = image.interpretation() == VIPS_INTERPRETATION_CMYK;
-  if (hasProfile(image)) {
+  if (const auto intent = profileIntent(image)) {
     try {
       return image.icc_transform("srgb", VImage::option()
                                              ->set("embedded", true)
                                              ->set("input_profile", inks ? "cmyk" : "srgb")
-                                             ->set("intent", VIPS_INTENT_RELATIVE)
+                                             ->set("intent", *intent)
                                              ->set("depth", 8));
     } catch (const vips::VError&) {  // a profile that can't be used is as none
     }
@@ -79,12 +100,12 @@ void stopWhenLate(VipsImage* image, VipsProgress*, QDeadlineTimer* deadline) {
 
 }  // namespace
 
-VImage render(VImage image, QSize size) {
+VImage render(const VImage& image, QSize size) {
   return withFourBandsAtMost(toSrgb(resized(toScalable(image), size)).cast(VIPS_FORMAT_UCHAR));
 }
 
-void limitTime(VImage& image) {
-  auto deadline = std::make_unique<QDeadlineTimer>(timeLimit);
+void limitTime(VImage& image, std::chrono::seconds time) {
+  auto deadline = std::make_unique<QDeadlineTimer>(time);
   VipsImage* raw = image.get_image();
   vips_image_set_progress(raw, TRUE);
   g_signal_connect_data(

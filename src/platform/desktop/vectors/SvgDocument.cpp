@@ -33,8 +33,9 @@ class SvgDocument : public VectorDocument {
  private:
   // Of a drawing that tells no size: as far as it reaches from its origin.
   std::optional<PointSize> inkSize() {
+    constexpr RsvgRectangle viewport{0, 0, 100, 100};
     RsvgRectangle ink;
-    if (!rsvg_handle_get_geometry_for_element(handle_, nullptr, &ink, nullptr, nullptr)) {
+    if (!rsvg_handle_get_geometry_for_layer(handle_, nullptr, &viewport, &ink, nullptr, nullptr)) {
       return std::nullopt;
     }
     return PointSize{ink.x + ink.width, ink.y + ink.height};

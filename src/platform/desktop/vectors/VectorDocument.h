@@ -2,11 +2,10 @@
 
 #include "platform/desktop/vectors/VectorProtocol.h"
 
+#include <cairo.h>
 #include <memory>
 #include <optional>
 #include <string_view>
-
-typedef struct _cairo cairo_t;
 
 namespace tarnloft {
 

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "entry/application/MediaServices.h"
+#include "platform/desktop/FreeTypeFonts.h"
+#include "platform/desktop/FreedesktopTrash.h"
+#include "platform/desktop/IniPreferences.h"
+#include "platform/desktop/MimeContentTypes.h"
+#include "platform/desktop/MimeDrops.h"
+#include "platform/desktop/PosixFileStore.h"
+#include "platform/desktop/QtDragSession.h"
+#include "platform/desktop/Syslog.h"
+#include "platform/desktop/ZipArchiver.h"
+#include "platform/desktop/window/DesktopAppearance.h"
+#include "platform/desktop/window/DesktopBeep.h"
+#include "platform/desktop/window/DesktopFileDialogs.h"
+#include "platform/desktop/window/DesktopFileViewer.h"
+#include "platform/desktop/window/DesktopPasteboard.h"
+#include "workspace/WorkspaceServices.h"
+
+#include <QThreadPool>
+
+namespace tarnloft {
+
+// What the windows' program uses of the desktop, each made once.
+struct DesktopServices {
+  PosixFileStore files;
+  Syslog log;
+  IniPreferences preferences;
+  IniPreferences state{stateFile()};  // what windows keep, which is nobody's preference
+  DesktopBeep beep;
+  FreedesktopTrash trash;
+  ZipArchiver archiver;
+  DesktopFileDialogs dialogs;
+  DesktopFileViewer viewer;
+  DesktopAppearance appearance;
+  DesktopPasteboard pasteboard;
+  MimeContentTypes types;
+  FreeTypeFonts fonts;
+  QtDragSession dragSession;
+  MediaServices media;
+  QThreadPool workers;  // of what is dropped; waited for before the others go
+  MimeDrops drops{workers};
+
+  LibraryServices forLibrary();
+  WorkspaceServices forWorkspace(LibraryStore& library);
+
+  // "tarnloft.ini" in the user's folder for state.
+  static QString stateFile();
+};
+
+}  // namespace tarnloft

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "assets/BackgroundWork.h"
+#include "assets/ThumbnailLoader.h"
+#include "entry/media/LateMedia.h"
+#include "sheets/Thumbnails.h"
+#include "workspace/Posters.h"
+
+namespace tarnloft {
+
+// Pictures and clips, and the one place that keeps their thumbnails. Nothing of it is loaded before
+// the first file is asked for.
+struct MediaServices {
+  LateImages images;
+  LateVideos videos;
+  BackgroundWork work;
+  ThumbnailLoader loader{images, work};
+  Thumbnails thumbnails{loader};
+  Posters posters{videos, work};
+
+  // The picture in TIFF, as a drag offers it; none if its pixels take more than so many bytes.
+  std::optional<QByteArray> tiff(const QString& path, qint64 maxBytes);
+};
+
+}  // namespace tarnloft

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+#include <array>
+
+namespace tarnloft {
+
+struct DesktopWord {
+  QStringView told;
+  QStringView here;
+};
+
+// What the interface's texts call a thing of another desktop, and the running desktop's word.
+inline constexpr std::array desktopWords{
+    DesktopWord{u"Reveal in Finder", u"Show in File Manager"},
+    DesktopWord{u"⌘Z", u"Ctrl+Z"},
+};
+
+// The text as it is shown here.
+inline QString inDesktopWords(QString text) {
+  for (const DesktopWord& word : desktopWords)
+    text.replace(word.told.toString(), word.here.toString());
+  return text;
+}
+
+}  // namespace tarnloft

@@ -1,0 +1,69 @@
+#include "platform/desktop/instance/RunningInstance.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QLocalSocket>
+#include <QStandardPaths>
+#include <QThread>
+
+namespace tarnloft {
+namespace {
+
+const QByteArray showRequest = QByteArrayLiteral("show\n");
+const QByteArray shownAnswer = QByteArrayLiteral("shown\n");
+constexpr int pause = 20;  // milliseconds between two tries
+
+}  // namespace
+
+RunningInstance::RunningInstance(const QString& folder)
+    : socketPath_(folder + QStringLiteral("/tarnloft.socket")),
+      lock_(folder + QStringLiteral("/tarnloft.lock")) {
+  lock_.setStaleLockTime(0);  // a living holder's lock is good however old it is
+  server_.setSocketOptions(QLocalServer::UserAccessOption);
+  connect(&server_, &QLocalServer::newConnection, this, &RunningInstance::answerNext);
+}
+
+RunningInstance::Start RunningInstance::claim(std::chrono::milliseconds patience) {
+  const QDeadlineTimer deadline(patience);
+  do {
+    if (lock_.tryLock(0)) return Start::first;
+    if (askToShow(deadline)) return Start::shown;
+    QThread::msleep(pause);  // it starts or ends just now
+  } while (!deadline.hasExpired());
+  return Start::noAnswer;
+}
+
+bool RunningInstance::askToShow(const QDeadlineTimer& deadline) const {
+  QLocalSocket socket;
+  socket.connectToServer(socketPath_);
+  if (!socket.waitForConnected(int(deadline.remainingTime()))) return false;
+  socket.write(showRequest);
+  QByteArray answer;
+  while (answer != shownAnswer) {
+    if (!socket.waitForReadyRead(int(deadline.remainingTime()))) return false;
+    answer += socket.readAll();
+  }
+  return true;
+}
+
+bool RunningInstance::listen() {
+  QLocalServer::removeServer(socketPath_);  // one that a crash has left; the lock is ours
+  return server_.listen(socketPath_);
+}
+
+void RunningInstance::answerNext() {
+  QLocalSocket* const socket = server_.nextPendingConnection();
+  connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
+  connect(socket, &QLocalSocket::readyRead, this, [this, socket] {
+    if (socket->bytesAvailable() < showRequest.size()) return;
+    if (socket->read(showRequest.size()) != showRequest) return socket->abort();
+    emit showRequested();
+    socket->write(shownAnswer);
+  });
+}
+
+QString RunningInstance::runtimeFolder() {
+  return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+}
+
+}  // namespace tarnloft

@@ -1,0 +1,48 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Controls
+import TarnLoft.Shell
+
+// What can be done with a brand of the sidebar as a whole.
+Menu {
+    id: root
+
+    required property Sidebar sidebar
+    property string packageURL: ""
+
+    function openFor(row: SidebarRow, x: real, y: real) {
+        packageURL = row.packageURL;
+        popup(row, x, y);
+    }
+
+    title: "Brand"
+
+    MenuItem {
+        text: "Rename…"
+        onTriggered: root.sidebar.beginRename(root.packageURL)
+    }
+    MenuItem {
+        text: "Duplicate"
+        onTriggered: root.sidebar.duplicate(root.packageURL)
+    }
+    MenuSeparator {}
+    MenuItem {
+        text: "Export Brand Page…"
+        onTriggered: root.sidebar.exportPage(root.packageURL)
+    }
+    MenuItem {
+        text: "Export Brand File…"
+        onTriggered: root.sidebar.exportFile(root.packageURL)
+    }
+    MenuItem {
+        text: root.sidebar.revealText
+        onTriggered: root.sidebar.reveal(root.packageURL)
+    }
+    MenuSeparator {}
+    MenuItem {
+        text: "Move to Trash"
+        destructive: true
+        onTriggered: root.sidebar.askDelete(root.packageURL)
+    }
+}

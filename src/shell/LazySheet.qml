@@ -1,0 +1,28 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Controls
+
+// A sheet that is made and opened when it is asked for, and gone when it has closed.
+//   LazySheet { active: model.asking; RenameSheet { … onClosed: model.end() } }
+Item {
+    id: root
+
+    required property bool active
+    default required property Component sheet
+
+    property Sheet opened: null
+
+    function follow() {
+        if (active && !opened) {
+            opened = sheet.createObject(root) as Sheet;
+            opened.open();
+        } else if (!active && opened) {
+            opened.destroy();
+            opened = null;
+        }
+    }
+
+    onActiveChanged: follow()
+    Component.onCompleted: follow()
+}

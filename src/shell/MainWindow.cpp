@@ -1,0 +1,114 @@
+#include "shell/MainWindow.h"
+
+#include "platform/controls/Theme.h"
+
+#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QQuickWindow>
+#include <QScreen>
+
+namespace tarnloft {
+namespace {
+
+// Properties of the window.
+const auto initialSidebarWidth = QStringLiteral("initialSidebarWidth");
+constexpr auto sidebarWidth = "sidebarWidth";
+
+QList<QRect> screenRooms() {
+  QList<QRect> rooms;
+  for (const QScreen* screen : QGuiApplication::screens()) rooms << screen->availableGeometry();
+  return rooms;
+}
+
+}  // namespace
+
+MainWindow::MainWindow(QQmlEngine& engine, const LibraryServices& libraryServices,
+                       const WorkspaceServices& services, Preferences& state)
+    : engine_(engine), libraryServices_(libraryServices), services_(services), state_(state) {
+  settled_.setSingleShot(true);
+  settled_.setInterval(400);
+  connect(&settled_, &QTimer::timeout, this, &MainWindow::remember);
+  connect(&Theme::of(engine), &Theme::changed, this, &MainWindow::followAppearance);
+}
+
+MainWindow::~MainWindow() = default;
+
+bool MainWindow::show() {
+  if (!window_ && !open()) return false;
+  if (window_->windowStates() & Qt::WindowMinimized) window_->showNormal();
+  window_->show();
+  window_->raise();
+  window_->requestActivate();
+  return true;
+}
+
+bool MainWindow::open() {
+  const QUrl url(QStringLiteral("qrc:/qt-project.org/imports/TarnLoft/Shell/MainWindow.qml"));
+  QQmlComponent component(&engine_, url);
+  const WindowState state = WindowState::read(state_).fitting(screenRooms());
+  auto content = std::make_unique<ContentModel>(libraryServices_, services_);
+  std::unique_ptr<QObject> made(component.createWithInitialProperties(
+      {{QStringLiteral("content"), QVariant::fromValue(content.get())},
+       {initialSidebarWidth, state.sidebarWidth}}));
+  window_.reset(qobject_cast<QQuickWindow*>(made.release()));
+  if (!window_) {
+    qCritical("%s", qPrintable(component.errorString()));
+    return false;
+  }
+  content_ = std::move(content);
+  followAppearance();
+  place(state);
+  window_->installEventFilter(this);
+  return true;
+}
+
+void MainWindow::place(const WindowState& state) {
+  window_->setMinimumSize(WindowState::minimumSize);
+  window_->resize(state.size);
+  if (state.position) window_->setFramePosition(*state.position);
+  if (state.maximized == Maximized::yes) window_->setWindowStates(Qt::WindowMaximized);
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::WindowStateChange: settled_.start(); break;
+    case QEvent::Close:
+      remember();  // a hidden window has no frame
+      // Behind the event's own handling, which still uses the window.
+      QMetaObject::invokeMethod(this, &MainWindow::close, Qt::QueuedConnection);
+      break;
+    default: break;
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+// The size of a maximised window is the screen's; the one that it returns to was kept before.
+void MainWindow::remember() {
+  if (!window_ || window_->windowStates() & Qt::WindowMinimized) return;
+  WindowState state = WindowState::read(state_);
+  state.sidebarWidth = window_->property(sidebarWidth).toDouble();
+  state.maximized = window_->windowStates() & Qt::WindowMaximized ? Maximized::yes : Maximized::no;
+  if (window_->windowStates() == Qt::WindowNoState) {
+    state.position = window_->framePosition();
+    state.size = window_->size();
+  }
+  state.write(state_);
+}
+
+void MainWindow::followAppearance() {
+  if (!content_) return;
+  content_->sidebar()->rows()->setAppearance(
+      Theme::of(engine_).isDark() ? ColorUtil::Appearance::dark : ColorUtil::Appearance::light);
+}
+
+void MainWindow::close() {
+  if (!window_ || window_->isVisible()) return;
+  settled_.stop();
+  window_.reset();
+  content_.reset();
+  emit closed();
+}
+
+}  // namespace tarnloft

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "shell/ContentModel.h"
+#include "shell/WindowState.h"
+
+#include <QTimer>
+
+class QQmlEngine;
+class QQuickWindow;
+
+namespace tarnloft {
+
+// The one main window of the program, as often as it is opened and closed. Keeps its place, its
+// size and the sidebar's width. Main thread.
+class MainWindow : public QObject {
+  Q_OBJECT
+
+ public:
+  // Borrowed: all outlive this. `state` holds what the window keeps.
+  MainWindow(QQmlEngine& engine, const LibraryServices& libraryServices,
+             const WorkspaceServices& services, Preferences& state);
+  ~MainWindow() override;
+  Q_DISABLE_COPY_MOVE(MainWindow)
+
+  // Opens the window, or brings the open one to the front. False if its views can't be made, which
+  // a broken installation alone explains.
+  bool show();
+  // Null while it is closed.
+  QQuickWindow* window() const { return window_.get(); }
+
+ signals:
+  void closed();
+
+ private:
+  bool open();
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void place(const WindowState& state);
+  void remember();
+  void followAppearance();
+  void close();
+
+  QQmlEngine& engine_;
+  const LibraryServices libraryServices_;
+  const WorkspaceServices services_;
+  Preferences& state_;
+  std::unique_ptr<ContentModel> content_;
+  std::unique_ptr<QQuickWindow> window_;
+  QTimer settled_;  // a moment after the last change of the window's place
+};
+
+}  // namespace tarnloft

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "library/LibraryStore.h"
+
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+namespace tarnloft {
+
+// What the window's menus carry out on the library.
+class ShellCommands : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("Each window has one")
+  // What the entries that work on the selected brand are enabled by.
+  Q_PROPERTY(bool hasSelection READ hasSelection NOTIFY hasSelectionChanged)
+
+ public:
+  // Borrowed: the library and all of the services outlive the commands.
+  ShellCommands(LibraryStore& library, const LibraryServices& services, QObject* parent = nullptr);
+
+  bool hasSelection() const { return library_.selection().has_value(); }
+
+  Q_INVOKABLE void newBrand() { library_.setNewBrandRequested(true); }
+  Q_INVOKABLE void importBrand() { library_.importBrand(); }
+  Q_INVOKABLE void exportBrand() { library_.exportSelectedBrand(); }
+  // Nothing happens while no document is open.
+  Q_INVOKABLE void exportBrandPage();
+  Q_INVOKABLE void pickColorFromScreen() { library_.pickColorFromScreen(); }
+
+ signals:
+  void hasSelectionChanged();
+
+ private:
+  LibraryStore& library_;
+  const LibraryServices services_;
+};
+
+}  // namespace tarnloft

@@ -1,0 +1,111 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import TarnLoft.Controls
+import TarnLoft.Sheets
+import TarnLoft.Shell
+
+// The brands and the open one's sections. One stop of the Tab key: arrows go from row to row, Return
+// opens, F2 renames, Delete asks, Alt and the arrows move a brand, the Menu key opens its menu.
+ListView {
+    id: root
+
+    required property Sidebar sidebar
+    required property Thumbnails thumbnails
+    readonly property int endStrip: 14 // behind the last row, for what is dragged to the end
+    readonly property SidebarRow current: currentItem as SidebarRow
+
+    signal rowDragged(row: SidebarRow, point: point)
+    signal rowDropped
+
+    property BrandMenu menu: null // made at its first opening
+
+    function openMenu(row: SidebarRow, x: real, y: real) {
+        if (!menu)
+            menu = menuComponent.createObject(root) as BrandMenu;
+        menu.openFor(row, x, y);
+    }
+
+    function onBrand(act: var) {
+        if (current && current.isBrand)
+            act(current);
+    }
+
+    model: sidebar.rows
+    clip: true
+    activeFocusOnTab: true
+    highlightFollowsCurrentItem: false
+    keyNavigationEnabled: true
+    bottomMargin: endStrip
+    boundsBehavior: Flickable.StopAtBounds
+    currentIndex: sidebar.rows.selectedRow()
+    onActiveFocusChanged: {
+        if (activeFocus && FocusOrigin.keyboard)
+            currentIndex = sidebar.rows.selectedRow();
+    }
+    Accessible.role: Accessible.List
+    Accessible.name: "Brands"
+
+    delegate: SidebarRow {
+        width: ListView.view.width
+        sidebar: root.sidebar
+        thumbnails: root.thumbnails
+        focused: ListView.isCurrentItem && root.activeFocus && FocusOrigin.keyboard
+        settling: settled.running
+        onPressed: {
+            root.currentIndex = index;
+            root.forceActiveFocus(Qt.MouseFocusReason);
+        }
+        onMenuRequested: (x, y) => root.openMenu(this, x, y)
+        onDragged: (x, y) => root.rowDragged(this, mapToItem(root, x, y))
+        onDropped: root.rowDropped()
+    }
+
+    T.ScrollBar.vertical: ScrollBar {}
+
+    Timer {
+        id: settled
+
+        interval: 600
+    }
+
+    Connections {
+        target: root.sidebar
+
+        function onMoved() {
+            settled.restart();
+        }
+    }
+
+    WheelScroll {
+        flickable: root
+    }
+
+    Component {
+        id: menuComponent
+
+        BrandMenu {
+            sidebar: root.sidebar
+        }
+    }
+
+    Keys.onReturnPressed: current?.activate()
+    Keys.onEnterPressed: current?.activate()
+    Keys.onSpacePressed: current?.activate()
+    Keys.onDeletePressed: onBrand(row => root.sidebar.askDelete(row.packageURL))
+    Keys.onMenuPressed: onBrand(row => root.openMenu(row, row.width / 2, row.height / 2))
+    Keys.onPressed: event => {
+        if (event.key === Qt.Key_F2)
+            onBrand(row => root.sidebar.beginRename(row.packageURL));
+        else if (event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier)
+            onBrand(row => root.openMenu(row, row.width / 2, row.height / 2));
+        else if (event.modifiers & Qt.AltModifier && event.key === Qt.Key_Up)
+            onBrand(row => root.sidebar.moveUp(row.rowID));
+        else if (event.modifiers & Qt.AltModifier && event.key === Qt.Key_Down)
+            onBrand(row => root.sidebar.moveDown(row.rowID));
+        else
+            return;
+        event.accepted = true;
+    }
+}

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "library/LibraryStore.h"
+#include "sheets/EmblemLook.h"
+
+#include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
+
+namespace tarnloft {
+
+// The rows of the sidebar: the library's brands in its order, and behind the open one its sections.
+// Follows the library once per turn of the event loop, with the fewest signals that lead from the
+// old rows to the new ones.
+class SidebarModel : public QAbstractListModel {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("The sidebar has one")
+
+ public:
+  enum class Kind { brand, section };
+  Q_ENUM(Kind)
+
+  enum Role {
+    kind = Qt::UserRole,  // Kind
+    rowID,                // text: the brand's or the section's id
+    packageURL,           // text: of the row's brand
+    name,                 // text: never empty
+    look,                 // EmblemLook: the brand's or the section's
+    marked,               // bool: false if the user wants no mark on it
+    selected              // bool: the row is the selected brand's own
+  };
+  Q_ENUM(Role)
+
+  struct Row {
+    QUuid id;
+    Kind kind = Kind::brand;
+    QString packageURL;
+    QString name;
+    EmblemLook look;
+    bool marked = true;
+    bool selected = false;
+
+    bool operator==(const Row&) const = default;
+  };
+
+  // Both outlive the model.
+  SidebarModel(LibraryStore& library, const FileStore& files, QObject* parent = nullptr);
+
+  // The look whose accents the brands' marks take; light at first.
+  void setAppearance(ColorUtil::Appearance appearance);
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  QHash<int, QByteArray> roleNames() const override;
+
+  const QList<Row>& rows() const { return rows_; }
+  // Position of the selected brand's row, or -1.
+  Q_INVOKABLE int selectedRow() const;
+
+ private:
+  void scheduleUpdate();
+  void update();
+  void apply(const QList<Row>& rows);
+  QList<Row> wantedRows() const;
+  Row brandRow(const BrandSummary& brand) const;
+  Row sectionRow(const Section& section, const QString& package) const;
+
+  LibraryStore& library_;
+  const FileStore& files_;
+  ColorUtil::Appearance appearance_ = ColorUtil::Appearance::light;
+  QList<Row> rows_;
+  bool updateScheduled_ = false;
+};
+
+}  // namespace tarnloft

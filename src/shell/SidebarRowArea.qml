@@ -1,0 +1,64 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Controls
+import TarnLoft.Sheets
+
+// The pointer on a row of the sidebar: a click opens it, a drag from its handle moves it, a right
+// click asks for its menu.
+MouseArea {
+    id: root
+
+    required property real handleEnd // the handle lies in front of it; 0 for a row that stays
+
+    readonly property bool overHandle: containsMouse && mouseX < handleEnd
+    property bool dragging: false
+    property point start
+
+    signal activated
+    signal menuRequested(x: real, y: real)
+    signal dragged(x: real, y: real)
+    signal dropped
+
+    function endDrag() {
+        if (!dragging)
+            return;
+        dragging = false;
+        dropped();
+    }
+
+    hoverEnabled: true
+    preventStealing: true
+    acceptedButtons: Qt.LeftButton | Qt.RightButton
+    cursorShape: dragging ? Qt.ClosedHandCursor : overHandle ? Qt.OpenHandCursor : Qt.ArrowCursor
+
+    onPressed: mouse => {
+        start = Qt.point(mouse.x, mouse.y);
+        if (mouse.button === Qt.RightButton)
+            menuRequested(mouse.x, mouse.y);
+    }
+    onPositionChanged: mouse => {
+        if (!(pressedButtons & Qt.LeftButton) || start.x >= handleEnd)
+            return;
+        if (Math.hypot(mouse.x - start.x, mouse.y - start.y) > Application.styleHints.startDragDistance)
+            dragging = true;
+        if (dragging)
+            dragged(mouse.x, mouse.y);
+    }
+    onReleased: endDrag()
+    onCanceled: endDrag()
+    onClicked: mouse => {
+        if (mouse.button === Qt.LeftButton)
+            activated();
+    }
+
+    LazyItem {
+        width: root.handleEnd
+        height: root.height
+        active: root.overHandle && !root.dragging
+        sourceComponent: Help {
+            text: "Drag to reorder"
+            shown: true
+        }
+    }
+}

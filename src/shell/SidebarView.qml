@@ -1,0 +1,115 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Controls
+import TarnLoft.Sheets
+import TarnLoft.Shell
+
+// The left column: the window's menus, the brands, and the button that makes one.
+Rectangle {
+    id: root
+
+    required property Sidebar sidebar
+    required property Thumbnails thumbnails
+    required property Component header
+
+    signal newBrandRequested
+
+    color: Theme.sidebarBackground
+
+    Item {
+        id: top
+
+        width: parent.width
+        height: 44
+    }
+
+    LazyItem {
+        x: 2
+        anchors.verticalCenter: top.verticalCenter
+        sourceComponent: root.header
+    }
+
+    Label {
+        id: heading
+
+        anchors.top: top.bottom
+        width: parent.width
+        height: 26
+        leftPadding: 16
+        text: "Brands"
+        font: Theme.font(11, Font.DemiBold)
+        color: Theme.secondaryLabel
+        verticalAlignment: Text.AlignVCenter
+    }
+
+    SidebarList {
+        id: list
+
+        anchors.top: heading.bottom
+        anchors.bottom: foot.top
+        width: parent.width
+        sidebar: root.sidebar
+        thumbnails: root.thumbnails
+        onRowDragged: (row, point) => drag.moveTo(row, point)
+        onRowDropped: root.sidebar.endDrag()
+    }
+
+    SidebarDrag {
+        id: drag
+
+        anchors.fill: list
+        list: list
+        sidebar: root.sidebar
+    }
+
+    Divider {
+        anchors.bottom: foot.top
+        width: parent.width
+        visible: list.contentHeight > list.height
+    }
+
+    Item {
+        id: foot
+
+        anchors.bottom: parent.bottom
+        width: parent.width
+        height: newBrand.height + 20
+
+        Button {
+            id: newBrand
+
+            x: 10
+            anchors.verticalCenter: parent.verticalCenter
+            symbol: "plus"
+            text: "New Brand"
+            kind: Button.Borderless
+            tint: Theme.secondaryLabel
+            onClicked: root.newBrandRequested()
+        }
+    }
+
+    LazySheet {
+        active: root.sidebar.renaming
+
+        RenameSheet {
+            title: "Rename Brand"
+            text: root.sidebar.renameText
+            onSave: name => root.sidebar.commitRename(name)
+            onClosed: root.sidebar.endRename()
+        }
+    }
+
+    LazySheet {
+        active: root.sidebar.deleting
+
+        ConfirmationDialog {
+            title: root.sidebar.deleteTitle
+            message: "The brand file goes to the Trash. You can restore it from there."
+            confirmText: "Move to Trash"
+            destructive: true
+            onConfirmed: root.sidebar.confirmDelete()
+            onClosed: root.sidebar.endDelete()
+        }
+    }
+}

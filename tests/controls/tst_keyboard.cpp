@@ -1,0 +1,302 @@
+#include "Stage.h"
+
+#include <QGuiApplication>
+
+Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
+
+using namespace tarnloft;
+
+// Every control by keyboard alone, and where the focus goes.
+class TestKeyboard : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void initTestCase() { prepareTypography(); }
+  void keysDo_data();
+  void keysDo();
+  void theRingShowsForTheKeyboardAlone();
+  void aFieldEnteredByTabIsSelected();
+  void aSheetKeepsTheFocusAndGivesItBack();
+  void aSheetAnswersReturnAndEscape_data();
+  void aSheetAnswersReturnAndEscape();
+  void aDialogAnswersOnce_data();
+  void aDialogAnswersOnce();
+  void aMenuGoesByArrowsAndLetters_data();
+  void aMenuGoesByArrowsAndLetters();
+  void aSubMenuOpensByArrows();
+  void aMenuGivesTheFocusBack();
+  void theMenuBarOpensByF10();
+  void aPopoverGivesTheFocusBack();
+  void aSheetOpenedFromAMenuGivesTheFocusBack();
+  void disabledControlsAreSkipped();
+  void anAmpersandIsALetter();
+};
+
+void TestKeyboard::keysDo_data() {
+  QTest::addColumn<QString>("qml");
+  QTest::addColumn<QList<int>>("keys");
+  QTest::addColumn<QString>("log");
+  const auto row = [](const char* name, const char* qml, QList<int> keys, const char* log) {
+    QTest::newRow(name) << QString::fromUtf8(qml) << keys << QString::fromUtf8(log);
+  };
+  using namespace Qt;
+  for (const int key : {Key_Space, Key_Return, Key_Enter}) {
+    row("button", "Button { text: 'A'; onClicked: log('clicked') }", {Key_Tab, key}, "clicked");
+    row("checkable button", "Button { text: 'A'; checkable: true; onClicked: log(checked) }",
+        {Key_Tab, key}, "true");
+    row("switch", "Switch { accessibleName: 'A'; onToggled: log(checked) }", {Key_Tab, key, key},
+        "true false");
+    row("check box", "CheckBox { text: 'A'; onToggled: log(checked) }", {Key_Tab, key, key},
+        "true false");
+    row("row", "ListRow { text: 'A'; onClicked: log('chosen') }", {Key_Tab, key}, "chosen");
+    row("selection mark", "SelectionMark { onClicked: log('clicked') }", {Key_Tab, key}, "clicked");
+    row("pop-up picker",
+        "PopUpPicker { options: [PickerOption { text: 'A' }, PickerOption { text: 'B' }]\n"
+        "  onActivated: index => log(index) }",
+        {Key_Tab, key, Key_Down, key}, "1");
+    row("menu button",
+        "MenuButton { text: 'A'; menu: Menu { MenuItem { text: 'B'; onTriggered: log('B') } } }",
+        {Key_Tab, key, Key_Down, key}, "B");
+  }
+  row("segmented picker",
+      "SegmentedPicker { options: [PickerOption { text: 'A' }, PickerOption { text: 'B' }]\n"
+      "  onActivated: index => { log(index); currentIndex = index } }",
+      {Key_Tab, Key_Left, Key_Right, Key_Right, Key_Left}, "1 0");
+  row("slider", "Slider { accessibleName: 'A'; stepSize: 0.25; value: 0.5; onMoved: log(value) }",
+      {Key_Tab, Key_Right, Key_Left, Key_Left}, "0.75 0.5 0.25");
+  row("shades",
+      "ShadeField { width: 99; hue: 0; saturation: 0.5; brightness: 0.9\n"
+      "  onMoved: (s, b) => log(s.toFixed(2) + '/' + b.toFixed(2)) }",
+      {Key_Tab, Key_Right, Key_Up}, "0.51/0.90 0.50/0.91");
+  row("scopes",
+      "ScopeBar { options: [PickerOption { text: 'A' }, PickerOption { text: 'B' }]\n"
+      "  onActivated: index => log(index) }",
+      {Key_Tab, Key_Space, Key_Tab, Key_Space}, "1");
+  row("field", "TextField { onAccepted: log(text) }", {Key_Tab, Key_A, Key_Return}, "a");
+  row("search", "SearchField { onTextEdited: log(text || 'cleared') }",
+      {Key_Tab, Key_A, Key_Escape, Key_Escape}, "a cleared");
+  row("text area is left by Tab",
+      "Column { TextArea { onEdited: log(text) }\nButton { text: 'A'; onClicked: log('clicked') } "
+      "}",
+      {Key_Tab, Key_A, Key_Tab, Key_Space}, "a clicked");
+}
+
+void TestKeyboard::keysDo() {
+  QFETCH(QString, qml);
+  QFETCH(QList<int>, keys);
+  QFETCH(QString, log);
+  Stage stage(qml);
+  QVERIFY(stage.ready());
+  for (const int key : keys) stage.press(key);
+  QTRY_COMPARE(stage.log(), log);
+}
+
+void TestKeyboard::theRingShowsForTheKeyboardAlone() {
+  Stage stage(
+      "Row { TextField { objectName: 'field'; focus: true }\n"
+      "Button { objectName: 'button'; text: 'A'; onClicked: log('clicked') } }");
+  auto* button = stage.find<QQuickItem>("button");
+  stage.click(button);
+  QCOMPARE(stage.log(), QStringLiteral("clicked"));
+  QVERIFY(!button->property("visualFocus").toBool());
+  QCOMPARE(stage.focused(), QStringLiteral("field"));  // a click leaves the focus where it was
+  stage.press(Qt::Key_Tab);
+  QVERIFY(button->property("visualFocus").toBool());
+}
+
+void TestKeyboard::aFieldEnteredByTabIsSelected() {
+  Stage stage("TextField { objectName: 'field'; text: 'Acme' }");
+  stage.press(Qt::Key_Tab);
+  QCOMPARE(stage.find("field")->property("selectedText").toString(), QStringLiteral("Acme"));
+}
+
+static const QString sheet = QStringLiteral(R"(
+  Button { objectName: 'opener'; text: 'Open'; onClicked: naming.open() }
+  Sheet {
+    id: naming; objectName: 'sheet'; accessibleName: 'New Brand'
+    defaultButton: create; cancelButton: cancel
+    onClosed: log('closed')
+    Column {
+      TextField { objectName: 'name'; focus: true; placeholderText: 'Name'; onAccepted: log('accepted') }
+      Button { id: cancel; objectName: 'cancel'; text: 'Cancel'; onClicked: { log('cancel'); naming.close() } }
+      Button { id: create; objectName: 'create'; text: 'Create'; onClicked: { log('create'); naming.close() } }
+    }
+  })");
+
+void TestKeyboard::aSheetKeepsTheFocusAndGivesItBack() {
+  Stage stage(sheet);
+  stage.press(Qt::Key_Tab);
+  QCOMPARE(stage.focused(), QStringLiteral("opener"));
+  stage.press(Qt::Key_Space);
+  QTRY_COMPARE(stage.focused(), QStringLiteral("name"));
+  for (const char* next : {"cancel", "create", "name", "cancel"}) {
+    stage.press(Qt::Key_Tab);
+    QCOMPARE(stage.focused(), QString::fromLatin1(next));
+  }
+  stage.press(Qt::Key_Backtab, Qt::ShiftModifier);
+  stage.press(Qt::Key_Backtab, Qt::ShiftModifier);
+  QCOMPARE(stage.focused(), QStringLiteral("create"));
+  stage.press(Qt::Key_Escape);
+  QTRY_COMPARE(stage.focused(), QStringLiteral("opener"));
+}
+
+void TestKeyboard::aSheetAnswersReturnAndEscape_data() {
+  QTest::addColumn<QList<int>>("keys");
+  QTest::addColumn<QString>("log");
+  QTest::newRow("return in the field") << QList<int>{Qt::Key_Return} << "accepted create closed";
+  QTest::newRow("escape") << QList<int>{Qt::Key_Escape} << "cancel closed";
+  QTest::newRow("return on cancel") << QList<int>{Qt::Key_Tab, Qt::Key_Return} << "cancel closed";
+  QTest::newRow("space on create")
+      << QList<int>{Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Space} << "create closed";
+}
+
+void TestKeyboard::aSheetAnswersReturnAndEscape() {
+  QFETCH(QList<int>, keys);
+  QFETCH(QString, log);
+  Stage stage(sheet);
+  stage.press(Qt::Key_Tab);
+  stage.press(Qt::Key_Space);
+  QTRY_COMPARE(stage.focused(), QStringLiteral("name"));
+  for (const int key : keys) stage.press(key);
+  QTRY_COMPARE(stage.log(), log);
+}
+
+void TestKeyboard::aDialogAnswersOnce_data() {
+  QTest::addColumn<int>("key");
+  QTest::addColumn<QString>("log");
+  QTest::newRow("return confirms") << int(Qt::Key_Return) << "confirmed";
+  QTest::newRow("escape dismisses") << int(Qt::Key_Escape) << "dismissed";
+}
+
+void TestKeyboard::aDialogAnswersOnce() {
+  QFETCH(int, key);
+  QFETCH(QString, log);
+  Stage stage(
+      "ConfirmationDialog { objectName: 'dialog'; title: 'Really?'; destructive: true\n"
+      "  onConfirmed: log('confirmed'); onDismissed: log('dismissed') }");
+  for (const QString& sofar : {log, log + ' ' + log}) {
+    QMetaObject::invokeMethod(stage.find("dialog"), "open");
+    QTRY_VERIFY(stage.find("dialog")->property("opened").toBool());
+    stage.press(key);
+    QTRY_COMPARE(stage.log(), sofar);
+  }
+}
+
+static const QString menus = QStringLiteral(R"(
+  Button { objectName: 'opener'; text: 'Open'; onClicked: menu.popup(0, 30) }
+  Menu {
+    id: menu; objectName: 'menu'
+    MenuItem { text: 'Duplicate'; onTriggered: log(text) }
+    MenuSeparator {}
+    MenuTitle { text: 'Move' }
+    MenuItem { text: 'Delete'; onTriggered: log(text) }
+    Menu { title: 'Background'; MenuItem { text: 'White'; onTriggered: log(text) } MenuItem { text: 'Dark'; onTriggered: log(text) } }
+  })");
+
+void TestKeyboard::aMenuGoesByArrowsAndLetters_data() {
+  QTest::addColumn<QList<int>>("keys");
+  QTest::addColumn<QString>("log");
+  using namespace Qt;
+  QTest::newRow("down") << QList<int>{Key_Down, Key_Return} << "Duplicate";
+  QTest::newRow("past what tells") << QList<int>{Key_Down, Key_Down, Key_Return} << "Delete";
+  QTest::newRow("back up") << QList<int>{Key_Down, Key_Down, Key_Up, Key_Return} << "Duplicate";
+  QTest::newRow("second of a letter") << QList<int>{Key_D, Key_D, Key_Return} << "Delete";
+  QTest::newRow("space") << QList<int>{Key_D, Key_Space} << "Duplicate";
+}
+
+void TestKeyboard::aMenuGoesByArrowsAndLetters() {
+  QFETCH(QList<int>, keys);
+  QFETCH(QString, log);
+  Stage stage(menus);
+  stage.press(Qt::Key_Tab);
+  stage.press(Qt::Key_Space);
+  QTRY_VERIFY(stage.find("menu")->property("opened").toBool());
+  for (const int key : keys) stage.press(key);
+  QTRY_COMPARE(stage.log(), log);
+}
+
+void TestKeyboard::aSubMenuOpensByArrows() {
+  Stage stage(menus);
+  stage.press(Qt::Key_Tab);
+  stage.press(Qt::Key_Space);
+  QTRY_VERIFY(stage.find("menu")->property("opened").toBool());
+  stage.press(Qt::Key_B);
+  stage.press(Qt::Key_Right);
+  QTest::qWait(150);
+  stage.press(Qt::Key_Down);
+  stage.press(Qt::Key_Return);
+  QTRY_COMPARE(stage.log(), QStringLiteral("Dark"));
+}
+
+void TestKeyboard::theMenuBarOpensByF10() {
+  Stage stage(
+      "MenuBar { Menu { title: 'File'; MenuItem { text: 'New'; onTriggered: log(text) } }\n"
+      "Menu { title: 'Edit'; MenuItem { text: 'Undo'; onTriggered: log(text) }\n"
+      "MenuItem { text: 'Redo'; onTriggered: log(text) } } }");
+  stage.press(Qt::Key_F10);
+  QTest::qWait(150);
+  stage.press(Qt::Key_Right);
+  QTest::qWait(150);
+  stage.press(Qt::Key_Down);
+  stage.press(Qt::Key_Down);
+  stage.press(Qt::Key_Return);
+  QTRY_COMPARE(stage.log(), QStringLiteral("Redo"));
+}
+
+void TestKeyboard::aMenuGivesTheFocusBack() {
+  Stage stage(menus);
+  stage.press(Qt::Key_Tab);
+  stage.press(Qt::Key_Space);
+  QTRY_VERIFY(stage.find("menu")->property("opened").toBool());
+  stage.press(Qt::Key_Escape);
+  QTRY_COMPARE(stage.focused(), QStringLiteral("opener"));
+}
+
+void TestKeyboard::aPopoverGivesTheFocusBack() {
+  Stage stage(
+      "ColorWell { objectName: 'well'; accessibleName: 'Tint'; color: '#336699'\n"
+      "  onPicked: color => log(color) }");
+  stage.press(Qt::Key_Tab);
+  stage.press(Qt::Key_Space);
+  QTRY_VERIFY(stage.focused() != QStringLiteral("well"));
+  stage.press(Qt::Key_Right, Qt::ShiftModifier);
+  QTRY_VERIFY(!stage.log().isEmpty());
+  stage.press(Qt::Key_Escape);
+  QTRY_COMPARE(stage.focused(), QStringLiteral("well"));
+}
+
+void TestKeyboard::aSheetOpenedFromAMenuGivesTheFocusBack() {
+  Stage stage(
+      "MenuButton { objectName: 'opener'; text: 'A'\n"
+      "  menu: Menu { MenuItem { text: 'Rename'; onTriggered: naming.open() } } }\n"
+      "Sheet { id: naming; TextField { objectName: 'name'; focus: true } }");
+  stage.press(Qt::Key_Tab);
+  stage.press(Qt::Key_Space);
+  QTest::qWait(200);
+  stage.press(Qt::Key_Down);
+  stage.press(Qt::Key_Return);
+  QTRY_COMPARE(stage.focused(), QStringLiteral("name"));
+  QTest::qWait(400);  // the menu has gone by now, and leaves the sheet its focus
+  QCOMPARE(stage.focused(), QStringLiteral("name"));
+  stage.press(Qt::Key_Escape);
+  QTRY_COMPARE(stage.focused(), QStringLiteral("opener"));
+}
+
+void TestKeyboard::disabledControlsAreSkipped() {
+  Stage stage(
+      "Row { Button { text: 'A'; enabled: false; objectName: 'off' }\n"
+      "SegmentedPicker { enabled: false; objectName: 'off too' }\n"
+      "Button { text: 'B'; objectName: 'on' } }");
+  stage.press(Qt::Key_Tab);
+  QCOMPARE(stage.focused(), QStringLiteral("on"));
+}
+
+void TestKeyboard::anAmpersandIsALetter() {
+  Stage stage("ListRow { text: 'R&D'; onClicked: log('pressed') }");
+  stage.press(Qt::Key_D, Qt::AltModifier);
+  QTest::qWait(50);
+  QCOMPARE(stage.log(), QString());
+}
+
+QTEST_MAIN(TestKeyboard)
+#include "tst_keyboard.moc"

@@ -1,0 +1,169 @@
+#include "Stage.h"
+
+#include <QGuiApplication>
+#include <QWheelEvent>
+
+Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
+
+using namespace tarnloft;
+
+// Wheel, hover and clicks.
+class TestPointer : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void aNotchGlides();
+  void aTouchpadMovesByPixels();
+  void theWheelGoesOnAtTheEnd();
+  void aDragOfTheMouseScrollsNothing();
+  void focusIsScrolledIntoView();
+  void helpComesAfterAWhile();
+  void aRightClickOpensTheContextMenu();
+  void aClickOutsideLeavesASheet();
+  void aToastComesAndGoes();
+  void aClickChoosesASegment();
+  void theColorPanelRemembersTheHueOfGrey();
+};
+
+namespace {
+
+const QString area = QStringLiteral(
+    "ScrollArea { objectName: 'area'; width: 200; height: 100\n"
+    "  Column { Repeater { model: 10; Button { required property int index; height: 50\n"
+    "    text: 'B' + index; objectName: text; onClicked: log(text) } } } }");
+
+void wheel(Stage& stage, const QPoint& pixels, int notches) {
+  const QPointF place(100, 50);
+  QWheelEvent event(place, stage.window()->mapToGlobal(place), pixels, QPoint(0, notches * 120),
+                    Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  QCoreApplication::sendEvent(stage.window(), &event);
+}
+
+qreal scrolled(const Stage& stage) { return stage.find("area")->property("contentY").toReal(); }
+
+}  // namespace
+
+void TestPointer::aNotchGlides() {
+  Stage stage(area);
+  wheel(stage, {}, -1);
+  QVERIFY(scrolled(stage) < 84);
+  wheel(stage, {}, -1);
+  QTRY_COMPARE(scrolled(stage), 168.0);
+  wheel(stage, {}, 20);
+  QTRY_COMPARE(scrolled(stage), 0.0);
+}
+
+void TestPointer::aTouchpadMovesByPixels() {
+  Stage stage(area);
+  wheel(stage, {0, -13}, 0);
+  QCOMPARE(scrolled(stage), 13.0);
+  wheel(stage, {0, -4000}, 0);
+  QCOMPARE(scrolled(stage), 400.0);
+}
+
+void TestPointer::theWheelGoesOnAtTheEnd() {
+  Stage stage(
+      QStringLiteral("ScrollArea { objectName: 'area'; width: 200; height: 100\n"
+                     "  Column { TextEditor { width: 200; height: 100; text: 'a\\nb' } Item { "
+                     "width: 9; height: 300 } } }"));
+  wheel(stage, {0, -30}, 0);
+  QCOMPARE(scrolled(stage), 30.0);
+}
+
+void TestPointer::aDragOfTheMouseScrollsNothing() {
+  Stage stage(area);
+  QTest::mousePress(stage.window(), Qt::LeftButton, {}, {150, 90});
+  for (int y = 85; y > 10; y -= 5) QTest::mouseMove(stage.window(), {150, y});
+  QTest::mouseRelease(stage.window(), Qt::LeftButton, {}, {150, 10});
+  QCOMPARE(scrolled(stage), 0.0);
+}
+
+void TestPointer::focusIsScrolledIntoView() {
+  Stage stage(area);
+  for (int i = 0; i < 6; ++i) stage.press(Qt::Key_Tab);
+  QCOMPARE(stage.focused(), QStringLiteral("B5"));
+  QVERIFY(scrolled(stage) >= 200);
+  for (int i = 0; i < 5; ++i) stage.press(Qt::Key_Backtab, Qt::ShiftModifier);
+  QCOMPARE(scrolled(stage), 0.0);
+}
+
+void TestPointer::helpComesAfterAWhile() {
+  Stage stage(
+      QStringLiteral("Rectangle { width: 50; height: 50; Help { objectName: 'help'; delay: 10\n"
+                     "  text: 'Drag to reorder' } }"));
+  const auto shown = [&stage] {
+    return stage.find("help")->property("tip").value<QObject*>() != nullptr;
+  };
+  QTest::mouseMove(stage.window(), {20, 20});
+  QTRY_VERIFY(shown());
+  QTest::mouseMove(stage.window(), {300, 300});
+  QTRY_VERIFY(!shown());
+}
+
+void TestPointer::aRightClickOpensTheContextMenu() {
+  Stage stage(QStringLiteral(
+      "Rectangle { objectName: 'tile'; width: 100; height: 100; activeFocusOnTab: true\n"
+      "  ContextMenuArea { onRequested: log('requested')\n"
+      "    menu: Menu { MenuItem { text: 'Delete'; onTriggered: log('Delete') } } } }"));
+  stage.click(stage.find<QQuickItem>("tile"), Qt::RightButton);
+  QCOMPARE(stage.log(), QStringLiteral("requested"));
+  QTest::qWait(200);
+  stage.press(Qt::Key_Down);
+  stage.press(Qt::Key_Return);
+  QTRY_COMPARE(stage.log(), QStringLiteral("requested Delete"));
+  QTest::qWait(200);
+  stage.press(Qt::Key_Tab);
+  stage.press(Qt::Key_F10, Qt::ShiftModifier);
+  QTRY_COMPARE(stage.log(), QStringLiteral("requested Delete requested"));
+}
+
+void TestPointer::aClickOutsideLeavesASheet() {
+  Stage stage(
+      QStringLiteral("Button { objectName: 'under'; text: 'A'; onClicked: log('under') }\n"
+                     "Sheet { objectName: 'sheet'; Item { width: 100; height: 100 } }"));
+  QMetaObject::invokeMethod(stage.find("sheet"), "open");
+  QTRY_VERIFY(stage.find("sheet")->property("opened").toBool());
+  stage.click(stage.find<QQuickItem>("under"));
+  QVERIFY(stage.find("sheet")->property("opened").toBool());
+  QCOMPARE(stage.log(), QString());
+}
+
+void TestPointer::aToastComesAndGoes() {
+  Stage stage(QStringLiteral("Toast { objectName: 'toast'; message: '' }"));
+  auto* toast = stage.find<QQuickItem>("toast");
+  QVERIFY(!toast->isVisible());
+  toast->setProperty("message", QStringLiteral("Copied #4C6FFF"));
+  QTRY_COMPARE(toast->opacity(), 1.0);
+  QCOMPARE(toast->y() + toast->height(), 500.0 - 24);
+  toast->setProperty("message", QString());
+  QTRY_VERIFY(!toast->isVisible());
+}
+
+void TestPointer::aClickChoosesASegment() {
+  Stage stage(
+      QStringLiteral("SegmentedPicker { objectName: 'picker'; onActivated: index => log(index)\n"
+                     "  options: [PickerOption { text: 'A' }, PickerOption { text: 'B' }] }"));
+  const auto* picker = stage.find<QQuickItem>("picker");
+  for (const qreal share : {0.75, 0.25})
+    QTest::mouseClick(
+        stage.window(), Qt::LeftButton, {},
+        picker->mapToScene({picker->width() * share, picker->height() / 2}).toPoint());
+  QCOMPARE(stage.log(), QStringLiteral("1"));  // the view has not stored it: the first is still on
+}
+
+void TestPointer::theColorPanelRemembersTheHueOfGrey() {
+  Stage stage(
+      QStringLiteral("ColorPanel { objectName: 'panel'; color: '#336699'\n"
+                     "  onPicked: picked => color = picked }"));
+  auto* panel = stage.find("panel");
+  const qreal hue = panel->property("hue").toReal();
+  QVERIFY(std::abs(hue - 210.0 / 360) < 0.01);
+  stage.eval(QStringLiteral("children[0].pick(children[0].hue, 0, 0.5)"));
+  QCOMPARE(panel->property("color").value<QColor>().name(), QStringLiteral("#808080"));
+  QCOMPARE(panel->property("hue").toReal(), hue);
+  stage.eval(QStringLiteral("children[0].pick(children[0].hue, 1, 1)"));
+  QCOMPARE(panel->property("color").value<QColor>().name(), QStringLiteral("#0080ff"));
+}
+
+QTEST_MAIN(TestPointer)
+#include "tst_pointer.moc"

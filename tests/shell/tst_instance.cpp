@@ -1,0 +1,128 @@
+#include <QDir>
+#include <QFile>
+#include <QLocalSocket>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+#include <csignal>
+
+// One running program a user, tried with real processes.
+class TestInstance : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void theSecondStartAsksTheFirst();
+  void aCrashLeavesNothingBehind();
+  void startsAtTheSameMomentAgreeOnOne();
+  void aStrangerOnTheSocketDoesNoHarm();
+  void givesUpOnOneThatDoesNotAnswer();
+};
+
+namespace {
+
+class Starts {
+ public:
+  ~Starts() {
+    for (QProcess* process : processes_) {
+      process->kill();
+      process->waitForFinished();
+      delete process;
+    }
+  }
+  QProcess& start(const QStringList& more = {}) {
+    auto* const process = new QProcess;
+    processes_ << process;
+    process->start(QStringLiteral(INSTANCE_HELPER), QStringList(folder.path()) + more);
+    process->waitForStarted();
+    return *process;
+  }
+  QTemporaryDir folder;
+
+ private:
+  QList<QProcess*> processes_;
+};
+
+// The next line that it says, without its end.
+QByteArray line(QProcess& process) {
+  while (!process.canReadLine()) {
+    if (!process.waitForReadyRead(20000)) return QByteArrayLiteral("(nothing)");
+  }
+  return process.readLine().trimmed();
+}
+
+int exitCode(QProcess& process) { return process.waitForFinished(20000) ? process.exitCode() : -1; }
+
+}  // namespace
+
+void TestInstance::theSecondStartAsksTheFirst() {
+  Starts starts;
+  QProcess& first = starts.start();
+  QCOMPARE(line(first), QByteArray("first"));
+  for (int i = 0; i < 3; ++i) {
+    QProcess& second = starts.start();
+    QCOMPARE(line(second), QByteArray("shown"));
+    QCOMPARE(exitCode(second), 0);
+    QCOMPARE(line(first), QByteArray("asked"));
+  }
+  QCOMPARE(first.state(), QProcess::Running);
+}
+
+void TestInstance::aCrashLeavesNothingBehind() {
+  Starts starts;
+  QProcess& first = starts.start();
+  QCOMPARE(line(first), QByteArray("first"));
+  first.kill();
+  first.waitForFinished();
+  QVERIFY(QDir(starts.folder.path()).entryList(QDir::System).contains("tarnloft.socket"));
+  QProcess& next = starts.start();
+  QCOMPARE(line(next), QByteArray("first"));
+  QCOMPARE(line(starts.start()), QByteArray("shown"));
+}
+
+void TestInstance::startsAtTheSameMomentAgreeOnOne() {
+  for (int round = 0; round < 5; ++round) {
+    Starts starts;
+    QList<QProcess*> all;
+    for (int i = 0; i < 4; ++i) all << &starts.start();
+    QList<QByteArray> lines;
+    QProcess* first = nullptr;
+    for (QProcess* process : all) {
+      lines << line(*process);
+      if (lines.last() == "first") first = process;
+    }
+    std::ranges::sort(lines);
+    QCOMPARE(lines, QList<QByteArray>({"first", "shown", "shown", "shown"}));
+    for (int i = 0; i < 3; ++i) QCOMPARE(line(*first), QByteArray("asked"));
+  }
+}
+
+void TestInstance::aStrangerOnTheSocketDoesNoHarm() {
+  Starts starts;
+  QProcess& first = starts.start();
+  QCOMPARE(line(first), QByteArray("first"));
+  QLocalSocket stranger;
+  stranger.connectToServer(starts.folder.filePath("tarnloft.socket"));
+  QVERIFY(stranger.waitForConnected());
+  stranger.write("anything else\n");
+  stranger.flush();
+  QVERIFY(stranger.waitForDisconnected(20000));
+  QCOMPARE(line(starts.start()), QByteArray("shown"));
+  QCOMPARE(line(first), QByteArray("asked"));
+}
+
+void TestInstance::givesUpOnOneThatDoesNotAnswer() {
+  Starts starts;
+  QProcess& first = starts.start();
+  QCOMPARE(line(first), QByteArray("first"));
+  ::kill(pid_t(first.processId()), SIGSTOP);
+  QProcess& second = starts.start({"300"});
+  QCOMPARE(line(second), QByteArray("no answer"));
+  QCOMPARE(exitCode(second), 1);
+  ::kill(pid_t(first.processId()), SIGCONT);
+  QCOMPARE(line(starts.start()), QByteArray("shown"));
+}
+
+QTEST_GUILESS_MAIN(TestInstance)
+#include "tst_instance.moc"

@@ -1,0 +1,261 @@
+#include "platform/controls/Theme.h"
+#include "platform/controls/Typography.h"
+#include "shell/AccentTint.h"
+#include "shell/MainWindow.h"
+#include "shell/TestShell.h"
+
+#include <QAccessible>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSignalSpy>
+#include <QTest>
+#include <QtQml/qqmlextensionplugin.h>
+
+Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
+
+using namespace tarnloft;
+
+// The main window's views, driven by keys and the pointer as a user would.
+class TestShellViews : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void initTestCase();
+  void createsABrandFromTheKeyboard();
+  void aNameOfBlanksCannotBeCreated();
+  void selectsByClickAndByKeyboard();
+  void renamesFromTheKeyboard();
+  void deletesWhenConfirmed_data();
+  void deletesWhenConfirmed();
+  void dragsARowByItsMark();
+  void opensMenusFromTheKeyboard();
+  void theMenuOfABrandHasItsEntries();
+  void shortcutsWaitBehindASheet();
+};
+
+namespace {
+
+struct Views : TestShell {
+  IniPreferences state{library.disk.path("state.ini")};
+  QQmlEngine engine;
+  std::unique_ptr<AccentTint> tint;
+  std::unique_ptr<MainWindow> main;
+
+  void start() {
+    Theme& theme = Theme::of(engine);
+    LibraryStore& store = library.start();
+    tint = std::make_unique<AccentTint>(store, theme);
+    main = std::make_unique<MainWindow>(engine, library.services(), services(), state);
+    QVERIFY(main->show());
+    QVERIFY(QTest::qWaitForWindowActive(&window()));
+  }
+  QQuickWindow& window() const { return *main->window(); }
+
+  // The item that assistive technology knows by that role and name; null for none that is visible.
+  QQuickItem* item(QAccessible::Role role, const QString& name) const {
+    return find(window().contentItem(), role, name);
+  }
+  void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
+    QTest::keyClick(&window(), key, modifiers);
+  }
+  void type(const QString& text) const {
+    for (const QChar c : text) QTest::keyClick(&window(), c.toLatin1());
+  }
+  static QPoint centerOf(const QQuickItem* item) {
+    return item->mapToScene({item->width() / 2, item->height() / 2}).toPoint();
+  }
+  void click(const QQuickItem* item, Qt::MouseButton button = Qt::LeftButton) const {
+    QTest::mouseClick(&window(), button, {}, centerOf(item));
+  }
+
+ private:
+  static QQuickItem* find(QQuickItem* top, QAccessible::Role role, const QString& name) {
+    for (QQuickItem* child : top->childItems()) {
+      if (!child->isVisible()) continue;
+      QAccessibleInterface* const known = QAccessible::queryAccessibleInterface(child);
+      if (known && known->role() == role && known->text(QAccessible::Name) == name) return child;
+      if (QQuickItem* const found = find(child, role, name)) return found;
+    }
+    return nullptr;
+  }
+};
+
+constexpr auto row = QAccessible::ListItem;
+constexpr auto button = QAccessible::Button;
+constexpr auto entry = QAccessible::MenuItem;
+constexpr auto dialog = QAccessible::Dialog;
+
+}  // namespace
+
+void TestShellViews::initTestCase() {
+  prepareTypography();
+  QAccessible::setActive(true);
+}
+
+void TestShellViews::createsABrandFromTheKeyboard() {
+  Views views;
+  views.start();
+  QVERIFY(views.item(QAccessible::StaticText, "Welcome to Tarn Loft"));
+  views.press(Qt::Key_N, Qt::ControlModifier);
+  QTRY_VERIFY(views.item(dialog, "New Brand"));
+  views.type("  Acme ");
+  views.press(Qt::Key_Return);
+  QTRY_COMPARE(views.library.names(), QStringList("Acme"));
+  QTRY_VERIFY(!views.item(dialog, "New Brand"));
+  QVERIFY(views.item(row, "Acme"));
+  QVERIFY(!views.item(QAccessible::StaticText, "Welcome to Tarn Loft"));
+  // The sheet keeps its text for the next time.
+  views.click(views.item(button, "New Brand"));
+  QTRY_VERIFY(views.item(QAccessible::EditableText, "Brand name"));
+  QCOMPARE(views.item(QAccessible::EditableText, "Brand name")->property("text"), "  Acme ");
+  views.press(Qt::Key_Escape);
+  QTRY_VERIFY(!views.item(dialog, "New Brand"));
+  QCOMPARE(views.library.names(), QStringList("Acme"));
+}
+
+void TestShellViews::aNameOfBlanksCannotBeCreated() {
+  Views views;
+  views.start();
+  views.click(views.item(button, "Create your first brand"));
+  QTRY_VERIFY(views.item(dialog, "New Brand"));
+  views.type("   ");
+  QVERIFY(!views.item(button, "Create")->isEnabled());
+  views.press(Qt::Key_Return);
+  QVERIFY(views.item(dialog, "New Brand"));
+  QVERIFY(views.library.names().isEmpty());
+}
+
+void TestShellViews::selectsByClickAndByKeyboard() {
+  Views views;
+  for (const char* name : {"Acme", "Birch", "Cedar"}) {
+    views.library.add(name, {Section::create(QString("Logos of ") + name)});
+  }
+  views.start();
+  views.click(views.item(row, "Birch"));
+  QCOMPARE(views.library.store->selection(), views.library.packagePath("Birch"));
+  QTRY_VERIFY(views.item(row, "Logos of Birch"));
+  views.press(Qt::Key_Down);
+  views.press(Qt::Key_Down);
+  views.press(Qt::Key_Return);
+  QCOMPARE(views.library.store->selection(), views.library.packagePath("Cedar"));
+  QTRY_VERIFY(views.item(row, "Logos of Cedar"));
+  views.press(Qt::Key_Down);
+  views.press(Qt::Key_Space);
+  QCOMPARE(views.library.store->scrollToSection(),
+           views.library.store->openDocument()->brand().sections.first().id);
+}
+
+void TestShellViews::renamesFromTheKeyboard() {
+  Views views;
+  views.library.add("Acme");
+  views.start();
+  views.click(views.item(row, "Acme"));
+  views.press(Qt::Key_F2);
+  QTRY_VERIFY(views.item(dialog, "Rename Brand"));
+  views.type("Birch");  // over the old name, which is selected
+  views.press(Qt::Key_Return);
+  QTRY_COMPARE(views.library.names(), QStringList("Birch"));
+  QTRY_VERIFY(!views.item(dialog, "Rename Brand"));
+}
+
+void TestShellViews::deletesWhenConfirmed_data() {
+  QTest::addColumn<QString>("answer");
+  QTest::addColumn<qsizetype>("left");
+  QTest::newRow("confirmed") << "Move to Trash" << qsizetype(0);
+  QTest::newRow("cancelled") << "Cancel" << qsizetype(1);
+}
+
+void TestShellViews::deletesWhenConfirmed() {
+  QFETCH(QString, answer);
+  Views views;
+  views.library.add("Acme");
+  views.start();
+  views.click(views.item(row, "Acme"));
+  views.press(Qt::Key_Delete);
+  const QString title = "Move “Acme” to the Trash?";
+  QTRY_VERIFY(views.item(dialog, title));
+  QTRY_VERIFY(views.item(button, answer));
+  views.click(views.item(button, answer));
+  QTRY_VERIFY(!views.item(dialog, title));
+  QTEST(views.library.names().size(), "left");
+}
+
+void TestShellViews::dragsARowByItsMark() {
+  Views views;
+  for (const char* name : {"Acme", "Birch", "Cedar"}) {
+    views.library.add(name, {Section::create("Logos")});
+  }
+  views.start();
+  const QQuickItem* const cedar = views.item(row, "Cedar");
+  const QPoint mark = cedar->mapToScene({24, cedar->height() / 2}).toPoint();
+  const QPoint target = Views::centerOf(views.item(row, "Acme"));
+  QTest::mousePress(&views.window(), Qt::LeftButton, {}, mark);
+  for (int step = 1; step <= 10; ++step) {
+    QTest::mouseMove(&views.window(), mark + (QPoint(mark.x(), target.y()) - mark) * step / 10);
+  }
+  QTRY_COMPARE(views.library.names(), QStringList({"Cedar", "Acme", "Birch"}));
+  QTest::mouseRelease(&views.window(), Qt::LeftButton, {}, QPoint(mark.x(), target.y()));
+  QCOMPARE(views.library.names(), QStringList({"Cedar", "Acme", "Birch"}));
+  // The name is no handle.
+  const QPoint name = Views::centerOf(views.item(row, "Birch"));
+  QTest::mousePress(&views.window(), Qt::LeftButton, {}, name);
+  for (int step = 1; step <= 10; ++step) {
+    QTest::mouseMove(&views.window(), name + (target - name) * step / 10);
+  }
+  QTest::mouseRelease(&views.window(), Qt::LeftButton, {}, target);
+  QCOMPARE(views.library.names(), QStringList({"Cedar", "Acme", "Birch"}));
+}
+
+void TestShellViews::opensMenusFromTheKeyboard() {
+  Views views;
+  views.start();
+  views.press(Qt::Key_F10);
+  QTRY_VERIFY(views.item(entry, "Import Brand…"));
+  QVERIFY(views.item(entry, "Import Brand…")->isEnabled());
+  QVERIFY(!views.item(entry, "Export Brand…")->isEnabled());
+  QVERIFY(!views.item(entry, "Export Brand Page…")->isEnabled());
+  views.press(Qt::Key_Right);
+  QTRY_VERIFY(views.item(entry, "Undo"));
+  views.press(Qt::Key_Right);
+  QTRY_VERIFY(views.item(entry, "Pick Color from Screen"));
+  QVERIFY(!views.item(entry, "Pick Color from Screen")->isEnabled());
+  views.press(Qt::Key_Escape);
+  QTRY_VERIFY(!views.item(entry, "Pick Color from Screen"));
+}
+
+void TestShellViews::theMenuOfABrandHasItsEntries() {
+  Views views;
+  views.library.add("Acme");
+  views.start();
+  views.click(views.item(row, "Acme"), Qt::RightButton);
+  for (const char* text : {"Rename…", "Duplicate", "Export Brand Page…", "Export Brand File…",
+                           "Show in File Manager", "Move to Trash"}) {
+    QTRY_VERIFY2(views.item(entry, text), text);
+  }
+  views.click(views.item(entry, "Show in File Manager"));
+  QTRY_COMPARE(views.library.viewer.revealed, QStringList(views.library.packagePath("Acme")));
+  views.click(views.item(row, "Acme"));
+  views.press(Qt::Key_Menu);
+  QTRY_VERIFY(views.item(entry, "Duplicate"));
+}
+
+void TestShellViews::shortcutsWaitBehindASheet() {
+  Views views;
+  views.library.add("Acme");
+  views.start();
+  views.press(Qt::Key_N, Qt::ControlModifier);
+  QTRY_VERIFY(views.item(dialog, "New Brand"));
+  views.press(Qt::Key_I, Qt::ControlModifier | Qt::ShiftModifier);
+  QVERIFY(views.library.dialogs.openTypes.isEmpty());
+  views.press(Qt::Key_Escape);
+  QTRY_VERIFY(!views.item(dialog, "New Brand"));
+  views.press(Qt::Key_I, Qt::ControlModifier | Qt::ShiftModifier);
+  QVERIFY(!views.library.dialogs.openTypes.isEmpty());
+}
+
+QTEST_MAIN(TestShellViews)
+#include "tst_shellviews.moc"
