@@ -14,22 +14,31 @@ QtObject {
     property real offset: 0
     property real last: 0
     property bool placed: false // the first layout is no jump
+    property SpringNumber spring: null // made at the first jump
 
-    Component.onCompleted: Qt.callLater(() => placed = true)
+    Component.onCompleted: Qt.callLater(place)
     onYChanged: {
         const jump = last - y;
         last = y;
         if (!active || !placed || Math.abs(jump) < 1)
             return;
         offset += jump;
+        if (!spring)
+            spring = making.createObject(root) as SpringNumber;
         spring.restart();
     }
 
-    readonly property SpringNumber spring: SpringNumber {
-        target: root
-        property: "offset"
-        to: 0
-        response: 0.5
-        dampingFraction: 0.85
+    function place() {
+        placed = true;
+    }
+
+    readonly property Component making: Component {
+        SpringNumber {
+            target: root
+            property: "offset"
+            to: 0
+            response: 0.5
+            dampingFraction: 0.85
+        }
     }
 }
