@@ -87,7 +87,8 @@ void ContentModel::renewWorkspace() {
   if (workspace_ && document && workspace_->document() == document) return;
   auto old = std::exchange(workspace_, document ? makeWorkspace(*document) : nullptr);
   emit workspaceChanged();
-  if (old) old.release()->deleteLater();  // behind the old page, which goes in the same way
+  // The old page goes in turns of its own, its sections behind it, and reads the old one till then.
+  if (old) QTimer::singleShot(0, old.release(), &QObject::deleteLater);
 }
 
 std::unique_ptr<BrandWorkspace> ContentModel::makeWorkspace(BrandDocument& document) {

@@ -107,7 +107,8 @@ void MainWindow::close() {
   if (!window_ || window_->isVisible()) return;
   settled_.stop();
   window_.reset();
-  content_.reset();
+  // Views may go in turns of their own.
+  QTimer::singleShot(0, content_.release(), &QObject::deleteLater);
   emit closed();
 }
 
