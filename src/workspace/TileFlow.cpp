@@ -152,9 +152,20 @@ void TileFlow::updatePolish() {
   isMoving_ = false;
 }
 
+// What is seen is made at once; what is near it, a little in each of the next frames.
+FlowLayout::Range TileFlow::wantedRange() {
+  constexpr double step = 80;  // points a frame, less than a row
+  const double most = viewHeight_ / 2;
+  const double margin = std::min(margin_, most);
+  if (margin_ < most) {
+    margin_ += step;
+    QMetaObject::invokeMethod(this, &TileFlow::polish, Qt::QueuedConnection);
+  }
+  return layout_.range(viewTop_ - margin, viewTop_ + viewHeight_ + margin);
+}
+
 void TileFlow::populate() {
-  const double margin = viewHeight_ / 2;
-  const auto wanted = layout_.range(viewTop_ - margin, viewTop_ + viewHeight_ + margin);
+  const auto wanted = wantedRange();
   if (!areItemsStale_ && wanted == populated_) return;
   const SharedList<Item>& items = section_->items()->items();
   if (std::exchange(areItemsStale_, false)) {

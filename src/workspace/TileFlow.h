@@ -66,6 +66,7 @@ class TileFlow : public QQuickItem {
   void layoutChanged();
   void setOut();
   double blockHeight(int index) const;
+  FlowLayout::Range wantedRange();
   void populate();
   bool measureBlocks();
   void placeViews();
@@ -89,6 +90,7 @@ class TileFlow : public QQuickItem {
   bool isMoving_ = false;  // the next placing moves views
   FlowLayout layout_;
   FlowLayout::Range populated_;
+  double margin_ = 0;  // beyond the strip that is seen, in which views exist as well
   QHash<QUuid, double> blockHeights_;  // as measured
   QUuid current_;                      // the one tile that the Tab key stops at
   LiveTiles live_;

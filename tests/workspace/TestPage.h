@@ -20,10 +20,15 @@ class TestPage {
     Theme::of(*view.engine());
     view.setResizeMode(QQuickView::SizeRootObjectToView);
     view.resize(1000, 760);
-    view.setInitialProperties({{"workspace", QVariant::fromValue(test.workspace.get())}});
-    view.setSource(QUrl("qrc:/qt-project.org/imports/TarnLoft/Workspace/BrandPage.qml"));
+    show(test);
     view.show();
     settle();
+  }
+
+  // A new page for what is open now.
+  void show(TestWorkspace& test) {
+    view.setInitialProperties({{"workspace", QVariant::fromValue(test.workspace.get())}});
+    view.setSource(QUrl("qrc:/qt-project.org/imports/TarnLoft/Workspace/BrandPage.qml"));
   }
 
   // Lets two frames pass, so that all that is due has been laid out and drawn.

@@ -1,6 +1,7 @@
 #include "workspace/Items.h"
 #include "workspace/TestPage.h"
 
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QtQml/qqmlextensionplugin.h>
 
@@ -16,6 +17,7 @@ class TestBrandPage : public QObject {
   Q_OBJECT
 
  private slots:
+  void init() { QTest::failOnWarning(QRegularExpression(".")); }
   void aClickCopiesAColour();
   void clicksWithKeysSelect();
   void theCheckBoxSelects();
@@ -32,6 +34,7 @@ class TestBrandPage : public QObject {
   void picturesAreAskedForAtTheSizeOfTheScreen();
   void aBrokenPictureTellsSo();
   void assistiveTechnologyFindsEverything();
+  void sectionsComeGoAndMove();
   void aNewSectionIsTheWindowsBusiness();
 };
 
@@ -382,6 +385,29 @@ void TestBrandPage::assistiveTechnologyFindsEverything() {
     QVERIFY2(!needsName || !one->text(QAccessible::Name).isEmpty(),
              qPrintable(QString("role %1").arg(one->role())));
   }
+}
+
+void TestBrandPage::sectionsComeGoAndMove() {
+  TestWorkspace test({sectionOf("A", {colorItem("a"), textItem("t")}), sectionOf("B", {}),
+                      sectionOf("C", {colorItem("c")})});
+  TestPage page(test);
+  const auto order = [&] {
+    page.settle();
+    QList<TileFlow*> lists = page.flows();
+    std::sort(lists.begin(), lists.end(), [](TileFlow* a, TileFlow* b) {
+      return a->mapToScene({}).y() < b->mapToScene({}).y();
+    });
+    QString names;
+    for (TileFlow* list : lists) names += list->section()->name();
+    return names;
+  };
+  QCOMPARE(order(), "ABC");
+  test.section(2).moveUp();
+  QCOMPARE(order(), "ACB");
+  test.section(0).remove();
+  QCOMPARE(order(), "CB");
+  test.workspace->addSection("D");
+  QCOMPARE(order(), "CBD");
 }
 
 void TestBrandPage::aNewSectionIsTheWindowsBusiness() {

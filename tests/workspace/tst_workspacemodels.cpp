@@ -234,6 +234,7 @@ void TestWorkspaceModels::chosenFilesAreImported() {
   test.library.dialogs.chosen = {picture};
   test.section(0).importImages();
   QCOMPARE(test.library.dialogs.openTypes, QStringList{"image/*"});
+  QTRY_COMPARE(test.stored(0).items.size(), 1);
   test.section(0).importVideos();
   QCOMPARE(test.library.dialogs.openTypes, QStringList{"video/*"});
   QTRY_COMPARE(test.stored(0).items.size(), 2);
