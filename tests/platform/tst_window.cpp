@@ -67,7 +67,7 @@ class FakePortal : public QObject, protected QDBusContext {
   }
 
  private:
-  void answer(const QString& path, QDBusConnection bus) const {
+  void answer(const QString& path, const QDBusConnection& bus) const {
     QDBusArgument color;
     color.beginStructure();
     color << 1.0 << 0.5 << 0.25;

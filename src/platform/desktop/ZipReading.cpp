@@ -23,6 +23,7 @@ tl::unexpected<Error> refused(const char* reason) {
 // Old archives hold names in the code page of the first PCs, without saying so.
 QByteArray fromOldCodePage(const QByteArray& name) {
   const iconv_t converter = ::iconv_open("UTF-8", "CP437");
+  // NOLINTNEXTLINE(performance-no-int-to-ptr): the C library tells failure by it
   if (converter == iconv_t(-1)) return {};
   QByteArray source = name, text(name.size() * 3, Qt::Uninitialized);
   char *in = source.data(), *out = text.data();

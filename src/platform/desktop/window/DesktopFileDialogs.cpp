@@ -29,7 +29,7 @@ class FileOrFolderDialog : public QFileDialog {
  protected:
   void accept() override {
     if (const QStringList files = selectedFiles(); files.size() == 1 && isWanted(files.first())) {
-      QDialog::accept();
+      done(Accepted);
     } else {
       QFileDialog::accept();
     }
