@@ -13,9 +13,8 @@ Result<AssetFolder> AssetFolder::make(FileStore& files, const QString& packageUR
 
 Result<AssetRef> AssetFolder::copyIn(const QString& source) const {
   const QString extension = pathExtension(source);
-  AssetRef asset{
-      Package::newAssetName(extension.isEmpty() ? QStringLiteral("dat") : extension),
-      lastPathComponent(source)};
+  AssetRef asset{Package::newAssetName(extension.isEmpty() ? QStringLiteral("dat") : extension),
+                 lastPathComponent(source)};
   return files_->copyFile(source, pathOf(asset)).map([&] { return asset; });
 }
 

@@ -17,8 +17,8 @@ class FileDialogs {
   virtual std::optional<QString> savePath(const QString& suggestedName,
                                           const QString& mimeType) = 0;
 
-  // Asks for files that exist, of one of the types; "image/*" means all types of images. Empty if the
-  // user cancels.
+  // Asks for files that exist, of one of the types; "image/*" means all types of images. Empty if
+  // the user cancels.
   virtual QStringList openFiles(const QStringList& mimeTypes) = 0;
 
   // Asks for one thing that exists: a file of one of the types, or a folder whose name has one of

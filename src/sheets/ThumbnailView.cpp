@@ -22,12 +22,12 @@ void ThumbnailView::setPath(const QString& path) {
 void ThumbnailView::setMaxPixel(int maxPixel) {
   if (std::exchange(maxPixel_, maxPixel) == maxPixel) return;
   emit maxPixelChanged();
-  load();
+  polish();
 }
 
 void ThumbnailView::componentComplete() {
   PictureView::componentComplete();
-  load();
+  polish();
 }
 
 // Another file: what shows is no picture of it.
@@ -36,7 +36,7 @@ void ThumbnailView::restart() {
   requestedPixels_ = 0;
   if (hasPicture()) setPicture({});
   setState(LoadState::Loading);
-  load();
+  polish();
 }
 
 // Sizes come in steps, so that a window that is being resized doesn't decode at each of them; what
@@ -48,9 +48,10 @@ int ThumbnailView::wantedPixels() const {
   return std::min((longest + step - 1) / step * step, maxPixel_);
 }
 
-void ThumbnailView::load() {
+// Once a frame at most, when the size is settled.
+void ThumbnailView::updatePolish() {
   const int wanted = wantedPixels();
-  if (!isComponentComplete() || !thumbnails_ || path_.isEmpty()) return;
+  if (!thumbnails_ || path_.isEmpty()) return;
   if (wanted == 0 || wanted == requestedPixels_) return;
   requestedPixels_ = wanted;
   request_ = thumbnails_->loader().thumbnail(

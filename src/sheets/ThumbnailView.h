@@ -41,11 +41,11 @@ class ThumbnailView : public tarnloft::PictureView {
 
  protected:
   void componentComplete() override;
-  void sizeChanged() override { load(); }
+  void sizeChanged() override { polish(); }
+  void updatePolish() override;
 
  private:
   void restart();
-  void load();
   int wantedPixels() const;
   void receive(const std::optional<QImage>& image);
   void setState(LoadState state);

@@ -16,7 +16,7 @@ QtObject {
     property bool placed: false // the first layout is no jump
     property SpringNumber spring: null // made at the first jump
 
-    Component.onCompleted: Qt.callLater(place)
+    Component.onCompleted: Qt.callLater(place) // qmllint disable
     onYChanged: {
         const jump = last - y;
         last = y;

@@ -5,7 +5,7 @@ import QtQuick.Templates as T
 import TarnLoft.Controls
 import TarnLoft.Shell
 
-// The window's menus. F10 opens the first, Alt and its first letter each.
+// The window's menus. Alt and its first letter opens each.
 MenuBar {
     id: root
 
@@ -34,7 +34,7 @@ MenuBar {
     }
 
     Shortcut {
-        sequences: ["F10", "Alt+F"]
+        sequences: ["Alt+F"]
         onActivated: root.openMenu(0)
     }
     Shortcut {

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import TarnLoft.Controls
 import TarnLoft.Shell
 
 // A brand on its way to another place: the order follows as the pointer enters rows, and near the

@@ -101,7 +101,10 @@ Item {
         handleEnd: root.isBrand ? label.x : 0
         onPressed: root.pressed()
         onActivated: root.activate()
-        onMenuRequested: (x, y) => root.menuRequested(x, y)
+        onMenuRequested: (x, y) => {
+            if (root.isBrand)
+                root.menuRequested(x, y);
+        }
         onDragged: (x, y) => root.dragged(x, y)
         onDropped: root.dropped()
     }

@@ -12,6 +12,9 @@ FocusScope {
 
     required property BrandWorkspace workspace
 
+    // Of the section that has the keyboard, or of the place behind all; -1 for neither.
+    property int focusedSection: -1
+
     signal addSectionRequested
 
     // Scrolls to that section, which is counted among all.
@@ -87,10 +90,14 @@ FocusScope {
 
                 model: root.workspace.sections
                 delegate: SectionView {
+                    required property int index
+
                     width: column.width
+                    reachable: root.focusedSection >= 0 && Math.abs(index - root.focusedSection) <= 1
                     viewTop: scroll.contentY - y
                     viewHeight: scroll.height
                     onShifted: by => scroll.contentY += by
+                    onActiveFocusChanged: if (activeFocus) root.focusedSection = index
                 }
             }
 
@@ -108,6 +115,7 @@ FocusScope {
                     kind: Button.Borderless
                     tint: Theme.secondaryLabel
                     onClicked: root.addSectionRequested()
+                    onActiveFocusChanged: if (activeFocus) root.focusedSection = sections.count
                 }
             }
         }

@@ -21,7 +21,6 @@ Button {
     symbolSize: 15
     tint: Theme.secondaryLabel
     down: pressed || (opened?.visible ?? false)
-    Accessible.role: Accessible.ButtonMenu
     Keys.onDownPressed: openMenu()
     onClicked: openMenu()
 }

@@ -9,14 +9,15 @@
 
 namespace tarnloft {
 
-// Both may be in the middle of a call.
-LiveTile::~LiveTile() {
-  if (view) {
-    view->setVisible(false);
-    view->deleteLater();
-    if (tile) tile.release()->setParent(view);
-  }
+namespace {
+
+// It may be in the middle of a call.
+void end(LiveTile& live) {
+  live.view->setVisible(false);
+  live.view->deleteLater();
 }
+
+}  // namespace
 
 bool LiveTile::isHeld() const { return tile->isDragged() || view->hasActiveFocus(); }
 
@@ -25,14 +26,15 @@ LiveTile* LiveTiles::find(const QUuid& id) const {
   return found == live_.end() ? nullptr : found->second.get();
 }
 
-LiveTile* LiveTiles::obtain(SectionModel& section, const Item& item, QQmlComponent& component) {
+LiveTile* LiveTiles::obtain(SectionModel& section, const Item& item, QQmlComponent& component,
+                            const QSizeF& size) {
   if (LiveTile* live = find(item.id)) return live;
   auto live = takeWaiting(TileFacts::kind(item));
   if (live) {
     live->tile->setItem(item);
     live->view->setVisible(true);
   } else {
-    live = make(section, item, component);
+    live = make(section, item, component, size);
     if (!live) return nullptr;
   }
   return live_.emplace(item.id, std::move(live)).first->second.get();
@@ -48,10 +50,8 @@ std::unique_ptr<LiveTile> LiveTiles::takeWaiting(TileKind::Kind kind) {
 }
 
 std::unique_ptr<LiveTile> LiveTiles::make(SectionModel& section, const Item& item,
-                                          QQmlComponent& component) {
+                                          QQmlComponent& component, const QSizeF& size) {
   auto live = std::make_unique<LiveTile>();
-  live->tile = std::make_unique<Tile>(section, item);
-  QQmlEngine::setObjectOwnership(live->tile.get(), QQmlEngine::CppOwnership);
   QObject* const object = component.beginCreate(component.creationContext());
   live->view = qobject_cast<QQuickItem*>(object);
   if (!live->view) {
@@ -60,9 +60,13 @@ std::unique_ptr<LiveTile> LiveTiles::make(SectionModel& section, const Item& ite
     return nullptr;
   }
   QQmlEngine::setObjectOwnership(live->view, QQmlEngine::CppOwnership);
+  live->tile = new Tile(section, item);
+  live->tile->setParent(live->view);
+  live->view->setParent(&parent_);
   live->view->setParentItem(&parent_);
+  live->view->setSize(size);  // before its content is made, which then needs no second layout
   component.setInitialProperties(live->view,
-                                 {{QStringLiteral("tile"), QVariant::fromValue(live->tile.get())}});
+                                 {{QStringLiteral("tile"), QVariant::fromValue(live->tile)}});
   component.completeCreate();
   ++made_;
   return live;
@@ -79,13 +83,16 @@ LiveTiles::Map::iterator LiveTiles::release(Map::iterator entry) {
 }
 
 void LiveTiles::trim(size_t most) {
-  if (waiting_.size() <= most) return;
-  waiting_.erase(waiting_.begin(), waiting_.end() - std::ptrdiff_t(most));
+  while (waiting_.size() > most) {
+    end(*waiting_.front());
+    waiting_.erase(waiting_.begin());
+  }
 }
 
 void LiveTiles::clear() {
+  forEach([](LiveTile& live) { end(live); });
   live_.clear();
-  waiting_.clear();
+  trim(0);
 }
 
 int LiveTiles::count() const { return int(live_.size() + waiting_.size()); }

@@ -12,17 +12,15 @@
 
 namespace tarnloft {
 
-// A view that exists, and the item that it shows.
+// A view that exists, and the item that it shows. The view is a child of the grid, and the tile one
+// of the view.
 struct LiveTile {
-  std::unique_ptr<Tile> tile;
-  QQuickItem* view = nullptr;  // owned
-  int index = -1;              // among the section's shown items; -1 if its item isn't there
-  bool isPlaced = false;       // it has stood somewhere as that item
+  Tile* tile = nullptr;
+  QQuickItem* view = nullptr;
+  int index = -1;          // among the section's shown items; -1 if its item isn't there
+  bool isPlaced = false;   // it has stood somewhere as that item
+  bool isWatched = false;  // the grid hears of its focus
   SpringMotion motion;
-
-  LiveTile() = default;
-  ~LiveTile();
-  Q_DISABLE_COPY_MOVE(LiveTile)
 
   // It has the keyboard's focus or is being dragged, and so must not go.
   bool isHeld() const;
@@ -35,7 +33,8 @@ class LiveTiles {
 
   LiveTile* find(const QUuid& id) const;
   // The item's view: its own, one that waited, or a new one; null if none can be made.
-  LiveTile* obtain(SectionModel& section, const Item& item, QQmlComponent& component);
+  LiveTile* obtain(SectionModel& section, const Item& item, QQmlComponent& component,
+                   const QSizeF& size);
   // Lets go of the views that pass.
   template <class Test>
   void releaseIf(Test&& test) {
@@ -49,6 +48,7 @@ class LiveTiles {
   }
   // Ends waiting views beyond that number.
   void trim(size_t most);
+  // Ends all.
   void clear();
 
   int count() const;
@@ -59,7 +59,8 @@ class LiveTiles {
 
   Map::iterator release(Map::iterator entry);
   std::unique_ptr<LiveTile> takeWaiting(TileKind::Kind kind);
-  std::unique_ptr<LiveTile> make(SectionModel& section, const Item& item, QQmlComponent& component);
+  std::unique_ptr<LiveTile> make(SectionModel& section, const Item& item, QQmlComponent& component,
+                                 const QSizeF& size);
 
   QQuickItem& parent_;
   Map live_;

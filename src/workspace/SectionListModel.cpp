@@ -35,11 +35,13 @@ void SectionListModel::setSections(const QList<Section>& sections, const QString
 void SectionListModel::apply(const ListChange& change, const QList<Section>& target) {
   const int from = int(change.from), to = int(change.to), count = int(change.count);
   switch (change.kind) {
-    case ListChange::Kind::remove:
+    case ListChange::Kind::remove: {
       beginRemoveRows({}, from, from + count - 1);
-      for (int i = 0; i < count; ++i) remove(from);
+      const auto gone = take(from, count);
       endRemoveRows();
+      for (SectionModel* model : gone) model->deleteLater();  // behind the views that show them
       break;
+    }
     case ListChange::Kind::move: {
       beginMoveRows({}, from, from, {}, to > from ? to + 1 : to);
       auto model = std::move(models_[size_t(from)]);
@@ -60,10 +62,12 @@ void SectionListModel::apply(const ListChange& change, const QList<Section>& tar
   }
 }
 
-// Views may look at it until they have followed.
-void SectionListModel::remove(int row) {
-  models_[size_t(row)].release()->deleteLater();
-  models_.erase(models_.begin() + row);
+QList<SectionModel*> SectionListModel::take(int row, int count) {
+  QList<SectionModel*> taken;
+  const auto first = models_.begin() + row;
+  for (auto model = first; model != first + count; ++model) taken << model->release();
+  models_.erase(first, first + count);
+  return taken;
 }
 
 int SectionListModel::rowCount(const QModelIndex& parent) const {

@@ -34,7 +34,7 @@ class SectionListModel : public QAbstractListModel {
 
  private:
   void apply(const struct ListChange& change, const QList<Section>& target);
-  void remove(int row);
+  QList<SectionModel*> take(int row, int count);
 
   BrandWorkspace& workspace_;
   std::vector<std::unique_ptr<SectionModel>> models_;

@@ -7,14 +7,15 @@ import TarnLoft.Workspace
 
 // One section of the page: its header, and its items or a hint. `viewTop` and `viewHeight` tell the
 // strip that is seen, in its own coordinates; outside of it little exists.
-Item {
+FocusScope {
     id: root
 
     required property SectionModel section
+    property bool reachable: false // the Tab key may come here next
     property real viewTop: 0
     property real viewHeight: 0
 
-    readonly property bool near: viewTop < height + viewHeight && viewTop + 2 * viewHeight > 0
+    readonly property bool near: reachable || activeFocus || (viewTop < height + viewHeight && viewTop + 2 * viewHeight > 0)
 
     signal shifted(by: real)
 
@@ -29,7 +30,7 @@ Item {
 
         width: parent.width
         height: 28
-        active: root.near || focus
+        active: root.near
         sourceComponent: SectionHeader {
             section: root.section
         }
@@ -50,9 +51,19 @@ Item {
             section: root.section
         }
 
-        DropFrame {
-            anchors.fill: dropTarget
-            shown: dropTarget.targeted
+        // No higher than what can be seen of it, as it is drawn as a picture.
+        LazyItem {
+            readonly property real seenTop: root.viewTop - content.y - 40
+            readonly property real seenBottom: seenTop + root.viewHeight + 80
+
+            x: dropTarget.x
+            y: Math.max(dropTarget.y, seenTop)
+            width: dropTarget.width
+            height: Math.min(dropTarget.y + dropTarget.height, seenBottom) - y
+            active: dropTarget.targeted
+            sourceComponent: DropFrame {
+                shown: true
+            }
         }
 
         Label {
@@ -73,6 +84,7 @@ Item {
             section: root.section
             viewTop: root.viewTop - content.y
             viewHeight: root.viewHeight
+            reachable: root.near
             animated: !Motion.reduced
             tile: TileContainer {}
             block: BlockItemView {}

@@ -87,6 +87,8 @@ Item {
         active: hover.hovered || root.tile.selected || root.tile.sectionSelected || root.focused
         sourceComponent: SelectionMark {
             selected: root.tile.selected
+            checkable: true // which makes it a check box for assistive technology
+            checked: root.tile.selected
             onClicked: root.tile.toggleSelected()
         }
     }
@@ -100,7 +102,7 @@ Item {
 
         onTapped: {
             root.forceActiveFocus(Qt.MouseFocusReason);
-            root.tile.click(tap.point.modifiers);
+            root.tile.click(Number(tap.point.modifiers));
         }
     }
 

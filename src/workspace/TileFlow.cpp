@@ -58,12 +58,9 @@ std::optional<FlowLayout::Direction> directionOf(int key) {
 }  // namespace
 
 TileFlow::TileFlow(QQuickItem* parent)
-    : QQuickItem(parent), live_(*this), clock_(std::make_unique<Clock>(*this)) {
-  setFlag(ItemIsFocusScope, false);
-  setActiveFocusOnTab(true);
-}
+    : QQuickItem(parent), live_(*this), clock_(std::make_unique<Clock>(*this)) {}
 
-TileFlow::~TileFlow() { live_.clear(); }
+TileFlow::~TileFlow() = default;
 
 void TileFlow::setSection(SectionModel* section) {
   if (section_ == section) return;
@@ -97,6 +94,12 @@ void TileFlow::setViewHeight(qreal height) {
   if (std::exchange(viewHeight_, height) == height) return;
   emit viewportChanged();
   polish();
+}
+
+void TileFlow::setReachable(bool reachable) {
+  if (std::exchange(reachable_, reachable) == reachable) return;
+  emit reachableChanged();
+  layoutChanged();
 }
 
 void TileFlow::componentComplete() {
@@ -149,9 +152,20 @@ void TileFlow::updatePolish() {
   isMoving_ = false;
 }
 
+// What is seen is made at once; what is near it, a little in each of the next frames.
+FlowLayout::Range TileFlow::wantedRange() {
+  constexpr double step = 80;  // points a frame, less than a row
+  const double most = viewHeight_ / 2;
+  const double margin = std::min(margin_, most);
+  if (margin_ < most) {
+    margin_ += step;
+    QMetaObject::invokeMethod(this, &TileFlow::polish, Qt::QueuedConnection);
+  }
+  return layout_.range(viewTop_ - margin, viewTop_ + viewHeight_ + margin);
+}
+
 void TileFlow::populate() {
-  const double margin = viewHeight_ / 2;
-  const auto wanted = layout_.range(viewTop_ - margin, viewTop_ + viewHeight_ + margin);
+  const auto wanted = wantedRange();
   if (!areItemsStale_ && wanted == populated_) return;
   const SharedList<Item>& items = section_->items()->items();
   if (std::exchange(areItemsStale_, false)) {
@@ -165,20 +179,42 @@ void TileFlow::populate() {
       ++index;
     }
   }
+  const int tabStop = reachable_ ? currentIndex() : -1;
   live_.releaseIf([&](const LiveTile& live) {
-    const bool isWanted = wanted.contains(live.index) || live.motion.isMoving();
+    const bool isWanted =
+        wanted.contains(live.index) || live.index == tabStop || live.motion.isMoving();
     return !(isWanted && live.index >= 0) && !live.isHeld();
   });
   QQuickItem* before = nullptr;
-  for (int index = wanted.first; index < wanted.last; ++index) {
-    const Item& item = items.at(index);
-    LiveTile* live = live_.obtain(*section_, item, TileFacts::isBlock(item) ? *block_ : *tile_);
-    if (!live) continue;
-    live->index = index;
-    if (before && !live->isPlaced) live->view->stackAfter(before);
-    before = live->view;
-  }
+  if (tabStop >= 0 && tabStop < wanted.first) before = show(tabStop, before);
+  for (int index = wanted.first; index < wanted.last; ++index) before = show(index, before);
+  if (tabStop >= wanted.last) (void)show(tabStop, before);
   populated_ = wanted;
+}
+
+// Makes the item's view exist, behind the other in the order of the Tab key.
+QQuickItem* TileFlow::show(int index, QQuickItem* before) {
+  const Item& item = section_->items()->items().at(index);
+  QQmlComponent& component = TileFacts::isBlock(item) ? *block_ : *tile_;
+  LiveTile* live = live_.obtain(*section_, item, component, layout_.rect(index).size());
+  if (!live) return before;
+  if (!live->isWatched) {
+    connect(live->view, &QQuickItem::activeFocusChanged, this, &TileFlow::focusMoved);
+    live->isWatched = true;
+  }
+  live->index = index;
+  if (before && !live->isPlaced) live->view->stackAfter(before);
+  if (!TileFacts::isBlock(item)) live->view->setActiveFocusOnTab(item.id == current_);
+  return live->view;
+}
+
+// Where the Tab key leads: the tile that last had the keyboard, else the first one; -1 without any.
+int TileFlow::currentIndex() {
+  const LiveTile* live = live_.find(current_);
+  if (live && live->index >= 0) return live->index;
+  const int first = layout_.neighbour(0, FlowLayout::Direction::first);
+  current_ = first < 0 ? QUuid() : section_->items()->items().at(first).id;
+  return first;
 }
 
 // True if a block isn't as high as it was laid out.
@@ -242,44 +278,29 @@ int TileFlow::focusedIndex() const {
   return index;
 }
 
-void TileFlow::focusTile(int index, Qt::FocusReason reason) {
-  const Item& item = section_->items()->items().at(index);
-  LiveTile* live = live_.obtain(*section_, item, *tile_);
-  if (!live) return;
-  live->index = index;
-  put(*live, layout_.rect(index));
-  current_ = item.id;
-  live->view->forceActiveFocus(reason);
-}
-
 void TileFlow::keyPressEvent(QKeyEvent* event) {
   const int from = focusedIndex();
   const auto direction = directionOf(event->key());
-  event->setAccepted(from >= 0 && !layout_.isBlock(from));
-  if (!event->isAccepted()) return;
-  if (direction) {
-    focusTile(layout_.neighbour(from, *direction), Qt::TabFocusReason);
-  } else {
-    event->setAccepted(event->key() == Qt::Key_Backtab && leaveBackwards());
-  }
+  event->setAccepted(direction && from >= 0 && !layout_.isBlock(from));
+  if (event->isAccepted()) focusTile(layout_.neighbour(from, *direction));
 }
 
-// From a tile, the stop in front of this one: its own would lead back to the tile.
-bool TileFlow::leaveBackwards() {
-  QQuickItem* before = nextItemInFocusChain(false);
-  if (!before || before == this) return false;
-  before->forceActiveFocus(Qt::BacktabFocusReason);
-  return true;
+void TileFlow::focusTile(int index) {
+  (void)show(index, nullptr);
+  LiveTile* live = live_.find(section_->items()->items().at(index).id);
+  if (!live) return;
+  put(*live, layout_.rect(index));
+  live->view->forceActiveFocus(Qt::TabFocusReason);
 }
 
-void TileFlow::focusInEvent(QFocusEvent* event) {
-  QQuickItem::focusInEvent(event);
-  if (event->reason() != Qt::TabFocusReason && event->reason() != Qt::BacktabFocusReason) return;
-  const LiveTile* current = live_.find(current_);
-  const int index = current && current->index >= 0
-                        ? current->index
-                        : layout_.neighbour(0, FlowLayout::Direction::first);
-  if (index >= 0 && layout_.count() > 0) focusTile(index, event->reason());
+// However the keyboard came to it: the tile is where the Tab key leads from now on.
+void TileFlow::focusMoved() {
+  const int index = focusedIndex();
+  if (index < 0 || layout_.isBlock(index)) return;
+  const QUuid before = std::exchange(current_, section_->items()->items().at(index).id);
+  if (before == current_) return;
+  if (const LiveTile* live = live_.find(before)) live->view->setActiveFocusOnTab(false);
+  live_.find(current_)->view->setActiveFocusOnTab(true);
 }
 
 }  // namespace tarnloft

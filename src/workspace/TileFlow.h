@@ -23,6 +23,8 @@ class TileFlow : public QQuickItem {
   // The strip that is seen, in this item's coordinates.
   Q_PROPERTY(qreal viewTop MEMBER viewTop_ WRITE setViewTop NOTIFY viewportChanged)
   Q_PROPERTY(qreal viewHeight MEMBER viewHeight_ WRITE setViewHeight NOTIFY viewportChanged)
+  // Whether the Tab key may come here. If so, the tile at which it stops exists wherever it is.
+  Q_PROPERTY(bool reachable MEMBER reachable_ WRITE setReachable NOTIFY reachableChanged)
   // Whether views move to new places or stand there at once.
   Q_PROPERTY(bool animated MEMBER animated_ NOTIFY animatedChanged)
 
@@ -34,6 +36,7 @@ class TileFlow : public QQuickItem {
   void setSection(SectionModel* section);
   void setViewTop(qreal top);
   void setViewHeight(qreal height);
+  void setReachable(bool reachable);
 
   // Views that exist, those that wait for another item included.
   int liveCount() const { return live_.count(); }
@@ -44,6 +47,7 @@ class TileFlow : public QQuickItem {
   void sectionChanged();
   void viewsChanged();
   void viewportChanged();
+  void reachableChanged();
   void animatedChanged();
   // What stands above the strip turned out to be higher by that much.
   void shifted(qreal by);
@@ -53,7 +57,6 @@ class TileFlow : public QQuickItem {
   void updatePolish() override;
   void geometryChange(const QRectF& now, const QRectF& before) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void focusInEvent(QFocusEvent* event) override;
 
  private:
   class Clock;
@@ -63,28 +66,33 @@ class TileFlow : public QQuickItem {
   void layoutChanged();
   void setOut();
   double blockHeight(int index) const;
+  FlowLayout::Range wantedRange();
   void populate();
   bool measureBlocks();
   void placeViews();
   void put(LiveTile& live, const QRectF& rect);
   void advance(double seconds);
+  QQuickItem* show(int index, QQuickItem* before);
+  int currentIndex();
   int focusedIndex() const;
-  void focusTile(int index, Qt::FocusReason reason);
-  bool leaveBackwards();
+  void focusTile(int index);
+  void focusMoved();
 
   SectionModel* section_ = nullptr;
   QQmlComponent* tile_ = nullptr;
   QQmlComponent* block_ = nullptr;
   qreal viewTop_ = 0;
   qreal viewHeight_ = 0;
+  bool reachable_ = true;
   bool animated_ = true;
   bool isLayoutStale_ = true;
   bool areItemsStale_ = true;
   bool isMoving_ = false;  // the next placing moves views
   FlowLayout layout_;
   FlowLayout::Range populated_;
+  double margin_ = 0;  // beyond the strip that is seen, in which views exist as well
   QHash<QUuid, double> blockHeights_;  // as measured
-  QUuid current_;                      // the tile that the keyboard was on
+  QUuid current_;                      // the one tile that the Tab key stops at
   LiveTiles live_;
   std::unique_ptr<Clock> clock_;
 };

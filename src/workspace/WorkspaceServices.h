@@ -12,7 +12,8 @@
 
 namespace tarnloft {
 
-// What a brand's workspace needs of its surroundings. Borrowed: all of it outlives every workspace.
+// What a brand's workspace needs of its surroundings. Borrowed: all of it outlives every workspace
+// and the pages that show one.
 struct WorkspaceServices {
   LibraryStore& library;
   Preferences& preferences;

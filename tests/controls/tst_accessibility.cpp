@@ -1,7 +1,7 @@
+#include "Stage.h"
+
 #include <QAccessible>
 #include <QGuiApplication>
-
-#include "Stage.h"
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_GalleryPlugin)
@@ -116,11 +116,16 @@ void TestAccessibility::rolesAndNames() {
 void TestAccessibility::pressing_data() {
   QTest::addColumn<QString>("qml");
   QTest::addColumn<QString>("log");
-  QTest::newRow("button") << "Button { text: 'A'; onClicked: log('clicked')" << "clicked";
-  QTest::newRow("switch") << "Switch { accessibleName: 'A'; onToggled: log(checked)" << "true";
-  QTest::newRow("check box") << "CheckBox { text: 'A'; onToggled: log(checked)" << "true";
-  QTest::newRow("row") << "ListRow { text: 'A'; onClicked: log('chosen')" << "chosen";
-  QTest::newRow("selection mark") << "SelectionMark { onClicked: log('marked')" << "marked";
+  QTest::newRow("button") << "Button { text: 'A'; onClicked: log('clicked')"
+                          << "clicked";
+  QTest::newRow("switch") << "Switch { accessibleName: 'A'; onToggled: log(checked)"
+                          << "true";
+  QTest::newRow("check box") << "CheckBox { text: 'A'; onToggled: log(checked)"
+                             << "true";
+  QTest::newRow("row") << "ListRow { text: 'A'; onClicked: log('chosen')"
+                       << "chosen";
+  QTest::newRow("selection mark") << "SelectionMark { onClicked: log('marked')"
+                                  << "marked";
 }
 
 void TestAccessibility::pressing() {

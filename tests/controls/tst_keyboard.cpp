@@ -25,9 +25,11 @@ class TestKeyboard : public QObject {
   void aMenuGoesByArrowsAndLetters();
   void aSubMenuOpensByArrows();
   void aMenuGivesTheFocusBack();
+  void theMenuBarOpensByF10();
   void aPopoverGivesTheFocusBack();
   void aSheetOpenedFromAMenuGivesTheFocusBack();
   void disabledControlsAreSkipped();
+  void anAmpersandIsALetter();
 };
 
 void TestKeyboard::keysDo_data() {
@@ -226,6 +228,21 @@ void TestKeyboard::aSubMenuOpensByArrows() {
   QTRY_COMPARE(stage.log(), QStringLiteral("Dark"));
 }
 
+void TestKeyboard::theMenuBarOpensByF10() {
+  Stage stage(
+      "MenuBar { Menu { title: 'File'; MenuItem { text: 'New'; onTriggered: log(text) } }\n"
+      "Menu { title: 'Edit'; MenuItem { text: 'Undo'; onTriggered: log(text) }\n"
+      "MenuItem { text: 'Redo'; onTriggered: log(text) } } }");
+  stage.press(Qt::Key_F10);
+  QTest::qWait(150);
+  stage.press(Qt::Key_Right);
+  QTest::qWait(150);
+  stage.press(Qt::Key_Down);
+  stage.press(Qt::Key_Down);
+  stage.press(Qt::Key_Return);
+  QTRY_COMPARE(stage.log(), QStringLiteral("Redo"));
+}
+
 void TestKeyboard::aMenuGivesTheFocusBack() {
   Stage stage(menus);
   stage.press(Qt::Key_Tab);
@@ -272,6 +289,13 @@ void TestKeyboard::disabledControlsAreSkipped() {
       "Button { text: 'B'; objectName: 'on' } }");
   stage.press(Qt::Key_Tab);
   QCOMPARE(stage.focused(), QStringLiteral("on"));
+}
+
+void TestKeyboard::anAmpersandIsALetter() {
+  Stage stage("ListRow { text: 'R&D'; onClicked: log('pressed') }");
+  stage.press(Qt::Key_D, Qt::AltModifier);
+  QTest::qWait(50);
+  QCOMPARE(stage.log(), QString());
 }
 
 QTEST_MAIN(TestKeyboard)

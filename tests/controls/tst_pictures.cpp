@@ -1,11 +1,11 @@
+#include "Stage.h"
+#include "platform/controls/RoundedImage.h"
+#include "platform/controls/ShadowProvider.h"
+
 #include <QGuiApplication>
 #include <QQuickAsyncImageProvider>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-
-#include "Stage.h"
-#include "platform/controls/RoundedImage.h"
-#include "platform/controls/ShadowProvider.h"
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
 

@@ -1,7 +1,7 @@
+#include "Stage.h"
+
 #include <QGuiApplication>
 #include <QWheelEvent>
-
-#include "Stage.h"
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
 
@@ -62,9 +62,10 @@ void TestPointer::aTouchpadMovesByPixels() {
 }
 
 void TestPointer::theWheelGoesOnAtTheEnd() {
-  Stage stage(QStringLiteral(
-      "ScrollArea { objectName: 'area'; width: 200; height: 100\n"
-      "  Column { TextEditor { width: 200; height: 100; text: 'a\\nb' } Item { width: 9; height: 300 } } }"));
+  Stage stage(
+      QStringLiteral("ScrollArea { objectName: 'area'; width: 200; height: 100\n"
+                     "  Column { TextEditor { width: 200; height: 100; text: 'a\\nb' } Item { "
+                     "width: 9; height: 300 } } }"));
   wheel(stage, {0, -30}, 0);
   QCOMPARE(scrolled(stage), 30.0);
 }
@@ -87,8 +88,9 @@ void TestPointer::focusIsScrolledIntoView() {
 }
 
 void TestPointer::helpComesAfterAWhile() {
-  Stage stage(QStringLiteral("Rectangle { width: 50; height: 50; Help { objectName: 'help'; delay: 10\n"
-                             "  text: 'Drag to reorder' } }"));
+  Stage stage(
+      QStringLiteral("Rectangle { width: 50; height: 50; Help { objectName: 'help'; delay: 10\n"
+                     "  text: 'Drag to reorder' } }"));
   const auto shown = [&stage] {
     return stage.find("help")->property("tip").value<QObject*>() != nullptr;
   };
@@ -116,8 +118,9 @@ void TestPointer::aRightClickOpensTheContextMenu() {
 }
 
 void TestPointer::aClickOutsideLeavesASheet() {
-  Stage stage(QStringLiteral("Button { objectName: 'under'; text: 'A'; onClicked: log('under') }\n"
-                             "Sheet { objectName: 'sheet'; Item { width: 100; height: 100 } }"));
+  Stage stage(
+      QStringLiteral("Button { objectName: 'under'; text: 'A'; onClicked: log('under') }\n"
+                     "Sheet { objectName: 'sheet'; Item { width: 100; height: 100 } }"));
   QMetaObject::invokeMethod(stage.find("sheet"), "open");
   QTRY_VERIFY(stage.find("sheet")->property("opened").toBool());
   stage.click(stage.find<QQuickItem>("under"));
@@ -137,19 +140,21 @@ void TestPointer::aToastComesAndGoes() {
 }
 
 void TestPointer::aClickChoosesASegment() {
-  Stage stage(QStringLiteral(
-      "SegmentedPicker { objectName: 'picker'; onActivated: index => log(index)\n"
-      "  options: [PickerOption { text: 'A' }, PickerOption { text: 'B' }] }"));
+  Stage stage(
+      QStringLiteral("SegmentedPicker { objectName: 'picker'; onActivated: index => log(index)\n"
+                     "  options: [PickerOption { text: 'A' }, PickerOption { text: 'B' }] }"));
   const auto* picker = stage.find<QQuickItem>("picker");
   for (const qreal share : {0.75, 0.25})
-    QTest::mouseClick(stage.window(), Qt::LeftButton, {},
-                      picker->mapToScene({picker->width() * share, picker->height() / 2}).toPoint());
+    QTest::mouseClick(
+        stage.window(), Qt::LeftButton, {},
+        picker->mapToScene({picker->width() * share, picker->height() / 2}).toPoint());
   QCOMPARE(stage.log(), QStringLiteral("1"));  // the view has not stored it: the first is still on
 }
 
 void TestPointer::theColorPanelRemembersTheHueOfGrey() {
-  Stage stage(QStringLiteral("ColorPanel { objectName: 'panel'; color: '#336699'\n"
-                             "  onPicked: picked => color = picked }"));
+  Stage stage(
+      QStringLiteral("ColorPanel { objectName: 'panel'; color: '#336699'\n"
+                     "  onPicked: picked => color = picked }"));
   auto* panel = stage.find("panel");
   const qreal hue = panel->property("hue").toReal();
   QVERIFY(std::abs(hue - 210.0 / 360) < 0.01);

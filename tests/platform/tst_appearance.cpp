@@ -1,3 +1,5 @@
+#include "platform/desktop/window/DesktopAppearance.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
@@ -5,8 +7,6 @@
 #include <QPalette>
 #include <QSignalSpy>
 #include <QTest>
-
-#include "platform/desktop/window/DesktopAppearance.h"
 
 using namespace tarnloft;
 
@@ -34,8 +34,8 @@ class FakeSettings : public QObject {
 
   void change(uint scheme, const QString& of = group) {
     m_scheme = scheme;
-    auto signal = QDBusMessage::createSignal(path, QStringLiteral("org.freedesktop.portal.Settings"),
-                                             QStringLiteral("SettingChanged"));
+    auto signal = QDBusMessage::createSignal(
+        path, QStringLiteral("org.freedesktop.portal.Settings"), QStringLiteral("SettingChanged"));
     signal << of << key << QVariant::fromValue(QDBusVariant(scheme));
     m_bus.send(signal);
   }

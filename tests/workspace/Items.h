@@ -25,7 +25,8 @@ inline Section sectionOf(const QString& name, std::initializer_list<Item> items)
 inline Section colorSection(const QString& name, int count) {
   Section section = Section::create(name);
   for (int i = 0; i < count; ++i) {
-    section.items.append(colorItem(QString::number(i), QString("#%1").arg(i % 0xffffff, 6, 16, QChar('0'))));
+    section.items.append(
+        colorItem(QString::number(i), QString("#%1").arg(i % 0xffffff, 6, 16, QChar('0'))));
   }
   return section;
 }

@@ -71,13 +71,15 @@ class TestWorkspace {
   TestWorkspace(const QList<Section>& sections, Images& images)
       : loader(images, work), thumbnails(loader) {
     library.add("Acme", sections);
-    open();
+    library.start();
+    makeWorkspace();
   }
   // Of a copy of that package.
   TestWorkspace(const QString& package, Images& images) : loader(images, work), thumbnails(loader) {
     QDir().mkpath(library.folder);
     (void)library.disk.files.copyFolder(package, library.packagePath("Copy"));
-    open();
+    library.start();
+    makeWorkspace();
   }
 
   BrandDocument& document() { return *library.store->openDocument(); }
@@ -95,14 +97,11 @@ class TestWorkspace {
   }
   // Lets what is due in the event loop happen.
   static void turn() { QCoreApplication::processEvents(); }
-
- private:
-  void open() {
-    library.start();
+  // Of the document that is open now.
+  void makeWorkspace() {
     workspace = std::make_unique<BrandWorkspace>(document(), selection, toasts, &undo, services());
   }
 
- public:
   TestLibrary library;
   FakeImages ownImages;
   FakeVideos videos;

@@ -1,8 +1,7 @@
+#include "platform/controls/Spring.h"
 #include "workspace/FlowLayout.h"
 #include "workspace/Items.h"
 #include "workspace/SpringMotion.h"
-
-#include "platform/controls/Spring.h"
 
 #include <QTest>
 

@@ -1,5 +1,5 @@
-#include "workspace/Items.h"
 #include "workspace/GradientView.h"
+#include "workspace/Items.h"
 #include "workspace/Segments.h"
 #include "workspace/TileFacts.h"
 
@@ -36,8 +36,10 @@ Item fontItem(const std::optional<AssetRef>& asset, const std::optional<QString>
 Item logoItem(int variants, const std::optional<ImageBackground>& background = std::nullopt) {
   LogoValue logo{"Mark", {}};
   for (int i = 0; i < variants; ++i) {
-    logo.variants << LogoVariant{QUuid::createUuid(), {QString("%1.png").arg(i), "x.png"},
-                                 i == 1 ? LogoRole::primary : LogoRole::mono, background};
+    logo.variants << LogoVariant{QUuid::createUuid(),
+                                 {QString("%1.png").arg(i), "x.png"},
+                                 i == 1 ? LogoRole::primary : LogoRole::mono,
+                                 background};
   }
   return Item::create(LogoPayload{logo});
 }
@@ -60,29 +62,45 @@ void TestTileFacts::tellsWhatATileSays_data() {
 
   const AssetRef file{"a.ttf", "Work.ttf"};
   QTest::newRow("named colour") << colorItem("Sea", "#a1b2c3") << "#A1B2C3"
-                                << "Click to copy #A1B2C3" << "Color, Sea, hex #a1b2c3";
+                                << "Click to copy #A1B2C3"
+                                << "Color, Sea, hex #a1b2c3";
   QTest::newRow("colour") << Item::create(ColorPayload{{"#a1b2c3", {}, {}}}) << QString()
-                          << "Click to copy #A1B2C3" << "Color, #a1b2c3, hex #a1b2c3";
+                          << "Click to copy #A1B2C3"
+                          << "Color, #a1b2c3, hex #a1b2c3";
   QTest::newRow("gradient") << Item::create(GradientPayload{{{}, 0, "Dawn"}}) << QString() << ""
                             << "Gradient, Dawn";
   QTest::newRow("gradient without a name")
-      << Item::create(GradientPayload{{{}, 0, {}}}) << QString() << "" << "Gradient";
+      << Item::create(GradientPayload{{{}, 0, {}}}) << QString() << ""
+      << "Gradient";
   QTest::newRow("image") << imageItem("Hero") << QString() << "Drag into another app to use"
                          << "Image, Hero";
-  QTest::newRow("video") << videoItem("Spin") << QString() << "" << "Video, Spin";
-  QTest::newRow("font with a file") << fontItem(file, "Bold") << "Bold" << "" << "Type, Work Sans";
-  QTest::newRow("font with a file, of no weight")
-      << fontItem(file, {}) << QString() << "" << "Type, Work Sans";
-  QTest::newRow("name-only font") << fontItem({}, "Bold") << "Bold · name only" << ""
+  QTest::newRow("video") << videoItem("Spin") << QString() << ""
+                         << "Video, Spin";
+  QTest::newRow("font with a file") << fontItem(file, "Bold") << "Bold"
+                                    << ""
+                                    << "Type, Work Sans";
+  QTest::newRow("font with a file, of no weight") << fontItem(file, {}) << QString() << ""
+                                                  << "Type, Work Sans";
+  QTest::newRow("name-only font") << fontItem({}, "Bold") << "Bold · name only"
+                                  << ""
                                   << "Type, Work Sans";
-  QTest::newRow("name-only font of no weight")
-      << fontItem({}, {}) << "Name only" << "" << "Type, Work Sans";
-  QTest::newRow("code") << Item::create(CodePayload{{"css", "a {}", "Reset"}}) << "css" << ""
+  QTest::newRow("name-only font of no weight") << fontItem({}, {}) << "Name only"
+                                               << ""
+                                               << "Type, Work Sans";
+  QTest::newRow("code") << Item::create(CodePayload{{"css", "a {}", "Reset"}}) << "css"
+                        << ""
                         << "Code snippet, Reset";
-  QTest::newRow("empty logo set") << logoItem(0) << "0 variants" << "" << "Logo set, Mark, 0 variants";
-  QTest::newRow("logo set of one") << logoItem(1) << "1 variant" << "" << "Logo set, Mark, 1 variant";
-  QTest::newRow("logo set") << logoItem(3) << "3 variants" << "" << "Logo set, Mark, 3 variants";
-  QTest::newRow("heading") << headerItem("Voice") << QString() << "" << "";
+  QTest::newRow("empty logo set") << logoItem(0) << "0 variants"
+                                  << ""
+                                  << "Logo set, Mark, 0 variants";
+  QTest::newRow("logo set of one") << logoItem(1) << "1 variant"
+                                   << ""
+                                   << "Logo set, Mark, 1 variant";
+  QTest::newRow("logo set") << logoItem(3) << "3 variants"
+                            << ""
+                            << "Logo set, Mark, 3 variants";
+  QTest::newRow("heading") << headerItem("Voice") << QString() << ""
+                           << "";
 }
 
 void TestTileFacts::tellsWhatATileSays() {
@@ -167,10 +185,14 @@ void TestTileFacts::keepsHardEdges() {
 void TestTileFacts::breaksTheGridAtBlocks_data() {
   QTest::addColumn<QString>("kinds");     // b for a block, t for a tile
   QTest::addColumn<QString>("segments");  // b, or the number of tiles
-  QTest::newRow("nothing") << "" << "";
-  QTest::newRow("tiles alone") << "ttt" << "3";
-  QTest::newRow("in between") << "bttbt" << "b 2 b 1";
-  QTest::newRow("blocks in a row") << "bbtb" << "b b 1 b";
+  QTest::newRow("nothing") << ""
+                           << "";
+  QTest::newRow("tiles alone") << "ttt"
+                               << "3";
+  QTest::newRow("in between") << "bttbt"
+                              << "b 2 b 1";
+  QTest::newRow("blocks in a row") << "bbtb"
+                                   << "b b 1 b";
 }
 
 void TestTileFacts::breaksTheGridAtBlocks() {

@@ -169,8 +169,8 @@ void TestWorkspaceModels::clicksSelectOrAct_data() {
 }
 
 void TestWorkspaceModels::clicksSelectOrAct() {
-  TestWorkspace test({sectionOf("A", {colorItem("a"), textItem("b"), colorItem("c"),
-                                      colorItem("d"), colorItem("e")})});
+  TestWorkspace test({sectionOf(
+      "A", {colorItem("a"), textItem("b"), colorItem("c"), colorItem("d"), colorItem("e")})});
   const auto& items = test.stored(0).items;
   test.selection.toggle(items.at(0).id, test.stored(0).id);
   Tile tile(test.section(0), items.at(3));
@@ -234,6 +234,7 @@ void TestWorkspaceModels::chosenFilesAreImported() {
   test.library.dialogs.chosen = {picture};
   test.section(0).importImages();
   QCOMPARE(test.library.dialogs.openTypes, QStringList{"image/*"});
+  QTRY_COMPARE(test.stored(0).items.size(), 1);
   test.section(0).importVideos();
   QCOMPARE(test.library.dialogs.openTypes, QStringList{"video/*"});
   QTRY_COMPARE(test.stored(0).items.size(), 2);

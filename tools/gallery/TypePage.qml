@@ -31,7 +31,7 @@ Page {
             Label { text: "Medium 13"; font: Theme.font(13, Font.Medium) }
             Label { text: "Semibold 13"; font: Theme.font(13, Font.DemiBold) }
             Label { text: "const hex = \"#4C6FFF\""; font: Theme.monospaced(12) }
-            Label { text: "1.0 × 1,024 px · 11:01 · 87 %"; font: Theme.digits(11) }
+            Label { text: "1.0 × 1,024 px · 11:01 · 87 %"; font: Theme.monospaced(11) }
         }
         Column {
             spacing: 6

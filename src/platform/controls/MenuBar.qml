@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Templates as T
 import TarnLoft.Controls
 
-// The window's menus. Alt or F10 and the arrows reach it.
+// The window's menus. F10 opens the first, the arrows go on from there.
 //   MenuBar { Menu { title: "File"; MenuItem { … } } }
 T.MenuBar {
     id: root
@@ -18,6 +18,12 @@ T.MenuBar {
     delegate: MenuBarItem {}
     Accessible.role: Accessible.MenuBar
     Accessible.name: "Menus"
+
+    Shortcut {
+        sequence: "F10"
+        enabled: root.visible && root.count > 0
+        onActivated: (root.itemAt(0) as T.MenuBarItem).triggered()
+    }
 
     contentItem: Row {
         spacing: root.spacing

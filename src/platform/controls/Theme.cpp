@@ -71,6 +71,4 @@ QFont Theme::monospaced(int pixelSize, int weight) {
   return monospacedFont(pixelSize, static_cast<QFont::Weight>(weight));
 }
 
-QFont Theme::digits(int pixelSize, int weight) { return font(pixelSize, weight); }
-
 }  // namespace tarnloft

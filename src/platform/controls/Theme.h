@@ -115,8 +115,6 @@ class Theme : public QObject {
   // The interface's typeface in another size or weight (a value of QML's `Font.Weight`).
   Q_INVOKABLE static QFont font(int pixelSize, int weight = QFont::Normal);
   Q_INVOKABLE static QFont monospaced(int pixelSize, int weight = QFont::Normal);
-  // With digits of one width, for numbers that change or stand in columns.
-  Q_INVOKABLE static QFont digits(int pixelSize, int weight = QFont::Normal);
 
   // Of a control in a `ControlSize`: its height, the radius of its corners and its text.
   Q_INVOKABLE static int controlHeight(int size);

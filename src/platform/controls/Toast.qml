@@ -24,7 +24,8 @@ Item {
     readonly property bool shown: message !== ""
     property string lastMessage: ""
 
-    onMessageChanged: if (shown) lastMessage = message
+    // `shown` may not have followed yet.
+    onMessageChanged: if (message !== "") lastMessage = message
     Component.onCompleted: lastMessage = message
 
     anchors.horizontalCenter: parent?.horizontalCenter

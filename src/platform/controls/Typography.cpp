@@ -4,6 +4,9 @@
 #include <QQuickWindow>
 #include <QStringList>
 
+// Qt documents this function and leaves its declaration to callers.
+void Q_GUI_EXPORT qt_set_sequence_auto_mnemonic(bool enabled);
+
 namespace tarnloft {
 
 namespace {
@@ -50,6 +53,8 @@ void prepareTypography() {
   QGuiApplication::setFont(interfaceFont(body));
   // Glyphs drawn for their size are crisper at 13 pixels than those scaled from one large drawing.
   QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
+  // Else Alt+D would press whatever is named "R&D".
+  qt_set_sequence_auto_mnemonic(false);
 }
 
 }  // namespace tarnloft

@@ -11,8 +11,8 @@ QFont interfaceFont(int pixelSize, QFont::Weight weight = QFont::Normal);
 // For code and other text in columns.
 QFont monospacedFont(int pixelSize, QFont::Weight weight = QFont::Normal);
 
-// Sets the default font and the way that windows draw text. Call it once, after the application
-// object and before the first window.
+// Sets the default font, the way that windows draw text, and that an ampersand in a text is a
+// letter like any other. Call it once, after the application object and before the first window.
 void prepareTypography();
 
 }  // namespace tarnloft

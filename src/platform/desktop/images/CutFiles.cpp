@@ -15,7 +15,8 @@ class Numbers {
 
   quint16 at16(qint64 place) const { return at<quint16>(place); }
   quint32 at32(qint64 place) const { return at<quint32>(place); }
-  bool reaches(qint64 end) const { return end <= file_.size(); }
+  bool reaches(qint64 end) const { return end <= size(); }
+  qint64 size() const { return file_.size(); }
 
  private:
   template <class Number>
@@ -41,7 +42,7 @@ bool isCutBmp(const Numbers& file) {
   if (packing != unpacked && packing != unpackedWithMasks)
     return !file.reaches(pixels + file.at32(34));
   const qint64 row = (width * bitsEach + 31) / 32 * 4;
-  return !file.reaches(pixels + row * height);
+  return !file.reaches(pixels) || (row > 0 && height > (file.size() - pixels) / row);
 }
 
 // The fields without which a picture is read as another one.

@@ -1,0 +1,129 @@
+// A brand of 10,000 tiles beside one of 20, on the offscreen platform: opening, scrolling, memory.
+#include "Ratio.h"
+#include "workspace/Items.h"
+#include "workspace/TestPage.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QQmlComponent>
+#include <QQuickWindow>
+#include <QtQml/qqmlextensionplugin.h>
+
+#include <algorithm>
+#include <cstdio>
+
+Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
+
+using namespace tarnloft;
+
+namespace {
+
+// Of all kinds of tile.
+Section mixedSection(int count) {
+  Section section = Section::create("Mixed");
+  for (int i = 0; i < count; ++i) {
+    const QString name = QString::number(i);
+    section.items.append(i % 3 == 0   ? colorItem(name)
+                         : i % 3 == 1 ? imageItem(name, name + ".png")
+                                      : Item::create(CodePayload{{"css", "a {}", name}}));
+  }
+  return section;
+}
+
+double median(std::vector<double> values) {
+  std::sort(values.begin(), values.end());
+  return values.at(values.size() / 2);
+}
+
+double residentMegabytes() {
+  QFile status("/proc/self/statm");
+  if (!status.open(QIODevice::ReadOnly)) return 0;
+  return status.readAll().split(' ').at(1).toDouble() * 4096 / 1e6;
+}
+
+void open(TestWorkspace& test, TestPage& page, const QString& brand) {
+  page.view.setSource(QUrl());
+  test.workspace.reset();
+  test.library.store->select(test.library.packagePath(brand));
+  test.makeWorkspace();
+  page.show(test);
+}
+
+// From the selection of a brand to its first whole frame, in milliseconds.
+double opening(TestWorkspace& test, TestPage& page, const QString& brand) {
+  open(test, page, "Acme");
+  page.settle();
+  QElapsedTimer clock;
+  clock.start();
+  open(test, page, brand);
+  (void)page.view.grabWindow();
+  return double(clock.nsecsElapsed()) / 1e6;
+}
+
+// The share of frames that took longer than one of 60 a second, scrolling from top to bottom.
+double slowFrames(TestPage& page, int frames) {
+  constexpr double frameTime = 1000.0 / 60;
+  const double end = page.scroll()->property("contentHeight").toDouble() - page.scroll()->height();
+  int slow = 0;
+  QElapsedTimer clock;
+  for (int frame = 1; frame <= frames; ++frame) {
+    clock.start();
+    page.scroll()->setProperty("contentY", std::max(end, 1.0) * frame / frames);
+    QCoreApplication::processEvents();
+    (void)page.view.grabWindow();
+    if (double(clock.nsecsElapsed()) / 1e6 > frameTime) ++slow;
+  }
+  return 100.0 * slow / frames;
+}
+
+int visibleTiles(const TestPage& page) {
+  const auto tiles = page.tiles();
+  return int(std::count_if(tiles.begin(), tiles.end(), [&](QQuickItem* tile) {
+    const double top = tile->mapToItem(page.scroll(), QPointF()).y();
+    return top < page.scroll()->height() && top + tile->height() > 0;
+  }));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QGuiApplication application(argc, argv);
+  TestWorkspace test({});
+  test.library.add("Twenty", {mixedSection(20)});
+  test.library.add("Many", {mixedSection(10000)});
+
+  {
+    TestPage page(test);
+    QTest::qWait(300);
+    const double atRest = residentMegabytes();
+    open(test, page, "Many");
+    QTest::qWait(500);
+    std::printf("memory with 10,000 tiles open: %.1f MB more than with none (aim: at most 60)\n",
+                residentMegabytes() - atRest);
+    printRatio("views that exist / tiles that are seen",
+               double(page.flow().liveCount()) / visibleTiles(page), Aim::atMost, 3);
+  }
+
+  TestPage page(test);
+  std::vector<double> few, many;
+  for (int round = 0; round < 15; ++round) {
+    few.push_back(opening(test, page, "Twenty"));
+    many.push_back(opening(test, page, "Many"));
+  }
+  std::printf("opening: %.1f ms with 20 tiles, %.1f ms with 10,000\n", median(few), median(many));
+  printRatio("opening a brand of 10,000 tiles / of 20", median(many) / median(few), Aim::atMost, 2);
+
+  open(test, page, "Many");
+  QTest::qWait(500);
+  constexpr int frames = 1200;
+  std::printf(
+      "frames over 16.7 ms, scrolling 10,000 tiles in %d frames: %.1f %% (aim: at most 5)\n",
+      frames, slowFrames(page, frames));
+  std::printf("views made: %d\n", page.flow().madeCount());
+  open(test, page, "Twenty");
+  std::printf("the same with 20 tiles: %.1f %%\n", slowFrames(page, frames));
+  return 0;
+}

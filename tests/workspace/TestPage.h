@@ -1,0 +1,99 @@
+#pragma once
+
+#include "platform/controls/Theme.h"
+#include "workspace/DropTarget.h"
+#include "workspace/TestWorkspace.h"
+#include "workspace/TileFlow.h"
+
+#include <QAccessible>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QTest>
+
+namespace tarnloft {
+
+// A brand's page in a window without a display, 1000 by 760 points.
+class TestPage {
+ public:
+  explicit TestPage(TestWorkspace& test) {
+    Theme::of(*view.engine());
+    view.setResizeMode(QQuickView::SizeRootObjectToView);
+    view.resize(1000, 760);
+    show(test);
+    view.show();
+    settle();
+  }
+
+  // A new page for what is open now.
+  void show(TestWorkspace& test) {
+    view.setInitialProperties({{"workspace", QVariant::fromValue(test.workspace.get())}});
+    view.setSource(QUrl("qrc:/qt-project.org/imports/TarnLoft/Workspace/BrandPage.qml"));
+  }
+
+  // Lets two frames pass, so that all that is due has been laid out and drawn.
+  void settle() {
+    for (int frame = 0; frame < 2; ++frame) {
+      QCoreApplication::processEvents();
+      (void)view.grabWindow();
+    }
+  }
+
+  QList<TileFlow*> flows() const {
+    QList<TileFlow*> found;
+    collect(view.rootObject(), found);
+    return found;
+  }
+  TileFlow& flow(int section = 0) const { return *flows().at(section); }
+  // The items that show something, blocks included.
+  QList<QQuickItem*> tiles(int section = 0) const {
+    QList<QQuickItem*> found;
+    for (QQuickItem* child : flow(section).childItems()) {
+      if (child->isVisible() && tileOf(child)) found << child;
+    }
+    return found;
+  }
+  static Tile* tileOf(QQuickItem* shown) { return shown->property("tile").value<Tile*>(); }
+  QQuickItem* tileNamed(const QString& name) const {
+    for (int section = 0; section < flows().size(); ++section) {
+      for (QQuickItem* tile : tiles(section)) {
+        if (tileOf(tile)->name() == name) return tile;
+      }
+    }
+    return nullptr;
+  }
+  QQuickItem* scroll() const { return find("QQuickFlickable", view.rootObject()); }
+
+  // In the window, in the middle of a tile's card.
+  QPoint middleOf(const QString& name) const {
+    return tileNamed(name)->mapToScene({60, 50}).toPoint();
+  }
+  void click(const QString& name, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::mouseClick(&view, Qt::LeftButton, modifiers, middleOf(name));
+  }
+  void key(int key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(&view, Qt::Key(key), modifiers);
+  }
+  // The tile that has the keyboard; empty if none has.
+  QString focused() const {
+    QQuickItem* item = view.activeFocusItem();
+    return item && tileOf(item) ? tileOf(item)->name() : QString();
+  }
+
+  QQuickView view;
+
+ private:
+  static void collect(QQuickItem* item, QList<TileFlow*>& found) {
+    if (auto* flow = qobject_cast<TileFlow*>(item)) found << flow;
+    for (QQuickItem* child : item->childItems()) collect(child, found);
+  }
+  static QQuickItem* find(const char* type, QQuickItem* item) {
+    if (item->inherits(type)) return item;
+    for (QQuickItem* child : item->childItems()) {
+      if (QQuickItem* found = find(type, child)) return found;
+    }
+    return nullptr;
+  }
+};
+
+}  // namespace tarnloft

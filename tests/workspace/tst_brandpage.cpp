@@ -1,0 +1,430 @@
+#include "workspace/Items.h"
+#include "workspace/TestPage.h"
+
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QtQml/qqmlextensionplugin.h>
+
+#include <utility>
+
+Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
+
+using namespace tarnloft;
+
+class TestBrandPage : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() { QTest::failOnWarning(QRegularExpression(".")); }
+  void aClickCopiesAColour();
+  void clicksWithKeysSelect();
+  void theCheckBoxSelects();
+  void keysSelectDeleteAndClear();
+  void tabAndArrowsLeadThroughTiles();
+  void returnAndSpaceAct();
+  void namesOfSectionsAreEdited();
+  void blocksAreEditedInPlace();
+  void aDragStartsFromTheCard();
+  void tilesTakeItemsAndSectionsAllElse();
+  void blocksTakeItems();
+  void anEmptySectionTakesDropsAndHints();
+  void aSearchTakesSectionsOffThePage();
+  void picturesAreAskedForAtTheSizeOfTheScreen();
+  void aBrokenPictureTellsSo();
+  void assistiveTechnologyFindsEverything();
+  void sectionsComeGoAndMove();
+  void aNewSectionIsTheWindowsBusiness();
+};
+
+namespace {
+
+QMimeData* files(const QStringList& paths) {
+  auto* data = new QMimeData;
+  QList<QUrl> urls;
+  for (const QString& path : paths) urls << QUrl::fromLocalFile(path);
+  data->setUrls(urls);
+  return data;
+}
+
+// A drag that another program or the page itself began, by hand.
+class HandDrag {
+ public:
+  HandDrag(QQuickView& view, QMimeData* data) : view_(view), data_(data) {}
+
+  bool hover(const QPoint& at) {
+    if (!isInside_) {
+      QDragEnterEvent enter(at, Qt::CopyAction, data_.get(), Qt::LeftButton, {});
+      QCoreApplication::sendEvent(&view_, &enter);
+    }
+    isInside_ = true;
+    QDragMoveEvent move(at, Qt::CopyAction, data_.get(), Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&view_, &move);
+    return move.isAccepted();
+  }
+  bool drop(const QPoint& at) {
+    (void)hover(at);
+    QDropEvent event(at, Qt::CopyAction, data_.get(), Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&view_, &event);
+    return event.isAccepted();
+  }
+  void leave() {
+    QDragLeaveEvent event;
+    QCoreApplication::sendEvent(&view_, &event);
+  }
+
+ private:
+  QQuickView& view_;
+  std::unique_ptr<QMimeData> data_;
+  bool isInside_ = false;
+};
+
+// Everything that assistive technology finds in the window, in order.
+void collect(QAccessibleInterface* node, QList<QAccessibleInterface*>& found) {
+  for (int i = 0; i < node->childCount(); ++i) {
+    QAccessibleInterface* child = node->child(i);
+    if (!child || child->state().invisible) continue;
+    found << child;
+    collect(child, found);
+  }
+}
+
+QList<QAccessibleInterface*> accessibles(TestPage& page) {
+  QList<QAccessibleInterface*> found;
+  collect(QAccessible::queryAccessibleInterface(&page.view), found);
+  return found;
+}
+
+QAccessibleInterface* accessible(TestPage& page, QAccessible::Role role, const QString& name) {
+  for (QAccessibleInterface* one : accessibles(page)) {
+    if (one->role() == role && one->text(QAccessible::Name) == name) return one;
+  }
+  return nullptr;
+}
+
+QString copied(const TestWorkspace& test) { return test.pasteboard.texts.join('|'); }
+
+QString selectedNames(TestWorkspace& test) {
+  QString names;
+  for (const Section& section : test.document().brand().sections) {
+    for (const Item& item : section.items) {
+      if (test.selection.contains(item.id, section.id)) names += item.displayName();
+    }
+  }
+  return names;
+}
+
+QMimeData* ownDrag(TestWorkspace& test, TestPage& page, const QString& name) {
+  QQuickItem* tile = page.tileNamed(name);
+  TestPage::tileOf(tile)->drag(tile, {});
+  return new DragData(test.drags.items);
+}
+
+}  // namespace
+
+void TestBrandPage::aClickCopiesAColour() {
+  TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), imageItem("b")})});
+  TestPage page(test);
+  page.click("a");
+  QCOMPARE(copied(test), "#FF0000");
+  QCOMPARE(test.toasts.message(), "Copied #FF0000");
+  page.click("b");
+  QCOMPARE(test.pasteboard.texts.size(), 1);
+}
+
+void TestBrandPage::clicksWithKeysSelect() {
+  TestWorkspace test({sectionOf("A", {colorItem("a"), colorItem("b"), colorItem("c")}),
+                      sectionOf("B", {colorItem("x")})});
+  TestPage page(test);
+  page.click("a", Qt::ControlModifier);
+  page.click("c", Qt::ShiftModifier);
+  QCOMPARE(selectedNames(test), "abc");
+  page.click("x", Qt::ControlModifier);
+  QCOMPARE(selectedNames(test), "x");
+  QCOMPARE(copied(test), "");
+  page.click("b");
+  QCOMPARE(selectedNames(test), "");
+}
+
+void TestBrandPage::theCheckBoxSelects() {
+  TestWorkspace test(
+      {sectionOf("A", {colorItem("a"), colorItem("b")}), sectionOf("B", {colorItem("x")})});
+  TestPage page(test);
+  const auto boxes = [&] {
+    QStringList names;
+    for (QAccessibleInterface* one : accessibles(page)) {
+      if (one->role() == QAccessible::CheckBox) names << one->text(QAccessible::Name);
+    }
+    return names;
+  };
+  QCOMPARE(boxes(), QStringList());
+  QTest::mouseMove(&page.view, page.middleOf("a"));
+  QTRY_COMPARE(boxes(), QStringList{"Select"});
+  const QPoint box = page.tileNamed("a")->mapToScene({16, 16}).toPoint();
+  QTest::mouseMove(&page.view, box);
+  QTest::mouseClick(&page.view, Qt::LeftButton, {}, box);
+  QCOMPARE(selectedNames(test), "a");
+  QCOMPARE(copied(test), "");
+  page.settle();
+  QCOMPARE(boxes(), (QStringList{"Deselect", "Select"}));  // on all of the section, and no other
+}
+
+void TestBrandPage::keysSelectDeleteAndClear() {
+  TestWorkspace test({sectionOf("A", {textItem("t"), colorItem("a"), colorItem("b")}),
+                      sectionOf("B", {colorItem("x")})});
+  TestPage page(test);
+  page.key(Qt::Key_Delete);
+  QCOMPARE(test.names(0).size(), 3);
+  page.key(Qt::Key_A, Qt::ControlModifier);
+  QCOMPARE(selectedNames(test), "ab");
+  page.key(Qt::Key_Escape);
+  QCOMPARE(selectedNames(test), "");
+  page.click("a", Qt::ControlModifier);
+  page.key(Qt::Key_Delete);
+  QCOMPARE(test.names(0), (QStringList{"t", "b"}));
+  QCOMPARE(test.toasts.message(), "Deleted 1 item · ⌘Z to undo");
+  test.undo.undo();
+  QCOMPARE(test.names(0).size(), 3);
+}
+
+void TestBrandPage::tabAndArrowsLeadThroughTiles() {
+  Section section = colorSection("A", 100);
+  section.items.insert(0, headerItem("Heading"));
+  TestWorkspace test({section, sectionOf("B", {colorItem("x")})});
+  TestPage page(test);
+  const auto steps = [&](std::initializer_list<int> keys) {
+    for (const int key : keys) page.key(key);
+    return page.focused();
+  };
+  QString found;
+  for (int tabs = 0; tabs < 10 && found.isEmpty(); ++tabs) found = steps({Qt::Key_Tab});
+  QCOMPARE(found, "0");
+  QCOMPARE(steps({Qt::Key_Right, Qt::Key_Right}), "2");
+  QCOMPARE(steps({Qt::Key_Down, Qt::Key_Left}), "7");
+  QCOMPARE(steps({Qt::Key_Up, Qt::Key_Up}), "1");
+  QCOMPARE(steps({Qt::Key_End}), "99");
+  QQuickItem* last = page.tileNamed("99");
+  const double y = last->mapToItem(page.scroll(), QPointF()).y();
+  QVERIFY(y >= 0 && y + last->height() <= page.scroll()->height());
+  QCOMPARE(steps({Qt::Key_Home}), "0");
+  QVERIFY(steps({Qt::Key_Backtab}).isEmpty());
+  QCOMPARE(steps({Qt::Key_Tab}), "0");
+}
+
+void TestBrandPage::returnAndSpaceAct() {
+  TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), colorItem("b")})});
+  TestPage page(test);
+  page.click("a", Qt::ControlModifier);
+  page.key(Qt::Key_Return);
+  QCOMPARE(copied(test), "#FF0000");
+  page.key(Qt::Key_Space, Qt::ControlModifier);
+  QCOMPARE(selectedNames(test), "a");
+  page.key(Qt::Key_Right);
+  page.key(Qt::Key_Space, Qt::ShiftModifier);
+  QCOMPARE(selectedNames(test), "ab");
+}
+
+void TestBrandPage::namesOfSectionsAreEdited() {
+  TestWorkspace test({sectionOf("A", {colorItem("a")})});
+  TestPage page(test);
+  auto* field = accessible(page, QAccessible::EditableText, "Section name");
+  QVERIFY(field);
+  QTest::mouseClick(&page.view, Qt::LeftButton, {}, {60, 76});
+  page.key(Qt::Key_End);
+  for (const char key : "bc") {
+    if (key) QTest::keyClick(&page.view, key);
+  }
+  QCOMPARE(test.stored(0).name, "Abc");
+  page.key(Qt::Key_A, Qt::ControlModifier);  // the field's own text, not the tiles
+  QCOMPARE(selectedNames(test), "");
+  page.key(Qt::Key_Delete);
+  QCOMPARE(test.stored(0).name, "");
+}
+
+void TestBrandPage::blocksAreEditedInPlace() {
+  TestWorkspace test({sectionOf("A", {textItem("calm"), headerItem("Voice", 2)})});
+  TestPage page(test);
+  const auto typeInto = [&](const QString& name) {
+    QTest::mouseClick(&page.view, Qt::LeftButton, {},
+                      page.tileNamed(name)->mapToScene({5, 8}).toPoint());
+    page.key(Qt::Key_End);
+    QTest::keyClick(&page.view, '!');
+  };
+  typeInto("calm");
+  QCOMPARE(test.names(0).first(), "calm!");
+  page.key(Qt::Key_Return);
+  QTest::keyClick(&page.view, 'x');
+  page.settle();
+  QCOMPARE(test.names(0).first(), "calm!\nx");
+  typeInto("Voice");
+  QVERIFY(test.stored(0).items.at(1).payload == ItemPayload(HeaderPayload{"Voice!", 2}));
+  QTest::mouseMove(&page.view, page.tileNamed("calm!\nx")->mapToScene({300, 5}).toPoint());
+  page.settle();
+  auto* remove = accessible(page, QAccessible::Button, "Delete text");
+  QVERIFY(remove);
+  remove->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  QCOMPARE(test.names(0), QStringList{"Voice!"});
+}
+
+void TestBrandPage::aDragStartsFromTheCard() {
+  TestWorkspace test({sectionOf("A", {imageItem("Hero", "h.png"), colorItem("b")})});
+  QVERIFY(writeFile(Package::assetsPath(test.document().packageURL()) + "/h.png", "picture"));
+  TestPage page(test);
+  const QPoint from = page.middleOf("Hero");
+  QTest::mousePress(&page.view, Qt::LeftButton, {}, from);
+  for (int step = 1; step <= 5; ++step) {
+    QTest::mouseMove(&page.view, from + QPoint(4 * step, 2 * step));
+  }
+  QTest::mouseRelease(&page.view, Qt::LeftButton, {}, from + QPoint(20, 10));
+  QCOMPARE(test.drags.items.size(), 1);
+  QCOMPARE(QFileInfo(*test.drags.items.first().file).fileName(), "Client h.png");
+  const QQuickItem* tile = page.tileNamed("Hero");
+  QCOMPARE(test.drags.hotSpot, tile->mapFromScene(from).toPoint());
+  QCOMPARE(test.drags.picture.deviceIndependentSize().toSize(), QSize(int(tile->width()), 96));
+  QCOMPARE(copied(test), "");
+}
+
+void TestBrandPage::tilesTakeItemsAndSectionsAllElse() {
+  TestWorkspace test({sectionOf("A", {colorItem("a"), colorItem("b"), colorItem("c")}),
+                      sectionOf("B", {colorItem("x")})});
+  TestPage page(test);
+  HandDrag own(page.view, ownDrag(test, page, "c"));
+  QVERIFY(own.hover(page.middleOf("a")));
+  QVERIFY(page.tileNamed("a")->findChild<DropTarget*>()->isTargeted());
+  QVERIFY(own.drop(page.middleOf("a")));
+  QTRY_COMPARE(test.names(0), (QStringList{"c", "a", "b"}));
+  page.settle();
+
+  const QString path = test.library.disk.path("Hero.png");
+  QVERIFY(writeFile(path, "p"));
+  HandDrag foreign(page.view, files({path}));
+  QVERIFY(foreign.hover(page.middleOf("x")));
+  QVERIFY(!page.tileNamed("x")->findChild<DropTarget*>()->isTargeted());
+  QVERIFY(!foreign.hover({500, 20}));  // the title
+  foreign.leave();
+  QVERIFY(foreign.drop(page.middleOf("x")));
+  QTRY_COMPARE(test.names(1), (QStringList{"x", "Hero"}));
+}
+
+void TestBrandPage::blocksTakeItems() {
+  TestWorkspace test({sectionOf("A", {headerItem("h"), colorItem("a"), colorItem("b")})});
+  TestPage page(test);
+  HandDrag own(page.view, ownDrag(test, page, "b"));
+  QVERIFY(own.drop(page.tileNamed("h")->mapToScene({400, 5}).toPoint()));
+  QTRY_COMPARE(test.names(0), (QStringList{"b", "h", "a"}));
+}
+
+void TestBrandPage::anEmptySectionTakesDropsAndHints() {
+  TestWorkspace test({sectionOf("A", {}), sectionOf("B", {colorItem("x")})});
+  TestPage page(test);
+  const QString hint = "Drop images here, or use ＋ to add colors, type, and more.";
+  QVERIFY(accessible(page, QAccessible::StaticText, hint));
+  HandDrag own(page.view, ownDrag(test, page, "x"));
+  QVERIFY(own.drop({500, 125}));
+  QTRY_COMPARE(test.names(0), QStringList{"x"});
+  page.settle();
+  QVERIFY(accessible(page, QAccessible::StaticText, hint));  // now of the other one
+}
+
+void TestBrandPage::aSearchTakesSectionsOffThePage() {
+  TestWorkspace test({sectionOf("A", {colorItem("Sea"), colorItem("Sand")}),
+                      sectionOf("B", {colorItem("Stone")})});
+  TestPage page(test);
+  test.workspace->setSearchText("sea");
+  page.settle();
+  QVERIFY(page.tileNamed("Sea") && !page.tileNamed("Sand"));
+  QVERIFY(accessible(page, QAccessible::Grouping, "A"));
+  QVERIFY(!accessible(page, QAccessible::Grouping, "B"));
+}
+
+void TestBrandPage::picturesAreAskedForAtTheSizeOfTheScreen() {
+  TestWorkspace test({sectionOf("A", {imageItem("a", "a.png"), videoItem("v", "v.mp4")})});
+  TestPage page(test);
+  QTRY_VERIFY(!test.ownImages.asked.isEmpty());
+  QCOMPARE(test.ownImages.asked, QList<int>{192});  // 139 points across, in steps of 64
+  QTRY_COMPARE(test.videos.askedSeconds, 0.1);
+  page.settle();
+  const QImage shown = page.view.grabWindow();
+  QCOMPARE(shown.pixelColor(page.middleOf("a") + QPoint(10, 0)), QColor(Qt::red));
+  const QPoint corner = page.tileNamed("v")->mapToScene({1, 1}).toPoint();
+  QVERIFY(shown.pixelColor(corner) != QColor(Qt::blue));  // cut round
+  QCOMPARE(shown.pixelColor(corner + QPoint(20, 20)), QColor(Qt::blue));
+}
+
+void TestBrandPage::aBrokenPictureTellsSo() {
+  TestWorkspace test(
+      {sectionOf("A", {imageItem("a", "broken.png"), videoItem("v", "broken.mp4")})});
+  TestPage page(test);
+  QTRY_VERIFY(accessible(page, QAccessible::StaticText, "Couldn't load"));
+  QCOMPARE(
+      accessible(page, QAccessible::StaticText, "Couldn't load")->text(QAccessible::Description),
+      "Couldn't load “a” — the file may be corrupt. Re-import it.");
+}
+
+void TestBrandPage::assistiveTechnologyFindsEverything() {
+  TestWorkspace test(
+      {sectionOf("Logos", {headerItem("Heading"), textItem("Words"), colorItem("Sea", "#123456"),
+                           imageItem("Hero"), videoItem("Spin")})});
+  TestPage page(test);
+  QVERIFY(accessible(page, QAccessible::Heading, "Acme"));
+  QVERIFY(accessible(page, QAccessible::Grouping, "Logos"));
+  QVERIFY(accessible(page, QAccessible::List, "Logos"));
+  QVERIFY(accessible(page, QAccessible::Button, "Add content to this section"));
+  QVERIFY(accessible(page, QAccessible::Button, "Section options"));
+  auto* sea = accessible(page, QAccessible::ListItem, "Sea");
+  QVERIFY(sea && sea->state().selectable && sea->state().focusable && !sea->state().selected);
+  QCOMPARE(sea->text(QAccessible::Description), "Color, Sea, hex #123456");
+  sea->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  QCOMPARE(copied(test), "#123456");
+  page.click("Sea", Qt::ControlModifier);
+  QVERIFY(sea->state().selected && sea->state().focused);
+  for (QAccessibleInterface* one : accessibles(page)) {
+    const bool needsName =
+        one->role() != QAccessible::Client && one->role() != QAccessible::Grouping;
+    QVERIFY2(!needsName || !one->text(QAccessible::Name).isEmpty(),
+             qPrintable(QString("role %1").arg(one->role())));
+  }
+}
+
+void TestBrandPage::sectionsComeGoAndMove() {
+  TestWorkspace test({sectionOf("A", {colorItem("a"), textItem("t")}), sectionOf("B", {}),
+                      sectionOf("C", {colorItem("c")})});
+  TestPage page(test);
+  const auto order = [&] {
+    page.settle();
+    QList<TileFlow*> lists = page.flows();
+    std::sort(lists.begin(), lists.end(), [](TileFlow* a, TileFlow* b) {
+      return a->mapToScene({}).y() < b->mapToScene({}).y();
+    });
+    QString names;
+    for (TileFlow* list : lists) names += list->section()->name();
+    return names;
+  };
+  QCOMPARE(order(), "ABC");
+  test.section(2).moveUp();
+  QCOMPARE(order(), "ACB");
+  test.section(0).remove();
+  QCOMPARE(order(), "CB");
+  test.workspace->addSection("D");
+  QCOMPARE(order(), "CBD");
+}
+
+void TestBrandPage::aNewSectionIsTheWindowsBusiness() {
+  TestWorkspace test({sectionOf("A", {})});
+  TestPage page(test);
+  QSignalSpy asked(page.view.rootObject(), SIGNAL(addSectionRequested()));
+  accessible(page, QAccessible::Button, "Add Section")
+      ->actionInterface()
+      ->doAction(QAccessibleActionInterface::pressAction());
+  QCOMPARE(asked.count(), 1);
+}
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QGuiApplication application(argc, argv);
+  QAccessible::setActive(true);
+  TestBrandPage test;
+  return QTest::qExec(&test, argc, argv);
+}
+#include "tst_brandpage.moc"
