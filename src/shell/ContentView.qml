@@ -82,8 +82,14 @@ FocusScope {
         }
     }
 
-    ToastView {
-        message: root.content.toast
+    LazyItem {
+        anchors.fill: parent
+        active: root.content.toast !== "" || item !== null // from the first one on
+        sourceComponent: Item {
+            ToastView {
+                message: root.content.toast
+            }
+        }
     }
 
     LazySheet {

@@ -17,30 +17,20 @@ MenuBar {
 
     background: null
 
-    Menu {
+    CommandMenu {
         title: "File"
-
-        CommandItem { command: root.commands.newBrand }
-        MenuSeparator {}
-        CommandItem { command: root.commands.importBrand }
-        CommandItem { command: root.commands.exportBrand }
-        CommandItem { command: root.commands.exportBrandPage }
-        MenuSeparator {}
-        CommandItem { command: root.commands.closeWindow }
-        CommandItem { command: root.commands.quit }
+        commands: [root.commands.newBrand, null, root.commands.importBrand, root.commands.exportBrand,
+            root.commands.exportBrandPage, null, root.commands.closeWindow, root.commands.quit]
     }
 
-    Menu {
+    CommandMenu {
         title: "Edit"
-
-        CommandItem { command: root.commands.undoStep }
-        CommandItem { command: root.commands.redoStep }
+        commands: [root.commands.undoStep, root.commands.redoStep]
     }
 
-    Menu {
+    CommandMenu {
         title: "Insert"
-
-        CommandItem { command: root.commands.pickColor }
+        commands: [root.commands.pickColor]
     }
 
     Shortcut {

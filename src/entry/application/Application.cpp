@@ -3,6 +3,7 @@
 #include "entry/media/LateMedia.h"
 #include "entry/selftest/SelfTest.h"
 #include "platform/controls/Typography.h"
+#include "platform/controls/symbols/SymbolFont.h"
 #include "platform/desktop/PosixFileStore.h"
 #include "platform/desktop/Syslog.h"
 #include "platform/desktop/instance/RunningInstance.h"
@@ -28,6 +29,7 @@ int fail(const char* reason) {
 
 int runWindows(RunningInstance& instance) {
   prepareTypography();
+  symbols::fontFamily();  // a font that comes later makes all texts be laid out again
   WindowApplication windows;
   QObject::connect(&instance, &RunningInstance::showRequested, &windows,
                    &WindowApplication::showMainWindow);
