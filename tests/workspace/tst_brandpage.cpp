@@ -30,6 +30,7 @@ class TestBrandPage : public QObject {
   void tilesTakeItemsAndSectionsAllElse();
   void blocksTakeItems();
   void anEmptySectionTakesDropsAndHints();
+  void aDropAtTheEndDoesNotScroll();
   void aSearchTakesSectionsOffThePage();
   void picturesAreAskedForAtTheSizeOfTheScreen();
   void aBrokenPictureTellsSo();
@@ -325,6 +326,19 @@ void TestBrandPage::anEmptySectionTakesDropsAndHints() {
   QTRY_COMPARE(test.names(0), QStringList{"x"});
   page.settle();
   QVERIFY(accessible(page, QAccessible::StaticText, hint));  // now of the other one
+}
+
+void TestBrandPage::aDropAtTheEndDoesNotScroll() {
+  TestWorkspace test({colorSection("A", 60), sectionOf("B", {})});
+  TestPage page(test);
+  const double end = page.scroll()->property("contentHeight").toDouble() - page.scroll()->height();
+  QVERIFY(end > 0);
+  page.scroll()->setProperty("contentY", end);
+  page.settle();
+  test.document().addItem(colorItem("new"), test.stored(1).id);
+  page.settle();
+  QVERIFY(page.tileNamed("new"));
+  QCOMPARE(page.scroll()->property("contentY").toDouble(), end);
 }
 
 void TestBrandPage::aSearchTakesSectionsOffThePage() {
