@@ -58,6 +58,11 @@ FocusScope {
         z: 1
     }
 
+    DragScroll {
+        anchors.fill: scroll
+        flickable: scroll
+    }
+
     ScrollArea {
         id: scroll
 

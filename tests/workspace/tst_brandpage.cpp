@@ -31,6 +31,7 @@ class TestBrandPage : public QObject {
   void blocksTakeItems();
   void anEmptySectionTakesDropsAndHints();
   void aDropAtTheEndDoesNotScroll();
+  void aDragAtTheEdgeScrolls();
   void aSearchTakesSectionsOffThePage();
   void picturesAreAskedForAtTheSizeOfTheScreen();
   void aBrokenPictureTellsSo();
@@ -339,6 +340,26 @@ void TestBrandPage::aDropAtTheEndDoesNotScroll() {
   page.settle();
   QVERIFY(page.tileNamed("new"));
   QCOMPARE(page.scroll()->property("contentY").toDouble(), end);
+}
+
+void TestBrandPage::aDragAtTheEdgeScrolls() {
+  TestWorkspace test({colorSection("A", 200)});
+  TestPage page(test);
+  const auto position = [&] { return page.scroll()->property("contentY").toDouble(); };
+  HandDrag drag(page.view, ownDrag(test, page, "0"));
+  (void)drag.hover({500, 400});
+  QTest::qWait(100);
+  QCOMPARE(position(), 0);
+  (void)drag.hover({500, 755});
+  QTRY_VERIFY(position() > 100);
+  (void)drag.hover({500, 70});
+  QTRY_COMPARE(position(), 0);
+  (void)drag.hover({500, 755});
+  QTRY_VERIFY(position() > 0);
+  drag.leave();
+  const double left = position();
+  QTest::qWait(100);
+  QCOMPARE(position(), left);
 }
 
 void TestBrandPage::aSearchTakesSectionsOffThePage() {
