@@ -50,6 +50,19 @@ FocusScope {
         Accessible.role: Accessible.Heading
     }
 
+    Divider {
+        anchors.top: scroll.top
+        width: parent.width
+        opacity: Math.max(0, Math.min(1, scroll.contentY / 12))
+        Accessible.ignored: true
+        z: 1
+    }
+
+    DragScroll {
+        anchors.fill: scroll
+        flickable: scroll
+    }
+
     ScrollArea {
         id: scroll
 

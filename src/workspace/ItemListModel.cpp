@@ -6,9 +6,11 @@ namespace tarnloft {
 
 void ItemListModel::setItems(const SharedList<Item>& items) {
   const int before = count();
-  for (const ListChange& change : listDifference(items_, items)) apply(change, items);
+  const auto changes = listDifference(items_, items);
+  for (const ListChange& change : changes) apply(change, items);
   items_ = items;  // the same list, in the runs that its other holders share
   if (count() != before) emit countChanged();
+  if (!changes.isEmpty()) emit updated();
 }
 
 void ItemListModel::apply(const ListChange& change, const SharedList<Item>& target) {

@@ -35,6 +35,7 @@ class ItemListModel : public QAbstractListModel {
 
  signals:
   void countChanged();
+  void updated();  // after all rows of a new value
 
  private:
   void apply(const struct ListChange& change, const SharedList<Item>& target);

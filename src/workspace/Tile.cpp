@@ -111,12 +111,16 @@ void Tile::click(int modifiers) {
 void Tile::toggleSelected() { workspace()->selection().toggle(item_.id, section_.id()); }
 
 void Tile::drag(QQuickItem* view, const QPointF& at) {
-  const QImage picture = pictureOf(*view);
   const Item item = item_;
   const QPointer<Tile> self(this);  // whole turns of the event loop pass until the drag has ended
-  isDragged_ = true;
-  workspace()->drag(item, {picture, at.toPoint()});
-  if (self) isDragged_ = false;
+  setDragged(true);                 // which takes the marks of hovering off the picture
+  workspace()->drag(item, {pictureOf(*view), at.toPoint()});
+  if (self) setDragged(false);
+}
+
+void Tile::setDragged(bool dragged) {
+  isDragged_ = dragged;
+  emit draggedChanged();
 }
 
 void Tile::setText(const QString& text) {

@@ -38,6 +38,7 @@ class Tile : public QObject {
   Q_PROPERTY(int level READ level NOTIFY changed)    // of a heading
   Q_PROPERTY(bool selected READ isSelected NOTIFY selectionChanged)
   Q_PROPERTY(bool sectionSelected READ isSectionSelected NOTIFY selectionChanged)
+  Q_PROPERTY(bool dragged READ isDragged NOTIFY draggedChanged)
 
  public:
   // The section and its workspace outlive it.
@@ -81,8 +82,11 @@ class Tile : public QObject {
  signals:
   void changed();
   void selectionChanged();
+  void draggedChanged();
 
  private:
+  void setDragged(bool dragged);
+
   SectionModel& section_;
   Item item_;
   bool isDragged_ = false;

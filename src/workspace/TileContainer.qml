@@ -12,6 +12,7 @@ Item {
     required property Tile tile
 
     readonly property bool focused: activeFocus && FocusOrigin.keyboard
+    readonly property bool hovering: hover.hovered && !tile.dragged
 
     Accessible.role: Accessible.ListItem
     Accessible.name: tile.name
@@ -43,7 +44,7 @@ Item {
         width: parent.width
         height: root.tile.workspace.tileHeight
         tile: root.tile
-        hovering: hover.hovered
+        hovering: root.hovering
 
         FocusRing {
             shown: root.focused
@@ -84,7 +85,7 @@ Item {
     LazyItem {
         x: 6
         y: 6
-        active: hover.hovered || root.tile.selected || root.tile.sectionSelected || root.focused
+        active: root.hovering || root.tile.selected || root.tile.sectionSelected || root.focused
         sourceComponent: SelectionMark {
             selected: root.tile.selected
             checkable: true // which makes it a check box for assistive technology
@@ -113,7 +114,7 @@ Item {
 
     LazyItem {
         anchors.fill: card
-        active: hover.hovered && root.tile.help !== ""
+        active: root.hovering && root.tile.help !== ""
         sourceComponent: Help {
             text: root.tile.help
             shown: cardHover.hovered

@@ -76,11 +76,7 @@ void TileFlow::setSection(SectionModel* section) {
 }
 
 void TileFlow::watch(const ItemListModel& items) {
-  using Model = QAbstractItemModel;
-  connect(&items, &Model::rowsInserted, this, &TileFlow::itemsChanged);
-  connect(&items, &Model::rowsRemoved, this, &TileFlow::itemsChanged);
-  connect(&items, &Model::rowsMoved, this, &TileFlow::itemsChanged);
-  connect(&items, &Model::dataChanged, this, &TileFlow::itemsChanged);
+  connect(&items, &ItemListModel::updated, this, &TileFlow::itemsChanged);
   connect(section_->workspace(), &BrandWorkspace::metricsChanged, this, &TileFlow::layoutChanged);
 }
 
@@ -112,10 +108,12 @@ void TileFlow::geometryChange(const QRectF& now, const QRectF& before) {
   if (now.width() != before.width()) layoutChanged();
 }
 
+// The height follows at once, so that the page isn't lower for a moment and scrolls.
 void TileFlow::itemsChanged() {
   areItemsStale_ = true;
   isMoving_ = animated_;
-  layoutChanged();
+  setOut();
+  polish();
 }
 
 void TileFlow::layoutChanged() {

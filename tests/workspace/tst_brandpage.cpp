@@ -30,6 +30,8 @@ class TestBrandPage : public QObject {
   void tilesTakeItemsAndSectionsAllElse();
   void blocksTakeItems();
   void anEmptySectionTakesDropsAndHints();
+  void aDropAtTheEndDoesNotScroll();
+  void aDragAtTheEdgeScrolls();
   void aSearchTakesSectionsOffThePage();
   void picturesAreAskedForAtTheSizeOfTheScreen();
   void aBrokenPictureTellsSo();
@@ -325,6 +327,39 @@ void TestBrandPage::anEmptySectionTakesDropsAndHints() {
   QTRY_COMPARE(test.names(0), QStringList{"x"});
   page.settle();
   QVERIFY(accessible(page, QAccessible::StaticText, hint));  // now of the other one
+}
+
+void TestBrandPage::aDropAtTheEndDoesNotScroll() {
+  TestWorkspace test({colorSection("A", 60), sectionOf("B", {})});
+  TestPage page(test);
+  const double end = page.scroll()->property("contentHeight").toDouble() - page.scroll()->height();
+  QVERIFY(end > 0);
+  page.scroll()->setProperty("contentY", end);
+  page.settle();
+  test.document().addItem(colorItem("new"), test.stored(1).id);
+  page.settle();
+  QVERIFY(page.tileNamed("new"));
+  QCOMPARE(page.scroll()->property("contentY").toDouble(), end);
+}
+
+void TestBrandPage::aDragAtTheEdgeScrolls() {
+  TestWorkspace test({colorSection("A", 200)});
+  TestPage page(test);
+  const auto position = [&] { return page.scroll()->property("contentY").toDouble(); };
+  HandDrag drag(page.view, ownDrag(test, page, "0"));
+  (void)drag.hover({500, 400});
+  QTest::qWait(100);
+  QCOMPARE(position(), 0);
+  (void)drag.hover({500, 755});
+  QTRY_VERIFY(position() > 100);
+  (void)drag.hover({500, 70});
+  QTRY_COMPARE(position(), 0);
+  (void)drag.hover({500, 755});
+  QTRY_VERIFY(position() > 0);
+  drag.leave();
+  const double left = position();
+  QTest::qWait(100);
+  QCOMPARE(position(), left);
 }
 
 void TestBrandPage::aSearchTakesSectionsOffThePage() {

@@ -1,0 +1,32 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Workspace
+
+// Scrolls a page on while a drag waits near its upper or lower edge.
+//   DragScroll { anchors.fill: scroll; flickable: scroll }
+DragWatch {
+    id: root
+
+    required property Flickable flickable
+    property real edge: 48 // points from the edge
+    property real fastest: 900 // points a second
+
+    // From -1 at the upper edge to 1 at the lower one.
+    readonly property real pull: {
+        if (hoverY < 0)
+            return 0;
+        if (hoverY < edge)
+            return hoverY / edge - 1;
+        return Math.max(0, 1 - (height - hoverY) / edge);
+    }
+
+    FrameAnimation {
+        running: root.pull !== 0
+        onTriggered: {
+            const most = Math.max(0, root.flickable.contentHeight - root.flickable.height);
+            const moved = root.flickable.contentY + root.pull * root.fastest * frameTime;
+            root.flickable.contentY = Math.max(0, Math.min(most, moved));
+        }
+    }
+}

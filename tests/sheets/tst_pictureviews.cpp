@@ -1,0 +1,238 @@
+#include "sheets/LazyItem.h"
+#include "sheets/ThumbnailView.h"
+
+#include <QGuiApplication>
+#include <QMutex>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickView>
+#include <QSignalSpy>
+#include <QTest>
+#include <QWaitCondition>
+#include <QtQml/qqmlextensionplugin.h>
+
+Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
+
+using namespace tarnloft;
+
+class TestPictureViews : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() { QTest::failOnWarning(QRegularExpression(".")); }
+  void asksForThePixelsOfTheScreen_data();
+  void asksForThePixelsOfTheScreen();
+  void showsWhatIsKeptAtOnce();
+  void keepsThePictureWhileAnotherSizeIsMade();
+  void anotherFileShowsNothingOfTheFormer();
+  void aBrokenFileFails();
+  void aViewThatGoesWithdrawsItsRequest();
+  void fitsOrFillsAndCutsCorners();
+  void aLazyItemExistsWhileItIsWanted();
+};
+
+namespace {
+
+// Pictures of one colour, twice as wide as high; a gate holds them back.
+class GatedImages : public Images {
+ public:
+  QList<int> asked;
+  bool isOpen = true;
+
+  std::optional<ImageProperties> properties(const QString&) override { return std::nullopt; }
+  std::optional<QSizeF> vectorSize(const QString&) override { return std::nullopt; }
+  std::optional<QByteArray> convert(const QString&, ExportFormat, QSize, double) override {
+    return std::nullopt;
+  }
+  std::optional<QImage> thumbnail(const QString& path, int maxPixel) override {
+    QMutexLocker lock(&mutex_);
+    asked << maxPixel;
+    while (!isOpen) opened_.wait(&mutex_);
+    if (path == "broken") return std::nullopt;
+    QImage image(maxPixel, maxPixel / 2, QImage::Format_ARGB32_Premultiplied);
+    image.fill(QColor(path));
+    return image;
+  }
+  void open() {
+    const QMutexLocker lock(&mutex_);
+    isOpen = true;
+    opened_.wakeAll();
+  }
+
+ private:
+  QMutex mutex_;
+  QWaitCondition opened_;
+};
+
+struct Window {
+  GatedImages images;
+  BackgroundWork work{1};
+  ThumbnailLoader loader{images, work};
+  Thumbnails thumbnails{loader};
+  QQuickView window;
+
+  Window() {
+    window.setColor(Qt::white);
+    window.resize(400, 300);
+    window.show();
+  }
+  ~Window() { images.open(); }
+
+  // A view of that file, 100 by 60 points, at the window's corner.
+  ThumbnailView* view(const QString& path, QSizeF size = {100, 60}) {
+    QQmlComponent component(window.engine());
+    component.setData("import TarnLoft.Sheets\nThumbnailView {}", QUrl("qrc:/test.qml"));
+    auto* view = qobject_cast<ThumbnailView*>(
+        component.createWithInitialProperties({{"thumbnails", QVariant::fromValue(&thumbnails)},
+                                               {"path", path},
+                                               {"width", size.width()},
+                                               {"height", size.height()}}));
+    view->setParent(&window);
+    view->setParentItem(window.contentItem());
+    return view;
+  }
+  QColor shown(int x, int y) { return window.grabWindow().pixelColor(x, y); }
+};
+
+}  // namespace
+
+void TestPictureViews::asksForThePixelsOfTheScreen_data() {
+  QTest::addColumn<QSizeF>("size");
+  QTest::addColumn<int>("pixels");
+  QTest::newRow("in steps of 64") << QSizeF(100, 60) << 128;
+  QTest::newRow("by the longer side") << QSizeF(30, 150) << 192;
+  QTest::newRow("just one") << QSizeF(64, 64) << 64;
+  QTest::newRow("no more than told") << QSizeF(900, 900) << 512;
+}
+
+void TestPictureViews::asksForThePixelsOfTheScreen() {
+  Window test;
+  QFETCH(QSizeF, size);
+  QFETCH(int, pixels);
+  const ThumbnailView* view = test.view("red", size);
+  (void)test.window.grabWindow();
+  QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
+  QCOMPARE(test.images.asked, QList<int>{pixels});
+}
+
+void TestPictureViews::showsWhatIsKeptAtOnce() {
+  Window test;
+  const ThumbnailView* first = test.view("red");
+  (void)test.window.grabWindow();
+  QTRY_COMPARE(first->loadState(), ThumbnailView::LoadState::Loaded);
+  delete first;
+  const ThumbnailView* second = test.view("red");
+  QCOMPARE(test.shown(50, 30), QColor(Qt::red));  // in its first frame
+  QCOMPARE(second->loadState(), ThumbnailView::LoadState::Loaded);
+  QCOMPARE(test.images.asked.size(), 1);
+}
+
+void TestPictureViews::keepsThePictureWhileAnotherSizeIsMade() {
+  Window test;
+  ThumbnailView* view = test.view("red");
+  (void)test.window.grabWindow();
+  QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
+  test.images.isOpen = false;
+  view->setSize({300, 200});
+  QCOMPARE(test.shown(150, 100), QColor(Qt::red));
+  QCOMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
+  QTRY_COMPARE(test.images.asked, (QList<int>{128, 320}));
+}
+
+void TestPictureViews::anotherFileShowsNothingOfTheFormer() {
+  Window test;
+  ThumbnailView* view = test.view("red");
+  (void)test.window.grabWindow();
+  QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
+  test.images.isOpen = false;
+  view->setPath("blue");
+  QCOMPARE(test.shown(50, 30), QColor(Qt::white));
+  QCOMPARE(view->loadState(), ThumbnailView::LoadState::Loading);
+  test.images.open();
+  QTRY_COMPARE(test.shown(50, 30), QColor(Qt::blue));
+}
+
+void TestPictureViews::aBrokenFileFails() {
+  Window test;
+  ThumbnailView* view = test.view("broken");
+  QSignalSpy states(view, &ThumbnailView::loadStateChanged);
+  (void)test.window.grabWindow();
+  QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Failed);
+  view->setPath("red");
+  (void)test.window.grabWindow();
+  QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
+  QCOMPARE(states.count(), 3);
+}
+
+void TestPictureViews::aViewThatGoesWithdrawsItsRequest() {
+  Window test;
+  test.images.isOpen = false;
+  const ThumbnailView* running = test.view("red");
+  const ThumbnailView* waiting = test.view("blue");
+  (void)test.window.grabWindow();
+  QTRY_COMPARE(test.images.asked.size(), 1);
+  delete running;
+  delete waiting;
+  test.images.open();
+  QTest::qWait(50);
+  QCOMPARE(test.images.asked.size(), 1);  // the one that hadn't begun never will
+}
+
+void TestPictureViews::fitsOrFillsAndCutsCorners() {
+  Window test;
+  ThumbnailView* view = test.view("red", {80, 80});
+  (void)test.window.grabWindow();
+  QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
+  QCOMPARE(test.shown(40, 10), QColor(Qt::white));  // twice as wide as high, so it stands between
+  QCOMPARE(test.shown(40, 40), QColor(Qt::red));
+  view->setFillMode(PictureView::Fill);
+  QCOMPARE(test.shown(40, 2), QColor(Qt::red));
+  QCOMPARE(test.shown(1, 1), QColor(Qt::red));
+  view->setRadius(40);
+  QCOMPARE(test.shown(1, 1), QColor(Qt::white));
+  QCOMPARE(test.shown(40, 2), QColor(Qt::red));
+}
+
+void TestPictureViews::aLazyItemExistsWhileItIsWanted() {
+  QQmlEngine engine;
+  QQmlComponent component(&engine);
+  component.setData(R"(
+    pragma ComponentBehavior: Bound
+    import QtQuick
+    import TarnLoft.Sheets
+    Item {
+      id: root
+      property bool wanted: false
+      property color shade: "red"
+      property alias free: free
+      property alias held: held
+      LazyItem { id: free; active: root.wanted
+                 sourceComponent: Rectangle { width: 30; height: 20; color: root.shade } }
+      LazyItem { id: held; active: root.wanted; width: 90; height: 70
+                 sourceComponent: Rectangle { width: 30; height: 20 } }
+    })",
+                    QUrl("qrc:/test.qml"));
+  const std::unique_ptr<QObject> root(component.create());
+  QVERIFY2(root, qPrintable(component.errorString()));
+  const auto* free = root->property("free").value<LazyItem*>();
+  const auto* held = root->property("held").value<LazyItem*>();
+  QVERIFY(!free->item() && !held->item());
+  root->setProperty("wanted", true);
+  QCOMPARE(free->size(), QSizeF(30, 20));
+  QCOMPARE(held->item()->size(), QSizeF(90, 70));
+  QCOMPARE(free->item()->property("color").value<QColor>(), QColor(Qt::red));
+  const QPointer<QQuickItem> item = free->item();
+  root->setProperty("wanted", false);
+  QVERIFY(!free->item());
+  QCOMPARE(free->size(), QSizeF(0, 0));
+  QTRY_VERIFY(!item);
+}
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QGuiApplication application(argc, argv);
+  TestPictureViews test;
+  return QTest::qExec(&test, argc, argv);
+}
+#include "tst_pictureviews.moc"
