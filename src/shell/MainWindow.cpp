@@ -33,16 +33,14 @@ MainWindow::MainWindow(QQmlEngine& engine, const LibraryServices& libraryService
 
 MainWindow::~MainWindow() = default;
 
-bool MainWindow::show() {
-  if (!window_ && !open()) return false;
-  if (window_->windowStates() & Qt::WindowMinimized) window_->showNormal();
+bool MainWindow::open() {
+  if (window_) return true;
+  if (!make()) return false;
   window_->show();
-  window_->raise();
-  window_->requestActivate();
   return true;
 }
 
-bool MainWindow::open() {
+bool MainWindow::make() {
   const QUrl url(QStringLiteral("qrc:/qt-project.org/imports/TarnLoft/Shell/MainWindow.qml"));
   QQmlComponent component(&engine_, url);
   const WindowState state = WindowState::read(state_).fitting(screenRooms());

@@ -22,9 +22,9 @@ class MainWindow : public QObject {
   ~MainWindow() override;
   Q_DISABLE_COPY_MOVE(MainWindow)
 
-  // Opens the window, or brings the open one to the front. False if its views can't be made, which
-  // a broken installation alone explains.
-  bool show();
+  // Opens the window where it stood last; nothing if it is open. False if its views can't be made,
+  // which a broken installation alone explains.
+  bool open();
   // Null while it is closed.
   QQuickWindow* window() const { return window_.get(); }
 
@@ -32,7 +32,7 @@ class MainWindow : public QObject {
   void closed();
 
  private:
-  bool open();
+  bool make();
   bool eventFilter(QObject* watched, QEvent* event) override;
   void place(const WindowState& state);
   void remember();

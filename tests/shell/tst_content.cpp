@@ -1,6 +1,5 @@
 #include "platform/controls/Theme.h"
 #include "shell/AccentTint.h"
-#include "shell/LastWindowPolicy.h"
 #include "shell/TestShell.h"
 
 #include <QQmlEngine>
@@ -25,8 +24,6 @@ class TestContent : public QObject {
   void picksColorsUndoably();
   void exportsTheOpenBrandsPage();
   void tintsWithTheAccentInForce();
-  void neverHidesWithoutAWayBack_data();
-  void neverHidesWithoutAWayBack();
 };
 
 namespace {
@@ -214,22 +211,6 @@ void TestContent::tintsWithTheAccentInForce() {
   QCOMPARE(theme.accent(), QColor(Qt::gray));
   store.select(std::nullopt);
   QCOMPARE(theme.accent(), QColor("#00FF00"));
-}
-
-void TestContent::neverHidesWithoutAWayBack_data() {
-  QTest::addColumn<KeepRunning>("keepRunning");
-  QTest::addColumn<WayBack>("wayBack");
-  QTest::addColumn<LastWindowPolicy>("policy");
-  QTest::newRow("wanted, tray") << KeepRunning::yes << WayBack::tray << LastWindowPolicy::hide;
-  QTest::newRow("wanted, none") << KeepRunning::yes << WayBack::none << LastWindowPolicy::quit;
-  QTest::newRow("not wanted, tray") << KeepRunning::no << WayBack::tray << LastWindowPolicy::quit;
-  QTest::newRow("not wanted, none") << KeepRunning::no << WayBack::none << LastWindowPolicy::quit;
-}
-
-void TestContent::neverHidesWithoutAWayBack() {
-  QFETCH(KeepRunning, keepRunning);
-  QFETCH(WayBack, wayBack);
-  QTEST(lastWindowPolicy(keepRunning, wayBack), "policy");
 }
 
 QTEST_MAIN(TestContent)

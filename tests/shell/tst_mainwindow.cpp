@@ -106,14 +106,14 @@ void TestMainWindow::opensAndClosesAndOpensAnew() {
   Theme::of(engine);
   MainWindow main(engine, library.services(), test.services(), state);
   QSignalSpy closed(&main, &MainWindow::closed);
-  QVERIFY(main.show());
+  QVERIFY(main.open());
   QPointer<QQuickWindow> window = main.window();
   QVERIFY(QTest::qWaitForWindowExposed(window));
   const QRect screen = window->screen()->availableGeometry();
   QCOMPARE(window->size(), WindowState().fitting({screen}).size);
   QCOMPARE(window->minimumSize(), WindowState::minimumSize);
   QCOMPARE(window->title(), QStringLiteral("Acme — Tarn Loft"));
-  QVERIFY(main.show());
+  QVERIFY(main.open());
   QCOMPARE(main.window(), window.data());
 
   window->resize(860, 600);
@@ -123,7 +123,7 @@ void TestMainWindow::opensAndClosesAndOpensAnew() {
   QVERIFY(!main.window());
   library.store->createBrand("While closed");
 
-  QVERIFY(main.show());
+  QVERIFY(main.open());
   QCOMPARE(main.window()->size(), QSize(860, 600));
   QCOMPARE(main.window()->title(), QStringLiteral("While closed — Tarn Loft"));
 }

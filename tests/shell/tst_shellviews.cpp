@@ -52,7 +52,7 @@ struct Views : TestShell {
     LibraryStore& store = library.start();
     tint = std::make_unique<AccentTint>(store, theme);
     main = std::make_unique<MainWindow>(engine, library.services(), services(), state);
-    QVERIFY(main->show());
+    QVERIFY(main->open());
     QVERIFY(QTest::qWaitForWindowActive(&window()));
   }
   QQuickWindow& window() const { return *main->window(); }

@@ -1,5 +1,5 @@
 #include "entry/ApplicationModule.h"
-#include "entry/application/WindowApplication.h"
+#include "entry/application/TarnLoftApp.h"
 #include "entry/media/LateMedia.h"
 #include "entry/selftest/SelfTest.h"
 #include "platform/controls/Typography.h"
@@ -30,11 +30,11 @@ int fail(const char* reason) {
 int runWindows(RunningInstance& instance) {
   prepareTypography();
   symbols::fontFamily();  // a font that comes later makes all texts be laid out again
-  WindowApplication windows;
-  QObject::connect(&instance, &RunningInstance::showRequested, &windows,
-                   &WindowApplication::showMainWindow);
+  TarnLoftApp app;
+  QObject::connect(&instance, &RunningInstance::showRequested, &app.appDelegate(),
+                   &AppDelegate::applicationShouldHandleReopen);
   if (!instance.listen()) std::fputs("Tarn Loft: a second start won't find this one\n", stderr);
-  if (!windows.start()) return fail("the interface can't be loaded");
+  if (!app.start()) return fail("the interface can't be loaded");
   return QApplication::exec();
 }
 

@@ -15,6 +15,7 @@
 #include "platform/desktop/window/DesktopFileDialogs.h"
 #include "platform/desktop/window/DesktopFileViewer.h"
 #include "platform/desktop/window/DesktopPasteboard.h"
+#include "platform/desktop/window/DesktopStatusItem.h"
 #include "workspace/WorkspaceServices.h"
 
 #include <QThreadPool>
@@ -34,6 +35,7 @@ struct DesktopServices {
   DesktopFileViewer viewer;
   DesktopAppearance appearance;
   DesktopPasteboard pasteboard;
+  DesktopStatusItem statusItem;
   MimeContentTypes types;
   FreeTypeFonts fonts;
   QtDragSession dragSession;

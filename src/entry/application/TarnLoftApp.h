@@ -1,5 +1,6 @@
 #pragma once
 
+#include "entry/application/AppDelegate.h"
 #include "entry/application/DesktopServices.h"
 #include "library/LibraryStore.h"
 #include "platform/controls/Theme.h"
@@ -12,25 +13,27 @@ namespace tarnloft {
 
 // The program with its windows: makes each long-lived object once and hands it down. Needs a
 // QApplication. Main thread.
-class WindowApplication : public QObject {
+class TarnLoftApp : public QObject {
  public:
-  WindowApplication();
+  TarnLoftApp();
 
   // Opens the main window. False if it can't be made.
   bool start();
-  // Opens the main window or brings it to the front.
-  void showMainWindow();
+
+  AppDelegate& appDelegate() { return appDelegate_; }
 
  private:
+  bool openMainWindow();
   void followAppearance();
-  void mainWindowClosed();
 
   DesktopServices services_;
   QQmlEngine engine_;
   Theme& theme_;
   LibraryStore library_;
   AccentTint tint_;
+  MenuBarPrefs menuBarPrefs_;
   MainWindow mainWindow_;
+  AppDelegate appDelegate_;
 };
 
 }  // namespace tarnloft

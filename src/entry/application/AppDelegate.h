@@ -1,0 +1,59 @@
+#pragma once
+
+#include "quickgrab/MenuBarController.h"
+#include "quickgrab/MenuBarPrefs.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+#include <QWindow>
+
+#include <memory>
+
+namespace tarnloft {
+
+// What belongs to no window: the way back to the main one, the first size of it, and what happens
+// when the last window closes. Main thread.
+class AppDelegate : public QObject {
+ public:
+  // Borrowed: all outlive this. `openMainWindow` opens a new main window, and `quit` ends the
+  // program.
+  AppDelegate(Preferences& preferences, const MenuBarPrefs& prefs, StatusItem& statusItem,
+              std::function<void()> openMainWindow, std::function<void()> quit);
+
+  // The open main window, or null.
+  void setMainWindow(QWindow* window) { mainWindow_ = window; }
+
+  // Sizes the window of a first run a moment later.
+  void applicationDidFinishLaunching();
+
+  // Puts the icon into the tray. At most once, however often it is called.
+  void installMenuBar();
+
+  // Brings the main window to the front, or opens it.
+  void showMainWindow();
+
+  // The user started the program again.
+  void applicationShouldHandleReopen() { showMainWindow(); }
+
+  // True as well where nothing could bring a window back.
+  bool applicationShouldTerminateAfterLastWindowClosed() const;
+
+  // Quits, or stays without a window for as long as the tray does.
+  void lastWindowClosed();
+
+ private:
+  void checkTray();
+
+  Preferences& preferences_;
+  const MenuBarPrefs& prefs_;
+  StatusItem& statusItem_;
+  const std::function<void()> openMainWindow_;
+  const std::function<void()> quit_;
+  std::unique_ptr<MenuBarController> menuBar_;
+  QPointer<QWindow> mainWindow_;
+  QTimer trayCheck_;  // runs while no window is open
+  int missed_ = 0;    // checks in a row that found no tray
+};
+
+}  // namespace tarnloft

@@ -1,0 +1,44 @@
+#include "entry/application/TarnLoftApp.h"
+
+#include <QCoreApplication>
+#include <QQuickWindow>
+
+namespace tarnloft {
+
+TarnLoftApp::TarnLoftApp()
+    : theme_(Theme::of(engine_)),
+      library_(services_.forLibrary()),
+      tint_(library_, theme_),
+      menuBarPrefs_(services_.preferences),
+      mainWindow_(engine_, services_.forLibrary(), services_.forWorkspace(library_),
+                  services_.state),
+      appDelegate_(
+          services_.preferences, menuBarPrefs_, services_.statusItem, [this] { openMainWindow(); },
+          &QCoreApplication::quit) {
+  followAppearance();
+  connect(&services_.appearance, &DesktopAppearance::darkChanged, this,
+          &TarnLoftApp::followAppearance);
+  connect(&engine_, &QQmlEngine::quit, qApp, &QCoreApplication::quit);
+  connect(&mainWindow_, &MainWindow::closed, &appDelegate_, &AppDelegate::lastWindowClosed);
+}
+
+bool TarnLoftApp::start() {
+  if (!openMainWindow()) return false;
+  appDelegate_.applicationDidFinishLaunching();
+  return true;
+}
+
+bool TarnLoftApp::openMainWindow() {
+  if (!mainWindow_.open()) return false;
+  QQuickWindow* const window = mainWindow_.window();
+  appDelegate_.setMainWindow(window);
+  // Not before the first frame, which needs nothing of the tray.
+  connect(window, &QQuickWindow::frameSwapped, &appDelegate_, &AppDelegate::installMenuBar,
+          Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
+  appDelegate_.showMainWindow();
+  return true;
+}
+
+void TarnLoftApp::followAppearance() { theme_.setDark(services_.appearance.isDark()); }
+
+}  // namespace tarnloft

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+class QIcon;
+
+namespace tarnloft {
+
+// The program's icon in the desktop's tray. Main thread.
+class StatusItem {
+ public:
+  struct Command {
+    QString text;
+    std::function<void()> run;
+  };
+
+  virtual ~StatusItem() = default;
+
+  // Puts the icon into the tray, also if a tray comes only later. A click runs `clicked`; the menu
+  // holds the commands. Once.
+  virtual void install(const QIcon& icon, const QString& toolTip, std::function<void()> clicked,
+                       std::vector<Command> menu) = 0;
+
+  // Whether the desktop has a tray just now. Asks it anew: a few milliseconds.
+  virtual bool isInTray() const = 0;
+};
+
+}  // namespace tarnloft

@@ -1,0 +1,63 @@
+#include "quickgrab/MenuBarController.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QPixmap>
+
+namespace tarnloft {
+namespace {
+
+constexpr double points = 18;  // the drawing's width and height
+
+// The origin is at the lower left, as in the drawing's figures.
+QPainterPath house() {
+  QPainterPath body, roof, chimney;
+  body.addRoundedRect(QRectF(3.2, 1.8, 11.6, 9), 1.5, 1.5);
+  roof.addPolygon(QPolygonF({{1.8, 10.5}, {16.2, 10.5}, {9, 16.3}}));
+  roof.closeSubpath();
+  chimney.addRect(QRectF(12.2, 11, 1.3, 4.1));
+  return body.united(roof).united(chimney);
+}
+
+QPainterPath panes() {
+  QPainterPath path;
+  for (const QPointF& corner : {QPointF(5.05, 2.6), {9.45, 2.6}, {5.05, 7}, {9.45, 7}})
+    path.addRoundedRect(QRectF(corner, QSizeF(3.5, 3.5)), 0.7, 0.7);
+  return path;
+}
+
+// No tray tints the picture here, and its colour isn't told: white with a dark rim and dark panes
+// shows on any.
+QPixmap housePixmap(int pixels) {
+  QPixmap picture(pixels, pixels);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.translate(0, pixels);
+  painter.scale(pixels / points, -pixels / points);
+  const QColor dark(0, 0, 0, 160);
+  painter.strokePath(house(), QPen(dark, 1.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.fillPath(house().subtracted(panes()), Qt::white);
+  painter.fillPath(panes(), dark);
+  return picture;
+}
+
+}  // namespace
+
+MenuBarController::MenuBarController(StatusItem& statusItem, std::function<void()> onOpenApp,
+                                     std::function<void()> onQuit)
+    : statusItem_(statusItem), onOpenApp_(std::move(onOpenApp)), onQuit_(std::move(onQuit)) {}
+
+void MenuBarController::installStatusItem() {
+  statusItem_.install(
+      statusItemImage(), QStringLiteral("Tarn Loft"), onOpenApp_,
+      {{QStringLiteral("Open Tarn Loft"), onOpenApp_}, {QStringLiteral("Quit"), onQuit_}});
+}
+
+QIcon MenuBarController::statusItemImage() {
+  QIcon icon;
+  for (const int pixels : {18, 22, 24, 32, 36, 44, 48, 64}) icon.addPixmap(housePixmap(pixels));
+  return icon;
+}
+
+}  // namespace tarnloft

@@ -1,0 +1,112 @@
+#include "entry/application/AppDelegate.h"
+#include "platform/desktop/IniPreferences.h"
+#include "testing/TestServices.h"
+
+#include <QPointer>
+#include <QTest>
+
+using namespace tarnloft;
+
+class TestAppDelegate : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void neverHidesWithoutAWayBack_data();
+  void neverHidesWithoutAWayBack();
+  void comesBackWhenTheTrayGoes();
+  void opensAndRaisesTheMainWindow();
+  void installsOneIcon();
+};
+
+namespace {
+
+class FakeTray : public StatusItem {
+ public:
+  bool present = true;
+  int installed = 0;
+  std::function<void()> clicked;
+  std::vector<Command> menu;
+
+  void install(const QIcon& icon, const QString& /*toolTip*/, std::function<void()> onClick,
+               std::vector<Command> commands) override {
+    QVERIFY(!icon.isNull());
+    ++installed;
+    clicked = std::move(onClick);
+    menu = std::move(commands);
+  }
+  bool isInTray() const override { return present; }
+};
+
+struct Running {
+  TestServices disk;
+  IniPreferences preferences{disk.path("tarnloft.ini")};
+  MenuBarPrefs prefs{preferences};
+  FakeTray tray;
+  int opened = 0;
+  int ended = 0;
+  AppDelegate delegate{preferences, prefs, tray, [this] { ++opened; }, [this] { ++ended; }};
+};
+
+}  // namespace
+
+void TestAppDelegate::neverHidesWithoutAWayBack_data() {
+  QTest::addColumn<bool>("keepRunning");
+  QTest::addColumn<bool>("tray");
+  QTest::addColumn<int>("ended");
+  QTest::newRow("wanted, tray") << true << true << 0;
+  QTest::newRow("wanted, none") << true << false << 1;
+  QTest::newRow("not wanted, tray") << false << true << 1;
+  QTest::newRow("not wanted, none") << false << false << 1;
+}
+
+void TestAppDelegate::neverHidesWithoutAWayBack() {
+  QFETCH(bool, keepRunning);
+  Running running;
+  QVERIFY(running.prefs.keepRunning());
+  running.prefs.setKeepRunning(keepRunning);
+  QCOMPARE(MenuBarPrefs(running.preferences).keepRunning(), keepRunning);
+  QFETCH(bool, tray);
+  running.tray.present = tray;
+  running.delegate.lastWindowClosed();
+  QTEST(running.ended, "ended");
+}
+
+void TestAppDelegate::comesBackWhenTheTrayGoes() {
+  Running running;
+  running.delegate.lastWindowClosed();
+  running.tray.present = false;
+  QTRY_COMPARE_WITH_TIMEOUT(running.opened, 1, 20'000);
+  QCOMPARE(running.ended, 0);
+}
+
+void TestAppDelegate::opensAndRaisesTheMainWindow() {
+  Running running;
+  running.delegate.showMainWindow();
+  QCOMPARE(running.opened, 1);
+
+  auto window = std::make_unique<QWindow>();
+  running.delegate.setMainWindow(window.get());
+  window->showMinimized();
+  running.delegate.applicationShouldHandleReopen();
+  QCOMPARE(running.opened, 1);
+  QVERIFY(window->isVisible() && !(window->windowStates() & Qt::WindowMinimized));
+
+  window.reset();
+  running.delegate.showMainWindow();
+  QCOMPARE(running.opened, 2);
+}
+
+void TestAppDelegate::installsOneIcon() {
+  Running running;
+  running.delegate.installMenuBar();
+  running.delegate.installMenuBar();
+  QCOMPARE(running.tray.installed, 1);
+  running.tray.clicked();
+  running.tray.menu.front().run();
+  QCOMPARE(running.opened, 2);
+  running.tray.menu.back().run();
+  QCOMPARE(running.ended, 1);
+}
+
+QTEST_MAIN(TestAppDelegate)
+#include "tst_appdelegate.moc"
