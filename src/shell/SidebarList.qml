@@ -34,7 +34,7 @@ ListView {
 
     model: sidebar.rows
     clip: true
-    activeFocusOnTab: true
+    activeFocusOnTab: count > 0 // an empty list shows no focus
     highlightFollowsCurrentItem: false
     keyNavigationEnabled: true
     bottomMargin: endStrip
