@@ -41,7 +41,7 @@ QString argumentText(const char* argument) {
 
 // Looks beside the program and where packages put such modules.
 int runInModule(const char* entryName, int argc, char** argv) {
-  void* const module = ::dlopen("libtarnloft-application.so", RTLD_NOW | RTLD_LOCAL);
+  void* const module = ::dlopen("libtarnloft-application.so", RTLD_LAZY | RTLD_LOCAL);
   void* const entry = module ? ::dlsym(module, entryName) : nullptr;
   if (entry) return reinterpret_cast<TarnLoftEntry>(entry)(argc, argv);
   std::fprintf(stderr, "Tarn Loft: %s\n", ::dlerror());

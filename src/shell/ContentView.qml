@@ -52,7 +52,7 @@ FocusScope {
 
             LazyItem {
                 anchors.fill: parent
-                active: !root.content.workspace
+                active: root.content.detail !== ContentModel.Detail.brand
                 sourceComponent: EmptyLibraryView {
                     content: root.content
                 }
@@ -60,7 +60,7 @@ FocusScope {
 
             // Another brand gets another page, with fresh state.
             Repeater {
-                model: root.content.workspace ? [root.content.workspace] : []
+                model: root.content.shown && root.content.workspace ? [root.content.workspace] : []
                 delegate: BrandPage {
                     id: page
 

@@ -54,6 +54,8 @@ bool MainWindow::make() {
     return false;
   }
   content_ = std::move(content);
+  connect(window_.get(), &QQuickWindow::frameSwapped, content_.get(), &ContentModel::windowShown,
+          Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
   followAppearance();
   place(state);
   window_->installEventFilter(this);
