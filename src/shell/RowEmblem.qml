@@ -31,11 +31,13 @@ Item {
         }
     }
 
-    Symbol {
+    LazyItem {
         anchors.centerIn: parent
-        visible: !root.marked && root.hovered
-        name: "line.3.horizontal"
-        size: 11
-        color: Theme.tertiaryLabel
+        active: !root.marked && root.hovered
+        sourceComponent: Symbol {
+            name: "line.3.horizontal"
+            size: 11
+            color: Theme.tertiaryLabel
+        }
     }
 }

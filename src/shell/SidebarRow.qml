@@ -54,10 +54,14 @@ Item {
         opacity: root.lifted ? 0.4 : 1
         color: area.pressed ? Theme.pressedFill : area.containsMouse ? Theme.hoverFill : "transparent"
 
-        FocusRing {
-            anchors.margins: 0
-            shown: root.focused
-            base: Theme.fieldRadius - 3
+        LazyItem {
+            anchors.fill: parent
+            active: root.focused
+            sourceComponent: FocusRing {
+                anchors.margins: 0
+                shown: true
+                base: Theme.fieldRadius - 3
+            }
         }
 
         RowEmblem {
