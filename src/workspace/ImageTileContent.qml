@@ -48,7 +48,7 @@ Item {
         active: root.failed
         sourceComponent: FailedPicture {
             help: root.tile.failureHelp
-            color: root.themed ? Theme.secondaryLabel : Theme.thin(root.ink, 0.75)
+            color: root.themed ? Theme.secondaryLabel : Theme.thin(root.ink, 0.8)
         }
     }
 }

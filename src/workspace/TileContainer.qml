@@ -15,6 +15,8 @@ Item {
     readonly property bool dragged: drag.active || tile.dragged
     readonly property bool hovering: hover.hovered && !dragged
 
+    opacity: tile.dragged ? 0.45 : 1
+
     Accessible.role: Accessible.ListItem
     Accessible.name: tile.name || tile.description
     Accessible.description: tile.description

@@ -22,6 +22,7 @@ class TestBrandPage : public QObject {
   void aClickCopiesAColour();
   void clicksWithKeysSelect();
   void theCheckBoxSelects();
+  void hoveringTellsWhatAClickDoes();
   void keysSelectDeleteAndClear();
   void tabAndArrowsLeadThroughTiles();
   void returnAndSpaceAct();
@@ -113,6 +114,15 @@ QAccessibleInterface* accessible(TestPage& page, QAccessible::Role role, const Q
   return nullptr;
 }
 
+// Whether that text is in sight somewhere in the item.
+bool shows(const QQuickItem* item, const QString& text) {
+  if (!item->isVisible()) return false;
+  if (item->inherits("QQuickText") && item->property("text") == text) return true;
+  const auto children = item->childItems();
+  return std::any_of(children.begin(), children.end(),
+                     [&](const QQuickItem* child) { return shows(child, text); });
+}
+
 QString copied(const TestWorkspace& test) { return test.pasteboard.texts.join('|'); }
 
 QString selectedNames(TestWorkspace& test) {
@@ -180,6 +190,20 @@ void TestBrandPage::theCheckBoxSelects() {
   QCOMPARE(boxes(), (QStringList{"Deselect", "Select"}));  // on all of the section, and no other
 }
 
+void TestBrandPage::hoveringTellsWhatAClickDoes() {
+  TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), imageItem("b", "broken.png")})});
+  TestPage page(test);
+  const auto tells = [&](const QString& text) { return shows(page.view.contentItem(), text); };
+  const QPoint hint = page.tileNamed("a")->mapToScene({125, 80}).toPoint();  // of its card's corner
+  const QImage before = page.view.grabWindow();
+  QTest::mouseMove(&page.view, page.middleOf("a"));
+  QTRY_VERIFY(page.view.grabWindow().pixelColor(hint) != before.pixelColor(hint));
+  QTRY_VERIFY(tells("Click to copy #FF0000"));
+  QTest::mouseMove(&page.view, page.middleOf("b"));
+  QTRY_VERIFY(tells("Couldn't load “b” — the file may be corrupt. Re-import it."));
+  QTRY_VERIFY(!tells("Click to copy #FF0000"));
+}
+
 void TestBrandPage::keysSelectDeleteAndClear() {
   TestWorkspace test({sectionOf("A", {textItem("t"), colorItem("a"), colorItem("b")}),
                       sectionOf("B", {colorItem("x")})});
@@ -221,6 +245,8 @@ void TestBrandPage::tabAndArrowsLeadThroughTiles() {
   page.settle();
   QVERIFY(steps({Qt::Key_Backtab}).isEmpty());  // the heading, behind which stands its button
   QCOMPARE(steps({Qt::Key_Tab, Qt::Key_Tab}), "0");
+  page.key(Qt::Key_A, Qt::ControlModifier);  // each tile shows a check box, which is no stop
+  QVERIFY(steps({Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab}) == "x");
 }
 
 void TestBrandPage::returnAndSpaceAct() {

@@ -47,6 +47,11 @@ QImage thinned(const QImage& picture) {
   return result;
 }
 
+// In its own colours up to the edge, where the toolkit would mix in those of its ground.
+QImage solid(const QImage& picture) {
+  return picture.convertToFormat(QImage::Format_ARGB32).convertToFormat(QImage::Format_RGB32);
+}
+
 // Cuts the window that carries a drag's picture to the picture's own shape. The toolkit does so
 // before there is a window that could be cut, and in the wrong unit.
 class PictureCut : public QObject {
@@ -79,7 +84,7 @@ void QtDragSession::drag(const QList<DragItem>& items, const DragLook& look) {
   if (!look.picture.isNull()) {
     const bool isComposed = isScreenComposed();
     if (!isComposed) cut.emplace(look.picture);
-    drag->setPixmap(QPixmap::fromImage(isComposed ? thinned(look.picture) : look.picture));
+    drag->setPixmap(QPixmap::fromImage(isComposed ? thinned(look.picture) : solid(look.picture)));
   }
   drag->setHotSpot(look.hotSpot);
   drag->exec(Qt::CopyAction);
