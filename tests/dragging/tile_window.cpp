@@ -14,6 +14,7 @@
 #include <QDropEvent>
 #include <QGuiApplication>
 #include <QImage>
+#include <QPainter>
 #include <QRasterWindow>
 #include <QScreen>
 #include <QTimer>
@@ -37,6 +38,9 @@ class TileWindow : public QRasterWindow {
   }
 
  protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter(this).fillRect(QRect(QPoint(), size()), Qt::blue);
+  }
   void mousePressEvent(QMouseEvent*) override { pressed_ = true; }
   void mouseMoveEvent(QMouseEvent*) override {
     if (!std::exchange(pressed_, false)) return;

@@ -250,7 +250,7 @@ void TestPictureViews::aLazyItemExistsWhileItIsWanted() {
 }
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QGuiApplication application(argc, argv);
   TestPictureViews test;
   return QTest::qExec(&test, argc, argv);
