@@ -58,7 +58,7 @@ void LibraryStore::importBrandArchive(const QString& path) {
 
 void LibraryStore::importArchivedPackage(const QString& archive, const QString& folder) {
   FileStore& files = services_.document.files;
-  (void)files.makeFolder(folder);
+  if (!files.makeFolder(folder)) return;
   // Half a package would pass for a whole one.
   if (!services_.archiver.extract(archive, folder)) return;
   const auto found = findYewstack(folder);

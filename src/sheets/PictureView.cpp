@@ -23,6 +23,47 @@ QRect placed(QSize picture, QSize size, PictureView::FillMode mode) {
           scaled};
 }
 
+// A picture whose pixels are those of the screen. Where its item stands between two of them, it is
+// moved by the rest, or it would be smeared over both.
+class PixelNode : public QSGNode {
+ public:
+  explicit PixelNode(QSGImageNode* image) : image_(image) {
+    setFlag(UsePreprocess);
+    image->setFlag(OwnedByParent);
+    image->setOwnsTexture(true);
+    image->setFiltering(QSGTexture::Linear);
+    appendChildNode(image);
+  }
+
+  void setPicture(QSGTexture* texture, qreal ratio) {
+    image_->setTexture(texture);
+    size_ = QSizeF(texture->textureSize()) / ratio;
+    ratio_ = ratio;
+    image_->setRect(QRectF(QPointF(), size_));
+  }
+
+  // Before each frame: the items around it may have moved without this one's knowing.
+  void preprocess() override {
+    const QPointF place = placeInScene() * ratio_;
+    const QRectF rect((QPointF(place.toPoint()) - place) / ratio_, size_);
+    if (image_->rect() != rect) image_->setRect(rect);
+  }
+
+ private:
+  QPointF placeInScene() const {
+    QPointF place;
+    for (const QSGNode* node = parent(); node; node = node->parent()) {
+      if (node->type() != TransformNodeType) continue;
+      place = static_cast<const QSGTransformNode*>(node)->matrix().map(place);
+    }
+    return place;
+  }
+
+  QSGImageNode* image_;
+  QSizeF size_;
+  qreal ratio_ = 1;
+};
+
 }  // namespace
 
 PictureView::PictureView(QQuickItem* parent) : QQuickItem(parent) { setFlag(ItemHasContents); }
@@ -95,19 +136,16 @@ QSGNode* PictureView::updatePaintNode(QSGNode* node, UpdatePaintNodeData* /*data
     isStale_ = true;
     return nullptr;
   }
-  auto* image = static_cast<QSGImageNode*>(node);
-  if (!image) {
-    image = window()->createImageNode();
-    image->setOwnsTexture(true);
-    image->setFiltering(QSGTexture::Linear);
+  auto* shown = static_cast<PixelNode*>(node);
+  if (!shown) {
+    shown = new PixelNode(window()->createImageNode());
     isStale_ = true;
   }
   if (std::exchange(isStale_, false)) {
-    image->setTexture(
-        window()->createTextureFromImage(cut(), QQuickWindow::TextureHasAlphaChannel));
-    image->setRect(0, 0, pixelSize().width() / pixelRatio(), pixelSize().height() / pixelRatio());
+    shown->setPicture(window()->createTextureFromImage(cut(), QQuickWindow::TextureHasAlphaChannel),
+                      pixelRatio());
   }
-  return image;
+  return shown;
 }
 
 }  // namespace tarnloft

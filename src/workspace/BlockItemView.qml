@@ -5,15 +5,30 @@ import TarnLoft.Controls
 import TarnLoft.Sheets
 import TarnLoft.Workspace
 
-// A row of text between tiles: a heading or a paragraph, edited in place.
+// A row of text between tiles: a heading or a paragraph, edited in place. It is dragged by the grip
+// in front of it and by all of it that isn't text.
 FocusScope {
     id: root
 
     required property Tile tile
 
     readonly property bool isHeading: tile.kind === TileKind.Header
+    readonly property real textWidth: Math.min(field.width, field.item?.implicitWidth ?? 0)
+    readonly property real lineHeight: paragraph ? paragraph.contentHeight / paragraph.lineCount : height
+    readonly property LineField heading: field.item as LineField
+    readonly property TextArea paragraph: field.item as TextArea
+    readonly property bool held: gripDrag.active || restDrag.active
+
+    function typeAtEnd() {
+        field.item.forceActiveFocus(Qt.MouseFocusReason);
+        if (heading)
+            heading.cursorPosition = heading.length;
+        if (paragraph)
+            paragraph.cursorPosition = paragraph.length;
+    }
 
     implicitHeight: field.implicitHeight
+    opacity: tile.dragged ? 0.45 : 1
 
     DropTarget {
         id: dropTarget
@@ -25,26 +40,103 @@ FocusScope {
         tile: root.tile
     }
 
+    // In the middle of the gap, on whole points.
     InsertionBar {
-        y: -7 - height / 2
+        y: -8
         width: parent.width
         flat: true
         shown: dropTarget.targeted
     }
 
-    LazyItem {
-        id: field
+    // What is carried: the text, with a little room around it.
+    Item {
+        id: words
 
-        width: parent.width - 24
-        focus: true
-        sourceComponent: root.isHeading ? heading : paragraph
+        x: -8
+        y: -4
+        width: root.textWidth + 16
+        height: root.height + 8
+
+        Rectangle {
+            anchors.fill: parent
+            visible: root.held
+            color: Theme.controlBackground
+            border.color: Theme.panelBorder
+            radius: Theme.fieldRadius
+        }
+
+        LazyItem {
+            id: field
+
+            x: 8
+            y: 4
+            width: root.width - 24
+            focus: true
+            sourceComponent: root.isHeading ? headingField : textField
+        }
+    }
+
+    // The row beside its text; a click there goes into the text.
+    Item {
+        x: root.textWidth + 8
+        width: field.width - x
+        height: parent.height
+
+        TapHandler {
+            onTapped: root.typeAtEnd()
+        }
+
+        TileDragHandler {
+            id: restDrag
+
+            tile: root.tile
+            view: words
+            radius: Theme.fieldRadius
+        }
+    }
+
+    // The row and the margin in front of it, where the grip is.
+    Item {
+        x: -22
+        width: parent.width + 22
+        height: parent.height
+
+        HoverHandler {
+            id: hover
+        }
+
+        RowGrip {
+            x: 2
+            y: Math.round((root.lineHeight - height) / 2)
+            shown: hover.hovered && !root.held
+
+            TileDragHandler {
+                id: gripDrag
+
+                tile: root.tile
+                view: words
+                radius: Theme.fieldRadius
+            }
+        }
+    }
+
+    LazyItem {
+        anchors.right: parent.right
+        y: Math.round((root.lineHeight - height) / 2)
+        active: (hover.hovered || root.activeFocus) && !root.held
+        sourceComponent: Button {
+            kind: Button.Plain
+            symbol: "xmark.circle.fill"
+            help: root.isHeading ? "Delete heading" : "Delete text"
+            tint: Theme.secondaryLabel
+            onClicked: root.tile.remove()
+        }
     }
 
     Component {
-        id: heading
+        id: headingField
 
-        TextField {
-            bordered: false
+        LineField {
             placeholderText: "Heading"
             text: root.tile.text
             font: root.tile.level === 1 ? Theme.font(17, Font.Bold)
@@ -54,29 +146,13 @@ FocusScope {
     }
 
     Component {
-        id: paragraph
+        id: textField
 
         TextArea {
             placeholderText: "Text"
             text: root.tile.text
             color: Theme.secondaryLabel
             onEdited: root.tile.setText(text)
-        }
-    }
-
-    HoverHandler {
-        id: hover
-    }
-
-    LazyItem {
-        anchors.right: parent.right
-        active: hover.hovered || activeFocus
-        sourceComponent: Button {
-            kind: Button.Plain
-            symbol: "xmark.circle.fill"
-            help: root.isHeading ? "Delete heading" : "Delete text"
-            tint: Theme.secondaryLabel
-            onClicked: root.tile.remove()
         }
     }
 }

@@ -18,17 +18,19 @@ Item {
         anchors.margins: 6
         active: root.hovering
         sourceComponent: Rectangle {
-            width: 24
-            height: 24
+            width: mark.width + 12
+            height: mark.height + 12
             radius: 6
             color: Qt.rgba(0, 0, 0, 0.14)
 
             Symbol {
+                id: mark
+
                 anchors.centerIn: parent
                 name: "doc.on.doc"
                 size: 10
                 weight: Font.DemiBold
-                color: root.tile.lightInk ? "white" : "black"
+                color: root.tile.ink || Theme.primary
                 opacity: 0.9
             }
         }

@@ -3,7 +3,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import TarnLoft.Workspace
 
-// Scrolls a page on while a drag waits near its upper or lower edge.
+// Scrolls a page on while a drag waits near its upper or lower edge. However the page scrolls, what
+// comes under the drag becomes its target.
 //   DragScroll { anchors.fill: scroll; flickable: scroll }
 DragWatch {
     id: root
@@ -19,6 +20,14 @@ DragWatch {
         if (hoverY < edge)
             return hoverY / edge - 1;
         return Math.max(0, 1 - (height - hoverY) / edge);
+    }
+
+    Connections {
+        target: root.flickable
+
+        function onContentYChanged() {
+            Qt.callLater(root.repeat);
+        }
     }
 
     FrameAnimation {

@@ -1,6 +1,6 @@
 #include "workspace/DragWatch.h"
 
-#include <QDropEvent>
+#include <QCoreApplication>
 
 #include <utility>
 
@@ -10,6 +10,7 @@ void DragWatch::itemChange(ItemChange change, const ItemChangeData& data) {
   QQuickItem::itemChange(change, data);
   if (change != ItemSceneChange) return;
   if (watched_) watched_->removeEventFilter(this);
+  end();
   watched_ = data.window;
   if (watched_) watched_->installEventFilter(this);
 }
@@ -17,17 +18,31 @@ void DragWatch::itemChange(ItemChange change, const ItemChangeData& data) {
 bool DragWatch::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::DragEnter:
-    case QEvent::DragMove: hover(static_cast<QDropEvent*>(event)->position()); break;
+    case QEvent::DragMove: follow(*static_cast<QDropEvent*>(event)); break;
     case QEvent::DragLeave:
-    case QEvent::Drop: setHoverY(-1); break;
+    case QEvent::Drop: end(); break;
     default: break;
   }
   return QQuickItem::eventFilter(watched, event);
 }
 
-void DragWatch::hover(const QPointF& scenePosition) {
-  const QPointF here = mapFromScene(scenePosition);
+void DragWatch::repeat() {
+  if (!last_ || !watched_) return;
+  QDragMoveEvent move(last_->position().toPoint(), last_->possibleActions(), last_->mimeData(),
+                      last_->buttons(), last_->modifiers());
+  QCoreApplication::sendEvent(watched_, &move);
+}
+
+void DragWatch::follow(const QDropEvent& event) {
+  last_ = std::make_unique<QDropEvent>(event.position(), event.possibleActions(), event.mimeData(),
+                                       event.buttons(), event.modifiers());
+  const QPointF here = mapFromScene(event.position());
   setHoverY(contains(here) ? here.y() : -1);
+}
+
+void DragWatch::end() {
+  last_.reset();
+  setHoverY(-1);
 }
 
 void DragWatch::setHoverY(qreal y) {

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <QDropEvent>
 #include <QPointer>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QtQml/qqmlregistration.h>
+
+#include <memory>
 
 namespace tarnloft {
 
@@ -19,6 +22,9 @@ class DragWatch : public QQuickItem {
 
   qreal hoverY() const { return hoverY_; }
 
+  // Tells the window of the drag's place once more, for what has come under a pointer that rests.
+  Q_INVOKABLE void repeat();
+
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  signals:
@@ -28,11 +34,13 @@ class DragWatch : public QQuickItem {
   void itemChange(ItemChange change, const ItemChangeData& data) override;
 
  private:
-  void hover(const QPointF& scenePosition);
+  void follow(const QDropEvent& event);
+  void end();
   void setHoverY(qreal y);
 
   QPointer<QQuickWindow> watched_;
   qreal hoverY_ = -1;
+  std::unique_ptr<QDropEvent> last_;  // while a drag hovers over the window
 };
 
 }  // namespace tarnloft

@@ -44,6 +44,7 @@ QLinearGradient linearGradient(const GradientValue& gradient, const QSizeF& size
     const QColor color = TileFacts::color(stop.hex);
     if (color.isValid()) stops << QGradientStop(std::clamp(stop.location, 0.0, 1.0), color);
   }
+  if (stops.isEmpty()) stops << QGradientStop(0, Qt::transparent);  // else it runs black to white
   result.setStops(apart(stops));
   return result;
 }
@@ -67,7 +68,6 @@ void GradientView::setRadius(qreal radius) {
 
 void GradientView::paint(QPainter* painter) {
   const QLinearGradient gradient = linearGradient(gradient_.value, size());
-  if (gradient.stops().isEmpty()) return;
   painter->setRenderHint(QPainter::Antialiasing);
   painter->setPen(Qt::NoPen);
   painter->setBrush(gradient);

@@ -20,7 +20,8 @@ struct GradientLook {
 };
 
 // The gradient in a rectangle of that size: stops by location, those that don't parse left out; an
-// angle of 0 runs to the right and one of 90 down, in the rectangle's own proportions.
+// angle of 0 runs to the right and one of 90 down, in the rectangle's own proportions. Transparent
+// without stops.
 QLinearGradient linearGradient(const GradientValue& gradient, const QSizeF& size);
 
 // A rectangle with round corners, filled with a gradient.

@@ -11,6 +11,13 @@ Item {
 
     required property Tile tile
 
+    readonly property bool failed: tile.hasPicture && (tile.path === "" || picture.state === ThumbnailView.Failed)
+    readonly property bool loading: tile.path !== "" && picture.state === ThumbnailView.Loading
+
+    // Marks stand on the backdrop, which is the theme's own only where none was chosen.
+    readonly property bool themed: tile.backdrop === TileKind.Window
+    readonly property color ink: tile.backdrop === TileKind.Dark ? "white" : "black"
+
     LazyItem {
         anchors.fill: parent
         active: root.tile.backdrop === TileKind.Checkerboard
@@ -28,19 +35,20 @@ Item {
 
     LazyItem {
         anchors.centerIn: parent
-        active: picture.state === ThumbnailView.Loading
+        active: root.loading || !root.tile.hasPicture
         sourceComponent: Symbol {
-            name: "photo"
+            name: root.tile.hasPicture ? "photo" : "square.stack.3d.up"
             size: 20
-            color: Theme.quaternaryLabel
+            color: root.themed ? Theme.quaternaryLabel : Theme.thin(root.ink, 0.3)
         }
     }
 
     LazyItem {
         anchors.fill: parent
-        active: picture.state === ThumbnailView.Failed
+        active: root.failed
         sourceComponent: FailedPicture {
             help: root.tile.failureHelp
+            color: root.themed ? Theme.secondaryLabel : Theme.thin(root.ink, 0.8)
         }
     }
 }

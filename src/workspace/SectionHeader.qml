@@ -20,13 +20,12 @@ FocusScope {
         size: 22
     }
 
-    TextField {
+    LineField {
         anchors.left: emblem.right
         anchors.leftMargin: 8
         anchors.right: addMenu.left
         anchors.rightMargin: 8
         anchors.verticalCenter: parent.verticalCenter
-        bordered: false
         placeholderText: "Section name"
         text: root.section.name
         font: Theme.font(15, Font.DemiBold)

@@ -23,7 +23,7 @@ FocusScope {
     visible: section.shown
 
     Accessible.role: Accessible.Grouping
-    Accessible.name: section.name
+    Accessible.name: section.name || "Untitled Section"
 
     LazyItem {
         id: header
@@ -69,11 +69,16 @@ FocusScope {
         Label {
             id: hint
 
+            readonly property string told: "Drop images here, or use ＋ to add colors, type, and more."
+
             visible: root.section.empty
+            width: parent.width
             padding: 18
-            text: "Drop images here, or use ＋ to add colors, type, and more."
+            text: told.replace("＋", "+") // as most typefaces have no wide one
             font: Theme.callout
             color: Theme.secondaryLabel
+            wrapMode: Text.Wrap
+            Accessible.name: told
         }
 
         TileFlow {
@@ -91,7 +96,7 @@ FocusScope {
             onShifted: by => root.shifted(by)
 
             Accessible.role: Accessible.List
-            Accessible.name: root.section.name
+            Accessible.name: root.Accessible.name
         }
     }
 }

@@ -53,9 +53,14 @@ QColor Tile::color() const {
   return color.isValid() ? color : QColor(unknownColor);
 }
 
-bool Tile::hasLightInk() const {
+QString Tile::ink() const {
   const auto* value = valueOf<ColorPayload>(item_);
-  return value && ColorUtil::contrastingText(value->hex) == TextColor::white;
+  switch (value ? ColorUtil::contrastingText(value->hex) : TextColor::primary) {
+    case TextColor::black: return QStringLiteral("black");
+    case TextColor::white: return QStringLiteral("white");
+    case TextColor::primary: break;
+  }
+  return {};
 }
 
 GradientLook Tile::gradient() const {
@@ -83,8 +88,14 @@ QString Tile::fontFamily() const {
 }
 
 QString Tile::snippet() const {
+  constexpr qsizetype mostShown = 1500;  // laying out a whole file would hold up the window
   const auto* value = valueOf<CodePayload>(item_);
-  return value ? value->snippet : QString();
+  return value ? value->snippet.left(mostShown) : QString();
+}
+
+int Tile::variantCount() const {
+  const auto* value = valueOf<LogoPayload>(item_);
+  return value ? int(value->variants.size()) : 0;
 }
 
 int Tile::level() const {
@@ -110,11 +121,11 @@ void Tile::click(int modifiers) {
 
 void Tile::toggleSelected() { workspace()->selection().toggle(item_.id, section_.id()); }
 
-void Tile::drag(QQuickItem* view, const QPointF& at) {
+void Tile::drag(QQuickItem* view, const QPointF& at, const QImage& grabbed, qreal radius) {
   const Item item = item_;
   const QPointer<Tile> self(this);  // whole turns of the event loop pass until the drag has ended
-  setDragged(true);                 // which takes the marks of hovering off the picture
-  workspace()->drag(item, {pictureOf(*view), at.toPoint()});
+  setDragged(true);
+  workspace()->drag(item, {carriedPicture(grabbed, *view, radius), at.toPoint()});
   if (self) setDragged(false);
 }
 

@@ -3,6 +3,7 @@
 #include "workspace/GradientView.h"
 #include "workspace/SectionModel.h"
 
+#include <QImage>
 #include <QPointF>
 #include <QPointer>
 
@@ -26,16 +27,21 @@ class Tile : public QObject {
   Q_PROPERTY(bool hasNotes READ hasNotes NOTIFY changed)
   // Of a colour; gray for one that doesn't parse.
   Q_PROPERTY(QColor color READ color NOTIFY changed)
-  Q_PROPERTY(bool lightInk READ hasLightInk NOTIFY changed)
+  // What is put on that colour: black, white, or empty for the interface's own.
+  Q_PROPERTY(QString ink READ ink NOTIFY changed)
   Q_PROPERTY(tarnloft::GradientLook gradient READ gradient NOTIFY changed)
-  // Of an image, a logo set's primary variant or a clip; empty if there is none.
+  // Of an image, a logo set's primary variant or a clip; empty if there is none, and for one that
+  // leads out of the package.
   Q_PROPERTY(QString path READ path NOTIFY changed)
+  // It is an image or a logo set with a file.
+  Q_PROPERTY(bool hasPicture READ hasPicture NOTIFY changed)
+  Q_PROPERTY(int variantCount READ variantCount NOTIFY changed)  // of a logo set
   Q_PROPERTY(tarnloft::TileKind::Backdrop backdrop READ backdrop NOTIFY changed)
   Q_PROPERTY(QString failureHelp READ failureHelp NOTIFY changed)
   Q_PROPERTY(QString fontFamily READ fontFamily NOTIFY changed)
-  Q_PROPERTY(QString snippet READ snippet NOTIFY changed)
-  Q_PROPERTY(QString text READ text NOTIFY changed)  // of a block
-  Q_PROPERTY(int level READ level NOTIFY changed)    // of a heading
+  Q_PROPERTY(QString snippet READ snippet NOTIFY changed)  // no more of it than a card can show
+  Q_PROPERTY(QString text READ text NOTIFY changed)        // of a block
+  Q_PROPERTY(int level READ level NOTIFY changed)          // of a heading
   Q_PROPERTY(bool selected READ isSelected NOTIFY selectionChanged)
   Q_PROPERTY(bool sectionSelected READ isSectionSelected NOTIFY selectionChanged)
   Q_PROPERTY(bool dragged READ isDragged NOTIFY draggedChanged)
@@ -56,9 +62,11 @@ class Tile : public QObject {
   QString description() const { return TileFacts::accessibilityDescription(item_); }
   bool hasNotes() const { return !item_.usageNotes().isEmpty(); }
   QColor color() const;
-  bool hasLightInk() const;
+  QString ink() const;
   GradientLook gradient() const;
   QString path() const;
+  bool hasPicture() const { return TileFacts::picture(item_).has_value(); }
+  int variantCount() const;
   TileKind::Backdrop backdrop() const { return TileFacts::backdrop(item_); }
   QString failureHelp() const;
   QString fontFamily() const;
@@ -71,8 +79,10 @@ class Tile : public QObject {
   // A click with those keys held down.
   Q_INVOKABLE void click(int modifiers = Qt::NoModifier);
   Q_INVOKABLE void toggleSelected();
-  // Drags the item; its picture is that of `view`, which is pressed at that point of it.
-  Q_INVOKABLE void drag(QQuickItem* view, const QPointF& at);
+  // Drags the item under what was grabbed of its view, held at that point of it and cut to corners
+  // of that radius. Returns when the drag has ended.
+  Q_INVOKABLE void drag(QQuickItem* view, const QPointF& at, const QImage& grabbed = {},
+                        qreal radius = 0);
   bool isDragged() const { return isDragged_; }
 
   // --- Of a block

@@ -10,8 +10,13 @@ Card {
     id: root
 
     required property Tile tile
-    property bool hovering: false
+    property bool resting: false // it shows nothing of the pointer
 
+    property bool helped: false
+
+    readonly property bool hovering: hover.hovered && !resting
+    readonly property bool failed: (content.item as ImageTileContent)?.failed ?? false
+    readonly property string help: failed ? tile.failureHelp : tile.help
     readonly property color backdrop: {
         switch (tile.backdrop) {
         case TileKind.White:
@@ -23,6 +28,7 @@ Card {
         }
     }
 
+    onHoveringChanged: if (hovering && help !== "") helped = true
     selected: tile.selected
     color: {
         switch (tile.kind) {
@@ -41,6 +47,8 @@ Card {
     }
 
     LazyItem {
+        id: content
+
         anchors.fill: parent
         sourceComponent: {
             switch (root.tile.kind) {
@@ -66,6 +74,33 @@ Card {
     Component { id: video; VideoTileContent { tile: root.tile } }
     Component { id: font; FontTileContent { tile: root.tile } }
     Component { id: code; CodeTileContent { tile: root.tile } }
+
+    HoverHandler {
+        id: hover
+    }
+
+    // Below the badges, which have a help of their own. It stays, for a tip needs time to fade.
+    LazyItem {
+        anchors.fill: parent
+        active: root.helped
+        sourceComponent: Help {
+            text: root.resting ? "" : root.help
+        }
+    }
+
+    LazyItem {
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        anchors.margins: 5
+        active: root.tile.variantCount > 1
+        sourceComponent: Badge {
+            symbol: "square.stack.3d.up.fill"
+            text: root.tile.variantCount
+            kind: Badge.Dark
+            font: Theme.font(10, Font.Bold)
+            Accessible.ignored: true // the tile's own description counts them
+        }
+    }
 
     LazyItem {
         anchors.right: parent.right

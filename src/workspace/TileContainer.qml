@@ -12,10 +12,13 @@ Item {
     required property Tile tile
 
     readonly property bool focused: activeFocus && FocusOrigin.keyboard
-    readonly property bool hovering: hover.hovered && !tile.dragged
+    readonly property bool dragged: drag.active || tile.dragged
+    readonly property bool hovering: hover.hovered && !dragged
+
+    opacity: tile.dragged ? 0.45 : 1
 
     Accessible.role: Accessible.ListItem
-    Accessible.name: tile.name
+    Accessible.name: tile.name || tile.description
     Accessible.description: tile.description
     Accessible.focusable: true
     Accessible.selectable: true
@@ -44,15 +47,11 @@ Item {
         width: parent.width
         height: root.tile.workspace.tileHeight
         tile: root.tile
-        hovering: root.hovering
+        resting: root.dragged
 
         FocusRing {
             shown: root.focused
             base: Theme.cardRadius
-        }
-
-        HoverHandler {
-            id: cardHover
         }
     }
 
@@ -61,6 +60,7 @@ Item {
         width: parent.width
         height: 16
         text: root.tile.name
+        horizontalAlignment: Text.AlignLeft // of right-to-left names too, under the card's edge
         font: Theme.font(12, Font.Medium)
         Accessible.ignored: true
     }
@@ -71,13 +71,15 @@ Item {
         height: 14
         visible: text !== ""
         text: root.tile.subcaption
+        horizontalAlignment: Text.AlignLeft
         font: Theme.subheadline
         color: Theme.secondaryLabel
         Accessible.ignored: true
     }
 
+    // In the middle of the gap, on whole points.
     InsertionBar {
-        x: -7 - width / 2
+        x: -8
         height: card.height
         shown: dropTarget.targeted
     }
@@ -90,6 +92,7 @@ Item {
             selected: root.tile.selected
             checkable: true // which makes it a check box for assistive technology
             checked: root.tile.selected
+            focusPolicy: Qt.NoFocus // Control and Space do the same
             onClicked: root.tile.toggleSelected()
         }
     }
@@ -107,17 +110,11 @@ Item {
         }
     }
 
-    DragHandler {
-        target: null
-        onActiveChanged: if (active) root.tile.drag(card, card.mapFromItem(root, centroid.pressPosition));
-    }
+    TileDragHandler {
+        id: drag
 
-    LazyItem {
-        anchors.fill: card
-        active: root.hovering && root.tile.help !== ""
-        sourceComponent: Help {
-            text: root.tile.help
-            shown: cardHover.hovered
-        }
+        tile: root.tile
+        view: card
+        radius: Theme.cardRadius
     }
 }

@@ -21,7 +21,8 @@ QString variantCount(const LogoValue& logo) {
 
 std::optional<QString> fontSubcaption(const FontValue& font) {
   if (font.asset) return unlessEmpty(font.weight.value_or(QString()));
-  return font.weight ? *font.weight + QStringLiteral(" · name only") : QStringLiteral("Name only");
+  const auto weight = unlessEmpty(font.weight.value_or(QString()));
+  return weight ? *weight + QStringLiteral(" · name only") : QStringLiteral("Name only");
 }
 
 Backdrop backdropOf(const std::optional<ImageBackground>& background) {
@@ -118,15 +119,6 @@ QColor color(const QString& hex) {
   if (!parsed) return {};
   return QColor::fromRgbF(float(parsed->red), float(parsed->green), float(parsed->blue),
                           float(parsed->alpha));
-}
-
-QColor contrastingInk(const QString& hex, const QColor& primary) {
-  switch (ColorUtil::contrastingText(hex)) {
-    case TextColor::black: return Qt::black;
-    case TextColor::white: return Qt::white;
-    case TextColor::primary: break;
-  }
-  return primary;
 }
 
 }  // namespace tarnloft::TileFacts

@@ -48,8 +48,6 @@ std::optional<QString> pictureName(const Item& item);
 
 // Invalid for a text that doesn't parse.
 QColor color(const QString& hex);
-// What is put on a swatch of it: black, white, or the interface's own.
-QColor contrastingInk(const QString& hex, const QColor& primary);
 
 }  // namespace TileFacts
 }  // namespace tarnloft

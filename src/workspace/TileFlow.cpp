@@ -164,9 +164,10 @@ FlowLayout::Range TileFlow::wantedRange() {
 
 void TileFlow::populate() {
   const auto wanted = wantedRange();
-  if (!areItemsStale_ && wanted == populated_) return;
+  if (!areItemsStale_ && !isOrderStale_ && wanted == populated_) return;
   const SharedList<Item>& items = section_->items()->items();
   if (std::exchange(areItemsStale_, false)) {
+    isOrderStale_ = true;
     live_.forEach([](LiveTile& live) { live.index = -1; });
     int index = 0;
     for (const Item& item : items) {
@@ -188,6 +189,7 @@ void TileFlow::populate() {
   for (int index = wanted.first; index < wanted.last; ++index) before = show(index, before);
   if (tabStop >= wanted.last) (void)show(tabStop, before);
   populated_ = wanted;
+  isOrderStale_ = false;
 }
 
 // Makes the item's view exist, behind the other in the order of the Tab key.
@@ -201,9 +203,16 @@ QQuickItem* TileFlow::show(int index, QQuickItem* before) {
     live->isWatched = true;
   }
   live->index = index;
-  if (before && !live->isPlaced) live->view->stackAfter(before);
+  if (isOrderStale_ || !live->isPlaced) stack(*live->view, before);
   if (!TileFacts::isBlock(item)) live->view->setActiveFocusOnTab(item.id == current_);
   return live->view;
+}
+
+// Children stand in the order in which the Tab key and assistive technology go through them.
+void TileFlow::stack(QQuickItem& view, QQuickItem* before) {
+  if (before) return view.stackAfter(before);
+  QQuickItem* const first = childItems().constFirst();
+  if (first != &view) view.stackBefore(first);
 }
 
 // Where the Tab key leads: the tile that last had the keyboard, else the first one; -1 without any.
@@ -285,6 +294,8 @@ void TileFlow::keyPressEvent(QKeyEvent* event) {
 
 void TileFlow::focusTile(int index) {
   (void)show(index, nullptr);
+  isOrderStale_ = true;  // it gets its place among the others when they are shown
+  polish();
   LiveTile* live = live_.find(section_->items()->items().at(index).id);
   if (!live) return;
   put(*live, layout_.rect(index));

@@ -73,6 +73,7 @@ class TileFlow : public QQuickItem {
   void put(LiveTile& live, const QRectF& rect);
   void advance(double seconds);
   QQuickItem* show(int index, QQuickItem* before);
+  void stack(QQuickItem& view, QQuickItem* before);
   int currentIndex();
   int focusedIndex() const;
   void focusTile(int index);
@@ -87,7 +88,8 @@ class TileFlow : public QQuickItem {
   bool animated_ = true;
   bool isLayoutStale_ = true;
   bool areItemsStale_ = true;
-  bool isMoving_ = false;  // the next placing moves views
+  bool isOrderStale_ = true;  // children may not stand in the order of their items
+  bool isMoving_ = false;     // the next placing moves views
   FlowLayout layout_;
   FlowLayout::Range populated_;
   double margin_ = 0;  // beyond the strip that is seen, in which views exist as well

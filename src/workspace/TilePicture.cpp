@@ -7,27 +7,20 @@
 
 namespace tarnloft {
 
-QImage pictureOf(const QQuickItem& item) {
-  constexpr qreal cornerRadius = 10;
-  constexpr qreal opacity = 0.85;
-  QQuickWindow* window = item.window();
+QImage carriedPicture(const QImage& grabbed, const QQuickItem& item, qreal radius) {
+  const QQuickWindow* window = item.window();
   if (!window) return {};
   const qreal ratio = window->effectiveDevicePixelRatio();
-  const QRectF shown = item.mapRectToScene(item.boundingRect());
-  const QImage whole = window->grabWindow();
-
-  QImage picture((shown.size() * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+  QImage picture((item.size() * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
   picture.fill(Qt::transparent);
+  picture.setDevicePixelRatio(ratio);
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::Antialiasing);
   QPainterPath edge;
-  edge.addRoundedRect(QRectF(QPointF(), shown.size() * ratio), cornerRadius * ratio,
-                      cornerRadius * ratio);
+  edge.addRoundedRect(QRectF(QPointF(), item.size()), radius, radius);
+  painter.fillPath(edge, window->color());
   painter.setClipPath(edge);
-  painter.setOpacity(opacity);
-  painter.drawImage(-shown.topLeft() * ratio, whole);
-  painter.end();
-  picture.setDevicePixelRatio(ratio);
+  painter.drawImage(QRectF(QPointF(), item.size()), grabbed);
   return picture;
 }
 

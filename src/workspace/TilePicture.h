@@ -6,8 +6,9 @@ class QQuickItem;
 
 namespace tarnloft {
 
-// What an item of a window shows, as a picture in the screen's pixels to carry under the pointer.
-// Null for an item without a window. Takes as long as drawing the window does.
-QImage pictureOf(const QQuickItem& item);
+// What is carried under the pointer for an item of a window: what was grabbed of it, in the
+// screen's pixels, on the window's ground, with corners of that radius in points. Nothing of it but
+// its corners is translucent. Null for an item without a window.
+QImage carriedPicture(const QImage& grabbed, const QQuickItem& item, qreal radius);
 
 }  // namespace tarnloft

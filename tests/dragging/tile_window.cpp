@@ -10,10 +10,14 @@
 #include "testing/FakeDrops.h"
 #include "testing/TestServices.h"
 
+#include <QCursor>
 #include <QDropEvent>
 #include <QGuiApplication>
 #include <QImage>
+#include <QPainter>
 #include <QRasterWindow>
+#include <QScreen>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -34,6 +38,9 @@ class TileWindow : public QRasterWindow {
   }
 
  protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter(this).fillRect(QRect(QPoint(), size()), Qt::blue);
+  }
   void mousePressEvent(QMouseEvent*) override { pressed_ = true; }
   void mouseMoveEvent(QMouseEvent*) override {
     if (!std::exchange(pressed_, false)) return;
@@ -41,9 +48,13 @@ class TileWindow : public QRasterWindow {
                                   say("TIFF " + path);
                                   return std::optional(QByteArray(tiffSize_, 't'));
                                 }};
-    QImage picture(32, 32, QImage::Format_RGB32);
+    QImage picture(32, 32, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::red);
+    for (int i = 0; i < 8; ++i) picture.setPixelColor(i, 0, Qt::transparent);
     const Item& item = document_.brand().sections.at(0).items.at(0);
+    QTimer seeing;
+    connect(&seeing, &QTimer::timeout, this, &TileWindow::sayPicture);
+    seeing.start(20);
     session_.drag({TileDrag::makeDragProvider(services, document_, item)}, {picture, {8, 8}});
     say("DRAGGED");
   }
@@ -70,6 +81,13 @@ class TileWindow : public QRasterWindow {
                                             document_.brand().sections.at(1).id, document_);
     say(QString("DROP %1").arg(isTaken ? "taken" : "refused"));
     event.acceptProposedAction();
+  }
+  // What the screen shows where the carried picture is clear, beside it, and inside of it.
+  void sayPicture() {
+    const QPoint corner = QCursor::pos() - QPoint(8, 8);
+    const QImage seen = screen()->grabWindow(0, corner.x() - 2, corner.y() - 2, 12, 12).toImage();
+    if (seen.pixelColor(8, 8) != QColor(Qt::red)) return;
+    say(QString("PICTURE %1 %2").arg(seen.pixelColor(4, 2).name(), seen.pixelColor(0, 2).name()));
   }
   void sayItems() {
     QString line = "ITEMS";

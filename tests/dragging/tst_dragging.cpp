@@ -19,6 +19,7 @@ class TestDragging : public QObject {
   void thePictureIsMadeWhenAskedFor();
   void aPictureTooLargeForTheServerIsLeftOut();
   void aColourOffersNothing();
+  void theCarriedPictureHasItsOwnShape();
   void aDragWithinTheWindowMovesTheTile_data();
   void aDragWithinTheWindowMovesTheTile();
   void aTileOfAnotherProcessComesAsAFile();
@@ -193,6 +194,17 @@ void TestDragging::aColourOffersNothing() {
   QVERIFY(drag(left, right));
   QVERIFY(!window.line("DRAGGED").isEmpty());
   QVERIFY(other.lines().join('\n').indexOf("DATA") < 0);
+}
+
+// Also where nobody composes the screen, which would show the ground of its window.
+void TestDragging::theCarriedPictureHasItsOwnShape() {
+  const Tiles tiles;
+  Program window = tiles.window(left);
+  QVERIFY(!window.line("READY").isEmpty());
+  QVERIFY(drag(left, left + QPoint(60, 40)));
+  const QStringList seen = window.line("PICTURE").split(' ');
+  QCOMPARE(seen.size(), 3);
+  QCOMPARE(seen.at(1), seen.at(2));
 }
 
 void TestDragging::aDragWithinTheWindowMovesTheTile_data() {

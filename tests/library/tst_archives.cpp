@@ -28,6 +28,7 @@ class TestArchives : public QObject {
   void findsThePackage();
   void refusesABomb_data();
   void refusesABomb();
+  void unpacksNowhereWithoutItsFolder();
   void refusesACutArchive();
   void survivesWhatCannotBeWritten();
   void doesNothingWhenCancelled();
@@ -327,6 +328,22 @@ void TestArchives::refusesABomb() {
   ZipArchiver archiver(limits);
   QVERIFY(QDir().mkpath(import.library.disk.path("out")));
   QTEST(archiver.extract(import.archive, import.library.disk.path("out")).has_value(), "imports");
+}
+
+// Least of all into the root of the file system.
+void TestArchives::unpacksNowhereWithoutItsFolder() {
+  Import import;
+  const QString top = QString("tst-%1.tarnloft").arg(QCoreApplication::applicationPid());
+  {
+    ForeignZip zip(import.archive);
+    zip.file(qPrintable(top + "/manifest.json"), manifest("x"));
+  }
+  QVERIFY(!ZipArchiver().extract(import.archive, import.library.disk.path("gone")));
+  QVERIFY(!QFile::exists(import.library.disk.path("gone")));
+  const QDir inRoot("/" + top);
+  const bool isInRoot = inRoot.exists();
+  if (isInRoot) QDir(inRoot).removeRecursively();
+  QVERIFY(!isInRoot);
 }
 
 void TestArchives::refusesACutArchive() {

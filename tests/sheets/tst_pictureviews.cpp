@@ -29,6 +29,7 @@ class TestPictureViews : public QObject {
   void aBrokenFileFails();
   void aViewThatGoesWithdrawsItsRequest();
   void fitsOrFillsAndCutsCorners();
+  void standsOnWholePixels();
   void aLazyItemExistsWhileItIsWanted();
 };
 
@@ -194,6 +195,25 @@ void TestPictureViews::fitsOrFillsAndCutsCorners() {
   QCOMPARE(test.shown(40, 2), QColor(Qt::red));
 }
 
+void TestPictureViews::standsOnWholePixels() {
+  Window test;
+  ThumbnailView* view = test.view("red");
+  (void)test.window.grabWindow();
+  QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
+  for (const double y : {0.0, 7.4, 7.5, 7.8}) {  // as items do at a scale of 1.25
+    view->setPosition({3.3, y});
+    const QImage shown = test.window.grabWindow();
+    int red = 0, white = 0;
+    for (int row = 0; row < 100; ++row) {
+      const QColor color = shown.pixelColor(50, row);
+      red += color == QColor(Qt::red);
+      white += color == QColor(Qt::white);
+    }
+    QCOMPARE(red, 50);
+    QCOMPARE(white, 50);
+  }
+}
+
 void TestPictureViews::aLazyItemExistsWhileItIsWanted() {
   QQmlEngine engine;
   QQmlComponent component(&engine);
@@ -230,7 +250,7 @@ void TestPictureViews::aLazyItemExistsWhileItIsWanted() {
 }
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QGuiApplication application(argc, argv);
   TestPictureViews test;
   return QTest::qExec(&test, argc, argv);

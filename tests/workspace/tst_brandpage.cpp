@@ -1,3 +1,4 @@
+#include "platform/controls/Contrast.h"
 #include "workspace/Items.h"
 #include "workspace/TestPage.h"
 
@@ -21,20 +22,28 @@ class TestBrandPage : public QObject {
   void aClickCopiesAColour();
   void clicksWithKeysSelect();
   void theCheckBoxSelects();
+  void hoveringTellsWhatAClickDoes();
   void keysSelectDeleteAndClear();
   void tabAndArrowsLeadThroughTiles();
   void returnAndSpaceAct();
   void namesOfSectionsAreEdited();
   void blocksAreEditedInPlace();
   void aDragStartsFromTheCard();
+  void aRowOfTextIsDraggedBesideItsText_data();
+  void aRowOfTextIsDraggedBesideItsText();
+  void theKeyboardDeletesARowOfText();
   void tilesTakeItemsAndSectionsAllElse();
   void blocksTakeItems();
   void anEmptySectionTakesDropsAndHints();
   void aDropAtTheEndDoesNotScroll();
   void aDragAtTheEdgeScrolls();
+  void theTargetIsWhatScrollsUnderADrag();
   void aSearchTakesSectionsOffThePage();
   void picturesAreAskedForAtTheSizeOfTheScreen();
+  void aBrokenPictureTellsSo_data();
   void aBrokenPictureTellsSo();
+  void itsWordIsReadableOnEveryBackdrop_data();
+  void itsWordIsReadableOnEveryBackdrop();
   void assistiveTechnologyFindsEverything();
   void sectionsComeGoAndMove();
   void aNewSectionIsTheWindowsBusiness();
@@ -105,6 +114,15 @@ QAccessibleInterface* accessible(TestPage& page, QAccessible::Role role, const Q
   return nullptr;
 }
 
+// Whether that text is in sight somewhere in the item.
+bool shows(const QQuickItem* item, const QString& text) {
+  if (!item->isVisible()) return false;
+  if (item->inherits("QQuickText") && item->property("text") == text) return true;
+  const auto children = item->childItems();
+  return std::any_of(children.begin(), children.end(),
+                     [&](const QQuickItem* child) { return shows(child, text); });
+}
+
 QString copied(const TestWorkspace& test) { return test.pasteboard.texts.join('|'); }
 
 QString selectedNames(TestWorkspace& test) {
@@ -172,6 +190,20 @@ void TestBrandPage::theCheckBoxSelects() {
   QCOMPARE(boxes(), (QStringList{"Deselect", "Select"}));  // on all of the section, and no other
 }
 
+void TestBrandPage::hoveringTellsWhatAClickDoes() {
+  TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), imageItem("b", "broken.png")})});
+  TestPage page(test);
+  const auto tells = [&](const QString& text) { return shows(page.view.contentItem(), text); };
+  const QPoint hint = page.tileNamed("a")->mapToScene({125, 80}).toPoint();  // of its card's corner
+  const QImage before = page.view.grabWindow();
+  QTest::mouseMove(&page.view, page.middleOf("a"));
+  QTRY_VERIFY(page.view.grabWindow().pixelColor(hint) != before.pixelColor(hint));
+  QTRY_VERIFY(tells("Click to copy #FF0000"));
+  QTest::mouseMove(&page.view, page.middleOf("b"));
+  QTRY_VERIFY(tells("Couldn't load “b” — the file may be corrupt. Re-import it."));
+  QTRY_VERIFY(!tells("Click to copy #FF0000"));
+}
+
 void TestBrandPage::keysSelectDeleteAndClear() {
   TestWorkspace test({sectionOf("A", {textItem("t"), colorItem("a"), colorItem("b")}),
                       sectionOf("B", {colorItem("x")})});
@@ -210,8 +242,11 @@ void TestBrandPage::tabAndArrowsLeadThroughTiles() {
   const double y = last->mapToItem(page.scroll(), QPointF()).y();
   QVERIFY(y >= 0 && y + last->height() <= page.scroll()->height());
   QCOMPARE(steps({Qt::Key_Home}), "0");
-  QVERIFY(steps({Qt::Key_Backtab}).isEmpty());
-  QCOMPARE(steps({Qt::Key_Tab}), "0");
+  page.settle();
+  QVERIFY(steps({Qt::Key_Backtab}).isEmpty());  // the heading, behind which stands its button
+  QCOMPARE(steps({Qt::Key_Tab, Qt::Key_Tab}), "0");
+  page.key(Qt::Key_A, Qt::ControlModifier);  // each tile shows a check box, which is no stop
+  QVERIFY(steps({Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab}) == "x");
 }
 
 void TestBrandPage::returnAndSpaceAct() {
@@ -278,13 +313,51 @@ void TestBrandPage::aDragStartsFromTheCard() {
   for (int step = 1; step <= 5; ++step) {
     QTest::mouseMove(&page.view, from + QPoint(4 * step, 2 * step));
   }
+  QTRY_COMPARE(test.drags.items.size(), 1);
   QTest::mouseRelease(&page.view, Qt::LeftButton, {}, from + QPoint(20, 10));
-  QCOMPARE(test.drags.items.size(), 1);
   QCOMPARE(QFileInfo(*test.drags.items.first().file).fileName(), "Client h.png");
   const QQuickItem* tile = page.tileNamed("Hero");
   QCOMPARE(test.drags.hotSpot, tile->mapFromScene(from).toPoint());
   QCOMPARE(test.drags.picture.deviceIndependentSize().toSize(), QSize(int(tile->width()), 96));
   QCOMPARE(copied(test), "");
+}
+
+void TestBrandPage::aRowOfTextIsDraggedBesideItsText_data() {
+  QTest::addColumn<QPoint>("at");
+  QTest::addColumn<bool>("drags");
+  QTest::newRow("by its grip") << QPoint(-12, 8) << true;
+  QTest::newRow("behind its text") << QPoint(300, 8) << true;
+  QTest::newRow("not in its text") << QPoint(10, 8) << false;
+}
+
+void TestBrandPage::aRowOfTextIsDraggedBesideItsText() {
+  QFETCH(QPoint, at);
+  TestWorkspace test({sectionOf("A", {headerItem("Heading"), colorItem("b")})});
+  TestPage page(test);
+  const QPoint from = page.tileNamed("Heading")->mapToScene(at).toPoint();
+  QTest::mousePress(&page.view, Qt::LeftButton, {}, from);
+  for (int step = 1; step <= 8; ++step) {
+    QTest::mouseMove(&page.view, from + QPoint(4 * step, 0));
+    page.settle();
+  }
+  QTest::mouseRelease(&page.view, Qt::LeftButton, {}, from + QPoint(32, 0));
+  QTEST(test.drags.items.size() == 1, "drags");
+  if (!test.drags.items.isEmpty()) {
+    QVERIFY(test.drags.items.first().payload && !test.drags.items.first().file);
+    QVERIFY(test.drags.picture.width() > 60 && test.drags.picture.width() < 200);  // of the text
+  }
+}
+
+void TestBrandPage::theKeyboardDeletesARowOfText() {
+  TestWorkspace test({sectionOf("A", {textItem("calm"), headerItem("Voice", 2)})});
+  TestPage page(test);
+  QTest::mouseClick(&page.view, Qt::LeftButton, {},
+                    page.tileNamed("calm")->mapToScene({400, 8}).toPoint());
+  QTest::keyClick(&page.view, '!');
+  QCOMPARE(test.names(0).first(), "calm!");
+  page.key(Qt::Key_Tab);
+  page.key(Qt::Key_Space);
+  QCOMPARE(test.names(0), QStringList{"Voice"});
 }
 
 void TestBrandPage::tilesTakeItemsAndSectionsAllElse() {
@@ -362,6 +435,23 @@ void TestBrandPage::aDragAtTheEdgeScrolls() {
   QCOMPARE(position(), left);
 }
 
+void TestBrandPage::theTargetIsWhatScrollsUnderADrag() {
+  TestWorkspace test({colorSection("A", 200)});
+  TestPage page(test);
+  const auto isTargeted = [&](const QString& name) {
+    return page.tileNamed(name)->findChild<DropTarget*>()->isTargeted();
+  };
+  HandDrag drag(page.view, ownDrag(test, page, "0"));
+  (void)drag.hover(page.middleOf("13"));
+  QVERIFY(isTargeted("13"));
+  const double row = page.tileNamed("19")->y() - page.tileNamed("13")->y();
+  page.scroll()->setProperty("contentY", row);
+  QTRY_VERIFY(isTargeted("19"));
+  QVERIFY(!isTargeted("13"));
+  QVERIFY(drag.drop(page.middleOf("19")));
+  QTRY_COMPARE(test.names(0).indexOf("0"), 18);
+}
+
 void TestBrandPage::aSearchTakesSectionsOffThePage() {
   TestWorkspace test({sectionOf("A", {colorItem("Sea"), colorItem("Sand")}),
                       sectionOf("B", {colorItem("Stone")})});
@@ -387,14 +477,58 @@ void TestBrandPage::picturesAreAskedForAtTheSizeOfTheScreen() {
   QCOMPARE(shown.pixelColor(corner + QPoint(20, 20)), QColor(Qt::blue));
 }
 
+void TestBrandPage::aBrokenPictureTellsSo_data() {
+  QTest::addColumn<QString>("file");
+  QTest::newRow("that can't be decoded") << "broken.png";
+  QTest::newRow("that leads out of the package") << "../a.png";
+}
+
 void TestBrandPage::aBrokenPictureTellsSo() {
-  TestWorkspace test(
-      {sectionOf("A", {imageItem("a", "broken.png"), videoItem("v", "broken.mp4")})});
+  QFETCH(QString, file);
+  TestWorkspace test({sectionOf("A", {imageItem("a", file), videoItem("v", "broken.mp4")})});
   TestPage page(test);
   QTRY_VERIFY(accessible(page, QAccessible::StaticText, "Couldn't load"));
   QCOMPARE(
       accessible(page, QAccessible::StaticText, "Couldn't load")->text(QAccessible::Description),
       "Couldn't load “a” — the file may be corrupt. Re-import it.");
+}
+
+void TestBrandPage::itsWordIsReadableOnEveryBackdrop_data() {
+  QTest::addColumn<bool>("dark");
+  QTest::addColumn<std::optional<ImageBackground>>("backdrop");
+  for (const bool dark : {false, true}) {
+    const char* look = dark ? "dark" : "light";
+    QTest::addRow("none, %s", look) << dark << std::optional<ImageBackground>();
+    for (const auto one : allCases<ImageBackground>()) {
+      QTest::addRow("%s, %s", rawValue(one).data(), look) << dark << std::optional(one);
+    }
+  }
+}
+
+// By what is drawn: the symbol's ink against all that is drawn beside it.
+void TestBrandPage::itsWordIsReadableOnEveryBackdrop() {
+  QFETCH(bool, dark);
+  QFETCH(std::optional<ImageBackground>, backdrop);
+  Item item = imageItem("a", "broken.png");
+  item.imageBackground = backdrop;
+  TestWorkspace test({sectionOf("A", {item})});
+  TestPage page(test);
+  Theme::of(*page.view.engine()).setDark(dark);
+  QTRY_VERIFY(accessible(page, QAccessible::StaticText, "Couldn't load"));
+  page.settle();
+  const QImage shown = page.view.grabWindow();
+  const QQuickItem* tile = page.tileNamed("a");
+  const QPoint middle = tile->mapToScene({tile->width() / 2, 48}).toPoint();
+  double best = 0;
+  for (int y = -20; y < 0; ++y) {
+    const QColor ink = shown.pixelColor(middle + QPoint(2, y));
+    double worst = 21;
+    for (int x = 20; x < 40; ++x) {
+      worst = std::min(worst, contrastRatio(ink, shown.pixelColor(middle + QPoint(x, -20))));
+    }
+    best = std::max(best, worst);
+  }
+  QVERIFY2(best >= 4.5, qPrintable(QString::number(best)));
 }
 
 void TestBrandPage::assistiveTechnologyFindsEverything() {

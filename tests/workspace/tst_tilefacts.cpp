@@ -167,6 +167,8 @@ void TestTileFacts::sortsStopsAndLeavesOutWhatDoesNotParse() {
   const auto stops =
       linearGradient(gradient({{"#00F", 1}, {"nope", 0.5}, {"#F00", 0}}, 0), {10, 10}).stops();
   QCOMPARE(stops, (QGradientStops{{0, Qt::red}, {1, Qt::blue}}));
+  QCOMPARE(linearGradient(gradient({{"nope", 0.5}}, 0), {10, 10}).stops(),
+           (QGradientStops{{0, Qt::transparent}}));
 }
 
 void TestTileFacts::keepsHardEdges() {

@@ -82,6 +82,8 @@ class ZipReader {
       : folder_(QFile::encodeName(QFileInfo(folder).canonicalFilePath())), limits_(limits) {}
 
   Result<void> read(const QString& path) {
+    // An empty path would unpack into the root of the file system.
+    if (folder_.isEmpty()) return failure(ErrorKind::io, QStringLiteral("There is no such folder"));
     left_ = limits_.size + limits_.growth * QFileInfo(path).size();
     ::archive_read_support_format_zip(in_.get());
     ::archive_write_disk_set_options(out_.get(), ARCHIVE_EXTRACT_TIME | ARCHIVE_EXTRACT_PERM |

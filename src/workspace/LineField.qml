@@ -1,0 +1,31 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Controls
+
+// A line of text that is edited in place. At rest it shows its beginning.
+TextField {
+    id: root
+
+    readonly property bool elided: !activeFocus && contentWidth > width
+
+    // Where the beginning is what it scrolls to, so that a click meets the letter under it.
+    function rewind() {
+        if (!activeFocus)
+            cursorPosition = 0;
+    }
+
+    bordered: false
+    color: elided ? "transparent" : Theme.label
+    onActiveFocusChanged: rewind()
+    onTextChanged: rewind()
+
+    Label {
+        anchors.fill: parent
+        visible: root.elided
+        text: root.text
+        font: root.font
+        verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true
+    }
+}

@@ -1,0 +1,27 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Workspace
+
+// Drags a tile or a row of text out of the item that it stands in, under a picture of `view`.
+DragHandler {
+    id: root
+
+    required property Tile tile
+    required property Item view
+    property real radius: 0 // of the picture's corners
+
+    // The picture is there a frame later, when the button may be up again.
+    function start() {
+        const ratio = view.Screen.devicePixelRatio;
+        const at = view.mapFromItem(parent, centroid.pressPosition);
+        const size = Qt.size(Math.round(view.width * ratio), Math.round(view.height * ratio));
+        view.grabToImage(result => {
+            if (active)
+                tile.drag(view, at, result.image, radius);
+        }, size);
+    }
+
+    target: null
+    onActiveChanged: if (active) start()
+}
