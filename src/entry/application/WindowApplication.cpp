@@ -1,5 +1,6 @@
 #include "entry/application/WindowApplication.h"
 
+#include "platform/controls/Motion.h"
 #include "shell/LastWindowPolicy.h"
 
 #include <QCoreApplication>
@@ -21,6 +22,8 @@ WindowApplication::WindowApplication()
   followAppearance();
   connect(&services_.appearance, &DesktopAppearance::darkChanged, this,
           &WindowApplication::followAppearance);
+  services_.motion.follow(
+      [&motion = Motion::of(engine_)](bool reduced) { motion.setReduced(reduced); });
   connect(&engine_, &QQmlEngine::quit, qApp, &QCoreApplication::quit);
   connect(&mainWindow_, &MainWindow::closed, this, &WindowApplication::mainWindowClosed);
 }
