@@ -3,6 +3,7 @@
 //   FILE]
 // With --screenshot the whole gallery is drawn into the file; it needs no display unless
 // QT_QPA_PLATFORM asks for one.
+#include "platform/controls/Motion.h"
 #include "platform/controls/Theme.h"
 #include "platform/controls/Typography.h"
 
@@ -66,6 +67,7 @@ int main(int argc, char** argv) {
   Theme& theme = Theme::of(engine);
   theme.setDark(parser.isSet(QStringLiteral("dark")));
   theme.setAccent(QColor(parser.value(QStringLiteral("accent"))));
+  Motion::of(engine).setReduced(!file.isEmpty());  // nothing half faded in
   engine.setInitialProperties({{QStringLiteral("whole"), !file.isEmpty()},
                                {QStringLiteral("only"), parser.value(QStringLiteral("page"))}});
   engine.load(QUrl(QStringLiteral("qrc:/qt-project.org/imports/TarnLoft/Gallery/Gallery.qml")));
