@@ -24,7 +24,8 @@ Item {
     Keys.onDownPressed: menuRequested()
     Accessible.role: role
     Accessible.name: accessibleName
-    Accessible.description: help !== accessibleName ? help : ""
+    // The desktop's bus knows no role for buttons with a menu.
+    Accessible.description: help !== "" && help !== accessibleName ? help : role === Accessible.ButtonMenu ? "Opens a menu" : ""
     Accessible.pressed: open // the nearest that can be told to "expanded"
     Accessible.onPressAction: menuRequested()
 
