@@ -57,7 +57,8 @@ Item {
         active: root.isText
         sourceComponent: Text {
             text: root.look.text
-            font: Theme.font(Math.round(root.size * (root.look.mark === EmblemStyle.Emoji ? 0.6 : 0.5)), Font.DemiBold)
+            font: root.look.mark === EmblemStyle.Emoji ? Theme.emoji(Math.round(root.size * 0.6))
+                                                       : Theme.font(Math.round(root.size * 0.5), Font.DemiBold)
             color: root.inkColor
             textFormat: Text.PlainText
             Accessible.ignored: true

@@ -13,10 +13,16 @@ QtObject {
     required property bool active
     property real offset: 0
     property real last: 0
-    property bool placed: false // the first layout is no jump
     property SpringNumber spring: null // made at the first jump
 
-    Component.onCompleted: Qt.callLater(place) // qmllint disable
+    // The first layout is no jump; it comes in the turn of the event loop that makes the item.
+    property bool placed: false
+    readonly property Timer placing: Timer {
+        interval: 0
+        running: true
+        onTriggered: root.placed = true
+    }
+
     onYChanged: {
         const jump = last - y;
         last = y;
@@ -26,10 +32,6 @@ QtObject {
         if (!spring)
             spring = making.createObject(root) as SpringNumber;
         spring.restart();
-    }
-
-    function place() {
-        placed = true;
     }
 
     readonly property Component making: Component {

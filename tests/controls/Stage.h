@@ -15,8 +15,8 @@
 
 namespace tarnloft {
 
-// A window with a piece of QML in it. The piece may add to `log`, by `log("clicked")`, and its
-// items are found by their `objectName`.
+// A window with a piece of QML in it, bound as all views are. The piece may add to `log`, by
+// `log("clicked")`, and its items are found by their `objectName`.
 class Stage {
  public:
   explicit Stage(const QString& qml) {
@@ -29,6 +29,7 @@ class Stage {
     m_view.setResizeMode(QQuickView::SizeRootObjectToView);
     m_view.resize(600, 500);
     m_view.show();
+    m_view.requestActivate();  // where no window manager does it
     m_ready = QTest::qWaitForWindowActive(&m_view);
   }
 
@@ -39,7 +40,8 @@ class Stage {
 
   template <typename Type = QObject>
   Type* find(const QString& name) const {
-    return m_view.rootObject()->findChild<Type*>(name);
+    auto* found = m_view.rootObject()->findChild<Type*>(name);
+    return found ? found : qobject_cast<Type*>(within(m_view.rootObject(), name));
   }
 
   // The value of a QML expression in the piece's root.
@@ -67,8 +69,16 @@ class Stage {
   }
 
  private:
+  // Delegates are no children but of what shows them.
+  static QQuickItem* within(QQuickItem* item, const QString& name) {
+    if (item->objectName() == name) return item;
+    for (QQuickItem* child : item->childItems())
+      if (QQuickItem* found = within(child, name)) return found;
+    return nullptr;
+  }
+
   static inline const QString frame = QStringLiteral(
-      "import QtQuick\nimport TarnLoft.Controls\n"
+      "pragma ComponentBehavior: Bound\nimport QtQuick\nimport TarnLoft.Controls\n"
       "Item {\n  property string logged\n"
       "  function log(what) { logged += (logged ? ' ' : '') + what }\n"
       "  id: stage\n  %1\n}\n");

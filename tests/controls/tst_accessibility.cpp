@@ -18,6 +18,8 @@ class TestAccessibility : public QObject {
   void rolesAndNames();
   void pressing_data();
   void pressing();
+  void whatOpensAMenuTellsOfIt_data();
+  void whatOpensAMenuTellsOfIt();
 };
 
 namespace {
@@ -82,7 +84,7 @@ void TestAccessibility::rolesAndNames_data() {
   };
   row("Button { text: 'Create'", QAccessible::Button, "Create");
   row("Button { symbol: 'trash'; help: 'Delete'", QAccessible::Button, "Delete");
-  row("MenuButton { text: 'Move to…'; menu: Menu {}", QAccessible::Button, "Move to…");
+  row("MenuButton { text: 'Move to…'; menu: Menu {}", QAccessible::ButtonMenu, "Move to…");
   row("TextField { placeholderText: 'Brand name'", QAccessible::EditableText, "Brand name");
   row("TextArea { accessibleName: 'Note'", QAccessible::EditableText, "Note");
   row("Switch { accessibleName: 'Show Dock icon'", QAccessible::CheckBox, "Show Dock icon");
@@ -91,7 +93,7 @@ void TestAccessibility::rolesAndNames_data() {
   row("Slider { accessibleName: 'Quality'", QAccessible::Slider, "Quality");
   row("ListRow { text: 'Acme'", QAccessible::ListItem, "Acme");
   row("PopUpPicker { accessibleName: 'Theme'; options: [PickerOption { text: 'Dark' }]",
-      QAccessible::Button, "Theme, Dark");
+      QAccessible::ComboBox, "Theme, Dark");
   row("ColorWell { accessibleName: 'Tint'; color: '#4c6fff'", QAccessible::Button, "Tint, #4C6FFF");
   row("SegmentedPicker { accessibleName: 'Tile size'", QAccessible::Grouping, "Tile size");
   row("Toast { message: 'Copied'", QAccessible::AlertMessage, "Copied");
@@ -126,6 +128,24 @@ void TestAccessibility::pressing_data() {
                        << "chosen";
   QTest::newRow("selection mark") << "SelectionMark { onClicked: log('marked')"
                                   << "marked";
+}
+
+void TestAccessibility::whatOpensAMenuTellsOfIt_data() {
+  QTest::addColumn<QString>("qml");
+  QTest::newRow("menu button") << "MenuButton { text: 'A'; menu: Menu { MenuItem { text: 'B' } }";
+  QTest::newRow("pop-up picker") << "PopUpPicker { options: [PickerOption { text: 'B' }]";
+}
+
+void TestAccessibility::whatOpensAMenuTellsOfIt() {
+  QFETCH(QString, qml);
+  QAccessible::setActive(true);
+  Stage stage(named(qml));
+  QAccessibleInterface* node = subject(stage);
+  QVERIFY(!node->state().pressed);
+  node->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  QTRY_VERIFY(node->state().pressed);
+  stage.press(Qt::Key_Escape);
+  QTRY_VERIFY(!node->state().pressed);
 }
 
 void TestAccessibility::pressing() {

@@ -24,7 +24,9 @@ class TestKeyboard : public QObject {
   void aMenuGoesByArrowsAndLetters_data();
   void aMenuGoesByArrowsAndLetters();
   void aSubMenuOpensByArrows();
-  void aMenuGivesTheFocusBack();
+  void escapeWhileASubMenuFadesClosesItsParent();
+  void aMenuOpenedAndClosedQuicklyKeepsTheFocus();
+  void aSecondClickClosesTheMenuOfAButton();
   void theMenuBarOpensByF10();
   void aPopoverGivesTheFocusBack();
   void aSheetOpenedFromAMenuGivesTheFocusBack();
@@ -72,6 +74,12 @@ void TestKeyboard::keysDo_data() {
       "ScopeBar { options: [PickerOption { text: 'A' }, PickerOption { text: 'B' }]\n"
       "  onActivated: index => log(index) }",
       {Key_Tab, Key_Space, Key_Tab, Key_Space}, "1");
+  row("divider",
+      "SplitView { anchors.fill: parent\n"
+      "  Item { SplitView.preferredWidth: 100; SplitView.minimumWidth: 75\n"
+      "    onWidthChanged: log(width) }\n"
+      "  Item { SplitView.fillWidth: true } }",
+      {Key_Tab, Key_Left, Key_Left, Key_Right}, "100 91");
   row("field", "TextField { onAccepted: log(text) }", {Key_Tab, Key_A, Key_Return}, "a");
   row("search", "SearchField { onTextEdited: log(text || 'cleared') }",
       {Key_Tab, Key_A, Key_Escape, Key_Escape}, "a cleared");
@@ -190,7 +198,7 @@ static const QString menus = QStringLiteral(R"(
     MenuSeparator {}
     MenuTitle { text: 'Move' }
     MenuItem { text: 'Delete'; onTriggered: log(text) }
-    Menu { title: 'Background'; MenuItem { text: 'White'; onTriggered: log(text) } MenuItem { text: 'Dark'; onTriggered: log(text) } }
+    Menu { title: 'Background'; objectName: 'background'; MenuItem { text: 'White'; onTriggered: log(text) } MenuItem { text: 'Dark'; onTriggered: log(text) } }
   })");
 
 void TestKeyboard::aMenuGoesByArrowsAndLetters_data() {
@@ -202,6 +210,12 @@ void TestKeyboard::aMenuGoesByArrowsAndLetters_data() {
   QTest::newRow("back up") << QList<int>{Key_Down, Key_Down, Key_Up, Key_Return} << "Duplicate";
   QTest::newRow("second of a letter") << QList<int>{Key_D, Key_D, Key_Return} << "Delete";
   QTest::newRow("space") << QList<int>{Key_D, Key_Space} << "Duplicate";
+  QTest::newRow("tab") << QList<int>{Key_Tab, Key_Tab, Key_Return} << "Delete";
+  QTest::newRow("tab goes round") << QList<int>{Key_Tab, Key_Tab, Key_Tab, Key_Tab, Key_Return}
+                                  << "Duplicate";
+  QTest::newRow("back by tab") << QList<int>{Key_Backtab, Key_Backtab, Key_Return} << "Delete";
+  QTest::newRow("home") << QList<int>{Key_D, Key_D, Key_Home, Key_Return} << "Duplicate";
+  QTest::newRow("end") << QList<int>{Key_End, Key_Up, Key_Return} << "Delete";
 }
 
 void TestKeyboard::aMenuGoesByArrowsAndLetters() {
@@ -243,13 +257,49 @@ void TestKeyboard::theMenuBarOpensByF10() {
   QTRY_COMPARE(stage.log(), QStringLiteral("Redo"));
 }
 
-void TestKeyboard::aMenuGivesTheFocusBack() {
+void TestKeyboard::escapeWhileASubMenuFadesClosesItsParent() {
   Stage stage(menus);
   stage.press(Qt::Key_Tab);
   stage.press(Qt::Key_Space);
   QTRY_VERIFY(stage.find("menu")->property("opened").toBool());
+  stage.press(Qt::Key_B);
+  stage.press(Qt::Key_Right);
+  QTRY_VERIFY(stage.find("background")->property("opened").toBool());
   stage.press(Qt::Key_Escape);
-  QTRY_COMPARE(stage.focused(), QStringLiteral("opener"));
+  QVERIFY(stage.find("menu")->property("opened").toBool());
+  stage.press(Qt::Key_Escape);
+  QVERIFY(!stage.find("menu")->property("opened").toBool());
+  QCOMPARE(stage.focused(), QStringLiteral("opener"));
+  QTRY_VERIFY(!stage.find("menu")->property("visible").toBool());
+  QCOMPARE(stage.focused(), QStringLiteral("opener"));
+}
+
+void TestKeyboard::aMenuOpenedAndClosedQuicklyKeepsTheFocus() {
+  Stage stage(menus);
+  stage.press(Qt::Key_Tab);
+  for (int i = 0; i < 3; ++i) {
+    stage.press(Qt::Key_Space);
+    QVERIFY(stage.focused() != QStringLiteral("opener"));
+    stage.press(Qt::Key_Escape);
+    QCOMPARE(stage.focused(), QStringLiteral("opener"));
+  }
+  stage.press(Qt::Key_Space);
+  QTRY_VERIFY(stage.find("menu")->property("opened").toBool());
+  stage.press(Qt::Key_Down);
+  stage.press(Qt::Key_Return);
+  QTRY_COMPARE(stage.log(), QStringLiteral("Duplicate"));
+  QCOMPARE(stage.focused(), QStringLiteral("opener"));
+}
+
+void TestKeyboard::aSecondClickClosesTheMenuOfAButton() {
+  Stage stage(
+      "MenuButton { objectName: 'opener'; text: 'A'\n"
+      "  menu: Menu { MenuItem { text: 'B'; onTriggered: log(text) } } }");
+  auto* opener = stage.find<QQuickItem>("opener");
+  for (const bool open : {true, false, true}) {
+    stage.click(opener);
+    QTRY_COMPARE(opener->property("open").toBool(), open);
+  }
 }
 
 void TestKeyboard::aPopoverGivesTheFocusBack() {

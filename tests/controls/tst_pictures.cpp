@@ -24,6 +24,8 @@ class TestPictures : public QObject {
   void theCheckerboardHasItsTwoGreys();
   void theShadowFadesFromItsCaster();
   void aShadowFitsSmallThings();
+  void emojiAreInColor_data();
+  void emojiAreInColor();
 };
 
 namespace {
@@ -155,6 +157,26 @@ void TestPictures::aShadowFitsSmallThings() {
   QSize size;
   ShadowProvider().requestImage(QStringLiteral("17/12/20/0/34"), &size, {});
   QCOMPARE(size.height(), 34 + 2 * ShadowProvider::extent(12));
+}
+
+void TestPictures::emojiAreInColor_data() {
+  QTest::addColumn<QString>("font");
+  QTest::addColumn<QString>("text");
+  QTest::newRow("in a text") << "body" << QStringLiteral("R&D 🌿");
+  QTest::newRow("in a large text") << "largeTitle" << QStringLiteral("R&D 🌿");
+  QTest::newRow("in code") << "monospaced(12)" << QStringLiteral("R&D 🌿");
+  QTest::newRow("alone") << "emoji(24)" << QStringLiteral("❤");
+}
+
+void TestPictures::emojiAreInColor() {
+  QFETCH(QString, font);
+  QFETCH(QString, text);
+  Stage stage(QStringLiteral("Label { font: Theme.%1; text: '%2' }").arg(font, text));
+  const QImage shown = stage.window()->grabWindow();
+  int colored = 0;
+  for (int y = 0; y < 60; ++y)
+    for (int x = 0; x < 200; ++x) colored += shown.pixelColor(x, y).hsvSaturation() > 120 ? 1 : 0;
+  QVERIFY2(colored > 20, qPrintable(QString::number(colored)));
 }
 
 QTEST_MAIN(TestPictures)

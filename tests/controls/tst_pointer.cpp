@@ -1,5 +1,6 @@
 #include "Stage.h"
 
+#include <QClipboard>
 #include <QGuiApplication>
 #include <QWheelEvent>
 
@@ -18,7 +19,10 @@ class TestPointer : public QObject {
   void aDragOfTheMouseScrollsNothing();
   void focusIsScrolledIntoView();
   void helpComesAfterAWhile();
+  void aRightClickOpensTheContextMenu_data();
   void aRightClickOpensTheContextMenu();
+  void textItemsHaveAMenu_data();
+  void textItemsHaveAMenu();
   void aClickOutsideLeavesASheet();
   void aToastComesAndGoes();
   void aClickChoosesASegment();
@@ -91,30 +95,70 @@ void TestPointer::helpComesAfterAWhile() {
   Stage stage(
       QStringLiteral("Rectangle { width: 50; height: 50; Help { objectName: 'help'; delay: 10\n"
                      "  text: 'Drag to reorder' } }"));
-  const auto shown = [&stage] {
-    return stage.find("help")->property("tip").value<QObject*>() != nullptr;
-  };
+  const auto tip = [&stage] { return stage.find("help")->property("tip").value<QObject*>(); };
   QTest::mouseMove(stage.window(), {20, 20});
-  QTRY_VERIFY(shown());
+  QTRY_VERIFY(tip() && tip()->property("opened").toBool());
+  QCOMPARE(tip()->property("text").toString(), QStringLiteral("Drag to reorder"));
   QTest::mouseMove(stage.window(), {300, 300});
-  QTRY_VERIFY(!shown());
+  QTRY_VERIFY(!tip());
+}
+
+void TestPointer::aRightClickOpensTheContextMenu_data() {
+  QTest::addColumn<QString>("qml");
+  const QString tile = QStringLiteral(
+      "Rectangle { objectName: 'tile'; width: 100; height: 100; activeFocusOnTab: true\n"
+      "  ContextMenuArea { objectName: 'area'; onRequested: log('requested')\n"
+      "    menu: Menu { MenuItem { text: 'Delete'; onTriggered: log('Delete') } } } }");
+  QTest::newRow("alone") << tile;
+  QTest::newRow("of a delegate") << QStringLiteral("Repeater { model: 1; delegate: %1 }").arg(tile);
 }
 
 void TestPointer::aRightClickOpensTheContextMenu() {
-  Stage stage(QStringLiteral(
-      "Rectangle { objectName: 'tile'; width: 100; height: 100; activeFocusOnTab: true\n"
-      "  ContextMenuArea { onRequested: log('requested')\n"
-      "    menu: Menu { MenuItem { text: 'Delete'; onTriggered: log('Delete') } } } }"));
-  stage.click(stage.find<QQuickItem>("tile"), Qt::RightButton);
+  QFETCH(QString, qml);
+  Stage stage(qml);
+  auto* tile = stage.find<QQuickItem>("tile");
+  const auto menuIsOpen = [tile] {
+    const auto* area = tile->findChild<QObject*>(QStringLiteral("area"));
+    return area->property("opened").value<QObject*>()->property("visible").toBool();
+  };
+  stage.click(tile, Qt::RightButton);
   QCOMPARE(stage.log(), QStringLiteral("requested"));
-  QTest::qWait(200);
+  QTRY_VERIFY(menuIsOpen());
   stage.press(Qt::Key_Down);
   stage.press(Qt::Key_Return);
   QTRY_COMPARE(stage.log(), QStringLiteral("requested Delete"));
-  QTest::qWait(200);
+  QTRY_VERIFY(!menuIsOpen());
   stage.press(Qt::Key_Tab);
   stage.press(Qt::Key_F10, Qt::ShiftModifier);
   QTRY_COMPARE(stage.log(), QStringLiteral("requested Delete requested"));
+}
+
+void TestPointer::textItemsHaveAMenu_data() {
+  QTest::addColumn<QString>("type");
+  QTest::addColumn<bool>("byKeyboard");
+  for (const char* type : {"TextField", "TextArea"})
+    for (const bool byKeyboard : {false, true})
+      QTest::addRow("%s by %s", type, byKeyboard ? "keyboard" : "pointer")
+          << QString::fromLatin1(type) << byKeyboard;
+}
+
+void TestPointer::textItemsHaveAMenu() {
+  QFETCH(QString, type);
+  QFETCH(bool, byKeyboard);
+  Stage stage(type + QStringLiteral(" { objectName: 'field'; text: 'Acme'; width: 200 }"));
+  auto* field = stage.find<QQuickItem>("field");
+  stage.press(Qt::Key_Tab);
+  QMetaObject::invokeMethod(field, "selectAll");
+  if (byKeyboard)
+    stage.press(Qt::Key_F10, Qt::ShiftModifier);
+  else
+    stage.click(field, Qt::RightButton);
+  QTRY_VERIFY(!field->hasActiveFocus());
+  stage.press(Qt::Key_C);  // Cut, and no letter of the text
+  stage.press(Qt::Key_Return);
+  QTRY_COMPARE(field->property("text").toString(), QString());
+  QTRY_VERIFY(field->hasActiveFocus());
+  QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("Acme"));
 }
 
 void TestPointer::aClickOutsideLeavesASheet() {

@@ -1,6 +1,8 @@
 #include "platform/desktop/window/DesktopAppearance.h"
+#include "platform/desktop/window/DesktopMotion.h"
 
 #include <QDBusConnection>
+#include <QDBusContext>
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QGuiApplication>
@@ -15,41 +17,46 @@ namespace {
 const QString name = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString group = QStringLiteral("org.freedesktop.appearance");
-const QString key = QStringLiteral("color-scheme");
+const QString scheme = QStringLiteral("color-scheme");
 
 // The desktop's settings, on a connection of its own.
-class FakeSettings : public QObject {
+class FakeSettings : public QObject, protected QDBusContext {
   Q_OBJECT
   Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
 
  public:
-  explicit FakeSettings(uint scheme) : m_scheme(scheme) {
+  FakeSettings(const QString& ofGroup, const QString& ofKey, const QVariant& value)
+      : m_values{{ofGroup + ofKey, value}} {
     m_bus.registerObject(path, this, QDBusConnection::ExportAllSlots);
     m_bus.registerService(name);
   }
+  explicit FakeSettings(uint colors) : FakeSettings(group, scheme, colors) {}
   ~FakeSettings() override {
     m_bus.unregisterService(name);
     m_bus.unregisterObject(path);
   }
 
-  void change(uint scheme, const QString& of = group) {
-    m_scheme = scheme;
+  void change(const QString& ofGroup, const QString& ofKey, const QVariant& value) {
     auto signal = QDBusMessage::createSignal(
         path, QStringLiteral("org.freedesktop.portal.Settings"), QStringLiteral("SettingChanged"));
-    signal << of << key << QVariant::fromValue(QDBusVariant(scheme));
+    signal << ofGroup << ofKey << QVariant::fromValue(QDBusVariant(value));
     m_bus.send(signal);
   }
+  void change(uint colors) { change(group, scheme, colors); }
 
   int asked = 0;
 
  public slots:
-  QDBusVariant Read(const QString& /*ofGroup*/, const QString& /*ofKey*/) {
+  QDBusVariant Read(const QString& ofGroup, const QString& ofKey) {
     ++asked;
-    return QDBusVariant(QVariant::fromValue(QDBusVariant(m_scheme)));  // wrapped twice, as told
+    const QVariant value = m_values.value(ofGroup + ofKey);
+    if (!value.isValid())
+      sendErrorReply(QStringLiteral("org.freedesktop.portal.Error.NotFound"), ofKey);
+    return QDBusVariant(QVariant::fromValue(QDBusVariant(value)));  // wrapped twice, as told
   }
 
  private:
-  uint m_scheme;
+  QMap<QString, QVariant> m_values;
   QDBusConnection m_bus =
       QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("settings"));
 };
@@ -64,7 +71,8 @@ void colorDesktop(const QColor& window, const QColor& text) {
 
 }  // namespace
 
-// Light or dark, by the user's wish, the portal and the palette, in this order.
+// Light or dark, by the user's wish, the portal and the palette, in this order; and whether things
+// move.
 class TestAppearance : public QObject {
   Q_OBJECT
 
@@ -75,6 +83,9 @@ class TestAppearance : public QObject {
   void asksThePortalOnce();
   void followsThePortalsChanges();
   void theUsersWishWins();
+  void thingsMoveWithoutAPortal();
+  void desktopsAskForLessMovement_data();
+  void desktopsAskForLessMovement();
 };
 
 void TestAppearance::followsThePaletteWithoutAPortal() {
@@ -113,7 +124,7 @@ void TestAppearance::followsThePortalsChanges() {
   QTRY_COMPARE(settings.asked, 1);
   settings.change(1);
   QTRY_VERIFY(appearance.isDark());
-  settings.change(2, QStringLiteral("some.other.group"));
+  settings.change(QStringLiteral("some.other.group"), scheme, 2U);
   settings.change(0);  // no preference: the palette, which is light
   QTRY_VERIFY(!appearance.isDark());
 }
@@ -132,6 +143,44 @@ void TestAppearance::theUsersWishWins() {
   appearance.setOverride(AppearanceOverride::none);
   QVERIFY(appearance.isDark());
   QCOMPARE(changes.count(), 1);
+}
+
+void TestAppearance::thingsMoveWithoutAPortal() {
+  DesktopMotion motion;
+  QList<bool> told;
+  motion.follow([&told](bool reduced) { told << reduced; });
+  QCOMPARE(told, QList<bool>{false});
+}
+
+void TestAppearance::desktopsAskForLessMovement_data() {
+  QTest::addColumn<QString>("ofGroup");
+  QTest::addColumn<QString>("key");
+  QTest::addColumn<QVariant>("still");
+  QTest::addColumn<QVariant>("moving");
+  QTest::newRow("common") << group << "reduced-motion" << QVariant(1U) << QVariant(0U);
+  QTest::newRow("GNOME") << "org.gnome.desktop.interface"
+                         << "enable-animations" << QVariant(false) << QVariant(true);
+  QTest::newRow("Plasma") << "org.kde.kdeglobals.KDE"
+                          << "AnimationDurationFactor" << QVariant("0") << QVariant("0.5");
+}
+
+void TestAppearance::desktopsAskForLessMovement() {
+  QFETCH(QString, ofGroup);
+  QFETCH(QString, key);
+  QFETCH(QVariant, still);
+  QFETCH(QVariant, moving);
+  FakeSettings settings(ofGroup, key, still);
+  DesktopMotion motion;
+  QList<bool> told;
+  motion.follow([&told](bool reduced) { told << reduced; });
+  QCOMPARE(told, QList<bool>{false});  // at once, without waiting for an answer
+  QTRY_COMPARE(told, (QList<bool>{false, true}));
+  settings.change(ofGroup, key, moving);
+  QTRY_COMPARE(told, (QList<bool>{false, true, false}));
+  settings.change(QStringLiteral("some.other.group"), key, still);
+  settings.change(ofGroup, key, moving);
+  settings.change(ofGroup, key, still);
+  QTRY_COMPARE(told, (QList<bool>{false, true, false, true}));
 }
 
 QTEST_MAIN(TestAppearance)

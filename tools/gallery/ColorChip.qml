@@ -13,13 +13,13 @@ Row {
     width: 168
     spacing: 8
 
-    Rectangle {
+    RoundedRectangle {
         width: 28
         height: 28
         radius: 6
         color: root.color
-        border.width: 1
-        border.color: Theme.hairline
+        edgeWidth: 1
+        edgeColor: Theme.hairline
     }
 
     Label {

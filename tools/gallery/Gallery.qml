@@ -7,6 +7,11 @@ Window {
     id: root
 
     required property bool whole // as high as all of it, for a picture
+    required property string only // the title of the one page to show, or empty
+
+    function shows(page: Page): bool {
+        return only === "" || page.title === only;
+    }
 
     width: 1160
     height: whole ? pages.height : 820
@@ -24,15 +29,15 @@ Window {
             padding: 32
             spacing: 36
 
-            TypePage {}
-            ColorsPage {}
-            ButtonsPage {}
-            FieldsPage {}
-            PickersPage {}
-            MenusPage { still: root.whole }
-            PanelsPage { still: root.whole }
-            ListsPage {}
-            TilesPage {}
+            TypePage { visible: root.shows(this) }
+            ColorsPage { visible: root.shows(this) }
+            ButtonsPage { visible: root.shows(this) }
+            FieldsPage { visible: root.shows(this) }
+            PickersPage { visible: root.shows(this) }
+            MenusPage { visible: root.shows(this); still: root.whole && root.shows(this) }
+            PanelsPage { visible: root.shows(this); still: root.whole && root.shows(this) }
+            ListsPage { visible: root.shows(this) }
+            TilesPage { visible: root.shows(this) }
         }
     }
 

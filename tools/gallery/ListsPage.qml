@@ -8,11 +8,12 @@ Page {
 
     Specimen {
         title: "Split view with rows"
-        Rectangle {
+        RoundedRectangle {
             width: 420
             height: 270
             color: Theme.windowBackground
-            border.color: Theme.panelBorder
+            edgeWidth: 1
+            edgeColor: Theme.panelBorder
 
             SplitView {
                 anchors.fill: parent
@@ -32,7 +33,7 @@ Page {
                         ListRow { width: parent.width; text: "Juniper & Salt"; symbol: "leaf.fill"; selected: true }
                         ListRow { width: parent.width; text: "Acme"; symbol: "square.stack.3d.up" }
                         ListRow { width: parent.width; text: "Under the pointer"; symbol: "flame.fill"; down: true }
-                        Focused { ListRow { width: 168; text: "Northwind, a very long name"; symbol: "wind" } }
+                        Focused { gap: -2; radius: 6; ListRow { width: 168; text: "Northwind, a very long name"; symbol: "wind" } }
                     }
                 }
 

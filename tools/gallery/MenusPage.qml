@@ -21,7 +21,7 @@ Page {
         }
     }
     Specimen {
-        title: "Menu, with an entry under the pointer and its sub-menu"
+        title: "Menus, the first with an entry under the pointer"
         Item {
             width: 560
             height: 270

@@ -43,4 +43,12 @@ Page {
             Label { text: "Accent label"; color: Theme.accentText }
         }
     }
+    Specimen {
+        title: "Emoji"
+        gap: 16
+        Label { text: "Juniper 🌿 & Salt ⭐️ 1:2" }
+        Label { text: "Launch 🚀"; font: Theme.largeTitle }
+        Label { text: "\"🎨\""; font: Theme.monospaced(12) }
+        Label { text: "❤️🅰️🏷️"; font: Theme.emoji(22) }
+    }
 }

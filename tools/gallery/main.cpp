@@ -1,6 +1,9 @@
 // Shows every control in its states, for people who work on them.
-//   tarnloft_gallery [--dark] [--accent #RRGGBB] [--scale FACTOR] [--screenshot FILE]
-// With --screenshot it needs no display: the whole gallery is drawn into the file.
+//   tarnloft_gallery [--dark] [--accent #RRGGBB] [--scale FACTOR] [--page TITLE] [--screenshot
+//   FILE]
+// With --screenshot the whole gallery is drawn into the file; it needs no display unless
+// QT_QPA_PLATFORM asks for one.
+#include "platform/controls/Motion.h"
 #include "platform/controls/Theme.h"
 #include "platform/controls/Typography.h"
 
@@ -28,7 +31,8 @@ constexpr int settling = 900;  // milliseconds until nothing moves any more
 void prepareEnvironment(int argc, char** argv) {
   for (int i = 1; i < argc; ++i) {
     const QByteArray argument(argv[i]);
-    if (argument == "--screenshot") qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (argument == "--screenshot" && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+      qputenv("QT_QPA_PLATFORM", "offscreen");
     if (argument == "--scale" && i + 1 < argc) qputenv("QT_SCALE_FACTOR", argv[i + 1]);
   }
 }
@@ -53,6 +57,7 @@ int main(int argc, char** argv) {
        {QStringLiteral("accent"), QStringLiteral("The tint."), QStringLiteral("colour")},
        {QStringLiteral("scale"), QStringLiteral("Device pixels per point."),
         QStringLiteral("factor")},
+       {QStringLiteral("page"), QStringLiteral("One page alone."), QStringLiteral("title")},
        {QStringLiteral("screenshot"), QStringLiteral("Draw into a file."),
         QStringLiteral("file")}});
   parser.process(application);
@@ -62,7 +67,9 @@ int main(int argc, char** argv) {
   Theme& theme = Theme::of(engine);
   theme.setDark(parser.isSet(QStringLiteral("dark")));
   theme.setAccent(QColor(parser.value(QStringLiteral("accent"))));
-  engine.setInitialProperties({{QStringLiteral("whole"), !file.isEmpty()}});
+  Motion::of(engine).setReduced(!file.isEmpty());  // nothing half faded in
+  engine.setInitialProperties({{QStringLiteral("whole"), !file.isEmpty()},
+                               {QStringLiteral("only"), parser.value(QStringLiteral("page"))}});
   engine.load(QUrl(QStringLiteral("qrc:/qt-project.org/imports/TarnLoft/Gallery/Gallery.qml")));
   if (engine.rootObjects().isEmpty()) return 1;
   auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());

@@ -14,6 +14,7 @@
 #include "platform/desktop/window/DesktopBeep.h"
 #include "platform/desktop/window/DesktopFileDialogs.h"
 #include "platform/desktop/window/DesktopFileViewer.h"
+#include "platform/desktop/window/DesktopMotion.h"
 #include "platform/desktop/window/DesktopPasteboard.h"
 #include "platform/desktop/window/DesktopStatusItem.h"
 #include "workspace/WorkspaceServices.h"
@@ -34,6 +35,7 @@ struct DesktopServices {
   DesktopFileDialogs dialogs;
   DesktopFileViewer viewer;
   DesktopAppearance appearance;
+  DesktopMotion motion;
   DesktopPasteboard pasteboard;
   DesktopStatusItem statusItem;
   MimeContentTypes types;

@@ -1,5 +1,7 @@
 #include "entry/application/TarnLoftApp.h"
 
+#include "platform/controls/Motion.h"
+
 #include <QCoreApplication>
 #include <QQuickWindow>
 
@@ -18,6 +20,8 @@ TarnLoftApp::TarnLoftApp()
   followAppearance();
   connect(&services_.appearance, &DesktopAppearance::darkChanged, this,
           &TarnLoftApp::followAppearance);
+  services_.motion.follow(
+      [&motion = Motion::of(engine_)](bool reduced) { motion.setReduced(reduced); });
   connect(&engine_, &QQmlEngine::quit, qApp, &QCoreApplication::quit);
   connect(&mainWindow_, &MainWindow::closed, &appDelegate_, &AppDelegate::lastWindowClosed);
 }

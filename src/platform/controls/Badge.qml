@@ -5,7 +5,7 @@ import TarnLoft.Controls
 
 // A small capsule with a short text or symbol: a grade, a count. `Dark` is for pictures.
 //   Badge { text: "AAA" }    Badge { symbol: "checklist"; kind: Badge.Dark; help: "Has usage notes" }
-Rectangle {
+RoundedRectangle {
     id: root
 
     enum Kind {

@@ -26,8 +26,9 @@ T.Button {
     property real symbolSize: root.font.pixelSize
     property string help: "" // a tool tip
     property string accessibleName: text || help
-    property color tint: filled ? (destructive ? Theme.onDestructive : Theme.onAccent)
-                                : destructive ? Theme.destructive : Theme.label // of text and symbol
+    // Of text and symbol.
+    property color tint: filled ? (!enabled ? Theme.tertiaryLabel : destructive ? Theme.onDestructive : Theme.onAccent)
+                                : destructive ? Theme.destructive : Theme.label
 
     readonly property bool filled: kind === Button.Prominent
     readonly property bool bare: kind === Button.Plain
@@ -44,7 +45,7 @@ T.Button {
     spacing: 6
     font: Theme.font(Theme.controlText(controlSize), filled ? Font.Medium : Font.Normal)
     focusPolicy: Qt.TabFocus
-    opacity: enabled ? 1 : 0.4
+    opacity: enabled || filled ? 1 : 0.4 // a filled one turns grey, since paled its text can't be read
 
     function press() {
         if (checkable)
@@ -81,6 +82,6 @@ T.Button {
 
     Help {
         text: root.help
-        shown: root.hovered && !root.down
+        shown: (root.hovered || root.symbolOnly && root.visualFocus) && !root.down
     }
 }

@@ -5,7 +5,7 @@ import QtQuick.Templates as T
 import TarnLoft.Controls
 
 // The fill, edge and focus ring of everything that is pressed like a button.
-Rectangle {
+RoundedRectangle {
     id: root
 
     enum Kind {
@@ -28,8 +28,12 @@ Rectangle {
     color: {
         switch (kind) {
         case ButtonBackground.Accent:
+            if (!control.enabled)
+                return Theme.selectedFill;
             return fill(Theme.accentFill, Theme.accentFillHovered, Theme.accentFillPressed);
         case ButtonBackground.Destructive:
+            if (!control.enabled)
+                return Theme.selectedFill;
             return fill(Theme.destructiveFill, Theme.destructiveFillHovered, Theme.destructiveFillPressed);
         case ButtonBackground.Framed:
             return fill(on ? Theme.controlFillPressed : Theme.controlFill, Theme.controlFillHovered, Theme.controlFillPressed);
@@ -39,8 +43,8 @@ Rectangle {
             return "transparent";
         }
     }
-    border.width: kind === ButtonBackground.Framed ? 1 : 0
-    border.color: Theme.controlBorder
+    edgeWidth: kind === ButtonBackground.Framed ? 1 : 0
+    edgeColor: Theme.controlBorder
 
     FocusRing {
         shown: root.control.visualFocus

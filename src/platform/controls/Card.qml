@@ -13,7 +13,7 @@ Item {
     property bool selected: false
     default property alias content: holder.data
 
-    Rectangle {
+    RoundedRectangle {
         anchors.fill: parent
         radius: root.radius
         color: root.color
@@ -25,11 +25,11 @@ Item {
         anchors.fill: parent
     }
 
-    Rectangle {
+    RoundedRectangle {
         anchors.fill: parent
         radius: root.radius
         color: "transparent"
-        border.width: root.selected ? 3 : 1
-        border.color: root.selected ? Theme.accent : Theme.hairline
+        edgeWidth: root.selected ? 3 : 1
+        edgeColor: root.selected ? Theme.accent : Theme.hairline
     }
 }

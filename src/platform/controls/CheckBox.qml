@@ -34,14 +34,14 @@ T.CheckBox {
     Accessible.onPressAction: turn()
     Accessible.onToggleAction: turn()
 
-    indicator: Rectangle {
+    indicator: RoundedRectangle {
         y: Math.round((root.height - height) / 2)
         implicitWidth: 16
         implicitHeight: 16
         radius: 4
         color: root.checked ? (root.down ? Theme.accentFillPressed : Theme.accentFill) : root.down ? Theme.controlFillPressed : Theme.controlFill
-        border.width: root.checked ? 0 : 1
-        border.color: Theme.dark ? Theme.thin(Theme.primary, 0.22) : Theme.thin(Theme.primary, 0.24)
+        edgeWidth: root.checked ? 0 : 1
+        edgeColor: Theme.checkEdge
 
         Symbol {
             anchors.centerIn: parent

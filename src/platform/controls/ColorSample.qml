@@ -20,11 +20,11 @@ T.AbstractButton {
     Accessible.name: color.toString().toUpperCase()
     Accessible.onPressAction: clicked()
 
-    background: Rectangle {
+    background: RoundedRectangle {
         radius: 5
         color: root.color
-        border.width: root.chosen ? 2 : 1
-        border.color: root.chosen ? Theme.label : Theme.thin(Theme.primary, 0.14)
+        edgeWidth: root.chosen ? 2 : 1
+        edgeColor: root.chosen ? Theme.label : Theme.thin(Theme.primary, 0.14)
         scale: root.down ? 0.94 : 1
 
         FocusRing {

@@ -59,13 +59,13 @@ T.Button {
     }
 
     contentItem: Item {
-        Rectangle {
+        RoundedRectangle {
             anchors.fill: parent
             anchors.margins: 4
             radius: 3
             color: root.color
-            border.width: 1
-            border.color: Theme.thin(Theme.primary, 0.14)
+            edgeWidth: 1
+            edgeColor: Theme.thin(Theme.primary, 0.14)
         }
     }
 }

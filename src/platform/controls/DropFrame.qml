@@ -14,7 +14,7 @@ Item {
     visible: shown
     Accessible.ignored: true
 
-    Rectangle {
+    RoundedRectangle {
         anchors.fill: parent
         radius: root.radius
         color: Theme.thin(Theme.accent, 0.08)

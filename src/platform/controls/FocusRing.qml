@@ -5,7 +5,7 @@ import TarnLoft.Controls
 
 // The ring about a control that has the keyboard's focus. Put it into the control's background.
 //   FocusRing { shown: control.visualFocus; base: Theme.fieldRadius }
-Rectangle {
+RoundedRectangle {
     id: root
 
     required property bool shown
@@ -17,7 +17,7 @@ Rectangle {
     visible: shown
     radius: base + 2 + gap
     color: "transparent"
-    border.width: 2
-    border.color: Theme.focusRing
+    edgeWidth: 2
+    edgeColor: Theme.focusRing
     Accessible.ignored: true
 }

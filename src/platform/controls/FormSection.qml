@@ -23,13 +23,13 @@ Column {
         font: Theme.headline
     }
 
-    Rectangle {
+    RoundedRectangle {
         width: parent.width
         height: column.height
         radius: Theme.cardRadius
         color: Theme.dark ? Theme.thin(Theme.primary, 0.045) : Theme.controlBackground
-        border.width: 1
-        border.color: Theme.hairline
+        edgeWidth: 1
+        edgeColor: Theme.hairline
 
         Column {
             id: column

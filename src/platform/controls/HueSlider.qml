@@ -16,12 +16,13 @@ T.Slider {
     Accessible.onIncreaseAction: { increase(); moved(); }
     Accessible.onDecreaseAction: { decrease(); moved(); }
 
-    background: Rectangle {
+    background: RoundedRectangle {
         y: 3
         width: root.width
         height: 12
-        border.width: 1
-        border.color: Theme.thin(Theme.primary, 0.14)
+        color: "transparent"
+        edgeWidth: 1
+        edgeColor: Theme.thin(Theme.primary, 0.14)
 
         Rectangle {
             anchors.fill: parent
@@ -39,22 +40,22 @@ T.Slider {
         }
     }
 
-    handle: Rectangle {
+    handle: RoundedRectangle {
         x: root.visualPosition * (root.width - width)
         width: 18
         height: 18
         radius: 9
         color: Qt.hsva(root.value, 1, 1, 1)
-        border.width: 2
-        border.color: "white"
+        edgeWidth: 2
+        edgeColor: "white"
 
-        Rectangle {
+        RoundedRectangle {
             anchors.fill: parent
             anchors.margins: -1
             radius: width / 2
             color: "transparent"
-            border.width: 1
-            border.color: Qt.rgba(0, 0, 0, 0.3)
+            edgeWidth: 1
+            edgeColor: Qt.rgba(0, 0, 0, 0.3)
         }
 
         FocusRing {

@@ -5,7 +5,7 @@ import TarnLoft.Controls
 
 // Where a dragged thing would land: beside a tile, or with `flat` above a row.
 //   InsertionBar { shown: …; height: tile.height; x: -7 - width / 2 }
-Rectangle {
+RoundedRectangle {
     required property bool shown
     property bool flat: false
 

@@ -38,7 +38,7 @@ T.ItemDelegate {
         spacing: 8
     }
 
-    background: Rectangle {
+    background: RoundedRectangle {
         radius: Theme.fieldRadius
         color: root.selected ? Theme.selectedFill : root.down ? Theme.pressedFill
                : root.hoverable && root.hovered ? Theme.hoverFill : "transparent"

@@ -5,8 +5,9 @@ import QtQuick.Templates as T
 import TarnLoft.Controls
 
 // A menu of MenuItem, MenuSeparator, MenuTitle and further menus. Open it with `popup()` under the
-// pointer or `popup(item, x, y)`. Arrows, Return and Esc work, and a letter goes to the next entry
-// that begins with it. Closing gives the focus back.
+// pointer or `popup(item, x, y)`. Arrows, Home, End, Return and Esc work, Tab goes round, and a
+// letter goes to the next entry that begins with it. The focus goes back as soon as it begins to
+// close, so that no key falls between a menu and what lies under it.
 T.Menu {
     id: root
 
@@ -38,11 +39,13 @@ T.Menu {
     focus: true
     delegate: MenuItem {}
 
-    function goToLetter(text: string) {
-        for (let step = 1; step <= count; ++step) {
-            const index = (Math.max(currentIndex, -1) + step + count) % count;
+    // Makes the first entry after `start` current that can be chosen and begins with `text`, going
+    // round; backwards with a `step` of -1.
+    function goOn(start: int, step: int, text = "") {
+        for (let i = 1; i <= count; ++i) {
+            const index = (start + i * step + (i + 1) * count) % count;
             const entry = itemAt(index) as MenuItem;
-            if (entry && entry.enabled && entry.text.toLowerCase().startsWith(text.toLowerCase())) {
+            if (entry && entry.visible && entry.enabled && entry.text.toLowerCase().startsWith(text.toLowerCase())) {
                 currentIndex = index;
                 entry.forceActiveFocus(Qt.TabFocusReason);
                 return;
@@ -50,8 +53,26 @@ T.Menu {
         }
     }
 
+    // For the keys that the template leaves alone, from the menu itself and from its entries.
+    function takeKey(event: KeyEvent) {
+        const plain = !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier));
+        event.accepted = true;
+        if (event.key === Qt.Key_Tab)
+            goOn(currentIndex, 1);
+        else if (event.key === Qt.Key_Backtab)
+            goOn(currentIndex < 0 ? count : currentIndex, -1);
+        else if (event.key === Qt.Key_Home)
+            goOn(-1, 1);
+        else if (event.key === Qt.Key_End)
+            goOn(count, -1);
+        else if (plain && event.text.length === 1 && event.text > " ")
+            goOn(currentIndex, 1, event.text);
+        else
+            event.accepted = false;
+    }
+
     onAboutToShow: focusReturn.remember()
-    onClosed: focusReturn.giveBack()
+    onAboutToHide: focusReturn.giveBack()
 
     readonly property FocusReturn focusReturn: FocusReturn {
         within: root.parent
@@ -77,12 +98,7 @@ T.Menu {
         T.ScrollBar.vertical: ScrollBar {}
         Accessible.ignored: true
 
-        Keys.onPressed: event => {
-            if (event.text.length === 1 && event.text > " " && !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier))) {
-                root.goToLetter(event.text);
-                event.accepted = true;
-            }
-        }
+        Keys.onPressed: event => root.takeKey(event)
     }
 
     background: PanelBackground {

@@ -24,7 +24,7 @@ T.MenuBarItem {
         Accessible.ignored: true
     }
 
-    background: Rectangle {
+    background: RoundedRectangle {
         radius: 5
         color: root.down || root.highlighted ? Theme.pressedFill : root.hovered ? Theme.hoverFill : "transparent"
     }

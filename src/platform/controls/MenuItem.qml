@@ -26,6 +26,12 @@ T.MenuItem {
     spacing: 24
     font: Theme.body
 
+    // Here, since the template would take Tab for itself.
+    Keys.onPressed: event => {
+        event.accepted = false;
+        (menu as Menu)?.takeKey(event);
+    }
+
     Accessible.role: Accessible.MenuItem
     Accessible.name: text
     Accessible.description: KeyText.display(shortcut)
@@ -38,7 +44,7 @@ T.MenuItem {
         symbol: root.symbol
         keys: KeyText.display(root.shortcut)
         color: root.ink
-        keysColor: root.chosen ? root.ink : Theme.tertiaryLabel
+        keysColor: root.chosen || !enabled ? root.ink : Theme.secondaryLabel
         spacing: root.spacing
     }
 
@@ -61,7 +67,7 @@ T.MenuItem {
         color: root.chosen ? root.ink : Theme.secondaryLabel
     }
 
-    background: Rectangle {
+    background: RoundedRectangle {
         radius: 5
         color: root.chosen ? (root.destructive ? Theme.destructiveFill : Theme.accentFill) : "transparent"
     }

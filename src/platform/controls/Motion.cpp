@@ -1,8 +1,18 @@
 #include "platform/controls/Motion.h"
 
+#include <QQmlEngine>
+
 #include <cmath>
 
 namespace tarnloft {
+
+Motion& Motion::of(QQmlEngine& engine) {
+  if (auto* motion = engine.findChild<Motion*>(QString(), Qt::FindDirectChildrenOnly))
+    return *motion;
+  return *new Motion(&engine);
+}
+
+Motion* Motion::create(QQmlEngine* engine, QJSEngine* /*scripts*/) { return &of(*engine); }
 
 void Motion::setReduced(bool reduced) {
   if (m_reduced == reduced) return;

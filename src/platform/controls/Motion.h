@@ -6,6 +6,9 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
+class QJSEngine;
+class QQmlEngine;
+
 namespace tarnloft {
 
 // How things move, for QML: `Motion.easing(0.5, 0.85)` with `Motion.duration(0.5, 0.85)`, which the
@@ -18,7 +21,10 @@ class Motion : public QObject {
   Q_PROPERTY(bool reduced READ isReduced WRITE setReduced NOTIFY reducedChanged)
 
  public:
-  using QObject::QObject;
+  // The engine's one instance, made at the first call and owned by the engine.
+  static Motion& of(QQmlEngine& engine);
+
+  static Motion* create(QQmlEngine* engine, QJSEngine* scripts);
 
   bool isReduced() const { return m_reduced; }
   void setReduced(bool reduced);
@@ -35,6 +41,8 @@ class Motion : public QObject {
   void reducedChanged();
 
  private:
+  explicit Motion(QObject* parent) : QObject(parent) {}
+
   bool m_reduced = false;
 };
 

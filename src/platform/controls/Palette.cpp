@@ -50,6 +50,8 @@ Palette light() {
   p.trackThumb = rgb(0xffffff);
   p.knob = rgb(0xffffff);
   p.knobBorder = alpha(Qt::black, 0.16);
+  p.checkEdge = alpha(Qt::black, 0.42);
+  p.offTrack = alpha(Qt::black, 0.26);
 
   p.destructive = rgb(0xcc2a1e);
   p.destructiveFill = rgb(0xd7352a);
@@ -94,8 +96,10 @@ Palette dark() {
   p.trackThumb = rgb(0x606066);
   p.knob = rgb(0xf2f2f4);
   p.knobBorder = alpha(Qt::black, 0.30);
+  p.checkEdge = alpha(Qt::white, 0.30);
+  p.offTrack = alpha(Qt::white, 0.24);
 
-  p.destructive = rgb(0xff6b61);
+  p.destructive = rgb(0xff8f87);  // as a button's text too, whose fill is lighter
   p.destructiveFill = rgb(0xd93a30);
   p.positive = rgb(0x3fd06a);
   p.warning = rgb(0xffb340);

@@ -21,6 +21,7 @@ struct Palette {
   QColor controlFill, controlFillHovered, controlFillPressed, controlBorder;
   QColor fieldFill, fieldBorder;
   QColor track, trackThumb, knob, knobBorder;
+  QColor checkEdge, offTrack;  // of a check box and a switch that are off
 
   QColor accent;      // as given
   QColor accentText;  // the accent as a text: at least 4.5:1 on every background

@@ -19,17 +19,11 @@ Item {
         drop: root.drop
     }
 
-    Rectangle {
+    RoundedRectangle {
         anchors.fill: parent
         radius: root.radius
         color: root.color
-    }
-
-    Rectangle {
-        anchors.fill: parent
-        radius: root.radius
-        color: "transparent"
-        border.width: 1
-        border.color: Theme.panelBorder
+        edgeWidth: 1
+        edgeColor: Theme.panelBorder
     }
 }

@@ -37,7 +37,7 @@ T.Popup {
         place();
         focusReturn.remember();
     }
-    onClosed: focusReturn.giveBack()
+    onAboutToHide: focusReturn.giveBack()
 
     readonly property FocusReturn focusReturn: FocusReturn {
         within: root.parent
@@ -71,7 +71,7 @@ T.Popup {
             height: 9
             clip: true
 
-            Rectangle {
+            RoundedRectangle {
                 anchors.horizontalCenter: parent.horizontalCenter
                 y: root.above ? -height / 2 - 1 : parent.height - height / 2 + 1
                 width: 13
@@ -79,9 +79,8 @@ T.Popup {
                 rotation: 45
                 radius: 2
                 color: Theme.menuBackground
-                border.width: 1
-                border.color: Theme.panelBorder
-                antialiasing: true
+                edgeWidth: 1
+                edgeColor: Theme.panelBorder
             }
         }
     }

@@ -31,7 +31,7 @@ T.ScrollBar {
             }
         }
 
-        Rectangle {
+        RoundedRectangle {
             property int thickness: root.wide ? 7 : 5
 
             x: root.flat ? 0 : parent.width - width

@@ -32,7 +32,7 @@ FocusScope {
             clear();
     }
 
-    Rectangle {
+    RoundedRectangle {
         anchors.fill: parent
         radius: 7
         color: Theme.thin(Theme.primary, Theme.dark ? 0.09 : 0.06)

@@ -18,6 +18,7 @@ FocusScope {
 
     signal activated(index: int)
 
+    readonly property PickerOption chosen: currentIndex >= 0 && currentIndex < options.length ? options[currentIndex] : null
     readonly property int inset: 2
     readonly property real widest: {
         let most = 0;
@@ -40,8 +41,9 @@ FocusScope {
     Keys.onRightPressed: choose(currentIndex + 1)
     Accessible.role: Accessible.Grouping
     Accessible.name: accessibleName
+    Accessible.description: chosen?.text || chosen?.help || ""
 
-    Rectangle {
+    RoundedRectangle {
         anchors.fill: parent
         radius: Theme.controlRadius(root.controlSize) + 1
         color: Theme.track
@@ -57,7 +59,7 @@ FocusScope {
         item: root
     }
 
-    Rectangle {
+    RoundedRectangle {
         id: thumb
 
         readonly property Item segment: root.currentIndex >= 0 && segments.count > 0 ? segments.itemAt(root.currentIndex) : null
@@ -69,8 +71,8 @@ FocusScope {
         visible: segment !== null
         radius: Theme.controlRadius(root.controlSize) - 1
         color: Theme.trackThumb
-        border.width: Theme.dark ? 0 : 1
-        border.color: Theme.thin(Theme.primary, 0.06)
+        edgeWidth: Theme.dark ? 0 : 1
+        edgeColor: Theme.thin(Theme.primary, 0.06)
 
         Behavior on x {
             enabled: thumb.width > 0

@@ -25,11 +25,11 @@ T.CheckBox {
     Accessible.checked: selected
     Accessible.onPressAction: clicked()
 
-    background: Rectangle {
+    background: RoundedRectangle {
         radius: width / 2
         color: root.selected ? Theme.accentFill : Qt.rgba(0, 0, 0, root.hovered ? 0.45 : 0.3)
-        border.width: 1.5
-        border.color: "white"
+        edgeWidth: 1.5
+        edgeColor: "white"
 
         FocusRing {
             shown: root.visualFocus

@@ -50,30 +50,30 @@ Rectangle {
         }
     }
 
-    Rectangle {
+    RoundedRectangle {
         anchors.fill: parent
         color: "transparent"
-        border.width: 1
-        border.color: Theme.thin(Theme.primary, 0.14)
+        edgeWidth: 1
+        edgeColor: Theme.thin(Theme.primary, 0.14)
     }
 
-    Rectangle {
+    RoundedRectangle {
         x: root.saturation * root.width - width / 2
         y: (1 - root.brightness) * root.height - height / 2
         width: 14
         height: 14
         radius: 7
         color: Qt.hsva(root.hue, root.saturation, root.brightness, 1)
-        border.width: 2
-        border.color: "white"
+        edgeWidth: 2
+        edgeColor: "white"
 
-        Rectangle {
+        RoundedRectangle {
             anchors.fill: parent
             anchors.margins: -1
             radius: width / 2
             color: "transparent"
-            border.width: 1
-            border.color: Qt.rgba(0, 0, 0, 0.35)
+            edgeWidth: 1
+            edgeColor: Qt.rgba(0, 0, 0, 0.35)
         }
     }
 

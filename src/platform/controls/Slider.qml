@@ -22,14 +22,14 @@ T.Slider {
     Accessible.onIncreaseAction: { increase(); moved(); }
     Accessible.onDecreaseAction: { decrease(); moved(); }
 
-    background: Rectangle {
+    background: RoundedRectangle {
         y: Math.round((root.height - height) / 2)
         width: root.width
         height: 4
         radius: 2
-        color: Theme.thin(Theme.primary, Theme.dark ? 0.20 : 0.13)
+        color: Theme.offTrack
 
-        Rectangle {
+        RoundedRectangle {
             visible: root.visualPosition > 0
             width: root.visualPosition * (root.width - 18) + 9
             height: 4
@@ -38,15 +38,15 @@ T.Slider {
         }
     }
 
-    handle: Rectangle {
+    handle: RoundedRectangle {
         x: root.visualPosition * (root.width - width)
         y: Math.round((root.height - height) / 2)
         width: 18
         height: 18
         radius: 9
         color: root.pressed && !Theme.dark ? "#f0f0f2" : Theme.knob
-        border.width: 1
-        border.color: Theme.knobBorder
+        edgeWidth: 1
+        edgeColor: Theme.knobBorder
 
         FocusRing {
             shown: root.visualFocus

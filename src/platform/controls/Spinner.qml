@@ -40,13 +40,12 @@ Item {
             rotation: index * 360 / root.spokes
             opacity: 0.18 + 0.82 * ((index - root.step + root.spokes) % root.spokes) / (root.spokes - 1)
 
-            Rectangle {
+            RoundedRectangle {
                 anchors.horizontalCenter: parent.horizontalCenter
                 width: Math.max(2, root.width / 8)
                 height: root.height * 0.29
                 radius: width / 2
                 color: root.color
-                antialiasing: true
             }
         }
     }

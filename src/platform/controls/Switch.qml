@@ -34,13 +34,13 @@ T.Switch {
     Accessible.onPressAction: turn()
     Accessible.onToggleAction: turn()
 
-    indicator: Rectangle {
+    indicator: RoundedRectangle {
         x: root.width - width
         y: Math.round((root.height - height) / 2)
         implicitWidth: 36
         implicitHeight: 21
         radius: height / 2
-        color: root.checked ? Theme.accentFill : Theme.thin(Theme.primary, Theme.dark ? 0.22 : 0.18)
+        color: root.checked ? Theme.accentFill : Theme.offTrack
 
         Behavior on color {
             ColorAnimation { duration: Motion.time(120) }
@@ -52,15 +52,15 @@ T.Switch {
             gap: 1
         }
 
-        Rectangle {
+        RoundedRectangle {
             x: 2 + root.visualPosition * (parent.width - width - 4)
             y: 2
             width: parent.height - 4
             height: width
             radius: width / 2
             color: Theme.knob
-            border.width: 1
-            border.color: Theme.knobBorder
+            edgeWidth: 1
+            edgeColor: Theme.knobBorder
 
             Behavior on x {
                 enabled: !root.down

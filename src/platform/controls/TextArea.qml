@@ -6,7 +6,8 @@ import TarnLoft.Controls
 
 // Text of several lines that grows with what it holds, without a frame; TextEditor has one.
 //   TextArea { placeholderText: "Text"; text: …; onEdited: … }
-// Tab leaves it unless `tabInserts`. `edited` tells of the user's changes alone.
+// Tab leaves it unless `tabInserts`. `edited` tells of the user's changes alone. A right click offers
+// cut, copy and paste.
 T.TextArea {
     id: root
 
@@ -56,5 +57,15 @@ T.TextArea {
         font: root.font
         color: root.placeholderTextColor
         Accessible.ignored: true
+    }
+
+    TextEditMenuArea {
+        hasSelection: root.selectedText !== ""
+        readOnly: root.readOnly
+        canPaste: root.canPaste
+        onCut: root.cut()
+        onCopied: root.copy()
+        onPasted: root.paste()
+        onAllSelected: root.selectAll()
     }
 }

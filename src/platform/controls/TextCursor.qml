@@ -4,7 +4,7 @@ import QtQuick
 import TarnLoft.Controls
 
 // The blinking insertion point, in the accent.
-Rectangle {
+RoundedRectangle {
     id: root
 
     required property Item field // a text item

@@ -1,38 +1,27 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import TarnLoft.Controls
 
-// Cut, copy and paste by the right button, for the text field that it stands in.
-Item {
+// Cut, copy and paste by the right button and the Menu key, for the text item that it stands in.
+ContextMenuArea {
     id: root
 
-    required property T.TextField field
-    property Menu menu: null // made at its first opening
+    required property bool hasSelection
+    required property bool readOnly
+    required property bool canPaste
 
-    anchors.fill: parent
-    Accessible.ignored: true
+    signal cut
+    signal copied
+    signal pasted
+    signal allSelected
 
-    TapHandler {
-        acceptedButtons: Qt.RightButton
-        onTapped: {
-            root.field.forceActiveFocus(Qt.MouseFocusReason);
-            if (!root.menu)
-                root.menu = making.createObject(root) as Menu;
-            root.menu.popup();
-        }
-    }
-
-    Component {
-        id: making
-
-        Menu {
-            MenuItem { text: "Cut"; shortcut: "Ctrl+X"; enabled: root.field.selectedText !== "" && !root.field.readOnly; onTriggered: root.field.cut() }
-            MenuItem { text: "Copy"; shortcut: "Ctrl+C"; enabled: root.field.selectedText !== ""; onTriggered: root.field.copy() }
-            MenuItem { text: "Paste"; shortcut: "Ctrl+V"; enabled: root.field.canPaste; onTriggered: root.field.paste() }
-            MenuSeparator {}
-            MenuItem { text: "Select All"; shortcut: "Ctrl+A"; onTriggered: root.field.selectAll() }
-        }
+    onRequested: parent.forceActiveFocus(Qt.PopupFocusReason)
+    menu: Menu {
+        MenuItem { text: "Cut"; shortcut: "Ctrl+X"; enabled: root.hasSelection && !root.readOnly; onTriggered: root.cut() }
+        MenuItem { text: "Copy"; shortcut: "Ctrl+C"; enabled: root.hasSelection; onTriggered: root.copied() }
+        MenuItem { text: "Paste"; shortcut: "Ctrl+V"; enabled: root.canPaste; onTriggered: root.pasted() }
+        MenuSeparator {}
+        MenuItem { text: "Select All"; shortcut: "Ctrl+A"; onTriggered: root.allSelected() }
     }
 }

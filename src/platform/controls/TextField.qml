@@ -58,7 +58,13 @@ T.TextField {
     }
 
     TextEditMenuArea {
-        field: root
+        hasSelection: root.selectedText !== ""
+        readOnly: root.readOnly
+        canPaste: root.canPaste
+        onCut: root.cut()
+        onCopied: root.copy()
+        onPasted: root.paste()
+        onAllSelected: root.selectAll()
     }
 
     background: FieldBackground {

@@ -67,6 +67,8 @@ QFont Theme::font(int pixelSize, int weight) {
   return interfaceFont(pixelSize, static_cast<QFont::Weight>(weight));
 }
 
+QFont Theme::emoji(int pixelSize) { return emojiFont(pixelSize); }
+
 QFont Theme::monospaced(int pixelSize, int weight) {
   return monospacedFont(pixelSize, static_cast<QFont::Weight>(weight));
 }

@@ -60,6 +60,8 @@ class Theme : public QObject {
   Q_PROPERTY(QColor trackThumb READ trackThumb NOTIFY changed)
   Q_PROPERTY(QColor knob READ knob NOTIFY changed)
   Q_PROPERTY(QColor knobBorder READ knobBorder NOTIFY changed)
+  Q_PROPERTY(QColor checkEdge READ checkEdge NOTIFY changed)
+  Q_PROPERTY(QColor offTrack READ offTrack NOTIFY changed)
 
   Q_PROPERTY(QColor accentText READ accentText NOTIFY changed)
   Q_PROPERTY(QColor accentFill READ accentFill NOTIFY changed)
@@ -114,6 +116,7 @@ class Theme : public QObject {
 
   // The interface's typeface in another size or weight (a value of QML's `Font.Weight`).
   Q_INVOKABLE static QFont font(int pixelSize, int weight = QFont::Normal);
+  Q_INVOKABLE static QFont emoji(int pixelSize);
   Q_INVOKABLE static QFont monospaced(int pixelSize, int weight = QFont::Normal);
 
   // Of a control in a `ControlSize`: its height, the radius of its corners and its text.
@@ -153,6 +156,8 @@ class Theme : public QObject {
   TARNLOFT_COLOR(trackThumb)
   TARNLOFT_COLOR(knob)
   TARNLOFT_COLOR(knobBorder)
+  TARNLOFT_COLOR(checkEdge)
+  TARNLOFT_COLOR(offTrack)
   TARNLOFT_COLOR(accent)
   TARNLOFT_COLOR(accentText)
   TARNLOFT_COLOR(accentFill)

@@ -26,9 +26,13 @@ QFont font(const QStringList& families, int pixelSize, QFont::Weight weight) {
   return result;
 }
 
+// Named, and behind those of text: the toolkit finds no emoji by itself, and this family's digits
+// are wide.
+QString emojiFamily() { return QStringLiteral("Noto Color Emoji"); }
+
 QStringList interfaceFamilies(int pixelSize) {
   QStringList families{QStringLiteral("Inter"), QStringLiteral("Cantarell"),
-                       QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans")};
+                       QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans"), emojiFamily()};
   if (pixelSize >= displaySize) families.prepend(QStringLiteral("Inter Display"));
   return families;
 }
@@ -39,10 +43,14 @@ QFont interfaceFont(int pixelSize, QFont::Weight weight) {
   return font(interfaceFamilies(pixelSize), pixelSize, weight);
 }
 
+QFont emojiFont(int pixelSize) {
+  return font(QStringList{emojiFamily()} + interfaceFamilies(pixelSize), pixelSize, QFont::Normal);
+}
+
 QFont monospacedFont(int pixelSize, QFont::Weight weight) {
   static const QStringList families{
       QStringLiteral("JetBrains Mono"), QStringLiteral("Noto Sans Mono"),
-      QStringLiteral("DejaVu Sans Mono"), QStringLiteral("monospace")};
+      QStringLiteral("DejaVu Sans Mono"), QStringLiteral("monospace"), emojiFamily()};
   QFont result = font(families, pixelSize, weight);
   result.setStyleHint(QFont::Monospace);
   return result;

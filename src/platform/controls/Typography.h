@@ -8,6 +8,9 @@ namespace tarnloft {
 // The interface's typeface, with fallbacks where it isn't installed. Sizes are logical pixels.
 QFont interfaceFont(int pixelSize, QFont::Weight weight = QFont::Normal);
 
+// For a text that is an emoji: in colour even where a typeface has the character too, as a heart.
+QFont emojiFont(int pixelSize);
+
 // For code and other text in columns.
 QFont monospacedFont(int pixelSize, QFont::Weight weight = QFont::Normal);
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/Appearance.h"
+#include "platform/desktop/window/PortalSettings.h"
 
-#include <QDBusVariant>
 #include <QObject>
 
 #include <optional>
@@ -27,16 +27,13 @@ class DesktopAppearance : public QObject, public Appearance {
  signals:
   void darkChanged();
 
- private slots:
-  void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
-
  private:
-  void askPortal();
   void update();
 
   AppearanceOverride m_override = AppearanceOverride::none;
   std::optional<bool> m_portalDark;  // none while the portal has no opinion
   bool m_dark = false;
+  PortalSettings m_settings;
 };
 
 }  // namespace tarnloft

@@ -1,0 +1,110 @@
+#include "Stage.h"
+
+#include <QGuiApplication>
+
+#include <algorithm>
+
+Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
+
+using namespace tarnloft;
+
+// Rounded rectangles pixel by pixel; run at several scales of the screen and with both scene
+// graphs.
+class TestScales : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void edgesLieOnWholePixels_data();
+  void edgesLieOnWholePixels();
+};
+
+namespace {
+
+// One colour for each pixel along a line through the middle, repeats left out.
+QList<QColor> bands(const QImage& image, Qt::Orientation along) {
+  QList<QColor> result;
+  const int length = along == Qt::Horizontal ? image.width() : image.height();
+  for (int i = 0; i < length; ++i) {
+    const QColor color = along == Qt::Horizontal ? image.pixelColor(i, image.height() / 2)
+                                                 : image.pixelColor(image.width() / 2, i);
+    if (result.isEmpty() || result.constLast() != color) result << color;
+  }
+  return result;
+}
+
+// The part of the picture that isn't of the colour of its first pixel.
+QRect content(const QImage& image) {
+  QRect result;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      if (image.pixel(x, y) != image.pixel(0, 0)) result |= QRect(x, y, 1, 1);
+  return result;
+}
+
+int mostApart(const QImage& one, const QImage& other) {
+  int most = 0;
+  for (int y = 0; y < one.height(); ++y)
+    for (int x = 0; x < one.width(); ++x) {
+      const QRgb a = one.pixel(x, y);
+      const QRgb b = other.pixel(x, y);
+      most = std::max({most, std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
+                       std::abs(qBlue(a) - qBlue(b))});
+    }
+  return most;
+}
+
+}  // namespace
+
+void TestScales::edgesLieOnWholePixels_data() {
+  QTest::addColumn<QRectF>("place");
+  QTest::addColumn<int>("radius");
+  QTest::addColumn<double>("edge");
+  QTest::addColumn<QColor>("edgeColor");
+  const QColor hairline(0, 0, 0, 40);
+  QTest::newRow("button") << QRectF(11, 7, 83, 28) << 6 << 1.0 << hairline;
+  QTest::newRow("small button") << QRectF(13, 9, 47, 22) << 5 << 1.0 << hairline;
+  QTest::newRow("card") << QRectF(31, 17, 150, 95) << 10 << 1.0 << hairline;
+  QTest::newRow("selected card") << QRectF(33, 19, 151, 97) << 10 << 3.0 << QColor(Qt::red);
+  QTest::newRow("capsule") << QRectF(21, 23, 131, 33) << 17 << 1.0 << hairline;
+  QTest::newRow("dot") << QRectF(15, 9, 17, 17) << 9 << 1.5 << QColor(Qt::black);
+  QTest::newRow("half a point off") << QRectF(10.5, 6.5, 83, 28) << 6 << 1.0 << hairline;
+}
+
+void TestScales::edgesLieOnWholePixels() {
+  QFETCH(QRectF, place);
+  QFETCH(int, radius);
+  QFETCH(double, edge);
+  QFETCH(QColor, edgeColor);
+  const QColor fill(76, 111, 255);
+  Stage stage(QStringLiteral("Rectangle { anchors.fill: parent; color: 'white'\n"
+                             "RoundedRectangle { x: %1; y: %2; width: %3; height: %4; radius: %5\n"
+                             "  color: '%6'; edgeWidth: %7; edgeColor: '%8' } }")
+                  .arg(place.x())
+                  .arg(place.y())
+                  .arg(place.width())
+                  .arg(place.height())
+                  .arg(radius)
+                  .arg(fill.name())
+                  .arg(edge)
+                  .arg(edgeColor.name(QColor::HexArgb)));
+  QVERIFY(stage.ready());
+  const QImage window = stage.window()->grabWindow().convertToFormat(QImage::Format_RGB32);
+  const qreal ratio = stage.window()->effectiveDevicePixelRatio();
+  const QRect found = content(window);
+  QVERIFY(std::abs(found.width() - place.width() * ratio) <= 1);
+  QVERIFY(std::abs(found.height() - place.height() * ratio) <= 1);
+  QVERIFY(std::abs(found.x() - place.x() * ratio) <= 1);
+  QVERIFY(std::abs(found.y() - place.y() * ratio) <= 1);
+
+  const QImage shape = window.copy(found);
+  QVERIFY2(mostApart(shape, shape.mirrored(true, false)) <= 12, "left and right differ");
+  QVERIFY2(mostApart(shape, shape.mirrored(false, true)) <= 12, "above and below differ");
+  // Edge, fill, edge, and nothing blurred between, where the sides are straight.
+  if (place.height() > 2 * radius) QCOMPARE(bands(shape, Qt::Horizontal).size(), 3);
+  if (place.width() > 2 * radius) QCOMPARE(bands(shape, Qt::Vertical).size(), 3);
+  QCOMPARE(shape.pixelColor(shape.rect().center()), fill);
+  if (radius > 2) QVERIFY(shape.pixelColor(0, 0).lightness() > 240);
+}
+
+QTEST_MAIN(TestScales)
+#include "tst_scales.moc"
