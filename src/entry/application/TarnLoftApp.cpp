@@ -18,6 +18,7 @@ TarnLoftApp::TarnLoftApp()
   followAppearance();
   connect(&services_.appearance, &DesktopAppearance::darkChanged, this,
           &TarnLoftApp::followAppearance);
+  connect(qApp, &QCoreApplication::aboutToQuit, this, &TarnLoftApp::saveAll);
   connect(&engine_, &QQmlEngine::quit, qApp, &QCoreApplication::quit);
   connect(&mainWindow_, &MainWindow::closed, &appDelegate_, &AppDelegate::lastWindowClosed);
 }
@@ -37,6 +38,10 @@ bool TarnLoftApp::openMainWindow() {
           Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
   appDelegate_.showMainWindow();
   return true;
+}
+
+void TarnLoftApp::saveAll() {
+  if (BrandDocument* const open = library_.openDocument()) open->savePending();
 }
 
 void TarnLoftApp::followAppearance() { theme_.setDark(services_.appearance.isDark()); }
