@@ -90,6 +90,7 @@ Item {
             selected: root.tile.selected
             checkable: true // which makes it a check box for assistive technology
             checked: root.tile.selected
+            focusPolicy: Qt.NoFocus // Control and Space do the same
             onClicked: root.tile.toggleSelected()
         }
     }
