@@ -20,6 +20,6 @@ Menu {
         if (count > 0)
             return;
         for (const command of commands)
-            addItem(command ? entry.createObject(root, {command: command}) : line.createObject(root));
+            addItem(command ? entry.createObject(contentItem, {command: command}) : line.createObject(contentItem));
     }
 }

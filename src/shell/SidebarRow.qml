@@ -41,6 +41,7 @@ Item {
     height: isBrand ? 30 : 26
     Accessible.role: Accessible.ListItem
     Accessible.name: name
+    Accessible.focusable: true
     Accessible.selectable: isBrand
     Accessible.selected: selected
     Accessible.onPressAction: activate()

@@ -25,6 +25,7 @@ class TarnLoftApp : public QObject {
  private:
   bool openMainWindow();
   void followAppearance();
+  void saveAll();
 
   DesktopServices services_;
   QQmlEngine engine_;

@@ -13,15 +13,14 @@ T.MenuBarItem {
     leftPadding: 9
     rightPadding: 9
     font: Theme.body
-    Accessible.role: Accessible.MenuItem
-    Accessible.name: text
-    Accessible.onPressAction: triggered()
+    Accessible.ignored: true // the toolkit calls it a menu bar; its text stands for it
 
     contentItem: Label {
         text: root.text
         font: root.font
         verticalAlignment: Text.AlignVCenter
-        Accessible.ignored: true
+        Accessible.role: Accessible.MenuItem
+        Accessible.onPressAction: root.triggered()
     }
 
     background: RoundedRectangle {

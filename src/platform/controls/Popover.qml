@@ -44,6 +44,13 @@ T.Popup {
         content: root.contentItem
     }
 
+    // Around the content stands the popup's own item, which is the dialog.
+    readonly property Binding naming: Binding {
+        target: root.contentItem.parent.Accessible
+        property: "name"
+        value: root.accessibleName
+    }
+
     enter: Transition {
         NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Motion.time(110) }
     }
@@ -55,8 +62,6 @@ T.Popup {
         focus: true
         implicitWidth: childrenRect.width
         implicitHeight: childrenRect.height
-        Accessible.role: Accessible.Dialog
-        Accessible.name: root.accessibleName
     }
 
     background: PanelBackground {

@@ -20,6 +20,7 @@ T.ScrollBar {
     hoverEnabled: true
     Accessible.role: Accessible.ScrollBar
     Accessible.name: flat ? "Horizontal" : "Vertical"
+    Accessible.focusable: false
 
     contentItem: Item {
         opacity: root.active || root.wide || root.policy === T.ScrollBar.AlwaysOn ? 1 : 0

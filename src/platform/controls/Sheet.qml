@@ -51,6 +51,13 @@ T.Popup {
         content: root.contentItem
     }
 
+    // Around the content stands the popup's own item, which is the dialog.
+    readonly property Binding naming: Binding {
+        target: root.contentItem.parent.Accessible
+        property: "name"
+        value: root.accessibleName
+    }
+
     enter: Transition {
         NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Motion.time(140) }
         SpringNumber { property: "scale"; from: 0.96; to: 1; response: 0.3; dampingFraction: 0.85 }
@@ -63,8 +70,6 @@ T.Popup {
         focus: true
         implicitWidth: childrenRect.width
         implicitHeight: childrenRect.height
-        Accessible.role: Accessible.Dialog
-        Accessible.name: root.accessibleName
 
         Keys.onReturnPressed: root.pressDefault()
         Keys.onEnterPressed: root.pressDefault()
