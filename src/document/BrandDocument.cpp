@@ -71,10 +71,6 @@ void BrandDocument::saveNow() {
   }
 }
 
-void BrandDocument::savePending() {
-  if (saveWorkItem_.isActive()) saveNow();
-}
-
 Result<void> BrandDocument::writeManifest() {
   const auto json = encode(brand_);
   if (!json) return tl::unexpected(json.error());

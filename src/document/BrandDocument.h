@@ -56,8 +56,6 @@ class BrandDocument : public QObject {
   // the package folder again if it is gone. A manifest that another machine has put there since is
   // kept as a version first. A failure is one line in the system log.
   void saveNow();
-  // Saves at once what waits to be saved; without that, does nothing.
-  void savePending();
 
   // Ends all writing, for a package that is about to go. `brand` can still be assigned.
   void invalidate();

@@ -22,7 +22,6 @@ TarnLoftApp::TarnLoftApp()
           &TarnLoftApp::followAppearance);
   services_.motion.follow(
       [&motion = Motion::of(engine_)](bool reduced) { motion.setReduced(reduced); });
-  connect(qApp, &QCoreApplication::aboutToQuit, this, &TarnLoftApp::saveAll);
   connect(&engine_, &QQmlEngine::quit, qApp, &QCoreApplication::quit);
   connect(&mainWindow_, &MainWindow::closed, &appDelegate_, &AppDelegate::lastWindowClosed);
 }
@@ -42,10 +41,6 @@ bool TarnLoftApp::openMainWindow() {
           Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
   appDelegate_.showMainWindow();
   return true;
-}
-
-void TarnLoftApp::saveAll() {
-  if (BrandDocument* const open = library_.openDocument()) open->savePending();
 }
 
 void TarnLoftApp::followAppearance() { theme_.setDark(services_.appearance.isDark()); }

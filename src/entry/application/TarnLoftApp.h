@@ -25,7 +25,6 @@ class TarnLoftApp : public QObject {
  private:
   bool openMainWindow();
   void followAppearance();
-  void saveAll();
 
   DesktopServices services_;
   QQmlEngine engine_;
