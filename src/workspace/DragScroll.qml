@@ -26,7 +26,7 @@ DragWatch {
         target: root.flickable
 
         function onContentYChanged() {
-            Qt.callLater(root.repeat);
+            root.repeatSoon();
         }
     }
 

@@ -26,7 +26,13 @@ bool DragWatch::eventFilter(QObject* watched, QEvent* event) {
   return QQuickItem::eventFilter(watched, event);
 }
 
+void DragWatch::repeatSoon() {
+  if (!last_ || std::exchange(isRepeatDue_, true)) return;
+  QMetaObject::invokeMethod(this, &DragWatch::repeat, Qt::QueuedConnection);
+}
+
 void DragWatch::repeat() {
+  isRepeatDue_ = false;
   if (!last_ || !watched_) return;
   QDragMoveEvent move(last_->position().toPoint(), last_->possibleActions(), last_->mimeData(),
                       last_->buttons(), last_->modifiers());

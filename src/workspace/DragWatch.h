@@ -22,8 +22,9 @@ class DragWatch : public QQuickItem {
 
   qreal hoverY() const { return hoverY_; }
 
-  // Tells the window of the drag's place once more, for what has come under a pointer that rests.
-  Q_INVOKABLE void repeat();
+  // Tells the window of the drag's place once more, for what has come under a pointer that rests;
+  // on the next turn of the event loop, when all has come there.
+  Q_INVOKABLE void repeatSoon();
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -34,12 +35,14 @@ class DragWatch : public QQuickItem {
   void itemChange(ItemChange change, const ItemChangeData& data) override;
 
  private:
+  void repeat();
   void follow(const QDropEvent& event);
   void end();
   void setHoverY(qreal y);
 
   QPointer<QQuickWindow> watched_;
   qreal hoverY_ = -1;
+  bool isRepeatDue_ = false;
   std::unique_ptr<QDropEvent> last_;  // while a drag hovers over the window
 };
 

@@ -79,12 +79,13 @@ Card {
         id: hover
     }
 
-    // Below the badges, which have a help of their own. It stays, for a tip needs time to fade.
+    // It stays once it was wanted, for a tip needs time to fade.
     LazyItem {
         anchors.fill: parent
         active: root.helped
         sourceComponent: Help {
-            text: root.resting ? "" : root.help
+            text: root.help
+            shown: root.hovering && !notesHover.hovered // which has a help of its own
         }
     }
 
@@ -111,6 +112,10 @@ Card {
             symbol: "checklist"
             kind: Badge.Dark
             help: "Has usage notes"
+        }
+
+        HoverHandler {
+            id: notesHover
         }
     }
 }

@@ -51,6 +51,8 @@ class TestBrandPage : public QObject {
 
 namespace {
 
+constexpr int patience = 20'000;  // ms; a busy machine is no failure
+
 QMimeData* files(const QStringList& paths) {
   auto* data = new QMimeData;
   QList<QUrl> urls;
@@ -198,10 +200,11 @@ void TestBrandPage::hoveringTellsWhatAClickDoes() {
   const QImage before = page.view.grabWindow();
   QTest::mouseMove(&page.view, page.middleOf("a"));
   QTRY_VERIFY(page.view.grabWindow().pixelColor(hint) != before.pixelColor(hint));
-  QTRY_VERIFY(tells("Click to copy #FF0000"));
+  QTRY_VERIFY_WITH_TIMEOUT(tells("Click to copy #FF0000"), patience);
   QTest::mouseMove(&page.view, page.middleOf("b"));
-  QTRY_VERIFY(tells("Couldn't load “b” — the file may be corrupt. Re-import it."));
-  QTRY_VERIFY(!tells("Click to copy #FF0000"));
+  QTRY_VERIFY_WITH_TIMEOUT(tells("Couldn't load “b” — the file may be corrupt. Re-import it."),
+                           patience);
+  QTRY_VERIFY_WITH_TIMEOUT(!tells("Click to copy #FF0000"), patience);
 }
 
 void TestBrandPage::keysSelectDeleteAndClear() {
@@ -246,7 +249,13 @@ void TestBrandPage::tabAndArrowsLeadThroughTiles() {
   QVERIFY(steps({Qt::Key_Backtab}).isEmpty());  // the heading, behind which stands its button
   QCOMPARE(steps({Qt::Key_Tab, Qt::Key_Tab}), "0");
   page.key(Qt::Key_A, Qt::ControlModifier);  // each tile shows a check box, which is no stop
-  QVERIFY(steps({Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab}) == "x");
+  int tabs = 0;
+  while (tabs < 10 && page.focused() != "x") {
+    page.settle();
+    (void)steps({Qt::Key_Tab});
+    ++tabs;
+  }
+  QCOMPARE(tabs, 4);  // over the next section's header
 }
 
 void TestBrandPage::returnAndSpaceAct() {
