@@ -27,10 +27,11 @@ class Target {
     if (xcb_connection_has_error(connection_)) fail("no display");
     const xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data;
     window_ = xcb_generate_id(connection_);
-    const uint32_t values[] = {screen->white_pixel, XCB_EVENT_MASK_PROPERTY_CHANGE};
+    // No window manager shall place it elsewhere.
+    const uint32_t values[] = {screen->white_pixel, 1, XCB_EVENT_MASK_PROPERTY_CHANGE};
     xcb_create_window(connection_, XCB_COPY_FROM_PARENT, window_, screen->root, int16_t(x),
                       int16_t(y), 200, 150, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, screen->root_visual,
-                      XCB_CW_BACK_PIXEL | XCB_CW_EVENT_MASK, values);
+                      XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values);
     const uint32_t version = 5;
     xcb_change_property(connection_, XCB_PROP_MODE_REPLACE, window_, atom("XdndAware"),
                         XCB_ATOM_ATOM, 32, 1, &version);

@@ -1,0 +1,18 @@
+import pathlib
+
+import gi
+
+gi.require_version("GdkPixbuf", "2.0")
+from gi.repository import GdkPixbuf
+
+
+def write_pictures(folder, colours):
+    """One picture of a single colour for each file's name; gives their paths."""
+    folder.mkdir()
+    paths = []
+    for name, (red, green, blue) in colours.items():
+        picture = GdkPixbuf.Pixbuf.new(GdkPixbuf.Colorspace.RGB, False, 8, 320, 200)
+        picture.fill(red << 24 | green << 16 | blue << 8 | 255)
+        paths.append(pathlib.Path(folder / name))
+        picture.savev(str(paths[-1]), "png", [], [])
+    return paths

@@ -1,0 +1,92 @@
+"""Drags between the program and others, and within its window."""
+import pathlib
+import unittest
+import urllib.parse
+
+from desktop import Drag, press
+from journey import Journey
+from pictures import write_pictures
+from program import Home, gtk_partner, qt_source, x_target
+
+LEFT, RIGHT = (100, 860), (700, 860)  # below the window
+LEFT_MIDDLE, RIGHT_MIDDLE = (200, 935), (800, 935)
+
+
+class Dragging(Journey):
+    def setUp(self):
+        super().setUp()
+        self.acme = self.home.add_brand("Acme", ["Colors", "Logos"])
+        self.tarn = self.start()
+        self.tarn.place((20, 20), (1160, 760))
+
+    def test_files_of_a_qt_program_come_in_order(self):
+        colours = {"a#1.png": (9, 9, 9), "b c.png": (8, 8, 8)}
+        files = write_pictures(self.home.folder / "from", colours)
+        text = self.home.folder / "from/c%20.txt"
+        text.write_text("no picture")
+        self.beside(qt_source(LEFT, [*files, text]))
+        self.drop_on(self.tarn, "Logos", LEFT_MIDDLE)
+        self.eventually(lambda: self.names("Logos"), ["a#1", "b c", "c%20"])
+        self.assertEqual(self.names("Colors"), [])
+
+    def test_a_picture_from_a_page_comes_with_its_name(self):
+        self.beside(qt_source(LEFT, ["picture", "https://pictures.example/Hero%20Shot.jpg"]))
+        self.drop_on(self.tarn, "Logos", LEFT_MIDDLE)
+        self.eventually(lambda: self.names("Logos"), ["Hero Shot"])
+        picture = self.acme.asset(self.acme.items("Logos")[0])
+        self.assertEqual(picture[:8], b"\x89PNG\r\n\x1a\n")
+
+    def test_a_tile_is_a_file_to_others_and_nothing_else(self):
+        self.fill("Logos", {"Mark.png": (200, 30, 40)})
+        target = self.beside(x_target(RIGHT, ["text/uri-list", "com.quillmoor.tarnloft.item"]))
+        Drag(self.card("Mark")).over(RIGHT_MIDDLE).drop()
+        uris = bytes.fromhex(target.line("DATA text/uri-list").split()[1]).decode().split("\r\n")
+        path = pathlib.Path(urllib.parse.unquote(urllib.parse.urlsplit(uris[0]).path))
+        self.assertEqual(path.name, "Mark.png")
+        self.assertEqual(path.read_bytes(), self.acme.asset(self.acme.items("Logos")[0]))
+        target.line("REFUSED com.quillmoor.tarnloft.item")
+
+    def test_within_the_window_tiles_move_between_sections(self):
+        self.fill("Logos", {"Mark.png": (200, 30, 40), "Seal.png": (30, 60, 200)})
+        left, top, _, height = self.tarn.find("panel", "Colors").rectangle
+        place = (left + 600, top + height - 20)
+
+        drag = Drag(self.card("Mark")).over(place)
+        press("Escape")
+        drag.drop()
+        self.assertEqual(self.names("Logos"), ["Mark", "Seal"])
+
+        self.drop_on(self.tarn, "Colors", self.card("Mark"))
+        self.eventually(lambda: (self.names("Colors"), self.names("Logos")), (["Mark"], ["Seal"]))
+        self.assertEqual(len(list((self.acme.path / "assets").iterdir())), 2)
+
+    def test_a_tile_goes_to_another_users_program(self):
+        self.fill("Logos", {"Mark.png": (200, 30, 40)})
+        mark = self.acme.asset(self.acme.items("Logos")[0])
+        self.tarn.place((0, 20), (860, 580))
+        (folder := self.home.folder / "other").mkdir()
+        other = Home(folder)
+        brand = other.add_brand("Birch", ["Colors"])
+        second = self.start(other)
+        second.place((400, 420), (860, 580))
+        self.drop_on(second, "Colors", self.card("Mark"))
+        self.eventually(lambda: [item["name"] for item in brand.items("Colors")], ["Mark"])
+        self.assertEqual(brand.asset(brand.items("Colors")[0]), mark)
+        self.assertEqual(self.names("Logos"), ["Mark"])
+
+    def fill(self, section, colours):
+        partner = gtk_partner(LEFT, write_pictures(self.home.folder / "from", colours))
+        self.drop_on(self.tarn, section, LEFT_MIDDLE)
+        self.eventually(lambda: len(self.acme.items(section)), len(colours))
+        partner.kill()
+
+    def card(self, name):
+        x, y, width, _ = self.tarn.find("list item", name).rectangle
+        return x + width // 2, y + 48
+
+    def names(self, section):
+        return [item["name"] for item in self.acme.items(section)]
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,122 @@
+"""All of it without a pointer."""
+import unittest
+
+from desktop import clipboard, press, until, write
+from journey import Journey
+
+
+class TheKeyboard(Journey):
+    def test_a_brand_is_made_filled_and_used(self):
+        tarn = self.start()
+        press("ctrl+n")
+        tarn.find("dialog", "New Brand")
+        press("Escape")
+        tarn.gone("dialog", "New Brand")
+        press("ctrl+n")
+        tarn.find("dialog", "New Brand")
+        write("Acme")
+        press("Return")
+        tarn.find("heading", "Acme")
+        tarn.gone("dialog")
+        acme = self.home.brand("Acme")
+
+        self.tab_to(tarn, "push button", "Add content to this section")
+        press("space")
+        tarn.find("menu item", "Color")
+        press("c", "Return")
+        tarn.find("list item", "#4C6FFF")
+        tarn.gone("menu item", "Color")
+        self.eventually(lambda: tarn.focus, "Add content to this section")
+        press("Return")
+        tarn.find("menu item", "Color")
+        press("g", "Return")
+        self.eventually(lambda: kinds(acme), ["color", "gradient"])
+        tarn.gone("menu item", "Color")
+
+        self.tab_to(tarn, "list item", "#4C6FFF")
+        press("Return")
+        self.eventually(clipboard, "#4C6FFF")
+        press("Right")
+        self.eventually(lambda: tarn.focus, "Gradient")
+        press("ctrl+space", "Left", "Delete")
+        tarn.gone("list item", "Gradient")
+        self.eventually(lambda: kinds(acme), ["color"])
+        press("ctrl+z")
+        self.eventually(lambda: kinds(acme), ["color", "gradient"])
+
+        self.tab_to(tarn, "text", "Section name")  # of the section behind the tile
+        write("Palette")
+        self.eventually(lambda: acme.manifest["sections"][1]["name"], "Palette")
+
+    def test_a_brand_is_renamed_and_thrown_away(self):
+        for name in ("Ash", "Birch"):
+            self.home.add_brand(name)
+        tarn = self.start()
+        tarn.find("list item", "Birch")
+        self.tab_to(tarn, "list item", "Ash")
+        press("Down", "Return")
+        tarn.find("heading", "Birch")
+        for keys in ("Menu", "shift+F10"):
+            press(keys)
+            tarn.find("menu item", "Rename…")
+            press("Escape")
+            tarn.gone("menu item", "Rename…")
+        press("Menu")
+        tarn.find("menu item", "Rename…")
+        press("r", "Return")
+        tarn.find("dialog", "Rename Brand")
+        write("Beech")
+        press("Return")
+        self.eventually(self.home.brand_names, ["Ash", "Beech"])
+        tarn.gone("dialog")
+
+        self.eventually(lambda: tarn.focus, "Beech")
+        for answer, left in (("Escape", ["Ash", "Beech"]), ("Return", ["Ash"])):
+            press("Delete")
+            tarn.find("dialog", "Move “Beech” to the Trash?")
+            press(answer)
+            tarn.gone("dialog")
+            self.eventually(self.home.brand_names, left)
+        trashed = self.home.folder / "share/Trash/files/Beech.tarnloft/manifest.json"
+        until(trashed.exists, "the brand in the trash")
+
+    def test_the_menu_bar(self):
+        self.home.add_brand("Acme")
+        tarn = self.start()
+        tarn.find("heading", "Acme")
+        for opening in ("F10", "alt+f"):
+            with self.subTest(opening):
+                press(opening)
+                tarn.find("menu item", "New Brand…")
+                press("Right")
+                tarn.find("menu item", "Undo")
+                press("Escape")
+                tarn.gone("menu item", "Undo")
+        press("F10")
+        tarn.find("menu item", "New Brand…")
+        press("Down", "Return")
+        tarn.find("dialog", "New Brand")
+        press("Escape")
+        tarn.gone("dialog")
+        press("ctrl+q")
+        self.assertEqual(tarn.wait(), 0)
+
+    def tab_to(self, tarn, role, name):
+        """Presses Tab until that has the focus."""
+        seen = []
+        while len(seen) < 40:
+            before = tarn.focused()
+            press("Tab")
+            until(lambda: tarn.focused() not in (None, before), f"the focus to leave {before}")
+            seen.append(tarn.focused())
+            if (seen[-1].role, seen[-1].name) == (role, name):
+                return
+        self.fail(f"Tab doesn't reach {role} “{name}”:\n" + "\n".join(map(str, seen)))
+
+
+def kinds(brand):
+    return [kind for item in brand.section("Colors")["items"] for kind in item["payload"]]
+
+
+if __name__ == "__main__":
+    unittest.main()
