@@ -107,9 +107,9 @@ class TheKeyboard(Journey):
         while len(seen) < 40:
             before = tarn.focused()
             press("Tab")
-            until(lambda: str(tarn.focused()) != str(before), f"the focus to leave {before}")
+            until(lambda: tarn.focused() not in (None, before), f"the focus to leave {before}")
             seen.append(tarn.focused())
-            if seen[-1] and (seen[-1].role, seen[-1].name) == (role, name):
+            if (seen[-1].role, seen[-1].name) == (role, name):
                 return
         self.fail(f"Tab doesn't reach {role} “{name}”:\n" + "\n".join(map(str, seen)))
 
