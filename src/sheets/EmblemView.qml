@@ -34,7 +34,7 @@ Item {
     implicitHeight: size
     Accessible.ignored: true
 
-    Rectangle {
+    RoundedRectangle {
         anchors.fill: parent
         visible: root.look.ground !== EmblemStyle.NoGround
         radius: width / 2

@@ -46,7 +46,7 @@ Item {
     Accessible.selected: selected
     Accessible.onPressAction: activate()
 
-    Rectangle {
+    RoundedRectangle {
         x: 6
         y: slide.offset
         width: parent.width - 12

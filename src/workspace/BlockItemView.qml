@@ -57,11 +57,12 @@ FocusScope {
         width: root.textWidth + 16
         height: root.height + 8
 
-        Rectangle {
+        RoundedRectangle {
             anchors.fill: parent
             visible: root.held
             color: Theme.controlBackground
-            border.color: Theme.panelBorder
+            edgeWidth: 1
+            edgeColor: Theme.panelBorder
             radius: Theme.fieldRadius
         }
 

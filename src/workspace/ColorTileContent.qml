@@ -17,7 +17,7 @@ Item {
         anchors.bottom: parent.bottom
         anchors.margins: 6
         active: root.hovering
-        sourceComponent: Rectangle {
+        sourceComponent: RoundedRectangle {
             width: mark.width + 12
             height: mark.height + 12
             radius: 6

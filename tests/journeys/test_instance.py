@@ -1,9 +1,9 @@
-"""One running program, and nothing lost at its end."""
+"""One running program, and its end."""
 import unittest
 
-from desktop import press, until, xdotool
+from desktop import press, until, visible_window, xdotool
 from journey import Journey
-from program import Program, gtk_partner
+from program import Process, Program, gtk_partner
 
 
 class OneInstance(Journey):
@@ -22,17 +22,33 @@ class OneInstance(Journey):
                 until(lambda: tarn.is_active, "the first start's window in front")
                 self.assertFalse(tarn.has_ended())
 
-    def test_closing_the_last_window_saves_all_and_ends_the_program(self):
+    def test_without_a_tray_closing_the_last_window_ends_the_program(self):
         acme = self.home.add_brand("Acme", ["Colors"])
         tarn = self.start()
         tarn.click("list item", "Acme")
         tarn.click("push button", "Add content to this section")
         tarn.find("menu item", "Text")
         press("Down", "Return")
-        tarn.gone("menu item", "Text")
+        self.eventually(lambda: len(acme.items("Colors")), 1)
         press("ctrl+w")
         self.assertEqual(tarn.wait(), 0)
-        self.assertEqual(len(acme.items("Colors")), 1)
+
+    def test_with_a_tray_it_stays_behind_its_window_for_as_long_as_the_tray(self):
+        tray = self.beside(Process(["trayer", "--widthtype", "pixel", "--width", 100]))
+        until(lambda: visible_window(tray.pid), "the tray")
+        tarn = self.start()
+        for way_back in ("a second start", "the tray's end"):
+            with self.subTest(way_back):
+                press("ctrl+w")
+                until(lambda: not visible_window(tarn.pid, "Tarn Loft"), "the window to close")
+                self.assertFalse(tarn.has_ended())
+                if way_back == "a second start":
+                    self.assertEqual(self.beside(Program(self.home)).wait(), 0)
+                else:
+                    tray.kill()
+                until(lambda: tarn.is_active, "the window to come back")
+        press("ctrl+w")
+        self.assertEqual(tarn.wait(), 0)
 
 
 if __name__ == "__main__":

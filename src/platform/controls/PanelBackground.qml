@@ -8,6 +8,7 @@ Item {
     id: root
 
     property color color: Theme.menuBackground
+    property color edge: Theme.panelBorder
     property int radius: Theme.cardRadius
     property int blur: 14
     property int drop: 6
@@ -24,6 +25,6 @@ Item {
         radius: root.radius
         color: root.color
         edgeWidth: 1
-        edgeColor: Theme.panelBorder
+        edgeColor: root.edge
     }
 }

@@ -48,6 +48,7 @@ Item {
         anchors.fill: parent
         radius: Math.floor(root.height / 2)
         color: root.material
+        edge: root.edge
         blur: root.blur
         drop: root.drop
     }

@@ -11,7 +11,7 @@ T.ToolTip {
 
     // Fades and is gone for good.
     function leave() {
-        closed.connect(() => root.destroy());
+        closed.connect(() => root?.destroy()); // its place may be gone by then
         close();
     }
 
