@@ -107,6 +107,14 @@ int FlowLayout::aboveOrBelow(int index, int step) const {
   return index;
 }
 
+int FlowLayout::nearestTile(int index) const {
+  if (index < 0 || !isBlock(index)) return index;
+  for (const int step : {1, -1}) {
+    if (const int found = besides(index, step); found != index) return found;
+  }
+  return -1;
+}
+
 // The first tile from one end; -1 if there is none.
 int FlowLayout::edge(int step) const {
   const int start = step > 0 ? -1 : count_;

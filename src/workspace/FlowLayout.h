@@ -48,6 +48,9 @@ class FlowLayout {
   enum class Direction { left, right, up, down, first, last };
   // The tile that the arrow leads to, blocks being passed over; the same one at the edge.
   int neighbour(int index, Direction direction) const;
+  // That item if it is a tile, else the next one behind it, else in front of it; -1 if there is
+  // none.
+  int nearestTile(int index) const;
 
  private:
   struct Row {

@@ -168,6 +168,7 @@ void TileFlow::populate() {
   const SharedList<Item>& items = section_->items()->items();
   if (std::exchange(areItemsStale_, false)) {
     isOrderStale_ = true;
+    const int focused = focusedIndex();
     live_.forEach([](LiveTile& live) { live.index = -1; });
     int index = 0;
     for (const Item& item : items) {
@@ -177,6 +178,7 @@ void TileFlow::populate() {
       }
       ++index;
     }
+    if (focused >= 0 && focusedIndex() < 0) handOverFocus(focused);
   }
   const int tabStop = reachable_ ? currentIndex() : -1;
   live_.releaseIf([&](const LiveTile& live) {
@@ -300,6 +302,16 @@ void TileFlow::focusTile(int index) {
   if (!live) return;
   put(*live, layout_.rect(index));
   live->view->forceActiveFocus(Qt::TabFocusReason);
+}
+
+// The item with the keyboard has gone: the tile that took its place gets it.
+void TileFlow::handOverFocus(int from) {
+  const int last = int(section_->items()->items().size()) - 1;
+  const int index = layout_.nearestTile(std::min(from, last));
+  if (index >= 0) return focusTile(index);
+  live_.forEach([](LiveTile& live) {
+    if (live.view->hasActiveFocus()) live.view->setFocus(false);
+  });
 }
 
 // However the keyboard came to it: the tile is where the Tab key leads from now on.

@@ -77,6 +77,7 @@ class TileFlow : public QQuickItem {
   int currentIndex();
   int focusedIndex() const;
   void focusTile(int index);
+  void handOverFocus(int from);
   void focusMoved();
 
   SectionModel* section_ = nullptr;

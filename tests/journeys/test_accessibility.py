@@ -6,7 +6,8 @@ from desktop import press, until, write
 from journey import Journey
 
 # What can be worked with, and the only roles that may say so.
-CONTROLS = {"push button", "check box", "menu item", "text", "list", "list item", "scroll bar"}
+CONTROLS = {"push button", "check box", "menu item", "text", "list", "list item", "scroll bar",
+            "split pane"}
 PRESSED = {"push button", "check box", "menu item", "list item"}
 # The Tab key stops once in them, or leaves them to keys of their own.
 COMPOSITES = {"list", "menu bar", "popup menu"}

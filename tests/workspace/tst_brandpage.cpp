@@ -218,8 +218,12 @@ void TestBrandPage::keysSelectDeleteAndClear() {
   page.key(Qt::Key_Escape);
   QCOMPARE(selectedNames(test), "");
   page.click("a", Qt::ControlModifier);
+  QCOMPARE(page.focused(), "a");
   page.key(Qt::Key_Delete);
   QCOMPARE(test.names(0), (QStringList{"t", "b"}));
+  page.settle();
+  QVERIFY(!page.tileNamed("a"));
+  QCOMPARE(page.focused(), "b");
   QCOMPARE(test.toasts.message(), "Deleted 1 item · ⌘Z to undo");
   test.undo.undo();
   QCOMPARE(test.names(0).size(), 3);
