@@ -15,8 +15,8 @@ class ContentModel : public QObject {
   Q_PROPERTY(tarnloft::ShellCommands* commands READ commands CONSTANT)
   Q_PROPERTY(tarnloft::Sidebar* sidebar READ sidebar CONSTANT)
   Q_PROPERTY(tarnloft::StackUndoManager* undo READ undo CONSTANT)
-  // Whether the window has shown a frame. The brand's page comes behind it, so that the window needn't
-  // wait for its tiles.
+  // Whether the window has shown a frame. The brand's page comes behind it, so that the window
+  // needn't wait for its tiles.
   Q_PROPERTY(bool shown READ isShown NOTIFY shownChanged)
   // Null while no brand is open.
   Q_PROPERTY(tarnloft::BrandWorkspace* workspace READ workspace NOTIFY workspaceChanged)
