@@ -34,8 +34,14 @@ BackgroundWork::TaskPtr BackgroundWork::start(std::function<void()> work,
     const QMutexLocker lock(&mutex_);
     waiting_.push_back(task);
   }
-  threads_.start([this] { runNewest(); });
+  ++held_;
+  if (!isHeld_) resume();
   return task;
+}
+
+void BackgroundWork::resume() {
+  isHeld_ = false;
+  for (; held_ > 0; --held_) threads_.start([this] { runNewest(); });
 }
 
 void BackgroundWork::raise(const TaskPtr& task) {

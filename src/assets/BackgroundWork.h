@@ -25,6 +25,9 @@ class BackgroundWork : public QObject {
 
   // `work` runs on one of the threads, then `done` on the main thread.
   TaskPtr start(std::function<void()> work, std::function<void()> done);
+  // What is asked from now on waits until `resume`.
+  void hold() { isHeld_ = true; }
+  void resume();
   // Makes it the next one, if it hasn't begun.
   void raise(const TaskPtr& task);
   // Forgets it, if it hasn't begun: true if so. Neither function is called then.
@@ -34,6 +37,8 @@ class BackgroundWork : public QObject {
   void runNewest();
   bool takeWaiting(const TaskPtr& task);
 
+  bool isHeld_ = false;
+  int held_ = 0;  // tasks asked meanwhile
   QMutex mutex_;
   std::vector<TaskPtr> waiting_;  // the newest last
   QThreadPool threads_;           // the last member: its threads use the others

@@ -21,6 +21,7 @@ class TestThumbnails : public QObject {
   void forgetsTheLeastRecentlyUsed();
   void callbacksMayAskAndCancel();
   void mayEndBeforeItsRequests();
+  void waitsWhileItIsHeld();
 };
 
 namespace {
@@ -196,6 +197,25 @@ void TestThumbnails::mayEndBeforeItsRequests() {
   QTRY_VERIFY(done);
   QCOMPARE(images.begun().size(), 1);
   begun.cancel();
+}
+
+void TestThumbnails::waitsWhileItIsHeld() {
+  BackgroundWork work(1);
+  QStringList done;
+  const auto start = [&](const QString& name) {
+    return work.start([] {}, [&, name] { done << name; });
+  };
+  work.hold();
+  start(QStringLiteral("a"));
+  const auto dropped = start(QStringLiteral("b"));
+  start(QStringLiteral("c"));
+  QVERIFY(work.drop(dropped));
+  QTest::qWait(50);
+  QVERIFY(done.isEmpty());
+  work.resume();
+  QTRY_COMPARE(done, QStringList({"c", "a"}));
+  start(QStringLiteral("d"));
+  QTRY_COMPARE(done.size(), 3);
 }
 
 QTEST_GUILESS_MAIN(TestThumbnails)

@@ -17,6 +17,7 @@ TarnLoftApp::TarnLoftApp()
       appDelegate_(
           services_.preferences, menuBarPrefs_, services_.statusItem, [this] { openMainWindow(); },
           &QCoreApplication::quit) {
+  services_.media.work.hold();  // the first frame has the cores to itself
   followAppearance();
   connect(&services_.appearance, &DesktopAppearance::darkChanged, this,
           &TarnLoftApp::followAppearance);
@@ -36,11 +37,15 @@ bool TarnLoftApp::openMainWindow() {
   if (!mainWindow_.open()) return false;
   QQuickWindow* const window = mainWindow_.window();
   appDelegate_.setMainWindow(window);
-  // Not before the first frame, which needs nothing of the tray.
-  connect(window, &QQuickWindow::frameSwapped, &appDelegate_, &AppDelegate::installMenuBar,
+  connect(window, &QQuickWindow::frameSwapped, this, &TarnLoftApp::firstFrameShown,
           Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
   appDelegate_.showMainWindow();
   return true;
+}
+
+void TarnLoftApp::firstFrameShown() {
+  appDelegate_.installMenuBar();
+  services_.media.work.resume();
 }
 
 void TarnLoftApp::followAppearance() { theme_.setDark(services_.appearance.isDark()); }

@@ -24,6 +24,7 @@ class TarnLoftApp : public QObject {
 
  private:
   bool openMainWindow();
+  void firstFrameShown();
   void followAppearance();
 
   DesktopServices services_;
