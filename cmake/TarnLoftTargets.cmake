@@ -91,5 +91,6 @@ function(tarnloft_test name)
     set(launcher ${CMAKE_SOURCE_DIR}/tests/testing/with-display)
   endif()
   add_test(NAME ${name} COMMAND ${launcher} $<TARGET_FILE:${name}>)
-  set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT "QTEST_DISABLE_STACK_DUMP=1")
+  set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT
+    "QTEST_DISABLE_STACK_DUMP=1;LC_ALL=C.UTF-8")
 endfunction()
