@@ -123,6 +123,9 @@ Result<QStringList> PosixFileStore::list(const QString& folder) const {
 
 Result<std::unique_ptr<FileReader>> PosixFileStore::open(const QString& path,
                                                          const QString& root) const {
+  if (auto beneath = openBeneath(path, root)) {
+    return makeReader(std::move(beneath->file), beneath->info);
+  }
   if (!native(path)) return systemFailure(EINVAL);
   const QString canonicalPath = QFileInfo(path).canonicalFilePath();
   if (canonicalPath.isEmpty()) return systemFailure(ENOENT);

@@ -7,7 +7,9 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <linux/fs.h>
+#include <linux/openat2.h>
 #include <sys/ioctl.h>
+#include <sys/syscall.h>
 #include <system_error>
 #include <vector>
 
@@ -87,16 +89,38 @@ std::optional<QByteArray> native(const QString& path) {
   return QFile::encodeName(path);
 }
 
-Result<OpenFile> openRegularFile(const QString& path, Links links) {
-  const auto name = native(path);
-  if (!name) return systemFailure(EINVAL);
-  const int onLinks = links == Links::refuse ? O_NOFOLLOW : 0;
-  Descriptor file(::open(name->constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | onLinks));
+namespace {
+
+constexpr int reading = O_RDONLY | O_CLOEXEC | O_NONBLOCK;
+
+Result<OpenFile> regularFile(Descriptor file) {
   if (!file.isOpen()) return systemFailure(errno);
   struct stat info;
   if (::fstat(file.number(), &info) != 0) return systemFailure(errno);
   if (!S_ISREG(info.st_mode)) return failure(ErrorKind::refused, QStringLiteral("Not a file"));
   return OpenFile{std::move(file), info};
+}
+
+}  // namespace
+
+Result<OpenFile> openRegularFile(const QString& path, Links links) {
+  const auto name = native(path);
+  if (!name) return systemFailure(EINVAL);
+  const int onLinks = links == Links::refuse ? O_NOFOLLOW : 0;
+  return regularFile(Descriptor(::open(name->constData(), reading | onLinks)));
+}
+
+Result<OpenFile> openBeneath(const QString& path, const QString& root) {
+  const auto name = native(path), top = native(root + QLatin1Char('/'));
+  if (!name || !top || !name->startsWith(*top)) return systemFailure(EINVAL);
+  const Descriptor folder(::open(top->constData(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+  if (!folder.isOpen()) return systemFailure(errno);
+  open_how how{};
+  how.flags = reading;
+  how.resolve = RESOLVE_BENEATH;
+  const char* const way = name->constData() + top->size();
+  return regularFile(
+      Descriptor(int(::syscall(SYS_openat2, folder.number(), way, &how, sizeof how))));
 }
 
 Result<QByteArray> contentOf(const OpenFile& file) {

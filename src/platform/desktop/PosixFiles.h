@@ -47,6 +47,10 @@ enum class Links { follow, refuse };
 // Opens a regular file for reading. Never waits on a pipe or a device.
 Result<OpenFile> openRegularFile(const QString& path, Links links = Links::follow);
 
+// The same for a file below a folder, by a way that at no moment leads out of it, were it only to
+// come back: then it fails, as it does where the system knows no such way.
+Result<OpenFile> openBeneath(const QString& path, const QString& root);
+
 // All bytes of a file that nothing was read from yet; memory for its whole size.
 Result<QByteArray> contentOf(const OpenFile& file);
 
