@@ -11,18 +11,6 @@ namespace {
 
 std::unique_ptr<ColorSampler> makeColorSampler() { return std::make_unique<DesktopColorSampler>(); }
 
-// The brand may be open again by now.
-void addToClosed(LibraryStore& library, const DocumentServices& services, const QString& packageURL,
-                 const QUuid& section, const QList<Item>& items) {
-  BrandDocument* const open = library.openDocument();
-  const bool isOpen = open && open->packageURL() == packageURL;
-  const auto loaded = isOpen ? nullptr : BrandDocument::load(services, packageURL);
-  BrandDocument* const document = isOpen ? open : loaded.get();
-  if (!document) return;
-  for (const Item& item : items) document->addItem(item, section);
-  if (loaded) loaded->saveNow();
-}
-
 }  // namespace
 
 LibraryServices DesktopServices::forLibrary() {
@@ -40,10 +28,9 @@ LibraryServices DesktopServices::forLibrary() {
 }
 
 WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
-  const auto landLate = [&library, services = DocumentServices{files, log}](
-                            const QString& packageURL, const QUuid& section,
-                            const QList<Item>& items) {
-    addToClosed(library, services, packageURL, section, items);
+  const auto landLate = [&library](const QString& packageURL, const QUuid& section,
+                                   const QList<Item>& items) {
+    library.addItems(packageURL, section, items);
   };
   const auto tiff = [this](const QString& path, qint64 maxBytes) {
     return media.tiff(path, maxBytes);

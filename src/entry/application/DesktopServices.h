@@ -1,6 +1,7 @@
 #pragma once
 
 #include "entry/application/MediaServices.h"
+#include "entry/late/LateServices.h"
 #include "platform/desktop/FreeTypeFonts.h"
 #include "platform/desktop/FreedesktopTrash.h"
 #include "platform/desktop/IniPreferences.h"
@@ -9,7 +10,6 @@
 #include "platform/desktop/PosixFileStore.h"
 #include "platform/desktop/QtDragSession.h"
 #include "platform/desktop/Syslog.h"
-#include "platform/desktop/ZipArchiver.h"
 #include "platform/desktop/window/DesktopAppearance.h"
 #include "platform/desktop/window/DesktopBeep.h"
 #include "platform/desktop/window/DesktopFileDialogs.h"
@@ -31,7 +31,7 @@ struct DesktopServices {
   IniPreferences state{stateFile()};  // what windows keep, which is nobody's preference
   DesktopBeep beep;
   FreedesktopTrash trash;
-  ZipArchiver archiver;
+  LateArchiver archiver;
   DesktopFileDialogs dialogs;
   DesktopFileViewer viewer;
   DesktopAppearance appearance;

@@ -2,7 +2,7 @@
 
 #include "assets/BackgroundWork.h"
 #include "assets/ThumbnailLoader.h"
-#include "entry/media/LateMedia.h"
+#include "entry/late/LateServices.h"
 #include "sheets/Thumbnails.h"
 #include "workspace/Posters.h"
 

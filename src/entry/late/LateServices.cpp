@@ -1,4 +1,4 @@
-#include "entry/media/LateMedia.h"
+#include "entry/late/LateServices.h"
 
 #include <QCoreApplication>
 
@@ -19,6 +19,12 @@ Service* fromModule(const char* file, const char* entryName) {
 }
 
 // A local static is made once, whichever thread comes first.
+Archiver* archiver() {
+  static Archiver* const loaded =
+      fromModule<Archiver>("libtarnloft-archives.so", "tarnloftArchiver");
+  return loaded;
+}
+
 Images* images() {
   static Images* const loaded = fromModule<Images>("libtarnloft-images.so", "tarnloftImages");
   return loaded;
@@ -29,7 +35,19 @@ Videos* videos() {
   return loaded;
 }
 
+tl::unexpected<Error> noArchives() {
+  return failure(ErrorKind::io, QStringLiteral("The library of archives can't be loaded"));
+}
+
 }  // namespace
+
+Result<void> LateArchiver::archive(const QString& folder, FileWriter& target) {
+  return archiver() ? archiver()->archive(folder, target) : noArchives();
+}
+
+Result<void> LateArchiver::extract(const QString& archive, const QString& folder) {
+  return archiver() ? archiver()->extract(archive, folder) : noArchives();
+}
 
 std::optional<ImageProperties> LateImages::properties(const QString& path) {
   return images() ? images()->properties(path) : std::nullopt;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Archiver.h"
 #include "platform/Images.h"
 #include "platform/Videos.h"
 
@@ -21,6 +22,13 @@ class LateVideos : public Videos {
  public:
   std::optional<VideoProperties> properties(const QString& path) override;
   std::optional<QImage> frame(const QString& path, double seconds, int maxPixel) override;
+};
+
+// Archives; all fail where the library can't be loaded.
+class LateArchiver : public Archiver {
+ public:
+  Result<void> archive(const QString& folder, FileWriter& target) override;
+  Result<void> extract(const QString& archive, const QString& folder) override;
 };
 
 }  // namespace tarnloft

@@ -1,4 +1,4 @@
-#include "entry/media/MediaModules.h"
+#include "entry/late/LateModules.h"
 #include "platform/desktop/VipsImages.h"
 
 using namespace tarnloft;

@@ -1,0 +1,9 @@
+#include "entry/late/LateModules.h"
+#include "platform/desktop/ZipArchiver.h"
+
+using namespace tarnloft;
+
+Archiver* tarnloftArchiver(const QString& /*programFolder*/) {
+  static ZipArchiver archiver;
+  return &archiver;
+}
