@@ -4,10 +4,10 @@ import QtQuick
 import TarnLoft.Controls
 import TarnLoft.Sheets
 
-// The round mark of a brand or a section.
+// The round mark of a brand or a section; nothing while it isn't `active`.
 //   EmblemView { look: row.emblem; thumbnails: window.thumbnails; size: 22 }
 // Decoration: what it stands for is named beside it.
-Item {
+LazyItem {
     id: root
 
     required property emblemLook look
@@ -15,8 +15,6 @@ Item {
     property real size: 22
     property color fallbackTint: Theme.secondaryLabel
 
-    readonly property bool isSymbol: look.mark === EmblemStyle.Symbol || look.mark === EmblemStyle.Bare
-    readonly property bool isText: look.mark === EmblemStyle.Emoji || look.mark === EmblemStyle.Monogram
     readonly property color inkColor: {
         switch (look.ink) {
         case EmblemStyle.Black:
@@ -30,21 +28,35 @@ Item {
         }
     }
 
-    implicitWidth: size
-    implicitHeight: size
-    Accessible.ignored: true
+    width: size
+    height: size
+    sourceComponent: {
+        switch (look.mark) {
+        case EmblemStyle.Symbol:
+        case EmblemStyle.Bare:
+            return symbol;
+        case EmblemStyle.Emoji:
+        case EmblemStyle.Monogram:
+            return text;
+        case EmblemStyle.Picture:
+            return picture;
+        default:
+            return null;
+        }
+    }
 
     RoundedRectangle {
-        anchors.fill: parent
-        visible: root.look.ground !== EmblemStyle.NoGround
+        width: root.width
+        height: root.height
+        visible: root.active && root.look.ground !== EmblemStyle.NoGround
         radius: width / 2
         color: root.look.ground === EmblemStyle.Filled ? root.look.color : Theme.thin(Theme.secondaryLabel, 0.2)
     }
 
-    LazyItem {
-        anchors.centerIn: parent
-        active: root.isSymbol
-        sourceComponent: Symbol {
+    Component {
+        id: symbol
+
+        Symbol {
             name: root.look.text
             size: root.size * (root.look.mark === EmblemStyle.Bare ? 0.72 : 0.5)
             weight: root.look.mark === EmblemStyle.Bare ? Font.Normal : Font.DemiBold
@@ -52,25 +64,30 @@ Item {
         }
     }
 
-    LazyItem {
-        anchors.centerIn: parent
-        active: root.isText
-        sourceComponent: Text {
+    Component {
+        id: text
+
+        Text {
             text: root.look.text
             font: root.look.mark === EmblemStyle.Emoji ? Theme.emoji(Math.round(root.size * 0.6))
                                                        : Theme.font(Math.round(root.size * 0.5), Font.DemiBold)
             color: root.inkColor
             textFormat: Text.PlainText
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
             Accessible.ignored: true
         }
     }
 
-    LazyItem {
-        anchors.fill: parent
-        active: root.look.mark === EmblemStyle.Picture
-        sourceComponent: EmblemImage {
+    Component {
+        id: picture
+
+        ThumbnailView {
             path: root.look.text
             thumbnails: root.thumbnails
+            fillMode: ThumbnailView.Fill
+            radius: width / 2
+            maxPixel: 128
         }
     }
 }

@@ -4,19 +4,15 @@ import QtQuick
 import TarnLoft.Controls
 import TarnLoft.Shell
 
-// What can be done with a brand of the sidebar as a whole.
+// What can be done with a brand of the sidebar as a whole. Made at each opening.
 Menu {
     id: root
 
     required property Sidebar sidebar
-    property string packageURL: ""
-
-    function openFor(row: SidebarRow, x: real, y: real) {
-        packageURL = row.packageURL;
-        popup(row, x, y);
-    }
+    required property string packageURL
 
     title: "Brand"
+    onClosed: destroy()
 
     MenuItem {
         text: "Rename…"

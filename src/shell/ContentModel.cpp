@@ -45,11 +45,6 @@ ContentModel::ContentModel(const LibraryServices& libraryServices,
 
 ContentModel::~ContentModel() { library_.setHostUndoManager(nullptr); }
 
-void ContentModel::windowShown() {
-  if (std::exchange(shown_, true)) return;
-  emit shownChanged();
-}
-
 ContentModel::Detail ContentModel::detail() const {
   if (library_.openDocument()) return Detail::brand;
   return library_.brands().isEmpty() ? Detail::welcome : Detail::noSelection;

@@ -15,9 +15,6 @@ class ContentModel : public QObject {
   Q_PROPERTY(tarnloft::ShellCommands* commands READ commands CONSTANT)
   Q_PROPERTY(tarnloft::Sidebar* sidebar READ sidebar CONSTANT)
   Q_PROPERTY(tarnloft::StackUndoManager* undo READ undo CONSTANT)
-  // Whether the window has shown a frame. The brand's page comes behind it, so that the window
-  // needn't wait for its tiles.
-  Q_PROPERTY(bool shown READ isShown NOTIFY shownChanged)
   // Null while no brand is open.
   Q_PROPERTY(tarnloft::BrandWorkspace* workspace READ workspace NOTIFY workspaceChanged)
   Q_PROPERTY(tarnloft::Thumbnails* thumbnails READ thumbnails CONSTANT)
@@ -53,10 +50,6 @@ class ContentModel : public QObject {
   Thumbnails* thumbnails() const { return &services_.thumbnails; }
   QString toast() const;
 
-  bool isShown() const { return shown_; }
-  // The window has shown its first frame.
-  void windowShown();
-
   Detail detail() const;
   // The window's, led by the open brand's name.
   QString title() const;
@@ -70,7 +63,6 @@ class ContentModel : public QObject {
 
  signals:
   void detailChanged();
-  void shownChanged();
   void workspaceChanged();
   void toastChanged();
   // The page shall scroll to that section of the open brand.
@@ -94,7 +86,6 @@ class ContentModel : public QObject {
   ShellCommands commands_;
   Sidebar sidebar_;
   std::optional<QString> selectedBrand_;
-  bool shown_ = false;
   bool showNewBrand_ = false;
   QString newBrandName_;
   std::unique_ptr<BrandWorkspace> workspace_;

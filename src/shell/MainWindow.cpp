@@ -1,6 +1,8 @@
 #include "shell/MainWindow.h"
 
+#include "platform/controls/SymbolGlyphs.h"
 #include "platform/controls/Theme.h"
+#include "platform/controls/Typography.h"
 
 #include <QGuiApplication>
 #include <QQmlComponent>
@@ -13,6 +15,11 @@ namespace {
 // Properties of the window.
 const auto initialSidebarWidth = QStringLiteral("initialSidebarWidth");
 constexpr auto sidebarWidth = "sidebarWidth";
+constexpr auto late = "late";
+
+QUrl viewURL(const char* file) {
+  return QUrl(QStringLiteral("qrc:/qt-project.org/imports/TarnLoft/Shell/") + QLatin1String(file));
+}
 
 QList<QRect> screenRooms() {
   QList<QRect> rooms;
@@ -20,18 +27,31 @@ QList<QRect> screenRooms() {
   return rooms;
 }
 
+// Of the sidebar.
+QList<QFont> firstFonts() {
+  return {SymbolGlyphs::font(16, QFont::Normal), interfaceFont(13), interfaceFont(12),
+          interfaceFont(11, QFont::DemiBold), interfaceFont(13, QFont::DemiBold)};
+}
+
 }  // namespace
 
 MainWindow::MainWindow(QQmlEngine& engine, const LibraryServices& libraryServices,
                        const WorkspaceServices& services, Preferences& state)
-    : engine_(engine), libraryServices_(libraryServices), services_(services), state_(state) {
+    : engine_(engine),
+      libraryServices_(libraryServices),
+      services_(services),
+      state_(state),
+      lateViews_(&engine) {
   settled_.setSingleShot(true);
   settled_.setInterval(400);
   connect(&settled_, &QTimer::timeout, this, &MainWindow::remember);
   connect(&Theme::of(engine), &Theme::changed, this, &MainWindow::followAppearance);
+  connect(&lateViews_, &QQmlComponent::statusChanged, this, &MainWindow::makeLateViews);
 }
 
 MainWindow::~MainWindow() = default;
+
+QUrl MainWindow::url() { return viewURL("MainWindow.qml"); }
 
 bool MainWindow::open() {
   if (window_) return true;
@@ -41,10 +61,10 @@ bool MainWindow::open() {
 }
 
 bool MainWindow::make() {
-  const QUrl url(QStringLiteral("qrc:/qt-project.org/imports/TarnLoft/Shell/MainWindow.qml"));
-  QQmlComponent component(&engine_, url);
-  const WindowState state = WindowState::read(state_).fitting(screenRooms());
   auto content = std::make_unique<ContentModel>(libraryServices_, services_);
+  loadFonts(firstFonts());
+  QQmlComponent component(&engine_, url());
+  const WindowState state = WindowState::read(state_).fitting(screenRooms());
   std::unique_ptr<QObject> made(component.createWithInitialProperties(
       {{QStringLiteral("content"), QVariant::fromValue(content.get())},
        {initialSidebarWidth, state.sidebarWidth}}));
@@ -54,12 +74,28 @@ bool MainWindow::make() {
     return false;
   }
   content_ = std::move(content);
-  connect(window_.get(), &QQuickWindow::frameSwapped, content_.get(), &ContentModel::windowShown,
+  isShown_ = false;
+  const auto shown = [this] {
+    isShown_ = true;
+    if (lateViews_.isNull())
+      lateViews_.loadUrl(viewURL("MainWindowLateViews.qml"), QQmlComponent::Asynchronous);
+    makeLateViews();
+  };
+  connect(window_.get(), &QQuickWindow::frameSwapped, this, shown,
           Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
   followAppearance();
   place(state);
   window_->installEventFilter(this);
   return true;
+}
+
+void MainWindow::makeLateViews() {
+  if (!window_ || !isShown_ || lateViews_.isLoading()) return;
+  QObject* const views = lateViews_.createWithInitialProperties(
+      {{QStringLiteral("content"), QVariant::fromValue(content_.get())}});
+  if (!views) return qCritical("%s", qPrintable(lateViews_.errorString()));
+  views->setParent(window_.get());
+  window_->setProperty(late, QVariant::fromValue(views));
 }
 
 void MainWindow::place(const WindowState& state) {

@@ -3,6 +3,7 @@
 #include "shell/ContentModel.h"
 #include "shell/WindowState.h"
 
+#include <QQmlComponent>
 #include <QTimer>
 
 class QQmlEngine;
@@ -22,8 +23,11 @@ class MainWindow : public QObject {
   ~MainWindow() override;
   Q_DISABLE_COPY_MOVE(MainWindow)
 
-  // Opens the window where it stood last; nothing if it is open. False if its views can't be made,
-  // which a broken installation alone explains.
+  // The window's QML. `open` is faster if loading it has begun.
+  static QUrl url();
+
+  // Opens the window where it stood last; nothing if it is open. What its first frame does without
+  // follows. False if its views can't be made, which a broken installation alone explains.
   bool open();
   // Null while it is closed.
   QQuickWindow* window() const { return window_.get(); }
@@ -33,6 +37,7 @@ class MainWindow : public QObject {
 
  private:
   bool make();
+  void makeLateViews();
   bool eventFilter(QObject* watched, QEvent* event) override;
   void place(const WindowState& state);
   void remember();
@@ -45,7 +50,9 @@ class MainWindow : public QObject {
   Preferences& state_;
   std::unique_ptr<ContentModel> content_;
   std::unique_ptr<QQuickWindow> window_;
-  QTimer settled_;  // a moment after the last change of the window's place
+  QQmlComponent lateViews_;
+  bool isShown_ = false;  // the window has shown a frame
+  QTimer settled_;        // a moment after the last change of the window's place
 };
 
 }  // namespace tarnloft

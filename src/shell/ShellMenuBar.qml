@@ -9,7 +9,7 @@ import TarnLoft.Shell
 MenuBar {
     id: root
 
-    required property WindowCommands commands
+    required property ContentModel content
 
     function openMenu(index: int) {
         (itemAt(index) as T.MenuBarItem).triggered();
@@ -17,20 +17,28 @@ MenuBar {
 
     background: null
 
+    WindowCommands {
+        id: windowCommands
+
+        commands: root.content.commands
+        undo: root.content.undo
+        onCloseRequested: root.Window.window.close()
+    }
+
     CommandMenu {
         title: "File"
-        commands: [root.commands.newBrand, null, root.commands.importBrand, root.commands.exportBrand,
-            root.commands.exportBrandPage, null, root.commands.closeWindow, root.commands.quit]
+        commands: [windowCommands.newBrand, null, windowCommands.importBrand, windowCommands.exportBrand,
+            windowCommands.exportBrandPage, null, windowCommands.closeWindow, windowCommands.quit]
     }
 
     CommandMenu {
         title: "Edit"
-        commands: [root.commands.undoStep, root.commands.redoStep]
+        commands: [windowCommands.undoStep, windowCommands.redoStep]
     }
 
     CommandMenu {
         title: "Insert"
-        commands: [root.commands.pickColor]
+        commands: [windowCommands.pickColor]
     }
 
     Shortcut {

@@ -87,6 +87,11 @@ void Sidebar::move(const QString& brandID, const std::optional<QUuid>& before) {
   emit moved();
 }
 
+QString Sidebar::draggingName() const {
+  const qsizetype index = indexOf(draggingBrandID_);
+  return index < 0 ? QString() : library_.brands().at(index).name;
+}
+
 void Sidebar::beginDrag(const QString& brandID) { setDragging(brandID); }
 
 void Sidebar::dragEntered(const QString& targetID) {

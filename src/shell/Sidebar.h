@@ -18,6 +18,7 @@ class Sidebar : public QObject {
   // The file manager's entry of a brand's menu.
   Q_PROPERTY(QString revealText READ revealText CONSTANT)
   Q_PROPERTY(QString draggingBrandID READ draggingBrandID NOTIFY draggingChanged)
+  Q_PROPERTY(QString draggingName READ draggingName NOTIFY draggingChanged)
 
  public:
   // Borrowed: the library and all of the services outlive the sidebar.
@@ -57,6 +58,7 @@ class Sidebar : public QObject {
 
   // Empty while no brand is dragged.
   QString draggingBrandID() const { return draggingBrandID_; }
+  QString draggingName() const;
   Q_INVOKABLE void beginDrag(const QString& brandID);
   Q_INVOKABLE void dragEntered(const QString& targetID);
   Q_INVOKABLE void dragEnteredEnd();

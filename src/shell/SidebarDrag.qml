@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import TarnLoft.Sheets
 import TarnLoft.Shell
 
 // A brand on its way to another place: the order follows as the pointer enters rows, and near the
@@ -10,7 +11,7 @@ Item {
 
     required property ListView list
     required property Sidebar sidebar
-    property string brandName: ""
+    required property LateViews late
     property real pointerX: 0
     property real pointerY: 0
     property string lastTarget: ""
@@ -23,7 +24,6 @@ Item {
         pointerX = point.x;
         pointerY = point.y;
         if (!active) {
-            brandName = row.name;
             lastTarget = row.rowID;
             sidebar.beginDrag(row.rowID);
         }
@@ -43,8 +43,6 @@ Item {
             sidebar.dragEnteredEnd();
     }
 
-    visible: active
-
     Timer {
         interval: 16
         repeat: true
@@ -58,10 +56,11 @@ Item {
         }
     }
 
-    DragGhost {
+    LazyItem {
         x: 10
         y: Math.max(0, Math.min(root.height - height, root.pointerY - height / 2))
         width: root.width - 20
-        text: root.brandName
+        active: root.active
+        sourceComponent: root.late?.dragGhost ?? null
     }
 }

@@ -13,18 +13,16 @@ ListView {
 
     required property Sidebar sidebar
     required property Thumbnails thumbnails
+    required property LateViews late
     readonly property int endStrip: 14 // behind the last row, for what is dragged to the end
     readonly property SidebarRow current: currentItem as SidebarRow
 
     signal rowDragged(row: SidebarRow, point: point)
     signal rowDropped
 
-    property BrandMenu menu: null // made at its first opening
-
     function openMenu(row: SidebarRow, x: real, y: real) {
-        if (!menu)
-            menu = menuComponent.createObject(root) as BrandMenu;
-        menu.openFor(row, x, y);
+        const menu = late?.brandMenu.createObject(root, {packageURL: row.packageURL}) as T.Menu;
+        menu?.popup(row, x, y);
     }
 
     function onBrand(act: var) {
@@ -80,14 +78,6 @@ ListView {
 
     WheelScroll {
         flickable: root
-    }
-
-    Component {
-        id: menuComponent
-
-        BrandMenu {
-            sidebar: root.sidebar
-        }
     }
 
     Keys.onReturnPressed: current?.activate()

@@ -56,8 +56,8 @@ QVariant SidebarModel::data(const QModelIndex& index, int role) const {
     case packageURL: return row.packageURL;
     case Qt::DisplayRole:
     case name: return row.name;
-    case look: return QVariant::fromValue(row.look);
-    case marked: return row.marked;
+    case look: return QVariant::fromValue(lookOf(row));
+    case marked: return isMarked(row.emblem);
     case selected: return row.selected;
     default: return {};
   }
@@ -128,26 +128,28 @@ QList<SidebarModel::Row> SidebarModel::wantedRows() const {
 SidebarModel::Row SidebarModel::brandRow(const BrandSummary& brand) const {
   const BrandMark mark = markOf(brand, library_.openDocument());
   const bool dark = appearance_ == ColorUtil::Appearance::dark && mark.accentHexDark;
-  const EmblemPlace place{QStringLiteral("square.stack.3d.up"), brand.packageURL, brand.name,
-                          accentColor(dark ? mark.accentHexDark : mark.accentHex)};
   return {brand.brandID,
           Kind::brand,
           brand.packageURL,
           brand.name,
-          emblemLook(mark.emblem, place, files_),
-          isMarked(mark.emblem),
+          mark.emblem,
+          accentColor(dark ? mark.accentHexDark : mark.accentHex),
           library_.selection() == brand.packageURL};
 }
 
-SidebarModel::Row SidebarModel::sectionRow(const Section& section, const QString& package) const {
-  const EmblemPlace place{QStringLiteral("rectangle.grid.1x2"), package, {}, std::nullopt};
-  return {section.id,
-          Kind::section,
-          package,
-          section.name.isEmpty() ? QStringLiteral("Untitled Section") : section.name,
-          emblemLook(section.emblem, place, files_),
-          isMarked(section.emblem),
-          false};
+SidebarModel::Row SidebarModel::sectionRow(const Section& section, const QString& package) {
+  const QString title = section.name.isEmpty() ? QStringLiteral("Untitled Section") : section.name;
+  return {section.id, Kind::section, package, title, section.emblem, std::nullopt, false};
+}
+
+// Asked for by the rows that are seen: it may look for a picture's file.
+EmblemLook SidebarModel::lookOf(const Row& row) const {
+  const bool isBrand = row.kind == Kind::brand;
+  return emblemLook(
+      row.emblem,
+      {isBrand ? QStringLiteral("square.stack.3d.up") : QStringLiteral("rectangle.grid.1x2"),
+       row.packageURL, isBrand ? row.name : QString(), row.accent},
+      files_);
 }
 
 }  // namespace tarnloft

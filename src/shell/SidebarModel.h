@@ -36,8 +36,8 @@ class SidebarModel : public QAbstractListModel {
     Kind kind = Kind::brand;
     QString packageURL;
     QString name;
-    EmblemLook look;
-    bool marked = true;
+    std::optional<Emblem> emblem;
+    std::optional<QColor> accent;
     bool selected = false;
 
     bool operator==(const Row&) const = default;
@@ -63,7 +63,8 @@ class SidebarModel : public QAbstractListModel {
   void apply(const QList<Row>& rows);
   QList<Row> wantedRows() const;
   Row brandRow(const BrandSummary& brand) const;
-  Row sectionRow(const Section& section, const QString& package) const;
+  static Row sectionRow(const Section& section, const QString& package);
+  EmblemLook lookOf(const Row& row) const;
 
   LibraryStore& library_;
   const FileStore& files_;

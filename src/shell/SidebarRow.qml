@@ -55,40 +55,39 @@ Item {
         opacity: root.lifted ? 0.4 : 1
         color: area.pressed ? Theme.pressedFill : area.containsMouse ? Theme.hoverFill : "transparent"
 
-        LazyItem {
-            anchors.fill: parent
-            active: root.focused
-            sourceComponent: FocusRing {
-                anchors.margins: 0
-                shown: true
-                base: Theme.fieldRadius - 3
-            }
-        }
-
-        RowEmblem {
-            id: slot
-
+        EmblemView {
             x: root.isBrand ? 10 : 28
-            anchors.verticalCenter: parent.verticalCenter
-            isBrand: root.isBrand
-            marked: root.marked
-            hovered: area.containsMouse
-            selected: root.selected
+            y: (root.height - size) / 2
+            active: root.marked
             look: root.look
             thumbnails: root.thumbnails
+            size: root.isBrand ? 18 : 16
+            fallbackTint: root.selected ? Theme.accent : Theme.secondaryLabel
         }
 
-        Label {
+        Text {
             id: label
 
-            x: slot.x + (slot.visible ? slot.width + (root.isBrand ? 8 : 6) : 0)
+            x: root.isBrand ? 36 : root.marked ? 50 : 28
             width: parent.width - x - 10
             height: parent.height
             text: root.name
             font: Theme.font(root.isBrand ? 13 : 12, root.selected ? Font.DemiBold : Font.Normal)
             color: root.ink
+            elide: Text.ElideRight
+            textFormat: Text.PlainText
             verticalAlignment: Text.AlignVCenter
-            Accessible.ignored: true
+        }
+
+        LazyItem {
+            anchors.fill: parent
+            active: root.focused || area.containsMouse
+            sourceComponent: RowHighlight {
+                focused: root.focused
+                overHandle: area.overHandle && !area.dragging
+                bare: area.containsMouse && root.isBrand && !root.marked
+                handleEnd: area.handleEnd
+            }
         }
     }
 

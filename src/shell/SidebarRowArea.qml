@@ -1,8 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import TarnLoft.Controls
-import TarnLoft.Sheets
 
 // The pointer on a row of the sidebar: a click opens it, a drag from its handle moves it, a right
 // click asks for its menu.
@@ -29,7 +27,7 @@ MouseArea {
 
     hoverEnabled: true
     preventStealing: true
-    acceptedButtons: Qt.LeftButton | Qt.RightButton
+    acceptedButtons: Qt.AllButtons
     cursorShape: dragging ? Qt.ClosedHandCursor : overHandle ? Qt.OpenHandCursor : Qt.ArrowCursor
 
     onPressed: mouse => {
@@ -50,15 +48,5 @@ MouseArea {
     onClicked: mouse => {
         if (mouse.button === Qt.LeftButton)
             activated();
-    }
-
-    LazyItem {
-        width: root.handleEnd
-        height: root.height
-        active: root.overHandle && !root.dragging
-        sourceComponent: Help {
-            text: "Drag to reorder"
-            shown: true
-        }
     }
 }

@@ -11,7 +11,7 @@ Rectangle {
 
     required property Sidebar sidebar
     required property Thumbnails thumbnails
-    required property Component header
+    required property LateViews late
 
     signal newBrandRequested
 
@@ -27,7 +27,7 @@ Rectangle {
     LazyItem {
         x: 2
         anchors.verticalCenter: top.verticalCenter
-        sourceComponent: root.header
+        sourceComponent: root.late?.header ?? null
     }
 
     Label {
@@ -51,6 +51,7 @@ Rectangle {
         width: parent.width
         sidebar: root.sidebar
         thumbnails: root.thumbnails
+        late: root.late
         onRowDragged: (row, point) => drag.moveTo(row, point)
         onRowDropped: root.sidebar.endDrag()
     }
@@ -61,6 +62,7 @@ Rectangle {
         anchors.fill: list
         list: list
         sidebar: root.sidebar
+        late: root.late
     }
 
     Divider {
@@ -86,30 +88,6 @@ Rectangle {
             kind: Button.Borderless
             tint: Theme.secondaryLabel
             onClicked: root.newBrandRequested()
-        }
-    }
-
-    LazySheet {
-        active: root.sidebar.renaming
-
-        RenameSheet {
-            title: "Rename Brand"
-            text: root.sidebar.renameText
-            onSave: name => root.sidebar.commitRename(name)
-            onClosed: root.sidebar.endRename()
-        }
-    }
-
-    LazySheet {
-        active: root.sidebar.deleting
-
-        ConfirmationDialog {
-            title: root.sidebar.deleteTitle
-            message: "The brand file goes to the Trash. You can restore it from there."
-            confirmText: "Move to Trash"
-            destructive: true
-            onConfirmed: root.sidebar.confirmDelete()
-            onClosed: root.sidebar.endDelete()
         }
     }
 }

@@ -54,6 +54,7 @@ struct Views : TestShell {
     main = std::make_unique<MainWindow>(engine, library.services(), services(), state);
     QVERIFY(main->open());
     QVERIFY(QTest::qWaitForWindowActive(&window()));
+    QTRY_VERIFY(window().property("late").value<QObject*>());
   }
   QQuickWindow& window() const { return *main->window(); }
 

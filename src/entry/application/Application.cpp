@@ -1,9 +1,8 @@
 #include "entry/ApplicationModule.h"
 #include "entry/application/TarnLoftApp.h"
-#include "entry/media/LateMedia.h"
+#include "entry/late/LateServices.h"
 #include "entry/selftest/SelfTest.h"
 #include "platform/controls/Typography.h"
-#include "platform/controls/symbols/SymbolFont.h"
 #include "platform/desktop/PosixFileStore.h"
 #include "platform/desktop/Syslog.h"
 #include "platform/desktop/instance/RunningInstance.h"
@@ -29,7 +28,6 @@ int fail(const char* reason) {
 
 int runWindows(RunningInstance& instance) {
   prepareTypography();
-  symbols::fontFamily();  // a font that comes later makes all texts be laid out again
   TarnLoftApp app;
   QObject::connect(&instance, &RunningInstance::showRequested, &app.appDelegate(),
                    &AppDelegate::applicationShouldHandleReopen);

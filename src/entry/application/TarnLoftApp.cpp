@@ -17,6 +17,7 @@ TarnLoftApp::TarnLoftApp()
       appDelegate_(
           services_.preferences, menuBarPrefs_, services_.statusItem, [this] { openMainWindow(); },
           &QCoreApplication::quit) {
+  ViewLoading::answer();
   services_.media.work.hold();  // the first frame has the cores to itself
   followAppearance();
   connect(&services_.appearance, &DesktopAppearance::darkChanged, this,

@@ -4,6 +4,7 @@
 #include "entry/application/DesktopServices.h"
 #include "library/LibraryStore.h"
 #include "platform/controls/Theme.h"
+#include "platform/controls/ViewLoading.h"
 #include "shell/AccentTint.h"
 #include "shell/MainWindow.h"
 
@@ -27,8 +28,9 @@ class TarnLoftApp : public QObject {
   void firstFrameShown();
   void followAppearance();
 
-  DesktopServices services_;
   QQmlEngine engine_;
+  ViewLoading windowViews_{engine_, MainWindow::url()};  // beside all that follows
+  DesktopServices services_;
   Theme& theme_;
   LibraryStore library_;
   AccentTint tint_;

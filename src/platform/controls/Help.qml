@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import TarnLoft.Controls
 
 // The help text of the item that it stands in, shown as a tool tip after a moment's hovering.
@@ -21,20 +22,14 @@ Item {
     }
 
     readonly property bool due: shown && text !== "" && !pause.running
-    property ToolTip tip: null // while it shows
+    property T.ToolTip tip: null // while it shows
 
+    // Named by its file: a type would be loaded with every button.
     onDueChanged: {
         if (due)
-            tip = making.createObject(root) as ToolTip;
+            tip = Qt.createComponent("ToolTip.qml").createObject(root, {text: Qt.binding(() => root.text)}) as T.ToolTip;
         else if (tip)
-            tip.leave();
-    }
-
-    readonly property Component making: Component {
-        ToolTip {
-            text: root.text
-            visible: true
-        }
+            tip.close();
     }
 
     Timer {

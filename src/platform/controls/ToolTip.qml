@@ -5,16 +5,11 @@ import QtQuick.Templates as T
 import TarnLoft.Controls
 
 // The small text that tells what the thing under the pointer does. Views use `Help` instead, which
-// makes one of these only while it shows.
+// makes one of these, which fades and is gone when it is closed.
 T.ToolTip {
     id: root
 
-    // Fades and is gone for good.
-    function leave() {
-        closed.connect(() => root?.destroy()); // its place may be gone by then
-        close();
-    }
-
+    visible: true
     implicitWidth: Math.min(implicitContentWidth + leftPadding + rightPadding, 300)
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     x: parent ? Math.round((parent.width - width) / 2) : 0
@@ -25,6 +20,8 @@ T.ToolTip {
     rightPadding: 8
     font: Theme.subheadline
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent | T.Popup.CloseOnReleaseOutsideParent
+
+    onClosed: destroy()
 
     enter: Transition {
         NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Motion.time(120) }

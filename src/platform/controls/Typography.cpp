@@ -1,5 +1,8 @@
 #include "platform/controls/Typography.h"
 
+#include "platform/controls/ViewLoading.h"
+
+#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QQuickWindow>
 #include <QStringList>
@@ -54,6 +57,13 @@ QFont monospacedFont(int pixelSize, QFont::Weight weight) {
   QFont result = font(families, pixelSize, weight);
   result.setStyleHint(QFont::Monospace);
   return result;
+}
+
+void loadFonts(const QList<QFont>& fonts) {
+  for (const QFont& font : fonts) {
+    ViewLoading::answer();
+    (void)QFontMetricsF(font).height();
+  }
 }
 
 void prepareTypography() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFont>
+#include <QList>
 #include <QString>
 
 namespace tarnloft {
@@ -17,5 +18,9 @@ QFont monospacedFont(int pixelSize, QFont::Weight weight = QFont::Normal);
 // Sets the default font, the way that windows draw text, and that an ampersand in a text is a
 // letter like any other. Call it once, after the application object and before the first window.
 void prepareTypography();
+
+// Loads fonts that the first views will use. Each text loads its own else, when nothing else can be
+// done. Fonts that are registered later undo it.
+void loadFonts(const QList<QFont>& fonts);
 
 }  // namespace tarnloft

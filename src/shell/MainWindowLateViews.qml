@@ -1,0 +1,27 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Shell
+
+// The main window's views that come behind its first frame.
+LateViews {
+    id: root
+
+    required property ContentModel content
+
+    header: ShellMenuBar {
+        content: root.content
+    }
+    detail: DetailView {
+        content: root.content
+    }
+    overlay: WindowOverlay {
+        content: root.content
+    }
+    brandMenu: BrandMenu {
+        sidebar: root.content.sidebar
+    }
+    dragGhost: DragGhost {
+        text: root.content.sidebar.draggingName
+    }
+}
