@@ -8,6 +8,7 @@
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <algorithm>
 #include <cstdlib>
@@ -91,6 +92,20 @@ double firstFrame(const QString& program, const Home& home) {
   return seconds;
 }
 
+// The library's order is written behind the first start's first frame, and read by later ones.
+void startOnce(const Home& home) {
+  QProcess process;
+  process.setProcessEnvironment(home.environment());
+  process.setStandardErrorFile(QProcess::nullDevice());
+  process.start(QStringLiteral(TARNLOFT_PROGRAM), QStringList());
+  for (int i = 0; !QFile::exists(home.path(QStringLiteral("config/tarnloft.ini"))); ++i) {
+    if (i == 600) stop("the program kept no order of brands");
+    QThread::msleep(50);
+  }
+  process.terminate();
+  process.waitForFinished();
+}
+
 double median(std::vector<double> values) {
   std::sort(values.begin(), values.end());
   return values[values.size() / 2];
@@ -101,13 +116,16 @@ double median(std::vector<double> values) {
 int main() {
   Home home;
   home.addBrands();
-  std::vector<double> starts, smallest;
-  for (int round = 0; round < 21; ++round) {
+  startOnce(home);
+  // Neighbours in time are compared, because the machine's speed drifts.
+  std::vector<double> starts, smallest, ratios;
+  for (int round = 0; round < 41; ++round) {
     starts.push_back(firstFrame(QStringLiteral(TARNLOFT_PROGRAM), home));
     smallest.push_back(firstFrame(QStringLiteral(SMALLEST_WINDOW), home));
+    ratios.push_back(starts.back() / smallest.back());
   }
   std::printf("\nFirst frame: %.0f ms with %d brands, %.0f ms in the smallest window\n",
               median(starts) * 1e3, brandCount, median(smallest) * 1e3);
   printRatio("start to first frame with 200 brands / the smallest window with one control",
-             median(starts) / median(smallest), Aim::atMost, 1.6);
+             median(ratios), Aim::atMost, 1.6);
 }

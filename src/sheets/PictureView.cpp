@@ -100,17 +100,17 @@ void PictureView::geometryChange(const QRectF& now, const QRectF& before) {
   QQuickItem::geometryChange(now, before);
   if (now.size() == before.size()) return;
   renew();
-  sizeChanged();
+  pixelSizeChanged();
 }
 
 void PictureView::itemChange(ItemChange change, const ItemChangeData& data) {
   QQuickItem::itemChange(change, data);
   if (change != ItemDevicePixelRatioHasChanged && change != ItemSceneChange) return;
   renew();
-  sizeChanged();
+  pixelSizeChanged();
 }
 
-QImage PictureView::cut() const {
+QImage PictureView::drawn() const {
   const QSize size = pixelSize();
   const QRect target = placed(picture_.size(), size, fillMode_);
   const QImage scaled =
@@ -131,7 +131,7 @@ QImage PictureView::cut() const {
 }
 
 QSGNode* PictureView::updatePaintNode(QSGNode* node, UpdatePaintNodeData* /*data*/) {
-  if (picture_.isNull() || pixelSize().isEmpty()) {
+  if (pixelSize().isEmpty() || isBlank()) {
     delete node;
     isStale_ = true;
     return nullptr;
@@ -142,8 +142,9 @@ QSGNode* PictureView::updatePaintNode(QSGNode* node, UpdatePaintNodeData* /*data
     isStale_ = true;
   }
   if (std::exchange(isStale_, false)) {
-    shown->setPicture(window()->createTextureFromImage(cut(), QQuickWindow::TextureHasAlphaChannel),
-                      pixelRatio());
+    shown->setPicture(
+        window()->createTextureFromImage(drawn(), QQuickWindow::TextureHasAlphaChannel),
+        pixelRatio());
   }
   return shown;
 }

@@ -31,21 +31,25 @@ class PictureView : public QQuickItem {
   void radiusChanged();
 
  protected:
+  // What is drawn, in pixels of the screen; asked for while it isn't blank.
+  virtual QImage drawn() const;
+  virtual bool isBlank() const { return picture_.isNull(); }
+  // Draws anew.
+  void renew();
+
   // Null for nothing.
   void setPicture(const QImage& picture);
   bool hasPicture() const { return !picture_.isNull(); }
   // The item's size in pixels of the screen.
   QSize pixelSize() const;
-  // The item's size in pixels or its look has changed.
-  virtual void sizeChanged() {}
+  // The item's size in pixels has changed.
+  virtual void pixelSizeChanged() {}
 
   void geometryChange(const QRectF& now, const QRectF& before) override;
   void itemChange(ItemChange change, const ItemChangeData& data) override;
   QSGNode* updatePaintNode(QSGNode* node, UpdatePaintNodeData* data) override;
 
  private:
-  QImage cut() const;
-  void renew();
   qreal pixelRatio() const;
 
   FillMode fillMode_ = Fit;

@@ -14,7 +14,7 @@ class ThumbnailView : public tarnloft::PictureView {
   QML_ELEMENT
   Q_PROPERTY(tarnloft::Thumbnails* thumbnails READ thumbnails WRITE setThumbnails NOTIFY
                  thumbnailsChanged REQUIRED)
-  Q_PROPERTY(QString path READ path WRITE setPath NOTIFY pathChanged REQUIRED)
+  Q_PROPERTY(QString path READ path WRITE setPath NOTIFY pathChanged)
   // Bounds the longer side, in pixels.
   Q_PROPERTY(int maxPixel READ maxPixel WRITE setMaxPixel NOTIFY maxPixelChanged)
   Q_PROPERTY(LoadState state READ loadState NOTIFY loadStateChanged)
@@ -41,7 +41,7 @@ class ThumbnailView : public tarnloft::PictureView {
 
  protected:
   void componentComplete() override;
-  void sizeChanged() override { polish(); }
+  void pixelSizeChanged() override { polish(); }
   void updatePolish() override;
 
  private:

@@ -3,6 +3,7 @@
 #include "platform/controls/SymbolGlyphs.h"
 #include "platform/controls/Theme.h"
 #include "platform/controls/Typography.h"
+#include "platform/controls/ViewLoading.h"
 
 #include <QGuiApplication>
 #include <QQmlComponent>
@@ -27,10 +28,17 @@ QList<QRect> screenRooms() {
   return rooms;
 }
 
-// Of the sidebar.
-QList<QFont> firstFonts() {
-  return {SymbolGlyphs::font(16, QFont::Normal), interfaceFont(13), interfaceFont(12),
-          interfaceFont(11, QFont::DemiBold), interfaceFont(13, QFont::DemiBold)};
+// Those of the sidebar, while its views load.
+void loadFonts() {
+  // First, because it registers its font.
+  loadFont(SymbolGlyphs::font(16, QFont::Normal), SymbolGlyphs::text(QStringLiteral("plus")));
+  for (const auto& [size, weight] : {std::pair(13, QFont::Normal),
+                                     {12, QFont::Normal},
+                                     {13, QFont::DemiBold},
+                                     {11, QFont::DemiBold}}) {
+    loadFont(interfaceFont(size, weight));
+    ViewLoading::answer();
+  }
 }
 
 }  // namespace
@@ -62,7 +70,7 @@ bool MainWindow::open() {
 
 bool MainWindow::make() {
   auto content = std::make_unique<ContentModel>(libraryServices_, services_);
-  loadFonts(firstFonts());
+  loadFonts();
   QQmlComponent component(&engine_, url());
   const WindowState state = WindowState::read(state_).fitting(screenRooms());
   std::unique_ptr<QObject> made(component.createWithInitialProperties(

@@ -32,7 +32,7 @@ ListView {
 
     model: sidebar.rows
     clip: true
-    activeFocusOnTab: count > 0 // an empty list shows no focus
+    activeFocusOnTab: count > 0 || activeFocus // an empty list is no stop
     highlightFollowsCurrentItem: false
     keyNavigationEnabled: true
     bottomMargin: endStrip

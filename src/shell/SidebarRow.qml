@@ -58,7 +58,7 @@ Item {
         EmblemView {
             x: root.isBrand ? 10 : 28
             y: (root.height - size) / 2
-            active: root.marked
+            visible: root.marked
             look: root.look
             thumbnails: root.thumbnails
             size: root.isBrand ? 18 : 16
@@ -103,7 +103,10 @@ Item {
 
         anchors.fill: parent
         handleEnd: root.isBrand ? label.x : 0
-        onPressed: root.pressed()
+        onPressed: mouse => {
+            if (mouse.accepted)
+                root.pressed();
+        }
         onActivated: root.activate()
         onMenuRequested: (x, y) => {
             if (root.isBrand)

@@ -1,3 +1,4 @@
+#include "sheets/EmblemView.h"
 #include "sheets/LazyItem.h"
 #include "sheets/ThumbnailView.h"
 
@@ -30,6 +31,9 @@ class TestPictureViews : public QObject {
   void aViewThatGoesWithdrawsItsRequest();
   void fitsOrFillsAndCutsCorners();
   void standsOnWholePixels();
+  void anEmblemsMarkStandsInTheMiddle_data();
+  void anEmblemsMarkStandsInTheMiddle();
+  void anEmblemShowsItsPicture();
   void aLazyItemExistsWhileItIsWanted();
 };
 
@@ -89,6 +93,16 @@ struct Window {
                                                {"path", path},
                                                {"width", size.width()},
                                                {"height", size.height()}}));
+    view->setParent(&window);
+    view->setParentItem(window.contentItem());
+    return view;
+  }
+  // An emblem, 64 points across, at the window's corner.
+  EmblemView* emblem(const EmblemLook& look) {
+    QQmlComponent component(window.engine());
+    component.setData("import TarnLoft.Sheets\nEmblemView { size: 64 }", QUrl("qrc:/test.qml"));
+    auto* view = qobject_cast<EmblemView*>(component.createWithInitialProperties(
+        {{"thumbnails", QVariant::fromValue(&thumbnails)}, {"look", QVariant::fromValue(look)}}));
     view->setParent(&window);
     view->setParentItem(window.contentItem());
     return view;
@@ -212,6 +226,67 @@ void TestPictureViews::standsOnWholePixels() {
     QCOMPARE(red, 50);
     QCOMPARE(white, 50);
   }
+}
+
+namespace {
+
+// Around the pixels of a 64 by 64 picture that are nearly of that colour.
+QRect boundsOf(const QImage& image, const QColor& color) {
+  QRect bounds;
+  for (int y = 0; y < 64; ++y) {
+    for (int x = 0; x < 64; ++x) {
+      const QColor found = image.pixelColor(x, y);
+      const int off = std::abs(found.red() - color.red()) + std::abs(found.blue() - color.blue());
+      if (off < 60) bounds |= QRect(x, y, 1, 1);
+    }
+  }
+  return bounds;
+}
+
+}  // namespace
+
+void TestPictureViews::anEmblemsMarkStandsInTheMiddle_data() {
+  QTest::addColumn<EmblemLook>("look");
+  QTest::addColumn<int>("least");  // points that the mark is wide and high
+  using enum EmblemStyle::Ground;
+  using enum EmblemStyle::Mark;
+  using EmblemStyle::Ink;
+  QTest::newRow("letter") << EmblemLook{Filled, Qt::blue, Monogram, "H", Ink::White} << 16;
+  QTest::newRow("symbol") << EmblemLook{Filled, Qt::blue, Symbol, "plus", Ink::White} << 20;
+  QTest::newRow("bare symbol") << EmblemLook{Filled, Qt::blue, Bare, "plus", Ink::White} << 30;
+  QTest::newRow("emoji") << EmblemLook{Filled, Qt::blue, Emoji, "🟥", Ink::Primary} << 24;
+}
+
+void TestPictureViews::anEmblemsMarkStandsInTheMiddle() {
+  Window test;
+  QFETCH(EmblemLook, look);
+  QFETCH(int, least);
+  (void)test.emblem(look);
+  const QImage shown = test.window.grabWindow();
+  QCOMPARE(shown.pixelColor(1, 1), QColor(Qt::white));
+  QCOMPARE(shown.pixelColor(32, 1), QColor(Qt::blue));
+  QCOMPARE(boundsOf(shown, Qt::blue), QRect(0, 0, 64, 64));
+  QImage mark = shown.copy(10, 10, 44, 44);  // without the window around the circle
+  mark = mark.copy(-10, -10, 64, 64);
+  const QRect bounds = boundsOf(mark, shown.pixelColor(32, 32));
+  QVERIFY(bounds.width() >= least && bounds.height() >= least);
+  QVERIFY(bounds.width() < 44 && bounds.height() < 44);
+  const QPointF off = QRectF(bounds).center() - QPointF(32, 32);
+  QVERIFY2(std::abs(off.x()) <= 1.5 && std::abs(off.y()) <= 2.5,
+           qPrintable(QStringLiteral("%1, %2").arg(off.x()).arg(off.y())));
+}
+
+void TestPictureViews::anEmblemShowsItsPicture() {
+  Window test;
+  using enum EmblemStyle::Ground;
+  using enum EmblemStyle::Mark;
+  EmblemView* emblem = test.emblem({Filled, Qt::blue, Picture, "red", {}});
+  QCOMPARE(test.shown(32, 32), QColor(Qt::blue));
+  QTRY_COMPARE(test.shown(32, 32), QColor(Qt::red));
+  QCOMPARE(test.shown(2, 2), QColor(Qt::white));
+  QCOMPARE(test.images.asked, QList<int>{64});
+  emblem->setLook({Filled, Qt::green, NoMark, {}, {}});
+  QCOMPARE(test.shown(32, 32), QColor(Qt::green));
 }
 
 void TestPictureViews::aLazyItemExistsWhileItIsWanted() {

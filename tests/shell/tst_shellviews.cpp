@@ -34,6 +34,7 @@ class TestShellViews : public QObject {
   void deletesWhenConfirmed_data();
   void deletesWhenConfirmed();
   void dragsARowByItsMark();
+  void aRowSpringsToItsPlace();
   void opensMenusFromTheKeyboard();
   void theMenuOfABrandHasItsEntries();
   void shortcutsWaitBehindASheet();
@@ -215,6 +216,26 @@ void TestShellViews::dragsARowByItsMark() {
   }
   QTest::mouseRelease(&views.window(), Qt::LeftButton, {}, target);
   QCOMPARE(views.library.names(), QStringList({"Cedar", "Acme", "Birch"}));
+}
+
+void TestShellViews::aRowSpringsToItsPlace() {
+  QQmlEngine engine;
+  QQmlComponent component(&engine);
+  component.setData("import TarnLoft.Shell\nSettlingOffset { y: 0; active: true }",
+                    QUrl("qrc:/test.qml"));
+  const std::unique_ptr<QObject> slide(component.create());
+  const auto offset = [&] { return slide->property("offset").toDouble(); };
+  slide->setProperty("y", 300);  // its first layout
+  QCoreApplication::processEvents();
+  QCOMPARE(offset(), 0.0);
+  slide->setProperty("y", 330);
+  QTRY_COMPARE_GT(offset(), -30.0);
+  QVERIFY(offset() < 0);
+  QTRY_COMPARE(offset(), 0.0);
+  slide->setProperty("active", false);
+  slide->setProperty("y", 0);
+  QTest::qWait(50);
+  QCOMPARE(offset(), 0.0);
 }
 
 void TestShellViews::opensMenusFromTheKeyboard() {

@@ -36,16 +36,6 @@ Page {
         }
     }
     Specimen {
-        title: "Rounded pictures"
-        RoundedImage { width: 96; height: 96; radius: 10; source: "qrc:/tarnloft/gallery/picture.png" }
-        RoundedImage { width: 96; height: 96; radius: 48; source: "qrc:/tarnloft/gallery/picture.png" }
-        Card {
-            width: 96
-            height: 96
-            RoundedImage { anchors.fill: parent; anchors.margins: 4; radius: 6; fillMode: RoundedImage.Fit; source: "qrc:/tarnloft/gallery/picture.png" }
-        }
-    }
-    Specimen {
         title: "Badges and spinner"
         gap: 12
         Badge { text: "AAA" }

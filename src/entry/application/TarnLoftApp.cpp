@@ -1,6 +1,7 @@
 #include "entry/application/TarnLoftApp.h"
 
 #include "platform/controls/Motion.h"
+#include "platform/controls/symbols/SymbolFont.h"
 
 #include <QCoreApplication>
 #include <QQuickWindow>
@@ -8,8 +9,8 @@
 namespace tarnloft {
 
 TarnLoftApp::TarnLoftApp()
-    : theme_(Theme::of(engine_)),
-      library_(services_.forLibrary()),
+    : library_(services_.forLibrary()),
+      theme_(Theme::of(engine_)),
       tint_(library_, theme_),
       menuBarPrefs_(services_.preferences),
       mainWindow_(engine_, services_.forLibrary(), services_.forWorkspace(library_),
@@ -17,6 +18,7 @@ TarnLoftApp::TarnLoftApp()
       appDelegate_(
           services_.preferences, menuBarPrefs_, services_.statusItem, [this] { openMainWindow(); },
           &QCoreApplication::quit) {
+  symbols::fontFamily();  // registered before any text, which it would lay out again
   ViewLoading::answer();
   services_.media.work.hold();  // the first frame has the cores to itself
   followAppearance();

@@ -28,11 +28,11 @@ class TarnLoftApp : public QObject {
   void firstFrameShown();
   void followAppearance();
 
+  DesktopServices services_;
+  LibraryStore library_;
   QQmlEngine engine_;
   ViewLoading windowViews_{engine_, MainWindow::url()};  // beside all that follows
-  DesktopServices services_;
   Theme& theme_;
-  LibraryStore library_;
   AccentTint tint_;
   MenuBarPrefs menuBarPrefs_;
   MainWindow mainWindow_;

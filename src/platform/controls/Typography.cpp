@@ -1,9 +1,8 @@
 #include "platform/controls/Typography.h"
 
-#include "platform/controls/ViewLoading.h"
-
-#include <QFontMetricsF>
 #include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
 #include <QQuickWindow>
 #include <QStringList>
 
@@ -59,11 +58,11 @@ QFont monospacedFont(int pixelSize, QFont::Weight weight) {
   return result;
 }
 
-void loadFonts(const QList<QFont>& fonts) {
-  for (const QFont& font : fonts) {
-    ViewLoading::answer();
-    (void)QFontMetricsF(font).height();
-  }
+void loadFont(const QFont& font, const QString& text) {
+  QImage image(256, 32, QImage::Format_ARGB32_Premultiplied);
+  QPainter painter(&image);
+  painter.setFont(font);
+  painter.drawText(0, 24, text);
 }
 
 void prepareTypography() {

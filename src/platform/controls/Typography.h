@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QFont>
-#include <QList>
 #include <QString>
 
 namespace tarnloft {
@@ -19,8 +18,8 @@ QFont monospacedFont(int pixelSize, QFont::Weight weight = QFont::Normal);
 // letter like any other. Call it once, after the application object and before the first window.
 void prepareTypography();
 
-// Loads fonts that the first views will use. Each text loads its own else, when nothing else can be
-// done. Fonts that are registered later undo it.
-void loadFonts(const QList<QFont>& fonts);
+// Makes ready what drawing such a text takes, so that the first frame needn't. A font that is
+// registered later undoes it.
+void loadFont(const QFont& font, const QString& text = QStringLiteral("Brand 0123456789"));
 
 }  // namespace tarnloft
