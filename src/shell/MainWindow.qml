@@ -2,45 +2,26 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import TarnLoft.Controls
-import TarnLoft.Sheets
 import TarnLoft.Shell
 
-// The main window: the sidebar, and beside it the open brand or an empty state. The program places it
-// and shows it.
+// The main window. The program places it and shows it.
 Window {
     id: root
 
     required property ContentModel content
     required property real initialSidebarWidth
-    readonly property real sidebarWidth: sidebar.width
+    readonly property real sidebarWidth: view.sidebarWidth
     property LateViews late: null // until they are loaded
 
     title: content.title
     color: Theme.windowBackground
 
-    SplitView {
+    ContentView {
+        id: view
+
         anchors.fill: parent
-
-        SidebarView {
-            id: sidebar
-
-            SplitView.minimumWidth: 200
-            SplitView.preferredWidth: root.initialSidebarWidth
-            SplitView.maximumWidth: 340
-            sidebar: root.content.sidebar
-            thumbnails: root.content.thumbnails
-            late: root.late
-            onNewBrandRequested: root.content.showNewBrand = true
-        }
-
-        LazyItem {
-            SplitView.fillWidth: true
-            sourceComponent: root.late?.detail ?? null
-        }
-    }
-
-    LazyItem {
-        anchors.fill: parent
-        sourceComponent: root.late?.overlay ?? null
+        content: root.content
+        initialSidebarWidth: root.initialSidebarWidth
+        late: root.late
     }
 }

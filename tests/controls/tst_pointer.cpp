@@ -2,6 +2,8 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QQmlContext>
+#include <QQmlExpression>
 #include <QWheelEvent>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
@@ -19,6 +21,7 @@ class TestPointer : public QObject {
   void aDragOfTheMouseScrollsNothing();
   void focusIsScrolledIntoView();
   void helpComesAfterAWhile();
+  void aFieldAtRestShowsItsBeginning();
   void aRightClickOpensTheContextMenu_data();
   void aRightClickOpensTheContextMenu();
   void textItemsHaveAMenu_data();
@@ -101,6 +104,33 @@ void TestPointer::helpComesAfterAWhile() {
   QCOMPARE(tip()->property("text").toString(), QStringLiteral("Drag to reorder"));
   QTest::mouseMove(stage.window(), {300, 300});
   QTRY_VERIFY(!tip());
+  // Who has pressed the thing needs no telling.
+  QTest::mouseMove(stage.window(), {20, 20});
+  QTest::mouseClick(stage.window(), Qt::LeftButton, {}, {20, 20});
+  QTest::qWait(100);
+  QVERIFY(!tip());
+  QTest::mouseMove(stage.window(), {300, 300});
+  QTest::mouseMove(stage.window(), {20, 20});
+  QTRY_VERIFY(tip());
+}
+
+void TestPointer::aFieldAtRestShowsItsBeginning() {
+  Stage stage(
+      QStringLiteral("Column { TextField { objectName: 'field'; width: 80; activeFocusOnTab: true\n"
+                     "  text: 'A name that is much longer than its field' } }"));
+  auto* field = stage.find<QQuickItem>("field");
+  const auto first = [field] {
+    const QVariant left =
+        QQmlExpression(qmlContext(field), field, "positionAt(leftPadding)").evaluate();
+    return left.toInt();
+  };
+  QCOMPARE(first(), 0);
+  stage.press(Qt::Key_Tab);
+  stage.press(Qt::Key_End);
+  QVERIFY(first() > 10);
+  stage.press(Qt::Key_Tab);
+  field->setFocus(false);
+  QCOMPARE(first(), 0);
 }
 
 void TestPointer::aRightClickOpensTheContextMenu_data() {

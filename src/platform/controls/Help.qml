@@ -17,11 +17,19 @@ Item {
     anchors.fill: parent
     Accessible.ignored: true
 
+    property bool spent: false // pressed since the pointer came
+
     HoverHandler {
         id: hover
+
+        onHoveredChanged: root.spent = false
     }
 
-    readonly property bool due: shown && text !== "" && !pause.running
+    PointHandler {
+        onActiveChanged: root.spent = true
+    }
+
+    readonly property bool due: shown && !spent && text !== "" && !pause.running
     property T.ToolTip tip: null // while it shows
 
     // Named by its file: a type would be loaded with every button.

@@ -29,10 +29,19 @@ T.TextField {
     selectByMouse: true
     opacity: enabled ? 1 : 0.45
 
+    // At rest it shows its beginning.
+    function showText() {
+        ensureVisible(activeFocus ? cursorPosition : 0);
+    }
+
+    onTextChanged: showText()
+    onWidthChanged: showText()
     onActiveFocusChanged: {
         if (activeFocus && (focusReason === Qt.TabFocusReason || focusReason === Qt.BacktabFocusReason))
             selectAll();
+        showText();
     }
+    Component.onCompleted: showText()
 
     Accessible.role: Accessible.EditableText
     Accessible.name: accessibleName
