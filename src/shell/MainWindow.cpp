@@ -85,8 +85,9 @@ bool MainWindow::make() {
   isShown_ = false;
   const auto shown = [this] {
     isShown_ = true;
-    if (lateViews_.isNull())
+    if (lateViews_.isNull()) {
       lateViews_.loadUrl(viewURL("MainWindowLateViews.qml"), QQmlComponent::Asynchronous);
+    }
     makeLateViews();
   };
   connect(window_.get(), &QQuickWindow::frameSwapped, this, shown,
@@ -99,6 +100,7 @@ bool MainWindow::make() {
 
 void MainWindow::makeLateViews() {
   if (!window_ || !isShown_ || lateViews_.isLoading()) return;
+  if (window_->property(late).value<QObject*>()) return;
   QObject* const views = lateViews_.createWithInitialProperties(
       {{QStringLiteral("content"), QVariant::fromValue(content_.get())}});
   if (!views) return qCritical("%s", qPrintable(lateViews_.errorString()));
