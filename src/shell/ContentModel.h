@@ -15,8 +15,9 @@ class ContentModel : public QObject {
   Q_PROPERTY(tarnloft::ShellCommands* commands READ commands CONSTANT)
   Q_PROPERTY(tarnloft::Sidebar* sidebar READ sidebar CONSTANT)
   Q_PROPERTY(tarnloft::StackUndoManager* undo READ undo CONSTANT)
-  // Null while no brand is open.
-  Q_PROPERTY(tarnloft::BrandWorkspace* workspace READ workspace NOTIFY workspaceChanged)
+  // A BrandWorkspace, or null while no brand is open. Not of that type for QML, because its module
+  // would be loaded with this one, before the first frame.
+  Q_PROPERTY(QObject* workspace READ workspace NOTIFY workspaceChanged)
   Q_PROPERTY(tarnloft::Thumbnails* thumbnails READ thumbnails CONSTANT)
   // The text of the toast that is shown; empty for none.
   Q_PROPERTY(QString toast READ toast NOTIFY toastChanged)

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import TarnLoft.Controls
 import TarnLoft.Sheets
 import TarnLoft.Shell
 import TarnLoft.Workspace
@@ -49,7 +48,7 @@ Item {
 
         RenameSheet {
             title: "New Section"
-            onSave: name => root.content.workspace.addSection(name)
+            onSave: name => (root.content.workspace as BrandWorkspace).addSection(name)
             onClosed: root.addingSection = false
         }
     }

@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
-import TarnLoft.Controls
 
 // The help text of the item that it stands in, shown as a tool tip after a moment's hovering.
 //   Rectangle { Help { text: "Drag to reorder" } }
