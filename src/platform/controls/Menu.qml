@@ -57,11 +57,7 @@ T.Menu {
     function takeKey(event: KeyEvent) {
         const plain = !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier));
         event.accepted = true;
-        if (event.key === Qt.Key_Tab)
-            goOn(currentIndex, 1);
-        else if (event.key === Qt.Key_Backtab)
-            goOn(currentIndex < 0 ? count : currentIndex, -1);
-        else if (event.key === Qt.Key_Home)
+        if (event.key === Qt.Key_Home)
             goOn(-1, 1);
         else if (event.key === Qt.Key_End)
             goOn(count, -1);
