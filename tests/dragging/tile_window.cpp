@@ -82,12 +82,13 @@ class TileWindow : public QRasterWindow {
     say(QString("DROP %1").arg(isTaken ? "taken" : "refused"));
     event.acceptProposedAction();
   }
-  // What the screen shows where the carried picture is clear, beside it, and inside of it.
+  // What the screen shows where the carried picture is clear. It follows the pointer a little late:
+  // it is in place where its own red is, and the window's blue beside it.
   void sayPicture() {
     const QPoint corner = QCursor::pos() - QPoint(8, 8);
     const QImage seen = screen()->grabWindow(0, corner.x() - 2, corner.y() - 2, 12, 12).toImage();
-    if (seen.pixelColor(8, 8) != QColor(Qt::red)) return;
-    say(QString("PICTURE %1 %2").arg(seen.pixelColor(4, 2).name(), seen.pixelColor(0, 2).name()));
+    if (seen.pixelColor(8, 8) != Qt::red || seen.pixelColor(0, 2) != Qt::blue) return;
+    say("PICTURE " + seen.pixelColor(4, 2).name());
   }
   void sayItems() {
     QString line = "ITEMS";
