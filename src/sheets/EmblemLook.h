@@ -9,17 +9,14 @@
 
 namespace tarnloft {
 
-// The words in which a look is told, for QML: `EmblemStyle.Quiet`.
+// The words in which a look is told.
 namespace EmblemStyle {
-Q_NAMESPACE
-QML_ELEMENT
 
 enum class Ground {
   NoGround,
   Filled,  // with the look's colour
   Quiet    // with the secondary colour, thinned to a fifth
 };
-Q_ENUM_NS(Ground)
 
 // What the look's text is.
 enum class Mark {
@@ -30,23 +27,15 @@ enum class Mark {
   Monogram,  // one letter
   Picture    // a file's path
 };
-Q_ENUM_NS(Mark)
 
 enum class Ink { Primary, Black, White, Fallback };
-Q_ENUM_NS(Ink)
 
 }  // namespace EmblemStyle
 
-// What an emblem shows: a circle with a mark on it. A value for QML; `EmblemView` draws it.
+// What an emblem shows: a circle with a mark on it. A value that QML hands to an `EmblemView`.
 class EmblemLook {
   Q_GADGET
   QML_VALUE_TYPE(emblemLook)
-  // Compiled QML reads no enumerations from values, but numbers.
-  Q_PROPERTY(int ground READ groundNumber)
-  Q_PROPERTY(QColor color MEMBER color)
-  Q_PROPERTY(int mark READ markNumber)
-  Q_PROPERTY(QString text MEMBER text)
-  Q_PROPERTY(int ink READ inkNumber)
 
  public:
   EmblemStyle::Ground ground = EmblemStyle::Ground::NoGround;
@@ -56,10 +45,6 @@ class EmblemLook {
   EmblemStyle::Ink ink = EmblemStyle::Ink::Primary;
 
   bool operator==(const EmblemLook&) const = default;
-
-  int groundNumber() const { return int(ground); }
-  int markNumber() const { return int(mark); }
-  int inkNumber() const { return int(ink); }
 };
 
 // The place that shows an emblem, and what it shows without one.
