@@ -6,7 +6,17 @@
 #include <QCoreApplication>
 #include <QQuickWindow>
 
+#include <chrono>
+
 namespace tarnloft {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto landingPatience = 2s;  // with what was dropped right before the end
+constexpr auto threadPatience = 1s;   // with a picture that is being read, which nobody waits for
+
+}  // namespace
 
 TarnLoftApp::TarnLoftApp()
     : library_(services_.forLibrary()),
@@ -27,6 +37,7 @@ TarnLoftApp::TarnLoftApp()
   services_.motion.follow(
       [&motion = Motion::of(engine_)](bool reduced) { motion.setReduced(reduced); });
   connect(&engine_, &QQmlEngine::quit, qApp, &QCoreApplication::quit);
+  connect(qApp, &QCoreApplication::aboutToQuit, this, &TarnLoftApp::landDrops);
   connect(&mainWindow_, &MainWindow::closed, &appDelegate_, &AppDelegate::lastWindowClosed);
 }
 
@@ -50,6 +61,18 @@ void TarnLoftApp::firstFrameShown() {
   appDelegate_.installMenuBar();
   services_.media.work.resume();
 }
+
+// What the user dropped right before is theirs already.
+void TarnLoftApp::landDrops() {
+  BrandDocument* const open = library_.openDocument();
+  const Brand before = open ? open->brand() : Brand();
+  if (!DropImport::finish(services_.workers, landingPatience)) {
+    services_.log.write(QStringLiteral("ended while files were still being added"));
+  }
+  if (open && open->brand() != before) open->saveNow();
+}
+
+bool TarnLoftApp::finish() { return services_.finish(threadPatience); }
 
 void TarnLoftApp::followAppearance() { theme_.setDark(services_.appearance.isDark()); }
 

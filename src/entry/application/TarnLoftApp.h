@@ -3,6 +3,7 @@
 #include "entry/application/AppDelegate.h"
 #include "entry/application/DesktopServices.h"
 #include "library/LibraryStore.h"
+#include "platform/controls/DeferredEnds.h"
 #include "platform/controls/Theme.h"
 #include "platform/controls/ViewLoading.h"
 #include "shell/AccentTint.h"
@@ -23,13 +24,19 @@ class TarnLoftApp : public QObject {
 
   AppDelegate& appDelegate() { return appDelegate_; }
 
+  // To be called behind the event loop: waits a moment for threads at work. False if some still
+  // are, held up by a disk: nothing that they use may go then, this object included.
+  bool finish();
+
  private:
   bool openMainWindow();
   void firstFrameShown();
   void followAppearance();
+  void landDrops();
 
   DesktopServices services_;
   LibraryStore library_;
+  DeferredEnds viewEnds_;  // of what the engine leaves
   QQmlEngine engine_;
   ViewLoading windowViews_{engine_, MainWindow::url()};  // beside all that follows
   Theme& theme_;
