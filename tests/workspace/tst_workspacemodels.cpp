@@ -4,6 +4,7 @@
 #include "workspace/Tile.h"
 
 #include <QAbstractItemModelTester>
+#include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -39,6 +40,7 @@ class TestWorkspaceModels : public QObject {
   void aDeletedSelectionCanBeHadBack();
   void nothingHappensOnceTheDocumentHasGone();
   void aToastIsReplacedAndGoes();
+  void aSecondToastHasItsOwnTime();
   void aPostersRequestMayOutliveTheWork();
 };
 
@@ -403,6 +405,23 @@ void TestWorkspaceModels::aToastIsReplacedAndGoes() {
   QTRY_VERIFY(!toasts.message());
   QCOMPARE(changes.count(), 3);
   QCOMPARE(ToastCenter::duration, std::chrono::milliseconds(1400));
+}
+
+// A busy machine can only make it stay longer.
+void TestWorkspaceModels::aSecondToastHasItsOwnTime() {
+  constexpr std::chrono::milliseconds time{200};
+  ToastCenter toasts(time);
+  QElapsedTimer sinceSecond;
+  qint64 shownFor = -1;
+  connect(&toasts, &ToastCenter::messageChanged, this, [&] {
+    if (!toasts.message() && sinceSecond.isValid()) shownFor = sinceSecond.elapsed();
+  });
+  toasts.show("first");
+  QTest::qWait(int(time.count() * 3 / 4));
+  sinceSecond.start();
+  toasts.show("second");
+  QTRY_VERIFY(shownFor >= 0);
+  QVERIFY2(shownFor >= time.count() * 9 / 10, qPrintable(QString::number(shownFor)));
 }
 
 void TestWorkspaceModels::aPostersRequestMayOutliveTheWork() {
