@@ -1,5 +1,5 @@
 // A window of another program to drag from. Arguments: x, y, then "picture" with an address that it
-// comes from, or paths of files. Prints READY.
+// comes from, or paths of files. Prints READY once it is on the screen.
 #include <QDrag>
 #include <QGuiApplication>
 #include <QImage>
@@ -16,6 +16,11 @@ class PlainSource : public QRasterWindow {
   explicit PlainSource(QStringList what) : what_(std::move(what)) {}
 
  protected:
+  void paintEvent(QPaintEvent*) override {
+    if (std::exchange(isReady_, true)) return;
+    std::puts("READY");
+    std::fflush(stdout);
+  }
   void mousePressEvent(QMouseEvent*) override { pressed_ = true; }
   void mouseMoveEvent(QMouseEvent*) override {
     if (!std::exchange(pressed_, false)) return;
@@ -40,6 +45,7 @@ class PlainSource : public QRasterWindow {
   }
 
   QStringList what_;
+  bool isReady_ = false;
   bool pressed_ = false;
 };
 
@@ -51,10 +57,6 @@ int main(int argc, char** argv) {
   PlainSource window(arguments.mid(3));
   window.setFlags(Qt::FramelessWindowHint);
   window.setGeometry(arguments.value(1).toInt(), arguments.value(2).toInt(), 200, 150);
-  QObject::connect(&window, &QWindow::visibleChanged, [] {
-    std::puts("READY");
-    std::fflush(stdout);
-  });
   window.show();
   return QGuiApplication::exec();
 }

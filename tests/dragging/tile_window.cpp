@@ -1,6 +1,7 @@
 // A window over a package as the program would have it: dragging in it drags out the first item of
 // the first section, and a drop goes to the second section. Arguments: x, y, the package, the size
-// of the TIFF that its item makes. Prints READY and what happens, a line each.
+// of the TIFF that its item makes. Prints READY once it is on the screen, and what happens, a line
+// each.
 #include "assets/DropImport.h"
 #include "assets/ItemDrag.h"
 #include "assets/TileDrag.h"
@@ -40,6 +41,7 @@ class TileWindow : public QRasterWindow {
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter(this).fillRect(QRect(QPoint(), size()), Qt::blue);
+    if (!std::exchange(isReady_, true)) say("READY");
   }
   void mousePressEvent(QMouseEvent*) override { pressed_ = true; }
   void mouseMoveEvent(QMouseEvent*) override {
@@ -74,6 +76,7 @@ class TileWindow : public QRasterWindow {
                          drops_.offers(drag, DropType::fileURL) ||
                          drops_.offers(drag, DropType::image);
     event.setAccepted(isTaken);
+    if (isTaken) say("OVER");
   }
   void drop(QDropEvent& event) {
     const ImportServices services{types_, fonts_, workers_, [](const auto&...) {}};
@@ -105,6 +108,7 @@ class TileWindow : public QRasterWindow {
   FakeTypes types_;
   FakeFonts fonts_;
   QtDragSession session_;
+  bool isReady_ = false;
   bool pressed_ = false;
   QThreadPool workers_;
   MimeDrops drops_{workers_};
@@ -122,7 +126,6 @@ int main(int argc, char** argv) {
   TileWindow window(*document, files, arguments.value(4).toInt());
   window.setFlags(Qt::FramelessWindowHint);
   window.setGeometry(arguments.value(1).toInt(), arguments.value(2).toInt(), 200, 150);
-  QObject::connect(&window, &QWindow::visibleChanged, [] { say("READY"); });
   window.show();
   return QGuiApplication::exec();
 }

@@ -65,25 +65,33 @@ class Program {
   QString output_;
 };
 
-// Drags with the pointer from one window's middle to another's, or within one.
-bool drag(QPoint from, QPoint to) {
-  QStringList steps{"mousemove",
-                    QString::number(from.x()),
-                    QString::number(from.y()),
-                    "sleep",
-                    "0.05",
-                    "mousedown",
-                    "1",
-                    "sleep",
-                    "0.05"};
-  for (int i = 1; i <= 10; ++i) {
-    const QPoint at = from + (to - from) * i / 10;
-    steps << QStringList{"mousemove", QString::number(at.x()), QString::number(at.y()), "sleep",
-                         "0.02"};
-  }
-  // Letting go right behind the last move would come before the receiver's answer to it.
-  steps << QStringList{"sleep", "0.3", "mouseup", "1"};
-  return QProcess::execute("xdotool", steps) == 0;
+bool point(const QStringList& words) { return QProcess::execute("xdotool", words) == 0; }
+
+QStringList moveTo(const QPoint& at) {
+  return {"mousemove", QString::number(at.x()), QString::number(at.y()), "sleep", "0.02"};
+}
+
+// Drags with the pointer from one window's middle to another's, or within one, and lets go once
+// `isDone` says so; until then it stays there as a hand does, never quite still.
+template <class Condition>
+bool drag(QPoint from, QPoint to, Condition&& isDone) {
+  QStringList way = moveTo(from) + QStringList{"mousedown", "1", "sleep", "0.05"};
+  for (int i = 1; i <= 10; ++i) way += moveTo(from + (to - from) * i / 10);
+  const bool hasMoved = point(way);
+  const auto stay = [&] { return point(moveTo(to + QPoint(1, 0)) + moveTo(to)); };
+  const bool hasHappened = QTest::qWaitFor([&] { return stay() && isDone(); }, patience);
+  return point({"mouseup", "1"}) && hasMoved && hasHappened;
+}
+
+// Drops onto the receiver. Letting go before the source has its answer would drop nothing; the
+// source tells of a new place only once it has the answer for the one before.
+bool drag(QPoint from, QPoint to, Program& receiver) {
+  std::optional<qsizetype> onArrival;
+  return drag(from, to, [&] {
+    const qsizetype told = receiver.lines().count("OVER");
+    if (!onArrival) onArrival = told;
+    return told >= *onArrival + 2;
+  });
 }
 
 const QPoint left(100, 75), right(500, 75);
@@ -133,7 +141,7 @@ void TestDragging::anotherProgramGetsAFileUnderTheClientsName() {
   const Tiles tiles;
   Program window = tiles.window(left), other = target({"text/uri-list", "UTF8_STRING"});
   QVERIFY(!window.line("READY").isEmpty() && !other.line("READY").isEmpty());
-  QVERIFY(drag(left, right));
+  QVERIFY(drag(left, right, other));
   QVERIFY(!other.line("FINISHED").isEmpty());
   const QString path = tiles.disk.path("tarnloft-drag/AcmeLogo.png");
   QCOMPARE(dataOf(other, "text/uri-list"), QUrl::fromLocalFile(path).toEncoded() + "\r\n");
@@ -147,7 +155,7 @@ void TestDragging::anotherProgramSeesNoPrivateType() {
   const QString privateType = "com.quillmoor.tarnloft.item";
   Program window = tiles.window(left), other = target({privateType});
   QVERIFY(!window.line("READY").isEmpty() && !other.line("READY").isEmpty());
-  QVERIFY(drag(left, right));
+  QVERIFY(drag(left, right, other));
   QVERIFY(!other.line("FINISHED").isEmpty());
   const QString offered = other.line("TYPES");
   QVERIFY2(offered.contains(" text/uri-list"), qPrintable(offered));
@@ -164,14 +172,15 @@ void TestDragging::thePictureIsMadeWhenAskedFor() {
   {
     Program other = target({"text/uri-list"});
     QVERIFY(!other.line("READY").isEmpty());
-    QVERIFY(drag(left, right));
+    QVERIFY(drag(left, right, other));
     QVERIFY(other.line("TYPES").contains(" image/tiff"));
     QVERIFY(!other.line("FINISHED").isEmpty());
+    QVERIFY(!window.line("DRAGGED").isEmpty());
   }
   QVERIFY(!window.lines().join('\n').contains("TIFF"));
   Program other = target({"image/tiff"});
   QVERIFY(!other.line("READY").isEmpty());
-  QVERIFY(drag(left, right));
+  QVERIFY(drag(left, right, other));
   QVERIFY(!other.line("FINISHED").isEmpty());
   QCOMPARE(dataOf(other, "image/tiff"), QByteArray(tiffSize, 't'));
   QCOMPARE(window.line("TIFF"), "TIFF " + tiles.package + "/assets/stored.png");
@@ -181,7 +190,7 @@ void TestDragging::aPictureTooLargeForTheServerIsLeftOut() {
   const Tiles tiles;
   Program window = tiles.window(left, 20'000'000), other = target({"image/tiff", "text/uri-list"});
   QVERIFY(!window.line("READY").isEmpty() && !other.line("READY").isEmpty());
-  QVERIFY(drag(left, right));
+  QVERIFY(drag(left, right, other));
   QCOMPARE(other.line("DATA image/tiff"), "DATA image/tiff 0 ");
   QVERIFY(!dataOf(other, "text/uri-list").isEmpty());
   QVERIFY(window.isRunning());
@@ -191,7 +200,7 @@ void TestDragging::aColourOffersNothing() {
   const Tiles tiles(ColorPayload{{"#123456", {}, {}}});
   Program window = tiles.window(left), other = target({"text/uri-list"});
   QVERIFY(!window.line("READY").isEmpty() && !other.line("READY").isEmpty());
-  QVERIFY(drag(left, right));
+  QVERIFY(drag(left, right, other));
   QVERIFY(!window.line("DRAGGED").isEmpty());
   QVERIFY(other.lines().join('\n').indexOf("DATA") < 0);
 }
@@ -201,7 +210,8 @@ void TestDragging::theCarriedPictureHasItsOwnShape() {
   const Tiles tiles;
   Program window = tiles.window(left);
   QVERIFY(!window.line("READY").isEmpty());
-  QVERIFY(drag(left, left + QPoint(60, 40)));
+  QVERIFY(drag(left, left + QPoint(60, 40),
+               [&] { return window.lines().filter("PICTURE").size() > 0; }));
   QCOMPARE(window.line("PICTURE"), "PICTURE #0000ff");
 }
 
@@ -217,7 +227,7 @@ void TestDragging::aDragWithinTheWindowMovesTheTile() {
                             : ItemPayload(ColorPayload{{"#123456", "Logo", {}}}));
   Program window = tiles.window(left);
   QVERIFY(!window.line("READY").isEmpty());
-  QVERIFY(drag(left, left + QPoint(60, 40)));
+  QVERIFY(drag(left, left + QPoint(60, 40), window));
   QVERIFY(!window.line("ITEMS | | Logo").isEmpty());
   QVERIFY(!window.line("DRAGGED").isEmpty());
   QCOMPARE(window.line("DROP"), "DROP taken");
@@ -229,7 +239,7 @@ void TestDragging::aTileOfAnotherProcessComesAsAFile() {
   const Tiles tiles;
   Program from = tiles.window(left), to = tiles.window(right);
   QVERIFY(!from.line("READY").isEmpty() && !to.line("READY").isEmpty());
-  QVERIFY(drag(left, right));
+  QVERIFY(drag(left, right, to));
   QCOMPARE(to.line("ITEMS"), "ITEMS | Logo | AcmeLogo");
   QVERIFY(!from.lines().join('\n').contains("ITEMS"));
 }
@@ -243,7 +253,7 @@ void TestDragging::filesOfAnotherProgramComeInOrder() {
   }
   Program from = source(paths), to = tiles.window(right);
   QVERIFY(!from.line("READY").isEmpty() && !to.line("READY").isEmpty());
-  QVERIFY(drag(left, right));
+  QVERIFY(drag(left, right, to));
   QVERIFY(!to.line("ITEMS | Logo | b ü a#1 c%20").isEmpty());
 }
 
@@ -252,7 +262,7 @@ void TestDragging::aPictureOfAnotherProgramComesWithItsName() {
   Program from = source({"picture", "https://pictures.example/Hero%20Shot.jpg"}),
           to = tiles.window(right);
   QVERIFY(!from.line("READY").isEmpty() && !to.line("READY").isEmpty());
-  QVERIFY(drag(left, right));
+  QVERIFY(drag(left, right, to));
   QCOMPARE(to.line("ITEMS"), "ITEMS | Logo | Hero Shot");
   const QDir assets(Package::assetsPath(tiles.package));
   for (const QString& name : assets.entryList({"*.png"}, QDir::Files)) {

@@ -1,7 +1,7 @@
 // A window that takes drags as any program would, written on the X protocol alone, so that it sees
 // what our toolkit really shows to others. Arguments: x, y, then the formats to ask for, in order.
-// Prints READY, and for a drop what it was offered and what it got, a line each: the number of
-// bytes and the first ones in hex.
+// Prints READY once it is on the screen, OVER for each place of a drag above it, and for a drop
+// what it was offered and what it got, a line each: the number of bytes and the first ones in hex.
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
@@ -41,6 +41,8 @@ class Target {
   ~Target() { xcb_disconnect(connection_); }
 
   void run() {
+    // The server has answered, so it has done what was asked before.
+    (void)owned(xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
     say("READY");
     while (auto event = owned(xcb_wait_for_event(connection_))) {
       if ((event->response_type & 0x7f) != XCB_CLIENT_MESSAGE) continue;
@@ -81,6 +83,7 @@ class Target {
     const uint32_t* data = message.data.data32;
     if (message.type == atom("XdndEnter")) return enter(data);
     if (message.type == atom("XdndPosition")) {
+      say("OVER");
       return send("XdndStatus", data[0], {window_, 3, 0, 0, atom("XdndActionCopy")});
     }
     if (message.type != atom("XdndDrop")) return;
