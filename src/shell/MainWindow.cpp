@@ -121,6 +121,10 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::Resize:
     case QEvent::WindowStateChange: settled_.start(); break;
     case QEvent::Close:
+      if (!mayClose_()) {
+        event->ignore();
+        return true;
+      }
       remember();  // a hidden window has no frame
       // Behind the event's own handling, which still uses the window.
       QMetaObject::invokeMethod(this, &MainWindow::close, Qt::QueuedConnection);

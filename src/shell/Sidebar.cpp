@@ -10,7 +10,7 @@ Sidebar::Sidebar(LibraryStore& library, const LibraryServices& services, QObject
     : QObject(parent),
       library_(library),
       viewer_(services.viewer),
-      rows_(library, services.document.files) {}
+      rows_(library) {}
 
 std::optional<BrandSummary> Sidebar::brandAt(const QString& packageURL) const {
   const QList<BrandSummary>& brands = library_.brands();

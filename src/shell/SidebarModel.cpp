@@ -31,8 +31,8 @@ BrandMark markOf(const BrandSummary& row, const BrandDocument* open) {
 
 }  // namespace
 
-SidebarModel::SidebarModel(LibraryStore& library, const FileStore& files, QObject* parent)
-    : QAbstractListModel(parent), library_(library), files_(files), rows_(wantedRows()) {
+SidebarModel::SidebarModel(LibraryStore& library, QObject* parent)
+    : QAbstractListModel(parent), library_(library), rows_(wantedRows()) {
   for (const auto signal : {&LibraryStore::brandsChanged, &LibraryStore::selectionChanged,
                             &LibraryStore::openDocumentChanged, &LibraryStore::brandChanged}) {
     connect(&library, signal, this, &SidebarModel::scheduleUpdate);
@@ -142,14 +142,12 @@ SidebarModel::Row SidebarModel::sectionRow(const Section& section, const QString
   return {section.id, Kind::section, package, title, section.emblem, std::nullopt, false};
 }
 
-// Asked for by the rows that are seen: it may look for a picture's file.
 EmblemLook SidebarModel::lookOf(const Row& row) const {
   const bool isBrand = row.kind == Kind::brand;
   return emblemLook(
       row.emblem,
       {isBrand ? QStringLiteral("square.stack.3d.up") : QStringLiteral("rectangle.grid.1x2"),
-       row.packageURL, isBrand ? row.name : QString(), row.accent},
-      files_);
+       row.packageURL, isBrand ? row.name : QString(), row.accent});
 }
 
 }  // namespace tarnloft

@@ -44,7 +44,7 @@ class SidebarModel : public QAbstractListModel {
   };
 
   // Both outlive the model.
-  SidebarModel(LibraryStore& library, const FileStore& files, QObject* parent = nullptr);
+  SidebarModel(LibraryStore& library, QObject* parent = nullptr);
 
   // The look whose accents the brands' marks take; light at first.
   void setAppearance(ColorUtil::Appearance appearance);
@@ -67,7 +67,6 @@ class SidebarModel : public QAbstractListModel {
   EmblemLook lookOf(const Row& row) const;
 
   LibraryStore& library_;
-  const FileStore& files_;
   ColorUtil::Appearance appearance_ = ColorUtil::Appearance::light;
   QList<Row> rows_;
   bool updateScheduled_ = false;

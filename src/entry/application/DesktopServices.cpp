@@ -14,7 +14,7 @@ std::unique_ptr<ColorSampler> makeColorSampler() { return std::make_unique<Deskt
 }  // namespace
 
 LibraryServices DesktopServices::forLibrary() {
-  return {{files, log},
+  return {{files, log, systemNow, disk},
           preferences,
           appearance,
           beep,
@@ -24,13 +24,14 @@ LibraryServices DesktopServices::forLibrary() {
           viewer,
           makeColorSampler,
           SupportFolder::applicationSupportFolder(),
-          QDir::tempPath()};
+          QDir::tempPath(),
+          copies};
 }
 
 WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
-  const auto landLate = [&library](const QString& packageURL, const QUuid& section,
+  const auto landLate = [&library](const BrandPlace& brand, const QUuid& section,
                                    const QList<Item>& items) {
-    library.addItems(packageURL, section, items);
+    library.addItems(brand, section, items);
   };
   const auto tiff = [this](const QString& path, qint64 maxBytes) {
     return media.tiff(path, maxBytes);

@@ -2,6 +2,7 @@
 
 #include "entry/application/MediaServices.h"
 #include "entry/late/LateServices.h"
+#include "platform/desktop/DiskThread.h"
 #include "platform/desktop/FreeTypeFonts.h"
 #include "platform/desktop/FreedesktopTrash.h"
 #include "platform/desktop/IniPreferences.h"
@@ -41,7 +42,9 @@ struct DesktopServices {
   MimeContentTypes types;
   FreeTypeFonts fonts;
   QtDragSession dragSession;
-  MediaServices media;
+  MediaServices media{files};
+  DiskThread disk;
+  DiskThread copies;
   QThreadPool workers;  // of what is dropped; waited for before the others go
   MimeDrops drops{workers};
 

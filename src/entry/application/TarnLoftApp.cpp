@@ -3,10 +3,23 @@
 #include "platform/controls/Motion.h"
 #include "platform/controls/symbols/SymbolFont.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QQuickWindow>
 
+#include <chrono>
+#include <cstdlib>
+
 namespace tarnloft {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto savingPatience = 3s;  // at the end
+
+// For ends of the process that leave no time, such as a display that goes.
+TarnLoftApp* running = nullptr;
+
+}  // namespace
 
 TarnLoftApp::TarnLoftApp()
     : library_(services_.forLibrary()),
@@ -17,7 +30,7 @@ TarnLoftApp::TarnLoftApp()
                   services_.state),
       appDelegate_(
           services_.preferences, menuBarPrefs_, services_.statusItem, [this] { openMainWindow(); },
-          &QCoreApplication::quit) {
+          [this] { requestQuit(); }) {
   symbols::fontFamily();  // registered before any text, which it would lay out again
   ViewLoading::answer();
   services_.media.work.hold();  // the first frame has the cores to itself
@@ -26,9 +39,20 @@ TarnLoftApp::TarnLoftApp()
           &TarnLoftApp::followAppearance);
   services_.motion.follow(
       [&motion = Motion::of(engine_)](bool reduced) { motion.setReduced(reduced); });
-  connect(&engine_, &QQmlEngine::quit, qApp, &QCoreApplication::quit);
+  connect(&engine_, &QQmlEngine::quit, this, &TarnLoftApp::requestQuit);
+  connect(&terminationSignals_, &TerminationSignals::requested, this, &TarnLoftApp::quitByForce);
+  connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &TarnLoftApp::saveAll);
+  connect(qGuiApp, &QGuiApplication::aboutToQuit, this, &TarnLoftApp::saveAll);
+  connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &TarnLoftApp::followFocus);
+  mainWindow_.setMayClose([this] { return mayCloseWindow(); });
+  running = this;
+  std::atexit([] {
+    if (running) running->saveAll();
+  });
   connect(&mainWindow_, &MainWindow::closed, &appDelegate_, &AppDelegate::lastWindowClosed);
 }
+
+TarnLoftApp::~TarnLoftApp() { running = nullptr; }
 
 bool TarnLoftApp::start() {
   if (!openMainWindow()) return false;
@@ -49,6 +73,48 @@ bool TarnLoftApp::openMainWindow() {
 void TarnLoftApp::firstFrameShown() {
   appDelegate_.installMenuBar();
   services_.media.work.resume();
+}
+
+bool TarnLoftApp::saveAll() { return library_.flush(savingPatience); }
+
+void TarnLoftApp::requestQuit() {
+  if (!isQuitting_ && !saveAll()) return askToQuit();
+  isQuitting_ = true;
+  QCoreApplication::quit();
+}
+
+// Nobody is there to be asked.
+void TarnLoftApp::quitByForce() {
+  if (!saveAll()) {
+    services_.log.write(QStringLiteral("ended with unsaved changes to ") +
+                        library_.unsavedBrands().join(QStringLiteral(", ")));
+  }
+  isQuitting_ = true;
+  QCoreApplication::quit();
+}
+
+// Without its window the program goes on where there is a tray, and tries on to save.
+bool TarnLoftApp::mayCloseWindow() {
+  const bool isSaved = saveAll();
+  if (isQuitting_ || isSaved) return true;
+  if (!appDelegate_.applicationShouldTerminateAfterLastWindowClosed()) return true;
+  askToQuit();
+  return false;
+}
+
+void TarnLoftApp::askToQuit() {
+  appDelegate_.showMainWindow();
+  Alerts* const alerts = mainWindow_.alerts();
+  if (!alerts) return quitByForce();
+  connect(alerts, &Alerts::quitConfirmed, this, &TarnLoftApp::quitByForce, Qt::UniqueConnection);
+  alerts->askToQuit();
+}
+
+// What couldn't be done may be possible by now.
+void TarnLoftApp::followFocus() {
+  if (!QGuiApplication::focusWindow()) return;
+  library_.retrySaves();
+  if (!library_.libraryProblem().isEmpty()) library_.scan();
 }
 
 void TarnLoftApp::followAppearance() { theme_.setDark(services_.appearance.isDark()); }

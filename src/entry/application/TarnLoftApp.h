@@ -5,6 +5,7 @@
 #include "library/LibraryStore.h"
 #include "platform/controls/Theme.h"
 #include "platform/controls/ViewLoading.h"
+#include "platform/desktop/TerminationSignals.h"
 #include "shell/AccentTint.h"
 #include "shell/MainWindow.h"
 
@@ -17,16 +18,26 @@ namespace tarnloft {
 class TarnLoftApp : public QObject {
  public:
   TarnLoftApp();
+  ~TarnLoftApp() override;
+  Q_DISABLE_COPY_MOVE(TarnLoftApp)
 
   // Opens the main window. False if it can't be made.
   bool start();
 
   AppDelegate& appDelegate() { return appDelegate_; }
 
+  // Quits once all that the user did is on disk, else asks.
+  void requestQuit();
+
  private:
   bool openMainWindow();
   void firstFrameShown();
   void followAppearance();
+  void followFocus();
+  bool mayCloseWindow();
+  void askToQuit();
+  void quitByForce();
+  bool saveAll();
 
   DesktopServices services_;
   LibraryStore library_;
@@ -37,6 +48,8 @@ class TarnLoftApp : public QObject {
   MenuBarPrefs menuBarPrefs_;
   MainWindow mainWindow_;
   AppDelegate appDelegate_;
+  TerminationSignals terminationSignals_;
+  bool isQuitting_ = false;  // whatever isn't saved
 };
 
 }  // namespace tarnloft
