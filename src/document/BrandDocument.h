@@ -98,9 +98,9 @@ class BrandDocument : public QObject {
   // Moves the section in front of another, or to the end. Assigns twice.
   void moveSection(const QUuid& section, const std::optional<QUuid>& before);
 
-  // Makes `assets` if needed, for bringing files in from another thread.
-  Result<AssetFolder> assetFolder() const;
-  // Copies a file into `assets` under a new name; the caller makes the item.
+  // Makes `assets` if needed and opens it, for bringing files in from another thread.
+  void openAssetFolder(std::function<void(const Result<AssetFolder>&)> done);
+  // Copies a file into `assets` under a new name, waiting for it; the caller makes the item.
   Result<AssetRef> importAsset(const QString& source);
   // Writes bytes into `assets` under a new name with that extension.
   Result<AssetRef> importImageData(const QByteArray& data, const QString& suggestedName,

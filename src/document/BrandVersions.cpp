@@ -1,4 +1,5 @@
 #include "document/BrandDocument.h"
+#include "document/DistinctIDs.h"
 
 #include <QPointer>
 
@@ -23,7 +24,7 @@ void BrandDocument::restoreVersion(const BrandVersion& version, UndoManager* und
           const Result<VersionEnvelope>& envelope) {
         if (!document || !envelope) return;
         document->mutate(QStringLiteral("Restore Version"), undo.lock().get(),
-                         [&](Brand& brand) { brand = envelope->brand; });
+                         [&](Brand& brand) { brand = withDistinctIDs(envelope->brand); });
       });
 }
 

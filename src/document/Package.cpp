@@ -7,9 +7,6 @@
 namespace tarnloft::Package {
 namespace {
 
-// A hundred thousand items; reading takes some ten times as much memory.
-constexpr qint64 largestJson = qint64(64) * 1024 * 1024;
-
 QString inPackage(const QString& packageURL, const char* name) {
   return packageURL + QLatin1Char('/') + QLatin1String(name);
 }
@@ -25,7 +22,7 @@ QString pathOf(const QString& packageURL, const AssetRef& asset) {
 
 Result<QByteArray> readAll(FileReader& file) {
   if (file.size() > largestJson) {
-    return failure(ErrorKind::refused, QStringLiteral("The file is too large"));
+    return failure(ErrorKind::tooLarge, QStringLiteral("The file is too large"));
   }
   QByteArray bytes;
   bytes.reserve(file.size() + jsonPadding);
@@ -85,10 +82,22 @@ Result<ReadFile> readJson(const FileStore& files, const QString& path, const QSt
   return ReadFile{std::move(*bytes), (*file)->identity()};
 }
 
+Result<QByteArray> checkedSize(const QByteArray& json) {
+  if (json.size() <= largestJson) return json;
+  return failure(ErrorKind::tooLarge, QStringLiteral("The brand is too large"));
+}
+
 Result<void> makeFolder(FileStore& files, const QString& path, const QString& packageURL) {
+  if (!files.isFolder(packageURL)) {
+    return failure(ErrorKind::notFound, QStringLiteral("The brand’s package isn’t there"));
+  }
   if (auto made = files.makeFolder(path); !made) return made;
   if (files.standsInside(path, packageURL)) return {};
   return failure(ErrorKind::refused, QStringLiteral("The folder is outside of its package"));
+}
+
+Result<QString> assetPath(const QString& packageURL, const AssetRef& asset) {
+  return isPlainFileName(asset.filename) ? Result<QString>(pathOf(packageURL, asset)) : notPlain();
 }
 
 Result<QString> assetPath(const FileStore& files, const QString& packageURL,

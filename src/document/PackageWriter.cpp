@@ -1,5 +1,6 @@
 #include "document/PackageWriter.h"
 
+#include "document/DistinctIDs.h"
 #include "document/Package.h"
 #include "model/Json.h"
 #include "model/RecordView.h"
@@ -55,7 +56,7 @@ Result<OpenedPackage> PackageWriter::open(const DocumentServices& services,
   std::shared_ptr<PackageWriter> writer(new PackageWriter(
       services, packageURL, {file->identity, brand, isOfNewerProgram(*manifest)}));
   sweepStrays(services.files, packageURL);
-  return OpenedPackage{std::move(writer), packageURL, brand, {}};
+  return OpenedPackage{std::move(writer), packageURL, withDistinctIDs(brand), {}};
 }
 
 Result<OpenedPackage> PackageWriter::create(const DocumentServices& services,
