@@ -65,11 +65,11 @@ std::optional<ImportedFile> bringIn(const Import& import, const QString& path,
   auto asset = import.folder.copyIn(path);
   if (!asset) return std::nullopt;
   file.asset = *asset;
-  if (file.kind == FileKind::font) {
-    const QString copy = import.folder.pathOf(file.asset);
+  const auto copy = import.folder.pathOf(file.asset);
+  if (file.kind == FileKind::font && copy) {
     // Here rather than on the main thread, which unwrapping a large file would hold up.
-    import.services.fonts.registerForProcess(copy);
-    file.fontNames = import.services.fonts.names(copy);
+    import.services.fonts.registerForProcess(*copy);
+    file.fontNames = import.services.fonts.names(*copy);
   }
   return file;
 }

@@ -80,7 +80,10 @@ Result<void> BrandDocument::writeManifest() {
   auto written = writeAtomically(services_.files, manifest, Durability::synced,
                                  [&](FileWriter& file) { return file.write(*json); });
   // After a failure another machine's manifest may be there that nobody has looked at yet.
-  if (written) known_ = {services_.files.identity(manifest), brand_};
+  if (written) {
+    const auto identity = services_.files.identity(manifest);
+    known_ = {identity ? std::optional(*identity) : std::nullopt, brand_};
+  }
   return written;
 }
 

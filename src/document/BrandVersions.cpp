@@ -108,7 +108,7 @@ void BrandDocument::maybeAutoSnapshot() {
 Result<void> BrandDocument::keepForeignManifest() {
   const QString manifest = Package::manifestPath(packageURL_);
   const auto present = services_.files.identity(manifest);
-  if (!present || present == known_.identity) return {};
+  if (!present || *present == known_.identity) return {};
   const auto file = Package::readJson(services_.files, manifest, packageURL_);
   const auto foreign = file ? decode<Brand>(file->bytes) : tl::unexpected(file.error());
   if (foreign) {

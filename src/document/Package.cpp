@@ -7,9 +7,6 @@
 namespace tarnloft::Package {
 namespace {
 
-// A hundred thousand items; reading takes some ten times as much memory.
-constexpr qint64 largestJson = qint64(64) * 1024 * 1024;
-
 QString inPackage(const QString& packageURL, const char* name) {
   return packageURL + QLatin1Char('/') + QLatin1String(name);
 }
@@ -25,7 +22,7 @@ QString pathOf(const QString& packageURL, const AssetRef& asset) {
 
 Result<QByteArray> readAll(FileReader& file) {
   if (file.size() > largestJson) {
-    return failure(ErrorKind::refused, QStringLiteral("The file is too large"));
+    return failure(ErrorKind::tooLarge, QStringLiteral("The file is too large"));
   }
   QByteArray bytes;
   bytes.reserve(file.size() + jsonPadding);

@@ -37,7 +37,12 @@ struct ReadFile {
   FileIdentity identity;
 };
 
-// Reads a JSON file of the package; refuses one that leads out of it.
+// The size in bytes of the largest JSON file that is read: a hundred thousand items. Reading takes
+// some ten times as much memory.
+constexpr qint64 largestJson = qint64(64) * 1024 * 1024;
+
+// Reads a JSON file of the package; refuses one that leads out of it. The failure's kind is
+// `tooLarge` for one beyond `largestJson`.
 Result<ReadFile> readJson(const FileStore& files, const QString& path, const QString& packageURL);
 
 // Makes a folder of the package, such as `assets`; refuses one that leads out of it.

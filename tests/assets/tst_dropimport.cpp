@@ -32,6 +32,7 @@ class TestDropImport : public QObject {
   void failuresMakeNoItem();
   void aDeletedSectionTakesNothing();
   void aClosedDocumentStillTakesItems();
+  void aRenamedPackageStillTakesFiles();
   void aDeletedPackageStaysDeleted();
 };
 
@@ -359,6 +360,21 @@ void TestDropImport::aClosedDocumentStillTakesItems() {
   }
   // Once into the closed package, and once into the document that was open again.
   QCOMPARE(store.openDocument()->brand().sections.first().items.size(), 2);
+}
+
+void TestDropImport::aRenamedPackageStillTakesFiles() {
+  Dropping dropping;
+  for (const char* name : {"1.png", "2.ttf"}) dropping.held.hold(name);
+  QVERIFY(dropping.drop({dropping.file("1.png"), dropping.file("2.ttf", "Inter")}));
+  const QString package = dropping.document->packageURL(), moved = dropping.disk.path("Moved");
+  QVERIFY(QDir().rename(package, moved));
+  for (const char* name : {"1.png", "2.ttf"}) dropping.held.release(name);
+  dropping.finish();
+  QCOMPARE(dropping.shape(), "S:a,b T:1,Inter");
+  QVERIFY(!QFileInfo::exists(package));
+  for (const Item& item : dropping.section(1).items) {
+    QVERIFY(QFileInfo::exists(moved + "/assets/" + assetOf(item).filename));
+  }
 }
 
 void TestDropImport::aDeletedPackageStaysDeleted() {

@@ -13,6 +13,9 @@ class TestFileStore : public QObject {
  private slots:
   void opensOnlyWhatStandsInside_data();
   void opensOnlyWhatStandsInside();
+  void tellsWhatIsntThereFromWhatFails_data();
+  void tellsWhatIsntThereFromWhatFails();
+  void listsHiddenNamesWhenAsked();
   void neverWaitsOnAPipe();
   void refusesToReplaceWhatIsNoFile();
   void keepsTheRightsOfAReplacedFile();
@@ -44,7 +47,7 @@ struct Tree {
     ::symlink(QFile::encodeName(root + QStringLiteral("/assets/a.png")).constData(),
               QFile::encodeName(root + QStringLiteral("/assets/absolute")).constData());
   }
-  void link(const char* target, const char* name) {
+  void link(const char* target, const char* name) const {
     ::symlink(target, QFile::encodeName(root + QLatin1String(name)).constData());
   }
 };
@@ -80,6 +83,49 @@ void TestFileStore::opensOnlyWhatStandsInside() {
   const Tree tree;
   const auto file = tree.disk.files.open(tree.root + QStringLiteral("/assets/") + name, tree.root);
   QTEST(file.has_value(), "opens");
+}
+
+void TestFileStore::tellsWhatIsntThereFromWhatFails_data() {
+  QTest::addColumn<QString>("name");
+  QTest::addColumn<std::optional<ErrorKind>>("identity");
+  QTest::addColumn<std::optional<ErrorKind>>("open");
+  using enum ErrorKind;
+  const auto row = [](const QString& name, std::optional<ErrorKind> identity,
+                      std::optional<ErrorKind> open) {
+    QTest::newRow(name.left(20).toUtf8().constData()) << name << identity << open;
+  };
+  row("a.png", {}, {});
+  row("missing", notFound, notFound);
+  row("missing/file", notFound, notFound);
+  row("a.png/file", notFound, io);
+  row("dangling", {}, notFound);
+  row("lost", {}, notFound);  // by an absolute path
+  row("loop", {}, io);
+  row("loop/file", io, io);
+  row("out", {}, refused);
+  row(QString(300, 'x'), io, io);
+}
+
+void TestFileStore::tellsWhatIsntThereFromWhatFails() {
+  QFETCH(QString, name);
+  const Tree tree;
+  tree.link("/nowhere/at/all", "/assets/lost");
+  const QString path = tree.root + "/assets/" + name;
+  const auto kindOf = [](const auto& result) {
+    return result ? std::nullopt : std::optional(result.error().kind);
+  };
+  QTEST(kindOf(tree.disk.files.identity(path)), "identity");
+  QTEST(kindOf(tree.disk.files.open(path, tree.root)), "open");
+}
+
+void TestFileStore::listsHiddenNamesWhenAsked() {
+  TestServices disk;
+  for (const char* name : {"b", ".hidden", "..", "a/x", "...", "Z"}) {
+    writeFile(disk.path(name), "x");
+  }
+  QCOMPARE(*disk.files.list(disk.folder.path()), QStringList({"Z", "a", "b"}));
+  QCOMPARE(*disk.files.listAll(disk.folder.path()), QStringList({"...", ".hidden", "Z", "a", "b"}));
+  QVERIFY(!disk.files.list(disk.path("missing")) && !disk.files.listAll(disk.path("b")));
 }
 
 void TestFileStore::neverWaitsOnAPipe() {
