@@ -53,6 +53,8 @@ int inProcess(const std::function<bool()>& work) {
   return status;
 }
 
+constexpr int notAllowed = 77;
+
 // Leaves the process without /proc, through which alone a file without a name can be given one.
 bool leaveProc(const QString& root) {
   if (::geteuid() != 0 && ::unshare(CLONE_NEWUSER) != 0) return false;
@@ -122,13 +124,12 @@ void TestNewFiles::appearWhereTheyNeedAHiddenName() {
     QVERIFY(QDir().mkpath(disk.path(making.first)));
     const int status = inProcess([&] {
       const QString folder = QString("/") + making.first;
-      if (!leaveProc(disk.folder.path()) || !making.second(disk.files, "/source", folder)) {
-        return false;
-      }
-      // Nothing is replaced but by `replace`, and nothing is left.
-      making.second(disk.files, "/source", folder);
-      return entries(folder) == QStringList("new");
+      if (!leaveProc(disk.folder.path())) ::_exit(notAllowed);
+      const bool made = making.second(disk.files, "/source", folder);
+      (void)making.second(disk.files, "/source", folder);  // its place is taken by now
+      return made && entries(folder) == QStringList("new");
     });
+    if (WEXITSTATUS(status) == notAllowed) QSKIP("The system lets nobody change the root folder");
     QVERIFY2(WIFEXITED(status) && WEXITSTATUS(status) == 0, making.first);
     QCOMPARE(contentOf(disk.path(making.first) + "/new"), "content");
   }
@@ -210,7 +211,9 @@ void TestNewFiles::copiesHoldNamesThatAreNoText() {
   QCOMPARE(
       ::faccessat(AT_FDCWD, (root + "/to/caf\xe9/li\xe9n").constData(), F_OK, AT_SYMLINK_NOFOLLOW),
       0);
-  QVERIFY(disk.files.removeFolder(disk.path("to")) && !disk.files.exists(disk.path("to")));
+  for (const char* name : {"from", "to"}) {
+    QVERIFY(disk.files.removeFolder(disk.path(name)) && !disk.files.exists(disk.path(name)));
+  }
 }
 
 void TestNewFiles::leftoversAreSweptWhenTheyAreOld() {
