@@ -106,7 +106,8 @@ class BrandDocument : public QObject {
   Result<AssetRef> importImageData(const QByteArray& data, const QString& suggestedName,
                                    const QString& extension);
 
-  // Registers the restoring of an earlier brand, for an edit that was assigned already.
+  // Registers the taking back of an edit that was assigned already, from the brand before it. What
+  // comes to the brand until then stays (`reapplied`).
   void registerRestore(const Brand& brand, UndoManager& undoManager, const QString& actionName);
 
   // --- Versions. All are silent about failure.

@@ -1,4 +1,5 @@
 #include "document/BrandDocument.h"
+#include "document/BrandMerge.h"
 
 #include <QPointer>
 
@@ -38,6 +39,19 @@ qsizetype insertionIndex(const List& list, const std::optional<QUuid>& before) {
   return index < 0 ? list.size() : index;
 }
 
+// Registers the taking back of what made `before` to `after`, which registers its inverse in turn.
+void registerStep(BrandDocument& edited, const Brand& before, const Brand& after,
+                  UndoManager& undoManager, const QString& actionName) {
+  undoManager.registerUndo([document = QPointer(&edited), before, after, &undoManager, actionName] {
+    if (!document) return;
+    const Brand present = document->brand();
+    const Brand next = reapplied(after, before, present);
+    document->setBrand(next);
+    if (document) registerStep(*document, present, next, undoManager, actionName);
+  });
+  undoManager.setActionName(actionName);
+}
+
 }  // namespace
 
 void BrandDocument::mutate(const QString& actionName, UndoManager* undoManager,
@@ -46,19 +60,13 @@ void BrandDocument::mutate(const QString& actionName, UndoManager* undoManager,
   Brand working = before;
   change(working);
   if (working == before) return;
-  setBrand(std::move(working));
-  if (undoManager) registerRestore(before, *undoManager, actionName);
+  setBrand(working);
+  if (undoManager) registerStep(*this, before, working, *undoManager, actionName);
 }
 
 void BrandDocument::registerRestore(const Brand& brand, UndoManager& undoManager,
                                     const QString& actionName) {
-  undoManager.registerUndo([document = QPointer(this), brand, &undoManager, actionName] {
-    if (!document) return;
-    const Brand present = document->brand();
-    document->setBrand(brand);
-    document->registerRestore(present, undoManager, actionName);
-  });
-  undoManager.setActionName(actionName);
+  registerStep(*this, brand, brand_, undoManager, actionName);
 }
 
 void BrandDocument::addItem(const Item& item, const QUuid& section) { addItems({item}, section); }

@@ -21,6 +21,7 @@ class TestEdits : public QObject {
   void movesSections();
   void movesInTwoAssignments();
   void undoAndRedoWalkThroughWholeBrands();
+  void undoKeepsWhatCameSince();
   void aChangeThatChangesNothingIsNoStep();
   void undoReachesTheFile();
   void undoOutlivesTheDocument();
@@ -180,6 +181,34 @@ void TestEdits::undoAndRedoWalkThroughWholeBrands() {
   editing.history.undo();
   editing.document->mutate("new", &editing.history, [](Brand& brand) { brand.name = "new"; });
   QVERIFY(!editing.history.canRedo());
+}
+
+void TestEdits::undoKeepsWhatCameSince() {
+  Editing editing;
+  const auto remove = [&](qsizetype place) {
+    editing.document->mutate("Delete", &editing.history,
+                             [&](Brand& brand) { brand.sections[0].items.takeAt(place); });
+  };
+  const auto import = [&](const QString& name) {
+    editing.document->addItem(Item::create(TextPayload{name}), editing.id("S"));
+  };
+  remove(1);
+  import("x");
+  remove(0);
+  editing.document->saveNow();
+  QCOMPARE(editing.shape(), "S:cx T:d");
+  editing.history.undo();
+  import("y");
+  QCOMPARE(editing.shape(), "S:acxy T:d");
+  editing.history.undo();
+  QCOMPARE(editing.shape(), "S:abcxy T:d");
+  editing.history.redo();
+  QCOMPARE(editing.shape(), "S:acxy T:d");
+  import("z");
+  editing.history.redo();
+  QCOMPARE(editing.shape(), "S:cxyz T:d");
+  editing.history.undo();
+  QCOMPARE(editing.shape(), "S:acxyz T:d");
 }
 
 void TestEdits::aChangeThatChangesNothingIsNoStep() {

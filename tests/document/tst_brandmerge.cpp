@@ -1,0 +1,256 @@
+#include "document/BrandMerge.h"
+#include "testing/RandomBrand.h"
+
+#include <QSet>
+#include <QTest>
+
+using namespace tarnloft;
+
+class TestBrandMerge : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void takesBackItsOwnStep_data();
+  void takesBackItsOwnStep();
+  void mergesFieldByField();
+  void nothingInBetweenGivesTheEarlierBrand();
+  void laterWorkOutlivesAnyUndo();
+  void whatIsUntouchedStaysShared();
+};
+
+namespace {
+
+QUuid idOf(QChar c, ushort kind) { return QUuid(c.unicode(), kind, 0, 0, 0, 0, 0, 0, 0, 0, 0); }
+
+// "S:ab T:c2": sections, in words, with their items. The first letter of a word is the section's
+// id, the whole word its name; a letter of an item is its id, with a digit behind it its text.
+Brand brandOf(const QString& shape) {
+  Brand brand;
+  for (const QString& word : shape.split(' ', Qt::SkipEmptyParts)) {
+    const QString name = word.section(':', 0, 0), items = word.section(':', 1);
+    Section section{idOf(name[0], 1), name, std::nullopt, {}};
+    for (qsizetype i = 0; i < items.size(); ++i) {
+      Item item{idOf(items[i], 2), {}, std::nullopt, std::nullopt};
+      QString text(items[i]);
+      if (i + 1 < items.size() && items[i + 1].isDigit()) text += items[++i];
+      item.payload = TextPayload{text};
+      section.items.append(item);
+    }
+    brand.sections << section;
+  }
+  return brand;
+}
+
+QString shapeOf(const Brand& brand) {
+  QStringList words;
+  for (const Section& section : brand.sections) {
+    QString word = section.name + ':';
+    for (const Item& item : section.items) word += item.displayName();
+    words << word;
+  }
+  return words.join(' ');
+}
+
+}  // namespace
+
+void TestBrandMerge::takesBackItsOwnStep_data() {
+  QTest::addColumn<QString>("before");
+  QTest::addColumn<QString>("after");    // of the step that is undone
+  QTest::addColumn<QString>("present");  // with later work
+  QTest::addColumn<QString>("undone");
+  const auto row = [](const char* name, const char* before, const char* after, const char* present,
+                      const char* undone) {
+    QTest::newRow(name) << before << after << present << undone;
+  };
+  row("deleted, then one dropped", "S:abc", "S:ac", "S:acx", "S:abcx");
+  row("deleted, then its neighbour too", "S:abcd", "S:acd", "S:cdx", "S:bcdx");
+  row("deleted, then all others", "S:ab", "S:b", "S:x", "S:ax");
+  row("the last ones deleted", "S:abc", "S:a", "S:ax", "S:abcx");
+  row("the first deleted, then one put in front", "S:abc", "S:bc", "S:xbc", "S:xabc");
+  row("deleted, and brought back by other means", "S:ab", "S:b", "S:ba2", "S:ba2");
+  row("deleted, then its section", "S:ab T:c", "S:b T:c", "T:cx", "S:a T:cx");
+  row("deleted, then its section renamed", "S:ab", "S:b", "Sx:b", "Sx:ab");
+  row("duplicated, then one dropped", "S:ab", "S:abc", "S:abcx", "S:abx");
+  row("duplicated, and the copy changed", "S:ab", "S:abc", "S:abc2x", "S:abx");
+  row("duplicated, and the copy moved", "S:ab T:", "S:abc T:", "S:ab T:cx", "S:ab T:x");
+  row("moved, then one dropped", "S:abc T:d", "S:ac T:db", "S:ac T:dbx", "S:abc T:dx");
+  row("moved, then moved on", "S:ab T: U:", "S:a T:b U:", "S:a T: U:b", "S:a T: U:b");
+  row("moved, then deleted", "S:ab T:", "S:a T:b", "S:ax T:", "S:ax T:");
+  row("moved, then changed", "S:ab T:", "S:a T:b", "S:a T:b2", "S:ab2 T:");
+  row("moved, then its old section deleted", "S:ab T:", "S:a T:b", "T:bx", "S:b T:x");
+  row("ordered, then one dropped", "S:abcd", "S:bcda", "S:bcdax", "S:abcdx");
+  row("ordered, then otherwise", "S:abcd", "S:bcda", "S:bacd", "S:bacd");
+  row("changed, then one dropped", "S:ab", "S:a2b", "S:a2bx", "S:abx");
+  row("changed, then anew", "S:ab", "S:a2b", "S:a3b", "S:a3b");
+  row("changed, then deleted", "S:ab", "S:a2b", "S:bx", "S:bx");
+  row("grouped, then one dropped", "S:abcd", "S:aLd", "S:aLdx", "S:abcdx");
+  row("a section added, then one dropped elsewhere", "S:a", "S:a T:b", "S:ax T:b", "S:ax");
+  row("a section added, then one dropped into it", "S:a", "S:a T:b", "S:a T:bx", "S:a T:x");
+  row("a section added, then renamed", "S:a", "S:a T:", "S:a Tx:", "S:a Tx:");
+  row("a section added with a moved one", "S:ab", "S:a T:b", "S:a T:bx", "S:ab T:x");
+  row("a section removed, then one dropped", "S:a T:b U:c", "S:a U:c", "S:ax U:c", "S:ax T:b U:c");
+  row("a section's items dealt out", "S:a T:b", "S:ab", "S:abx", "S:ax T:b");
+  row("a section renamed, then one dropped", "S:a", "Sx:a", "Sx:ab", "S:ab");
+  row("a section renamed, then anew", "S:a", "Sx:a", "Sy:ab", "Sy:ab");
+  row("sections ordered, then one added", "S:a T:b U:c", "T:b U:c S:a",
+      "T:b U:c S:a V:", "S:a T:b U:c V:");
+  row("sections ordered, then otherwise",
+      "S: T: U: V:", "T: U: V: S:", "T: S: U: V:", "T: S: U: V:");
+  row("a repeated id deleted", "S:aa2b", "S:a2b", "S:a2bx", "S:aa2bx");
+  row("twins deleted", "S:aab", "S:b", "S:bx", "S:aabx");
+  row("one of twins deleted", "S:aab", "S:ab", "S:abx", "S:aabx");
+  row("a repeated id added", "S:ab", "S:aba2", "S:aba2x", "S:aba2x");
+  row("beside repeated ids", "S:aabc", "S:aac", "S:aacx", "S:aabcx");
+  row("repeated sections", "S:ab Sx:c", "S:a Sx:c", "S:a Sx:cy", "S:ab Sx:cy");
+}
+
+void TestBrandMerge::takesBackItsOwnStep() {
+  QFETCH(QString, before);
+  QFETCH(QString, after);
+  QFETCH(QString, present);
+  const Brand merged = reapplied(brandOf(after), brandOf(before), brandOf(present));
+  QTEST(shapeOf(merged), "undone");
+}
+
+void TestBrandMerge::mergesFieldByField() {
+  Item color = Item::create(ColorPayload{{"#111111", "One", std::nullopt}});
+  Brand before = brandOf("S:");
+  before.name = "Old";
+  before.sections[0].items.append(color);
+  Brand after = before;
+  after.name = "New";
+  after.sections[0].items[0].payload = ColorPayload{{"#222222", "Two", std::nullopt}};
+  Brand present = after;
+  present.accentHex = "#ABCDEF";
+  present.sections[0].emblem = Emblem{Emblem::Kind::emoji, {}, "x", {}, {}};
+  present.sections[0].items[0].payload = ColorPayload{{"#222222", "Mine", "PMS 1"}};
+  present.sections[0].items[0].imageBackground = ImageBackground::dark;
+  const Brand merged = reapplied(after, before, present);
+  Brand expected = present;
+  expected.name = "Old";
+  expected.sections[0].items[0].payload = ColorPayload{{"#111111", "Mine", "PMS 1"}};
+  QVERIFY(merged == expected);
+}
+
+namespace {
+
+// One random edit of what a user can do to a brand.
+void edit(Brand& brand, RandomBrand& random) {
+  const auto at = [&] { return random.below(int(brand.sections.size())); };
+  if (brand.sections.isEmpty()) brand.sections << random.section(1);
+  SharedList<Item>& items = brand.sections[at()].items;
+  const int place = random.below(int(items.size()) + 1);
+  switch (random.below(9)) {
+    case 0: return items.insert(place, random.item());
+    case 1: brand.sections.insert(at(), random.section(random.below(3))); return;
+    case 2: return brand.sections.removeAt(at());
+    case 3: return brand.sections.move(at(), at());
+    case 4: brand.sections[at()].name = random.item().displayName(); return;
+    case 5: brand.name = random.item().displayName(); return;
+  }
+  if (place == items.size()) return;
+  switch (random.below(3)) {
+    case 0: items.takeAt(place); return;
+    case 1: items[place].payload = random.item().payload; return;
+    case 2: {
+      const Item moved = items.takeAt(place);
+      SharedList<Item>& target = brand.sections[at()].items;
+      return target.insert(random.below(int(target.size()) + 1), moved);
+    }
+  }
+}
+
+Brand edited(Brand brand, RandomBrand& random) {
+  for (int count = random.below(4); count >= 0; --count) edit(brand, random);
+  return brand;
+}
+
+QHash<QUuid, Item> itemsById(const Brand& brand) {
+  QHash<QUuid, Item> items;
+  for (const Section& section : brand.sections) {
+    for (const Item& item : section.items) items.insert(item.id, item);
+  }
+  return items;
+}
+
+bool hasEachIdOnce(const Brand& brand) {
+  QSet<QUuid> sections, items;
+  qsizetype count = 0;
+  for (const Section& section : brand.sections) {
+    sections.insert(section.id);
+    for (const Item& item : section.items) items.insert(item.id);
+    count += section.items.size();
+  }
+  return sections.size() == brand.sections.size() && items.size() == count;
+}
+
+}  // namespace
+
+void TestBrandMerge::nothingInBetweenGivesTheEarlierBrand() {
+  RandomBrand random(41);
+  for (int round = 0; round < 300; ++round) {
+    const Brand before = random.brand(random.below(4), random.below(5));
+    const Brand after = edited(before, random);
+    Brand saved = after;
+    saved.updatedAt += std::chrono::seconds(1);
+    QVERIFY(reapplied(after, before, saved) == before);
+    // A step that changes nothing takes nothing of the later work away.
+    const Brand present = edited(after, random);
+    QVERIFY(reapplied(after, after, present) == present);
+  }
+}
+
+void TestBrandMerge::laterWorkOutlivesAnyUndo() {
+  RandomBrand random(43);
+  for (int round = 0; round < 3000; ++round) {
+    const Brand before = random.brand(1 + random.below(3), random.below(5));
+    const Brand after = edited(before, random), present = edited(after, random);
+    const Brand undone = reapplied(after, before, present);
+    QVERIFY(hasEachIdOnce(undone));
+    const auto old = itemsById(before), done = itemsById(after), now = itemsById(present),
+               left = itemsById(undone);
+    for (const Item& item : now) {
+      const bool isOfTheStep = done.contains(item.id) && !old.contains(item.id);
+      QCOMPARE(left.contains(item.id), !isOfTheStep);
+      if (done.value(item.id) != item && !isOfTheStep) QVERIFY(left.value(item.id) == item);
+    }
+    for (const Item& item : old) {  // what the step took or changed, and nobody since, is as it was
+      if (!done.contains(item.id)) QVERIFY(left.value(item.id) == item);
+      if (now.contains(item.id) && now.value(item.id) == done.value(item.id)) {
+        QVERIFY(left.value(item.id) == item);
+      }
+    }
+    // The redo takes back the undo, whatever comes in between.
+    const Brand later = edited(undone, random), redone = reapplied(undone, present, later);
+    QVERIFY(hasEachIdOnce(redone));
+    const auto afterwards = itemsById(redone);
+    for (const Item& item : itemsById(later)) {
+      if (!left.contains(item.id) || now.contains(item.id)) QVERIFY(afterwards.contains(item.id));
+    }
+    QVERIFY(reapplied(undone, present, undone) == present);
+    QVERIFY(reapplied(redone, later, redone) == later);
+  }
+}
+
+void TestBrandMerge::whatIsUntouchedStaysShared() {
+  RandomBrand random(47);
+  const Brand before = random.brand(2, 5000);
+  Brand after = before;
+  after.sections[0].items.takeAt(2500);
+  Brand present = after;
+  present.sections[1].items.append(random.item());
+  const Brand undone = reapplied(after, before, present);
+  QVERIFY(undone.sections.at(0).items == before.sections.at(0).items);
+  QSet<const Item*> known;
+  for (const Section& section : present.sections) {
+    for (const Item& item : section.items) known.insert(&item);
+  }
+  int copied = 0;
+  for (const Section& section : undone.sections) {
+    for (const Item& item : section.items) copied += known.contains(&item) ? 0 : 1;
+  }
+  QVERIFY2(copied <= 2 * SharedList<Item>::runLength, qPrintable(QString::number(copied)));
+}
+
+QTEST_GUILESS_MAIN(TestBrandMerge)
+#include "tst_brandmerge.moc"
