@@ -88,7 +88,8 @@ void LibraryStore::exportBrand(const BrandSummary& brand) {
       services_.dialogs.savePath(brand.name + QStringLiteral(".tarnloft.zip"), zipType);
   if (!path) return;
   const auto done = [this, path = *path, name = brand.name](const Result<void>& exported) {
-    if (exported) return services_.viewer.reveal(path);
+    services_.viewer.reveal(path);
+    if (exported) return;
     notice(QStringLiteral("“%1” couldn’t be exported").arg(name), exported.error());
   };
   // Replaced only by a whole archive. Not synced: it can be made again, and may weigh gigabytes.

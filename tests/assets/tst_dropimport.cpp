@@ -49,6 +49,7 @@ struct Dropping {
   std::unique_ptr<BrandDocument> document =
       *BrandDocument::create({held, log}, disk.folder.path(), "Acme");
   QList<QPair<QUuid, QList<Item>>> addedToClosed;
+  QList<QStringList> failed;
 
   Dropping() {
     workers.setMaxThreadCount(4);
@@ -58,9 +59,10 @@ struct Dropping {
   }
   ~Dropping() { finish(); }
   ImportServices services() {
-    return {types, fonts, workers, [this](const QString&, const QUuid& section, const auto& items) {
+    return {types, fonts, workers, [this](const BrandPlace&, const QUuid& section, const auto& items) {
               addedToClosed << qMakePair(section, items);
-            }};
+            },
+            [this](const QStringList& names, const QString&) { failed << names; }};
   }
   std::shared_ptr<FakeThing> file(const QString& name, const QByteArray& content = "content") {
     writeFile(disk.path("from/" + name), content);
@@ -319,6 +321,11 @@ void TestDropImport::failuresMakeNoItem() {
   dropping.finish();
   QCOMPARE(dropping.shape(), "S:a,b T:x");
   QCOMPARE(QDir(dropping.assets()).entryList(QDir::Files).size(), 1);
+  // Told once, and not of what there was nothing of.
+  const QString folder = QFileInfo(dropping.disk.folder.path()).fileName();
+  QCOMPARE(dropping.failed.size(), 1);
+  const QStringList& names = dropping.failed.first();
+  QCOMPARE(QSet<QString>(names.begin(), names.end()), QSet<QString>({"missing.png", folder}));
 }
 
 void TestDropImport::aDeletedSectionTakesNothing() {
