@@ -121,6 +121,8 @@ class BrandDocument : public QObject {
   void deleteVersion(const BrandVersion& version);
   // "Initial" if there is no version, "Daily" if the newest is a day old.
   void maybeAutoSnapshot();
+  // Removes what a killed program left in the package a day ago or longer.
+  void sweep();
 
  signals:
   void brandChanged();

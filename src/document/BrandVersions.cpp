@@ -40,4 +40,8 @@ void BrandDocument::maybeAutoSnapshot() {
   }, [] {}, DiskWork::Patience::none);
 }
 
+void BrandDocument::sweep() {
+  services_.disk.run([writer = writer_] { writer->sweep(); }, [] {}, DiskWork::Patience::none);
+}
+
 }  // namespace tarnloft

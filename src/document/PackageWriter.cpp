@@ -33,13 +33,6 @@ bool isOfNewerProgram(const Decoded<Brand>& manifest) {
   return manifest.hasUnknownKeys || manifest.record.schemaVersion != Brand().schemaVersion;
 }
 
-void sweepStrays(FileStore& files, const QString& packageURL) {
-  for (const QString& folder :
-       {packageURL, Package::assetsPath(packageURL), Package::versionsPath(packageURL)}) {
-    files.sweepTemporaries(folder, strayAge);
-  }
-}
-
 }  // namespace
 
 PackageWriter::PackageWriter(const DocumentServices& services, QString packageURL, Known known)
@@ -55,7 +48,6 @@ Result<OpenedPackage> PackageWriter::open(const DocumentServices& services,
   const Brand& brand = manifest->record;
   std::shared_ptr<PackageWriter> writer(new PackageWriter(
       services, packageURL, {file->identity, brand, isOfNewerProgram(*manifest)}));
-  sweepStrays(services.files, packageURL);
   return OpenedPackage{std::move(writer), packageURL, withDistinctIDs(brand), {}};
 }
 
@@ -218,6 +210,13 @@ Result<void> PackageWriter::moveTo(const QString& packageURL) {
   auto moved = services_.files.moveFolder(packageURL_, packageURL);
   if (moved) packageURL_ = packageURL;
   return moved;
+}
+
+void PackageWriter::sweep() {
+  for (const QString& folder :
+       {packageURL_, Package::assetsPath(packageURL_), Package::versionsPath(packageURL_)}) {
+    services_.files.sweepTemporaries(folder, strayAge);
+  }
 }
 
 void PackageWriter::snapshot(const VersionEnvelope& envelope) {

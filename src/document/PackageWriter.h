@@ -34,7 +34,7 @@ struct SaveReport {
 // All but `stage` and `close` wait for the disk and belong to its thread.
 class PackageWriter {
  public:
-  // Reads a package; writes nothing but that it sweeps away what a killed program left in it.
+  // Reads a package; writes nothing.
   static Result<OpenedPackage> open(const DocumentServices& services, const QString& packageURL);
   // Makes a package with an empty brand of that name.
   static Result<OpenedPackage> create(const DocumentServices& services, const QString& folder,
@@ -62,6 +62,8 @@ class PackageWriter {
   // The package was found there.
   void follow(const QString& packageURL) { packageURL_ = packageURL; }
 
+  // Removes what a killed program left in the package a day ago or longer.
+  void sweep();
   void snapshot(const VersionEnvelope& envelope);
   // Labelled "Initial" if there is no version, "Daily" if the newest is a day old.
   void autoSnapshot(const Brand& brand, Timestamp moment);

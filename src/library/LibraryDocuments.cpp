@@ -72,6 +72,7 @@ std::unique_ptr<BrandDocument> LibraryStore::makeDocument(OpenedPackage&& packag
   if (twin != twins_.cend() && document->brand().id == twin->sharedID) {
     document->adoptID(twin->ownID);
   }
+  document->sweep();
   return made;
 }
 
@@ -111,6 +112,7 @@ std::vector<BrandDocument*> LibraryStore::documents() const {
 
 bool LibraryStore::flush(std::chrono::milliseconds patience) {
   for (BrandDocument* const document : documents()) document->saveIfNeeded();
+  if (unsavedBrands().isEmpty()) return true;
   (void)services_.document.disk.finish(patience);
   return unsavedBrands().isEmpty();
 }

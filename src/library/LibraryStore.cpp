@@ -72,7 +72,6 @@ void LibraryStore::openLibrary() {
         FileStore& files = services.files;
         (void)files.makeFolder(folder);
         LibraryListing::renameLegacyPackages(files, folder);
-        files.sweepTemporaries(folder, 24h);
         OpenedLibrary opened{LibraryListing::read(files, folder), std::nullopt};
         const auto rows = LibraryListing::sorted(opened.listing.rows, order);
         if (rows.isEmpty()) return opened;
@@ -88,6 +87,11 @@ void LibraryStore::openLibrary() {
 
 void LibraryStore::libraryOpened(OpenedLibrary&& opened) {
   if (opened.listing.folder != libraryURL_) return;  // another was chosen meanwhile
+  services_.document.disk.run(
+      [&files = services_.document.files, folder = libraryURL_] {
+        files.sweepTemporaries(folder, 24h);  // copies of packages that were killed
+      },
+      [] {}, DiskWork::Patience::none);
   applyListing(opened.listing);
   if (selection_) return;
   if (brands_.isEmpty() || !opened.first ||

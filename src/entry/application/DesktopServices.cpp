@@ -13,6 +13,12 @@ std::unique_ptr<ColorSampler> makeColorSampler() { return std::make_unique<Deskt
 
 }  // namespace
 
+// Before anything else looks at the disk, on whose thread all does.
+DesktopServices::DesktopServices() {
+  disk.run([this] { SupportFolder::migrateIfNeeded(files, log); }, [] {},
+           DiskWork::Patience::none);
+}
+
 LibraryServices DesktopServices::forLibrary() {
   return {{files, log, systemNow, disk},
           preferences,

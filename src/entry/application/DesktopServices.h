@@ -26,6 +26,8 @@ namespace tarnloft {
 
 // What the windows' program uses of the desktop, each made once.
 struct DesktopServices {
+  DesktopServices();
+
   PosixFileStore files;
   Syslog log;
   IniPreferences preferences;
