@@ -3,7 +3,6 @@
 #include "entry/application/MediaServices.h"
 #include "entry/late/LateServices.h"
 #include "platform/desktop/FreeTypeFonts.h"
-#include "platform/desktop/FreedesktopTrash.h"
 #include "platform/desktop/IniPreferences.h"
 #include "platform/desktop/MimeContentTypes.h"
 #include "platform/desktop/MimeDrops.h"
@@ -30,7 +29,7 @@ struct DesktopServices {
   IniPreferences preferences;
   IniPreferences state{stateFile()};  // what windows keep, which is nobody's preference
   DesktopBeep beep;
-  FreedesktopTrash trash;
+  LateTrash trash;
   LateArchiver archiver;
   DesktopFileDialogs dialogs;
   DesktopFileViewer viewer;
