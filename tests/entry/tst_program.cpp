@@ -15,6 +15,9 @@ class TestProgram : public QObject {
 
  private slots:
   void selfTestPassesAndCleansUp();
+  void failedSelfTestCleansUp_data();
+  void failedSelfTestCleansUp();
+  void selfTestKeepsWhatIsDragged();
   void takesOverTheOldSupportFolderInEveryMode();
   void looksOnlyInAbsoluteFolders_data();
   void looksOnlyInAbsoluteFolders();
@@ -96,8 +99,35 @@ void TestProgram::selfTestPassesAndCleansUp() {
   QCOMPARE(lines.takeLast(), QByteArray::number(lines.size() - 2) + " passed, 0 failed");
   QCOMPARE(lines.takeLast(), QByteArray());
   for (const QByteArray& line : lines) QVERIFY2(line.startsWith("  ✔ "), line);
-  // The folder of drags outlives the program: a receiver may read from it long after.
-  QCOMPARE(entries(program.path("tmp")), QStringList("tarnloft-drag"));
+  QCOMPARE(entries(program.path("tmp")), QStringList());
+}
+
+void TestProgram::failedSelfTestCleansUp_data() {
+  QTest::addColumn<QString>("script");
+  QTest::addColumn<QByteArray>("line");
+  QTest::newRow("a full disk") << "trap '' XFSZ; ulimit -f 0; exec \"$t\" --selftest"
+                               << QByteArray("x package saves + reloads  <-- FAILED");
+  QTest::newRow("a reader that is gone")
+      << "mkfifo f; true < f & exec 3> f; wait; \"$t\" --selftest >&3" << QByteArray();
+  QTest::newRow("no temporary folder")
+      << "TMPDIR=$TMPDIR/not/there \"$t\" --selftest" << QByteArray("0 passed, 1 failed");
+}
+
+void TestProgram::failedSelfTestCleansUp() {
+  QFETCH(QString, script);
+  Program program;
+  const Run run = program.runByShell(script);
+  QCOMPARE(run.status, 1);
+  QFETCH(QByteArray, line);
+  QVERIFY(run.output.contains(line));
+  QCOMPARE(entries(program.path("tmp")), QStringList());
+}
+
+void TestProgram::selfTestKeepsWhatIsDragged() {
+  Program program;
+  QVERIFY(writeFile(program.path("tmp/tarnloft-drag/mine.png"), "x"));
+  QCOMPARE(program.run({"--selftest"}).status, 0);
+  QCOMPARE(contentOf(program.path("tmp/tarnloft-drag/mine.png")), "x");
 }
 
 void TestProgram::takesOverTheOldSupportFolderInEveryMode() {
