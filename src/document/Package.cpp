@@ -4,6 +4,8 @@
 #include "model/Json.h"
 #include "model/Uuid.h"
 
+#include <QTextBoundaryFinder>
+
 namespace tarnloft::Package {
 namespace {
 
@@ -38,6 +40,21 @@ Result<QByteArray> readAll(FileReader& file) {
   return bytes;
 }
 
+// Bytes of a file's name that leave " 9999.tarnloft" and " Brand Page.html" room within 255.
+constexpr qsizetype longestName = 239;
+
+// The whole characters at the beginning that take so many bytes at most.
+QString beginning(const QString& text, qsizetype bytes) {
+  QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, text);
+  qsizetype end = 0;
+  for (qsizetype next = characters.toNextBoundary(); next > 0; next = characters.toNextBoundary()) {
+    bytes -= QStringView(text).sliced(end, next - end).toUtf8().size();
+    if (bytes < 0) break;
+    end = next;
+  }
+  return text.left(end);
+}
+
 }  // namespace
 
 QString manifestPath(const QString& packageURL) { return inPackage(packageURL, "manifest.json"); }
@@ -57,6 +74,8 @@ QString folderOf(const QString& path) {
 QString fileNameFor(const QString& brandName) {
   QString name = brandName.trimmed();
   name.replace(QLatin1Char('/'), QLatin1Char('-')).replace(QLatin1Char(':'), QLatin1Char('-'));
+  if (name.startsWith(QLatin1Char('.'))) name[0] = QLatin1Char('-');  // else it would be hidden
+  name = beginning(name, longestName).trimmed();
   return name.isEmpty() ? QStringLiteral("Untitled Brand") : name;
 }
 
@@ -75,6 +94,7 @@ QString uniquePackageURL(const FileStore& files, const QString& folder, const QS
 }
 
 Result<ReadFile> readJson(const FileStore& files, const QString& path, const QString& packageURL) {
+  if (packageURL.isEmpty()) return failure(ErrorKind::refused, QStringLiteral("No package"));
   const auto file = files.open(path, packageURL);
   if (!file) return tl::unexpected(file.error());
   auto bytes = readAll(**file);

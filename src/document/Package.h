@@ -27,8 +27,9 @@ bool isPackagePath(const QString& path);
 // "Acme 2.tarnloft" and so on.
 QString uniquePackageURL(const FileStore& files, const QString& folder, const QString& name);
 
-// A brand's name made fit for a file's: trimmed, "/" and ":" replaced by "-", "Untitled Brand" if
-// nothing is left.
+// A brand's name made fit for a file's: trimmed, "/", ":" and a dot at its beginning replaced by
+// "-", "Untitled Brand" if nothing is left. Of a long one as many whole characters as leave room
+// for a counter and an extension.
 QString fileNameFor(const QString& brandName);
 
 // A file's whole content, with room for the JSON reader behind it, and which state of it that is.
@@ -41,7 +42,7 @@ struct ReadFile {
 // some ten times as much memory.
 constexpr qint64 largestJson = qint64(64) * 1024 * 1024;
 
-// Reads a JSON file of the package; refuses one that leads out of it. The failure's kind is
+// Reads a JSON file of the package, whose path isn't empty; refuses one that leads out of it. The failure's kind is
 // `tooLarge` for one beyond `largestJson`.
 Result<ReadFile> readJson(const FileStore& files, const QString& path, const QString& packageURL);
 

@@ -83,8 +83,8 @@ void TestDocument::findsAFreePackageName_data() {
                          << "Untitled Brand.tarnloft"
                          << "Untitled Brand 3.tarnloft";
   QTest::newRow("dots") << ".."
-                        << "...tarnloft"
-                        << ".. 3.tarnloft";
+                        << "-..tarnloft"
+                        << "-. 3.tarnloft";
 }
 
 void TestDocument::findsAFreePackageName() {

@@ -81,6 +81,7 @@ void TestFileStore::opensOnlyWhatStandsInside_data() {
 void TestFileStore::opensOnlyWhatStandsInside() {
   QFETCH(QString, name);
   const Tree tree;
+  QVERIFY(!tree.disk.files.open(tree.root + "/assets/a.png", QString()));  // inside of nothing
   const auto file = tree.disk.files.open(tree.root + QStringLiteral("/assets/") + name, tree.root);
   QTEST(file.has_value(), "opens");
 }
@@ -254,6 +255,14 @@ void TestFileStore::followsLinksForPages() {
   QCOMPARE(*tree.disk.files.resolved(assets + QStringLiteral("new")),
            assets + QStringLiteral("new"));
   QVERIFY(!tree.disk.files.resolved(assets + QStringLiteral("dangling")));
+  // As text it would be another file's path.
+  QVERIFY(writeFile(assets + "caf\ufffd", "x"));
+  const QByteArray raw = QFile::encodeName(assets) + "caf\xe9";
+  QCOMPARE(::rename(QFile::encodeName(assets + "a.png").constData(), raw.constData()), 0);
+  QCOMPARE(::symlink("caf\xe9", QFile::encodeName(assets + "raw").constData()), 0);
+  QVERIFY(!tree.disk.files.resolved(assets + "raw"));
+  QVERIFY(tree.disk.files.open(assets + "raw", tree.root));
+  QCOMPARE(::unlink(raw.constData()), 0);  // the toolkit couldn't
 }
 
 QTEST_APPLESS_MAIN(TestFileStore)

@@ -1,3 +1,4 @@
+#include "testing/InProcess.h"
 #include "testing/TestServices.h"
 
 #include <QTest>
@@ -8,7 +9,6 @@
 #include <sched.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace tarnloft;
@@ -42,15 +42,6 @@ QStringList entries(const QString& folder) {
 mode_t rightsOf(const QString& path) {
   struct stat info {};
   return ::lstat(QFile::encodeName(path).constData(), &info) == 0 ? info.st_mode & 07777 : 0;
-}
-
-// Runs it in a process of its own; gives that one's wait status. Its exit status is 0 for true.
-int inProcess(const std::function<bool()>& work) {
-  const pid_t child = ::fork();
-  if (child == 0) ::_exit(work() ? 0 : 1);
-  int status = -1;
-  ::waitpid(child, &status, 0);
-  return status;
 }
 
 constexpr int notAllowed = 77;

@@ -4,7 +4,6 @@
 #include "entry/late/LateServices.h"
 #include "platform/desktop/DiskThread.h"
 #include "platform/desktop/FreeTypeFonts.h"
-#include "platform/desktop/FreedesktopTrash.h"
 #include "platform/desktop/IniPreferences.h"
 #include "platform/desktop/MimeContentTypes.h"
 #include "platform/desktop/MimeDrops.h"
@@ -33,7 +32,7 @@ struct DesktopServices {
   IniPreferences preferences;
   IniPreferences state{stateFile()};  // what windows keep, which is nobody's preference
   DesktopBeep beep;
-  FreedesktopTrash trash;
+  LateTrash trash;
   LateArchiver archiver;
   DesktopFileDialogs dialogs;
   DesktopFileViewer viewer;

@@ -114,8 +114,7 @@ Result<std::shared_ptr<OpenFolder>> PosixFileStore::openFolder(const QString& pa
 Result<QString> PosixFileStore::resolved(const QString& path) const {
   if (!native(path)) return systemFailure(EINVAL);
   if (!QFileInfo(path).isSymLink()) return path;
-  return canonicalPath(path).map(
-      [](const QByteArray& target) { return QFile::decodeName(target); });
+  return canonicalPath(path).and_then(textOf);
 }
 
 Result<void> PosixFileStore::makeFolder(const QString& path) {

@@ -91,6 +91,12 @@ std::optional<QByteArray> native(const QString& path) {
   return QFile::encodeName(path);
 }
 
+Result<QString> textOf(const QByteArray& path) {
+  QString text = QFile::decodeName(path);
+  if (QFile::encodeName(text) != path) return systemFailure(EILSEQ);
+  return text;
+}
+
 Result<QByteArray> canonicalPath(const QString& path) {
   const auto name = native(path);
   if (!name) return systemFailure(EINVAL);

@@ -45,6 +45,9 @@ struct OpenFile {
 // system would end it and so name another file.
 std::optional<QByteArray> native(const QString& path);
 
+// The same in reverse; fails for bytes that have no text form.
+Result<QString> textOf(const QByteArray& path);
+
 // Opens a regular file for reading. Never waits on a pipe or a device.
 Result<OpenFile> openRegularFile(const QString& path);
 Result<OpenFile> openRegularFile(const QByteArray& path);

@@ -53,7 +53,7 @@ Result<QString> PosixOpenFolder::path() const {
   // Of a deleted folder the system tells where it stood, with a remark.
   const bool isThere = ::lstat(path->constData(), &there) == 0 && here.st_ino == there.st_ino &&
                        here.st_dev == there.st_dev;
-  return isThere ? Result<QString>(QFile::decodeName(*path)) : systemFailure(ENOENT);
+  return isThere ? textOf(*path) : systemFailure(ENOENT);
 }
 
 }  // namespace tarnloft::posix
