@@ -177,10 +177,12 @@ void TestNewFiles::canBeChangedByTheirOwner() {
   TestServices disk;
   const QString source = disk.path("from/file");
   QVERIFY(writeFile(source, "x") && writeFile(disk.path("replaced"), "x"));
-  for (const QString& path : {source, disk.path("replaced")}) {
-    QCOMPARE(::chmod(QFile::encodeName(path).constData(), 0040), 0);
-  }
-  QCOMPARE(::chmod(QFile::encodeName(disk.path("from")).constData(), 0500), 0);
+  const auto setRights = [](const QString& path, mode_t rights) {
+    QCOMPARE(::chmod(QFile::encodeName(path).constData(), rights), 0);
+  };
+  setRights(source, 0440);
+  setRights(disk.path("replaced"), 0040);
+  setRights(disk.path("from"), 0500);
   QVERIFY(disk.files.copyFile(source, disk.path("copy")));
   QVERIFY(disk.files.copyFolder(disk.path("from"), disk.path("tree")));
   QVERIFY((*disk.files.openFolder(disk.path("tree"), disk.path("tree")))->copyIn(source, "in"));
@@ -189,6 +191,7 @@ void TestNewFiles::canBeChangedByTheirOwner() {
     QCOMPARE(rightsOf(disk.path(name)), mode_t(0640));
   }
   QCOMPARE(rightsOf(disk.path("tree")), mode_t(0700));
+  setRights(disk.path("from"), 0700);
 }
 
 void TestNewFiles::copiesHoldNamesThatAreNoText() {
