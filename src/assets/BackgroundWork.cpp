@@ -3,14 +3,49 @@
 #include <QThread>
 
 #include <algorithm>
+#include <utility>
 
 namespace tarnloft {
 
-class BackgroundWork::Task {
- public:
-  std::function<void()> work;
-  std::function<void()> done;
-};
+void BackgroundWork::Task::raise() {
+  const auto queue = queue_.lock();
+  if (!queue) return;
+  if (const TaskPtr task = queue->take(*this)) queue->put(task);
+}
+
+bool BackgroundWork::Task::drop() {
+  const auto queue = queue_.lock();
+  return queue && queue->take(*this);
+}
+
+BackgroundWork::TaskPtr BackgroundWork::Queue::take(const Task& task) {
+  const QMutexLocker lock(&mutex);
+  const auto place = std::ranges::find(waiting, &task, &TaskPtr::get);
+  if (place == waiting.end()) return nullptr;
+  const TaskPtr taken = std::move(*place);
+  waiting.erase(place);
+  return taken;
+}
+
+BackgroundWork::TaskPtr BackgroundWork::Queue::takeNewest() {
+  const QMutexLocker lock(&mutex);
+  if (waiting.empty()) return nullptr;
+  const TaskPtr taken = std::move(waiting.back());
+  waiting.pop_back();
+  return taken;
+}
+
+void BackgroundWork::Queue::put(const TaskPtr& task) {
+  const QMutexLocker lock(&mutex);
+  waiting.push_back(task);
+}
+
+// What they hold goes without the lock, as it may be the end of a requester.
+void BackgroundWork::Queue::clear() {
+  std::vector<TaskPtr> forgotten;
+  const QMutexLocker lock(&mutex);
+  forgotten.swap(waiting);
+}
 
 int BackgroundWork::utilityThreads() { return qMax(1, QThread::idealThreadCount() - 1); }
 
@@ -20,20 +55,17 @@ BackgroundWork::BackgroundWork(int threads) {
 }
 
 BackgroundWork::~BackgroundWork() {
-  {
-    const QMutexLocker lock(&mutex_);
-    waiting_.clear();
-  }
+  queue_->clear();
   threads_.waitForDone();
 }
 
 BackgroundWork::TaskPtr BackgroundWork::start(std::function<void()> work,
                                               std::function<void()> done) {
-  auto task = std::make_shared<Task>(Task{std::move(work), std::move(done)});
-  {
-    const QMutexLocker lock(&mutex_);
-    waiting_.push_back(task);
-  }
+  const auto task = std::make_shared<Task>();
+  task->queue_ = queue_;
+  task->work_ = std::move(work);
+  task->done_ = std::move(done);
+  queue_->put(task);
   ++held_;
   if (!isHeld_) resume();
   return task;
@@ -44,36 +76,20 @@ void BackgroundWork::resume() {
   for (; held_ > 0; --held_) threads_.start([this] { runNewest(); });
 }
 
-void BackgroundWork::raise(const TaskPtr& task) {
-  const QMutexLocker lock(&mutex_);
-  if (takeWaiting(task)) waiting_.push_back(task);
-}
-
-bool BackgroundWork::drop(const TaskPtr& task) {
-  const QMutexLocker lock(&mutex_);
-  return takeWaiting(task);
-}
-
-// With the lock held.
-bool BackgroundWork::takeWaiting(const TaskPtr& task) {
-  const auto place = std::find(waiting_.begin(), waiting_.end(), task);
-  if (place == waiting_.end()) return false;
-  waiting_.erase(place);
-  return true;
+bool BackgroundWork::finish(std::chrono::milliseconds patience) {
+  queue_->clear();
+  return threads_.waitForDone(int(patience.count()));
 }
 
 // There is one call for each task ever started, so that a dropped one leaves a call without work.
 void BackgroundWork::runNewest() {
-  TaskPtr task;
-  {
-    const QMutexLocker lock(&mutex_);
-    if (waiting_.empty()) return;
-    task = std::move(waiting_.back());
-    waiting_.pop_back();
-  }
-  task->work();
+  const TaskPtr task = queue_->takeNewest();
+  if (!task) return;
+  task->work_();
+  // Its requester may keep the task, and needn't keep what the functions hold.
+  task->work_ = nullptr;
   QMetaObject::invokeMethod(
-      this, [task = std::move(task)] { task->done(); }, Qt::QueuedConnection);
+      this, [task] { std::exchange(task->done_, nullptr)(); }, Qt::QueuedConnection);
 }
 
 }  // namespace tarnloft

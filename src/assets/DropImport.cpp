@@ -4,6 +4,7 @@
 #include "model/FileName.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 
 namespace tarnloft::DropImport {
 namespace {
@@ -258,6 +259,17 @@ void importFiles(const ImportServices& services, const QStringList& paths, Media
 void importFontFiles(const ImportServices& services, const QStringList& paths, const QUuid& section,
                      BrandDocument& document) {
   importChosen(services, paths, FileKind::font, section, document);
+}
+
+bool finish(QThreadPool& workers, std::chrono::milliseconds patience) {
+  constexpr int pause = 20;  // milliseconds
+  const QDeadlineTimer deadline(patience);
+  do {
+    const bool isIdle = workers.waitForDone(pause);
+    QCoreApplication::sendPostedEvents(QCoreApplication::instance(), QEvent::MetaCall);
+    if (isIdle && workers.waitForDone(0)) return true;  // what came asked for nothing more
+  } while (!deadline.hasExpired());
+  return false;
 }
 
 }  // namespace tarnloft::DropImport

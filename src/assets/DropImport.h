@@ -8,6 +8,8 @@
 #include <QSet>
 #include <QThreadPool>
 
+#include <chrono>
+
 namespace tarnloft {
 
 // What importing needs of its surroundings. Borrowed: all of it outlives the imports that began.
@@ -44,6 +46,10 @@ void importFiles(const ImportServices& services, const QStringList& paths, Media
 // Takes files that the user chose as fonts.
 void importFontFiles(const ImportServices& services, const QStringList& paths, const QUuid& section,
                      BrandDocument& document);
+
+// For the program's end: lets what is being brought in land, at most so long. False if something is
+// still on its way. Runs no other part of the event loop.
+bool finish(QThreadPool& workers, std::chrono::milliseconds patience);
 
 }  // namespace DropImport
 }  // namespace tarnloft

@@ -24,15 +24,19 @@ ExportEstimate::ExportEstimate(Images& images, BackgroundWork& work, QString pat
   connect(&timer_, &QTimer::timeout, this, &ExportEstimate::convert);
 }
 
-ExportEstimate::~ExportEstimate() { work_.drop(task_); }
+ExportEstimate::~ExportEstimate() { withdraw(); }
 
 void ExportEstimate::setChoice(const ExportChoice& choice) {
   if (choice.key() == key_) return;
   choice_ = choice;
   key_ = choice.key();
-  work_.drop(task_);
+  withdraw();
   setText(std::nullopt);
   timer_.start();
+}
+
+void ExportEstimate::withdraw() {
+  if (task_) task_->drop();
 }
 
 void ExportEstimate::convert() {

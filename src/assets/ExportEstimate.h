@@ -40,6 +40,7 @@ class ExportEstimate : public QObject {
   void textChanged();
 
  private:
+  void withdraw();
   void convert();
   void setText(const std::optional<QString>& text);
 

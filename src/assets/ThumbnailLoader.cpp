@@ -50,7 +50,7 @@ ThumbnailLoader::ThumbnailLoader(Images& images, BackgroundWork& work)
 ThumbnailLoader::~ThumbnailLoader() {
   for (const auto& job : std::as_const(jobs_)) {
     job->loader = nullptr;
-    work_.drop(job->task);
+    job->task->drop();
   }
 }
 
@@ -68,7 +68,7 @@ ThumbnailLoader::Request ThumbnailLoader::thumbnail(const QString& path, int max
 std::shared_ptr<ThumbnailLoader::Job> ThumbnailLoader::jobFor(const QString& path, int maxPixel) {
   const QString key = keyOf(path, maxPixel);
   if (auto wanted = jobs_.value(key)) {
-    work_.raise(wanted->task);
+    wanted->task->raise();
     return wanted;
   }
   auto job = std::make_shared<Job>(Job{this, key, {}, {}, 0});
@@ -95,7 +95,7 @@ void ThumbnailLoader::finish(Job& job, const std::optional<QImage>& image) {
 }
 
 void ThumbnailLoader::abandon(Job& job) {
-  if (!work_.drop(job.task)) return;
+  if (!job.task->drop()) return;
   job.loader = nullptr;
   jobs_.remove(job.key);
 }

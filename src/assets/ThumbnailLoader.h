@@ -17,7 +17,7 @@ class ThumbnailLoader {
   // The picture, its longer side at most the size asked for, or none if the file can't be read.
   using Done = std::function<void(const std::optional<QImage>& image)>;
 
-  // One requester's interest; its end withdraws the request.
+  // One requester's interest; its end withdraws the request. May outlive the loader.
   class Request {
    public:
     Request() = default;

@@ -112,7 +112,7 @@ std::vector<BrandDocument*> LibraryStore::documents() const {
 
 bool LibraryStore::flush(std::chrono::milliseconds patience) {
   for (BrandDocument* const document : documents()) document->saveIfNeeded();
-  if (unsavedBrands().isEmpty()) return true;
+  if (landings_.isEmpty() && unsavedBrands().isEmpty()) return true;
   (void)services_.document.disk.finish(patience);
   return unsavedBrands().isEmpty();
 }

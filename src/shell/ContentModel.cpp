@@ -92,7 +92,9 @@ void ContentModel::renewWorkspace() {
   auto old = std::exchange(workspace_, document ? makeWorkspace(*document) : nullptr);
   emit workspaceChanged();
   // The old page goes in turns of its own, its sections behind it, and reads the old one till then.
-  if (old) QTimer::singleShot(0, old.release(), &QObject::deleteLater);
+  if (!old) return;
+  old->setParent(this);  // which takes it along if no turn comes any more
+  QTimer::singleShot(0, old.release(), &QObject::deleteLater);
 }
 
 std::unique_ptr<BrandWorkspace> ContentModel::makeWorkspace(BrandDocument& document) {

@@ -1,5 +1,6 @@
 #include "shell/MainWindow.h"
 
+#include "platform/controls/DeferredEnds.h"
 #include "platform/controls/SymbolGlyphs.h"
 #include "platform/controls/Theme.h"
 #include "platform/controls/Typography.h"
@@ -57,7 +58,11 @@ MainWindow::MainWindow(QQmlEngine& engine, const LibraryServices& libraryService
   connect(&lateViews_, &QQmlComponent::statusChanged, this, &MainWindow::makeLateViews);
 }
 
-MainWindow::~MainWindow() = default;
+// Its views go before what they show, and before the services.
+MainWindow::~MainWindow() {
+  window_.reset();
+  endDeferred();
+}
 
 QUrl MainWindow::url() { return viewURL("MainWindow.qml"); }
 
@@ -158,7 +163,9 @@ void MainWindow::close() {
   settled_.stop();
   window_.reset();
   // Views may go in turns of their own.
-  QTimer::singleShot(0, content_.release(), &QObject::deleteLater);
+  ContentModel* const content = content_.release();
+  content->setParent(this);  // which takes it along if no turn comes any more
+  QTimer::singleShot(0, content, &QObject::deleteLater);
   emit closed();
 }
 

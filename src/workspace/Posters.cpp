@@ -7,7 +7,6 @@ namespace tarnloft {
 Posters::Request& Posters::Request::operator=(Request&& other) noexcept {
   if (this == &other) return *this;
   cancel();
-  work_ = other.work_;
   task_ = std::move(other.task_);
   done_ = std::move(other.done_);
   return *this;
@@ -15,14 +14,13 @@ Posters::Request& Posters::Request::operator=(Request&& other) noexcept {
 
 void Posters::Request::cancel() {
   if (const auto done = std::exchange(done_, {})) *done = nullptr;
-  if (const auto task = std::exchange(task_, {})) work_->drop(task);
+  if (const auto task = std::exchange(task_, {})) task->drop();
 }
 
 Posters::Request Posters::poster(const QString& path, Done done) {
   constexpr double seconds = 0.1;
   constexpr int maxPixel = 512;
   Request request;
-  request.work_ = &work_;
   request.done_ = std::make_shared<Done>(std::move(done));
   const auto frame = std::make_shared<std::optional<QImage>>();
   request.task_ = work_.start(

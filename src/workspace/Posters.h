@@ -22,7 +22,7 @@ class Posters : public QObject {
 
   using Done = std::function<void(const std::optional<QImage>& poster)>;
 
-  // One requester's interest; its end withdraws the request.
+  // One requester's interest; its end withdraws the request. May outlive what it was asked of.
   class Request {
    public:
     Request() = default;
@@ -36,7 +36,6 @@ class Posters : public QObject {
 
    private:
     friend class Posters;
-    BackgroundWork* work_ = nullptr;
     BackgroundWork::TaskPtr task_;
     std::shared_ptr<Done> done_;
   };

@@ -29,6 +29,7 @@ class TestDropImport : public QObject {
   void takesAFileBeforeItsPicture();
   void leavesTheEventLoopFreeWhileItCopies();
   void landsInTheDropsOrder();
+  void landsAtTheEndWithoutAnEventLoop();
   void failuresMakeNoItem();
   void aDeletedSectionTakesNothing();
   void aClosedDocumentStillTakesItems();
@@ -311,6 +312,17 @@ void TestDropImport::landsInTheDropsOrder() {
     dropping.finish();
     QCOMPARE(dropping.shape(), "S:a,b T:" + expected.join(','));
   }
+}
+
+void TestDropImport::landsAtTheEndWithoutAnEventLoop() {
+  Dropping dropping;
+  dropping.held.hold("slow.png");
+  QVERIFY(dropping.drop({dropping.file("slow.png"), dropping.file("quick.png")}));
+  QVERIFY(!DropImport::finish(dropping.workers, std::chrono::milliseconds(50)));
+  QCOMPARE(dropping.shape(), "S:a,b T:");
+  dropping.held.release("slow.png");
+  QVERIFY(DropImport::finish(dropping.workers, std::chrono::seconds(20)));
+  QCOMPARE(dropping.shape(), "S:a,b T:slow,quick");
 }
 
 void TestDropImport::failuresMakeNoItem() {

@@ -22,6 +22,7 @@ class TestThumbnails : public QObject {
   void callbacksMayAskAndCancel();
   void mayEndBeforeItsRequests();
   void waitsWhileItIsHeld();
+  void finishWaitsForWhatHasBegunAlone();
 };
 
 namespace {
@@ -209,13 +210,27 @@ void TestThumbnails::waitsWhileItIsHeld() {
   start(QStringLiteral("a"));
   const auto dropped = start(QStringLiteral("b"));
   start(QStringLiteral("c"));
-  QVERIFY(work.drop(dropped));
+  QVERIFY(dropped->drop());
   QTest::qWait(50);
   QVERIFY(done.isEmpty());
   work.resume();
   QTRY_COMPARE(done, QStringList({"c", "a"}));
   start(QStringLiteral("d"));
   QTRY_COMPARE(done.size(), 3);
+}
+
+void TestThumbnails::finishWaitsForWhatHasBegunAlone() {
+  GatedImages images;
+  BackgroundWork work(1);
+  ThumbnailLoader loader(images, work);
+  const auto ignore = [](const std::optional<QImage>&) {};
+  const auto begun = loader.thumbnail(QStringLiteral("a"), 64, ignore);
+  images.awaitBegun(1);
+  const auto waiting = loader.thumbnail(QStringLiteral("b"), 64, ignore);
+  QVERIFY(!work.finish(std::chrono::milliseconds(10)));
+  images.open(1);
+  QVERIFY(work.finish(std::chrono::seconds(20)));
+  QCOMPARE(images.begun().size(), 1);
 }
 
 QTEST_GUILESS_MAIN(TestThumbnails)

@@ -38,6 +38,17 @@ class Package:
         return [value for item in self.section(section)["items"]
                 for value in item["payload"].values()]
 
+    def add(self, kind, section, file):
+        """Puts a file in as an item of that kind, as another machine may have done."""
+        manifest = self.manifest
+        stored = f"{str(uuid.uuid4()).upper()}{file.suffix}"
+        (self.path / "assets").mkdir(exist_ok=True)
+        shutil.copy(file, self.path / "assets" / stored)
+        value = {"asset": {"filename": stored, "originalName": file.name}, "name": file.stem}
+        items = next(each for each in manifest["sections"] if each["name"] == section)["items"]
+        items.append({"id": str(uuid.uuid4()).upper(), "payload": {kind: value}})
+        (self.path / "manifest.json").write_text(json.dumps(manifest))
+
     def asset(self, item):
         return (self.path / "assets" / item["asset"]["filename"]).read_bytes()
 

@@ -3,6 +3,7 @@
 #include "shell/TestShell.h"
 
 #include <QQmlEngine>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <QScreen>
 #include <QSignalSpy>
@@ -26,6 +27,8 @@ class TestMainWindow : public QObject {
   void fitsTheScreens();
   void rightSizesOnce();
   void opensAndClosesAndOpensAnew();
+  void takesItsViewsAlong_data();
+  void takesItsViewsAlong();
 };
 
 void TestMainWindow::keepsItsState_data() {
@@ -126,6 +129,50 @@ void TestMainWindow::opensAndClosesAndOpensAnew() {
   QVERIFY(main.open());
   QCOMPARE(main.window()->size(), QSize(860, 600));
   QCOMPARE(main.window()->title(), QStringLiteral("While closed — Tarn Loft"));
+}
+
+namespace {
+
+// The brand's page, or null.
+QQuickItem* pageIn(QQuickItem* item) {
+  if (item->property("workspace").value<QObject*>()) return item;
+  for (QQuickItem* child : item->childItems()) {
+    if (QQuickItem* found = pageIn(child)) return found;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+void TestMainWindow::takesItsViewsAlong_data() {
+  QTest::addColumn<bool>("closed");
+  QTest::newRow("open") << false;
+  QTest::newRow("just closed") << true;
+}
+
+// The toolkit leaves a list's views to the event loop's next turn, which the end hasn't got.
+void TestMainWindow::takesItsViewsAlong() {
+  QFETCH(bool, closed);
+  TestShell test;
+  test.library.add("Acme", {Section::create("S")});
+  test.library.start();
+  IniPreferences state(test.library.disk.path("state.ini"));
+  QQmlEngine engine;
+  Theme::of(engine);
+  auto main = std::make_unique<MainWindow>(engine, test.library.services(), test.services(), state);
+  QVERIFY(main->open());
+  QTRY_VERIFY(pageIn(main->window()->contentItem()));
+  const QPointer<QQuickItem> page = pageIn(main->window()->contentItem());
+  const QPointer<QObject> workspace = page->property("workspace").value<QObject*>();
+  QVERIFY(workspace);
+  if (closed) {
+    main->window()->close();
+    QCoreApplication::sendPostedEvents(main.get(), QEvent::MetaCall);
+    QVERIFY(!main->window());
+  }
+  main.reset();
+  QVERIFY(!page);
+  QVERIFY(!workspace);
 }
 
 QTEST_MAIN(TestMainWindow)

@@ -7,6 +7,10 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <array>
+#include <memory>
+#include <unistd.h>
+
 using namespace tarnloft;
 using Tester = QAbstractItemModelTester;
 
@@ -35,6 +39,7 @@ class TestWorkspaceModels : public QObject {
   void aDeletedSelectionCanBeHadBack();
   void nothingHappensOnceTheDocumentHasGone();
   void aToastIsReplacedAndGoes();
+  void aPostersRequestMayOutliveTheWork();
 };
 
 namespace {
@@ -398,6 +403,20 @@ void TestWorkspaceModels::aToastIsReplacedAndGoes() {
   QTRY_VERIFY(!toasts.message());
   QCOMPARE(changes.count(), 3);
   QCOMPARE(ToastCenter::duration, std::chrono::milliseconds(1400));
+}
+
+void TestWorkspaceModels::aPostersRequestMayOutliveTheWork() {
+  FakeVideos videos;
+  alignas(BackgroundWork) std::array<std::byte, sizeof(BackgroundWork)> place;
+  auto* const work = new (place.data()) BackgroundWork(1);
+  bool isThere = false;
+  auto request = Posters(videos, *work).poster("a", [&](const auto&) { isThere = true; });
+  QTRY_VERIFY(isThere);
+  std::destroy_at(work);
+  place.fill(std::byte(0xff));  // so that any use of it shows
+  ::alarm(20);                  // a lock that has gone may never open
+  request.cancel();
+  ::alarm(0);
 }
 
 int main(int argc, char** argv) {

@@ -11,6 +11,7 @@
 #include <QtQml/qqmlextensionplugin.h>
 
 #include <cstdio>
+#include <cstdlib>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
@@ -33,7 +34,10 @@ int runWindows(RunningInstance& instance) {
                    &AppDelegate::applicationShouldHandleReopen);
   if (!instance.listen()) std::fputs("Tarn Loft: a second start won't find this one\n", stderr);
   if (!app.start()) return fail("the interface can't be loaded");
-  return QApplication::exec();
+  const int status = QApplication::exec();
+  // All is saved by now, and the system takes the rest.
+  if (!app.finish()) std::_Exit(status);
+  return status;
 }
 
 }  // namespace

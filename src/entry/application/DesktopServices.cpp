@@ -3,6 +3,7 @@
 #include "entry/SupportFolder.h"
 #include "platform/desktop/window/DesktopColorSampler.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 
 namespace tarnloft {
@@ -58,6 +59,16 @@ WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
           drops,
           {files, types, tiff},
           dragSession};
+}
+
+bool DesktopServices::finish(std::chrono::milliseconds patience) {
+  const QDeadlineTimer deadline(patience);
+  const auto remaining = [&] { return int(deadline.remainingTime()); };
+  workers.clear();
+  return media.work.finish(std::chrono::milliseconds(remaining())) &&
+         workers.waitForDone(remaining()) &&
+         disk.finish(std::chrono::milliseconds(remaining())) && copies.finish({}) &&
+         QThreadPool::globalInstance()->waitForDone(remaining());
 }
 
 QString DesktopServices::stateFile() {

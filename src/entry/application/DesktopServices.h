@@ -52,6 +52,10 @@ struct DesktopServices {
   LibraryServices forLibrary();
   WorkspaceServices forWorkspace(LibraryStore& library);
 
+  // For the end: forgets work that hasn't begun, and waits for threads that use any of this, at
+  // most so long. False if some still do.
+  bool finish(std::chrono::milliseconds patience);
+
   // "tarnloft.ini" in the user's folder for state.
   static QString stateFile();
 };

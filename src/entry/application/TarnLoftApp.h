@@ -3,6 +3,7 @@
 #include "entry/application/AppDelegate.h"
 #include "entry/application/DesktopServices.h"
 #include "library/LibraryStore.h"
+#include "platform/controls/DeferredEnds.h"
 #include "platform/controls/Theme.h"
 #include "platform/controls/ViewLoading.h"
 #include "platform/desktop/TerminationSignals.h"
@@ -29,6 +30,10 @@ class TarnLoftApp : public QObject {
   // Quits once all that the user did is on disk, else asks.
   void requestQuit();
 
+  // To be called behind the event loop: waits a moment for threads at work. False if some still
+  // are, held up by a disk: nothing that they use may go then, this object included.
+  bool finish();
+
  private:
   bool openMainWindow();
   void firstFrameShown();
@@ -41,6 +46,7 @@ class TarnLoftApp : public QObject {
 
   DesktopServices services_;
   LibraryStore library_;
+  DeferredEnds viewEnds_;  // of what the engine leaves
   QQmlEngine engine_;
   ViewLoading windowViews_{engine_, MainWindow::url()};  // beside all that follows
   Theme& theme_;
