@@ -42,8 +42,8 @@ struct ReadFile {
 // some ten times as much memory.
 constexpr qint64 largestJson = qint64(64) * 1024 * 1024;
 
-// Reads a JSON file of the package, whose path isn't empty; refuses one that leads out of it. The failure's kind is
-// `tooLarge` for one beyond `largestJson`.
+// Reads a JSON file of the package, whose path isn't empty; refuses one that leads out of it. The
+// failure's kind is `tooLarge` for one beyond `largestJson`.
 Result<ReadFile> readJson(const FileStore& files, const QString& path, const QString& packageURL);
 
 // Refuses what `readJson` would find too large.
