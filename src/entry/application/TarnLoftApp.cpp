@@ -78,12 +78,55 @@ void TarnLoftApp::firstFrameShown() {
   services_.media.work.resume();
 }
 
-constexpr auto landingPatience = 2s;  // with what was dropped right before the end
-constexpr auto savingPatience = 3s;   // with the disk, at the end
-constexpr auto threadPatience = 1s;   // with a picture that is being read, which nobody waits for
+// What the user dropped right before is theirs already.
+bool TarnLoftApp::saveAll() {
+  if (!DropImport::finish(services_.workers, landingPatience)) {
+    services_.log.write(QStringLiteral("ended while files were still being added"));
+  }
+  return library_.flush(savingPatience);
+}
 
-// For ends of the process that leave no time, such as a display that goes.
-TarnLoftApp* running = nullptr;
+void TarnLoftApp::requestQuit() {
+  if (!isQuitting_ && !saveAll()) return askToQuit();
+  isQuitting_ = true;
+  QCoreApplication::quit();
+}
+
+// Nobody is there to be asked.
+void TarnLoftApp::quitByForce() {
+  if (!saveAll()) {
+    services_.log.write(QStringLiteral("ended with unsaved changes to ") +
+                        library_.unsavedBrands().join(QStringLiteral(", ")));
+  }
+  isQuitting_ = true;
+  QCoreApplication::quit();
+}
+
+// Without its window the program goes on where there is a tray, and tries on to save.
+bool TarnLoftApp::mayCloseWindow() {
+  const bool isSaved = saveAll();
+  if (isQuitting_ || isSaved) return true;
+  if (!appDelegate_.applicationShouldTerminateAfterLastWindowClosed()) return true;
+  askToQuit();
+  return false;
+}
+
+void TarnLoftApp::askToQuit() {
+  appDelegate_.showMainWindow();
+  Alerts* const alerts = mainWindow_.alerts();
+  if (!alerts) return quitByForce();
+  connect(alerts, &Alerts::quitConfirmed, this, &TarnLoftApp::quitByForce, Qt::UniqueConnection);
+  alerts->askToQuit();
+}
+
+// What couldn't be done may be possible by now.
+void TarnLoftApp::followFocus() {
+  if (!QGuiApplication::focusWindow()) return;
+  library_.retrySaves();
+  if (!library_.libraryProblem().isEmpty()) library_.scan();
+}
+
+bool TarnLoftApp::finish() { return services_.finish(threadPatience); }
 
 void TarnLoftApp::followAppearance() { theme_.setDark(services_.appearance.isDark()); }
 
