@@ -25,7 +25,7 @@ BrandDocument::BrandDocument(const DocumentServices& services, OpenedPackage&& p
   };
   prepare(saveWorkItem_, 400ms, &BrandDocument::saveNow);
   prepare(retry_, 5s, &BrandDocument::saveNow);
-  prepare(patience_, 2s, [this] { setSaveProblem(QStringLiteral("The disk doesn’t answer")); });
+  prepare(patience_, 2s, [this] { setSaveProblem(QStringLiteral("The disk doesn't answer")); });
   if (!package.saved) {
     ++revision_;
     finishSave({package.saved, 0, SaveReport::Place::same, packageURL_});
@@ -116,7 +116,7 @@ void BrandDocument::renamePackage(const QString& folder,
   const auto rename = [&files = services_.files, writer = writer_, folder,
                        name = brand_.name]() -> Result<QString> {
     if (writer->hasFailed()) {
-      return failure(ErrorKind::io, QStringLiteral("Its changes couldn’t be saved."));
+      return failure(ErrorKind::io, QStringLiteral("Its changes couldn't be saved."));
     }
     const QString target = Package::uniquePackageURL(files, folder, name);
     return writer->moveTo(target).map([&] { return target; });

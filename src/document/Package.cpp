@@ -109,7 +109,7 @@ Result<QByteArray> checkedSize(const QByteArray& json) {
 
 Result<void> makeFolder(FileStore& files, const QString& path, const QString& packageURL) {
   if (!files.isFolder(packageURL)) {
-    return failure(ErrorKind::notFound, QStringLiteral("The brand’s package isn’t there"));
+    return failure(ErrorKind::notFound, QStringLiteral("The brand's package isn't there"));
   }
   if (auto made = files.makeFolder(path); !made) return made;
   if (files.standsInside(path, packageURL)) return {};

@@ -15,7 +15,7 @@ BrandDocument* LibraryStore::createBrand(const QString& name) {
     if (!created) {
       services_.document.log.write(QStringLiteral("failed to create brand: ") +
                                    created.error().message);
-      return notice(QStringLiteral("The brand couldn’t be created"), created.error());
+      return notice(QStringLiteral("The brand couldn't be created"), created.error());
     }
     selection_ = created->packageURL;
     afterLoading_ = nullptr;
@@ -39,7 +39,7 @@ void LibraryStore::renameOpenBrand(const QString& name) {
     if (!store) return;
     store->scan();
     if (packageURL) return;
-    store->notice(QStringLiteral("The package of “%1” couldn’t be renamed").arg(before),
+    store->notice(QStringLiteral("The package of “%1” couldn't be renamed").arg(before),
                   packageURL.error());
   };
   openDocument_->renamePackage(libraryURL_, renamed);
@@ -62,7 +62,7 @@ void LibraryStore::duplicateBrand(const BrandSummary& brand) {
   };
   const auto failed = [this, original = brand.name](const Error& error) {
     services_.document.log.write(QStringLiteral("failed to duplicate brand: ") + error.message);
-    notice(QStringLiteral("“%1” couldn’t be duplicated").arg(original), error);
+    notice(QStringLiteral("“%1” couldn't be duplicated").arg(original), error);
   };
   whenSaved(brand.packageURL, [this, duplicate, failed](const Result<void>& saved) {
     if (!saved) return failed(saved.error());
@@ -86,7 +86,7 @@ void LibraryStore::deleteBrandImmediately(const BrandSummary& brand) {
              return files.removeFolder(packageURL);
            },
            [this, brand](const Error& error) {
-             notice(QStringLiteral("“%1” couldn’t be deleted").arg(brand.name), error);
+             notice(QStringLiteral("“%1” couldn't be deleted").arg(brand.name), error);
            });
 }
 
@@ -116,11 +116,14 @@ void LibraryStore::brandGone(const QString& packageURL) {
 
 void LibraryStore::exportBrandPage(const BrandSummary& brand) {
   const QString packageURL = brand.packageURL;
-  whenLoaded(packageURL, [this] {
-    if (!openDocument_) return;
-    BrandPageExporter::exportPage(*openDocument_, services_.document.files, services_.dialogs,
-                                  services_.viewer);
-  });
+  whenLoaded(packageURL, [this] { exportOpenBrandPage(); });
+}
+
+void LibraryStore::exportOpenBrandPage() {
+  if (!openDocument_) return;
+  const auto exported = BrandPageExporter::exportPage(
+      *openDocument_, services_.document.files, services_.dialogs, services_.viewer);
+  if (!exported) notice(QStringLiteral("The brand page couldn't be exported"), exported.error());
 }
 
 }  // namespace tarnloft

@@ -165,7 +165,7 @@ void LibraryStore::whenSaved(const QString& packageURL,
     if (!store) return;
     const bool isSaved = !document || !document->hasUnsavedChanges();
     then(isSaved ? Result<void>()
-                 : failure(ErrorKind::io, QStringLiteral("Its changes aren’t saved: ") +
+                 : failure(ErrorKind::io, QStringLiteral("Its changes aren't saved: ") +
                                               document->saveProblem()));
   }, DiskWork::Patience::moment);
 }
@@ -196,7 +196,7 @@ void LibraryStore::saveCopy() {
   services_.copies.ask(copy, [store = QPointer(this)](const Result<QString>& target) {
     if (!store) return;
     if (target) return store->services_.viewer.reveal(*target);
-    store->notice(QStringLiteral("The copy couldn’t be saved"), target.error());
+    store->notice(QStringLiteral("The copy couldn't be saved"), target.error());
   });
 }
 

@@ -38,7 +38,7 @@ LibraryStore::LibraryStore(const LibraryServices& services)
   patience_.setSingleShot(true);
   patience_.setInterval(1500ms);
   connect(&patience_, &QTimer::timeout, this, [this] {
-    setLibraryProblem(quoted(libraryURL_) + QStringLiteral(" doesn’t answer."));
+    setLibraryProblem(quoted(libraryURL_) + QStringLiteral(" doesn't answer."));
   });
   lookAgain_.setSingleShot(true);
   lookAgain_.setInterval(3s);
@@ -113,14 +113,14 @@ void LibraryStore::applyListing(const LibraryListing::Listing& listing) {
   if (listing.folder != libraryURL_) return;
   patience_.stop();
   if (hasVanished(listing)) {
-    setLibraryProblem(quoted(libraryURL_) + QStringLiteral(" isn’t there just now."));
+    setLibraryProblem(quoted(libraryURL_) + QStringLiteral(" isn't there just now."));
     return lookAgain_.start();
   }
   isOpening_ = false;
   if (listing.listed) {
     setLibraryProblem({});
   } else {
-    setLibraryProblem(quoted(libraryURL_) + QStringLiteral(" can’t be read: ") +
+    setLibraryProblem(quoted(libraryURL_) + QStringLiteral(" can't be read: ") +
                       listing.listed.error().message);
     lookAgain_.start();
   }

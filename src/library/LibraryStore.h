@@ -94,6 +94,7 @@ class LibraryStore : public QObject {
   void deleteBrandImmediately(const BrandSummary& brand);
   // Selects the brand, asks where to and publishes its page.
   void exportBrandPage(const BrandSummary& brand);
+  void exportOpenBrandPage();
   // Asks where to, writes the package as a zip and shows it.
   void exportBrand(const BrandSummary& brand);
   void exportSelectedBrand();

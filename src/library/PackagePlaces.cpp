@@ -28,7 +28,7 @@ Result<void> PackagePlaces::check(const Seen& seen) const {
   if (!seen.identity) return {};
   const auto present = files_.identity(seen.folder);
   if (present && isSameFolder(*present, *seen.identity)) return {};
-  return failure(ErrorKind::notFound, QStringLiteral("The library’s folder isn’t there"));
+  return failure(ErrorKind::notFound, QStringLiteral("The library's folder isn't there"));
 }
 
 Result<QString> PackagePlaces::placeOf(const QUuid& brand, const QString& lost) const {

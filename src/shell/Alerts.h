@@ -42,7 +42,7 @@ class Alerts : public QObject {
   Q_INVOKABLE void retrySave() { library_.retrySaves(); }
   Q_INVOKABLE void saveCopy() { library_.saveCopy(); }
 
-  QString libraryProblem() const { return library_.libraryProblem(); }
+  QString libraryProblem() const;
   Q_INVOKABLE void lookAgain() { library_.scan(); }
 
   QString noticeTitle() const;
@@ -78,6 +78,7 @@ class Alerts : public QObject {
   };
 
   void ask(TrashQuestion question);
+  void renewQuitQuestion();
 
   LibraryStore& library_;
   QList<Notice> notices_;

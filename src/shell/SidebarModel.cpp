@@ -34,7 +34,8 @@ BrandMark markOf(const BrandSummary& row, const BrandDocument* open) {
 SidebarModel::SidebarModel(LibraryStore& library, QObject* parent)
     : QAbstractListModel(parent), library_(library), rows_(wantedRows()) {
   for (const auto signal : {&LibraryStore::brandsChanged, &LibraryStore::selectionChanged,
-                            &LibraryStore::openDocumentChanged, &LibraryStore::brandChanged}) {
+                            &LibraryStore::openDocumentChanged, &LibraryStore::brandChanged,
+                            &LibraryStore::unsavedChanged}) {
     connect(&library, signal, this, &SidebarModel::scheduleUpdate);
   }
 }
@@ -59,13 +60,14 @@ QVariant SidebarModel::data(const QModelIndex& index, int role) const {
     case look: return QVariant::fromValue(lookOf(row));
     case marked: return isMarked(row.emblem);
     case selected: return row.selected;
+    case unsaved: return row.unsaved;
     default: return {};
   }
 }
 
 QHash<int, QByteArray> SidebarModel::roleNames() const {
   return {{kind, "kind"}, {rowID, "rowID"},   {packageURL, "packageURL"}, {name, "name"},
-          {look, "look"}, {marked, "marked"}, {selected, "selected"}};
+          {look, "look"}, {marked, "marked"}, {selected, "selected"}, {unsaved, "unsaved"}};
 }
 
 int SidebarModel::selectedRow() const {
@@ -134,7 +136,8 @@ SidebarModel::Row SidebarModel::brandRow(const BrandSummary& brand) const {
           brand.name,
           mark.emblem,
           accentColor(dark ? mark.accentHexDark : mark.accentHex),
-          library_.selection() == brand.packageURL};
+          library_.selection() == brand.packageURL,
+          !library_.saveProblem(brand.packageURL).isEmpty()};
 }
 
 SidebarModel::Row SidebarModel::sectionRow(const Section& section, const QString& package) {

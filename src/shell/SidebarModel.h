@@ -27,7 +27,8 @@ class SidebarModel : public QAbstractListModel {
     name,                 // text: never empty
     look,                 // EmblemLook: the brand's or the section's
     marked,               // bool: false if the user wants no mark on it
-    selected              // bool: the row is the selected brand's own
+    selected,             // bool: the row is the selected brand's own
+    unsaved               // bool: the brand's changes couldn't be saved
   };
   Q_ENUM(Role)
 
@@ -39,6 +40,7 @@ class SidebarModel : public QAbstractListModel {
     std::optional<Emblem> emblem;
     std::optional<QColor> accent;
     bool selected = false;
+    bool unsaved = false;
 
     bool operator==(const Row&) const = default;
   };
