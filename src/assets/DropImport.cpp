@@ -77,8 +77,7 @@ void Import::land(ItemLanding::Place place, const QString& name, const Result<It
 
 SharedImport begin(const ImportServices& services, const QUuid& section, BrandDocument& document) {
   const auto import = std::make_shared<Import>(services, section, document);
-  document.openAssetFolder(
-      [import](const Result<AssetFolder>& folder) { import->begin(folder); });
+  document.openAssetFolder([import](const Result<AssetFolder>& folder) { import->begin(folder); });
   return import;
 }
 
@@ -144,35 +143,35 @@ void importFile(const SharedImport& import, ItemLanding::Place place, const QStr
     import->land(place, lastPathComponent(path), file.map([](const ImportedFile& imported) {
       return Item::create(payloadOf(imported));
     }));
-  };
+};
   import->whenBegun([import, path, kind, landed] {
     const auto& folder = import->folder();
-    if (!folder) return landed(tl::unexpected(folder.error()));
-    inBackground(
-        import->services().workers,
-        [import, folder = *folder, path, kind] {
-          return bringIn(import->services(), folder, path, kind);
-        },
-        landed);
+  if (!folder) return landed(tl::unexpected(folder.error()));
+  inBackground(
+      import->services().workers,
+      [import, folder = *folder, path, kind] {
+        return bringIn(import->services(), folder, path, kind);
+      },
+      landed);
   });
-}
+  }
 
-// Blanks and tabs at both ends go, line ends stay.
-QString withoutBlanks(const QString& name) {
-  const auto isBlank = [](QChar c) {
-    return c == QLatin1Char('\t') || c.category() == QChar::Separator_Space;
-  };
-  qsizetype begin = 0, end = name.size();
-  while (begin < end && isBlank(name.at(begin))) ++begin;
-  while (end > begin && isBlank(name.at(end - 1))) --end;
-  return name.mid(begin, end - begin);
-}
+  // Blanks and tabs at both ends go, line ends stay.
+  QString withoutBlanks(const QString& name) {
+    const auto isBlank = [](QChar c) {
+      return c == QLatin1Char('\t') || c.category() == QChar::Separator_Space;
+    };
+    qsizetype begin = 0, end = name.size();
+    while (begin < end && isBlank(name.at(begin))) ++begin;
+    while (end > begin && isBlank(name.at(end - 1))) --end;
+    return name.mid(begin, end - begin);
+  }
 
-// The bytes are kept as they came, even if they are no PNG.
-void importImage(const SharedImport& import, ItemLanding::Place place, const QByteArray& data,
-                 const QString& suggestedName) {
-  const QString base =
-      suggestedName.isEmpty() ? QStringLiteral("Image") : withoutPathExtension(suggestedName);
+  // The bytes are kept as they came, even if they are no PNG.
+  void importImage(const SharedImport& import, ItemLanding::Place place, const QByteArray& data,
+                   const QString& suggestedName) {
+    const QString base =
+        suggestedName.isEmpty() ? QStringLiteral("Image") : withoutPathExtension(suggestedName);
   const auto landed = [import, place, base](const Result<AssetRef>& asset) {
     import->land(place, base, asset.map([&](const AssetRef& image) {
       return Item::create(ImagePayload{image, base});
@@ -180,96 +179,96 @@ void importImage(const SharedImport& import, ItemLanding::Place place, const QBy
   };
   import->whenBegun([import, data, base, landed] {
     const auto& folder = import->folder();
-    if (!folder) return landed(tl::unexpected(folder.error()));
-    inBackground(
-        import->services().workers,
-        [folder = *folder, data, base] {
-          return folder.write(data, base + QStringLiteral(".png"), QStringLiteral("png"));
-        },
-        landed);
+  if (!folder) return landed(tl::unexpected(folder.error()));
+  inBackground(
+      import->services().workers,
+      [folder = *folder, data, base] {
+        return folder.write(data, base + QStringLiteral(".png"), QStringLiteral("png"));
+      },
+      landed);
   });
-}
-
-void loadFile(const SharedImport& import, DroppedThing& thing) {
-  const ItemLanding::Place place = import->take();
-  thing.loadURL([import, place](const std::optional<QString>& path) {
-    if (!path) return import->drop(place);
-    importFile(import, place, *path, std::nullopt);
-  });
-}
-
-void loadImage(const SharedImport& import, DroppedThing& thing) {
-  const ItemLanding::Place place = import->take();
-  const QString name = withoutBlanks(thing.suggestedName());
-  thing.loadData(DropType::image, [import, place, name](const std::optional<QByteArray>& data) {
-    if (!data) return import->drop(place);
-    importImage(import, place, *data, name);
-  });
-}
-
-bool moveDragged(const DroppedThings& things, const QUuid& section, BrandDocument& document) {
-  return ItemDrag::loadUUID(things, ItemDrag::type,
-                            [document = QPointer(&document), section](const QUuid& item) {
-                              if (document) document->moveItem(item, section, std::nullopt);
-                            });
-}
-
-bool isTaken(const DroppedThing& thing) {
-  return thing.conforms(DropType::fileURL) || thing.conforms(DropType::image);
-}
-
-void importChosen(const ImportServices& services, const QStringList& paths, FileKind kind,
-                  const QUuid& section, BrandDocument& document) {
-  const SharedImport import = begin(services, section, document);
-  for (const QString& path : paths) importFile(import, import->take(), path, kind);
-}
-
-}  // namespace
-
-const QSet<QString>& fontExtensions() {
-  static const QSet<QString> extensions{QStringLiteral("otf"),  QStringLiteral("ttf"),
-                                        QStringLiteral("ttc"),  QStringLiteral("otc"),
-                                        QStringLiteral("woff"), QStringLiteral("woff2"),
-                                        QStringLiteral("dfont")};
-  return extensions;
-}
-
-bool handle(const ImportServices& services, const DroppedThings& things, const QUuid& section,
-            BrandDocument& document) {
-  if (moveDragged(things, section, document)) return true;
-  DroppedThings taken;
-  for (const auto& thing : things) {
-    if (isTaken(*thing)) taken << thing;
   }
-  if (taken.isEmpty()) return false;
-  const SharedImport import = begin(services, section, document);
-  for (const auto& thing : taken) {
-    // A file comes as the file that it is, even where the source offers its picture too.
-    thing->conforms(DropType::fileURL) ? loadFile(import, *thing) : loadImage(import, *thing);
+
+  void loadFile(const SharedImport& import, DroppedThing& thing) {
+    const ItemLanding::Place place = import->take();
+    thing.loadURL([import, place](const std::optional<QString>& path) {
+      if (!path) return import->drop(place);
+      importFile(import, place, *path, std::nullopt);
+    });
   }
-  return true;
-}
 
-void importFiles(const ImportServices& services, const QStringList& paths, MediaKind kind,
-                 const QUuid& section, BrandDocument& document) {
-  importChosen(services, paths, kind == MediaKind::video ? FileKind::video : FileKind::image,
-               section, document);
-}
+  void loadImage(const SharedImport& import, DroppedThing& thing) {
+    const ItemLanding::Place place = import->take();
+    const QString name = withoutBlanks(thing.suggestedName());
+    thing.loadData(DropType::image, [import, place, name](const std::optional<QByteArray>& data) {
+      if (!data) return import->drop(place);
+      importImage(import, place, *data, name);
+    });
+  }
 
-void importFontFiles(const ImportServices& services, const QStringList& paths, const QUuid& section,
-                     BrandDocument& document) {
-  importChosen(services, paths, FileKind::font, section, document);
-}
+  bool moveDragged(const DroppedThings& things, const QUuid& section, BrandDocument& document) {
+    return ItemDrag::loadUUID(things, ItemDrag::type,
+                              [document = QPointer(&document), section](const QUuid& item) {
+                                if (document) document->moveItem(item, section, std::nullopt);
+                              });
+  }
 
-bool finish(QThreadPool& workers, std::chrono::milliseconds patience) {
-  constexpr int pause = 20;  // milliseconds
-  const QDeadlineTimer deadline(patience);
-  do {
-    const bool isIdle = workers.waitForDone(pause);
-    QCoreApplication::sendPostedEvents(QCoreApplication::instance(), QEvent::MetaCall);
-    if (isIdle && workers.waitForDone(0)) return true;  // what came asked for nothing more
-  } while (!deadline.hasExpired());
-  return false;
-}
+  bool isTaken(const DroppedThing& thing) {
+    return thing.conforms(DropType::fileURL) || thing.conforms(DropType::image);
+  }
 
-}  // namespace tarnloft::DropImport
+  void importChosen(const ImportServices& services, const QStringList& paths, FileKind kind,
+                    const QUuid& section, BrandDocument& document) {
+    const SharedImport import = begin(services, section, document);
+    for (const QString& path : paths) importFile(import, import->take(), path, kind);
+  }
+
+  }  // namespace
+
+  const QSet<QString>& fontExtensions() {
+    static const QSet<QString> extensions{QStringLiteral("otf"),  QStringLiteral("ttf"),
+                                          QStringLiteral("ttc"),  QStringLiteral("otc"),
+                                          QStringLiteral("woff"), QStringLiteral("woff2"),
+                                          QStringLiteral("dfont")};
+    return extensions;
+  }
+
+  bool handle(const ImportServices& services, const DroppedThings& things, const QUuid& section,
+              BrandDocument& document) {
+    if (moveDragged(things, section, document)) return true;
+    DroppedThings taken;
+    for (const auto& thing : things) {
+      if (isTaken(*thing)) taken << thing;
+    }
+    if (taken.isEmpty()) return false;
+    const SharedImport import = begin(services, section, document);
+    for (const auto& thing : taken) {
+      // A file comes as the file that it is, even where the source offers its picture too.
+      thing->conforms(DropType::fileURL) ? loadFile(import, *thing) : loadImage(import, *thing);
+    }
+    return true;
+  }
+
+  void importFiles(const ImportServices& services, const QStringList& paths, MediaKind kind,
+                   const QUuid& section, BrandDocument& document) {
+    importChosen(services, paths, kind == MediaKind::video ? FileKind::video : FileKind::image,
+                 section, document);
+  }
+
+  void importFontFiles(const ImportServices& services, const QStringList& paths,
+                       const QUuid& section, BrandDocument& document) {
+    importChosen(services, paths, FileKind::font, section, document);
+  }
+
+  bool finish(QThreadPool& workers, std::chrono::milliseconds patience) {
+    constexpr int pause = 20;  // milliseconds
+    const QDeadlineTimer deadline(patience);
+    do {
+      const bool isIdle = workers.waitForDone(pause);
+      QCoreApplication::sendPostedEvents(QCoreApplication::instance(), QEvent::MetaCall);
+      if (isIdle && workers.waitForDone(0)) return true;  // what came asked for nothing more
+    } while (!deadline.hasExpired());
+    return false;
+  }
+
+  }  // namespace tarnloft::DropImport

@@ -103,11 +103,9 @@ void BrandDocument::moveSection(const QUuid& section, const std::optional<QUuid>
 }
 
 void BrandDocument::openAssetFolder(std::function<void(const Result<AssetFolder>&)> done) {
-  services_.disk.ask(
-      [&files = services_.files, writer = writer_] {
-        return AssetFolder::make(files, writer->packageURL());
-      },
-      std::move(done));
+  services_.disk.ask([&files = services_.files,
+                      writer = writer_] { return AssetFolder::make(files, writer->packageURL()); },
+                     std::move(done));
 }
 
 Result<AssetRef> BrandDocument::importAsset(const QString& source) {

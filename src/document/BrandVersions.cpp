@@ -20,8 +20,8 @@ void BrandDocument::restoreVersion(const BrandVersion& version, UndoManager* und
   services_.disk.ask(
       [writer = writer_, version] { return writer->versions().read(version.url); },
       [document = QPointer(this),
-       undo = undoManager ? undoManager->handle() : std::weak_ptr<UndoManager>()](
-          const Result<VersionEnvelope>& envelope) {
+       undo = undoManager ? undoManager->handle()
+                          : std::weak_ptr<UndoManager>()](const Result<VersionEnvelope>& envelope) {
         if (!document || !envelope) return;
         document->mutate(QStringLiteral("Restore Version"), undo.lock().get(),
                          [&](Brand& brand) { brand = withDistinctIDs(envelope->brand); });
@@ -35,9 +35,9 @@ void BrandDocument::deleteVersion(const BrandVersion& version) {
 
 void BrandDocument::maybeAutoSnapshot() {
   if (invalidated_) return;
-  services_.disk.run([writer = writer_, brand = brand_, moment = services_.clock()] {
-    writer->autoSnapshot(brand, moment);
-  }, [] {}, DiskWork::Patience::none);
+  services_.disk.run([writer = writer_, brand = brand_,
+                      moment = services_.clock()] { writer->autoSnapshot(brand, moment); },
+                     [] {}, DiskWork::Patience::none);
 }
 
 void BrandDocument::sweep() {

@@ -85,16 +85,16 @@ QList<BrandVersion> PackageVersions::list() const {
 }
 
 Result<VersionEnvelope> PackageVersions::read(const QString& path) const {
-  return Package::readJson(files_, path, packageURL_)
-      .and_then([](const Package::ReadFile& file) { return decode<VersionEnvelope>(file.bytes); });
+  return Package::readJson(files_, path, packageURL_).and_then([](const Package::ReadFile& file) {
+    return decode<VersionEnvelope>(file.bytes);
+  });
 }
 
 Result<void> PackageVersions::write(const VersionEnvelope& envelope) {
   const auto json = encode(envelope).and_then(Package::checkedSize);
   if (!json) return tl::unexpected(json.error());
   if (auto made = makeFolder(); !made) return made;
-  const QString path =
-      freePath(files_, folder(), envelope.createdAt, QStringLiteral(".json"));
+  const QString path = freePath(files_, folder(), envelope.createdAt, QStringLiteral(".json"));
   auto written = writeAtomically(files_, path, Durability::synced,
                                  [&](FileWriter& file) { return file.write(*json); });
   if (written) prune({path, envelope.createdAt, envelope.label});
@@ -147,10 +147,9 @@ bool PackageVersions::hasNewer(qint64 schemaVersion) const {
   const QStringList names = files_.list(folder()).value_or(QStringList());
   return std::any_of(names.begin(), names.end(), [&](const QString& name) {
     if (!name.endsWith(newerExtension)) return false;
-    const auto file =
-        Package::readJson(files_, folder() + QLatin1Char('/') + name, packageURL_);
-    const auto brand = file.and_then(
-        [](const Package::ReadFile& read) { return decode<Brand>(read.bytes); });
+    const auto file = Package::readJson(files_, folder() + QLatin1Char('/') + name, packageURL_);
+    const auto brand =
+        file.and_then([](const Package::ReadFile& read) { return decode<Brand>(read.bytes); });
     return brand && brand->schemaVersion == schemaVersion;
   });
 }

@@ -25,8 +25,7 @@ Result<QByteArray> readable(const QByteArray& json) {
 
 // A rename changes a file's own record, and nothing else of its identity.
 bool isSameFile(const FileIdentity& a, const FileIdentity& b) {
-  return a.device == b.device && a.inode == b.inode && a.size == b.size &&
-         a.modified == b.modified;
+  return a.device == b.device && a.inode == b.inode && a.size == b.size && a.modified == b.modified;
 }
 
 bool isOfNewerProgram(const Decoded<Brand>& manifest) {
@@ -51,8 +50,8 @@ Result<OpenedPackage> PackageWriter::open(const DocumentServices& services,
   return OpenedPackage{std::move(writer), packageURL, withDistinctIDs(brand), {}};
 }
 
-Result<OpenedPackage> PackageWriter::create(const DocumentServices& services,
-                                            const QString& folder, const QString& name) {
+Result<OpenedPackage> PackageWriter::create(const DocumentServices& services, const QString& folder,
+                                            const QString& name) {
   const QString packageURL = Package::uniquePackageURL(services.files, folder, name);
   for (const QString& path :
        {packageURL, Package::assetsPath(packageURL), Package::thumbnailsPath(packageURL)}) {
@@ -65,8 +64,8 @@ Result<OpenedPackage> PackageWriter::create(const DocumentServices& services,
   return OpenedPackage{std::move(writer), packageURL, brand, report.written};
 }
 
-Result<void> PackageWriter::writeClosed(const DocumentServices& services,
-                                        const QString& packageURL, const Brand& brand) {
+Result<void> PackageWriter::writeClosed(const DocumentServices& services, const QString& packageURL,
+                                        const Brand& brand) {
   const auto opened = open(services, packageURL);
   const std::shared_ptr<PackageWriter> writer(
       opened ? opened->writer
@@ -108,9 +107,9 @@ SaveReport PackageWriter::saveStaged() {
 Result<void> PackageWriter::write(const Brand& brand) {
   const auto json = encode(brand).and_then(readable);
   if (!json) return tl::unexpected(json.error());
-  return findPackage(brand.id)
-      .and_then([&] { return keepPresent(); })
-      .and_then([&] { return replaceManifest(*json, brand); });
+  return findPackage(brand.id).and_then([&] { return keepPresent(); }).and_then([&] {
+    return replaceManifest(*json, brand);
+  });
 }
 
 // Another machine may have renamed the package, or thrown it away.
@@ -179,10 +178,10 @@ Result<void> PackageWriter::replaceManifest(const QByteArray& json, const Brand&
   const QString manifest = Package::manifestPath(packageURL_);
   const auto temporary = files.createTemporary(manifest);
   if (!temporary) return tl::unexpected(temporary.error());
-  auto replaced = (*temporary)
-                      ->write(json)
-                      .and_then([&] { return (*temporary)->sync(); })
-                      .and_then([&] { return files.exchange(**temporary, manifest); });
+  auto replaced =
+      (*temporary)->write(json).and_then([&] { return (*temporary)->sync(); }).and_then([&] {
+        return files.exchange(**temporary, manifest);
+      });
   if (!replaced) return tl::unexpected(replaced.error());
   if (auto settled = settleDisplaced(replaced->displacedPath); !settled) return settled;
   // Of the file that was written: what stands at its path by now may be another's.

@@ -24,9 +24,9 @@ struct SaveReport {
   enum class Place { same, moved, remade };
 
   Result<void> written;
-  quint64 revision = 0;        // of the brand that was tried last
-  Place place = Place::same;   // remade: the package had gone with its files
-  QString packageURL;          // where the package stands by now
+  quint64 revision = 0;       // of the brand that was tried last
+  Place place = Place::same;  // remade: the package had gone with its files
+  QString packageURL;         // where the package stands by now
 };
 
 // A package as its one open document writes it: knows the manifest as it last read or wrote it, and

@@ -35,9 +35,10 @@ struct PackageImport {
   }
 
   Result<QString> unpack(const QString& archive) const {
-    const QString folder = temporaryFolder + QStringLiteral("/ys-import-") +
-                           canonicalString(QUuid::createUuid());
-    auto brought = services.files.makeFolder(folder)
+    const QString folder =
+        temporaryFolder + QStringLiteral("/ys-import-") + canonicalString(QUuid::createUuid());
+    auto brought = services.files
+                       .makeFolder(folder)
                        // Half a package would pass for a whole one.
                        .and_then([&] { return archiver.extract(archive, folder); })
                        .and_then([&] { return bringFrom(folder); });
@@ -95,9 +96,8 @@ void LibraryStore::exportBrand(const BrandSummary& brand) {
   // Replaced only by a whole archive. Not synced: it can be made again, and may weigh gigabytes.
   const auto write = [&files = services_.document.files, &archiver = services_.archiver, packageURL,
                       path = *path] {
-    return writeAtomically(files, path, Durability::atomic, [&](FileWriter& file) {
-      return archiver.archive(packageURL, file);
-    });
+    return writeAtomically(files, path, Durability::atomic,
+                           [&](FileWriter& file) { return archiver.archive(packageURL, file); });
   };
   whenSaved(packageURL, [this, write, done](const Result<void>& saved) {
     if (!saved) return done(saved);

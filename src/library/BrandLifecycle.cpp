@@ -73,21 +73,23 @@ void LibraryStore::duplicateBrand(const BrandSummary& brand) {
 }
 
 void LibraryStore::deleteBrand(const BrandSummary& brand) {
-  deleteBy(brand,
-           [&trash = services_.trash, packageURL = brand.packageURL] {
-             return trash.moveToTrash(packageURL);
-           },
-           [this, brand](const Error& error) { emit trashRefused(brand, error.message); });
+  deleteBy(
+      brand,
+      [&trash = services_.trash, packageURL = brand.packageURL] {
+        return trash.moveToTrash(packageURL);
+      },
+      [this, brand](const Error& error) { emit trashRefused(brand, error.message); });
 }
 
 void LibraryStore::deleteBrandImmediately(const BrandSummary& brand) {
-  deleteBy(brand,
-           [&files = services_.document.files, packageURL = brand.packageURL] {
-             return files.removeFolder(packageURL);
-           },
-           [this, brand](const Error& error) {
-             notice(QStringLiteral("“%1” couldn't be deleted").arg(brand.name), error);
-           });
+  deleteBy(
+      brand,
+      [&files = services_.document.files, packageURL = brand.packageURL] {
+        return files.removeFolder(packageURL);
+      },
+      [this, brand](const Error& error) {
+        notice(QStringLiteral("“%1” couldn't be deleted").arg(brand.name), error);
+      });
 }
 
 // Its work is saved first, for the user may want it back; a save behind the removal would bring the
@@ -121,8 +123,8 @@ void LibraryStore::exportBrandPage(const BrandSummary& brand) {
 
 void LibraryStore::exportOpenBrandPage() {
   if (!openDocument_) return;
-  const auto exported = BrandPageExporter::exportPage(
-      *openDocument_, services_.document.files, services_.dialogs, services_.viewer);
+  const auto exported = BrandPageExporter::exportPage(*openDocument_, services_.document.files,
+                                                      services_.dialogs, services_.viewer);
   if (!exported) notice(QStringLiteral("The brand page couldn't be exported"), exported.error());
 }
 

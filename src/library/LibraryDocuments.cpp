@@ -94,8 +94,7 @@ void LibraryStore::packageMoved(BrandDocument& document) {
     emit selectionChanged();
     emit openDocumentChanged();
   }
-  const auto row =
-      std::ranges::find(brands_, document.packageURL(), &BrandSummary::packageURL);
+  const auto row = std::ranges::find(brands_, document.packageURL(), &BrandSummary::packageURL);
   if (row == brands_.cend()) scan();
 }
 
@@ -161,13 +160,16 @@ void LibraryStore::whenSaved(const QString& packageURL,
   if (!document || !document->hasUnsavedChanges()) return then({});
   document->saveNow();
   // The ends of what the disk does come in order, so this one comes behind the save's.
-  services_.document.disk.run([] {}, [store = QPointer(this), document, then = std::move(then)] {
-    if (!store) return;
-    const bool isSaved = !document || !document->hasUnsavedChanges();
-    then(isSaved ? Result<void>()
-                 : failure(ErrorKind::io, QStringLiteral("Its changes aren't saved: ") +
-                                              document->saveProblem()));
-  }, DiskWork::Patience::moment);
+  services_.document.disk.run(
+      [] {},
+      [store = QPointer(this), document, then = std::move(then)] {
+        if (!store) return;
+        const bool isSaved = !document || !document->hasUnsavedChanges();
+        then(isSaved ? Result<void>()
+                     : failure(ErrorKind::io, QStringLiteral("Its changes aren't saved: ") +
+                                                  document->saveProblem()));
+      },
+      DiskWork::Patience::moment);
 }
 
 void LibraryStore::whenLoaded(const QString& packageURL, std::function<void()> then) {
@@ -184,7 +186,8 @@ void LibraryStore::saveCopy() {
   if (!openDocument_) return;
   const auto folder = services_.dialogs.chooseFolder();
   if (!folder || !openDocument_) return;
-  const auto copy = [services = services_.document, folder = *folder, brand = openDocument_->brand(),
+  const auto copy = [services = services_.document, folder = *folder,
+                     brand = openDocument_->brand(),
                      packageURL = openDocument_->packageURL()]() -> Result<QString> {
     FileStore& files = services.files;
     const QString target = Package::uniquePackageURL(files, folder, brand.name);

@@ -18,10 +18,10 @@ struct Twin {
 // What stands in a library folder.
 struct Listing {
   QString folder;
-  Result<void> listed;                 // why there are no rows
+  Result<void> listed;                   // why there are no rows
   std::optional<FileIdentity> identity;  // of the folder
-  QList<BrandSummary> rows;            // in no order
-  QHash<QString, Twin> twins;          // by their packages
+  QList<BrandSummary> rows;              // in no order
+  QHash<QString, Twin> twins;            // by their packages
 };
 
 // The packages of the folder, those of the former extension included. A package whose manifest

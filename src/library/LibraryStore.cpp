@@ -19,9 +19,7 @@ DocumentServices withPlaces(DocumentServices services,
   return services;
 }
 
-QString quoted(const QString& path) {
-  return QStringLiteral("“") + path + QStringLiteral("”");
-}
+QString quoted(const QString& path) { return QStringLiteral("“") + path + QStringLiteral("”"); }
 
 }  // namespace
 
@@ -37,9 +35,8 @@ LibraryStore::LibraryStore(const LibraryServices& services)
   connect(&unsaved_, &UnsavedDocuments::changed, this, &LibraryStore::unsavedChanged);
   patience_.setSingleShot(true);
   patience_.setInterval(1500ms);
-  connect(&patience_, &QTimer::timeout, this, [this] {
-    setLibraryProblem(quoted(libraryURL_) + QStringLiteral(" doesn't answer."));
-  });
+  connect(&patience_, &QTimer::timeout, this,
+          [this] { setLibraryProblem(quoted(libraryURL_) + QStringLiteral(" doesn't answer.")); });
   lookAgain_.setSingleShot(true);
   lookAgain_.setInterval(3s);
   connect(&lookAgain_, &QTimer::timeout, this, &LibraryStore::scan);
@@ -106,7 +103,8 @@ void LibraryStore::libraryOpened(OpenedLibrary&& opened) {
 void LibraryStore::scan() {
   lookAgain_.stop();
   if (!patience_.isActive()) patience_.start();
-  change(services_.document.disk, [] { return true; }, [](bool) {});
+  change(
+      services_.document.disk, [] { return true; }, [](bool) {});
 }
 
 void LibraryStore::applyListing(const LibraryListing::Listing& listing) {

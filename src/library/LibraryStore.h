@@ -4,8 +4,8 @@
 #include "document/BrandPlace.h"
 #include "library/BrandSummary.h"
 #include "library/GlobalSearch.h"
-#include "library/LibraryPreferences.h"
 #include "library/LibraryListing.h"
+#include "library/LibraryPreferences.h"
 #include "library/LibraryServices.h"
 #include "library/PackagePlaces.h"
 #include "library/UnsavedDocuments.h"
@@ -18,8 +18,8 @@ namespace tarnloft {
 
 // The one long-lived model of the program: the library folder, the listing of its packages, the
 // selection and the one open document, and the app-wide preferences. `brands` changes only through
-// `scan`. The disk is worked on elsewhere: on a quick one all is done when a call returns, on a slow
-// one it follows, and the signals tell. Main thread only.
+// `scan`. The disk is worked on elsewhere: on a quick one all is done when a call returns, on a
+// slow one it follows, and the signals tell. Main thread only.
 class LibraryStore : public QObject {
   Q_OBJECT
 
@@ -215,8 +215,8 @@ class LibraryStore : public QObject {
   std::optional<QString> selection_;
   std::unique_ptr<BrandDocument> openDocument_;
   UnsavedDocuments unsaved_;
-  QSet<QString> loading_;  // packages
-  QList<Landing> landings_;  // for packages that are being loaded
+  QSet<QString> loading_;               // packages
+  QList<Landing> landings_;             // for packages that are being loaded
   std::function<void()> afterLoading_;  // of the selected package
   bool newBrandRequested_ = false;
   std::optional<QUuid> scrollToSection_;

@@ -34,7 +34,7 @@ Result<QByteArray> encode(const R& record) {
 }  // namespace tarnloft
 
 // Stands in namespace tarnloft.
-#define TARNLOFT_CODED(Type)                                              \
-  template Result<Type> decode<Type>(const QByteArray&);                  \
-  template Result<Decoded<Type>> decodeNoting<Type>(const QByteArray&);   \
+#define TARNLOFT_CODED(Type)                                            \
+  template Result<Type> decode<Type>(const QByteArray&);                \
+  template Result<Decoded<Type>> decodeNoting<Type>(const QByteArray&); \
   template Result<QByteArray> encode<Type>(const Type&);

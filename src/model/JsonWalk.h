@@ -93,7 +93,7 @@ class JsonWalk {
 
   template <Record R, class Take, size_t... Places>
   bool takeField(std::string_view key, Element content, FieldSet& seen, Take& take,
-                        std::index_sequence<Places...>) {
+                 std::index_sequence<Places...>) {
     static_assert(sizeof...(Places) <= 32);
     bool good = true;
     const auto takeIf = [&](auto place) {

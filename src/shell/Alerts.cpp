@@ -36,7 +36,9 @@ QString Alerts::saveProblem() const {
 
 QString Alerts::libraryProblem() const { return sentence(library_.libraryProblem()); }
 
-QString Alerts::noticeTitle() const { return notices_.isEmpty() ? QString() : notices_.first().title; }
+QString Alerts::noticeTitle() const {
+  return notices_.isEmpty() ? QString() : notices_.first().title;
+}
 
 QString Alerts::noticeMessage() const {
   return notices_.isEmpty() ? QString() : sentence(notices_.first().message);

@@ -8,8 +8,8 @@
 namespace tarnloft {
 
 // What a window tells of work that failed, and what it asks then: the bar over a brand that can't
-// be saved, the library that isn't there, notices, and the questions behind a trash that isn't to be
-// had and before quitting with unsaved work. Texts are empty while there is nothing to tell.
+// be saved, the library that isn't there, notices, and the questions behind a trash that isn't to
+// be had and before quitting with unsaved work. Texts are empty while there is nothing to tell.
 class Alerts : public QObject {
   Q_OBJECT
   QML_ELEMENT

@@ -98,10 +98,10 @@ void ContentModel::renewWorkspace() {
 }
 
 std::unique_ptr<BrandWorkspace> ContentModel::makeWorkspace(BrandDocument& document) {
-  services_.imports.workers.start([brand = document.brand(), package = document.files(),
-                                   &fonts = services_.imports.fonts] {
-    FontManager::registerAll(brand, package, fonts);
-  });
+  services_.imports.workers.start(
+      [brand = document.brand(), package = document.files(), &fonts = services_.imports.fonts] {
+        FontManager::registerAll(brand, package, fonts);
+      });
   document.maybeAutoSnapshot();
   return std::make_unique<BrandWorkspace>(document, selection_, toasts_, &undo_, services_);
 }

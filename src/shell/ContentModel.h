@@ -97,7 +97,7 @@ class ContentModel : public QObject {
   bool showNewBrand_ = false;
   QString newBrandName_;
   std::unique_ptr<BrandWorkspace> workspace_;
-  QString workspacePackage_;  // where its paths lead
+  QString workspacePackage_;              // where its paths lead
   QPointer<BrandDocument> undoDocument_;  // whose steps the undo has
 };
 

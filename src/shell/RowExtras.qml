@@ -13,6 +13,7 @@ Item {
     required property bool overHandle
     required property bool bare // nothing marks the row, so that its handle has to be shown
     required property real handleEnd
+    required property bool overEnd // behind the name
 
     FocusRing {
         anchors.margins: 0
@@ -40,6 +41,7 @@ Item {
 
         Help {
             text: "Changes aren't saved"
+            shown: root.unsaved && root.overEnd
         }
     }
 

@@ -67,7 +67,7 @@ QVariant SidebarModel::data(const QModelIndex& index, int role) const {
 
 QHash<int, QByteArray> SidebarModel::roleNames() const {
   return {{kind, "kind"}, {rowID, "rowID"},   {packageURL, "packageURL"}, {name, "name"},
-          {look, "look"}, {marked, "marked"}, {selected, "selected"}, {unsaved, "unsaved"}};
+          {look, "look"}, {marked, "marked"}, {selected, "selected"},     {unsaved, "unsaved"}};
 }
 
 int SidebarModel::selectedRow() const {
@@ -147,10 +147,9 @@ SidebarModel::Row SidebarModel::sectionRow(const Section& section, const QString
 
 EmblemLook SidebarModel::lookOf(const Row& row) const {
   const bool isBrand = row.kind == Kind::brand;
-  return emblemLook(
-      row.emblem,
-      {isBrand ? QStringLiteral("square.stack.3d.up") : QStringLiteral("rectangle.grid.1x2"),
-       row.packageURL, isBrand ? row.name : QString(), row.accent});
+  return emblemLook(row.emblem, {isBrand ? QStringLiteral("square.stack.3d.up")
+                                         : QStringLiteral("rectangle.grid.1x2"),
+                                 row.packageURL, isBrand ? row.name : QString(), row.accent});
 }
 
 }  // namespace tarnloft

@@ -90,6 +90,7 @@ Item {
                 overHandle: area.overHandle && !area.dragging
                 bare: area.containsMouse && root.isBrand && !root.marked
                 handleEnd: area.handleEnd
+                overEnd: area.containsMouse && area.mouseX > label.x + label.width
             }
         }
     }

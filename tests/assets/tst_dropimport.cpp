@@ -60,7 +60,8 @@ struct Dropping {
   }
   ~Dropping() { finish(); }
   ImportServices services() {
-    return {types, fonts, workers, [this](const BrandPlace&, const QUuid& section, const auto& items) {
+    return {types, fonts, workers,
+            [this](const BrandPlace&, const QUuid& section, const auto& items) {
               addedToClosed << qMakePair(section, items);
             },
             [this](const QStringList& names, const QString&) { failed << names; }};

@@ -179,7 +179,8 @@ void TestKeyboard::aDialogAnswersOnce_data() {
   QTest::newRow("return confirms") << "" << QList<int>{Key_Return} << "confirmed";
   QTest::newRow("escape dismisses") << "" << QList<int>{Key_Escape} << "dismissed";
   QTest::newRow("return cancels") << cancelling << QList<int>{Key_Return} << "dismissed";
-  QTest::newRow("past cancel") << cancelling << QList<int>{Key_Tab, Key_Tab, Key_Space} << "confirmed";
+  QTest::newRow("past cancel") << cancelling << QList<int>{Key_Tab, Key_Tab, Key_Space}
+                               << "confirmed";
   QTest::newRow("a third button") << third << QList<int>{Key_Tab, Key_Space} << "other";
   QTest::newRow("past the third") << third << QList<int>{Key_Return} << "confirmed";
 }
@@ -188,11 +189,10 @@ void TestKeyboard::aDialogAnswersOnce() {
   QFETCH(QString, kind);
   QFETCH(QList<int>, keys);
   QFETCH(QString, log);
-  Stage stage(
-      QStringLiteral("ConfirmationDialog { objectName: 'dialog'; title: 'Really?'; %1\n"
-                     "  onConfirmed: log('confirmed'); onDismissed: log('dismissed')\n"
-                     "  onAlternativeChosen: log('other') }")
-          .arg(kind));
+  Stage stage(QStringLiteral("ConfirmationDialog { objectName: 'dialog'; title: 'Really?'; %1\n"
+                             "  onConfirmed: log('confirmed'); onDismissed: log('dismissed')\n"
+                             "  onAlternativeChosen: log('other') }")
+                  .arg(kind));
   for (const QString& sofar : {log, log + ' ' + log}) {
     QMetaObject::invokeMethod(stage.find("dialog"), "open");
     QTRY_VERIFY(stage.find("dialog")->property("opened").toBool());

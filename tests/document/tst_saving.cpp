@@ -183,8 +183,8 @@ void TestSaving::bytesOfANewerProgramAreKept_data() {
   QTest::addColumn<QByteArray>("to");
   QTest::addColumn<bool>("isKept");
   QTest::newRow("ours") << QByteArray("\"id\"") << QByteArray("\"id\"") << false;
-  QTest::newRow("a key of the brand") << QByteArray("{\n  \"c")
-                                      << QByteArray("{ \"boards\": [1],\n  \"c") << true;
+  QTest::newRow("a key of the brand")
+      << QByteArray("{\n  \"c") << QByteArray("{ \"boards\": [1],\n  \"c") << true;
   QTest::newRow("a key of a section") << QByteArray("\"name\" : \"Logos\"")
                                       << QByteArray("\"name\" : \"Logos\", \"grid\": 3") << true;
   QTest::newRow("another schema") << QByteArray("\"schemaVersion\" : 1")

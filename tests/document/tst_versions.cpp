@@ -283,7 +283,8 @@ void TestVersions::whatWasJustKeptStays() {
   const auto versions = brand.document->listVersions();
   QCOMPARE(versions.size(), 30);
   QCOMPARE(PackageVersions(brand.store, brand.document->packageURL())
-               .read(versions.last().url)->brand.name,
+               .read(versions.last().url)
+               ->brand.name,
            "The newest of theirs");
 }
 

@@ -244,9 +244,7 @@ void TestSafety::itemsFindTheirBrandWhereverItIs() {
   Safe safe;
   const BrandPlace acme{safe.library.packagePath("Acme"), safe.row("Acme").brandID};
   const QUuid section = safe.open()->brand().sections.first().id;
-  const auto add = [&] {
-    safe.store().addItems(acme, section, {Item::create(TextPayload{"x"})});
-  };
+  const auto add = [&] { safe.store().addItems(acme, section, {Item::create(TextPayload{"x"})}); };
   add();
   safe.store().renameSelectedBrand("Renamed");
   add();

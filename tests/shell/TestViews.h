@@ -32,7 +32,8 @@ struct Views : TestShell {
   QQuickWindow& window() const { return *main->window(); }
 
   // The item that assistive technology knows by that role and name; null for none that is visible.
-  QQuickItem* item(QAccessible::Role role, const QString& name, QQuickItem* within = nullptr) const {
+  QQuickItem* item(QAccessible::Role role, const QString& name,
+                   QQuickItem* within = nullptr) const {
     return find(within ? within : window().contentItem(), role, name);
   }
   void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {

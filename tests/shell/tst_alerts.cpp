@@ -42,8 +42,12 @@ struct Alarmed : Views {
     Views::start();
   }
   // Puts a folder where the manifest was, which no save replaces.
-  void block() const { QVERIFY(QFile::rename(manifest, manifest + ".old") && QDir().mkdir(manifest)); }
-  void unblock() const { QVERIFY(QDir().rmdir(manifest) && QFile::rename(manifest + ".old", manifest)); }
+  void block() const {
+    QVERIFY(QFile::rename(manifest, manifest + ".old") && QDir().mkdir(manifest));
+  }
+  void unblock() const {
+    QVERIFY(QDir().rmdir(manifest) && QFile::rename(manifest + ".old", manifest));
+  }
   // Makes a change that can't be saved.
   void failToSave() {
     block();

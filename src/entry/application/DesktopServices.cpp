@@ -16,8 +16,7 @@ std::unique_ptr<ColorSampler> makeColorSampler() { return std::make_unique<Deskt
 
 // Before anything else looks at the disk, on whose thread all does.
 DesktopServices::DesktopServices() {
-  disk.run([this] { SupportFolder::migrateIfNeeded(files, log); }, [] {},
-           DiskWork::Patience::none);
+  disk.run([this] { SupportFolder::migrateIfNeeded(files, log); }, [] {}, DiskWork::Patience::none);
 }
 
 LibraryServices DesktopServices::forLibrary() {
@@ -66,9 +65,8 @@ bool DesktopServices::finish(std::chrono::milliseconds patience) {
   const auto remaining = [&] { return int(deadline.remainingTime()); };
   workers.clear();
   return media.work.finish(std::chrono::milliseconds(remaining())) &&
-         workers.waitForDone(remaining()) &&
-         disk.finish(std::chrono::milliseconds(remaining())) && copies.finish({}) &&
-         QThreadPool::globalInstance()->waitForDone(remaining());
+         workers.waitForDone(remaining()) && disk.finish(std::chrono::milliseconds(remaining())) &&
+         copies.finish({}) && QThreadPool::globalInstance()->waitForDone(remaining());
 }
 
 QString DesktopServices::stateFile() {

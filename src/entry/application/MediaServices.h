@@ -12,7 +12,8 @@ namespace tarnloft {
 // Pictures and clips, and the one place that keeps their thumbnails. Nothing of it is loaded before
 // the first file is asked for.
 struct MediaServices {
-  explicit MediaServices(const FileStore& files) : images(files, lateImages), videos(files, lateVideos) {}
+  explicit MediaServices(const FileStore& files)
+      : images(files, lateImages), videos(files, lateVideos) {}
 
   LateImages lateImages;
   LateVideos lateVideos;

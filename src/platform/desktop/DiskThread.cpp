@@ -42,7 +42,9 @@ void DiskThread::Shared::serve() {
     worked.push_back(std::move(task));
     asked.pop_front();
     changed.notify_all();
-    if (owner) QMetaObject::invokeMethod(owner, [o = owner] { o->deliver(); }, Qt::QueuedConnection);
+    if (owner)
+      QMetaObject::invokeMethod(
+          owner, [o = owner] { o->deliver(); }, Qt::QueuedConnection);
   }
   hasEnded = true;
   changed.notify_all();
