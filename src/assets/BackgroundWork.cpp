@@ -22,7 +22,7 @@ BackgroundWork::TaskPtr BackgroundWork::Queue::take(const Task& task) {
   const QMutexLocker lock(&mutex);
   const auto place = std::ranges::find(waiting, &task, &TaskPtr::get);
   if (place == waiting.end()) return nullptr;
-  const TaskPtr taken = std::move(*place);
+  TaskPtr taken = std::move(*place);
   waiting.erase(place);
   return taken;
 }
@@ -30,7 +30,7 @@ BackgroundWork::TaskPtr BackgroundWork::Queue::take(const Task& task) {
 BackgroundWork::TaskPtr BackgroundWork::Queue::takeNewest() {
   const QMutexLocker lock(&mutex);
   if (waiting.empty()) return nullptr;
-  const TaskPtr taken = std::move(waiting.back());
+  TaskPtr taken = std::move(waiting.back());
   waiting.pop_back();
   return taken;
 }
@@ -61,7 +61,7 @@ BackgroundWork::~BackgroundWork() {
 
 BackgroundWork::TaskPtr BackgroundWork::start(std::function<void()> work,
                                               std::function<void()> done) {
-  const auto task = std::make_shared<Task>();
+  auto task = std::make_shared<Task>();
   task->queue_ = queue_;
   task->work_ = std::move(work);
   task->done_ = std::move(done);

@@ -1,9 +1,11 @@
 """The program as a user runs it, what it keeps on disk, and the other programs on the desktop."""
 import configparser
+import contextlib
 import json
 import os
 import pathlib
 import shutil
+import signal
 import subprocess
 import threading
 import time
@@ -157,18 +159,36 @@ def _partner(command):
 
 
 class Program(Process):
-    """Tarn Loft, started by the user of a home and used by its accessible tree."""
+    """Tarn Loft, started by the user of a home and used by its accessible tree.
 
-    def __init__(self, home):
-        self._alerts = accessible.Alerts()  # before it asks who listens
-        self.toasts = self._alerts.said
+    While another program stands still, alerts can't be heard: the library would wait for it."""
+
+    def __init__(self, home, hears_alerts=True):
+        self._alerts = accessible.Alerts() if hears_alerts else None  # before it asks who listens
+        self.toasts = self._alerts.said if hears_alerts else []
         super().__init__([os.environ["TARNLOFT"]], home.environment | {
             "QT_QUICK_BACKEND": "software", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"})
         self.home = home
 
     def kill(self):
         super().kill()
-        self._alerts.end()
+        self._stop_hearing()
+
+    def _stop_hearing(self):
+        if self._alerts:
+            self._alerts.end()
+            self._alerts = None
+
+    @contextlib.contextmanager
+    def stopped(self):
+        """Without a turn of the processor meanwhile, and unheard from then on."""
+        self._stop_hearing()
+        os.kill(self.pid, signal.SIGSTOP)
+        try:
+            yield
+        finally:
+            if not self.has_ended():
+                os.kill(self.pid, signal.SIGCONT)
 
     @property
     def tree(self):

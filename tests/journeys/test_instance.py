@@ -1,4 +1,5 @@
 """One running program, and its end."""
+import os
 import unittest
 
 from desktop import press, until, visible_window, xdotool
@@ -21,6 +22,42 @@ class OneInstance(Journey):
                 self.assertEqual(second.wait(), 0)
                 until(lambda: tarn.is_active, "the first start's window in front")
                 self.assertFalse(tarn.has_ended())
+
+    def test_one_that_does_not_answer_is_waited_for(self):
+        tarn = self.start()
+        with tarn.stopped():
+            second = self.start_behind()
+            press("Escape")
+            self.assertEqual(second.wait(), 1)
+            second = self.start_behind()
+        self.assertEqual(second.wait(), 0)
+        until(lambda: tarn.is_active, "the first start's window in front")
+        self.assertFalse(tarn.has_ended())
+
+    def test_one_that_does_not_answer_can_be_ended(self):
+        self.home.add_brand("Acme", ["Colors"])
+        tarn = self.start()
+        with tarn.stopped():
+            second = self.start_behind()
+            second.click("push button", "End It")
+            until(tarn.has_ended, "the end of the first start")
+        second.find("heading", "Acme")
+        self.assertFalse(second.has_ended())
+
+    def test_without_a_display_it_says_so(self):
+        tarn = self.start()
+        with tarn.stopped():
+            second = Process([os.environ["TARNLOFT"]], self.home.environment | {"DISPLAY": ""})
+            self.assertEqual(second.wait(), 1)
+        self.assertEqual(second.lines, ["Tarn Loft: it runs already, but doesn't answer"])
+        second.kill()
+
+    def start_behind(self):
+        """A start that tells that the first one doesn't answer."""
+        second = self.beside(Program(self.home, hears_alerts=False))
+        second.find("dialog", "Tarn Loft runs already, but doesn’t answer.")
+        self.assertEqual(second.focus, "Cancel")
+        return second
 
     def test_without_a_tray_closing_the_last_window_ends_the_program(self):
         acme = self.home.add_brand("Acme", ["Colors"])

@@ -1,9 +1,13 @@
 // One start of a program that runs once a user, for the test of it: says on standard output what it
-// became, and as the first, each time that another start asks for its window.
-#include "platform/desktop/instance/RunningInstance.h"
+// became, and as the first, each time that another start asks for its window. Arguments: the
+// folder, its patience in milliseconds, and what follows on no answer: "ask" on, or "end" the other
+// one. The word "deaf" makes it one that doesn't end when it is asked to.
+#include "platform/desktop/instance/UnansweringInstance.h"
 
 #include <QCoreApplication>
+#include <QTimer>
 
+#include <csignal>
 #include <cstdio>
 
 using namespace tarnloft;
@@ -15,16 +19,40 @@ void say(const char* text) {
   std::fflush(stdout);
 }
 
+using Start = RunningInstance::Start;
+
+Start askOn(RunningInstance& instance, const QString& how) {
+  UnansweringInstance other(instance);
+  Start became = Start::noAnswer;
+  QObject::connect(&other, &UnansweringInstance::settled, [&](Start start) {
+    became = start;
+    QCoreApplication::quit();
+  });
+  QObject::connect(&other, &UnansweringInstance::endFailed, [] {
+    say("failed");
+    QCoreApplication::quit();
+  });
+  QTimer::singleShot(300, &other, [&] {  // behind the first question
+    if (how == QLatin1String("end")) other.end(std::chrono::milliseconds(300));
+  });
+  QCoreApplication::exec();
+  return became;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-  RunningInstance instance(QString::fromLocal8Bit(argv[1]));
-  switch (instance.claim(std::chrono::milliseconds(argc > 2 ? std::atoi(argv[2]) : 10000))) {
-    case RunningInstance::Start::shown: say("shown"); return 0;
-    case RunningInstance::Start::noAnswer: say("no answer"); return 1;
-    case RunningInstance::Start::first: break;
-  }
   const QCoreApplication application(argc, argv);
+  const QStringList words = QCoreApplication::arguments().mid(1);
+  RunningInstance instance(words.first());
+  if (words.last() == QLatin1String("deaf")) std::signal(SIGTERM, SIG_IGN);
+  Start start = instance.claim(std::chrono::milliseconds(words.value(1, "10000").toInt()));
+  if (start == Start::noAnswer) {
+    say("no answer");
+    if (words.size() > 2) start = askOn(instance, words.at(2));
+  }
+  if (start == Start::shown) say("shown");
+  if (start != Start::first) return start == Start::shown ? 0 : 1;
   QObject::connect(&instance, &RunningInstance::showRequested, [] { say("asked"); });
   if (!instance.listen()) return 2;
   say("first");

@@ -1,6 +1,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLocalSocket>
+#include <QLockFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -18,6 +19,10 @@ class TestInstance : public QObject {
   void startsAtTheSameMomentAgreeOnOne();
   void aStrangerOnTheSocketDoesNoHarm();
   void givesUpOnOneThatDoesNotAnswer();
+  void asksOnUntilItAnswers();
+  void endsOneThatDoesNotAnswer_data();
+  void endsOneThatDoesNotAnswer();
+  void endsNoOtherProgram();
 };
 
 namespace {
@@ -122,6 +127,55 @@ void TestInstance::givesUpOnOneThatDoesNotAnswer() {
   QCOMPARE(exitCode(second), 1);
   ::kill(pid_t(first.processId()), SIGCONT);
   QCOMPARE(line(starts.start()), QByteArray("shown"));
+}
+
+void TestInstance::asksOnUntilItAnswers() {
+  Starts starts;
+  QProcess& first = starts.start();
+  QCOMPARE(line(first), QByteArray("first"));
+  ::kill(pid_t(first.processId()), SIGSTOP);
+  QProcess& second = starts.start({"200", "ask"});
+  QCOMPARE(line(second), QByteArray("no answer"));
+  ::kill(pid_t(first.processId()), SIGCONT);
+  QCOMPARE(line(second), QByteArray("shown"));
+  QCOMPARE(exitCode(second), 0);
+  QCOMPARE(line(first), QByteArray("asked"));
+  QCOMPARE(first.state(), QProcess::Running);
+}
+
+void TestInstance::endsOneThatDoesNotAnswer_data() {
+  QTest::addColumn<QStringList>("words");
+  QTest::addColumn<int>("signal");
+  QTest::newRow("as it is asked to") << QStringList() << SIGTERM;
+  QTest::newRow("by force") << QStringList({"10000", "deaf"}) << SIGKILL;
+}
+
+// It goes on as soon as it is asked to end, and its answers don't count any more.
+void TestInstance::endsOneThatDoesNotAnswer() {
+  QFETCH(QStringList, words);
+  QFETCH(int, signal);
+  Starts starts;
+  QProcess& first = starts.start(words);
+  QCOMPARE(line(first), QByteArray("first"));
+  ::kill(pid_t(first.processId()), SIGSTOP);
+  QProcess& second = starts.start({"200", "end"});
+  QCOMPARE(line(second), QByteArray("no answer"));
+  QCOMPARE(line(second), QByteArray("first"));
+  QVERIFY(first.waitForFinished(20000));
+  QCOMPARE(first.exitStatus(), QProcess::CrashExit);
+  QCOMPARE(first.exitCode(), signal);
+  QCOMPARE(line(starts.start()), QByteArray("shown"));
+  QCOMPARE(line(second), QByteArray("asked"));
+}
+
+void TestInstance::endsNoOtherProgram() {
+  Starts starts;
+  QLockFile lock(starts.folder.filePath("tarnloft.lock"));
+  QVERIFY(lock.lock());
+  QProcess& second = starts.start({"200", "end"});
+  QCOMPARE(line(second), QByteArray("no answer"));
+  QCOMPARE(line(second), QByteArray("failed"));
+  QCOMPARE(exitCode(second), 1);
 }
 
 QTEST_GUILESS_MAIN(TestInstance)

@@ -17,6 +17,7 @@ Page {
         Button { text: "New Brand…"; onClicked: naming.open() }
         Button { text: "Move to Trash…"; onClicked: trashing.open() }
         Button { text: "Alert"; onClicked: alert.open() }
+        Button { text: "Alert Window"; onClicked: alertWindow.show() }
         Button {
             id: popoverButton
 
@@ -48,6 +49,17 @@ Page {
             title: "The library folder can't be used."
             message: "Choose another folder."
             cancelText: ""
+        }
+
+        AlertWindow {
+            id: alertWindow
+
+            title: "Tarn Loft doesn’t answer"
+            heading: "Tarn Loft runs already, but doesn’t answer."
+            message: "If you end it, changes of the last moment may be lost."
+            confirmText: "End It"
+            onConfirmed: busy = true
+            onDismissed: close()
         }
     }
     Specimen {

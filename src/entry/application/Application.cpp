@@ -1,5 +1,6 @@
 #include "entry/ApplicationModule.h"
 #include "entry/application/TarnLoftApp.h"
+#include "entry/application/UnansweredStart.h"
 #include "entry/late/LateServices.h"
 #include "entry/selftest/SelfTest.h"
 #include "platform/controls/Typography.h"
@@ -22,13 +23,19 @@ using namespace tarnloft;
 
 namespace {
 
+using Start = RunningInstance::Start;
+
 int fail(const char* reason) {
   std::fprintf(stderr, "Tarn Loft: %s\n", reason);
   return 1;
 }
 
+// The toolkit ends a process without one.
+bool hasDisplay() {
+  return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
 int runWindows(RunningInstance& instance) {
-  prepareTypography();
   TarnLoftApp app;
   QObject::connect(&instance, &RunningInstance::showRequested, &app.appDelegate(),
                    &AppDelegate::applicationShouldHandleReopen);
@@ -52,15 +59,21 @@ int tarnloftSelfTest(int argc, char** argv) {
 
 int tarnloftApplication(int argc, char** argv) {
   RunningInstance instance(RunningInstance::runtimeFolder());
-  switch (instance.claim()) {
-    case RunningInstance::Start::shown: return 0;
-    case RunningInstance::Start::noAnswer: return fail("it runs already, but doesn't answer");
-    case RunningInstance::Start::first: break;
-  }
+  auto start = instance.claim();
+  if (start == Start::shown) return 0;
+  if (start == Start::noAnswer && !hasDisplay()) return fail("it runs already, but doesn't answer");
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("tarnloft"));
-  QApplication::setApplicationDisplayName(QStringLiteral("Tarn Loft"));
   QApplication::setDesktopFileName(QStringLiteral("tarnloft"));
   QApplication::setQuitOnLastWindowClosed(false);
+  prepareTypography();
+  if (start == Start::noAnswer) start = UnansweredStart(instance).ask();
+  switch (start) {
+    case Start::shown: return 0;
+    case Start::noAnswer: return 1;
+    case Start::first: break;
+  }
+  // From here on, as the toolkit puts it behind each title that doesn't end with it.
+  QApplication::setApplicationDisplayName(QStringLiteral("Tarn Loft"));
   return runWindows(instance);
 }

@@ -9,8 +9,6 @@
 namespace tarnloft {
 namespace {
 
-const QByteArray showRequest = QByteArrayLiteral("show\n");
-const QByteArray shownAnswer = QByteArrayLiteral("shown\n");
 constexpr int pause = 20;  // milliseconds between two tries
 
 }  // namespace
@@ -26,20 +24,26 @@ RunningInstance::RunningInstance(const QString& folder)
 RunningInstance::Start RunningInstance::claim(std::chrono::milliseconds patience) {
   const QDeadlineTimer deadline(patience);
   do {
-    if (lock_.tryLock(0)) return Start::first;
+    if (tryClaim()) return Start::first;
     if (askToShow(deadline)) return Start::shown;
     QThread::msleep(pause);  // it starts or ends just now
   } while (!deadline.hasExpired());
   return Start::noAnswer;
 }
 
+std::optional<qint64> RunningInstance::holder() const {
+  qint64 process = 0;
+  QString host, program;
+  return lock_.getLockInfo(&process, &host, &program) ? std::optional(process) : std::nullopt;
+}
+
 bool RunningInstance::askToShow(const QDeadlineTimer& deadline) const {
   QLocalSocket socket;
   socket.connectToServer(socketPath_);
   if (!socket.waitForConnected(int(deadline.remainingTime()))) return false;
-  socket.write(showRequest);
+  socket.write(showRequest());
   QByteArray answer;
-  while (answer != shownAnswer) {
+  while (answer != shownAnswer()) {
     if (!socket.waitForReadyRead(int(deadline.remainingTime()))) return false;
     answer += socket.readAll();
   }
@@ -55,10 +59,10 @@ void RunningInstance::answerNext() {
   QLocalSocket* const socket = server_.nextPendingConnection();
   connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
   connect(socket, &QLocalSocket::readyRead, this, [this, socket] {
-    if (socket->bytesAvailable() < showRequest.size()) return;
-    if (socket->read(showRequest.size()) != showRequest) return socket->abort();
+    if (socket->bytesAvailable() < showRequest().size()) return;
+    if (socket->read(showRequest().size()) != showRequest()) return socket->abort();
     emit showRequested();
-    socket->write(shownAnswer);
+    socket->write(shownAnswer());
   });
 }
 

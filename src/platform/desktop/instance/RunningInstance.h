@@ -6,6 +6,7 @@
 #include <QObject>
 
 #include <chrono>
+#include <optional>
 
 namespace tarnloft {
 
@@ -26,10 +27,20 @@ class RunningInstance : public QObject {
 
   // Decides which this process is. Waits for another one that is just starting or ending, at most
   // that long. Needs no application object.
-  Start claim(std::chrono::milliseconds patience = std::chrono::seconds(10));
+  Start claim(std::chrono::milliseconds patience = std::chrono::seconds(3));
+
+  // The same without waiting and without asking: true if this process is the first from now on.
+  bool tryClaim() { return lock_.tryLock(0); }
+  // The process that holds the lock, if that can be read.
+  std::optional<qint64> holder() const;
 
   // The first instance's: answers other starts from now on. Needs an application object.
   bool listen();
+
+  // How a later start asks, and what it is told when the window is shown.
+  const QString& socketPath() const { return socketPath_; }
+  static QByteArray showRequest() { return QByteArrayLiteral("show\n"); }
+  static QByteArray shownAnswer() { return QByteArrayLiteral("shown\n"); }
 
   // The user's folder for files that live as long as the session.
   static QString runtimeFolder();
