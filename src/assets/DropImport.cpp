@@ -19,20 +19,66 @@ struct ImportedFile {
   std::optional<FontNames> fontNames;
 };
 
-// One call's way into a document.
-struct Import {
-  ImportServices services;
-  AssetFolder folder;
-  ItemLanding landing;
+// One call's way into a document. What comes before the package's folder is open waits for it.
+class Import {
+ public:
+  Import(const ImportServices& services, const QUuid& section, BrandDocument& document)
+      : services_(services), landing_(document, section, services.addToClosed) {}
+
+  const ImportServices& services() const { return services_; }
+  ItemLanding::Place take() {
+    ++open_;
+    return landing_.take();
+  }
+
+  // The folder, or why there is none.
+  void begin(Result<AssetFolder> folder) {
+    folder_ = std::move(folder);
+    for (const auto& work : std::exchange(waiting_, {})) work();
+  }
+  void whenBegun(std::function<void()> work) {
+    folder_ ? work() : waiting_.push_back(std::move(work));
+  }
+  const Result<AssetFolder>& folder() const { return *folder_; }
+
+  // `name` is what the user knows it by.
+  void land(ItemLanding::Place place, const QString& name, const Result<Item>& item);
+  // For what can't be told from nothing.
+  void drop(ItemLanding::Place place) {
+    landing_.land(place, std::nullopt);
+    ended();
+  }
+
+ private:
+  void ended() {
+    if (--open_ == 0 && !failed_.isEmpty() && services_.failed) {
+      services_.failed(std::exchange(failed_, {}), reason_);
+    }
+  }
+
+  const ImportServices services_;
+  ItemLanding landing_;
+  std::optional<Result<AssetFolder>> folder_;
+  std::vector<std::function<void()>> waiting_;
+  int open_ = 0;  // places that nothing has landed on
+  QStringList failed_;
+  QString reason_;  // of the first one
 };
 using SharedImport = std::shared_ptr<Import>;
 
-// Null if the package has no place for files.
+void Import::land(ItemLanding::Place place, const QString& name, const Result<Item>& item) {
+  if (!item) {
+    if (failed_.isEmpty()) reason_ = item.error().message;
+    failed_ << name;
+  }
+  landing_.land(place, item ? std::optional(*item) : std::nullopt);
+  ended();
+}
+
 SharedImport begin(const ImportServices& services, const QUuid& section, BrandDocument& document) {
-  const auto folder = document.assetFolder();
-  if (!folder) return nullptr;
-  return std::make_shared<Import>(
-      Import{services, *folder, ItemLanding(document, section, services.addToClosed)});
+  const auto import = std::make_shared<Import>(services, section, document);
+  document.openAssetFolder([import](const Result<AssetFolder>& folder) { import->begin(folder); });
+  return import;
 }
 
 // Runs `work` on a worker and `done` with its result on the main thread.
@@ -57,20 +103,20 @@ FileKind automaticKind(const ContentTypes& types, const QString& path) {
 }
 
 // Worker.
-std::optional<ImportedFile> bringIn(const Import& import, const QString& path,
-                                    std::optional<FileKind> kind) {
-  ImportedFile file{kind ? *kind : automaticKind(import.services.types, path),
+Result<ImportedFile> bringIn(const ImportServices& services, const AssetFolder& folder,
+                             const QString& path, std::optional<FileKind> kind) {
+  ImportedFile file{kind ? *kind : automaticKind(services.types, path),
                     {},
                     lastPathComponent(withoutPathExtension(path)),
                     std::nullopt};
-  auto asset = import.folder.copyIn(path);
-  if (!asset) return std::nullopt;
+  auto asset = folder.copyIn(path);
+  if (!asset) return tl::unexpected(asset.error());
   file.asset = *asset;
-  if (file.kind == FileKind::font) {
-    const QString copy = import.folder.pathOf(file.asset);
+  const auto copy = folder.pathOf(file.asset);
+  if (file.kind == FileKind::font && copy) {
     // Here rather than on the main thread, which unwrapping a large file would hold up.
-    import.services.fonts.registerForProcess(copy);
-    file.fontNames = import.services.fonts.names(copy);
+    services.fonts.registerForProcess(*copy);
+    file.fontNames = services.fonts.names(*copy);
   }
   return file;
 }
@@ -90,125 +136,139 @@ ItemPayload payloadOf(const ImportedFile& file) {
   return ImagePayload{file.asset, file.displayName};
 }
 
-void land(Import& import, ItemLanding::Place place, const std::optional<ImportedFile>& file) {
-  import.landing.land(place, file ? std::optional(Item::create(payloadOf(*file))) : std::nullopt);
-}
-
 // `kind` is what the user chose; by content and extension if there is none.
 void importFile(const SharedImport& import, ItemLanding::Place place, const QString& path,
                 std::optional<FileKind> kind) {
+  const auto landed = [import, place, path](const Result<ImportedFile>& file) {
+    import->land(place, lastPathComponent(path), file.map([](const ImportedFile& imported) {
+      return Item::create(payloadOf(imported));
+    }));
+};
+  import->whenBegun([import, path, kind, landed] {
+    const auto& folder = import->folder();
+  if (!folder) return landed(tl::unexpected(folder.error()));
   inBackground(
-      import->services.workers, [import, path, kind] { return bringIn(*import, path, kind); },
-      [import, place](const auto& file) { land(*import, place, file); });
-}
-
-// Blanks and tabs at both ends go, line ends stay.
-QString withoutBlanks(const QString& name) {
-  const auto isBlank = [](QChar c) {
-    return c == QLatin1Char('\t') || c.category() == QChar::Separator_Space;
-  };
-  qsizetype begin = 0, end = name.size();
-  while (begin < end && isBlank(name.at(begin))) ++begin;
-  while (end > begin && isBlank(name.at(end - 1))) --end;
-  return name.mid(begin, end - begin);
-}
-
-// The bytes are kept as they came, even if they are no PNG.
-void importImage(const SharedImport& import, ItemLanding::Place place, const QByteArray& data,
-                 const QString& suggestedName) {
-  const QString base =
-      suggestedName.isEmpty() ? QStringLiteral("Image") : withoutPathExtension(suggestedName);
-  inBackground(
-      import->services.workers,
-      [import, data, base] {
-        return import->folder.write(data, base + QStringLiteral(".png"), QStringLiteral("png"));
+      import->services().workers,
+      [import, folder = *folder, path, kind] {
+        return bringIn(import->services(), folder, path, kind);
       },
-      [import, place, base](const Result<AssetRef>& asset) {
-        import->landing.land(
-            place, asset ? std::optional(Item::create(ImagePayload{*asset, base})) : std::nullopt);
-      });
-}
-
-void loadFile(const SharedImport& import, DroppedThing& thing) {
-  const ItemLanding::Place place = import->landing.take();
-  thing.loadURL([import, place](const std::optional<QString>& path) {
-    if (!path) return import->landing.land(place, std::nullopt);
-    importFile(import, place, *path, std::nullopt);
+      landed);
   });
-}
+  }
 
-void loadImage(const SharedImport& import, DroppedThing& thing) {
-  const ItemLanding::Place place = import->landing.take();
-  const QString name = withoutBlanks(thing.suggestedName());
-  thing.loadData(DropType::image, [import, place, name](const std::optional<QByteArray>& data) {
-    if (!data) return import->landing.land(place, std::nullopt);
-    importImage(import, place, *data, name);
+  // Blanks and tabs at both ends go, line ends stay.
+  QString withoutBlanks(const QString& name) {
+    const auto isBlank = [](QChar c) {
+      return c == QLatin1Char('\t') || c.category() == QChar::Separator_Space;
+    };
+    qsizetype begin = 0, end = name.size();
+    while (begin < end && isBlank(name.at(begin))) ++begin;
+    while (end > begin && isBlank(name.at(end - 1))) --end;
+    return name.mid(begin, end - begin);
+  }
+
+  // The bytes are kept as they came, even if they are no PNG.
+  void importImage(const SharedImport& import, ItemLanding::Place place, const QByteArray& data,
+                   const QString& suggestedName) {
+    const QString base =
+        suggestedName.isEmpty() ? QStringLiteral("Image") : withoutPathExtension(suggestedName);
+  const auto landed = [import, place, base](const Result<AssetRef>& asset) {
+    import->land(place, base, asset.map([&](const AssetRef& image) {
+      return Item::create(ImagePayload{image, base});
+    }));
+  };
+  import->whenBegun([import, data, base, landed] {
+    const auto& folder = import->folder();
+  if (!folder) return landed(tl::unexpected(folder.error()));
+  inBackground(
+      import->services().workers,
+      [folder = *folder, data, base] {
+        return folder.write(data, base + QStringLiteral(".png"), QStringLiteral("png"));
+      },
+      landed);
   });
-}
-
-bool moveDragged(const DroppedThings& things, const QUuid& section, BrandDocument& document) {
-  return ItemDrag::loadUUID(things, ItemDrag::type,
-                            [document = QPointer(&document), section](const QUuid& item) {
-                              if (document) document->moveItem(item, section, std::nullopt);
-                            });
-}
-
-bool isTaken(const DroppedThing& thing) {
-  return thing.conforms(DropType::fileURL) || thing.conforms(DropType::image);
-}
-
-void importChosen(const ImportServices& services, const QStringList& paths, FileKind kind,
-                  const QUuid& section, BrandDocument& document) {
-  const SharedImport import = begin(services, section, document);
-  if (!import) return;
-  for (const QString& path : paths) importFile(import, import->landing.take(), path, kind);
-}
-
-}  // namespace
-
-const QSet<QString>& fontExtensions() {
-  static const QSet<QString> extensions{QStringLiteral("otf"),  QStringLiteral("ttf"),
-                                        QStringLiteral("ttc"),  QStringLiteral("otc"),
-                                        QStringLiteral("woff"), QStringLiteral("woff2"),
-                                        QStringLiteral("dfont")};
-  return extensions;
-}
-
-bool handle(const ImportServices& services, const DroppedThings& things, const QUuid& section,
-            BrandDocument& document) {
-  if (moveDragged(things, section, document)) return true;
-  DroppedThings taken;
-  for (const auto& thing : things) {
-    if (isTaken(*thing)) taken << thing;
   }
-  const SharedImport import = taken.isEmpty() ? nullptr : begin(services, section, document);
-  for (const auto& thing : import ? taken : DroppedThings()) {
-    // A file comes as the file that it is, even where the source offers its picture too.
-    thing->conforms(DropType::fileURL) ? loadFile(import, *thing) : loadImage(import, *thing);
+
+  void loadFile(const SharedImport& import, DroppedThing& thing) {
+    const ItemLanding::Place place = import->take();
+    thing.loadURL([import, place](const std::optional<QString>& path) {
+      if (!path) return import->drop(place);
+      importFile(import, place, *path, std::nullopt);
+    });
   }
-  return !taken.isEmpty();
-}
 
-void importFiles(const ImportServices& services, const QStringList& paths, MediaKind kind,
-                 const QUuid& section, BrandDocument& document) {
-  importChosen(services, paths, kind == MediaKind::video ? FileKind::video : FileKind::image,
-               section, document);
-}
+  void loadImage(const SharedImport& import, DroppedThing& thing) {
+    const ItemLanding::Place place = import->take();
+    const QString name = withoutBlanks(thing.suggestedName());
+    thing.loadData(DropType::image, [import, place, name](const std::optional<QByteArray>& data) {
+      if (!data) return import->drop(place);
+      importImage(import, place, *data, name);
+    });
+  }
 
-void importFontFiles(const ImportServices& services, const QStringList& paths, const QUuid& section,
-                     BrandDocument& document) {
-  importChosen(services, paths, FileKind::font, section, document);
-}
+  bool moveDragged(const DroppedThings& things, const QUuid& section, BrandDocument& document) {
+    return ItemDrag::loadUUID(things, ItemDrag::type,
+                              [document = QPointer(&document), section](const QUuid& item) {
+                                if (document) document->moveItem(item, section, std::nullopt);
+                              });
+  }
 
-bool finish(QThreadPool& workers, std::chrono::milliseconds patience) {
-  constexpr int pause = 20;  // milliseconds
-  const QDeadlineTimer deadline(patience);
-  do {
-    const bool isIdle = workers.waitForDone(pause);
-    QCoreApplication::sendPostedEvents(QCoreApplication::instance(), QEvent::MetaCall);
-    if (isIdle && workers.waitForDone(0)) return true;  // what came asked for nothing more
-  } while (!deadline.hasExpired());
-  return false;
-}
+  bool isTaken(const DroppedThing& thing) {
+    return thing.conforms(DropType::fileURL) || thing.conforms(DropType::image);
+  }
 
-}  // namespace tarnloft::DropImport
+  void importChosen(const ImportServices& services, const QStringList& paths, FileKind kind,
+                    const QUuid& section, BrandDocument& document) {
+    const SharedImport import = begin(services, section, document);
+    for (const QString& path : paths) importFile(import, import->take(), path, kind);
+  }
+
+  }  // namespace
+
+  const QSet<QString>& fontExtensions() {
+    static const QSet<QString> extensions{QStringLiteral("otf"),  QStringLiteral("ttf"),
+                                          QStringLiteral("ttc"),  QStringLiteral("otc"),
+                                          QStringLiteral("woff"), QStringLiteral("woff2"),
+                                          QStringLiteral("dfont")};
+    return extensions;
+  }
+
+  bool handle(const ImportServices& services, const DroppedThings& things, const QUuid& section,
+              BrandDocument& document) {
+    if (moveDragged(things, section, document)) return true;
+    DroppedThings taken;
+    for (const auto& thing : things) {
+      if (isTaken(*thing)) taken << thing;
+    }
+    if (taken.isEmpty()) return false;
+    const SharedImport import = begin(services, section, document);
+    for (const auto& thing : taken) {
+      // A file comes as the file that it is, even where the source offers its picture too.
+      thing->conforms(DropType::fileURL) ? loadFile(import, *thing) : loadImage(import, *thing);
+    }
+    return true;
+  }
+
+  void importFiles(const ImportServices& services, const QStringList& paths, MediaKind kind,
+                   const QUuid& section, BrandDocument& document) {
+    importChosen(services, paths, kind == MediaKind::video ? FileKind::video : FileKind::image,
+                 section, document);
+  }
+
+  void importFontFiles(const ImportServices& services, const QStringList& paths,
+                       const QUuid& section, BrandDocument& document) {
+    importChosen(services, paths, FileKind::font, section, document);
+  }
+
+  bool finish(QThreadPool& workers, std::chrono::milliseconds patience) {
+    constexpr int pause = 20;  // milliseconds
+    const QDeadlineTimer deadline(patience);
+    do {
+      const bool isIdle = workers.waitForDone(pause);
+      QCoreApplication::sendPostedEvents(QCoreApplication::instance(), QEvent::MetaCall);
+      if (isIdle && workers.waitForDone(0)) return true;  // what came asked for nothing more
+    } while (!deadline.hasExpired());
+    return false;
+  }
+
+  }  // namespace tarnloft::DropImport

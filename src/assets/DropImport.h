@@ -18,12 +18,14 @@ struct ImportServices {
   Fonts& fonts;
   QThreadPool& workers;
   AddToClosed addToClosed;
+  // Told of the files of one call that couldn't be brought in, and why the first of them couldn't.
+  std::function<void(const QStringList& names, const QString& reason)> failed = nullptr;
 };
 
 // Files and pictures become items of a section. Main thread; files are copied and read by the
 // workers, and an item comes into being, without an undo step, when its copy is whole. The items of
 // one call land in its order, at the section's end, even when the document has been closed by then.
-// All failures are silent: what can't be read, or whose section has gone, makes no item.
+// What can't be brought in makes no item and is told; what isn't there at all isn't.
 namespace DropImport {
 
 enum class MediaKind { image, video };

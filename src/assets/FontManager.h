@@ -12,7 +12,7 @@ inline std::optional<FontNames> names(Fonts& fonts, const QString& path) {
 }
 
 // Registers the file of each font item that has one; for whenever the brand is shown, because what
-// is registered already costs little. Main thread.
-void registerAll(const BrandDocument& document, Fonts& fonts);
+// is registered already costs little. Any thread.
+void registerAll(const Brand& brand, const PackageReader& package, Fonts& fonts);
 
 }  // namespace tarnloft::FontManager

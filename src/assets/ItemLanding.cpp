@@ -14,7 +14,7 @@ void ItemLanding::land(Place place, std::optional<Item> item) {
     if (auto& landed = slots_[next_].item) ready << *std::exchange(landed, std::nullopt);
   }
   if (ready.isEmpty()) return;
-  document_ ? document_->addItems(ready, section_) : addToClosed_(packageURL_, section_, ready);
+  document_ ? document_->addItems(ready, section_) : addToClosed_(brand_, section_, ready);
 }
 
 }  // namespace tarnloft

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/BrandDocument.h"
+#include "document/BrandPlace.h"
 
 #include <QPointer>
 
@@ -10,9 +11,9 @@
 
 namespace tarnloft {
 
-// Takes items for a section of a package whose document has gone while they were made.
+// Takes items for a section of a brand whose document has gone while they were made.
 using AddToClosed =
-    std::function<void(const QString& packageURL, const QUuid& section, const QList<Item>& items)>;
+    std::function<void(const BrandPlace& brand, const QUuid& section, const QList<Item>& items)>;
 
 // Lets the items of one import into their section in order, whichever is ready first: each waits
 // for those in front of it. Main thread, but for its destruction.
@@ -22,7 +23,7 @@ class ItemLanding {
 
   ItemLanding(BrandDocument& document, const QUuid& section, AddToClosed addToClosed)
       : document_(&document),
-        packageURL_(document.packageURL()),
+        brand_{document.packageURL(), document.brand().id},
         section_(section),
         addToClosed_(std::move(addToClosed)) {}
 
@@ -38,7 +39,7 @@ class ItemLanding {
   };
 
   QPointer<BrandDocument> document_;
-  QString packageURL_;
+  BrandPlace brand_;
   QUuid section_;
   AddToClosed addToClosed_;
   std::vector<Slot> slots_;

@@ -1,53 +1,54 @@
 #include "document/BrandDocument.h"
 
-#include "document/AtomicWrite.h"
 #include "document/Package.h"
-#include "model/Json.h"
 
+#include <QPointer>
 #include <QScopedValueRollback>
 
 #include <chrono>
+#include <utility>
 
 namespace tarnloft {
 
 using namespace std::chrono_literals;
 
-BrandDocument::BrandDocument(const DocumentServices& services, QString packageURL, Brand brand)
-    : services_(services), packageURL_(std::move(packageURL)), brand_(std::move(brand)) {
-  saveWorkItem_.setSingleShot(true);
-  saveWorkItem_.setTimerType(Qt::PreciseTimer);
-  saveWorkItem_.setInterval(400ms);
-  connect(&saveWorkItem_, &QTimer::timeout, this, &BrandDocument::saveNow);
+BrandDocument::BrandDocument(const DocumentServices& services, OpenedPackage&& package)
+    : services_(services),
+      writer_(std::move(package.writer)),
+      packageURL_(std::move(package.packageURL)),
+      brand_(std::move(package.brand)) {
+  const auto prepare = [this](QTimer& timer, std::chrono::milliseconds interval, auto slot) {
+    timer.setSingleShot(true);
+    timer.setTimerType(Qt::PreciseTimer);
+    timer.setInterval(interval);
+    connect(&timer, &QTimer::timeout, this, slot);
+  };
+  prepare(saveWorkItem_, 400ms, &BrandDocument::saveNow);
+  prepare(retry_, 5s, &BrandDocument::saveNow);
+  prepare(patience_, 2s, [this] { setSaveProblem(QStringLiteral("The disk doesn't answer")); });
+  if (!package.saved) {
+    ++revision_;
+    finishSave({package.saved, 0, SaveReport::Place::same, packageURL_});
+  }
 }
 
 Result<std::unique_ptr<BrandDocument>> BrandDocument::create(const DocumentServices& services,
                                                              const QString& folder,
                                                              const QString& name) {
-  const QString packageURL = Package::uniquePackageURL(services.files, folder, name);
-  for (const QString& path :
-       {packageURL, Package::assetsPath(packageURL), Package::thumbnailsPath(packageURL)}) {
-    if (auto made = services.files.makeFolder(path); !made) return tl::unexpected(made.error());
-  }
-  std::unique_ptr<BrandDocument> document(
-      new BrandDocument(services, packageURL, Brand::create(name, services.clock)));
-  document->saveNow();
-  return document;
+  return PackageWriter::create(services, folder, name).map([&](OpenedPackage&& package) {
+    return std::make_unique<BrandDocument>(services, std::move(package));
+  });
 }
 
 std::unique_ptr<BrandDocument> BrandDocument::load(const DocumentServices& services,
                                                    const QString& packageURL) {
-  const auto file =
-      Package::readJson(services.files, Package::manifestPath(packageURL), packageURL);
-  if (!file) return nullptr;
-  const auto brand = decode<Brand>(file->bytes);
-  if (!brand) return nullptr;
-  std::unique_ptr<BrandDocument> document(new BrandDocument(services, packageURL, *brand));
-  document->known_ = {file->identity, *brand};
-  return document;
+  auto package = PackageWriter::open(services, packageURL);
+  return package ? std::make_unique<BrandDocument>(services, std::move(*package)) : nullptr;
 }
 
 void BrandDocument::setBrand(Brand brand) {
   brand_ = std::move(brand);
+  if (!suppressSchedule_) ++revision_;
   emit brandChanged();
   scheduleSave();
 }
@@ -57,36 +58,103 @@ void BrandDocument::scheduleSave() {
   saveWorkItem_.start();
 }
 
+void BrandDocument::saveIfNeeded() {
+  if (hasUnsavedChanges()) saveNow();
+}
+
 void BrandDocument::saveNow() {
-  if (invalidated_) return;
+  if (invalidated_ || isHeld_) return;
   saveWorkItem_.stop();
+  retry_.stop();
   {
     const QScopedValueRollback suppress(suppressSchedule_, true);
     edit([&](Brand& brand) { brand.updatedAt = services_.clock(); });
   }
-  if (invalidated_) return;  // by one who was told of the change
-  if (const auto written = writeManifest(); !written) {
-    services_.log.write(QStringLiteral("failed to save ") + Package::manifestPath(packageURL_) +
-                        QStringLiteral(": ") + written.error().message);
-  }
+  if (!invalidated_) stageAndSave();  // it may be by one who was told of the change
 }
 
-Result<void> BrandDocument::writeManifest() {
-  const auto json = encode(brand_);
-  if (!json) return tl::unexpected(json.error());
-  if (auto made = services_.files.makeFolder(packageURL_); !made) return made;
-  if (auto kept = keepForeignManifest(); !kept) return kept;
-  const QString manifest = Package::manifestPath(packageURL_);
-  auto written = writeAtomically(services_.files, manifest, Durability::synced,
-                                 [&](FileWriter& file) { return file.write(*json); });
-  // After a failure another machine's manifest may be there that nobody has looked at yet.
-  if (written) known_ = {services_.files.identity(manifest), brand_};
-  return written;
+void BrandDocument::stageAndSave() {
+  writer_->stage(brand_, revision_);
+  if (savesUnderWay_++ == 0) patience_.start();
+  services_.disk.ask([writer = writer_] { return writer->saveStaged(); },
+                     [document = QPointer(this)](const SaveReport& report) {
+                       if (!document) return;
+                       --document->savesUnderWay_;
+                       document->finishSave(report);
+                     },
+                     DiskWork::Patience::none);
+}
+
+void BrandDocument::finishSave(const SaveReport& report) {
+  if (savesUnderWay_ == 0) patience_.stop();
+  if (invalidated_) return;
+  if (report.place != SaveReport::Place::same) setPackageURL(report.packageURL);
+  if (report.written) {
+    savedRevision_ = report.revision;
+    setSaveProblem({});
+  } else if (savesUnderWay_ == 0) {
+    const QString& reason = report.written.error().message;
+    services_.log.write(QStringLiteral("failed to save ") + Package::manifestPath(packageURL_) +
+                        QStringLiteral(": ") + reason);
+    setSaveProblem(reason);
+    retry_.start();
+  }
+  if (report.written && report.place == SaveReport::Place::remade) emit packageRemade();
+  if (!report.written || !hasUnsavedChanges()) emit saveEnded();
+}
+
+void BrandDocument::setSaveProblem(const QString& problem) {
+  if (std::exchange(saveProblem_, problem) != problem) emit saveProblemChanged();
+}
+
+void BrandDocument::setPackageURL(const QString& packageURL) {
+  if (std::exchange(packageURL_, packageURL) != packageURL) emit packageURLChanged();
+}
+
+void BrandDocument::renamePackage(const QString& folder,
+                                  std::function<void(const Result<QString>&)> done) {
+  const auto rename = [&files = services_.files, writer = writer_, folder,
+                       name = brand_.name]() -> Result<QString> {
+    if (writer->hasFailed()) {
+      return failure(ErrorKind::io, QStringLiteral("Its changes couldn't be saved."));
+    }
+    const QString target = Package::uniquePackageURL(files, folder, name);
+    return writer->moveTo(target).map([&] { return target; });
+  };
+  services_.disk.ask(rename, [document = QPointer(this), done](const Result<QString>& target) {
+    if (document && target) document->setPackageURL(*target);
+    done(target);
+  });
+}
+
+void BrandDocument::follow(const QString& packageURL) {
+  services_.disk.run([writer = writer_, packageURL] { writer->follow(packageURL); }, [] {},
+                     DiskWork::Patience::none);
+  setPackageURL(packageURL);
+}
+
+void BrandDocument::adoptID(const QUuid& id) {
+  if (brand_.id == id) return;
+  const QScopedValueRollback suppress(suppressSchedule_, true);
+  edit([&](Brand& brand) { brand.id = id; });
+}
+
+void BrandDocument::holdSaving() {
+  isHeld_ = true;
+  saveWorkItem_.stop();
+  retry_.stop();
+}
+
+void BrandDocument::resumeSaving() {
+  isHeld_ = false;
+  saveIfNeeded();
 }
 
 void BrandDocument::invalidate() {
   invalidated_ = true;
+  writer_->close();
   saveWorkItem_.stop();
+  retry_.stop();
 }
 
 Result<std::unique_ptr<FileReader>> BrandDocument::openAsset(const AssetRef& asset) const {

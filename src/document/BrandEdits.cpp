@@ -102,19 +102,24 @@ void BrandDocument::moveSection(const QUuid& section, const std::optional<QUuid>
   edit([&](Brand& brand) { brand.sections.insert(insertionIndex(brand.sections, before), moved); });
 }
 
-Result<AssetFolder> BrandDocument::assetFolder() const {
-  return AssetFolder::make(services_.files, packageURL_);
+void BrandDocument::openAssetFolder(std::function<void(const Result<AssetFolder>&)> done) {
+  services_.disk.ask([&files = services_.files,
+                      writer = writer_] { return AssetFolder::make(files, writer->packageURL()); },
+                     std::move(done));
 }
 
 Result<AssetRef> BrandDocument::importAsset(const QString& source) {
-  return assetFolder().and_then([&](const AssetFolder& folder) { return folder.copyIn(source); });
+  return AssetFolder::make(services_.files, packageURL_).and_then([&](const AssetFolder& folder) {
+    return folder.copyIn(source);
+  });
 }
 
 Result<AssetRef> BrandDocument::importImageData(const QByteArray& data,
                                                 const QString& suggestedName,
                                                 const QString& extension) {
-  return assetFolder().and_then(
-      [&](const AssetFolder& folder) { return folder.write(data, suggestedName, extension); });
+  return AssetFolder::make(services_.files, packageURL_).and_then([&](const AssetFolder& folder) {
+    return folder.write(data, suggestedName, extension);
+  });
 }
 
 }  // namespace tarnloft

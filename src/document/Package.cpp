@@ -4,11 +4,10 @@
 #include "model/Json.h"
 #include "model/Uuid.h"
 
+#include <QTextBoundaryFinder>
+
 namespace tarnloft::Package {
 namespace {
-
-// A hundred thousand items; reading takes some ten times as much memory.
-constexpr qint64 largestJson = qint64(64) * 1024 * 1024;
 
 QString inPackage(const QString& packageURL, const char* name) {
   return packageURL + QLatin1Char('/') + QLatin1String(name);
@@ -25,7 +24,7 @@ QString pathOf(const QString& packageURL, const AssetRef& asset) {
 
 Result<QByteArray> readAll(FileReader& file) {
   if (file.size() > largestJson) {
-    return failure(ErrorKind::refused, QStringLiteral("The file is too large"));
+    return failure(ErrorKind::tooLarge, QStringLiteral("The file is too large"));
   }
   QByteArray bytes;
   bytes.reserve(file.size() + jsonPadding);
@@ -39,6 +38,21 @@ Result<QByteArray> readAll(FileReader& file) {
   }
   bytes.resize(filled);
   return bytes;
+}
+
+// Bytes of a file's name that leave " 9999.tarnloft" and " Brand Page.html" room within 255.
+constexpr qsizetype longestName = 239;
+
+// The whole characters at the beginning that take so many bytes at most.
+QString beginning(const QString& text, qsizetype bytes) {
+  QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, text);
+  qsizetype end = 0;
+  for (qsizetype next = characters.toNextBoundary(); next > 0; next = characters.toNextBoundary()) {
+    bytes -= QStringView(text).sliced(end, next - end).toUtf8().size();
+    if (bytes < 0) break;
+    end = next;
+  }
+  return text.left(end);
 }
 
 }  // namespace
@@ -60,6 +74,8 @@ QString folderOf(const QString& path) {
 QString fileNameFor(const QString& brandName) {
   QString name = brandName.trimmed();
   name.replace(QLatin1Char('/'), QLatin1Char('-')).replace(QLatin1Char(':'), QLatin1Char('-'));
+  if (name.startsWith(QLatin1Char('.'))) name[0] = QLatin1Char('-');  // else it would be hidden
+  name = beginning(name, longestName).trimmed();
   return name.isEmpty() ? QStringLiteral("Untitled Brand") : name;
 }
 
@@ -78,6 +94,7 @@ QString uniquePackageURL(const FileStore& files, const QString& folder, const QS
 }
 
 Result<ReadFile> readJson(const FileStore& files, const QString& path, const QString& packageURL) {
+  if (packageURL.isEmpty()) return failure(ErrorKind::refused, QStringLiteral("No package"));
   const auto file = files.open(path, packageURL);
   if (!file) return tl::unexpected(file.error());
   auto bytes = readAll(**file);
@@ -85,10 +102,22 @@ Result<ReadFile> readJson(const FileStore& files, const QString& path, const QSt
   return ReadFile{std::move(*bytes), (*file)->identity()};
 }
 
+Result<QByteArray> checkedSize(const QByteArray& json) {
+  if (json.size() <= largestJson) return json;
+  return failure(ErrorKind::tooLarge, QStringLiteral("The brand is too large"));
+}
+
 Result<void> makeFolder(FileStore& files, const QString& path, const QString& packageURL) {
+  if (!files.isFolder(packageURL)) {
+    return failure(ErrorKind::notFound, QStringLiteral("The brand's package isn't there"));
+  }
   if (auto made = files.makeFolder(path); !made) return made;
   if (files.standsInside(path, packageURL)) return {};
   return failure(ErrorKind::refused, QStringLiteral("The folder is outside of its package"));
+}
+
+Result<QString> assetPath(const QString& packageURL, const AssetRef& asset) {
+  return isPlainFileName(asset.filename) ? Result<QString>(pathOf(packageURL, asset)) : notPlain();
 }
 
 Result<QString> assetPath(const FileStore& files, const QString& packageURL,

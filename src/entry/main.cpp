@@ -4,12 +4,13 @@
 #include "model/ItemPayload.h"
 #include "platform/desktop/PosixFileStore.h"
 #include "platform/desktop/Syslog.h"
+#include "platform/desktop/TextPath.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
 #include <clocale>
 #include <cstdio>
+#include <cstdlib>
 #include <dlfcn.h>
 #include <langinfo.h>
 #include <pwd.h>
@@ -27,16 +28,22 @@ void useUtf8Locale() {
   if (std::string_view(::nl_langinfo(CODESET)) != "UTF-8") qputenv("LC_ALL", "C.UTF-8");
 }
 
-// Without HOME the toolkit takes the root folder for the user's own.
+bool isAbsolute(const char* path) { return path && path[0] == '/'; }
+
+// Without HOME the toolkit takes the root folder for the user's own, with a relative one whatever
+// folder the program was started in.
 void useHomeFolder() {
-  if (qEnvironmentVariableIsSet("HOME")) return;
-  if (const passwd* user = ::getpwuid(::getuid())) qputenv("HOME", user->pw_dir);
+  if (isAbsolute(std::getenv("HOME"))) return;
+  const passwd* const user = ::getpwuid(::getuid());
+  qputenv("HOME", user && isAbsolute(user->pw_dir) ? user->pw_dir : "/");
 }
 
-// An argument whose bytes have no text form would name another file; the empty text names none.
-QString argumentText(const char* argument) {
-  const QString text = QFile::decodeName(argument);
-  return QFile::encodeName(text) == argument ? text : QString();
+// As the specification of base directories says; here, so that every library does.
+void ignoreRelativeFolders() {
+  for (const char* name :
+       {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME"}) {
+    if (!isAbsolute(std::getenv(name))) qunsetenv(name);
+  }
 }
 
 // Looks beside the program and where packages put such modules.
@@ -53,8 +60,9 @@ int runInModule(const char* entryName, int argc, char** argv) {
 int main(int argc, char* argv[]) {
   useUtf8Locale();
   useHomeFolder();
+  ignoreRelativeFolders();
   QStringList arguments;
-  for (int i = 0; i < argc; ++i) arguments << argumentText(argv[i]);
+  for (int i = 0; i < argc; ++i) arguments << textPathOf(argv[i]);
   PosixFileStore files;
   Syslog log;
   SupportFolder::migrateIfNeeded(files, log);

@@ -11,7 +11,75 @@ namespace {
 
 const QString zipType = QStringLiteral("application/zip");
 
-bool isLink(const FileStore& files, const QString& path) { return files.resolved(path) != path; }
+// Brings foreign packages into a library folder. On the thread for copies.
+struct PackageImport {
+  DocumentServices services;
+  Archiver& archiver;
+  QString library;
+  QString temporaryFolder;
+
+  // Gives the package's new path.
+  Result<QString> bringIn(const QString& path) const {
+    return Package::isPackagePath(path) ? copyIn(path) : unpack(path);
+  }
+
+ private:
+  QString targetFor(const QString& package) const {
+    return Package::uniquePackageURL(services.files, library,
+                                     withoutPathExtension(lastPathComponent(package)));
+  }
+
+  Result<QString> copyIn(const QString& package) const {
+    const QString target = targetFor(package);
+    return services.files.copyFolder(package, target).map([&] { return adopt(target); });
+  }
+
+  Result<QString> unpack(const QString& archive) const {
+    const QString folder =
+        temporaryFolder + QStringLiteral("/ys-import-") + canonicalString(QUuid::createUuid());
+    auto brought = services.files
+                       .makeFolder(folder)
+                       // Half a package would pass for a whole one.
+                       .and_then([&] { return archiver.extract(archive, folder); })
+                       .and_then([&] { return bringFrom(folder); });
+    (void)services.files.removeFolder(folder);
+    return brought;
+  }
+
+  Result<QString> bringFrom(const QString& folder) const {
+    const auto found = findYewstack(folder);
+    if (!found) return failure(ErrorKind::notFound, QStringLiteral("It holds no brand."));
+    if (auto synced = services.files.syncTree(*found); !synced) {
+      return tl::unexpected(synced.error());
+    }
+    const QString target = targetFor(*found);
+    if (services.files.moveFolder(*found, target)) return adopt(target);
+    // The temporary folder often stands on another file system.
+    return copyIn(*found);
+  }
+
+  std::optional<QString> findYewstack(const QString& folder) const {
+    const FileStore& files = services.files;
+    for (const QString& name : files.list(folder).value_or(QStringList())) {
+      const QString path = folder + QLatin1Char('/') + name;
+      const bool isLink = files.resolved(path) != path;
+      if (isLink) continue;
+      if (Package::isPackagePath(name)) return path;
+      if (!files.isFolder(path)) continue;
+      if (auto found = findYewstack(path)) return found;
+    }
+    return std::nullopt;
+  }
+
+  // One that doesn't read is kept and listed under its folder's name.
+  QString adopt(const QString& packageURL) const {
+    (void)PackageWriter::editClosed(services, packageURL, [&](Brand& brand) {
+      brand.id = QUuid::createUuid();  // keeps it apart from the brand that it may be a copy of
+      brand.name = withoutPathExtension(lastPathComponent(packageURL));
+    });
+    return packageURL;
+  }
+};
 
 }  // namespace
 
@@ -20,13 +88,23 @@ void LibraryStore::exportBrand(const BrandSummary& brand) {
   const auto path =
       services_.dialogs.savePath(brand.name + QStringLiteral(".tarnloft.zip"), zipType);
   if (!path) return;
-  FileStore& files = services_.document.files;
-  (void)files.remove(*path);
-  // Not synced: an archive can be made again, and may weigh gigabytes.
-  (void)writeAtomically(files, *path, Durability::atomic, [&](FileWriter& file) {
-    return services_.archiver.archive(packageURL, file);
+  const auto done = [this, path = *path, name = brand.name](const Result<void>& exported) {
+    services_.viewer.reveal(path);
+    if (exported) return;
+    notice(QStringLiteral("“%1” couldn't be exported").arg(name), exported.error());
+  };
+  // Replaced only by a whole archive. Not synced: it can be made again, and may weigh gigabytes.
+  const auto write = [&files = services_.document.files, &archiver = services_.archiver, packageURL,
+                      path = *path] {
+    return writeAtomically(files, path, Durability::atomic,
+                           [&](FileWriter& file) { return archiver.archive(packageURL, file); });
+  };
+  whenSaved(packageURL, [this, write, done](const Result<void>& saved) {
+    if (!saved) return done(saved);
+    services_.copies.ask(write, [store = QPointer(this), done](const Result<void>& exported) {
+      if (store) done(exported);
+    });
   });
-  services_.viewer.reveal(*path);
 }
 
 void LibraryStore::exportSelectedBrand() {
@@ -42,56 +120,16 @@ void LibraryStore::importBrand() {
 }
 
 void LibraryStore::importBrandArchive(const QString& path) {
-  FileStore& files = services_.document.files;
-  if (!Package::isPackagePath(path)) {
-    const QString folder = services_.temporaryFolder + QStringLiteral("/ys-import-") +
-                           canonicalString(QUuid::createUuid());
-    importArchivedPackage(path, folder);
-    (void)files.removeFolder(folder);
-    return;
-  }
-  const QString target =
-      Package::uniquePackageURL(files, libraryURL_, withoutPathExtension(lastPathComponent(path)));
-  (void)files.copyFolder(path, target);
-  finishImport(target);
-}
-
-void LibraryStore::importArchivedPackage(const QString& archive, const QString& folder) {
-  FileStore& files = services_.document.files;
-  if (!files.makeFolder(folder)) return;
-  // Half a package would pass for a whole one.
-  if (!services_.archiver.extract(archive, folder)) return;
-  const auto found = findYewstack(folder);
-  if (!found) return;
-  const QString target = Package::uniquePackageURL(files, libraryURL_,
-                                                   withoutPathExtension(lastPathComponent(*found)));
-  // The temporary folder often stands on another file system.
-  if (!files.moveFolder(*found, target)) (void)files.copyFolder(*found, target);
-  finishImport(target);
-}
-
-std::optional<QString> LibraryStore::findYewstack(const QString& folder) const {
-  const FileStore& files = services_.document.files;
-  for (const QString& name : files.list(folder).value_or(QStringList())) {
-    const QString path = folder + QLatin1Char('/') + name;
-    if (isLink(files, path)) continue;
-    if (Package::isPackagePath(name)) return path;
-    if (!files.isFolder(path)) continue;
-    if (auto found = findYewstack(path)) return found;
-  }
-  return std::nullopt;
-}
-
-void LibraryStore::finishImport(const QString& packageURL) {
-  if (const auto document = BrandDocument::load(services_.document, packageURL)) {
-    document->edit([&](Brand& brand) {
-      brand.id = QUuid::createUuid();  // keeps it apart from the brand that it may be a copy of
-      brand.name = withoutPathExtension(lastPathComponent(packageURL));
-    });
-    document->saveNow();
-  }
-  scan();
-  select(packageURL);
+  const PackageImport import{services_.document, services_.archiver, libraryURL_,
+                             services_.temporaryFolder};
+  const auto bringIn = [import, places = places_, path] {
+    return places->checkFolder().and_then([&] { return import.bringIn(path); });
+  };
+  change(services_.copies, bringIn, [this, path](const Result<QString>& packageURL) {
+    if (packageURL) return select(*packageURL);
+    notice(QStringLiteral("“%1” couldn't be imported").arg(lastPathComponent(path)),
+           packageURL.error());
+  });
 }
 
 }  // namespace tarnloft

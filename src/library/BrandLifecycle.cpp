@@ -5,75 +5,127 @@
 namespace tarnloft {
 
 BrandDocument* LibraryStore::createBrand(const QString& name) {
-  auto created = BrandDocument::create(services_.document, libraryURL_, name);
-  if (!created) {
-    services_.document.log.write(QStringLiteral("failed to create brand: ") +
-                                 created.error().message);
-    return nullptr;
-  }
-  scan();
-  select((*created)->packageURL());
-  // The very document that made the package, not the one that was read from it.
-  setOpenDocument(std::move(*created));
-  return openDocument_.get();
+  const auto create = [services = documentServices_, places = places_, folder = libraryURL_, name] {
+    return places->checkFolder().and_then(
+        [&] { return PackageWriter::create(services, folder, name); });
+  };
+  // The very package that was made, not one that was read from it.
+  const auto made = std::make_shared<BrandDocument*>(nullptr);
+  change(services_.document.disk, create, [this, made](Result<OpenedPackage>&& created) {
+    if (!created) {
+      services_.document.log.write(QStringLiteral("failed to create brand: ") +
+                                   created.error().message);
+      return notice(QStringLiteral("The brand couldn't be created"), created.error());
+    }
+    selection_ = created->packageURL;
+    afterLoading_ = nullptr;
+    emit selectionChanged();
+    setOpenDocument(makeDocument(std::move(*created)));
+    *made = openDocument_.get();
+  });
+  return *made;
 }
 
 void LibraryStore::renameSelectedBrand(const QString& name) {
+  if (selection_) whenLoaded(*selection_, [this, name] { renameOpenBrand(name); });
+}
+
+void LibraryStore::renameOpenBrand(const QString& name) {
   if (!openDocument_) return;
+  const QString before = openDocument_->brand().name;
   openDocument_->edit([&](Brand& brand) { brand.name = name; });
   openDocument_->saveNow();
-  FileStore& files = services_.document.files;
-  const QString packageURL = openDocument_->packageURL();
-  const QString target = Package::uniquePackageURL(files, libraryURL_, name);
-  if (target == packageURL) return scan();
-  (void)files.moveFolder(packageURL, target);
-  auto moved = BrandDocument::load(services_.document, target);
-  scan();
-  select(target);
-  setOpenDocument(std::move(moved));
+  const auto renamed = [store = QPointer(this), before](const Result<QString>& packageURL) {
+    if (!store) return;
+    store->scan();
+    if (packageURL) return;
+    store->notice(QStringLiteral("The package of “%1” couldn't be renamed").arg(before),
+                  packageURL.error());
+  };
+  openDocument_->renamePackage(libraryURL_, renamed);
 }
 
 void LibraryStore::duplicateBrand(const BrandSummary& brand) {
-  FileStore& files = services_.document.files;
   const QString name = brand.name + QStringLiteral(" Copy");
-  const QString target = Package::uniquePackageURL(files, libraryURL_, name);
-  if (const auto copied = files.copyFolder(brand.packageURL, target); !copied) {
-    services_.document.log.write(QStringLiteral("failed to duplicate brand: ") +
-                                 copied.error().message);
-    return;
-  }
-  if (const auto copy = BrandDocument::load(services_.document, target)) {
-    copy->edit([&](Brand& value) {
+  const auto duplicate = [services = services_.document, packageURL = brand.packageURL,
+                          folder = libraryURL_, name]() -> Result<QString> {
+    FileStore& files = services.files;
+    const QString target = Package::uniquePackageURL(files, folder, name);
+    if (auto copied = files.copyFolder(packageURL, target); !copied) {
+      return tl::unexpected(copied.error());
+    }
+    (void)PackageWriter::editClosed(services, target, [&](Brand& value) {
       value.id = QUuid::createUuid();  // keeps the two rows apart in the order
       value.name = name;
     });
-    copy->saveNow();
-  }
-  scan();
-  select(target);
+    return target;
+  };
+  const auto failed = [this, original = brand.name](const Error& error) {
+    services_.document.log.write(QStringLiteral("failed to duplicate brand: ") + error.message);
+    notice(QStringLiteral("“%1” couldn't be duplicated").arg(original), error);
+  };
+  whenSaved(brand.packageURL, [this, duplicate, failed](const Result<void>& saved) {
+    if (!saved) return failed(saved.error());
+    change(services_.copies, duplicate, [this, failed](const Result<QString>& target) {
+      target ? select(*target) : failed(target.error());
+    });
+  });
 }
 
 void LibraryStore::deleteBrand(const BrandSummary& brand) {
+  deleteBy(
+      brand,
+      [&trash = services_.trash, packageURL = brand.packageURL] {
+        return trash.moveToTrash(packageURL);
+      },
+      [this, brand](const Error& error) { emit trashRefused(brand, error.message); });
+}
+
+void LibraryStore::deleteBrandImmediately(const BrandSummary& brand) {
+  deleteBy(
+      brand,
+      [&files = services_.document.files, packageURL = brand.packageURL] {
+        return files.removeFolder(packageURL);
+      },
+      [this, brand](const Error& error) {
+        notice(QStringLiteral("“%1” couldn't be deleted").arg(brand.name), error);
+      });
+}
+
+// Its work is saved first, for the user may want it back; a save behind the removal would bring the
+// folder back.
+void LibraryStore::deleteBy(const BrandSummary& brand, std::function<Result<void>()> removal,
+                            std::function<void(const Error&)> refused) {
   const QString packageURL = brand.packageURL;  // the row may go with the scan
-  if (openDocument_ && openDocument_->packageURL() == packageURL) {
-    openDocument_->invalidate();  // a pending save must not bring the folder back
-    setOpenDocument(nullptr);
+  if (BrandDocument* const document = documentAt(packageURL)) {
+    document->saveIfNeeded();
+    document->holdSaving();
   }
-  (void)services_.trash.moveToTrash(packageURL);
-  if (selection_ == packageURL) setOpenDocument(nullptr);
-  scan();
+  change(services_.document.disk, std::move(removal),
+         [this, packageURL, refused = std::move(refused)](const Result<void>& removed) {
+           if (removed) return brandGone(packageURL);
+           if (BrandDocument* const document = documentAt(packageURL)) document->resumeSaving();
+           refused(removed.error());
+         });
+}
+
+void LibraryStore::brandGone(const QString& packageURL) {
+  if (BrandDocument* const document = documentAt(packageURL)) document->invalidate();
+  if (const auto kept = unsaved_.take(packageURL)) return;
+  if (openDocument_ && openDocument_->packageURL() == packageURL) setOpenDocument(nullptr);
   if (selection_ == packageURL) selectFirst();
 }
 
 void LibraryStore::exportBrandPage(const BrandSummary& brand) {
   const QString packageURL = brand.packageURL;
-  if (selection_ != packageURL) select(packageURL);
-  const bool isOpen = openDocument_ && openDocument_->packageURL() == packageURL;
-  const auto loaded = isOpen ? nullptr : BrandDocument::load(services_.document, packageURL);
-  const BrandDocument* document = isOpen ? openDocument_.get() : loaded.get();
-  if (!document) return;
-  BrandPageExporter::exportPage(*document, services_.document.files, services_.dialogs,
-                                services_.viewer);
+  whenLoaded(packageURL, [this] { exportOpenBrandPage(); });
+}
+
+void LibraryStore::exportOpenBrandPage() {
+  if (!openDocument_) return;
+  const auto exported = BrandPageExporter::exportPage(*openDocument_, services_.document.files,
+                                                      services_.dialogs, services_.viewer);
+  if (!exported) notice(QStringLiteral("The brand page couldn't be exported"), exported.error());
 }
 
 }  // namespace tarnloft

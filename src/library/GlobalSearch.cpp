@@ -55,7 +55,7 @@ QList<SearchHit> GlobalSearch::hits(const QList<BrandSummary>& rows, const QStri
 const SearchableBrand* GlobalSearch::upToDate(const QString& packageURL, Kept& kept) const {
   const QString manifest = Package::manifestPath(packageURL);
   const auto present = files_.identity(manifest);
-  if (!present || present != kept.identity) {
+  if (!present || *present != kept.identity) {
     const auto file = Package::readJson(files_, manifest, packageURL);
     auto brand = file ? SearchableBrand::read(file->bytes) : tl::unexpected(file.error());
     kept.identity = file ? std::optional(file->identity) : std::nullopt;

@@ -38,6 +38,30 @@ BrandSummary summaryOf(const FileStore& files, const QString& packageURL) {
   return {packageURL, name, {}, {}, {}, QUuid::createUuid()};
 }
 
+// Those that the desktop hides are listed too; its own hidden files with such names are none.
+QStringList packagesAmong(const FileStore& files, const QString& folder, QStringList names) {
+  names.removeIf([&](const QString& name) {
+    const bool isHidden = name.startsWith(QLatin1Char('.'));
+    return !Package::isPackagePath(name) ||
+           (isHidden && !files.isFolder(folder + QLatin1Char('/') + name));
+  });
+  return names;
+}
+
+// The new id is made from the folder's name, so that it is the same at each start and on each
+// machine until it is saved.
+void tellTwinsApart(LibraryListing::Listing& listing) {
+  QSet<QUuid> seen;
+  for (BrandSummary& row : listing.rows) {
+    const QUuid shared = row.brandID;
+    while (seen.contains(row.brandID)) {
+      row.brandID = QUuid::createUuidV5(row.brandID, lastPathComponent(row.packageURL));
+    }
+    seen.insert(row.brandID);
+    if (row.brandID != shared) listing.twins.insert(row.packageURL, {shared, row.brandID});
+  }
+}
+
 // A bare C locale has no order of letters beyond their codes; English has a sensible one.
 QCollator nameCollator() {
   const bool bare = QLocale().collation().language() == QLocale::C;
@@ -59,14 +83,22 @@ QHash<QUuid, qsizetype> positionsOf(const QList<QUuid>& order) {
 
 }  // namespace
 
-QList<BrandSummary> LibraryListing::read(const FileStore& files, const QString& folder) {
-  QStringList packages = files.list(folder).value_or(QStringList());
-  packages.removeIf([](const QString& name) { return !Package::isPackagePath(name); });
+LibraryListing::Listing LibraryListing::read(const FileStore& files, const QString& folder) {
+  Listing listing{folder, {}, std::nullopt, {}, {}};
+  const auto names = files.listAll(folder);
+  if (!names) {
+    listing.listed = tl::unexpected(names.error());
+    return listing;
+  }
+  if (const auto identity = files.identity(folder)) listing.identity = *identity;
+  const QStringList packages = packagesAmong(files, folder, *names);
   std::vector<BrandSummary> rows(size_t(packages.size()));
   inParallel(packages.size(), [&](qsizetype i) {
     rows[size_t(i)] = summaryOf(files, folder + QLatin1Char('/') + packages.at(i));
   });
-  return {std::make_move_iterator(rows.begin()), std::make_move_iterator(rows.end())};
+  listing.rows = {std::make_move_iterator(rows.begin()), std::make_move_iterator(rows.end())};
+  tellTwinsApart(listing);
+  return listing;
 }
 
 void LibraryListing::renameLegacyPackages(FileStore& files, const QString& folder) {

@@ -3,14 +3,31 @@
 #include "library/BrandSummary.h"
 #include "platform/FileStore.h"
 
+#include <QHash>
 #include <QList>
 
 // Reading a library folder, and the order of its rows. Functions without state.
 namespace tarnloft::LibraryListing {
 
-// The packages of the folder, those of the former extension included, in no order. A package whose
-// manifest can't be read is listed under its folder's name. Empty if the folder can't be listed.
-QList<BrandSummary> read(const FileStore& files, const QString& folder);
+// A package with the id of another one.
+struct Twin {
+  QUuid sharedID;
+  QUuid ownID;  // which it gets when it is first saved
+};
+
+// What stands in a library folder.
+struct Listing {
+  QString folder;
+  Result<void> listed;                   // why there are no rows
+  std::optional<FileIdentity> identity;  // of the folder
+  QList<BrandSummary> rows;              // in no order
+  QHash<QString, Twin> twins;            // by their packages
+};
+
+// The packages of the folder, those of the former extension included. A package whose manifest
+// can't be read is listed under its folder's name. Of packages with one id the first one found
+// keeps it; each other gets a new one, always the same, and is told in `twins`. Any thread.
+Listing read(const FileStore& files, const QString& folder);
 
 // Gives packages of the former extension the present one, unless that name is taken.
 void renameLegacyPackages(FileStore& files, const QString& folder);

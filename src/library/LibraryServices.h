@@ -30,6 +30,8 @@ struct LibraryServices {
   QString applicationSupport;
   // The user's folder for files of the moment.
   QString temporaryFolder;
+  // For what takes long, such as copies of whole packages.
+  DiskWork& copies = immediateDisk();
 };
 
 }  // namespace tarnloft

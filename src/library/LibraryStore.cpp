@@ -1,6 +1,5 @@
 #include "library/LibraryStore.h"
 
-#include "library/LibraryListing.h"
 #include "library/PickedColor.h"
 
 #include <algorithm>
@@ -8,13 +7,39 @@
 
 namespace tarnloft {
 
+namespace {
+
+using namespace std::chrono_literals;
+
+DocumentServices withPlaces(DocumentServices services,
+                            const std::shared_ptr<PackagePlaces>& places) {
+  services.findPackage = [places](const QUuid& brand, const QString& lost) {
+    return places->placeOf(brand, lost);
+  };
+  return services;
+}
+
+QString quoted(const QString& path) { return QStringLiteral("“") + path + QStringLiteral("”"); }
+
+}  // namespace
+
 LibraryStore::LibraryStore(const LibraryServices& services)
     : services_(services),
+      places_(std::make_shared<PackagePlaces>(services.document.files)),
+      documentServices_(withPlaces(services.document, places_)),
       preferences_(services.preferences),
       search_(services.document.files),
       libraryURL_(defaultLibraryURL(services)) {
   connect(&preferences_, &LibraryPreferences::appearanceModeChanged, this,
           &LibraryStore::applyAppearance);
+  connect(&unsaved_, &UnsavedDocuments::changed, this, &LibraryStore::unsavedChanged);
+  patience_.setSingleShot(true);
+  patience_.setInterval(1500ms);
+  connect(&patience_, &QTimer::timeout, this,
+          [this] { setLibraryProblem(quoted(libraryURL_) + QStringLiteral(" doesn't answer.")); });
+  lookAgain_.setSingleShot(true);
+  lookAgain_.setInterval(3s);
+  connect(&lookAgain_, &QTimer::timeout, this, &LibraryStore::scan);
   applyAppearance();
   openLibrary();
 }
@@ -27,28 +52,122 @@ QString LibraryStore::defaultLibraryURL(const LibraryServices& services) {
 }
 
 void LibraryStore::setLibraryURL(const QString& path) {
+  select(std::nullopt);
   libraryURL_ = path;
   preferences_.setLibraryPath(path);
+  brands_.clear();
+  isOpening_ = true;
   emit libraryURLChanged();
   openLibrary();
 }
 
+// Reads the first brand too: it is what a start shows.
 void LibraryStore::openLibrary() {
-  FileStore& files = services_.document.files;
-  (void)files.makeFolder(libraryURL_);
-  LibraryListing::renameLegacyPackages(files, libraryURL_);
-  scan();
-  selectFirst();
+  patience_.start();
+  services_.document.disk.ask(
+      [services = documentServices_, folder = libraryURL_, order = preferences_.brandOrder()] {
+        FileStore& files = services.files;
+        (void)files.makeFolder(folder);
+        LibraryListing::renameLegacyPackages(files, folder);
+        OpenedLibrary opened{LibraryListing::read(files, folder), std::nullopt};
+        const auto rows = LibraryListing::sorted(opened.listing.rows, order);
+        if (rows.isEmpty()) return opened;
+        if (auto first = PackageWriter::open(services, rows.first().packageURL)) {
+          opened.first = std::move(*first);
+        }
+        return opened;
+      },
+      [store = QPointer(this)](OpenedLibrary&& opened) {
+        if (store) store->libraryOpened(std::move(opened));
+      });
+}
+
+void LibraryStore::libraryOpened(OpenedLibrary&& opened) {
+  if (opened.listing.folder != libraryURL_) return;  // another was chosen meanwhile
+  services_.document.disk.run(
+      [&files = services_.document.files, folder = libraryURL_] {
+        files.sweepTemporaries(folder, 24h);  // copies of packages that were killed
+      },
+      [] {}, DiskWork::Patience::none);
+  applyListing(opened.listing);
+  if (selection_) return;
+  if (brands_.isEmpty() || !opened.first ||
+      opened.first->packageURL != brands_.first().packageURL) {
+    return selectFirst();
+  }
+  selection_ = opened.first->packageURL;
+  emit selectionChanged();
+  setOpenDocument(makeDocument(std::move(*opened.first)));
 }
 
 void LibraryStore::scan() {
+  lookAgain_.stop();
+  if (!patience_.isActive()) patience_.start();
+  change(
+      services_.document.disk, [] { return true; }, [](bool) {});
+}
+
+void LibraryStore::applyListing(const LibraryListing::Listing& listing) {
+  if (listing.folder != libraryURL_) return;
+  patience_.stop();
+  if (hasVanished(listing)) {
+    setLibraryProblem(quoted(libraryURL_) + QStringLiteral(" isn't there just now."));
+    return lookAgain_.start();
+  }
+  isOpening_ = false;
+  if (listing.listed) {
+    setLibraryProblem({});
+  } else {
+    setLibraryProblem(quoted(libraryURL_) + QStringLiteral(" can't be read: ") +
+                      listing.listed.error().message);
+    lookAgain_.start();
+  }
+  const QList<BrandSummary> before = brands_;
   const QList<QUuid>& order = preferences_.brandOrder();
-  brands_ =
-      LibraryListing::sorted(LibraryListing::read(services_.document.files, libraryURL_), order);
+  brands_ = LibraryListing::sorted(listing.rows, order);
+  twins_ = listing.twins;
   if (const QList<QUuid> missing = LibraryListing::missingIn(order, brands_); !missing.isEmpty()) {
     preferences_.setBrandOrder(order + missing);
   }
+  followDocuments(before);
+  if (listing.identity) places_->see(libraryURL_, *listing.identity, brands_);
+  adoptOwnIDs();
   emit brandsChanged();
+}
+
+// A disk that has gone leaves no folder, or a bare one in its place.
+bool LibraryStore::hasVanished(const LibraryListing::Listing& listing) const {
+  if (brands_.isEmpty()) return false;
+  if (!listing.listed) return true;
+  return !places_->checkFolder() && listing.rows.isEmpty();
+}
+
+void LibraryStore::setLibraryProblem(const QString& problem) {
+  if (std::exchange(libraryProblem_, problem) != problem) emit libraryProblemChanged();
+}
+
+// Another machine may have renamed a package whose document is open.
+void LibraryStore::followDocuments(const QList<BrandSummary>& before) {
+  const auto isListed = [](const QList<BrandSummary>& rows, const QString& packageURL) {
+    return std::ranges::find(rows, packageURL, &BrandSummary::packageURL) != rows.end();
+  };
+  for (BrandDocument* const document : documents()) {
+    if (isListed(brands_, document->packageURL())) continue;
+    for (const BrandSummary& row : std::as_const(brands_)) {
+      if (row.brandID != document->brand().id || isListed(before, row.packageURL)) continue;
+      document->follow(row.packageURL);
+      break;
+    }
+  }
+}
+
+void LibraryStore::adoptOwnIDs() {
+  for (BrandDocument* const document : documents()) {
+    const auto twin = twins_.constFind(document->packageURL());
+    if (twin != twins_.cend() && document->brand().id == twin->sharedID) {
+      document->adoptID(twin->ownID);
+    }
+  }
 }
 
 void LibraryStore::moveBrand(const QUuid& id, const std::optional<QUuid>& before) {
@@ -65,42 +184,6 @@ void LibraryStore::moveBrand(const QUuid& id, const std::optional<QUuid>& before
   brands_.insert(target < 0 ? brands_.size() : target, row);
   preferences_.setBrandOrder(LibraryListing::missingIn({}, brands_));
   emit brandsChanged();
-}
-
-void LibraryStore::selectFirst() {
-  select(brands_.isEmpty() ? std::nullopt : std::optional(brands_.first().packageURL));
-}
-
-void LibraryStore::select(const std::optional<QString>& packageURL) {
-  selection_ = packageURL;
-  emit selectionChanged();
-  loadSelection();
-}
-
-void LibraryStore::loadSelection() {
-  if (!selection_) return setOpenDocument(nullptr);
-  if (openDocument_ && openDocument_->packageURL() == *selection_) return;
-  setOpenDocument(BrandDocument::load(services_.document, *selection_));
-}
-
-void LibraryStore::setOpenDocument(std::unique_ptr<BrandDocument> document) {
-  if (document) {
-    connect(document.get(), &BrandDocument::brandChanged, this, &LibraryStore::brandChanged);
-  }
-  // The old document lives until all have been told of the new one.
-  const auto old = std::exchange(openDocument_, std::move(document));
-  emit openDocumentChanged();
-}
-
-void LibraryStore::addItems(const QString& packageURL, const QUuid& section,
-                            const QList<Item>& items) {
-  if (openDocument_ && openDocument_->packageURL() == packageURL) {
-    return openDocument_->addItems(items, section);
-  }
-  const auto closed = BrandDocument::load(services_.document, packageURL);
-  if (!closed) return;
-  closed->addItems(items, section);
-  closed->saveNow();
 }
 
 double LibraryStore::gridMinWidth() const {

@@ -1,19 +1,25 @@
 #pragma once
 
 #include "document/BrandDocument.h"
+#include "document/BrandPlace.h"
 #include "library/BrandSummary.h"
 #include "library/GlobalSearch.h"
+#include "library/LibraryListing.h"
 #include "library/LibraryPreferences.h"
 #include "library/LibraryServices.h"
+#include "library/PackagePlaces.h"
+#include "library/UnsavedDocuments.h"
 
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 
 namespace tarnloft {
 
 // The one long-lived model of the program: the library folder, the listing of its packages, the
 // selection and the one open document, and the app-wide preferences. `brands` changes only through
-// `scan`. Nothing here reports a failure. Main thread only.
+// `scan`. The disk is worked on elsewhere: on a quick one all is done when a call returns, on a
+// slow one it follows, and the signals tell. Main thread only.
 class LibraryStore : public QObject {
   Q_OBJECT
 
@@ -32,6 +38,11 @@ class LibraryStore : public QObject {
 
   // In display order.
   const QList<BrandSummary>& brands() const { return brands_; }
+  // True until the folder was read for the first time.
+  bool isOpening() const { return isOpening_; }
+  // Why `brands` may not be what is in the folder: it can't be read, isn't there or doesn't answer.
+  // Empty if it is. Looked for again by itself.
+  const QString& libraryProblem() const { return libraryProblem_; }
   // Reads the folder again. Leaves the selection and the open document alone.
   void scan();
   // Puts the row in front of another, or at the end.
@@ -43,27 +54,47 @@ class LibraryStore : public QObject {
   const std::optional<QString>& selection() const { return selection_; }
   // Selects and loads. Selecting the open package again does nothing.
   void select(const std::optional<QString>& packageURL);
-  // Null if none is open. Owned by the store; it goes with the next selection.
+  // Null if none is open. Owned by the store; it goes with the next selection, but not before its
+  // work is on disk.
   BrandDocument* openDocument() const { return openDocument_.get(); }
+  // True while the selected package is being read.
+  bool isLoading() const { return selection_ && loading_.contains(*selection_); }
 
-  // Appends items to a section of a package that was open when their making began, whether or not
-  // it still is. A package that is gone loses them.
-  void addItems(const QString& packageURL, const QUuid& section, const QList<Item>& items);
+  // --- Work that isn't on disk
+
+  // Saves what isn't saved, of all documents, waiting at most so long. False if something isn't.
+  bool flush(std::chrono::milliseconds patience);
+  // Tries again what couldn't be saved.
+  void retrySaves();
+  // The names of brands whose changes aren't on disk.
+  QStringList unsavedBrands() const;
+  // Why the package's changes couldn't be saved; empty if they could, or there are none.
+  QString saveProblem(const QString& packageURL) const;
+  // Asks for a folder and puts a copy of the open brand there, as it is in memory.
+  void saveCopy();
+
+  // Appends items to a section of the brand whose package stood there when their making began,
+  // wherever it stands by now and whether or not it is open. A brand that is gone loses them.
+  void addItems(const BrandPlace& brand, const QUuid& section, const QList<Item>& items);
 
   // --- Brands that come and go. Each does its work on the disk, scans and moves the selection.
 
-  // Makes a brand, selects it and gives its document; null, with a line in the system log, if its
-  // folder can't be made.
+  // Makes a brand, selects it and gives its document; null if that is still to come, or if its
+  // folder can't be made, which the system log tells too.
   BrandDocument* createBrand(const QString& name);
-  // Renames the open brand and moves its package to a name made from it, which gets a suffix if it
-  // is taken, by the package itself too.
+  // Renames the selected brand and moves its package to a name made from it, which gets a suffix if
+  // it is taken, by the package itself too. While its changes can't be saved it stays where it is.
   void renameSelectedBrand(const QString& name);
   // Copies the package as "<name> Copy" with an id of its own and selects the copy.
   void duplicateBrand(const BrandSummary& brand);
   // Moves the package to the trash. The selection moves on to the first row if it was selected.
+  // Where there is no trash to be had, the brand stays, and `trashRefused` tells.
   void deleteBrand(const BrandSummary& brand);
+  // The same, for ever.
+  void deleteBrandImmediately(const BrandSummary& brand);
   // Selects the brand, asks where to and publishes its page.
   void exportBrandPage(const BrandSummary& brand);
+  void exportOpenBrandPage();
   // Asks where to, writes the package as a zip and shows it.
   void exportBrand(const BrandSummary& brand);
   void exportSelectedBrand();
@@ -111,32 +142,101 @@ class LibraryStore : public QObject {
   void selectionChanged();
   void openDocumentChanged();
   void brandChanged();  // of the open document
+  void libraryProblemChanged();
+  void isLoadingChanged();
+  // A document's `saveProblem`, or which there are.
+  void unsavedChanged();
+  // Something that the user asked for has failed.
+  void noticed(const QString& title, const QString& message);
+  void trashRefused(const BrandSummary& brand, const QString& reason);
   void newBrandRequestedChanged();
   void scrollToSectionChanged();
 
  private:
+  struct OpenedLibrary {
+    LibraryListing::Listing listing;
+    std::optional<OpenedPackage> first;  // of the first row
+  };
+  struct Landing {
+    BrandPlace brand;
+    QUuid section;
+    QList<Item> items;
+  };
+
+  // The folder
   void openLibrary();
+  void libraryOpened(OpenedLibrary&& opened);
+  void applyListing(const LibraryListing::Listing& listing);
+  bool hasVanished(const LibraryListing::Listing& listing) const;
+  void setLibraryProblem(const QString& problem);
+  void followDocuments(const QList<BrandSummary>& before);
+  void adoptOwnIDs();
+  // Does work on the disk and reads the folder behind it; `done` gets the work's result, with
+  // `brands` as they are by then.
+  template <class Work, class Done>
+  void change(DiskWork& disk, Work work, Done done);
+
+  // Documents
   void selectFirst();
   void loadSelection();
+  void load(const QString& packageURL);
+  void loaded(const QString& packageURL, Result<OpenedPackage>&& package);
+  std::unique_ptr<BrandDocument> makeDocument(OpenedPackage&& package);
   void setOpenDocument(std::unique_ptr<BrandDocument> document);
+  void packageMoved(BrandDocument& document);
+  BrandDocument* documentAt(const QString& packageURL) const;
+  std::vector<BrandDocument*> documents() const;
+  void land(BrandDocument& document);
+  QString placeOf(const BrandPlace& brand) const;
+  // Calls `then` once all that is known of the package is on disk, or with why it isn't.
+  void whenSaved(const QString& packageURL, std::function<void(const Result<void>&)> then);
+  void whenLoaded(const QString& packageURL, std::function<void()> then);
+  void renameOpenBrand(const QString& name);
+  void notice(const QString& title, const Error& error);
+
+  void deleteBy(const BrandSummary& brand, std::function<Result<void>()> removal,
+                std::function<void(const Error&)> refused);
+  void brandGone(const QString& packageURL);
   void addPickedColor(const QString& hex);
   void importBrandArchive(const QString& path);
-  void importArchivedPackage(const QString& archive, const QString& folder);
-  std::optional<QString> findYewstack(const QString& folder) const;
-  void finishImport(const QString& packageURL);
 
   const LibraryServices services_;
+  const std::shared_ptr<PackagePlaces> places_;
+  const DocumentServices documentServices_;  // with them
   LibraryPreferences preferences_;
   GlobalSearch search_;
   QString libraryURL_;
   QList<BrandSummary> brands_;
+  QHash<QString, LibraryListing::Twin> twins_;
+  bool isOpening_ = true;
+  QString libraryProblem_;
+  QTimer patience_;  // with a folder that is being read
+  QTimer lookAgain_;
   std::optional<QString> selection_;
   std::unique_ptr<BrandDocument> openDocument_;
+  UnsavedDocuments unsaved_;
+  QSet<QString> loading_;               // packages
+  QList<Landing> landings_;             // for packages that are being loaded
+  std::function<void()> afterLoading_;  // of the selected package
   bool newBrandRequested_ = false;
   std::optional<QUuid> scrollToSection_;
   std::unique_ptr<ColorSampler> colorSampler_;  // while a pick runs
   std::optional<QUuid> activeColorSectionID_;
   UndoManager* hostUndoManager_ = nullptr;
 };
+
+template <class Work, class Done>
+void LibraryStore::change(DiskWork& disk, Work work, Done done) {
+  disk.ask(
+      [work = std::move(work), &files = services_.document.files, folder = libraryURL_] {
+        auto result = work();
+        return std::pair(std::move(result), LibraryListing::read(files, folder));
+      },
+      [store = QPointer(this), done = std::move(done)](auto&& answer) {
+        if (!store) return;
+        store->applyListing(answer.second);
+        done(std::move(answer.first));
+      });
+}
 
 }  // namespace tarnloft

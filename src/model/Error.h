@@ -10,6 +10,7 @@ enum class ErrorKind {
   notFound,    // no such file or folder
   refused,     // a name, a link or a kind of file that isn't taken
   io,          // the system's own error
+  tooLarge,    // a file beyond its limit
   malformed,   // text that doesn't read
   unwritable,  // a value that has no written form
 };

@@ -19,6 +19,15 @@ inline constexpr qsizetype jsonPadding = 64;
 template <Record R>
 Result<R> decode(const QByteArray& json);
 
+// A record, and whether its document held keys that the record can't keep.
+template <Record R>
+struct Decoded {
+  R record{};
+  bool hasUnknownKeys = false;
+};
+template <Record R>
+Result<Decoded<R>> decodeNoting(const QByteArray& json);
+
 // The record in the exact layout of the files on disk. Fails on a number that is not finite.
 template <Record R>
 Result<QByteArray> encode(const R& record);

@@ -9,13 +9,19 @@
 namespace tarnloft {
 
 template <Record R>
-Result<R> decode(const QByteArray& json) {
+Result<Decoded<R>> decodeNoting(const QByteArray& json) {
   const auto root = parseJson(json);
   if (!root) return tl::unexpected(root.error());
   JsonReader reader;
-  R record{};
-  if (!reader.read(*root, record)) return tl::unexpected(reader.error());
-  return record;
+  Decoded<R> decoded;
+  if (!reader.read(*root, decoded.record)) return tl::unexpected(reader.error());
+  decoded.hasUnknownKeys = reader.hasUnknownKeys();
+  return decoded;
+}
+
+template <Record R>
+Result<R> decode(const QByteArray& json) {
+  return decodeNoting<R>(json).map([](Decoded<R>&& decoded) { return std::move(decoded.record); });
 }
 
 template <Record R>
@@ -28,6 +34,7 @@ Result<QByteArray> encode(const R& record) {
 }  // namespace tarnloft
 
 // Stands in namespace tarnloft.
-#define TARNLOFT_CODED(Type)                             \
-  template Result<Type> decode<Type>(const QByteArray&); \
+#define TARNLOFT_CODED(Type)                                            \
+  template Result<Type> decode<Type>(const QByteArray&);                \
+  template Result<Decoded<Type>> decodeNoting<Type>(const QByteArray&); \
   template Result<QByteArray> encode<Type>(const Type&);

@@ -40,7 +40,10 @@ std::optional<JsonWalk::PayloadContent> JsonWalk::payloadKind(Element element) {
   bool single = true;
   for (const auto [key, content] : object) {
     const auto kind = kindOf(key, PayloadKinds());
-    if (!kind) continue;
+    if (!kind) {
+      hasUnknownKeys_ = true;
+      continue;
+    }
     single = single && (!known || known->kind == *kind);
     known = PayloadContent{*kind, content};  // of a repeated key the last counts
   }

@@ -22,6 +22,9 @@ class JsonWalk {
   // Why the last walk gave false.
   Error error() const;
 
+  // True once a walk has passed over a key that it doesn't know.
+  bool hasUnknownKeys() const { return hasUnknownKeys_; }
+
   enum class Occurrence { first, repeated };
 
   // Calls `take(place, content, occurrence)` for each key that the record's table knows, and asks
@@ -89,8 +92,8 @@ class JsonWalk {
   }
 
   template <Record R, class Take, size_t... Places>
-  static bool takeField(std::string_view key, Element content, FieldSet& seen, Take& take,
-                        std::index_sequence<Places...>) {
+  bool takeField(std::string_view key, Element content, FieldSet& seen, Take& take,
+                 std::index_sequence<Places...>) {
     static_assert(sizeof...(Places) <= 32);
     bool good = true;
     const auto takeIf = [&](auto place) {
@@ -100,7 +103,7 @@ class JsonWalk {
       seen |= bit;
       return true;
     };
-    (void)(takeIf(std::integral_constant<size_t, Places>()) || ...);
+    if (!(takeIf(std::integral_constant<size_t, Places>()) || ...)) hasUnknownKeys_ = true;
     return good;
   }
 
@@ -161,6 +164,7 @@ class JsonWalk {
   // None, with the failure told, unless there is exactly one known key.
   std::optional<PayloadContent> payloadKind(Element element);
 
+  bool hasUnknownKeys_ = false;
   const char* reason_ = "";
   QStringList path_;  // innermost first
 };

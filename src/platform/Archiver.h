@@ -13,10 +13,11 @@ class Archiver {
   // files, times and rights included, links as links, sockets and the like not at all.
   virtual Result<void> archive(const QString& folder, FileWriter& target) = 0;
 
-  // Unpacks a zip into an empty folder that is there, with times and rights. The archive is
-  // foreign: refused is one that is encrypted, cut off, names a file twice, leads out of the folder
-  // by a path or a link, or grows beyond any sensible measure. What was unpacked by then is left to
-  // the caller.
+  // Unpacks a zip into an empty folder that is there, with times and rights, to which the owner's
+  // right to all of it is added. The archive is foreign: refused is one that is encrypted, cut off,
+  // names a file twice, leads out of the folder by a path or a link, or grows beyond any sensible
+  // measure. What was unpacked by then is left to the caller. Nothing is synced: whoever keeps it
+  // calls `FileStore::syncTree`.
   virtual Result<void> extract(const QString& archive, const QString& folder) = 0;
 };
 

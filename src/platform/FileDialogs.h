@@ -25,6 +25,9 @@ class FileDialogs {
   // the extensions. None if the user cancels.
   virtual std::optional<QString> openFileOrFolder(const QStringList& mimeTypes,
                                                   const QStringList& folderExtensions) = 0;
+
+  // Asks for a folder that exists. None if the user cancels.
+  virtual std::optional<QString> chooseFolder() = 0;
 };
 
 }  // namespace tarnloft

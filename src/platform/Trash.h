@@ -9,7 +9,8 @@ class Trash {
  public:
   virtual ~Trash() = default;
 
-  // Moves a file or folder there, also one on another file system than the user's own.
+  // Moves a file or folder there. On failure it stays whole, and the trash has no word of it: some
+  // file systems have no trash. May take long on slow ones. Any thread.
   virtual Result<void> moveToTrash(const QString& path) = 0;
 };
 

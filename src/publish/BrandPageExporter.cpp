@@ -6,6 +6,7 @@
 #include "publish/BrandPageText.h"
 #include "publish/PageMarkup.h"
 
+#include <QPointer>
 #include <QSet>
 #include <QTextBoundaryFinder>
 
@@ -139,13 +140,15 @@ QString BrandPageExporter::suggestedFileName(const QString& brandName) {
   return Package::fileNameFor(brandName) + QStringLiteral(" Brand Page.html");
 }
 
-void BrandPageExporter::exportPage(const BrandDocument& document, FileStore& files,
-                                   FileDialogs& dialogs, FileViewer& viewer) {
+Result<void> BrandPageExporter::exportPage(const BrandDocument& document, FileStore& files,
+                                           FileDialogs& dialogs, FileViewer& viewer) {
+  const QPointer<const BrandDocument> open(&document);
   const auto path =
       dialogs.savePath(suggestedFileName(document.brand().name), QStringLiteral("text/html"));
-  if (!path) return;
-  (void)writeFile(document, files, *path);  // a failed write is dropped
+  if (!path || !open) return {};
+  auto written = writeFile(document, files, *path);
   viewer.reveal(*path);
+  return written;
 }
 
 }  // namespace tarnloft

@@ -28,9 +28,10 @@ Result<void> writeFile(const BrandDocument& document, FileStore& files, const QS
 // "Acme Brand Page.html": the brand's name made fit for a file's.
 QString suggestedFileName(const QString& brandName);
 
-// Asks where to, writes the page there and reveals it, also if writing failed.
-void exportPage(const BrandDocument& document, FileStore& files, FileDialogs& dialogs,
-                FileViewer& viewer);
+// Asks where to, writes the page there and reveals it, also if writing failed. Nothing happens if
+// nothing is chosen, or if the document has gone meanwhile.
+Result<void> exportPage(const BrandDocument& document, FileStore& files, FileDialogs& dialogs,
+                        FileViewer& viewer);
 
 // The `@font-face` rules: one for each family, of its first font item that has a file.
 void fontFaceBlock(const Brand& brand, const BrandDocument& document, PageSink& sink);

@@ -56,23 +56,22 @@ EmblemLook emojiLook(const Emblem& emblem) {
           Ink::Primary};
 }
 
-EmblemLook imageLook(const Emblem& emblem, const EmblemPlace& place, const FileStore& files) {
+EmblemLook imageLook(const Emblem& emblem, const EmblemPlace& place) {
   if (!emblem.asset) return fallback(place);
-  const auto path = Package::assetPath(files, place.packageURL, *emblem.asset);
+  const auto path = Package::assetPath(place.packageURL, *emblem.asset);
   if (!path) return fallback(place);
   return {Ground::Quiet, {}, Mark::Picture, *path, Ink::Primary};
 }
 
 }  // namespace
 
-EmblemLook emblemLook(const std::optional<Emblem>& emblem, const EmblemPlace& place,
-                      const FileStore& files) {
+EmblemLook emblemLook(const std::optional<Emblem>& emblem, const EmblemPlace& place) {
   switch (emblem ? emblem->kind : Emblem::Kind::none) {
     case Emblem::Kind::symbol: return symbolLook(*emblem, place);
     case Emblem::Kind::emoji: return emojiLook(*emblem);
     case Emblem::Kind::color:
       return {Ground::Filled, colorOf(emblem->colorHex), Mark::NoMark, {}, Ink::Primary};
-    case Emblem::Kind::image: return imageLook(*emblem, place, files);
+    case Emblem::Kind::image: return imageLook(*emblem, place);
     case Emblem::Kind::none: break;
   }
   return fallback(place);

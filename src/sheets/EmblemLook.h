@@ -55,8 +55,7 @@ struct EmblemPlace {
   std::optional<QColor> monogramColor;
 };
 
-// A picture whose file leads out of its package counts as none.
-EmblemLook emblemLook(const std::optional<Emblem>& emblem, const EmblemPlace& place,
-                      const FileStore& files);
+// A picture whose file's name leads out of its package counts as none.
+EmblemLook emblemLook(const std::optional<Emblem>& emblem, const EmblemPlace& place);
 
 }  // namespace tarnloft

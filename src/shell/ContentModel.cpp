@@ -9,20 +9,16 @@
 #include <utility>
 
 namespace tarnloft {
-namespace {
-
-constexpr std::chrono::milliseconds snapshotDelay{500};
-
-}  // namespace
-
 ContentModel::ContentModel(const LibraryServices& libraryServices,
                            const WorkspaceServices& services, QObject* parent)
     : QObject(parent),
       services_(services),
       library_(services.library),
-      commands_(library_, libraryServices),
+      commands_(library_),
       sidebar_(library_, libraryServices),
-      selectedBrand_(library_.selection()) {
+      alerts_(library_),
+      selectedBrand_(library_.selection()),
+      undoDocument_(library_.openDocument()) {
   library_.setHostUndoManager(&undo_);
   const LibraryStore* const library = &library_;
   connect(library, &LibraryStore::brandsChanged, this, &ContentModel::detailChanged);
@@ -32,8 +28,9 @@ ContentModel::ContentModel(const LibraryServices& libraryServices,
   // Several documents may come and go in one turn; each page costs.
   connect(library, &LibraryStore::openDocumentChanged, this, &ContentModel::renewWorkspace,
           Qt::QueuedConnection);
-  // Steps of a document that has gone would do nothing.
-  connect(library, &LibraryStore::openDocumentChanged, &undo_, &StackUndoManager::clear);
+  connect(library, &LibraryStore::openDocumentChanged, this, &ContentModel::followDocument);
+  connect(library, &LibraryStore::isLoadingChanged, this, &ContentModel::detailChanged);
+  connect(library, &LibraryStore::libraryProblemChanged, this, &ContentModel::detailChanged);
   connect(library, &LibraryStore::selectionChanged, this, &ContentModel::followSelection);
   connect(library, &LibraryStore::newBrandRequestedChanged, this, &ContentModel::answerRequest);
   connect(library, &LibraryStore::scrollToSectionChanged, this, &ContentModel::answerScrollRequest,
@@ -47,7 +44,11 @@ ContentModel::~ContentModel() { library_.setHostUndoManager(nullptr); }
 
 ContentModel::Detail ContentModel::detail() const {
   if (library_.openDocument()) return Detail::brand;
-  return library_.brands().isEmpty() ? Detail::welcome : Detail::noSelection;
+  if (library_.isLoading()) return Detail::opening;
+  const bool isEmpty = library_.brands().isEmpty();
+  if (isEmpty && !library_.libraryProblem().isEmpty()) return Detail::unavailable;
+  if (library_.isOpening()) return Detail::opening;
+  return isEmpty ? Detail::welcome : Detail::noSelection;
 }
 
 QString ContentModel::title() const {
@@ -84,7 +85,10 @@ void ContentModel::answerScrollRequest() {
 void ContentModel::renewWorkspace() {
   BrandDocument* const document = library_.openDocument();
   if (!workspace_ && !document) return;
-  if (workspace_ && document && workspace_->document() == document) return;
+  const QString package = document ? document->packageURL() : QString();
+  const bool isSame = workspace_ && document && workspace_->document() == document;
+  if (isSame && workspacePackage_ == package) return;
+  workspacePackage_ = package;
   auto old = std::exchange(workspace_, document ? makeWorkspace(*document) : nullptr);
   emit workspaceChanged();
   // The old page goes in turns of its own, its sections behind it, and reads the old one till then.
@@ -94,10 +98,19 @@ void ContentModel::renewWorkspace() {
 }
 
 std::unique_ptr<BrandWorkspace> ContentModel::makeWorkspace(BrandDocument& document) {
-  FontManager::registerAll(document, services_.imports.fonts);
-  // Reads the versions that there are, for which no page should wait.
-  QTimer::singleShot(snapshotDelay, &document, [&document] { document.maybeAutoSnapshot(); });
+  services_.imports.workers.start(
+      [brand = document.brand(), package = document.files(), &fonts = services_.imports.fonts] {
+        FontManager::registerAll(brand, package, fonts);
+      });
+  document.maybeAutoSnapshot();
   return std::make_unique<BrandWorkspace>(document, selection_, toasts_, &undo_, services_);
+}
+
+// Steps of a document that has gone would do nothing.
+void ContentModel::followDocument() {
+  if (std::exchange(undoDocument_, library_.openDocument()) != library_.openDocument()) {
+    undo_.clear();
+  }
 }
 
 void ContentModel::followSelection() {

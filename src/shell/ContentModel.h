@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/Alerts.h"
 #include "shell/ShellCommands.h"
 #include "shell/Sidebar.h"
 #include "shell/StackUndoManager.h"
@@ -15,6 +16,7 @@ class ContentModel : public QObject {
   Q_PROPERTY(tarnloft::ShellCommands* commands READ commands CONSTANT)
   Q_PROPERTY(tarnloft::Sidebar* sidebar READ sidebar CONSTANT)
   Q_PROPERTY(tarnloft::StackUndoManager* undo READ undo CONSTANT)
+  Q_PROPERTY(tarnloft::Alerts* alerts READ alerts CONSTANT)
   // A BrandWorkspace, or null while no brand is open. Not of that type for QML, because its module
   // would be loaded with this one, before the first frame.
   Q_PROPERTY(QObject* workspace READ workspace NOTIFY workspaceChanged)
@@ -29,6 +31,8 @@ class ContentModel : public QObject {
 
  public:
   enum class Detail {
+    opening,      // the library, or the selected brand, is being read
+    unavailable,  // the library can't be read
     welcome,      // the library is empty
     noSelection,  // it has brands, and none is open
     brand
@@ -44,6 +48,7 @@ class ContentModel : public QObject {
   ShellCommands* commands() { return &commands_; }
   Sidebar* sidebar() { return &sidebar_; }
   StackUndoManager* undo() { return &undo_; }
+  Alerts* alerts() { return &alerts_; }
   TileSelection* selection() { return &selection_; }
   ToastCenter* toasts() { return &toasts_; }
   // Another brand gets another one, on the next turn of the event loop.
@@ -77,6 +82,7 @@ class ContentModel : public QObject {
   void answerScrollRequest();
   void followSelection();
   void renewWorkspace();
+  void followDocument();
   std::unique_ptr<BrandWorkspace> makeWorkspace(BrandDocument& document);
 
   const WorkspaceServices services_;
@@ -86,10 +92,13 @@ class ContentModel : public QObject {
   ToastCenter toasts_;
   ShellCommands commands_;
   Sidebar sidebar_;
+  Alerts alerts_;
   std::optional<QString> selectedBrand_;
   bool showNewBrand_ = false;
   QString newBrandName_;
   std::unique_ptr<BrandWorkspace> workspace_;
+  QString workspacePackage_;              // where its paths lead
+  QPointer<BrandDocument> undoDocument_;  // whose steps the undo has
 };
 
 }  // namespace tarnloft

@@ -1,11 +1,13 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import TarnLoft.Controls
 import TarnLoft.Sheets
 import TarnLoft.Shell
 import TarnLoft.Workspace
 
-// What stands beside the sidebar: the open brand's page, or an empty state.
+// What stands beside the sidebar: the open brand's page, headed by why its changes aren't saved if
+// they aren't, or an empty state.
 Item {
     id: root
 
@@ -21,6 +23,30 @@ Item {
         }
     }
 
+    WarningBar {
+        id: unsaved
+
+        readonly property string problem: root.content.alerts.saveProblem
+
+        width: parent.width
+        message: problem && "Changes aren't saved: " + problem
+
+        Button {
+            text: "Try Again"
+            controlSize: ControlSize.Small
+            onClicked: {
+                unsaved.blink();
+                root.content.alerts.retrySave();
+            }
+        }
+
+        Button {
+            text: "Save a Copy…"
+            controlSize: ControlSize.Small
+            onClicked: root.content.alerts.saveCopy()
+        }
+    }
+
     // Another brand gets another page, with fresh state.
     Repeater {
         model: root.content.workspace ? [root.content.workspace] : []
@@ -30,6 +56,7 @@ Item {
             required property BrandWorkspace modelData
 
             anchors.fill: parent
+            anchors.topMargin: unsaved.height
             workspace: modelData
             onAddSectionRequested: root.addingSection = true
 

@@ -11,10 +11,23 @@ Item {
 
     required property ContentModel content
 
+    function viewOf(detail: int): Component {
+        switch (detail) {
+        case ContentModel.Detail.opening:
+            return opening;
+        case ContentModel.Detail.unavailable:
+            return unavailable;
+        case ContentModel.Detail.welcome:
+            return welcome;
+        default:
+            return noSelection;
+        }
+    }
+
     LazyItem {
         anchors.centerIn: parent
         anchors.verticalCenterOffset: -12 // the optical middle
-        sourceComponent: root.content.detail === ContentModel.Detail.welcome ? welcome : noSelection
+        sourceComponent: root.viewOf(root.content.detail)
     }
 
     Component {
@@ -35,6 +48,20 @@ Item {
                 kind: Button.Prominent
                 onClicked: root.content.showNewBrand = true
             }
+        }
+    }
+
+    Component {
+        id: opening
+
+        OpeningView {}
+    }
+
+    Component {
+        id: unavailable
+
+        UnavailableView {
+            alerts: root.content.alerts
         }
     }
 

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import TarnLoft.Controls
 
-// A sheet that is made and opened when it is asked for, and gone when it has closed.
+// A sheet that is made and opened when it is asked for, and gone when it isn't any more.
 //   LazySheet { active: model.asking; RenameSheet { … onClosed: model.end() } }
 Item {
     id: root
@@ -18,7 +18,8 @@ Item {
             opened = sheet.createObject(root) as Sheet;
             opened.open();
         } else if (!active && opened) {
-            opened.destroy();
+            opened.close(); // it may still be up
+            opened.destroy(1000);
             opened = null;
         }
     }

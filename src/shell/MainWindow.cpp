@@ -8,6 +8,7 @@
 
 #include <QGuiApplication>
 #include <QQmlComponent>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <QScreen>
 
@@ -58,10 +59,15 @@ MainWindow::MainWindow(QQmlEngine& engine, const LibraryServices& libraryService
   connect(&lateViews_, &QQmlComponent::statusChanged, this, &MainWindow::makeLateViews);
 }
 
-// Its views go before what they show, and before the services.
+// Its views go before what they show, and before the services. Those that a repeater has shown are
+// left to the application, for a turn of the event loop that may not come.
 MainWindow::~MainWindow() {
   window_.reset();
   endDeferred();
+  const auto left = [] {
+    return qGuiApp->findChild<QQuickItem*>(QString(), Qt::FindDirectChildrenOnly);
+  };
+  while (QQuickItem* const view = left()) delete view;  // which may leave others
 }
 
 QUrl MainWindow::url() { return viewURL("MainWindow.qml"); }
@@ -126,6 +132,10 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::Resize:
     case QEvent::WindowStateChange: settled_.start(); break;
     case QEvent::Close:
+      if (!mayClose_()) {
+        event->ignore();
+        return true;
+      }
       remember();  // a hidden window has no frame
       // Behind the event's own handling, which still uses the window.
       QMetaObject::invokeMethod(this, &MainWindow::close, Qt::QueuedConnection);

@@ -31,6 +31,10 @@ class MainWindow : public QObject {
   bool open();
   // Null while it is closed.
   QQuickWindow* window() const { return window_.get(); }
+  // Null while it is closed.
+  Alerts* alerts() const { return content_ ? content_->alerts() : nullptr; }
+  // Asked when the window is about to close; it stays if the answer is false.
+  void setMayClose(std::function<bool()> mayClose) { mayClose_ = std::move(mayClose); }
 
  signals:
   void closed();
@@ -48,6 +52,7 @@ class MainWindow : public QObject {
   const LibraryServices libraryServices_;
   const WorkspaceServices services_;
   Preferences& state_;
+  std::function<bool()> mayClose_ = [] { return true; };
   std::unique_ptr<ContentModel> content_;
   std::unique_ptr<QQuickWindow> window_;
   QQmlComponent lateViews_;

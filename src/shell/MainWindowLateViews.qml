@@ -15,6 +15,9 @@ LateViews {
     detail: DetailView {
         content: root.content
     }
+    libraryProblem: LibraryProblemBar {
+        content: root.content
+    }
     overlay: WindowOverlay {
         content: root.content
     }

@@ -16,8 +16,8 @@ class ShellCommands : public QObject {
   Q_PROPERTY(bool hasSelection READ hasSelection NOTIFY hasSelectionChanged)
 
  public:
-  // Borrowed: the library and all of the services outlive the commands.
-  ShellCommands(LibraryStore& library, const LibraryServices& services, QObject* parent = nullptr);
+  // Borrowed: it outlives this.
+  explicit ShellCommands(LibraryStore& library, QObject* parent = nullptr);
 
   bool hasSelection() const { return library_.selection().has_value(); }
 
@@ -25,7 +25,7 @@ class ShellCommands : public QObject {
   Q_INVOKABLE void importBrand() { library_.importBrand(); }
   Q_INVOKABLE void exportBrand() { library_.exportSelectedBrand(); }
   // Nothing happens while no document is open.
-  Q_INVOKABLE void exportBrandPage();
+  Q_INVOKABLE void exportBrandPage() { library_.exportOpenBrandPage(); }
   Q_INVOKABLE void pickColorFromScreen() { library_.pickColorFromScreen(); }
 
  signals:
@@ -33,7 +33,6 @@ class ShellCommands : public QObject {
 
  private:
   LibraryStore& library_;
-  const LibraryServices services_;
 };
 
 }  // namespace tarnloft

@@ -7,10 +7,7 @@
 namespace tarnloft {
 
 Sidebar::Sidebar(LibraryStore& library, const LibraryServices& services, QObject* parent)
-    : QObject(parent),
-      library_(library),
-      viewer_(services.viewer),
-      rows_(library, services.document.files) {}
+    : QObject(parent), library_(library), viewer_(services.viewer), rows_(library) {}
 
 std::optional<BrandSummary> Sidebar::brandAt(const QString& packageURL) const {
   const QList<BrandSummary>& brands = library_.brands();

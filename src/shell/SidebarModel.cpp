@@ -31,10 +31,11 @@ BrandMark markOf(const BrandSummary& row, const BrandDocument* open) {
 
 }  // namespace
 
-SidebarModel::SidebarModel(LibraryStore& library, const FileStore& files, QObject* parent)
-    : QAbstractListModel(parent), library_(library), files_(files), rows_(wantedRows()) {
+SidebarModel::SidebarModel(LibraryStore& library, QObject* parent)
+    : QAbstractListModel(parent), library_(library), rows_(wantedRows()) {
   for (const auto signal : {&LibraryStore::brandsChanged, &LibraryStore::selectionChanged,
-                            &LibraryStore::openDocumentChanged, &LibraryStore::brandChanged}) {
+                            &LibraryStore::openDocumentChanged, &LibraryStore::brandChanged,
+                            &LibraryStore::unsavedChanged}) {
     connect(&library, signal, this, &SidebarModel::scheduleUpdate);
   }
 }
@@ -59,13 +60,14 @@ QVariant SidebarModel::data(const QModelIndex& index, int role) const {
     case look: return QVariant::fromValue(lookOf(row));
     case marked: return isMarked(row.emblem);
     case selected: return row.selected;
+    case unsaved: return row.unsaved;
     default: return {};
   }
 }
 
 QHash<int, QByteArray> SidebarModel::roleNames() const {
   return {{kind, "kind"}, {rowID, "rowID"},   {packageURL, "packageURL"}, {name, "name"},
-          {look, "look"}, {marked, "marked"}, {selected, "selected"}};
+          {look, "look"}, {marked, "marked"}, {selected, "selected"},     {unsaved, "unsaved"}};
 }
 
 int SidebarModel::selectedRow() const {
@@ -134,7 +136,8 @@ SidebarModel::Row SidebarModel::brandRow(const BrandSummary& brand) const {
           brand.name,
           mark.emblem,
           accentColor(dark ? mark.accentHexDark : mark.accentHex),
-          library_.selection() == brand.packageURL};
+          library_.selection() == brand.packageURL,
+          !library_.saveProblem(brand.packageURL).isEmpty()};
 }
 
 SidebarModel::Row SidebarModel::sectionRow(const Section& section, const QString& package) {
@@ -142,14 +145,11 @@ SidebarModel::Row SidebarModel::sectionRow(const Section& section, const QString
   return {section.id, Kind::section, package, title, section.emblem, std::nullopt, false};
 }
 
-// Asked for by the rows that are seen: it may look for a picture's file.
 EmblemLook SidebarModel::lookOf(const Row& row) const {
   const bool isBrand = row.kind == Kind::brand;
-  return emblemLook(
-      row.emblem,
-      {isBrand ? QStringLiteral("square.stack.3d.up") : QStringLiteral("rectangle.grid.1x2"),
-       row.packageURL, isBrand ? row.name : QString(), row.accent},
-      files_);
+  return emblemLook(row.emblem, {isBrand ? QStringLiteral("square.stack.3d.up")
+                                         : QStringLiteral("rectangle.grid.1x2"),
+                                 row.packageURL, isBrand ? row.name : QString(), row.accent});
 }
 
 }  // namespace tarnloft

@@ -27,7 +27,8 @@ class SidebarModel : public QAbstractListModel {
     name,                 // text: never empty
     look,                 // EmblemLook: the brand's or the section's
     marked,               // bool: false if the user wants no mark on it
-    selected              // bool: the row is the selected brand's own
+    selected,             // bool: the row is the selected brand's own
+    unsaved               // bool: the brand's changes couldn't be saved
   };
   Q_ENUM(Role)
 
@@ -39,12 +40,13 @@ class SidebarModel : public QAbstractListModel {
     std::optional<Emblem> emblem;
     std::optional<QColor> accent;
     bool selected = false;
+    bool unsaved = false;
 
     bool operator==(const Row&) const = default;
   };
 
   // Both outlive the model.
-  SidebarModel(LibraryStore& library, const FileStore& files, QObject* parent = nullptr);
+  SidebarModel(LibraryStore& library, QObject* parent = nullptr);
 
   // The look whose accents the brands' marks take; light at first.
   void setAppearance(ColorUtil::Appearance appearance);
@@ -67,7 +69,6 @@ class SidebarModel : public QAbstractListModel {
   EmblemLook lookOf(const Row& row) const;
 
   LibraryStore& library_;
-  const FileStore& files_;
   ColorUtil::Appearance appearance_ = ColorUtil::Appearance::light;
   QList<Row> rows_;
   bool updateScheduled_ = false;

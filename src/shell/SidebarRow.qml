@@ -21,6 +21,7 @@ Item {
     required property emblemLook look
     required property bool marked
     required property bool selected
+    required property bool unsaved
 
     readonly property bool isBrand: kind === SidebarModel.Kind.brand
     readonly property bool lifted: isBrand && sidebar.draggingBrandID === rowID
@@ -41,6 +42,7 @@ Item {
     height: isBrand ? 30 : 26
     Accessible.role: Accessible.ListItem
     Accessible.name: name
+    Accessible.description: unsaved ? "Changes aren't saved" : ""
     Accessible.focusable: true
     Accessible.selectable: isBrand
     Accessible.selected: selected
@@ -69,7 +71,7 @@ Item {
             id: label
 
             x: root.isBrand ? 36 : root.marked ? 50 : 28
-            width: parent.width - x - 10
+            width: parent.width - x - (root.unsaved ? 30 : 10)
             height: parent.height
             text: root.name
             font: Theme.font(root.isBrand ? 13 : 12, root.selected ? Font.DemiBold : Font.Normal)
@@ -81,12 +83,14 @@ Item {
 
         LazyItem {
             anchors.fill: parent
-            active: root.focused || area.containsMouse
-            sourceComponent: RowHighlight {
+            active: root.focused || root.unsaved || area.containsMouse
+            sourceComponent: RowExtras {
                 focused: root.focused
+                unsaved: root.unsaved
                 overHandle: area.overHandle && !area.dragging
                 bare: area.containsMouse && root.isBrand && !root.marked
                 handleEnd: area.handleEnd
+                overEnd: area.containsMouse && area.mouseX > label.x + label.width
             }
         }
     }

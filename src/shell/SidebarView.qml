@@ -47,7 +47,7 @@ Rectangle {
         id: list
 
         anchors.top: heading.bottom
-        anchors.bottom: foot.top
+        anchors.bottom: problem.top
         width: parent.width
         sidebar: root.sidebar
         thumbnails: root.thumbnails
@@ -66,9 +66,17 @@ Rectangle {
     }
 
     Divider {
-        anchors.bottom: foot.top
+        anchors.bottom: list.bottom
         width: parent.width
         visible: list.contentHeight > list.height
+    }
+
+    LazyItem {
+        id: problem
+
+        anchors.bottom: foot.top
+        width: parent.width
+        sourceComponent: root.late?.libraryProblem ?? null
     }
 
     Item {

@@ -5,7 +5,7 @@ import TarnLoft.Controls
 import TarnLoft.Sheets
 import TarnLoft.Shell
 
-// The toast and the sheets that concern the library.
+// The toast, the sheets that concern the library, and what is told of failures.
 Item {
     id: root
 
@@ -56,5 +56,9 @@ Item {
             onConfirmed: root.sidebar.confirmDelete()
             onClosed: root.sidebar.endDelete()
         }
+    }
+
+    AlertSheets {
+        alerts: root.content.alerts
     }
 }

@@ -1,6 +1,7 @@
 #include "workspace/BrandWorkspace.h"
 
 #include "assets/ItemDrag.h"
+#include "document/Package.h"
 #include "workspace/GroupOperations.h"
 
 #include <algorithm>
@@ -84,12 +85,12 @@ void BrandWorkspace::addSection(const QString& name) {
 EmblemLook BrandWorkspace::lookOf(const std::optional<Emblem>& emblem,
                                   const QString& defaultSymbol) const {
   if (!document_) return {};
-  return emblemLook(emblem, {defaultSymbol, document_->packageURL(), {}, {}},
-                    services_.drags.files);
+  return emblemLook(emblem, {defaultSymbol, document_->packageURL(), {}, {}});
 }
 
 QString BrandWorkspace::assetPath(const AssetRef& asset) const {
-  return document_ ? document_->assetPath(asset).value_or(QString()) : QString();
+  return document_ ? Package::assetPath(document_->packageURL(), asset).value_or(QString())
+                   : QString();
 }
 
 void BrandWorkspace::copy(const QString& text, const QString& what) {

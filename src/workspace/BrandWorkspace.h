@@ -64,7 +64,7 @@ class BrandWorkspace : public QObject {
   const WorkspaceServices& services() const { return services_; }
 
   EmblemLook lookOf(const std::optional<Emblem>& emblem, const QString& defaultSymbol) const;
-  // Empty for a file that leads out of the package.
+  // Empty for a name that leads out of the package.
   QString assetPath(const AssetRef& asset) const;
 
   // Puts the text on the clipboard and tells of it: "Copied " and `what`.

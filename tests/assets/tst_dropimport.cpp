@@ -33,6 +33,7 @@ class TestDropImport : public QObject {
   void failuresMakeNoItem();
   void aDeletedSectionTakesNothing();
   void aClosedDocumentStillTakesItems();
+  void aRenamedPackageStillTakesFiles();
   void aDeletedPackageStaysDeleted();
 };
 
@@ -49,6 +50,7 @@ struct Dropping {
   std::unique_ptr<BrandDocument> document =
       *BrandDocument::create({held, log}, disk.folder.path(), "Acme");
   QList<QPair<QUuid, QList<Item>>> addedToClosed;
+  QList<QStringList> failed;
 
   Dropping() {
     workers.setMaxThreadCount(4);
@@ -58,9 +60,11 @@ struct Dropping {
   }
   ~Dropping() { finish(); }
   ImportServices services() {
-    return {types, fonts, workers, [this](const QString&, const QUuid& section, const auto& items) {
+    return {types, fonts, workers,
+            [this](const BrandPlace&, const QUuid& section, const auto& items) {
               addedToClosed << qMakePair(section, items);
-            }};
+            },
+            [this](const QStringList& names, const QString&) { failed << names; }};
   }
   std::shared_ptr<FakeThing> file(const QString& name, const QByteArray& content = "content") {
     writeFile(disk.path("from/" + name), content);
@@ -330,6 +334,11 @@ void TestDropImport::failuresMakeNoItem() {
   dropping.finish();
   QCOMPARE(dropping.shape(), "S:a,b T:x");
   QCOMPARE(QDir(dropping.assets()).entryList(QDir::Files).size(), 1);
+  // Told once, and not of what there was nothing of.
+  const QString folder = QFileInfo(dropping.disk.folder.path()).fileName();
+  QCOMPARE(dropping.failed.size(), 1);
+  const QStringList& names = dropping.failed.first();
+  QCOMPARE(QSet<QString>(names.begin(), names.end()), QSet<QString>({"missing.png", folder}));
 }
 
 void TestDropImport::aDeletedSectionTakesNothing() {
@@ -371,6 +380,21 @@ void TestDropImport::aClosedDocumentStillTakesItems() {
   }
   // Once into the closed package, and once into the document that was open again.
   QCOMPARE(store.openDocument()->brand().sections.first().items.size(), 2);
+}
+
+void TestDropImport::aRenamedPackageStillTakesFiles() {
+  Dropping dropping;
+  for (const char* name : {"1.png", "2.ttf"}) dropping.held.hold(name);
+  QVERIFY(dropping.drop({dropping.file("1.png"), dropping.file("2.ttf", "Inter")}));
+  const QString package = dropping.document->packageURL(), moved = dropping.disk.path("Moved");
+  QVERIFY(QDir().rename(package, moved));
+  for (const char* name : {"1.png", "2.ttf"}) dropping.held.release(name);
+  dropping.finish();
+  QCOMPARE(dropping.shape(), "S:a,b T:1,Inter");
+  QVERIFY(!QFileInfo::exists(package));
+  for (const Item& item : dropping.section(1).items) {
+    QVERIFY(QFileInfo::exists(moved + "/assets/" + assetOf(item).filename));
+  }
 }
 
 void TestDropImport::aDeletedPackageStaysDeleted() {

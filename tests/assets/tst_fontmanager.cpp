@@ -59,8 +59,8 @@ void TestFontManager::textDrawsInTheFontsOfABrand() {
        {import("collection.ttc"), import("make.py"), import("plain.otf")});
   FreeTypeFonts fonts;
   QVERIFY(drawnBox("Tarn Test") != boxOfWidth(200));
-  FontManager::registerAll(*document, fonts);
-  FontManager::registerAll(*document, fonts);
+  FontManager::registerAll(document->brand(), document->files(), fonts);
+  FontManager::registerAll(document->brand(), document->files(), fonts);
   QCOMPARE(drawnBox("Tarn Test"), boxOfWidth(200));
   QCOMPARE(drawnBox("Tarn Woff Two Typo"), boxOfWidth(480));
   QCOMPARE(drawnBox("Tarn First"), boxOfWidth(800));
@@ -80,7 +80,7 @@ void TestFontManager::registersOnlyFilesOfFontItems() {
         fontItem(AssetRef{"", "a"}), fontItem(std::nullopt)},
        {Item::create(ImagePayload{font, {}}), Item::create(TextPayload{"x"}), fontItem(font)});
   ListedFonts fonts;
-  FontManager::registerAll(*document, fonts);
+  FontManager::registerAll(document->brand(), document->files(), fonts);
   QCOMPARE(fonts.registered, QStringList(folder + "/" + font.filename));
 }
 

@@ -170,22 +170,33 @@ void TestKeyboard::aSheetAnswersReturnAndEscape() {
 }
 
 void TestKeyboard::aDialogAnswersOnce_data() {
-  QTest::addColumn<int>("key");
+  QTest::addColumn<QString>("kind");
+  QTest::addColumn<QList<int>>("keys");
   QTest::addColumn<QString>("log");
-  QTest::newRow("return confirms") << int(Qt::Key_Return) << "confirmed";
-  QTest::newRow("escape dismisses") << int(Qt::Key_Escape) << "dismissed";
+  using namespace Qt;
+  const QString cancelling = QStringLiteral("cancelIsDefault: true");
+  const QString third = QStringLiteral("alternativeText: 'Try Again'");
+  QTest::newRow("return confirms") << "" << QList<int>{Key_Return} << "confirmed";
+  QTest::newRow("escape dismisses") << "" << QList<int>{Key_Escape} << "dismissed";
+  QTest::newRow("return cancels") << cancelling << QList<int>{Key_Return} << "dismissed";
+  QTest::newRow("past cancel") << cancelling << QList<int>{Key_Tab, Key_Tab, Key_Space}
+                               << "confirmed";
+  QTest::newRow("a third button") << third << QList<int>{Key_Tab, Key_Space} << "other";
+  QTest::newRow("past the third") << third << QList<int>{Key_Return} << "confirmed";
 }
 
 void TestKeyboard::aDialogAnswersOnce() {
-  QFETCH(int, key);
+  QFETCH(QString, kind);
+  QFETCH(QList<int>, keys);
   QFETCH(QString, log);
-  Stage stage(
-      "ConfirmationDialog { objectName: 'dialog'; title: 'Really?'; destructive: true\n"
-      "  onConfirmed: log('confirmed'); onDismissed: log('dismissed') }");
+  Stage stage(QStringLiteral("ConfirmationDialog { objectName: 'dialog'; title: 'Really?'; %1\n"
+                             "  onConfirmed: log('confirmed'); onDismissed: log('dismissed')\n"
+                             "  onAlternativeChosen: log('other') }")
+                  .arg(kind));
   for (const QString& sofar : {log, log + ' ' + log}) {
     QMetaObject::invokeMethod(stage.find("dialog"), "open");
     QTRY_VERIFY(stage.find("dialog")->property("opened").toBool());
-    stage.press(key);
+    for (const int key : keys) stage.press(key);
     QTRY_COMPARE(stage.log(), sofar);
   }
 }

@@ -85,6 +85,11 @@ void TestTheme::labelsAreReadable() {
                qPrintable(QStringLiteral("%1 on %2: %3")
                               .arg(text.name, background.name(), QString::number(ratio))));
     }
+  for (const QColor& background : {p.windowBackground, p.sidebarBackground}) {
+    const QColor fill = over(p.warningFill, background);
+    QVERIFY2(contrastRatio(p.label, fill) >= 10, qPrintable(fill.name()));
+    QVERIFY2(contrastRatio(p.warning, fill) >= 3, qPrintable(fill.name()));
+  }
 }
 
 void TestTheme::anyAccentCarriesReadableText_data() {

@@ -6,6 +6,8 @@
 
 #include <QTest>
 
+#include <utility>
+
 using namespace tarnloft;
 
 // Saves that go wrong: each of the steps fails, or the power goes behind each of them.
@@ -18,11 +20,17 @@ class TestSaving : public QObject {
   void aFailedStepLeavesTheOldFileAndOneLine();
   void afterAFailedSyncOfTheFolderTheNewFileStands();
   void aManifestThatLeadsOutIsNeitherReadNorFollowed();
+  void whatCouldNotBeReadAgainIsNotWritten();
+  void anotherMachinesManifestOfAnyMomentIsKept_data();
+  void anotherMachinesManifestOfAnyMomentIsKept();
+  void bytesOfANewerProgramAreKept_data();
+  void bytesOfANewerProgramAreKept();
 };
 
 namespace {
 
-constexpr int stepsOfASave = 6;  // folder, temporary, write, sync, replace, sync of the folder
+constexpr int exchangeStep = 4;  // behind temporary, write and sync
+constexpr int stepsOfASave = 6;  // then the removal of the old file and the sync of the folder
 
 struct Saving {
   TestServices disk;
@@ -66,7 +74,7 @@ void TestSaving::aCutLeavesTheOldFileOrTheNewOne() {
   for (int step = 0; step <= stepsOfASave; ++step) {
     Saving saving;
     saving.save(FaultyStore::Fault::cutBehind, step);
-    const bool replacedByThen = step >= stepsOfASave - 1;
+    const bool replacedByThen = step >= exchangeStep;
     QCOMPARE(contentOf(saving.manifest), replacedByThen ? saving.after() : saving.before);
     QVERIFY(BrandDocument::load(saving.disk.services(), saving.document->packageURL()));
     QVERIFY(saving.strays().size() <= 1);
@@ -76,7 +84,7 @@ void TestSaving::aCutLeavesTheOldFileOrTheNewOne() {
 }
 
 void TestSaving::aFailedStepLeavesTheOldFileAndOneLine() {
-  for (int step = 1; step < stepsOfASave; ++step) {
+  for (int step = 1; step <= exchangeStep; ++step) {
     Saving saving;
     saving.save(FaultyStore::Fault::failStep, step);
     QCOMPARE(contentOf(saving.manifest), saving.before);
@@ -85,9 +93,12 @@ void TestSaving::aFailedStepLeavesTheOldFileAndOneLine() {
              QStringList(QStringLiteral("failed to save ") + saving.manifest +
                          QStringLiteral(": No space left on device")));
     QCOMPARE(saving.document->brand().name, QStringLiteral("Edited"));
+    QCOMPARE(saving.document->saveProblem(), QStringLiteral("No space left on device"));
+    QVERIFY(saving.document->hasUnsavedChanges());
     saving.store.fault = FaultyStore::Fault::none;
     saving.document->saveNow();
     QCOMPARE(contentOf(saving.manifest), saving.after());
+    QVERIFY(saving.document->saveProblem().isEmpty() && !saving.document->hasUnsavedChanges());
   }
 }
 
@@ -107,6 +118,96 @@ void TestSaving::aManifestThatLeadsOutIsNeitherReadNorFollowed() {
   saving.save(FaultyStore::Fault::none, 0);
   QCOMPARE(contentOf(outside), saving.before);
   QVERIFY(!QFileInfo(saving.manifest).isSymLink());
+}
+
+void TestSaving::whatCouldNotBeReadAgainIsNotWritten() {
+  Saving saving;
+  saving.document->edit([](Brand& brand) { brand.name = QString(65 << 20, QChar('x')); });
+  saving.document->saveNow();
+  QCOMPARE(contentOf(saving.manifest), saving.before);
+  QVERIFY(!saving.document->saveProblem().isEmpty());
+  QVERIFY(saving.strays().isEmpty());
+}
+
+namespace {
+
+// The real disk, on which another machine does something at chosen moments of a save.
+class SharedStore : public PosixFileStore {
+ public:
+  std::function<void()> beforeExchange = [] {};
+  std::function<void()> afterExchange = [] {};
+
+  Result<Replaced> exchange(FileWriter& temporary, const QString& target) override {
+    std::exchange(beforeExchange, [] {})();
+    auto replaced = PosixFileStore::exchange(temporary, target);
+    std::exchange(afterExchange, [] {})();
+    return replaced;
+  }
+};
+
+}  // namespace
+
+void TestSaving::anotherMachinesManifestOfAnyMomentIsKept_data() {
+  QTest::addColumn<bool>("isBehind");
+  QTest::newRow("between the comparison and the exchange") << false;
+  QTest::newRow("right behind the exchange") << true;
+}
+
+void TestSaving::anotherMachinesManifestOfAnyMomentIsKept() {
+  QFETCH(bool, isBehind);
+  TestServices disk;
+  SharedStore store;
+  const DocumentServices services{store, disk.log, [&] { return disk.now; }};
+  const auto document = *BrandDocument::create(services, disk.folder.path(), "Acme");
+  const QString manifest = Package::manifestPath(document->packageURL());
+  const auto arrive = [&] {
+    Brand theirs = document->brand();
+    theirs.name = "Theirs";
+    QVERIFY(writeFile(manifest + ".new", *encode(theirs)));
+    QVERIFY(QFile::remove(manifest) && QFile::rename(manifest + ".new", manifest));
+  };
+  (isBehind ? store.afterExchange : store.beforeExchange) = arrive;
+  for (const char* name : {"Ours", "Ours again"}) {
+    document->edit([&](Brand& brand) { brand.name = name; });
+    document->saveNow();
+  }
+  const auto versions = document->listVersions();
+  QCOMPARE(versions.size(), 1);
+  QCOMPARE(PackageVersions(store, document->packageURL()).read(versions.first().url)->brand.name,
+           "Theirs");
+  QCOMPARE(decode<Brand>(contentOf(manifest))->name, "Ours again");
+}
+
+void TestSaving::bytesOfANewerProgramAreKept_data() {
+  QTest::addColumn<QByteArray>("from");
+  QTest::addColumn<QByteArray>("to");
+  QTest::addColumn<bool>("isKept");
+  QTest::newRow("ours") << QByteArray("\"id\"") << QByteArray("\"id\"") << false;
+  QTest::newRow("a key of the brand")
+      << QByteArray("{\n  \"c") << QByteArray("{ \"boards\": [1],\n  \"c") << true;
+  QTest::newRow("a key of a section") << QByteArray("\"name\" : \"Logos\"")
+                                      << QByteArray("\"name\" : \"Logos\", \"grid\": 3") << true;
+  QTest::newRow("another schema") << QByteArray("\"schemaVersion\" : 1")
+                                  << QByteArray("\"schemaVersion\" : 2") << true;
+}
+
+void TestSaving::bytesOfANewerProgramAreKept() {
+  QFETCH(QByteArray, from);
+  QFETCH(QByteArray, to);
+  QFETCH(bool, isKept);
+  Saving saving;
+  const QByteArray newer = QByteArray(saving.before).replace(from, to);
+  QVERIFY((newer != saving.before) == isKept && writeFile(saving.manifest, newer));
+  for (const char* name : {"Once", "Twice"}) {  // each in a start of its own
+    const auto document =
+        BrandDocument::load(saving.disk.services(), saving.document->packageURL());
+    document->edit([&](Brand& brand) { brand.name = name; });
+    document->saveNow();
+  }
+  const QDir versions(Package::versionsPath(saving.document->packageURL()));
+  const QStringList kept = versions.entryList({"*.newer"});
+  QCOMPARE(kept.size(), isKept ? 1 : 0);
+  if (isKept) QCOMPARE(contentOf(versions.filePath(kept.first())), newer);
 }
 
 QTEST_GUILESS_MAIN(TestSaving)

@@ -25,6 +25,11 @@ class TestVersions : public QObject {
   void keepsAForeignManifestThatDoesNotRead();
   void takesTheSameContentForItsOwn();
   void doesNotReplaceWhatItCannotKeep();
+  void doesNotReplaceWhatItCannotOpen_data();
+  void doesNotReplaceWhatItCannotOpen();
+  void countsSyncedCopiesApart();
+  void keepsEachContentOnce();
+  void whatWasJustKeptStays();
 };
 
 namespace {
@@ -68,6 +73,7 @@ void TestVersions::listsNewestFirst() {
   QVERIFY(brand.document->listVersions().isEmpty());
   QVERIFY(!QFile::exists(brand.versions));
   for (const char* label : {"a", "b", "c"}) brand.document->snapshotVersion(QString(label));
+  QCOMPARE(brand.labels(), QStringList({"c", "b", "a"}));
   QCOMPARE(brand.fileNames(),
            QStringList({"1772357460123-1.json", "1772357460123-2.json", "1772357460123.json"}));
   QCOMPARE(brand.document->listVersions().size(), 3);
@@ -171,7 +177,7 @@ void TestVersions::aFailedSaveNeitherForgetsNorRepeats() {
   brand.rename("Ours");
   brand.store.fault = FaultyStore::Fault::failStep;
   brand.store.steps = 0;
-  brand.store.atStep = 10;  // behind the version's own steps: the manifest's sync
+  brand.store.atStep = 9;  // behind the version's own six steps: the manifest's sync
   brand.document->saveNow();
   QCOMPARE(decode<Brand>(contentOf(brand.manifest))->name, "Theirs");
   QCOMPARE(brand.labels(), QStringList("Synced copy"));
@@ -214,6 +220,72 @@ void TestVersions::doesNotReplaceWhatItCannotKeep() {
   brand.store.fault = FaultyStore::Fault::none;
   brand.document->saveNow();
   QCOMPARE(brand.labels(), QStringList("Synced copy"));
+}
+
+void TestVersions::doesNotReplaceWhatItCannotOpen_data() {
+  QTest::addColumn<bool>("isTooLarge");
+  QTest::newRow("too large") << true;
+  QTest::newRow("reading fails") << false;
+}
+
+void TestVersions::doesNotReplaceWhatItCannotOpen() {
+  QFETCH(bool, isTooLarge);
+  Versioned brand;
+  brand.saveElsewhere("Theirs");
+  if (isTooLarge) QVERIFY(QFile::resize(brand.manifest, Package::largestJson + 1));
+  const auto identity = brand.disk.files.identity(brand.manifest);
+  if (!isTooLarge) brand.store.fault = FaultyStore::Fault::failReads;
+  brand.rename("Ours");
+  brand.document->saveNow();
+  QVERIFY(*brand.disk.files.identity(brand.manifest) == *identity);
+  QCOMPARE(brand.disk.log.lines.size(), 1);
+  QVERIFY(brand.document->hasUnsavedChanges());
+}
+
+void TestVersions::countsSyncedCopiesApart() {
+  Versioned brand;
+  brand.document->snapshotVersion(QString("Approved by client"));
+  for (int i = 0; i < 31; ++i) {
+    brand.disk.now += 1s;
+    brand.saveElsewhere(QString("Theirs %1").arg(i));
+    brand.rename(QString("Ours %1").arg(i));
+    brand.document->saveNow();
+  }
+  QCOMPARE(brand.labels().count("Synced copy"), 30);
+  QCOMPARE(brand.labels().last(), "Approved by client");
+}
+
+void TestVersions::keepsEachContentOnce() {
+  Versioned brand;
+  for (int i = 0; i < 3; ++i) {
+    brand.disk.now += 1s;
+    brand.saveElsewhere("Theirs");
+    brand.rename("Ours");
+    brand.document->saveNow();
+  }
+  QCOMPARE(brand.labels(), QStringList("Synced copy"));
+}
+
+// Another machine's clock may be ahead.
+void TestVersions::whatWasJustKeptStays() {
+  Versioned brand;
+  brand.disk.now += 24h;
+  for (int i = 0; i < 30; ++i) {
+    brand.disk.now += 1s;
+    brand.saveElsewhere(QString("Theirs %1").arg(i));
+    brand.rename("Ours");
+    brand.document->saveNow();
+  }
+  brand.disk.now -= 48h;
+  brand.saveElsewhere("The newest of theirs");
+  brand.rename("Ours");
+  brand.document->saveNow();
+  const auto versions = brand.document->listVersions();
+  QCOMPARE(versions.size(), 30);
+  QCOMPARE(PackageVersions(brand.store, brand.document->packageURL())
+               .read(versions.last().url)
+               ->brand.name,
+           "The newest of theirs");
 }
 
 QTEST_GUILESS_MAIN(TestVersions)

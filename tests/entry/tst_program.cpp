@@ -4,6 +4,9 @@
 #include <QProcess>
 #include <QTest>
 
+#include <pwd.h>
+#include <unistd.h>
+
 using namespace tarnloft;
 
 // The program as users run it: another process, without a display.
@@ -12,7 +15,14 @@ class TestProgram : public QObject {
 
  private slots:
   void selfTestPassesAndCleansUp();
+  void failedSelfTestCleansUp_data();
+  void failedSelfTestCleansUp();
+  void selfTestKeepsWhatIsDragged();
   void takesOverTheOldSupportFolderInEveryMode();
+  void looksOnlyInAbsoluteFolders_data();
+  void looksOnlyInAbsoluteFolders();
+  void takesFoldersThatAreNoText();
+  void refusesNamesThatAreNoText_data();
   void refusesNamesThatAreNoText();
   void failsWithoutAWord_data();
   void failsWithoutAWord();
@@ -28,23 +38,52 @@ struct Run {
 
 struct Program {
   QTemporaryDir home;
+  QProcessEnvironment environment;
 
-  Run run(const QStringList& arguments) {
-    QDir().mkpath(home.filePath(QStringLiteral("tmp")));
+  Program() {
+    QDir().mkpath(path("tmp"));
+    set("HOME", home.path());
+    set("XDG_DATA_HOME", path("share"));
+    set("TMPDIR", path("tmp"));
+    set("LC_ALL", "C");
+  }
+  QString path(const QString& name) const { return home.filePath(name); }
+  void set(const char* name, const QString& value) { environment.insert(name, value); }
+
+  Run run(const QStringList& arguments) const {
+    return runOther(QStringLiteral(TARNLOFT_PROGRAM), arguments);
+  }
+  // By a shell script, in which "$t" is the program: only a shell can hand over bytes that are no
+  // text.
+  Run runByShell(const QString& script) const {
+    return runOther("/bin/sh", {"-c", "t=$0; " + script, QStringLiteral(TARNLOFT_PROGRAM)});
+  }
+
+ private:
+  Run runOther(const QString& program, const QStringList& arguments) const {
     QProcess process;
-    QProcessEnvironment environment;
-    environment.insert(QStringLiteral("HOME"), home.path());
-    environment.insert(QStringLiteral("XDG_DATA_HOME"), home.filePath(QStringLiteral("share")));
-    environment.insert(QStringLiteral("TMPDIR"), home.filePath(QStringLiteral("tmp")));
-    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(home.path());
-    process.start(QStringLiteral(TARNLOFT_PROGRAM), arguments);
+    process.start(program, arguments);
     if (!process.waitForFinished(60000)) return {};
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
             process.readAllStandardOutput(), process.readAllStandardError()};
   }
 };
+
+QStringList entries(const QString& folder) {
+  return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System |
+                                QDir::NoDotAndDotDot);
+}
+
+// With one picture.
+bool writePackage(const QString& package) {
+  Brand brand = Brand::create("Acme");
+  const AssetRef asset{"a.png", "Mark.png"};
+  brand.sections.first().items.append(Item::create(ImagePayload{asset, "Mark"}));
+  return writeFile(package + "/manifest.json", *encode(brand)) &&
+         writeFile(package + "/assets/a.png", "picture");
+}
 
 }  // namespace
 
@@ -60,10 +99,35 @@ void TestProgram::selfTestPassesAndCleansUp() {
   QCOMPARE(lines.takeLast(), QByteArray::number(lines.size() - 2) + " passed, 0 failed");
   QCOMPARE(lines.takeLast(), QByteArray());
   for (const QByteArray& line : lines) QVERIFY2(line.startsWith("  ✔ "), line);
-  // The folder of drags outlives the program: a receiver may read from it long after.
-  const QDir temporary(program.home.filePath(QStringLiteral("tmp")));
-  QCOMPARE(temporary.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-           QStringList("tarnloft-drag"));
+  QCOMPARE(entries(program.path("tmp")), QStringList());
+}
+
+void TestProgram::failedSelfTestCleansUp_data() {
+  QTest::addColumn<QString>("script");
+  QTest::addColumn<QByteArray>("line");
+  QTest::newRow("a full disk") << "trap '' XFSZ; ulimit -f 0; exec \"$t\" --selftest"
+                               << QByteArray("x package saves + reloads  <-- FAILED");
+  QTest::newRow("a reader that is gone")
+      << "mkfifo f; true < f & exec 3> f; wait; \"$t\" --selftest >&3" << QByteArray();
+  QTest::newRow("no temporary folder")
+      << "TMPDIR=$TMPDIR/not/there \"$t\" --selftest" << QByteArray("0 passed, 1 failed");
+}
+
+void TestProgram::failedSelfTestCleansUp() {
+  QFETCH(QString, script);
+  Program program;
+  const Run run = program.runByShell(script);
+  QCOMPARE(run.status, 1);
+  QFETCH(QByteArray, line);
+  QVERIFY(run.output.contains(line));
+  QCOMPARE(entries(program.path("tmp")), QStringList());
+}
+
+void TestProgram::selfTestKeepsWhatIsDragged() {
+  Program program;
+  QVERIFY(writeFile(program.path("tmp/tarnloft-drag/mine.png"), "x"));
+  QCOMPARE(program.run({"--selftest"}).status, 0);
+  QCOMPARE(contentOf(program.path("tmp/tarnloft-drag/mine.png")), "x");
 }
 
 void TestProgram::takesOverTheOldSupportFolderInEveryMode() {
@@ -76,21 +140,76 @@ void TestProgram::takesOverTheOldSupportFolderInEveryMode() {
   QVERIFY(run.output.isEmpty() && run.errors.isEmpty());
 }
 
-void TestProgram::refusesNamesThatAreNoText() {
+void TestProgram::takesFoldersThatAreNoText() {
   Program program;
-  const QString package = program.home.filePath(QStringLiteral("p.tarnloft"));
-  QVERIFY(writeFile(package + QStringLiteral("/manifest.json"),
-                    *encode(Brand::create(QStringLiteral("x")))));
-  // Only a shell can hand over bytes that are no text.
-  QProcess shell;
-  shell.start(
-      QStringLiteral("/bin/sh"),
-      {QStringLiteral("-c"),
-       QStringLiteral("\"$1\" --export-page \"$2\" \"$3/$(printf 'caf\\351').html\""),
-       QStringLiteral("sh"), QStringLiteral(TARNLOFT_PROGRAM), package, program.home.path()});
-  QVERIFY(shell.waitForFinished());
-  QCOMPARE(shell.exitCode(), 1);
-  QCOMPARE(QDir(program.home.path()).entryList({QStringLiteral("caf*")}), QStringList());
+  QVERIFY(writePackage(program.path("p.tarnloft")));
+  const QString moved = "d=$(printf 'caf\\351'); mkdir $d; mv p.tarnloft $d.tarnloft; ";
+  const Run run = program.runByShell(
+      moved +
+      "\"$t\" --seed-logo $d.tarnloft && \"$t\" --export-page $d.tarnloft $d/page.html && "
+      "cat $d/page.html; rm $d/page.html; ls -A $d $d.tarnloft >&2; rm -r $d*");
+  QCOMPARE(run.status, 0);
+  QVERIFY(run.output.contains("<h1>Acme</h1>") && run.output.contains("Acme Logo"));
+  QCOMPARE(run.errors, "caf\351:\n\ncaf\351.tarnloft:\nassets\nmanifest.json\n");
+}
+
+void TestProgram::refusesNamesThatAreNoText_data() {
+  QTest::addColumn<QString>("arguments");
+  QTest::newRow("page") << "--export-page p.tarnloft $d.html";
+  QTest::newRow("page in no folder") << "--export-page p.tarnloft $d/page.html";
+  QTest::newRow("package") << "--export-page $d.tarnloft page.html";
+  QTest::newRow("seeded package") << "--seed-logo $d.tarnloft";
+}
+
+void TestProgram::refusesNamesThatAreNoText() {
+  QFETCH(QString, arguments);
+  Program program;
+  QVERIFY(writePackage(program.path("p.tarnloft")));
+  const Run run = program.runByShell("d=$(printf 'caf\\351'); exec \"$t\" " + arguments);
+  QCOMPARE(run.status, 1);
+  QVERIFY(run.output.isEmpty() && run.errors.isEmpty());
+  QCOMPARE(entries(program.home.path()), QStringList({"p.tarnloft", "tmp"}));
+}
+
+void TestProgram::looksOnlyInAbsoluteFolders_data() {
+  QTest::addColumn<QString>("home");
+  QTest::addColumn<QString>("data");
+  QTest::addColumn<QString>("found");
+  QTest::newRow("relative data") << "%1"
+                                 << "share"
+                                 << ".local/share";
+  QTest::newRow("relative data with a dot") << "%1"
+                                            << "./share"
+                                            << ".local/share";
+  QTest::newRow("no data") << "%1"
+                           << ""
+                           << ".local/share";
+  QTest::newRow("relative home") << "home"
+                                 << "%1/share"
+                                 << "share";
+  QTest::newRow("nothing absolute") << "home"
+                                    << "share"
+                                    << "";
+}
+
+// The old support folder is taken over where the program looks for its data.
+void TestProgram::looksOnlyInAbsoluteFolders() {
+  QFETCH(QString, home);
+  QFETCH(QString, data);
+  QFETCH(QString, found);
+  const passwd* const user = ::getpwuid(::getuid());
+  if (user && QFile::exists(QFile::decodeName(user->pw_dir) + "/.local/share/Fenwright")) {
+    QSKIP("The user's own folder of that name isn't for tests");
+  }
+  Program program;
+  program.set("HOME", home.replace("%1", program.home.path()));
+  program.set("XDG_DATA_HOME", data.replace("%1", program.home.path()));
+  QStringList folders{".local/share", "share", "home/.local/share"};
+  for (const QString& each : folders) QVERIFY(QDir().mkpath(program.path(each + "/Fenwright")));
+  QCOMPARE(program.run({"--seed-logo", "missing"}).status, 1);
+  if (!found.isEmpty()) QVERIFY(QFile::exists(program.path(found + "/Tarn Loft")));
+  folders.removeOne(found);
+  for (const QString& each : folders) QVERIFY(QFile::exists(program.path(each + "/Fenwright")));
 }
 
 void TestProgram::failsWithoutAWord_data() {
@@ -100,6 +219,8 @@ void TestProgram::failsWithoutAWord_data() {
   QTest::newRow("a name with a line break")
       << QStringList{QStringLiteral("--seed-logo"), QStringLiteral("a\nb")};
   QTest::newRow("an empty path") << QStringList{QStringLiteral("--seed-logo"), QString()};
+  QTest::newRow("an empty path to a page") << QStringList{"--export-page", "", "page.html"};
+  QTest::newRow("a page of an empty path") << QStringList{"--export-page", "p.tarnloft", ""};
   QTest::newRow("the root") << QStringList{QStringLiteral("--export-page"), QStringLiteral("/"),
                                            QStringLiteral("/")};
 }
@@ -107,6 +228,7 @@ void TestProgram::failsWithoutAWord_data() {
 void TestProgram::failsWithoutAWord() {
   QFETCH(QStringList, arguments);
   Program program;
+  QVERIFY(writePackage(program.path("p.tarnloft")));
   const Run run = program.run(arguments);
   QCOMPARE(run.status, 1);
   QVERIFY(run.output.isEmpty() && run.errors.isEmpty());

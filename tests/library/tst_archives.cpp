@@ -3,6 +3,7 @@
 
 #include <QProcess>
 #include <QTest>
+#include <QtEndian>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -28,6 +29,8 @@ class TestArchives : public QObject {
   void findsThePackage();
   void refusesABomb_data();
   void refusesABomb();
+  void unpacksForItsUser();
+  void fillsNothingUpWithAHole();
   void unpacksNowhereWithoutItsFolder();
   void refusesACutArchive();
   void survivesWhatCannotBeWritten();
@@ -328,6 +331,41 @@ void TestArchives::refusesABomb() {
   ZipArchiver archiver(limits);
   QVERIFY(QDir().mkpath(import.library.disk.path("out")));
   QTEST(archiver.extract(import.archive, import.library.disk.path("out")).has_value(), "imports");
+}
+
+void TestArchives::unpacksForItsUser() {
+  Import import;
+  {
+    ForeignZip zip(import.archive);
+    zip.folder("A.tarnloft/", 0500).file("A.tarnloft/a.png", "x", 0040);
+  }
+  const QString out = import.library.disk.path("out");
+  QVERIFY(QDir().mkpath(out) && ZipArchiver().extract(import.archive, out));
+  struct stat info;
+  QCOMPARE(::stat(QFile::encodeName(out + "/A.tarnloft/a.png").constData(), &info), 0);
+  QCOMPARE(info.st_mode & 07777, 0640u);
+  QCOMPARE(::stat(QFile::encodeName(out + "/A.tarnloft").constData(), &info), 0);
+  QCOMPARE(info.st_mode & 07777, 0700u);
+}
+
+// A file that claims to be large and isn't.
+void TestArchives::fillsNothingUpWithAHole() {
+  Import import;
+  {
+    ForeignZip zip(import.archive, "zip:compression=store");
+    zip.file("A.tarnloft/a.png", "short");
+  }
+  QByteArray bytes = contentOf(import.archive);
+  const auto claim = [&](const QByteArray& record, qsizetype sizeAt) {
+    qToLittleEndian(quint32(1) << 30, bytes.data() + bytes.indexOf(record) + sizeAt);
+  };
+  claim("PK\1\2", 24);
+  claim("PK\3\4", 22);
+  QVERIFY(writeFile(import.archive, bytes));
+  const QString out = import.library.disk.path("out");
+  QVERIFY(QDir().mkpath(out));
+  QVERIFY(!ZipArchiver().extract(import.archive, out));
+  QVERIFY(QFileInfo(out + "/A.tarnloft/a.png").size() <= 5);
 }
 
 // Least of all into the root of the file system.

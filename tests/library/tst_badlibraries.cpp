@@ -28,8 +28,8 @@ namespace {
 
 class VanishingStore : public PosixFileStore {
  public:
-  Result<QStringList> list(const QString& folder) const override {
-    auto names = PosixFileStore::list(folder);
+  Result<QStringList> listAll(const QString& folder) const override {
+    auto names = PosixFileStore::listAll(folder);
     if (names) *names << "Gone.tarnloft";
     return names;
   }

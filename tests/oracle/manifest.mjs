@@ -46,6 +46,22 @@ export function known(record, value) {
   return result;
 }
 
+/** True if the record holds keys that it doesn't know, at any depth. */
+export function holdsUnknown(record, value) {
+  return Object.entries(value).some(([key, field]) => {
+    if (!Object.hasOwn(RECORDS[record], key)) return true;
+    const { kind, list } = partsOf(RECORDS[record][key]);
+    if (!RECORDS[kind] || field === null) return false;
+    return (list ? field : [field]).some((one) => holdsUnknown(kind, one));
+  });
+}
+
+/** True if a save by this program would lose what another one has written. */
+export function isOfNewerProgram(bytes) {
+  const brand = JSON.parse(bytes.toString('utf8'));
+  return brand.schemaVersion !== 1 || holdsUnknown('Brand', brand);
+}
+
 export function parseBrand(bytes) {
   return known('Brand', JSON.parse(bytes.toString('utf8')));
 }

@@ -13,6 +13,9 @@ class TestFileStore : public QObject {
  private slots:
   void opensOnlyWhatStandsInside_data();
   void opensOnlyWhatStandsInside();
+  void tellsWhatIsntThereFromWhatFails_data();
+  void tellsWhatIsntThereFromWhatFails();
+  void listsHiddenNamesWhenAsked();
   void neverWaitsOnAPipe();
   void refusesToReplaceWhatIsNoFile();
   void keepsTheRightsOfAReplacedFile();
@@ -44,7 +47,7 @@ struct Tree {
     ::symlink(QFile::encodeName(root + QStringLiteral("/assets/a.png")).constData(),
               QFile::encodeName(root + QStringLiteral("/assets/absolute")).constData());
   }
-  void link(const char* target, const char* name) {
+  void link(const char* target, const char* name) const {
     ::symlink(target, QFile::encodeName(root + QLatin1String(name)).constData());
   }
 };
@@ -78,8 +81,52 @@ void TestFileStore::opensOnlyWhatStandsInside_data() {
 void TestFileStore::opensOnlyWhatStandsInside() {
   QFETCH(QString, name);
   const Tree tree;
+  QVERIFY(!tree.disk.files.open(tree.root + "/assets/a.png", QString()));  // inside of nothing
   const auto file = tree.disk.files.open(tree.root + QStringLiteral("/assets/") + name, tree.root);
   QTEST(file.has_value(), "opens");
+}
+
+void TestFileStore::tellsWhatIsntThereFromWhatFails_data() {
+  QTest::addColumn<QString>("name");
+  QTest::addColumn<std::optional<ErrorKind>>("identity");
+  QTest::addColumn<std::optional<ErrorKind>>("open");
+  using enum ErrorKind;
+  const auto row = [](const QString& name, std::optional<ErrorKind> identity,
+                      std::optional<ErrorKind> open) {
+    QTest::newRow(name.left(20).toUtf8().constData()) << name << identity << open;
+  };
+  row("a.png", {}, {});
+  row("missing", notFound, notFound);
+  row("missing/file", notFound, notFound);
+  row("a.png/file", notFound, io);
+  row("dangling", {}, notFound);
+  row("lost", {}, notFound);  // by an absolute path
+  row("loop", {}, io);
+  row("loop/file", io, io);
+  row("out", {}, refused);
+  row(QString(300, 'x'), io, io);
+}
+
+void TestFileStore::tellsWhatIsntThereFromWhatFails() {
+  QFETCH(QString, name);
+  const Tree tree;
+  tree.link("/nowhere/at/all", "/assets/lost");
+  const QString path = tree.root + "/assets/" + name;
+  const auto kindOf = [](const auto& result) {
+    return result ? std::nullopt : std::optional(result.error().kind);
+  };
+  QTEST(kindOf(tree.disk.files.identity(path)), "identity");
+  QTEST(kindOf(tree.disk.files.open(path, tree.root)), "open");
+}
+
+void TestFileStore::listsHiddenNamesWhenAsked() {
+  TestServices disk;
+  for (const char* name : {"b", ".hidden", "..", "a/x", "...", "Z"}) {
+    writeFile(disk.path(name), "x");
+  }
+  QCOMPARE(*disk.files.list(disk.folder.path()), QStringList({"Z", "a", "b"}));
+  QCOMPARE(*disk.files.listAll(disk.folder.path()), QStringList({"...", ".hidden", "Z", "a", "b"}));
+  QVERIFY(!disk.files.list(disk.path("missing")) && !disk.files.listAll(disk.path("b")));
 }
 
 void TestFileStore::neverWaitsOnAPipe() {
@@ -208,6 +255,14 @@ void TestFileStore::followsLinksForPages() {
   QCOMPARE(*tree.disk.files.resolved(assets + QStringLiteral("new")),
            assets + QStringLiteral("new"));
   QVERIFY(!tree.disk.files.resolved(assets + QStringLiteral("dangling")));
+  // As text it would be another file's path.
+  QVERIFY(writeFile(assets + "caf\ufffd", "x"));
+  const QByteArray raw = QFile::encodeName(assets) + "caf\xe9";
+  QCOMPARE(::rename(QFile::encodeName(assets + "a.png").constData(), raw.constData()), 0);
+  QCOMPARE(::symlink("caf\xe9", QFile::encodeName(assets + "raw").constData()), 0);
+  QVERIFY(!tree.disk.files.resolved(assets + "raw"));
+  QVERIFY(tree.disk.files.open(assets + "raw", tree.root));
+  QCOMPARE(::unlink(raw.constData()), 0);  // the toolkit couldn't
 }
 
 QTEST_APPLESS_MAIN(TestFileStore)

@@ -68,7 +68,7 @@ void TestEmblems::looksAsTold() {
   QFETCH(QString, seed);
   QFETCH(EmblemLook, look);
   TestServices disk;
-  EmblemLook found = emblemLook(emblem, {fallbackSymbol, disk.folder.path(), seed, {}}, disk.files);
+  EmblemLook found = emblemLook(emblem, {fallbackSymbol, disk.folder.path(), seed, {}});
   if (look.ground != Filled) found.color = look.color;  // of no interest
   QCOMPARE(found.ground, look.ground);
   QCOMPARE(found.color.rgba(), look.color.rgba());
@@ -80,11 +80,10 @@ void TestEmblems::looksAsTold() {
 void TestEmblems::aPictureIsAFileOfThePackage() {
   TestServices disk;
   const Emblem emblem{Kind::image, {}, {}, {}, AssetRef{"mark.png", "Mark.png"}};
-  const EmblemLook look =
-      emblemLook(emblem, {fallbackSymbol, disk.folder.path(), "x", {}}, disk.files);
+  const EmblemLook look = emblemLook(emblem, {fallbackSymbol, disk.folder.path(), "x", {}});
   QCOMPARE(look.mark, Picture);
   QCOMPARE(look.text, Package::assetsPath(disk.folder.path()) + "/mark.png");
-  const EmblemLook own = emblemLook({}, {fallbackSymbol, {}, "x", QColor(Qt::red)}, disk.files);
+  const EmblemLook own = emblemLook({}, {fallbackSymbol, {}, "x", QColor(Qt::red)});
   QCOMPARE(own.color, QColor(Qt::red));
 }
 

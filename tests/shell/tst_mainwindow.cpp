@@ -15,6 +15,8 @@ Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
+#include <algorithm>
+
 using namespace tarnloft;
 
 class TestMainWindow : public QObject {
@@ -26,6 +28,7 @@ class TestMainWindow : public QObject {
   void fitsTheScreens_data();
   void fitsTheScreens();
   void rightSizesOnce();
+  void itsViewsGoWithIt();
   void opensAndClosesAndOpensAnew();
   void takesItsViewsAlong_data();
   void takesItsViewsAlong();
@@ -97,6 +100,23 @@ void TestMainWindow::rightSizesOnce() {
   window.resize(1000, 600);
   rightSizeWindow(&window, third);
   QCOMPARE(window.size(), QSize(1000, 600));
+}
+
+void TestMainWindow::itsViewsGoWithIt() {
+  TestShell test;
+  test.library.add("Acme", {Section::create("Logos")});
+  test.library.start();
+  IniPreferences state(test.library.disk.path("state.ini"));
+  QQmlEngine engine;
+  auto main = std::make_unique<MainWindow>(engine, test.library.services(), test.services(), state);
+  QVERIFY(main->open());
+  QTRY_VERIFY(main->window()->property("late").value<QObject*>());
+  QList<QPointer<QQuickItem>> views{main->window()->contentItem()};
+  for (qsizetype i = 0; i < views.size(); ++i) {
+    for (QQuickItem* const view : views.at(i)->childItems()) views << view;
+  }
+  main.reset();
+  QVERIFY(std::ranges::all_of(views, &QPointer<QQuickItem>::isNull));
 }
 
 void TestMainWindow::opensAndClosesAndOpensAnew() {

@@ -1,13 +1,6 @@
-#include "platform/controls/Theme.h"
 #include "platform/controls/Typography.h"
-#include "shell/AccentTint.h"
-#include "shell/MainWindow.h"
-#include "shell/TestShell.h"
+#include "shell/TestViews.h"
 
-#include <QAccessible>
-#include <QQmlEngine>
-#include <QQuickItem>
-#include <QQuickWindow>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
@@ -41,52 +34,6 @@ class TestShellViews : public QObject {
 };
 
 namespace {
-
-struct Views : TestShell {
-  IniPreferences state{library.disk.path("state.ini")};
-  QQmlEngine engine;
-  std::unique_ptr<AccentTint> tint;
-  std::unique_ptr<MainWindow> main;
-
-  void start() {
-    Theme& theme = Theme::of(engine);
-    LibraryStore& store = library.start();
-    tint = std::make_unique<AccentTint>(store, theme);
-    main = std::make_unique<MainWindow>(engine, library.services(), services(), state);
-    QVERIFY(main->open());
-    QVERIFY(QTest::qWaitForWindowActive(&window()));
-    QTRY_VERIFY(window().property("late").value<QObject*>());
-  }
-  QQuickWindow& window() const { return *main->window(); }
-
-  // The item that assistive technology knows by that role and name; null for none that is visible.
-  QQuickItem* item(QAccessible::Role role, const QString& name) const {
-    return find(window().contentItem(), role, name);
-  }
-  void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
-    QTest::keyClick(&window(), key, modifiers);
-  }
-  void type(const QString& text) const {
-    for (const QChar c : text) QTest::keyClick(&window(), c.toLatin1());
-  }
-  static QPoint centerOf(const QQuickItem* item) {
-    return item->mapToScene({item->width() / 2, item->height() / 2}).toPoint();
-  }
-  void click(const QQuickItem* item, Qt::MouseButton button = Qt::LeftButton) const {
-    QTest::mouseClick(&window(), button, {}, centerOf(item));
-  }
-
- private:
-  static QQuickItem* find(QQuickItem* top, QAccessible::Role role, const QString& name) {
-    for (QQuickItem* child : top->childItems()) {
-      if (!child->isVisible()) continue;
-      QAccessibleInterface* const known = QAccessible::queryAccessibleInterface(child);
-      if (known && known->role() == role && known->text(QAccessible::Name) == name) return child;
-      if (QQuickItem* const found = find(child, role, name)) return found;
-    }
-    return nullptr;
-  }
-};
 
 constexpr auto row = QAccessible::ListItem;
 constexpr auto button = QAccessible::Button;

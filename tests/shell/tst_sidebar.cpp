@@ -173,7 +173,7 @@ void TestSidebar::followsAnyChange() {
     }
     if (random.bounded(3) == 0) continue;  // several changes in one turn
     QCoreApplication::processEvents();
-    const SidebarModel anew(store, test.library.disk.files);
+    const SidebarModel anew(store);
     QCOMPARE(sidebar.rows()->rows(), anew.rows());
   }
 }

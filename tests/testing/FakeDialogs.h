@@ -29,6 +29,7 @@ class ScriptedDialogs : public FileDialogs {
     openTypes = types;
     return answer;
   }
+  std::optional<QString> chooseFolder() override { return answer; }
 };
 
 class ListedViewer : public FileViewer {

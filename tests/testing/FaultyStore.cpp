@@ -48,11 +48,29 @@ class FaultyReader : public FileReader {
   bool begun_ = false;
 };
 
+class FaultyFolder : public OpenFolder {
+ public:
+  FaultyFolder(const FaultyStore& store, std::shared_ptr<OpenFolder> folder)
+      : store_(store), folder_(std::move(folder)) {}
+
+  Result<void> copyIn(const QString& source, const QString& name) override {
+    return store_.step() ? folder_->copyIn(source, name) : tl::unexpected(fullDisk());
+  }
+  Result<void> writeIn(QByteArrayView bytes, const QString& name) override {
+    return store_.step() ? folder_->writeIn(bytes, name) : tl::unexpected(fullDisk());
+  }
+  Result<QString> path() const override { return folder_->path(); }
+
+ private:
+  const FaultyStore& store_;
+  std::shared_ptr<OpenFolder> folder_;
+};
+
 }  // namespace
 
 Error fullDisk() { return {ErrorKind::io, QStringLiteral("No space left on device")}; }
 
-bool FaultyStore::step() {
+bool FaultyStore::step() const {
   ++steps;
   if (fault == Fault::failStep) return steps != atStep;
   if (fault == Fault::cutBehind) return steps <= atStep;
@@ -64,6 +82,14 @@ Result<std::unique_ptr<FileReader>> FaultyStore::open(const QString& path,
   auto file = PosixFileStore::open(path, root);
   if (!file || fault != Fault::failReads) return file;
   return std::make_unique<FaultyReader>(std::move(*file));
+}
+
+Result<std::shared_ptr<OpenFolder>> FaultyStore::openFolder(const QString& path,
+                                                            const QString& root) const {
+  return PosixFileStore::openFolder(path, root)
+      .map([this](auto folder) -> std::shared_ptr<OpenFolder> {
+        return std::make_shared<FaultyFolder>(*this, std::move(folder));
+      });
 }
 
 Result<void> FaultyStore::makeFolder(const QString& path) {
@@ -95,6 +121,19 @@ Result<void> FaultyStore::replace(FileWriter& temporary, const QString& target) 
   return PosixFileStore::replace(static_cast<FaultyWriter&>(temporary).inner(), target);
 }
 
+Result<Replaced> FaultyStore::exchange(FileWriter& temporary, const QString& target) {
+  if (!step()) return tl::unexpected(fullDisk());
+  return PosixFileStore::exchange(static_cast<FaultyWriter&>(temporary).inner(), target);
+}
+
+Result<void> FaultyStore::moveOver(const QString& path, const QString& target) {
+  return step() ? PosixFileStore::moveOver(path, target) : tl::unexpected(fullDisk());
+}
+
+Result<void> FaultyStore::syncTree(const QString& path) {
+  return step() ? PosixFileStore::syncTree(path) : tl::unexpected(fullDisk());
+}
+
 Result<void> FaultyStore::syncFolder(const QString& path) {
   return step() ? PosixFileStore::syncFolder(path) : tl::unexpected(fullDisk());
 }
@@ -109,6 +148,10 @@ Result<void> FaultyStore::removeFolder(const QString& path) {
 
 Result<void> FaultyStore::moveFolder(const QString& path, const QString& target) {
   return step() ? PosixFileStore::moveFolder(path, target) : tl::unexpected(fullDisk());
+}
+
+void FaultyStore::sweepTemporaries(const QString& folder, std::chrono::hours age) {
+  if (step()) PosixFileStore::sweepTemporaries(folder, age);
 }
 
 }  // namespace tarnloft

@@ -23,21 +23,48 @@ class HeldStore : public PosixFileStore {
     changed_.wakeAll();
   }
   // Copies that the main thread made itself.
-  int onMainThread = 0;
+  mutable int onMainThread = 0;
 
   Result<void> copyFile(const QString& source, const QString& target) override {
-    if (QThread::currentThread() == main_) ++onMainThread;
-    {
-      QMutexLocker lock(&mutex_);
-      while (held_.contains(QFileInfo(source).fileName())) changed_.wait(&mutex_);
-    }
+    await(source);
     return PosixFileStore::copyFile(source, target);
+  }
+  Result<std::shared_ptr<OpenFolder>> openFolder(const QString& path,
+                                                 const QString& root) const override {
+    return PosixFileStore::openFolder(path, root)
+        .map([this](auto folder) -> std::shared_ptr<OpenFolder> {
+          return std::make_shared<Folder>(*this, std::move(folder));
+        });
   }
 
  private:
+  class Folder : public OpenFolder {
+   public:
+    Folder(const HeldStore& store, std::shared_ptr<OpenFolder> inner)
+        : store_(store), inner_(std::move(inner)) {}
+    Result<void> copyIn(const QString& source, const QString& name) override {
+      store_.await(source);
+      return inner_->copyIn(source, name);
+    }
+    Result<void> writeIn(QByteArrayView bytes, const QString& name) override {
+      return inner_->writeIn(bytes, name);
+    }
+    Result<QString> path() const override { return inner_->path(); }
+
+   private:
+    const HeldStore& store_;
+    std::shared_ptr<OpenFolder> inner_;
+  };
+
+  void await(const QString& source) const {
+    if (QThread::currentThread() == main_) ++onMainThread;
+    QMutexLocker lock(&mutex_);
+    while (held_.contains(QFileInfo(source).fileName())) changed_.wait(&mutex_);
+  }
+
   QThread* const main_ = QThread::currentThread();
-  QMutex mutex_;
-  QWaitCondition changed_;
+  mutable QMutex mutex_;
+  mutable QWaitCondition changed_;
   QSet<QString> held_;
 };
 

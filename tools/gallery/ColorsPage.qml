@@ -32,6 +32,7 @@ Page {
         ColorChip { name: "destructiveFill"; color: Theme.destructiveFill }
         ColorChip { name: "positive"; color: Theme.positive }
         ColorChip { name: "warning"; color: Theme.warning }
+        ColorChip { name: "warningFill"; color: Theme.warningFill }
         ColorChip { name: "informative"; color: Theme.informative }
     }
 }

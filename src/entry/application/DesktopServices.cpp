@@ -14,8 +14,13 @@ std::unique_ptr<ColorSampler> makeColorSampler() { return std::make_unique<Deskt
 
 }  // namespace
 
+// Before anything else looks at the disk, on whose thread all does.
+DesktopServices::DesktopServices() {
+  disk.run([this] { SupportFolder::migrateIfNeeded(files, log); }, [] {}, DiskWork::Patience::none);
+}
+
 LibraryServices DesktopServices::forLibrary() {
-  return {{files, log},
+  return {{files, log, systemNow, disk},
           preferences,
           appearance,
           beep,
@@ -25,13 +30,19 @@ LibraryServices DesktopServices::forLibrary() {
           viewer,
           makeColorSampler,
           SupportFolder::applicationSupportFolder(),
-          QDir::tempPath()};
+          QDir::tempPath(),
+          copies};
 }
 
 WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
-  const auto landLate = [&library](const QString& packageURL, const QUuid& section,
+  const auto landLate = [&library](const BrandPlace& brand, const QUuid& section,
                                    const QList<Item>& items) {
-    library.addItems(packageURL, section, items);
+    library.addItems(brand, section, items);
+  };
+  const auto tellFailed = [&library](const QStringList& names, const QString& reason) {
+    const QString what = names.size() == 1 ? QStringLiteral("“%1”").arg(names.first())
+                                           : QStringLiteral("%1 files").arg(names.size());
+    emit library.noticed(what + QStringLiteral(" couldn't be added"), reason);
   };
   const auto tiff = [this](const QString& path, qint64 maxBytes) {
     return media.tiff(path, maxBytes);
@@ -43,7 +54,7 @@ WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
           makeColorSampler,
           media.thumbnails,
           media.posters,
-          {types, fonts, workers, landLate},
+          {types, fonts, workers, landLate, tellFailed},
           drops,
           {files, types, tiff},
           dragSession};
@@ -54,8 +65,8 @@ bool DesktopServices::finish(std::chrono::milliseconds patience) {
   const auto remaining = [&] { return int(deadline.remainingTime()); };
   workers.clear();
   return media.work.finish(std::chrono::milliseconds(remaining())) &&
-         workers.waitForDone(remaining()) &&
-         QThreadPool::globalInstance()->waitForDone(remaining());
+         workers.waitForDone(remaining()) && disk.finish(std::chrono::milliseconds(remaining())) &&
+         copies.finish({}) && QThreadPool::globalInstance()->waitForDone(remaining());
 }
 
 QString DesktopServices::stateFile() {

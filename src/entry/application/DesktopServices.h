@@ -2,8 +2,8 @@
 
 #include "entry/application/MediaServices.h"
 #include "entry/late/LateServices.h"
+#include "platform/desktop/DiskThread.h"
 #include "platform/desktop/FreeTypeFonts.h"
-#include "platform/desktop/FreedesktopTrash.h"
 #include "platform/desktop/IniPreferences.h"
 #include "platform/desktop/MimeContentTypes.h"
 #include "platform/desktop/MimeDrops.h"
@@ -25,12 +25,14 @@ namespace tarnloft {
 
 // What the windows' program uses of the desktop, each made once.
 struct DesktopServices {
+  DesktopServices();
+
   PosixFileStore files;
   Syslog log;
   IniPreferences preferences;
   IniPreferences state{stateFile()};  // what windows keep, which is nobody's preference
   DesktopBeep beep;
-  FreedesktopTrash trash;
+  LateTrash trash;
   LateArchiver archiver;
   DesktopFileDialogs dialogs;
   DesktopFileViewer viewer;
@@ -41,7 +43,9 @@ struct DesktopServices {
   MimeContentTypes types;
   FreeTypeFonts fonts;
   QtDragSession dragSession;
-  MediaServices media;
+  MediaServices media{files};
+  DiskThread disk;
+  DiskThread copies;
   QThreadPool workers;  // of what is dropped; waited for before the others go
   MimeDrops drops{workers};
 

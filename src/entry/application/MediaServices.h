@@ -1,6 +1,7 @@
 #pragma once
 
 #include "assets/BackgroundWork.h"
+#include "assets/PackageMedia.h"
 #include "assets/ThumbnailLoader.h"
 #include "entry/late/LateServices.h"
 #include "sheets/Thumbnails.h"
@@ -11,8 +12,13 @@ namespace tarnloft {
 // Pictures and clips, and the one place that keeps their thumbnails. Nothing of it is loaded before
 // the first file is asked for.
 struct MediaServices {
-  LateImages images;
-  LateVideos videos;
+  explicit MediaServices(const FileStore& files)
+      : images(files, lateImages), videos(files, lateVideos) {}
+
+  LateImages lateImages;
+  LateVideos lateVideos;
+  PackageImages images;
+  PackageVideos videos;
   BackgroundWork work;
   ThumbnailLoader loader{images, work};
   Thumbnails thumbnails{loader};

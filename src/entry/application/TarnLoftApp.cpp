@@ -1,12 +1,14 @@
 #include "entry/application/TarnLoftApp.h"
 
+#include "assets/DropImport.h"
 #include "platform/controls/Motion.h"
 #include "platform/controls/symbols/SymbolFont.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QQuickWindow>
 
 #include <chrono>
+#include <cstdlib>
 
 namespace tarnloft {
 namespace {
@@ -14,7 +16,11 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto landingPatience = 2s;  // with what was dropped right before the end
+constexpr auto savingPatience = 3s;   // with the disk, at the end
 constexpr auto threadPatience = 1s;   // with a picture that is being read, which nobody waits for
+
+// For ends of the process that leave no time, such as a display that goes.
+TarnLoftApp* running = nullptr;
 
 }  // namespace
 
@@ -27,7 +33,7 @@ TarnLoftApp::TarnLoftApp()
                   services_.state),
       appDelegate_(
           services_.preferences, menuBarPrefs_, services_.statusItem, [this] { openMainWindow(); },
-          &QCoreApplication::quit) {
+          [this] { requestQuit(); }) {
   symbols::fontFamily();  // registered before any text, which it would lay out again
   ViewLoading::answer();
   services_.media.work.hold();  // the first frame has the cores to itself
@@ -36,10 +42,20 @@ TarnLoftApp::TarnLoftApp()
           &TarnLoftApp::followAppearance);
   services_.motion.follow(
       [&motion = Motion::of(engine_)](bool reduced) { motion.setReduced(reduced); });
-  connect(&engine_, &QQmlEngine::quit, qApp, &QCoreApplication::quit);
-  connect(qApp, &QCoreApplication::aboutToQuit, this, &TarnLoftApp::landDrops);
+  connect(&engine_, &QQmlEngine::quit, this, &TarnLoftApp::requestQuit);
+  connect(&terminationSignals_, &TerminationSignals::requested, this, &TarnLoftApp::quitByForce);
+  connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &TarnLoftApp::saveAll);
+  connect(qGuiApp, &QGuiApplication::aboutToQuit, this, &TarnLoftApp::saveAll);
+  connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &TarnLoftApp::followFocus);
+  mainWindow_.setMayClose([this] { return mayCloseWindow(); });
+  running = this;
+  std::atexit([] {
+    if (running) running->saveAll();
+  });
   connect(&mainWindow_, &MainWindow::closed, &appDelegate_, &AppDelegate::lastWindowClosed);
 }
+
+TarnLoftApp::~TarnLoftApp() { running = nullptr; }
 
 bool TarnLoftApp::start() {
   if (!openMainWindow()) return false;
@@ -63,13 +79,51 @@ void TarnLoftApp::firstFrameShown() {
 }
 
 // What the user dropped right before is theirs already.
-void TarnLoftApp::landDrops() {
-  BrandDocument* const open = library_.openDocument();
-  const Brand before = open ? open->brand() : Brand();
+bool TarnLoftApp::saveAll() {
   if (!DropImport::finish(services_.workers, landingPatience)) {
     services_.log.write(QStringLiteral("ended while files were still being added"));
   }
-  if (open && open->brand() != before) open->saveNow();
+  return library_.flush(savingPatience);
+}
+
+void TarnLoftApp::requestQuit() {
+  if (!isQuitting_ && !saveAll()) return askToQuit();
+  isQuitting_ = true;
+  QCoreApplication::quit();
+}
+
+// Nobody is there to be asked.
+void TarnLoftApp::quitByForce() {
+  if (!saveAll()) {
+    services_.log.write(QStringLiteral("ended with unsaved changes to ") +
+                        library_.unsavedBrands().join(QStringLiteral(", ")));
+  }
+  isQuitting_ = true;
+  QCoreApplication::quit();
+}
+
+// Without its window the program goes on where there is a tray, and tries on to save.
+bool TarnLoftApp::mayCloseWindow() {
+  const bool isSaved = saveAll();
+  if (isQuitting_ || isSaved) return true;
+  if (!appDelegate_.applicationShouldTerminateAfterLastWindowClosed()) return true;
+  askToQuit();
+  return false;
+}
+
+void TarnLoftApp::askToQuit() {
+  appDelegate_.showMainWindow();
+  Alerts* const alerts = mainWindow_.alerts();
+  if (!alerts) return quitByForce();
+  connect(alerts, &Alerts::quitConfirmed, this, &TarnLoftApp::quitByForce, Qt::UniqueConnection);
+  alerts->askToQuit();
+}
+
+// What couldn't be done may be possible by now.
+void TarnLoftApp::followFocus() {
+  if (!QGuiApplication::focusWindow()) return;
+  library_.retrySaves();
+  if (!library_.libraryProblem().isEmpty()) library_.scan();
 }
 
 bool TarnLoftApp::finish() { return services_.finish(threadPatience); }

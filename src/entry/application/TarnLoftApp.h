@@ -6,6 +6,7 @@
 #include "platform/controls/DeferredEnds.h"
 #include "platform/controls/Theme.h"
 #include "platform/controls/ViewLoading.h"
+#include "platform/desktop/TerminationSignals.h"
 #include "shell/AccentTint.h"
 #include "shell/MainWindow.h"
 
@@ -18,11 +19,16 @@ namespace tarnloft {
 class TarnLoftApp : public QObject {
  public:
   TarnLoftApp();
+  ~TarnLoftApp() override;
+  Q_DISABLE_COPY_MOVE(TarnLoftApp)
 
   // Opens the main window. False if it can't be made.
   bool start();
 
   AppDelegate& appDelegate() { return appDelegate_; }
+
+  // Quits once all that the user did is on disk, else asks.
+  void requestQuit();
 
   // To be called behind the event loop: waits a moment for threads at work. False if some still
   // are, held up by a disk: nothing that they use may go then, this object included.
@@ -32,7 +38,11 @@ class TarnLoftApp : public QObject {
   bool openMainWindow();
   void firstFrameShown();
   void followAppearance();
-  void landDrops();
+  void followFocus();
+  bool mayCloseWindow();
+  void askToQuit();
+  void quitByForce();
+  bool saveAll();
 
   DesktopServices services_;
   LibraryStore library_;
@@ -44,6 +54,8 @@ class TarnLoftApp : public QObject {
   MenuBarPrefs menuBarPrefs_;
   MainWindow mainWindow_;
   AppDelegate appDelegate_;
+  TerminationSignals terminationSignals_;
+  bool isQuitting_ = false;  // whatever isn't saved
 };
 
 }  // namespace tarnloft

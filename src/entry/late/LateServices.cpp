@@ -30,6 +30,11 @@ Images* images() {
   return loaded;
 }
 
+Trash* trash() {
+  static Trash* const loaded = fromModule<Trash>("libtarnloft-trash.so", "tarnloftTrash");
+  return loaded;
+}
+
 Videos* videos() {
   static Videos* const loaded = fromModule<Videos>("libtarnloft-videos.so", "tarnloftVideos");
   return loaded;
@@ -72,6 +77,11 @@ std::optional<VideoProperties> LateVideos::properties(const QString& path) {
 
 std::optional<QImage> LateVideos::frame(const QString& path, double seconds, int maxPixel) {
   return videos() ? videos()->frame(path, seconds, maxPixel) : std::nullopt;
+}
+
+Result<void> LateTrash::moveToTrash(const QString& path) {
+  if (trash()) return trash()->moveToTrash(path);
+  return failure(ErrorKind::io, QStringLiteral("The library of the trash can't be loaded"));
 }
 
 }  // namespace tarnloft

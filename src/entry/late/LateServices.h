@@ -2,6 +2,7 @@
 
 #include "platform/Archiver.h"
 #include "platform/Images.h"
+#include "platform/Trash.h"
 #include "platform/Videos.h"
 
 namespace tarnloft {
@@ -29,6 +30,12 @@ class LateArchiver : public Archiver {
  public:
   Result<void> archive(const QString& folder, FileWriter& target) override;
   Result<void> extract(const QString& archive, const QString& folder) override;
+};
+
+// The trash; nothing can be thrown away where the library can't be loaded.
+class LateTrash : public Trash {
+ public:
+  Result<void> moveToTrash(const QString& path) override;
 };
 
 }  // namespace tarnloft

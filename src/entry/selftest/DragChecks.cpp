@@ -22,6 +22,10 @@ void checkDragOut(Report& report, const DocumentServices& services) {
                !url.endsWith(QStringLiteral(".png.png")));
   (void)files.remove(url);
   (void)files.remove(asset);
+  // Gone with its last file, unless it holds what the user drags.
+  if (const auto folder = files.makeTemporaryFolder(QStringLiteral("tarnloft-drag"))) {
+    QDir().rmdir(*folder);
+  }
 }
 
 }  // namespace tarnloft::SelfTest

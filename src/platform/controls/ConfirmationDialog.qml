@@ -6,8 +6,8 @@ import TarnLoft.Controls
 // A question before something that can't easily be taken back, or an alert with one button.
 //   ConfirmationDialog { title: "Move “Acme” to the Trash?"; message: …; confirmText: "Move to Trash"
 //                        destructive: true; onConfirmed: …; onDismissed: … }
-// Return confirms, Esc cancels. Exactly one of `confirmed` and `dismissed` follows each opening. An
-// empty `cancelText` makes it an alert.
+// Return confirms, or cancels where `cancelIsDefault`; Esc cancels. Exactly one of `confirmed`,
+// `alternativeChosen` and `dismissed` follows each opening. An empty `cancelText` makes it an alert.
 Sheet {
     id: root
 
@@ -15,18 +15,34 @@ Sheet {
     property string message: ""
     property string confirmText: "OK"
     property string cancelText: "Cancel"
+    property string alternativeText: "" // of a third button, apart from the others
     property bool destructive: false
+    property bool cancelIsDefault: false
 
-    property bool wasConfirmed: false
+    property Button pressed: null // since it was opened
 
     signal confirmed
+    signal alternativeChosen
     signal dismissed
 
+    function begin() {
+        if (pressed)
+            pressed.focus = false;
+        pressed = null;
+    }
+
+    // The first button counts, while it closes another can still be clicked.
+    function end(button: Button) {
+        if (!pressed)
+            pressed = button;
+        close();
+    }
+
     accessibleName: title
-    defaultButton: confirm
+    defaultButton: cancelIsDefault ? cancel : confirm
     cancelButton: cancelText !== "" ? cancel : confirm
-    onAboutToShow: wasConfirmed = false
-    onClosed: wasConfirmed ? confirmed() : dismissed()
+    onAboutToShow: begin()
+    onClosed: pressed === confirm ? confirmed() : pressed === alternative ? alternativeChosen() : dismissed()
 
     Column {
         spacing: 18
@@ -53,27 +69,38 @@ Sheet {
             }
         }
 
-        Row {
-            anchors.right: parent.right
-            spacing: 8
+        Item {
+            width: parent.width
+            height: confirm.height
 
             Button {
-                id: cancel
+                id: alternative
 
                 visible: text !== ""
-                text: root.cancelText
-                onClicked: root.close()
+                text: root.alternativeText
+                onClicked: root.end(this)
             }
 
-            Button {
-                id: confirm
+            Row {
+                anchors.right: parent.right
+                spacing: 8
 
-                text: root.confirmText
-                kind: Button.Prominent
-                destructive: root.destructive
-                onClicked: {
-                    root.wasConfirmed = true;
-                    root.close();
+                Button {
+                    id: cancel
+
+                    visible: text !== ""
+                    text: root.cancelText
+                    kind: root.cancelIsDefault ? Button.Prominent : Button.Bordered
+                    onClicked: root.end(this)
+                }
+
+                Button {
+                    id: confirm
+
+                    text: root.confirmText
+                    kind: root.cancelIsDefault ? Button.Bordered : Button.Prominent
+                    destructive: root.destructive
+                    onClicked: root.end(this)
                 }
             }
         }

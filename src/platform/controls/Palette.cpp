@@ -57,6 +57,7 @@ Palette light() {
   p.destructiveFill = rgb(0xd7352a);
   p.positive = rgb(0x1d8a3e);
   p.warning = rgb(0xa86200);
+  p.warningFill = rgb(0xffb000, 0.13);
   p.informative = rgb(0x0a6cd6);
   return p;
 }
@@ -103,6 +104,7 @@ Palette dark() {
   p.destructiveFill = rgb(0xd93a30);
   p.positive = rgb(0x3fd06a);
   p.warning = rgb(0xffb340);
+  p.warningFill = rgb(0xffb340, 0.11);
   p.informative = rgb(0x5aa9ff);
   return p;
 }

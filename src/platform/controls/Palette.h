@@ -32,6 +32,7 @@ struct Palette {
   QColor destructive, destructiveFill, destructiveFillHovered, destructiveFillPressed,
       onDestructive;
   QColor positive, warning, informative;
+  QColor warningFill;  // under labels, for what isn't as it should be
 
   static Palette make(ColorScheme scheme, const QColor& accent);
 };

@@ -79,6 +79,7 @@ class Theme : public QObject {
   Q_PROPERTY(QColor positive READ positive NOTIFY changed)
   Q_PROPERTY(QColor warning READ warning NOTIFY changed)
   Q_PROPERTY(QColor informative READ informative NOTIFY changed)
+  Q_PROPERTY(QColor warningFill READ warningFill NOTIFY changed)
 
   Q_PROPERTY(QFont largeTitle READ largeTitle CONSTANT)
   Q_PROPERTY(QFont title READ title CONSTANT)
@@ -174,6 +175,7 @@ class Theme : public QObject {
   TARNLOFT_COLOR(positive)
   TARNLOFT_COLOR(warning)
   TARNLOFT_COLOR(informative)
+  TARNLOFT_COLOR(warningFill)
 
   QFont largeTitle() const { return font(26); }
   QFont title() const { return font(22); }

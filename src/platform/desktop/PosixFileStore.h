@@ -9,10 +9,13 @@ class PosixFileStore : public FileStore {
  public:
   bool exists(const QString& path) const override;
   bool isFolder(const QString& path) const override;
-  std::optional<FileIdentity> identity(const QString& path) const override;
+  Result<FileIdentity> identity(const QString& path) const override;
   bool standsInside(const QString& path, const QString& root) const override;
   Result<QStringList> list(const QString& folder) const override;
+  Result<QStringList> listAll(const QString& folder) const override;
   Result<std::unique_ptr<FileReader>> open(const QString& path, const QString& root) const override;
+  Result<std::shared_ptr<OpenFolder>> openFolder(const QString& path,
+                                                 const QString& root) const override;
   Result<QString> resolved(const QString& path) const override;
   Result<void> makeFolder(const QString& path) override;
   Result<QString> makeTemporaryFolder(const QString& name) override;
@@ -20,13 +23,14 @@ class PosixFileStore : public FileStore {
   Result<void> copyFolder(const QString& source, const QString& target) override;
   Result<std::unique_ptr<FileWriter>> createTemporary(const QString& target) override;
   Result<void> replace(FileWriter& temporary, const QString& target) override;
+  Result<Replaced> exchange(FileWriter& temporary, const QString& target) override;
+  Result<void> moveOver(const QString& path, const QString& target) override;
   Result<void> syncFolder(const QString& path) override;
+  Result<void> syncTree(const QString& path) override;
   Result<void> remove(const QString& path) override;
   Result<void> removeFolder(const QString& path) override;
   Result<void> moveFolder(const QString& path, const QString& target) override;
-
- private:
-  Result<void> copyTree(const QString& source, const QString& target);
+  void sweepTemporaries(const QString& folder, std::chrono::hours age) override;
 };
 
 }  // namespace tarnloft

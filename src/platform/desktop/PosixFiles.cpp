@@ -3,8 +3,10 @@
 #include <QFile>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
-#include <cstdio>
+#include <climits>
+#include <cstdlib>
 #include <fcntl.h>
 #include <linux/fs.h>
 #include <linux/openat2.h>
@@ -52,14 +54,14 @@ Result<bool> copiedBySystem(const Descriptor& source, const Descriptor& target) 
   }
 }
 
-Result<void> copiedByHand(const Descriptor& source, FileWriter& target) {
+Result<void> copiedByHand(const Descriptor& source, const Descriptor& target) {
   std::vector<char> buffer(1 << 20);
   for (;;) {
     const ssize_t count = ::read(source.number(), buffer.data(), buffer.size());
     if (count == 0) return {};
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) return systemFailure(errno);
-    if (auto written = target.write({buffer.data(), count}); !written) return written;
+    if (auto written = writeAll(target, {buffer.data(), count}); !written) return written;
   }
 }
 
@@ -89,38 +91,109 @@ std::optional<QByteArray> native(const QString& path) {
   return QFile::encodeName(path);
 }
 
+Result<QString> textOf(const QByteArray& path) {
+  QString text = QFile::decodeName(path);
+  if (QFile::encodeName(text) != path) return systemFailure(EILSEQ);
+  return text;
+}
+
+Result<QByteArray> canonicalPath(const QString& path) {
+  const auto name = native(path);
+  if (!name) return systemFailure(EINVAL);
+  const std::unique_ptr<char, void (*)(void*)> canonical(::realpath(name->constData(), nullptr),
+                                                         ::free);
+  if (!canonical) return systemFailure(errno);
+  return QByteArray(canonical.get());
+}
+
+Result<QByteArray> linkContent(const QByteArray& path) {
+  QByteArray content(PATH_MAX, Qt::Uninitialized);
+  const ssize_t length = ::readlink(path.constData(), content.data(), size_t(content.size()));
+  if (length < 0) return systemFailure(errno);
+  content.truncate(length);
+  return content;
+}
+
 namespace {
 
 constexpr int reading = O_RDONLY | O_CLOEXEC | O_NONBLOCK;
 
-Result<OpenFile> regularFile(Descriptor file) {
-  if (!file.isOpen()) return systemFailure(errno);
+Result<Descriptor> opened(int number) {
+  if (number < 0) return systemFailure(errno);
+  return Descriptor(number);
+}
+
+Result<OpenFile> regularFile(Result<Descriptor> file) {
+  if (!file) return tl::unexpected(file.error());
   struct stat info;
-  if (::fstat(file.number(), &info) != 0) return systemFailure(errno);
+  if (::fstat(file->number(), &info) != 0) return systemFailure(errno);
   if (!S_ISREG(info.st_mode)) return failure(ErrorKind::refused, QStringLiteral("Not a file"));
-  return OpenFile{std::move(file), info};
+  return OpenFile{std::move(*file), info};
+}
+
+// What is to be opened as seen from the root; none if the paths don't tell.
+std::optional<QByteArray> wayInside(const QByteArray& path, const QByteArray& root) {
+  if (path == root) return QByteArrayLiteral(".");
+  if (!path.startsWith(root + '/')) return std::nullopt;
+  return path.mid(root.size() + 1);
+}
+
+// It leads out, were it only to come back, or the system knows no such way.
+bool saysNothing(int code) {
+  constexpr std::array codes{EXDEV, ELOOP, ENOSYS, EINVAL, E2BIG, EPERM, EAGAIN};
+  return std::find(codes.begin(), codes.end(), code) != codes.end();
+}
+
+// Opens what stands inside the root by a way that at no moment leads out of it. None where that
+// says nothing of what is there.
+std::optional<Result<Descriptor>> openBeneath(const QByteArray& path, const QByteArray& root,
+                                              int flags) {
+  const auto way = wayInside(path, root);
+  if (!way) return std::nullopt;
+  const Descriptor folder(::open(root.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+  if (!folder.isOpen()) return Result<Descriptor>(systemFailure(errno));
+  open_how how{};
+  how.flags = quint64(flags);
+  how.resolve = RESOLVE_BENEATH;
+  const auto number = ::syscall(SYS_openat2, folder.number(), way->constData(), &how, sizeof how);
+  if (number < 0 && saysNothing(errno)) return std::nullopt;
+  return opened(int(number));
+}
+
+Result<Descriptor> openCanonical(const QString& path, const QString& root, int flags) {
+  const auto name = canonicalPath(path), top = canonicalPath(root);
+  if (!name || !top) return tl::unexpected(name ? top.error() : name.error());
+  if (!wayInside(*name, *top)) {
+    return failure(ErrorKind::refused, QStringLiteral("It stands outside of its package"));
+  }
+  return opened(::open(name->constData(), flags | O_NOFOLLOW));
+}
+
+Result<Descriptor> openInside(const QString& path, const QString& root, int flags) {
+  const auto name = native(path), top = native(root);
+  if (!name || !top) return systemFailure(EINVAL);
+  if (auto beneath = openBeneath(*name, *top, flags)) return std::move(*beneath);
+  return openCanonical(path, root, flags);
 }
 
 }  // namespace
 
-Result<OpenFile> openRegularFile(const QString& path, Links links) {
+Result<OpenFile> openRegularFile(const QString& path) {
   const auto name = native(path);
   if (!name) return systemFailure(EINVAL);
-  const int onLinks = links == Links::refuse ? O_NOFOLLOW : 0;
-  return regularFile(Descriptor(::open(name->constData(), reading | onLinks)));
+  return openRegularFile(*name);
 }
 
-Result<OpenFile> openBeneath(const QString& path, const QString& root) {
-  const auto name = native(path), top = native(root + QLatin1Char('/'));
-  if (!name || !top || !name->startsWith(*top)) return systemFailure(EINVAL);
-  const Descriptor folder(::open(top->constData(), O_PATH | O_DIRECTORY | O_CLOEXEC));
-  if (!folder.isOpen()) return systemFailure(errno);
-  open_how how{};
-  how.flags = reading;
-  how.resolve = RESOLVE_BENEATH;
-  const char* const way = name->constData() + top->size();
-  return regularFile(
-      Descriptor(int(::syscall(SYS_openat2, folder.number(), way, &how, sizeof how))));
+Result<OpenFile> openRegularFile(const QByteArray& path) {
+  return regularFile(opened(::open(path.constData(), reading)));
+}
+
+Result<OpenFile> openFileInside(const QString& path, const QString& root) {
+  return regularFile(openInside(path, root, reading));
+}
+
+Result<Descriptor> openFolderInside(const QString& path, const QString& root) {
+  return openInside(path, root, reading | O_DIRECTORY);
 }
 
 Result<QByteArray> contentOf(const OpenFile& file) {
@@ -138,6 +211,13 @@ Result<QByteArray> contentOf(const OpenFile& file) {
   return bytes;
 }
 
+void setRightsAndTimes(const Descriptor& file, const struct stat& info) {
+  const mode_t owners = S_ISDIR(info.st_mode) ? 0700 : 0600;
+  const timespec times[] = {info.st_atim, info.st_mtim};
+  (void)::fchmod(file.number(), (info.st_mode & 0777) | owners);
+  (void)::futimens(file.number(), times);
+}
+
 FileIdentity identityOf(const struct stat& info) {
   return {info.st_dev, info.st_ino, info.st_size, nanoseconds(info.st_mtim),
           nanoseconds(info.st_ctim)};
@@ -147,55 +227,13 @@ std::unique_ptr<FileReader> makeReader(Descriptor file, const struct stat& info)
   return std::make_unique<PosixReader>(std::move(file), identityOf(info));
 }
 
-PosixWriter::~PosixWriter() {
-  if (!name_.isEmpty()) (void)::unlink(name_.constData());
-}
-
-Result<void> PosixWriter::write(QByteArrayView bytes) {
+Result<void> writeAll(const Descriptor& file, QByteArrayView bytes) {
   while (!bytes.isEmpty()) {
-    const ssize_t count = ::write(file_.number(), bytes.data(), size_t(bytes.size()));
+    const ssize_t count = ::write(file.number(), bytes.data(), size_t(bytes.size()));
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) return systemFailure(errno);
     bytes = bytes.sliced(count);
   }
-  return {};
-}
-
-Result<void> PosixWriter::repeat(qint64 offset, qint64 length) {
-  std::vector<char> buffer(size_t(std::min<qint64>(length, 1 << 20)));
-  while (length > 0) {
-    const size_t wanted = size_t(std::min<qint64>(length, qint64(buffer.size())));
-    const ssize_t count = ::pread(file_.number(), buffer.data(), wanted, offset);
-    if (count < 0 && errno == EINTR) continue;
-    if (count <= 0) return systemFailure(count < 0 ? errno : EIO);
-    if (auto written = write({buffer.data(), count}); !written) return written;
-    offset += count;
-    length -= count;
-  }
-  return {};
-}
-
-Result<void> PosixWriter::truncate(qint64 size) {
-  if (::ftruncate(file_.number(), size) != 0) return systemFailure(errno);
-  return ::lseek(file_.number(), size, SEEK_SET) < 0 ? systemFailure(errno) : Result<void>();
-}
-
-FileIdentity PosixWriter::identity() const {
-  struct stat info {};
-  (void)::fstat(file_.number(), &info);
-  return identityOf(info);
-}
-
-Result<void> PosixWriter::moveTo(const QByteArray& name, const QByteArray& target) {
-  if (name_.isEmpty()) {
-    const QByteArray self = "/proc/self/fd/" + QByteArray::number(file_.number());
-    if (::linkat(AT_FDCWD, self.constData(), AT_FDCWD, name.constData(), AT_SYMLINK_FOLLOW) != 0) {
-      return systemFailure(errno);
-    }
-    name_ = name;
-  }
-  if (::rename(name_.constData(), target.constData()) != 0) return systemFailure(errno);
-  name_.clear();
   return {};
 }
 
@@ -204,8 +242,7 @@ Result<void> copyContent(const Descriptor& source, const Descriptor& target) {
   const auto copied = copiedBySystem(source, target);
   if (!copied) return tl::unexpected(copied.error());
   if (*copied) return {};
-  PosixWriter writer(Descriptor(::dup(target.number())), QByteArray());
-  return copiedByHand(source, writer);
+  return copiedByHand(source, target);
 }
 
 }  // namespace tarnloft::posix

@@ -2,6 +2,7 @@
 
 #include "platform/FileStore.h"
 
+#include <fcntl.h>
 #include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -27,6 +28,8 @@ class Descriptor {
     if (number_ >= 0) ::close(number_);
   }
   int number() const { return number_; }
+  // The same open file once more.
+  Descriptor duplicate() const { return Descriptor(::fcntl(number_, F_DUPFD_CLOEXEC, 0)); }
   bool isOpen() const { return number_ >= 0; }
 
  private:
@@ -42,14 +45,24 @@ struct OpenFile {
 // system would end it and so name another file.
 std::optional<QByteArray> native(const QString& path);
 
-enum class Links { follow, refuse };
+// The same in reverse; fails for bytes that have no text form.
+Result<QString> textOf(const QByteArray& path);
 
 // Opens a regular file for reading. Never waits on a pipe or a device.
-Result<OpenFile> openRegularFile(const QString& path, Links links = Links::follow);
+Result<OpenFile> openRegularFile(const QString& path);
+Result<OpenFile> openRegularFile(const QByteArray& path);
 
-// The same for a file below a folder, by a way that at no moment leads out of it, were it only to
-// come back: then it fails, as it does where the system knows no such way.
-Result<OpenFile> openBeneath(const QString& path, const QString& root);
+// The same of a file inside a folder, all links followed.
+Result<OpenFile> openFileInside(const QString& path, const QString& root);
+
+// Opens a folder that is `root` or inside of it, all links followed.
+Result<Descriptor> openFolderInside(const QString& path, const QString& root);
+
+// Where a path leads in the end, with all links followed.
+Result<QByteArray> canonicalPath(const QString& path);
+
+// What a link says.
+Result<QByteArray> linkContent(const QByteArray& path);
 
 // All bytes of a file that nothing was read from yet; memory for its whole size.
 Result<QByteArray> contentOf(const OpenFile& file);
@@ -58,30 +71,17 @@ Result<QByteArray> contentOf(const OpenFile& file);
 // is nothing more to do on them, and it counts as success.
 Result<void> synced(const Descriptor& file);
 
+// Makes them those of another file or folder, the owner's right to all of it added. Best effort: on
+// some file systems they can't be set.
+void setRightsAndTimes(const Descriptor& file, const struct stat& info);
+
 FileIdentity identityOf(const struct stat& info);
 
 std::unique_ptr<FileReader> makeReader(Descriptor file, const struct stat& info);
 
-// A file without a name, or one that is removed under its name on destruction.
-class PosixWriter : public FileWriter {
- public:
-  PosixWriter(Descriptor file, QByteArray name) : file_(std::move(file)), name_(std::move(name)) {}
-  ~PosixWriter() override;
-  Q_DISABLE_COPY_MOVE(PosixWriter)
+constexpr mode_t newFileMode = 0666;  // as far as the user's mask lets it through
 
-  Result<void> write(QByteArrayView bytes) override;
-  Result<void> repeat(qint64 offset, qint64 length) override;
-  Result<void> truncate(qint64 size) override;
-  Result<void> sync() override { return synced(file_); }
-  FileIdentity identity() const override;
-
-  // Gives the file that name, if it has none yet, and then `target`, by renaming it.
-  Result<void> moveTo(const QByteArray& name, const QByteArray& target);
-
- private:
-  Descriptor file_;
-  QByteArray name_;  // empty while it has none, and once it stands in its place
-};
+Result<void> writeAll(const Descriptor& file, QByteArrayView bytes);
 
 // Copies the whole content, by shared blocks or inside of the system where that can be done.
 Result<void> copyContent(const Descriptor& source, const Descriptor& target);

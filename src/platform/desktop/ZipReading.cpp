@@ -128,14 +128,14 @@ class ZipReader {
     return {};
   }
 
-  // Also sees to it that whoever unpacks can look at what was unpacked, and remove it.
+  // Also sees to it that whoever unpacks can read, change and remove what was unpacked.
   Result<void> check(archive_entry* entry, const QByteArrayList& parts) {
     if (::archive_entry_is_encrypted(entry)) return refused("The archive is encrypted");
     if (::archive_entry_hardlink(entry)) return refused("The archive holds a hard link");
     const auto rights = ::archive_entry_perm(entry) & 0777;
     switch (::archive_entry_filetype(entry)) {
       case AE_IFDIR: ::archive_entry_set_perm(entry, rights | 0700); return {};
-      case AE_IFREG: ::archive_entry_set_perm(entry, rights | 0400); break;
+      case AE_IFREG: ::archive_entry_set_perm(entry, rights | 0600); break;
       case AE_IFLNK:
         if (linkStaysInside(::archive_entry_symlink(entry), parts.size() - 1)) break;
         return refused("A link leads out of the archive");

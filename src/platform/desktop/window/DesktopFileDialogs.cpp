@@ -95,4 +95,11 @@ std::optional<QString> DesktopFileDialogs::openFileOrFolder(const QStringList& m
   return chosenIn(dialog);
 }
 
+std::optional<QString> DesktopFileDialogs::chooseFolder() {
+  QFileDialog dialog;
+  dialog.setFileMode(QFileDialog::Directory);
+  dialog.setOption(QFileDialog::ShowDirsOnly);
+  return chosenIn(dialog);
+}
+
 }  // namespace tarnloft

@@ -11,6 +11,7 @@ class DesktopFileDialogs : public FileDialogs {
   QStringList openFiles(const QStringList& mimeTypes) override;
   std::optional<QString> openFileOrFolder(const QStringList& mimeTypes,
                                           const QStringList& folderExtensions) override;
+  std::optional<QString> chooseFolder() override;
 };
 
 }  // namespace tarnloft

@@ -4,8 +4,8 @@
 
 namespace tarnloft {
 
-// The trash that desktops on Linux share, by the toolkit's implementation of its rules.
-class FreedesktopTrash : public Trash {
+// The trash that desktops on Linux share, by GLib's implementation of its rules. Without state.
+class GioTrash : public Trash {
  public:
   Result<void> moveToTrash(const QString& path) override;
 };

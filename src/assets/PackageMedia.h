@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/FileStore.h"
+#include "platform/Images.h"
+#include "platform/Videos.h"
+
+namespace tarnloft {
+
+// Pictures of packages' assets, named by their paths: a file that leads out of its package counts
+// as one that can't be read. The disk is asked here, where the file is read, because whoever shows
+// a picture must not wait for it. Borrows what it is given; any thread.
+class PackageImages : public Images {
+ public:
+  PackageImages(const FileStore& files, Images& images) : files_(files), images_(images) {}
+
+  std::optional<ImageProperties> properties(const QString& path) override;
+  std::optional<QSizeF> vectorSize(const QString& path) override;
+  std::optional<QImage> thumbnail(const QString& path, int maxPixel) override;
+  std::optional<QByteArray> convert(const QString& path, ExportFormat format, QSize size,
+                                    double quality) override;
+
+ private:
+  const FileStore& files_;
+  Images& images_;
+};
+
+// The same for clips.
+class PackageVideos : public Videos {
+ public:
+  PackageVideos(const FileStore& files, Videos& videos) : files_(files), videos_(videos) {}
+
+  std::optional<VideoProperties> properties(const QString& path) override;
+  std::optional<QImage> frame(const QString& path, double seconds, int maxPixel) override;
+
+ private:
+  const FileStore& files_;
+  Videos& videos_;
+};
+
+}  // namespace tarnloft

@@ -1,0 +1,9 @@
+#include "entry/late/LateModules.h"
+#include "platform/desktop/GioTrash.h"
+
+using namespace tarnloft;
+
+Trash* tarnloftTrash(const QString& /*programFolder*/) {
+  static GioTrash trash;
+  return &trash;
+}

@@ -1,0 +1,231 @@
+#include "platform/controls/Typography.h"
+#include "shell/TestViews.h"
+
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QtQml/qqmlextensionplugin.h>
+
+Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
+
+using namespace tarnloft;
+
+// What the window tells and asks when something has failed.
+class TestAlerts : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void initTestCase();
+  void init() { QTest::failOnWarning(QRegularExpression("qrc:|QML|Binding")); }
+  void aBarTellsOfUnsavedChanges();
+  void aBarTellsOfALibraryThatHasGone();
+  void aLibraryThatCannotBeReadIsNotEmpty();
+  void noticesFollowEachOther();
+  void aFailedPageExportIsTold();
+  void asksWhatToDoWithoutATrash_data();
+  void asksWhatToDoWithoutATrash();
+  void asksBeforeItQuits_data();
+  void asksBeforeItQuits();
+  void theQuestionGoesWithItsReason();
+};
+
+namespace {
+
+struct Alarmed : Views {
+  const QString reason = QStringLiteral("Something other than a file is there");
+  const QString manifest = Package::manifestPath(library.packagePath("Acme"));
+
+  void start() {
+    library.add("Acme", {Section::create("Logos")});
+    Views::start();
+  }
+  // Puts a folder where the manifest was, which no save replaces.
+  void block() const {
+    QVERIFY(QFile::rename(manifest, manifest + ".old") && QDir().mkdir(manifest));
+  }
+  void unblock() const {
+    QVERIFY(QDir().rmdir(manifest) && QFile::rename(manifest + ".old", manifest));
+  }
+  // Makes a change that can't be saved.
+  void failToSave() {
+    block();
+    library.store->openDocument()->edit([](Brand& brand) { brand.name = "Birch"; });
+    library.store->openDocument()->saveNow();
+  }
+  QString focused() const {
+    QAccessibleInterface* const known =
+        QAccessible::queryAccessibleInterface(window().activeFocusItem());
+    return known ? known->text(QAccessible::Name) : QString();
+  }
+  QString rowDescription() const {
+    return QAccessible::queryAccessibleInterface(item(QAccessible::ListItem, "Acme"))
+        ->text(QAccessible::Description);
+  }
+  bool shows(const QString& text) const { return item(QAccessible::StaticText, text); }
+  // Gives an answer to the dialog of that title.
+  void answer(const QString& title, const QString& text) {
+    QTRY_VERIFY(item(QAccessible::Dialog, title));
+    if (text == "Return") return press(Qt::Key_Return);
+    QQuickItem* const button = item(QAccessible::Button, text, item(QAccessible::Dialog, title));
+    QVERIFY(button);
+    click(button);
+  }
+};
+
+constexpr auto row = QAccessible::ListItem;
+constexpr auto button = QAccessible::Button;
+constexpr auto dialog = QAccessible::Dialog;
+constexpr auto alert = QAccessible::AlertMessage;
+
+}  // namespace
+
+void TestAlerts::initTestCase() {
+  prepareTypography();
+  QAccessible::setActive(true);
+}
+
+void TestAlerts::aBarTellsOfUnsavedChanges() {
+  Alarmed views;
+  views.start();
+  QCOMPARE(views.rowDescription(), QString());
+  views.failToSave();
+  const QString text = "Changes aren't saved: " + views.reason;
+  QTRY_VERIFY(views.item(alert, text));
+  QTRY_COMPARE(views.rowDescription(), QStringLiteral("Changes aren't saved"));
+
+  // Its buttons come before the page's.
+  views.item(button, "New Brand")->forceActiveFocus(Qt::TabFocusReason);
+  for (const char* name : {"Try Again", "Save a Copy…", "Section name"}) {
+    views.press(Qt::Key_Tab);
+    QCOMPARE(views.focused(), QString(name));
+  }
+  views.press(Qt::Key_Tab, Qt::ShiftModifier);
+  views.press(Qt::Key_Tab, Qt::ShiftModifier);
+  views.press(Qt::Key_Space);
+  QVERIFY(views.item(alert, text));
+
+  views.unblock();
+  views.press(Qt::Key_Space);
+  QTRY_VERIFY(!views.item(alert, text));
+  QTRY_VERIFY(!views.item(button, "Try Again"));
+  QCOMPARE(views.focused(), QStringLiteral("Section name"));
+  QTRY_COMPARE(views.rowDescription(), QString());
+  QVERIFY(contentOf(views.manifest).contains("Birch"));
+}
+
+void TestAlerts::aBarTellsOfALibraryThatHasGone() {
+  Alarmed views;
+  views.start();
+  const QString& folder = views.library.folder;
+  QVERIFY(QDir().rename(folder, folder + " away"));
+  views.library.store->scan();
+  const QString text = QStringLiteral("“%1” isn't there just now.").arg(folder);
+  QTRY_VERIFY(views.item(alert, text));
+  QVERIFY(views.item(row, "Acme"));
+  QVERIFY(QDir().rename(folder + " away", folder));
+  QTRY_VERIFY(views.item(button, "Try Again"));
+  views.click(views.item(button, "Try Again"));
+  QTRY_VERIFY(!views.item(alert, text));
+}
+
+void TestAlerts::aLibraryThatCannotBeReadIsNotEmpty() {
+  Views views;
+  writeFile(views.library.folder, "a file");
+  views.start();
+  QTRY_VERIFY(views.item(QAccessible::StaticText, "The library can't be opened"));
+  QVERIFY(!views.item(QAccessible::StaticText, "Welcome to Tarn Loft"));
+  QFile::remove(views.library.folder);
+  views.library.add("Acme");
+  views.click(views.item(button, "Try Again"));
+  QTRY_VERIFY(views.item(row, "Acme"));
+  QTRY_VERIFY(!views.item(QAccessible::StaticText, "The library can't be opened"));
+}
+
+void TestAlerts::noticesFollowEachOther() {
+  Alarmed views;
+  views.start();
+  emit views.library.store->noticed("One", "the reason");
+  emit views.library.store->noticed("Two", "The reason.");
+  QTRY_VERIFY(views.shows("the reason."));
+  views.answer("One", "Return");
+  QTRY_VERIFY(views.shows("The reason."));
+  QVERIFY(!views.item(dialog, "One"));
+  views.answer("Two", "OK");
+  QTRY_VERIFY(!views.item(dialog, "Two"));
+}
+
+void TestAlerts::aFailedPageExportIsTold() {
+  Alarmed views;
+  views.start();
+  views.library.dialogs.answer = views.library.disk.path("no/such/folder.html");
+  views.library.store->exportOpenBrandPage();
+  QTRY_VERIFY(views.item(dialog, "The brand page couldn't be exported"));
+  QVERIFY(views.shows("No such file or directory."));
+}
+
+void TestAlerts::asksWhatToDoWithoutATrash_data() {
+  QTest::addColumn<QStringList>("answers");
+  QTest::addColumn<qsizetype>("left");
+  QTest::newRow("kept") << QStringList{"Cancel"} << qsizetype(1);
+  QTest::newRow("kept after all") << QStringList{"Delete Immediately…", "Cancel"} << qsizetype(1);
+  QTest::newRow("return alone") << QStringList{"Return", "Return"} << qsizetype(1);
+  QTest::newRow("deleted") << QStringList{"Delete Immediately…", "Delete"} << qsizetype(0);
+}
+
+void TestAlerts::asksWhatToDoWithoutATrash() {
+  QFETCH(QStringList, answers);
+  Alarmed views;
+  views.library.trash.works = false;
+  views.start();
+  views.click(views.item(row, "Acme"));
+  views.press(Qt::Key_Delete);
+  views.answer("Move “Acme” to the Trash?", "Return");
+  QTRY_VERIFY(views.shows("no trash. The brand stays in the library."));
+  views.answer("“Acme” can't be moved to the Trash", answers.takeFirst());
+  if (!answers.isEmpty()) views.answer("Delete “Acme” immediately?", answers.takeFirst());
+  QTRY_VERIFY(!views.item(dialog, "Delete “Acme” immediately?"));
+  QTRY_VERIFY(!views.item(dialog, "“Acme” can't be moved to the Trash"));
+  QTEST(views.library.names().size(), "left");
+  QCOMPARE(QFile::exists(views.manifest), !views.library.names().isEmpty());
+}
+
+void TestAlerts::asksBeforeItQuits_data() {
+  QTest::addColumn<QString>("answer");
+  QTest::addColumn<int>("quits");
+  QTest::newRow("return") << "Return" << 0;
+  QTest::newRow("cancelled") << "Cancel" << 0;
+  QTest::newRow("tried again") << "Try Again" << 0;
+  QTest::newRow("quit") << "Quit Anyway" << 1;
+}
+
+void TestAlerts::asksBeforeItQuits() {
+  QFETCH(QString, answer);
+  Alarmed views;
+  views.start();
+  views.failToSave();
+  QSignalSpy quits(views.main->alerts(), &Alerts::quitConfirmed);
+  const QString title = "Changes to “Birch” aren't saved";
+  for (const int times : {1, 2}) {
+    views.main->alerts()->askToQuit();
+    views.answer(title, answer);
+    QTRY_VERIFY(!views.item(dialog, title));
+    QTEST(int(quits.size()) / times, "quits");
+  }
+}
+
+void TestAlerts::theQuestionGoesWithItsReason() {
+  Alarmed views;
+  views.start();
+  views.failToSave();
+  views.main->alerts()->askToQuit();
+  const QString title = "Changes to “Birch” aren't saved";
+  QTRY_VERIFY(views.item(dialog, title));
+  views.unblock();
+  views.library.store->retrySaves();
+  QTRY_VERIFY(!views.item(dialog, title));
+}
+
+QTEST_MAIN(TestAlerts)
+#include "tst_alerts.moc"
