@@ -9,6 +9,9 @@
 namespace tarnloft {
 
 template <Record R>
+using DecodedResult = Result<Decoded<R>>;
+
+template <Record R>
 Result<Decoded<R>> decodeNoting(const QByteArray& json) {
   const auto root = parseJson(json);
   if (!root) return tl::unexpected(root.error());
@@ -34,7 +37,7 @@ Result<QByteArray> encode(const R& record) {
 }  // namespace tarnloft
 
 // Stands in namespace tarnloft.
-#define TARNLOFT_CODED(Type)                                            \
-  template Result<Type> decode<Type>(const QByteArray&);                \
-  template Result<Decoded<Type>> decodeNoting<Type>(const QByteArray&); \
+#define TARNLOFT_CODED(Type)                                          \
+  template Result<Type> decode<Type>(const QByteArray&);              \
+  template DecodedResult<Type> decodeNoting<Type>(const QByteArray&); \
   template Result<QByteArray> encode<Type>(const Type&);

@@ -10,7 +10,16 @@ Item {
 
     required property Alerts alerts
 
+    Timer {
+        id: next
+
+        interval: 0
+        onTriggered: notices.opened?.open()
+    }
+
     LazySheet {
+        id: notices
+
         active: root.alerts.noticeTitle !== ""
 
         ConfirmationDialog {
@@ -20,7 +29,7 @@ Item {
             onClosed: {
                 root.alerts.dismissNotice();
                 if (title !== "")
-                    Qt.callLater(open); // the next one
+                    next.restart(); // behind this closing
             }
         }
     }
