@@ -118,13 +118,14 @@ void BrandDocument::renamePackage(const QString& folder,
     if (writer->hasFailed()) {
       return failure(ErrorKind::io, QStringLiteral("Its changes couldn't be saved."));
     }
-    const QString target = Package::uniquePackageURL(files, folder, name);
-    return writer->moveTo(target).map([&] { return target; });
+    QString target = Package::uniquePackageURL(files, folder, name);
+    return writer->moveTo(target).map([&] { return std::move(target); });
   };
-  services_.disk.ask(rename, [document = QPointer(this), done](const Result<QString>& target) {
-    if (document && target) document->setPackageURL(*target);
-    done(target);
-  });
+  services_.disk.ask(
+      rename, [document = QPointer(this), done = std::move(done)](const Result<QString>& target) {
+        if (document && target) document->setPackageURL(*target);
+        done(target);
+      });
 }
 
 void BrandDocument::follow(const QString& packageURL) {

@@ -50,7 +50,7 @@ void LibraryStore::duplicateBrand(const BrandSummary& brand) {
   const auto duplicate = [services = services_.document, packageURL = brand.packageURL,
                           folder = libraryURL_, name]() -> Result<QString> {
     FileStore& files = services.files;
-    const QString target = Package::uniquePackageURL(files, folder, name);
+    QString target = Package::uniquePackageURL(files, folder, name);
     if (auto copied = files.copyFolder(packageURL, target); !copied) {
       return tl::unexpected(copied.error());
     }

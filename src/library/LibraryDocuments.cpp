@@ -190,11 +190,13 @@ void LibraryStore::saveCopy() {
                      brand = openDocument_->brand(),
                      packageURL = openDocument_->packageURL()]() -> Result<QString> {
     FileStore& files = services.files;
-    const QString target = Package::uniquePackageURL(files, folder, brand.name);
+    QString target = Package::uniquePackageURL(files, folder, brand.name);
     const auto made = files.isFolder(packageURL) ? files.copyFolder(packageURL, target)
                                                  : files.makeFolder(target);
     if (!made) return tl::unexpected(made.error());
-    return PackageWriter::writeClosed(services, target, brand).map([&] { return target; });
+    return PackageWriter::writeClosed(services, target, brand).map([&] {
+      return std::move(target);
+    });
   };
   services_.copies.ask(copy, [store = QPointer(this)](const Result<QString>& target) {
     if (!store) return;
