@@ -76,7 +76,7 @@ void Import::land(ItemLanding::Place place, const QString& name, const Result<It
 }
 
 SharedImport begin(const ImportServices& services, const QUuid& section, BrandDocument& document) {
-  const auto import = std::make_shared<Import>(services, section, document);
+  auto import = std::make_shared<Import>(services, section, document);
   document.openAssetFolder([import](const Result<AssetFolder>& folder) { import->begin(folder); });
   return import;
 }
