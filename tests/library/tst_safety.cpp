@@ -261,23 +261,9 @@ void TestSafety::aDiskThatDoesNotAnswerHoldsNothingUp() {
   DiskThread thread;
   library.files = &disk;
   for (const char* name : {"Acme", "Beta"}) library.add(name);
-  LibraryServices services = library.services();
-  LibraryStore* store = nullptr;
+  library.work = &thread;
   disk.gate.acquire(1000);
-  // The main thread would stay in here for ever.
-  LibraryServices slow{{disk, library.disk.log, systemNow, thread},
-                       services.preferences,
-                       services.appearance,
-                       services.beep,
-                       services.trash,
-                       services.archiver,
-                       services.dialogs,
-                       services.viewer,
-                       services.makeColorSampler,
-                       services.applicationSupport,
-                       services.temporaryFolder};
-  library.store = std::make_unique<LibraryStore>(slow);
-  store = library.store.get();
+  LibraryStore* const store = &library.start();  // or it would stay in here for ever
   QVERIFY(store->isOpening() && store->brands().isEmpty());
   QTRY_VERIFY(!store->libraryProblem().isEmpty());
   disk.gate.release(1000);

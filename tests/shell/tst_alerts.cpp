@@ -22,6 +22,7 @@ class TestAlerts : public QObject {
   void aBarTellsOfUnsavedChanges();
   void aBarTellsOfALibraryThatHasGone();
   void aLibraryThatCannotBeReadIsNotEmpty();
+  void aSlowDiskIsNoEmptyLibrary();
   void noticesFollowEachOther();
   void aFailedPageExportIsTold();
   void asksWhatToDoWithoutATrash_data();
@@ -72,6 +73,24 @@ struct Alarmed : Views {
     QVERIFY(button);
     click(button);
   }
+};
+
+// Does nothing until it is let go.
+class HeldDisk : public DiskWork {
+ public:
+  bool isHeld = true;
+  void run(std::function<void()> work, std::function<void()> done, Patience) override {
+    tasks_ << std::move(work) << std::move(done);
+    if (!isHeld) release();
+  }
+  bool finish(std::chrono::milliseconds) override { return tasks_.isEmpty(); }
+  void release() {
+    isHeld = false;
+    while (!tasks_.isEmpty()) tasks_.takeFirst()();
+  }
+
+ private:
+  QList<std::function<void()>> tasks_;
 };
 
 constexpr auto row = QAccessible::ListItem;
@@ -141,6 +160,27 @@ void TestAlerts::aLibraryThatCannotBeReadIsNotEmpty() {
   views.click(views.item(button, "Try Again"));
   QTRY_VERIFY(views.item(row, "Acme"));
   QTRY_VERIFY(!views.item(QAccessible::StaticText, "The library can't be opened"));
+}
+
+void TestAlerts::aSlowDiskIsNoEmptyLibrary() {
+  HeldDisk disk;
+  Alarmed views;
+  views.library.add("Beta");
+  views.library.work = &disk;
+  views.start();
+  QVERIFY(!views.shows("Welcome to Tarn Loft"));
+  QTRY_VERIFY(views.shows("The library can't be opened"));  // after a while
+  disk.release();
+  QTRY_VERIFY(views.item(row, "Acme"));
+  QTRY_VERIFY(!views.shows("The library can't be opened"));
+
+  disk.isHeld = true;
+  views.click(views.item(row, "Beta"));
+  QTRY_VERIFY(views.shows("Opening…"));
+  QVERIFY(!views.item(QAccessible::Heading, "Acme"));
+  disk.release();
+  QTRY_VERIFY(views.item(QAccessible::Heading, "Beta"));
+  QTRY_VERIFY(!views.shows("Opening…"));
 }
 
 void TestAlerts::noticesFollowEachOther() {

@@ -52,7 +52,8 @@ class FolderTrash : public Trash {
 // A library folder on the real disk, with its preferences in a real file.
 struct TestLibrary {
   TestServices disk;
-  FileStore* files = &disk.files;  // a test may put a faulty one in
+  FileStore* files = &disk.files;     // a test may put a faulty one in
+  DiskWork* work = &immediateDisk();  // or a slow one
   IniPreferences preferences{disk.path("tarnloft.ini")};
   ListedAppearance appearance;
   CountingBeep beep;
@@ -65,7 +66,7 @@ struct TestLibrary {
   std::unique_ptr<LibraryStore> store;
 
   LibraryServices services() {
-    return {{*files, disk.log, [this] { return disk.now; }},
+    return {{*files, disk.log, [this] { return disk.now; }, *work},
             preferences,
             appearance,
             beep,
