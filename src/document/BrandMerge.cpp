@@ -18,29 +18,21 @@ SharedList<Item> itemsOf(const Brand& brand, const QUuid& id) {
   return section ? section->items : SharedList<Item>();
 }
 
-// One of the places where an item's id stands.
-struct Occurrence {
+// Where an item stands.
+struct ItemPlace {
   const Item* item;
   QUuid section;
 };
-using Occurrences = QHash<QUuid, QList<Occurrence>>;
+using ItemPlaces = QHash<QUuid, ItemPlace>;
 
-Occurrences occurrences(const Brand& brand, const QSet<QUuid>& ids) {
-  Occurrences found;
+ItemPlaces placesOf(const Brand& brand, const QSet<QUuid>& ids) {
+  ItemPlaces found;
   for (const Section& section : brand.sections) {
     for (const Item& item : section.items) {
-      if (ids.contains(item.id)) found[item.id] << Occurrence{&item, section.id};
+      if (ids.contains(item.id)) found.insert(item.id, {&item, section.id});
     }
   }
   return found;
-}
-
-bool takeEqual(QList<Occurrence>& list, const Item& item) {
-  const auto found = std::find_if(list.begin(), list.end(),
-                                  [&](const Occurrence& one) { return *one.item == item; });
-  if (found == list.end()) return false;
-  list.erase(found);
-  return true;
 }
 
 // Decides what becomes of each item that the step touched. Refers to the three brands.
@@ -52,10 +44,14 @@ class ItemMerge {
     for (const Section& section : to.sections) {
       if (!sectionOf(from, section.id)) compare(section.id);
     }
-    const auto before = occurrences(from, touched_), after = occurrences(to, touched_),
-               now = occurrences(present, touched_);
+    const auto before = placesOf(from, touched_), after = placesOf(to, touched_),
+               now = placesOf(present, touched_);
     for (const QUuid& id : std::as_const(touched_)) {
-      decide(before.value(id), after.value(id), now.value(id));
+      const auto placeIn = [&](const ItemPlaces& places) {
+        const auto found = places.constFind(id);
+        return found == places.cend() ? nullptr : &*found;
+      };
+      decide(placeIn(before), placeIn(after), placeIn(now));
     }
   }
 
@@ -75,34 +71,30 @@ class ItemMerge {
     moved_ += step.moved - listStep(before, itemsOf(present_, section)).moved;
   }
 
-  void decide(QList<Occurrence> before, const QList<Occurrence>& after, QList<Occurrence> now) {
-    if (before.size() > 1 || after.size() > 1 || now.size() > 1) {
-      for (const Occurrence& one : after) {
-        const bool stayed = takeEqual(before, *one.item), isThere = takeEqual(now, *one.item);
-        if (!stayed && !isThere) arrive(one, *one.item);
-      }
-    } else if (before.isEmpty()) {
-      if (now.isEmpty()) arrive(after.first(), *after.first().item);
-    } else if (!now.isEmpty()) {
-      after.isEmpty() ? leave(now.first()) : change(before.first(), after.first(), now.first());
+  // Null for a brand that doesn't hold the item.
+  void decide(const ItemPlace* before, const ItemPlace* after, const ItemPlace* now) {
+    if (!before) {
+      if (!now) arrive(*after, *after->item);
+    } else if (now) {
+      after ? change(*before, *after, *now) : leave(*now);
     }
   }
 
-  void change(const Occurrence& before, const Occurrence& after, const Occurrence& now) {
+  void change(const ItemPlace& before, const ItemPlace& after, const ItemPlace& now) {
     const Item value = merged(*before.item, *after.item, *now.item);
     const bool moves = before.section != after.section || moved_.contains(value.id);
     if (moves && now.section == before.section) {  // else moved elsewhere since
       leave(now);
       arrive(after, value);
     } else if (value != *now.item) {
-      changes_[now.section].changed.insert(now.item, value);
+      changes_[now.section].changed.insert(value.id, value);
     }
   }
 
-  void leave(const Occurrence& now) { changes_[now.section].leaving.insert(now.item); }
+  void leave(const ItemPlace& now) { changes_[now.section].leaving.insert(now.item->id); }
 
-  void arrive(const Occurrence& there, const Item& value) {
-    changes_[there.section].arriving.insert(there.item, value);
+  void arrive(const ItemPlace& there, const Item& value) {
+    changes_[there.section].arriving.insert(value.id, value);
     receivers_.insert(there.section);
   }
 
@@ -133,13 +125,13 @@ QList<Section> mergedSections(const Brand& from, const Brand& to, const Brand& p
       Section value = *now;
       mergeFields(*before, target, value);
       if (moved.contains(target.id)) {
-        change.leaving.insert(now);
-        change.arriving.insert(&target, value);
+        change.leaving.insert(value.id);
+        change.arriving.insert(value.id, value);
       } else {
-        change.changed.insert(now, value);
+        change.changed.insert(value.id, value);
       }
     } else if (!now && (!before || receivers.contains(target.id))) {
-      change.arriving.insert(&target, withoutItems(target));
+      change.arriving.insert(target.id, withoutItems(target));
     }
   }
   return rearranged(present.sections, to.sections, change);
@@ -161,31 +153,6 @@ Brand difference(const Brand& from, const Brand& to, const Brand& present) {
   return result;
 }
 
-// Sections of one id, which a foreign brand may hold, get ids of their own for as long as it takes.
-class DistinctSections {
- public:
-  Brand of(Brand brand) {
-    QHash<QUuid, int> counts;
-    for (qsizetype i = 0; i < brand.sections.size(); ++i) {
-      const QUuid id = brand.sections.at(i).id;
-      if (const int count = counts[id]++) {
-        brand.sections[i].id = QUuid::createUuidV5(id, QByteArray::number(count));
-        originals_.insert(brand.sections.at(i).id, id);
-      }
-    }
-    return brand;
-  }
-
-  Brand original(Brand brand) const {
-    if (originals_.isEmpty()) return brand;
-    for (Section& section : brand.sections) section.id = originals_.value(section.id, section.id);
-    return brand;
-  }
-
- private:
-  QHash<QUuid, QUuid> originals_;
-};
-
 bool isSameButForItsSave(Brand brand, const Brand& other) {
   brand.updatedAt = other.updatedAt;
   return brand == other;
@@ -195,9 +162,7 @@ bool isSameButForItsSave(Brand brand, const Brand& other) {
 
 Brand reapplied(const Brand& from, const Brand& to, const Brand& present) {
   if (isSameButForItsSave(from, present)) return to;
-  DistinctSections sections;
-  const Brand before = sections.of(from), after = sections.of(to), now = sections.of(present);
-  return sections.original(difference(before, after, now));
+  return difference(from, to, present);
 }
 
 }  // namespace tarnloft

@@ -11,8 +11,8 @@ namespace tarnloft {
 //
 // Nothing is lost: an item goes only if it stands in `from` and not in `to`. A section that would
 // go stays while it holds items of others or was renamed since, and one that is gone comes back for
-// an item that returns to it. Items whose id stands twice can't be told apart: none of them goes or
-// changes, and those that are missing come back.
+// an item that returns to it. Ids are distinct within each brand, as in a document's
+// (`withDistinctIDs`).
 Brand reapplied(const Brand& from, const Brand& to, const Brand& present);
 
 }  // namespace tarnloft

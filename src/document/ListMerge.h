@@ -59,26 +59,25 @@ ListStep listStep(const List& before, const List& after) {
   return step;
 }
 
-// What is to become of a list. Elements are told by their addresses, because a foreign brand may
-// hold an id twice.
+// What is to become of a list, by ids.
 template <class Element>
 struct Rearrangement {
-  QSet<const Element*> leaving;             // elements of the present list
-  QHash<const Element*, Element> changed;   // elements of the present list, with their new values
-  QHash<const Element*, Element> arriving;  // elements of the list of places, with their values
+  QSet<QUuid> leaving;             // elements of the present list
+  QHash<QUuid, Element> changed;   // elements of the present list, with their new values
+  QHash<QUuid, Element> arriving;  // elements of the list of places, with their values
 };
 
 // Where to put those that arrive once the others have left: behind the nearest that stands in front
 // of them in the list of places and is there already, else in front of the nearest behind them.
 template <class List, class Element = typename List::value_type>
-std::vector<std::pair<qsizetype, const Element*>> arrivals(
-    const List& places, const QHash<const Element*, Element>& arriving,
-    const QHash<QUuid, qsizetype>& staying) {
+std::vector<std::pair<qsizetype, const Element*>> arrivals(const List& places,
+                                                           const QHash<QUuid, Element>& arriving,
+                                                           const QHash<QUuid, qsizetype>& staying) {
   std::vector<std::pair<qsizetype, const Element*>> result;
   bool isFirst = true;  // none of those that stay has been met
   qsizetype at = 0;
   for (const Element& place : places) {
-    if (const auto value = arriving.constFind(&place); value != arriving.cend()) {
+    if (const auto value = arriving.constFind(place.id); value != arriving.cend()) {
       result.emplace_back(at, &*value);
     } else if (const auto stays = staying.constFind(place.id); stays != staying.cend()) {
       if (isFirst) {
@@ -101,10 +100,10 @@ List rearranged(const List& present, const List& places, const Rearrangement<Ele
   QHash<QUuid, qsizetype> staying;
   qsizetype index = 0;
   for (const Element& element : present) {
-    if (const auto value = change.changed.constFind(&element); value != change.changed.cend()) {
+    if (const auto value = change.changed.constFind(element.id); value != change.changed.cend()) {
       result[index] = *value;
     }
-    if (change.leaving.contains(&element)) {
+    if (change.leaving.contains(element.id)) {
       leaving.push_back(index);
     } else if (!change.arriving.isEmpty()) {
       staying.insert(element.id, index - qsizetype(leaving.size()));

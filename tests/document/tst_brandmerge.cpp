@@ -96,12 +96,6 @@ void TestBrandMerge::takesBackItsOwnStep_data() {
       "T:b U:c S:a V:", "S:a T:b U:c V:");
   row("sections ordered, then otherwise",
       "S: T: U: V:", "T: U: V: S:", "T: S: U: V:", "T: S: U: V:");
-  row("a repeated id deleted", "S:aa2b", "S:a2b", "S:a2bx", "S:aa2bx");
-  row("twins deleted", "S:aab", "S:b", "S:bx", "S:aabx");
-  row("one of twins deleted", "S:aab", "S:ab", "S:abx", "S:aabx");
-  row("a repeated id added", "S:ab", "S:aba2", "S:aba2x", "S:aba2x");
-  row("beside repeated ids", "S:aabc", "S:aac", "S:aacx", "S:aabcx");
-  row("repeated sections", "S:ab Sx:c", "S:a Sx:c", "S:a Sx:cy", "S:ab Sx:cy");
 }
 
 void TestBrandMerge::takesBackItsOwnStep() {

@@ -28,6 +28,7 @@ class TestDocument : public QObject {
   void loadsNothingFromABadPackage();
   void refusesAManifestBeyondAllBrands();
   void savesWhatItReadUnchanged();
+  void givesWhatSharesAnIDOneOfItsOwn();
   void refusesHostileAssetNames_data();
   void refusesHostileAssetNames();
 };
@@ -233,6 +234,31 @@ void TestDocument::savesWhatItReadUnchanged() {
     const QByteArray after = contentOf(Package::manifestPath(package));
     QCOMPARE(after, before.left(date) + "\"updatedAt\" : \"2026-03-01T09:31:00Z\"\n}");
   }
+}
+
+// A manifest that was put together elsewhere: sections and items repeat, within one and across.
+void TestDocument::givesWhatSharesAnIDOneOfItsOwn() {
+  TestServices disk;
+  const Brand brand = RandomBrand(4).brand(3, 12);
+  Brand twice = brand;
+  twice.sections += brand.sections;
+  for (const Item& item : brand.sections.at(0).items) twice.sections[0].items.append(item);
+  const QString package = disk.path(QStringLiteral("Twice.tarnloft"));
+  QVERIFY(writeFile(Package::manifestPath(package), *encode(twice)));
+
+  const Brand read = BrandDocument::load(disk.services(), package)->brand();
+  QCOMPARE(read, BrandDocument::load(disk.services(), package)->brand());
+  QSet<QUuid> sections, items;
+  qsizetype count = 0;
+  for (qsizetype i = 0; i < read.sections.size(); ++i) {
+    sections.insert(read.sections.at(i).id);
+    for (const Item& item : read.sections.at(i).items) items.insert(item.id);
+    count += read.sections.at(i).items.size();
+    QCOMPARE(read.sections.at(i).items.size(), twice.sections.at(i).items.size());
+    if (i < brand.sections.size()) QCOMPARE(read.sections.at(i).id, brand.sections.at(i).id);
+  }
+  QCOMPARE(sections.size(), read.sections.size());
+  QCOMPARE(items.size(), count);
 }
 
 void TestDocument::refusesHostileAssetNames_data() {
