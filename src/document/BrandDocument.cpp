@@ -48,7 +48,10 @@ std::unique_ptr<BrandDocument> BrandDocument::load(const DocumentServices& servi
 
 void BrandDocument::setBrand(Brand brand) {
   brand_ = std::move(brand);
-  if (!suppressSchedule_) ++revision_;
+  if (!suppressSchedule_) {
+    ++revision_;
+    isFailureLogged_ = false;
+  }
   emit brandChanged();
   scheduleSave();
 }
@@ -94,13 +97,19 @@ void BrandDocument::finishSave(const SaveReport& report) {
     setSaveProblem({});
   } else if (savesUnderWay_ == 0) {
     const QString& reason = report.written.error().message;
-    services_.log.write(QStringLiteral("failed to save ") + Package::manifestPath(packageURL_) +
-                        QStringLiteral(": ") + reason);
+    logFailure(reason);
     setSaveProblem(reason);
     retry_.start();
   }
   if (report.written && report.place == SaveReport::Place::remade) emit packageRemade();
   if (!report.written || !hasUnsavedChanges()) emit saveEnded();
+}
+
+// Once, however often the same is tried again.
+void BrandDocument::logFailure(const QString& reason) {
+  if (std::exchange(isFailureLogged_, true) && reason == saveProblem_) return;
+  services_.log.write(QStringLiteral("failed to save ") + Package::manifestPath(packageURL_) +
+                      QStringLiteral(": ") + reason);
 }
 
 void BrandDocument::setSaveProblem(const QString& problem) {

@@ -137,6 +137,7 @@ class BrandDocument : public QObject {
   void scheduleSave();
   void stageAndSave();
   void finishSave(const SaveReport& report);
+  void logFailure(const QString& reason);
   void setSaveProblem(const QString& problem);
   void setPackageURL(const QString& packageURL);
 
@@ -151,6 +152,7 @@ class BrandDocument : public QObject {
   QTimer patience_;            // with one that is on its way
   int savesUnderWay_ = 0;
   QString saveProblem_;
+  bool isFailureLogged_ = false;  // since the last change
   bool invalidated_ = false;
   bool isHeld_ = false;
   bool suppressSchedule_ = false;  // while `saveNow` itself assigns

@@ -67,13 +67,8 @@ Result<OpenedPackage> PackageWriter::create(const DocumentServices& services, co
 Result<void> PackageWriter::writeClosed(const DocumentServices& services, const QString& packageURL,
                                         const Brand& brand) {
   const auto opened = open(services, packageURL);
-  const std::shared_ptr<PackageWriter> writer(
-      opened ? opened->writer
-             : std::shared_ptr<PackageWriter>(new PackageWriter(services, packageURL, {})));
-  Brand saved = brand;
-  saved.updatedAt = services.clock();
-  writer->stage(saved, 0);
-  return writer->saveStaged().written;
+  if (opened) return opened->writer->writeAt(services.clock(), brand);
+  return PackageWriter(services, packageURL, {}).writeAt(services.clock(), brand);
 }
 
 Result<void> PackageWriter::editClosed(const DocumentServices& services, const QString& packageURL,
@@ -82,7 +77,7 @@ Result<void> PackageWriter::editClosed(const DocumentServices& services, const Q
   if (!opened) return tl::unexpected(opened.error());
   Brand brand = opened->brand;
   change(brand);
-  return writeClosed(services, packageURL, brand);
+  return opened->writer->writeAt(services.clock(), brand);
 }
 
 void PackageWriter::stage(const Brand& brand, quint64 revision) {
@@ -96,12 +91,23 @@ std::optional<PackageWriter::Staged> PackageWriter::takeStaged() {
 }
 
 SaveReport PackageWriter::saveStaged() {
+  using Place = SaveReport::Place;
   const auto staged = takeStaged();
-  if (!staged || isClosed_) return lastReport_;
-  lastReport_ = {{}, staged->revision, SaveReport::Place::same, packageURL_};
+  if (!staged || isClosed_) {
+    SaveReport again = lastReport_;
+    again.place = Place::same;  // told once
+    return again;
+  }
+  const bool isUntold = lastReport_.place == Place::remade && !lastReport_.written;
+  lastReport_ = {{}, staged->revision, isUntold ? Place::remade : Place::same, packageURL_};
   lastReport_.written = write(staged->brand);
   lastReport_.packageURL = packageURL_;
   return lastReport_;
+}
+
+Result<void> PackageWriter::writeAt(Timestamp moment, Brand brand) {
+  brand.updatedAt = moment;
+  return write(brand);
 }
 
 Result<void> PackageWriter::write(const Brand& brand) {

@@ -86,6 +86,7 @@ class PackageWriter {
 
   std::optional<Staged> takeStaged();
   Result<void> write(const Brand& brand);
+  Result<void> writeAt(Timestamp moment, Brand brand);
   Result<void> findPackage(const QUuid& brand);
   Result<void> keepPresent();
   Result<void> keep(const QString& manifest, const FileIdentity& identity);
