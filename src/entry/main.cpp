@@ -38,7 +38,7 @@ void useHomeFolder() {
   qputenv("HOME", user && isAbsolute(user->pw_dir) ? user->pw_dir : "/");
 }
 
-// As the specification of base directories says; here, so that every library does.
+// Such folders are to be ignored; here, so that every library does.
 void ignoreRelativeFolders() {
   for (const char* name :
        {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME"}) {
@@ -65,11 +65,13 @@ int main(int argc, char* argv[]) {
   for (int i = 0; i < argc; ++i) arguments << textPathOf(argv[i]);
   PosixFileStore files;
   Syslog log;
-  SupportFolder::migrateIfNeeded(files, log);
   const auto quickly = [&](auto&& run, const auto& mode) {
     const QCoreApplication application(argc, argv);
     return run(mode, DocumentServices{files, log}) ? 0 : 1;
   };
+  const Mode asked = modeOf(arguments);
+  // The windows' program does so away from its main thread.
+  if (!std::holds_alternative<ApplicationMode>(asked)) SupportFolder::migrateIfNeeded(files, log);
   return std::visit(
       Overloaded{
           [&](const SelfTestMode&) { return runInModule("tarnloftSelfTest", argc, argv); },
@@ -77,5 +79,5 @@ int main(int argc, char* argv[]) {
           [&](const LogoSeedingMode& mode) { return quickly(QuickModes::seedLogo, mode); },
           [&](const ApplicationMode&) { return runInModule("tarnloftApplication", argc, argv); },
       },
-      modeOf(arguments));
+      asked);
 }

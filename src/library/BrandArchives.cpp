@@ -91,7 +91,7 @@ void LibraryStore::exportBrand(const BrandSummary& brand) {
   const auto done = [this, path = *path, name = brand.name](const Result<void>& exported) {
     services_.viewer.reveal(path);
     if (exported) return;
-    notice(QStringLiteral("“%1” couldn't be exported").arg(name), exported.error());
+    tell(QStringLiteral("“%1” couldn't be exported").arg(name), exported.error().message);
   };
   // Replaced only by a whole archive. Not synced: it can be made again, and may weigh gigabytes.
   const auto write = [&files = services_.document.files, &archiver = services_.archiver, packageURL,
@@ -127,8 +127,8 @@ void LibraryStore::importBrandArchive(const QString& path) {
   };
   change(services_.copies, bringIn, [this, path](const Result<QString>& packageURL) {
     if (packageURL) return select(*packageURL);
-    notice(QStringLiteral("“%1” couldn't be imported").arg(lastPathComponent(path)),
-           packageURL.error());
+    tell(QStringLiteral("“%1” couldn't be imported").arg(lastPathComponent(path)),
+         packageURL.error().message);
   });
 }
 

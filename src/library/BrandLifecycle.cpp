@@ -15,7 +15,7 @@ BrandDocument* LibraryStore::createBrand(const QString& name) {
     if (!created) {
       services_.document.log.write(QStringLiteral("failed to create brand: ") +
                                    created.error().message);
-      return notice(QStringLiteral("The brand couldn't be created"), created.error());
+      return tell(QStringLiteral("The brand couldn't be created"), created.error().message);
     }
     selection_ = created->packageURL;
     afterLoading_ = nullptr;
@@ -39,8 +39,8 @@ void LibraryStore::renameOpenBrand(const QString& name) {
     if (!store) return;
     store->scan();
     if (packageURL) return;
-    store->notice(QStringLiteral("The package of “%1” couldn't be renamed").arg(before),
-                  packageURL.error());
+    store->tell(QStringLiteral("The package of “%1” couldn't be renamed").arg(before),
+                packageURL.error().message);
   };
   openDocument_->renamePackage(libraryURL_, renamed);
 }
@@ -62,7 +62,7 @@ void LibraryStore::duplicateBrand(const BrandSummary& brand) {
   };
   const auto failed = [this, original = brand.name](const Error& error) {
     services_.document.log.write(QStringLiteral("failed to duplicate brand: ") + error.message);
-    notice(QStringLiteral("“%1” couldn't be duplicated").arg(original), error);
+    tell(QStringLiteral("“%1” couldn't be duplicated").arg(original), error.message);
   };
   whenSaved(brand.packageURL, [this, duplicate, failed](const Result<void>& saved) {
     if (!saved) return failed(saved.error());
@@ -88,7 +88,7 @@ void LibraryStore::deleteBrandImmediately(const BrandSummary& brand) {
         return files.removeFolder(packageURL);
       },
       [this, brand](const Error& error) {
-        notice(QStringLiteral("“%1” couldn't be deleted").arg(brand.name), error);
+        tell(QStringLiteral("“%1” couldn't be deleted").arg(brand.name), error.message);
       });
 }
 
@@ -123,9 +123,12 @@ void LibraryStore::exportBrandPage(const BrandSummary& brand) {
 
 void LibraryStore::exportOpenBrandPage() {
   if (!openDocument_) return;
-  const auto exported = BrandPageExporter::exportPage(*openDocument_, services_.document.files,
-                                                      services_.dialogs, services_.viewer);
-  if (!exported) notice(QStringLiteral("The brand page couldn't be exported"), exported.error());
+  BrandPageExporter::exportPage(
+      *openDocument_, services_.document.files, services_.dialogs, services_.viewer,
+      services_.copies, [store = QPointer(this)](const Error& error) {
+        if (!store) return;
+        store->tell(QStringLiteral("The brand page couldn't be exported"), error.message);
+      });
 }
 
 }  // namespace tarnloft

@@ -30,13 +30,11 @@ void LibraryStore::loadSelection() {
 void LibraryStore::load(const QString& packageURL) {
   if (loading_.contains(packageURL)) return;
   loading_.insert(packageURL);
-  services_.document.disk.ask(
-      [services = documentServices_, packageURL] {
-        return PackageWriter::open(services, packageURL);
-      },
-      [store = QPointer(this), packageURL](Result<OpenedPackage>&& package) {
-        if (store) store->loaded(packageURL, std::move(package));
-      });
+  onDisk([services = documentServices_,
+          packageURL] { return PackageWriter::open(services, packageURL); },
+         [this, packageURL](Result<OpenedPackage>&& package) {
+           loaded(packageURL, std::move(package));
+         });
 }
 
 void LibraryStore::loaded(const QString& packageURL, Result<OpenedPackage>&& package) {
@@ -63,15 +61,13 @@ std::unique_ptr<BrandDocument> LibraryStore::makeDocument(OpenedPackage&& packag
           [this, document] { packageMoved(*document); });
   connect(document, &BrandDocument::saveProblemChanged, this, &LibraryStore::unsavedChanged);
   connect(document, &BrandDocument::packageRemade, this, [this, document] {
-    emit noticed(QStringLiteral("“%1” had gone from the library").arg(document->brand().name),
-                 QStringLiteral("What you changed is saved, in a new package. The files of its "
-                                "tiles went with the old one, and are missing."));
+    tell(QStringLiteral("“%1” had gone from the library").arg(document->brand().name),
+         QStringLiteral("What you changed is saved, in a new package. The files of its "
+                        "tiles went with the old one, and are missing."));
     scan();
   });
-  const auto twin = twins_.constFind(document->packageURL());
-  if (twin != twins_.cend() && document->brand().id == twin->sharedID) {
-    document->adoptID(twin->ownID);
-  }
+  connect(document, &BrandDocument::saveEnded, this, [this, document] { refreshRow(*document); });
+  adoptOwnID(*document);
   document->sweep();
   return made;
 }
@@ -178,8 +174,15 @@ void LibraryStore::whenLoaded(const QString& packageURL, std::function<void()> t
   afterLoading_ = std::move(then);
 }
 
-void LibraryStore::notice(const QString& title, const Error& error) {
-  emit noticed(title, error.message);
+void LibraryStore::tell(const QString& title, const QString& message) {
+  notices_ << Notice{title, message};
+  emit noticesChanged();
+}
+
+void LibraryStore::dismissNotice() {
+  if (notices_.isEmpty()) return;
+  notices_.removeFirst();
+  emit noticesChanged();
 }
 
 void LibraryStore::saveCopy() {
@@ -201,7 +204,7 @@ void LibraryStore::saveCopy() {
   services_.copies.ask(copy, [store = QPointer(this)](const Result<QString>& target) {
     if (!store) return;
     if (target) return store->services_.viewer.reveal(*target);
-    store->notice(QStringLiteral("The copy couldn't be saved"), target.error());
+    store->tell(QStringLiteral("The copy couldn't be saved"), target.error().message);
   });
 }
 

@@ -101,6 +101,12 @@ LibraryListing::Listing LibraryListing::read(const FileStore& files, const QStri
   return listing;
 }
 
+bool LibraryListing::holds(const BrandSummary& row, const QHash<QString, Twin>& twins,
+                           const QUuid& brand) {
+  const auto twin = twins.constFind(row.packageURL);
+  return row.brandID == brand || (twin != twins.cend() && twin->sharedID == brand);
+}
+
 void LibraryListing::renameLegacyPackages(FileStore& files, const QString& folder) {
   for (const QString& name : files.list(folder).value_or(QStringList())) {
     if (pathExtension(name) != legacyExtension) continue;

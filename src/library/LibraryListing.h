@@ -29,6 +29,9 @@ struct Listing {
 // keeps it; each other gets a new one, always the same, and is told in `twins`. Any thread.
 Listing read(const FileStore& files, const QString& folder);
 
+// True if the row's package is of the brand, be it a copy that shares its id.
+bool holds(const BrandSummary& row, const QHash<QString, Twin>& twins, const QUuid& brand);
+
 // Gives packages of the former extension the present one, unless that name is taken.
 void renameLegacyPackages(FileStore& files, const QString& folder);
 

@@ -35,8 +35,7 @@ LibraryStore::LibraryStore(const LibraryServices& services)
   connect(&unsaved_, &UnsavedDocuments::changed, this, &LibraryStore::unsavedChanged);
   patience_.setSingleShot(true);
   patience_.setInterval(1500ms);
-  connect(&patience_, &QTimer::timeout, this,
-          [this] { setLibraryProblem(quoted(libraryURL_) + QStringLiteral(" doesn't answer.")); });
+  connect(&patience_, &QTimer::timeout, this, [this] { setSilent(true); });
   lookAgain_.setSingleShot(true);
   lookAgain_.setInterval(3s);
   connect(&lookAgain_, &QTimer::timeout, this, &LibraryStore::scan);
@@ -57,14 +56,14 @@ void LibraryStore::setLibraryURL(const QString& path) {
   preferences_.setLibraryPath(path);
   brands_.clear();
   isOpening_ = true;
+  emit brandsChanged();
   emit libraryURLChanged();
   openLibrary();
 }
 
 // Reads the first brand too: it is what a start shows.
 void LibraryStore::openLibrary() {
-  patience_.start();
-  services_.document.disk.ask(
+  onDisk(
       [services = documentServices_, folder = libraryURL_, order = preferences_.brandOrder()] {
         FileStore& files = services.files;
         (void)files.makeFolder(folder);
@@ -77,9 +76,7 @@ void LibraryStore::openLibrary() {
         }
         return opened;
       },
-      [store = QPointer(this)](OpenedLibrary&& opened) {
-        if (store) store->libraryOpened(std::move(opened));
-      });
+      [this](OpenedLibrary&& opened) { libraryOpened(std::move(opened)); });
 }
 
 void LibraryStore::libraryOpened(OpenedLibrary&& opened) {
@@ -102,14 +99,12 @@ void LibraryStore::libraryOpened(OpenedLibrary&& opened) {
 
 void LibraryStore::scan() {
   lookAgain_.stop();
-  if (!patience_.isActive()) patience_.start();
   change(
       services_.document.disk, [] { return true; }, [](bool) {});
 }
 
 void LibraryStore::applyListing(const LibraryListing::Listing& listing) {
   if (listing.folder != libraryURL_) return;
-  patience_.stop();
   if (hasVanished(listing)) {
     setLibraryProblem(quoted(libraryURL_) + QStringLiteral(" isn't there just now."));
     return lookAgain_.start();
@@ -131,7 +126,7 @@ void LibraryStore::applyListing(const LibraryListing::Listing& listing) {
   }
   followDocuments(before);
   if (listing.identity) places_->see(libraryURL_, *listing.identity, brands_);
-  adoptOwnIDs();
+  for (BrandDocument* const document : documents()) adoptOwnID(*document);
   emit brandsChanged();
 }
 
@@ -140,6 +135,15 @@ bool LibraryStore::hasVanished(const LibraryListing::Listing& listing) const {
   if (brands_.isEmpty()) return false;
   if (!listing.listed) return true;
   return !places_->checkFolder() && listing.rows.isEmpty();
+}
+
+QString LibraryStore::libraryProblem() const {
+  return isSilent_ ? quoted(libraryURL_) + QStringLiteral(" doesn't answer.") : libraryProblem_;
+}
+
+void LibraryStore::setSilent(bool isSilent) {
+  patience_.stop();
+  if (std::exchange(isSilent_, isSilent) != isSilent) emit libraryProblemChanged();
 }
 
 void LibraryStore::setLibraryProblem(const QString& problem) {
@@ -154,19 +158,30 @@ void LibraryStore::followDocuments(const QList<BrandSummary>& before) {
   for (BrandDocument* const document : documents()) {
     if (isListed(brands_, document->packageURL())) continue;
     for (const BrandSummary& row : std::as_const(brands_)) {
-      if (row.brandID != document->brand().id || isListed(before, row.packageURL)) continue;
+      if (isListed(before, row.packageURL)) continue;
+      if (!LibraryListing::holds(row, twins_, document->brand().id)) continue;
       document->follow(row.packageURL);
       break;
     }
   }
 }
 
-void LibraryStore::adoptOwnIDs() {
-  for (BrandDocument* const document : documents()) {
-    const auto twin = twins_.constFind(document->packageURL());
-    if (twin != twins_.cend() && document->brand().id == twin->sharedID) {
-      document->adoptID(twin->ownID);
-    }
+// As a scan would find it.
+void LibraryStore::refreshRow(const BrandDocument& document) {
+  const auto row = std::ranges::find(brands_, document.packageURL(), &BrandSummary::packageURL);
+  if (row == brands_.end() || document.hasUnsavedChanges()) return;
+  const Brand& brand = document.brand();
+  const BrandSummary now{row->packageURL, brand.name,          brand.emblem,
+                         brand.accentHex, brand.accentHexDark, row->brandID};
+  if (*row == now) return;
+  *row = now;
+  emit brandsChanged();
+}
+
+void LibraryStore::adoptOwnID(BrandDocument& document) const {
+  const auto twin = twins_.constFind(document.packageURL());
+  if (twin != twins_.cend() && document.brand().id == twin->sharedID) {
+    document.adoptID(twin->ownID);
   }
 }
 

@@ -42,7 +42,7 @@ class LibraryStore : public QObject {
   bool isOpening() const { return isOpening_; }
   // Why `brands` may not be what is in the folder: it can't be read, isn't there or doesn't answer.
   // Empty if it is. Looked for again by itself.
-  const QString& libraryProblem() const { return libraryProblem_; }
+  QString libraryProblem() const;
   // Reads the folder again. Leaves the selection and the open document alone.
   void scan();
   // Puts the row in front of another, or at the end.
@@ -72,6 +72,16 @@ class LibraryStore : public QObject {
   QString saveProblem(const QString& packageURL) const;
   // Asks for a folder and puts a copy of the open brand there, as it is in memory.
   void saveCopy();
+
+  // --- What failed of what the user asked for, the oldest first, until it is dismissed
+
+  struct Notice {
+    QString title;
+    QString message;
+  };
+  const QList<Notice>& notices() const { return notices_; }
+  void tell(const QString& title, const QString& message);
+  void dismissNotice();
 
   // Appends items to a section of the brand whose package stood there when their making began,
   // wherever it stands by now and whether or not it is open. A brand that is gone loses them.
@@ -146,8 +156,7 @@ class LibraryStore : public QObject {
   void isLoadingChanged();
   // A document's `saveProblem`, or which there are.
   void unsavedChanged();
-  // Something that the user asked for has failed.
-  void noticed(const QString& title, const QString& message);
+  void noticesChanged();
   void trashRefused(const BrandSummary& brand, const QString& reason);
   void newBrandRequestedChanged();
   void scrollToSectionChanged();
@@ -169,8 +178,13 @@ class LibraryStore : public QObject {
   void applyListing(const LibraryListing::Listing& listing);
   bool hasVanished(const LibraryListing::Listing& listing) const;
   void setLibraryProblem(const QString& problem);
+  void setSilent(bool isSilent);
+  void refreshRow(const BrandDocument& document);
   void followDocuments(const QList<BrandSummary>& before);
-  void adoptOwnIDs();
+  void adoptOwnID(BrandDocument& document) const;
+  // Does work on the disk, and tells if that takes long.
+  template <class Work, class Done>
+  void onDisk(Work work, Done done);
   // Does work on the disk and reads the folder behind it; `done` gets the work's result, with
   // `brands` as they are by then.
   template <class Work, class Done>
@@ -192,7 +206,6 @@ class LibraryStore : public QObject {
   void whenSaved(const QString& packageURL, std::function<void(const Result<void>&)> then);
   void whenLoaded(const QString& packageURL, std::function<void()> then);
   void renameOpenBrand(const QString& name);
-  void notice(const QString& title, const Error& error);
 
   void deleteBy(const BrandSummary& brand, std::function<Result<void>()> removal,
                 std::function<void(const Error&)> refused);
@@ -210,12 +223,15 @@ class LibraryStore : public QObject {
   QHash<QString, LibraryListing::Twin> twins_;
   bool isOpening_ = true;
   QString libraryProblem_;
-  QTimer patience_;  // with a folder that is being read
+  int underWay_ = 0;       // pieces of work on the disk
+  QTimer patience_;        // with them
+  bool isSilent_ = false;  // it ran out
   QTimer lookAgain_;
   std::optional<QString> selection_;
   std::unique_ptr<BrandDocument> openDocument_;
   UnsavedDocuments unsaved_;
-  QSet<QString> loading_;               // packages
+  QSet<QString> loading_;  // packages
+  QList<Notice> notices_;
   QList<Landing> landings_;             // for packages that are being loaded
   std::function<void()> afterLoading_;  // of the selected package
   bool newBrandRequested_ = false;
@@ -227,16 +243,28 @@ class LibraryStore : public QObject {
 
 template <class Work, class Done>
 void LibraryStore::change(DiskWork& disk, Work work, Done done) {
-  disk.ask(
-      [work = std::move(work), &files = services_.document.files, folder = libraryURL_] {
-        auto result = work();
-        return std::pair(std::move(result), LibraryListing::read(files, folder));
-      },
-      [store = QPointer(this), done = std::move(done)](auto&& answer) {
-        if (!store) return;
-        store->applyListing(answer.second);
-        done(std::move(answer.first));
-      });
+  auto both = [work = std::move(work), &files = services_.document.files, folder = libraryURL_] {
+    auto result = work();
+    return std::pair(std::move(result), LibraryListing::read(files, folder));
+  };
+  auto end = [store = QPointer(this), done = std::move(done)](auto&& answer) {
+    if (!store) return;
+    store->applyListing(answer.second);
+    done(std::move(answer.first));
+  };
+  const bool mayTakeLong = &disk != &services_.document.disk;
+  mayTakeLong ? disk.ask(std::move(both), std::move(end)) : onDisk(std::move(both), std::move(end));
+}
+
+template <class Work, class Done>
+void LibraryStore::onDisk(Work work, Done done) {
+  if (underWay_++ == 0) patience_.start();
+  services_.document.disk.ask(std::move(work),
+                              [store = QPointer(this), done = std::move(done)](auto&& answer) {
+                                if (!store) return;
+                                if (--store->underWay_ == 0) store->setSilent(false);
+                                done(std::forward<decltype(answer)>(answer));
+                              });
 }
 
 }  // namespace tarnloft

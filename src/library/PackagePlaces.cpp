@@ -35,9 +35,11 @@ Result<QString> PackagePlaces::placeOf(const QUuid& brand, const QString& lost) 
   const Seen seen = this->seen();
   if (Package::folderOf(lost) != seen.folder) return lost;
   if (auto there = check(seen); !there) return tl::unexpected(there.error());
-  for (const BrandSummary& row : LibraryListing::read(files_, seen.folder).rows) {
+  const LibraryListing::Listing listing = LibraryListing::read(files_, seen.folder);
+  for (const BrandSummary& row : listing.rows) {
     // One that was there before is another brand, be it a copy with the same id.
-    if (row.brandID == brand && !seen.packages.contains(row.packageURL)) return row.packageURL;
+    if (seen.packages.contains(row.packageURL)) continue;
+    if (LibraryListing::holds(row, listing.twins, brand)) return row.packageURL;
   }
   return lost;
 }

@@ -6,7 +6,6 @@
 #include "publish/BrandPageText.h"
 #include "publish/PageMarkup.h"
 
-#include <QPointer>
 #include <QSet>
 #include <QTextBoundaryFinder>
 
@@ -59,43 +58,42 @@ QList<FontValue> fontsWithFiles(const Brand& brand) {
 
 }  // namespace
 
-void BrandPageExporter::markHTML(const Brand& brand, const BrandDocument& document,
-                                 PageSink& sink) {
+void BrandPageExporter::markHTML(const Brand& brand, const PageSource& source, PageSink& sink) {
   const AssetRef* picture = emblemPicture(brand);
-  if (picture && writeDataURLBehind("<img alt=\"\" src=\"", *picture, document, sink)) {
+  if (picture && writeDataURLBehind("<img alt=\"\" src=\"", *picture, source, sink)) {
     sink << "\">";
   } else {
     sink << escaped(initialOf(brand.name));
   }
 }
 
-void BrandPageExporter::fontFaceBlock(const Brand& brand, const BrandDocument& document,
+void BrandPageExporter::fontFaceBlock(const Brand& brand, const PageSource& source,
                                       PageSink& sink) {
   QByteArray separator;
   for (const FontValue& font : fontsWithFiles(brand)) {
     const QByteArray head =
         separator + "@font-face { font-family: " + cssFamily(font.family).toUtf8() + "; src: url(";
-    if (!writeDataURLBehind(head, *font.asset, document, sink)) continue;
+    if (!writeDataURLBehind(head, *font.asset, source, sink)) continue;
     sink << "); font-display: swap; }";
     separator = "\n";
   }
 }
 
-void BrandPageExporter::writePage(const BrandDocument& document, PageSink& sink) {
-  const Brand& brand = document.brand();
+void BrandPageExporter::writePage(const PageSource& source, PageSink& sink) {
+  const Brand& brand = source.brand;
   sink << BrandPageText::head << escaped(brand.name) << " — Brand</title>\n<style>\n"
        << ":root { --accent: " << brand.accentHex.value_or(QStringLiteral("#111111")).toUtf8()
        << BrandPageText::styleSheet;
-  fontFaceBlock(brand, document, sink);
+  fontFaceBlock(brand, source, sink);
   sink << BrandPageText::bodyStart;
-  markHTML(brand, document, sink);
+  markHTML(brand, source, sink);
   sink << "</div>\n    <div>\n      <h1>" << escaped(brand.name) << "</h1>\n"
        << "      <p class=\"tagline\">Brand reference · " << sectionCount(brand) << "</p>\n"
        << "    </div>\n  </header>\n";
   QByteArrayView separator;
   for (const Section& section : brand.sections) {
     sink << separator;
-    sectionHTML(section, document, sink);
+    sectionHTML(section, source, sink);
     separator = "\n";
   }
   sink << "\n  <footer>Made with <a href=\"" << homePage
@@ -114,15 +112,15 @@ bool BrandPageExporter::canPublish(const Brand& brand) {
   return true;
 }
 
-QString BrandPageExporter::html(const BrandDocument& document) {
+QString BrandPageExporter::html(const PageSource& source) {
   MemorySink sink;
-  writePage(document, sink);
+  writePage(source, sink);
   return QString::fromUtf8(sink.bytes());
 }
 
-Result<void> BrandPageExporter::writeFile(const BrandDocument& document, FileStore& files,
+Result<void> BrandPageExporter::writeFile(const PageSource& source, FileStore& files,
                                           const QString& path) {
-  if (!canPublish(document.brand())) {
+  if (!canPublish(source.brand)) {
     return failure(ErrorKind::unwritable,
                    QStringLiteral("A gradient has numbers without CSS form"));
   }
@@ -131,7 +129,7 @@ Result<void> BrandPageExporter::writeFile(const BrandDocument& document, FileSto
   // Not synced: a page can be made again, and may weigh gigabytes.
   return writeAtomically(files, *target, Durability::atomic, [&](FileWriter& file) {
     FileSink sink(file);
-    writePage(document, sink);
+    writePage(source, sink);
     return sink.finish();
   });
 }
@@ -140,15 +138,17 @@ QString BrandPageExporter::suggestedFileName(const QString& brandName) {
   return Package::fileNameFor(brandName) + QStringLiteral(" Brand Page.html");
 }
 
-Result<void> BrandPageExporter::exportPage(const BrandDocument& document, FileStore& files,
-                                           FileDialogs& dialogs, FileViewer& viewer) {
-  const QPointer<const BrandDocument> open(&document);
+void BrandPageExporter::exportPage(const PageSource& source, FileStore& files, FileDialogs& dialogs,
+                                   FileViewer& viewer, DiskWork& disk,
+                                   std::function<void(const Error&)> failed) {
   const auto path =
-      dialogs.savePath(suggestedFileName(document.brand().name), QStringLiteral("text/html"));
-  if (!path || !open) return {};
-  auto written = writeFile(document, files, *path);
-  viewer.reveal(*path);
-  return written;
+      dialogs.savePath(suggestedFileName(source.brand.name), QStringLiteral("text/html"));
+  if (!path) return;
+  disk.ask([source, &files, path = *path] { return writeFile(source, files, path); },
+           [&viewer, path = *path, failed = std::move(failed)](const Result<void>& written) {
+             viewer.reveal(path);
+             if (!written) failed(written.error());
+           });
 }
 
 }  // namespace tarnloft

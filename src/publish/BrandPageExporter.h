@@ -1,14 +1,14 @@
 #pragma once
 
-#include "document/BrandDocument.h"
 #include "platform/FileDialogs.h"
 #include "platform/FileViewer.h"
 #include "publish/PageSink.h"
+#include "publish/PageSource.h"
 
 namespace tarnloft {
 
 // Turns a brand into one HTML page that needs nothing else: styles, script, pictures, videos and
-// fonts travel inside it. Reads the document and its assets, writes nothing back. An asset that
+// fonts travel inside it. Any thread. Writes nothing back. An asset that
 // can't be read degrades its fragment and is never an error.
 namespace BrandPageExporter {
 
@@ -17,27 +17,27 @@ namespace BrandPageExporter {
 bool canPublish(const Brand& brand);
 
 // The whole page, held in memory.
-QString html(const BrandDocument& document);
+QString html(const PageSource& source);
 
 // The whole page, piece by piece: memory stays flat whatever the assets weigh.
-void writePage(const BrandDocument& document, PageSink& sink);
+void writePage(const PageSource& source, PageSink& sink);
 
 // Writes the page to a file atomically, if it can be published. A link at `path` is followed.
-Result<void> writeFile(const BrandDocument& document, FileStore& files, const QString& path);
+Result<void> writeFile(const PageSource& source, FileStore& files, const QString& path);
 
 // "Acme Brand Page.html": the brand's name made fit for a file's.
 QString suggestedFileName(const QString& brandName);
 
-// Asks where to, writes the page there and reveals it, also if writing failed. Nothing happens if
-// nothing is chosen, or if the document has gone meanwhile.
-Result<void> exportPage(const BrandDocument& document, FileStore& files, FileDialogs& dialogs,
-                        FileViewer& viewer);
+// Asks where to, writes the page there by `disk` and reveals it, also if writing failed, of which
+// `failed` is told.
+void exportPage(const PageSource& source, FileStore& files, FileDialogs& dialogs,
+                FileViewer& viewer, DiskWork& disk, std::function<void(const Error&)> failed);
 
 // The `@font-face` rules: one for each family, of its first font item that has a file.
-void fontFaceBlock(const Brand& brand, const BrandDocument& document, PageSink& sink);
+void fontFaceBlock(const Brand& brand, const PageSource& source, PageSink& sink);
 
 // The inside of the header's mark box: the brand's picture, else its initial.
-void markHTML(const Brand& brand, const BrandDocument& document, PageSink& sink);
+void markHTML(const Brand& brand, const PageSource& source, PageSink& sink);
 
 }  // namespace BrandPageExporter
 }  // namespace tarnloft

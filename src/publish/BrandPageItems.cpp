@@ -27,13 +27,12 @@ QByteArrayView frameBackground(std::optional<ImageBackground> background) {
 }
 
 void mediaHTML(Media media, const AssetRef& asset, const std::optional<QString>& name,
-               const QList<UsageNote>& notes, const BrandDocument& document, PageSink& sink) {
+               const QList<UsageNote>& notes, const PageSource& source, PageSink& sink) {
   const QByteArray label = escaped(name.value_or(asset.originalName));
   const bool image = media == Media::image;
   const QByteArray element = image ? "<img alt=\"" + label + "\" src=\"" : "<video controls src=\"";
-  const auto url =
-      writeDataURLBehind("      <div class=\"asset\">\n        <div class=\"frame\">" + element,
-                         asset, document, sink);
+  const auto url = writeDataURLBehind(
+      "      <div class=\"asset\">\n        <div class=\"frame\">" + element, asset, source, sink);
   if (!url) {
     sink << "      <div class=\"asset\"><div class=\"frame\">" << label << "</div></div>";
     return;
@@ -45,13 +44,13 @@ void mediaHTML(Media media, const AssetRef& asset, const std::optional<QString>&
        << "      </div>";
 }
 
-void variantHTML(const LogoVariant& variant, const BrandDocument& document, PageSink& sink) {
+void variantHTML(const LogoVariant& variant, const PageSource& source, PageSink& sink) {
   const QByteArray name = escaped(variant.asset.originalName);
   sink << "      <div class=\"logo-variant\">\n"
        << "        <div class=\"logo-frame\" style=\"" << frameBackground(variant.background)
        << "\">";
   const auto url =
-      writeDataURLBehind("<img alt=\"" + name + "\" src=\"", variant.asset, document, sink);
+      writeDataURLBehind("<img alt=\"" + name + "\" src=\"", variant.asset, source, sink);
   sink << (url ? QByteArray("\">") : name) << "</div>\n"
        << "        <div class=\"logo-meta\"><span class=\"role\">" << escaped(label(variant.role))
        << "</span>";
@@ -88,20 +87,20 @@ QByteArray spotBlock(const std::optional<QString>& spot) {
 
 }  // namespace
 
-void sectionHTML(const Section& section, const BrandDocument& document, PageSink& sink) {
+void sectionHTML(const Section& section, const PageSource& source, PageSink& sink) {
   const QString label = section.name.isEmpty() ? QStringLiteral("Untitled Section") : section.name;
   sink << "  <section class=\"band\">\n    <h2>" << escaped(label) << "</h2>\n"
        << "    <div class=\"grid\">\n";
   QByteArrayView separator;
   for (const Item& item : section.items) {
     sink << separator;
-    itemHTML(item, document, sink);
+    itemHTML(item, source, sink);
     separator = "\n";
   }
   sink << "\n    </div>\n  </section>";
 }
 
-void itemHTML(const Item& item, const BrandDocument& document, PageSink& sink) {
+void itemHTML(const Item& item, const PageSource& source, PageSink& sink) {
   const QList<UsageNote> notes = item.usageNotes();
   std::visit(Overloaded{
                  [&](const HeaderPayload& header) {
@@ -113,17 +112,17 @@ void itemHTML(const Item& item, const BrandDocument& document, PageSink& sink) {
                  [&](const ColorPayload& color) { colorHTML(color.value, notes, sink); },
                  [&](const GradientPayload& gradient) { gradientHTML(gradient.value, sink); },
                  [&](const ImagePayload& image) {
-                   mediaHTML(Media::image, image.asset, image.name, notes, document, sink);
+                   mediaHTML(Media::image, image.asset, image.name, notes, source, sink);
                  },
                  [&](const VideoPayload& video) {
-                   mediaHTML(Media::video, video.asset, video.name, notes, document, sink);
+                   mediaHTML(Media::video, video.asset, video.name, notes, source, sink);
                  },
-                 [&](const FontPayload& font) { fontHTML(font.value, document, sink); },
+                 [&](const FontPayload& font) { fontHTML(font.value, source, sink); },
                  [&](const CodePayload& code) {
                    sink << "      <div class=\"full\"><pre class=\"code\">"
                         << escaped(code.value.snippet) << "</pre></div>";
                  },
-                 [&](const LogoPayload& logo) { logoHTML(logo.value, document, notes, sink); },
+                 [&](const LogoPayload& logo) { logoHTML(logo.value, source, notes, sink); },
              },
              item.payload);
 }
@@ -156,7 +155,7 @@ void gradientHTML(const GradientValue& gradient, PageSink& sink) {
        << "      </div>";
 }
 
-void fontHTML(const FontValue& font, const BrandDocument& document, PageSink& sink) {
+void fontHTML(const FontValue& font, const PageSource& source, PageSink& sink) {
   QString sample = font.sampleText.value_or(QString());
   if (sample.isEmpty()) sample = QStringLiteral("The quick brown fox jumps");
   // The family's quotes end the attribute early. Pages have always stood so.
@@ -165,13 +164,13 @@ void fontHTML(const FontValue& font, const BrandDocument& document, PageSink& si
        << ", system-ui;\">" << escaped(sample) << "</div>\n"
        << "        <div class=\"label\">" << escaped(font.family);
   if (font.weight) sink << " · " << escaped(*font.weight);
-  if (font.asset && writeDataURLBehind(" · <a href=\"", *font.asset, document, sink)) {
+  if (font.asset && writeDataURLBehind(" · <a href=\"", *font.asset, source, sink)) {
     sink << "\" download=\"" << escaped(font.asset->originalName) << "\">Download font</a>";
   }
   sink << "</div>\n      </div>";
 }
 
-void logoHTML(const LogoValue& logo, const BrandDocument& document, const QList<UsageNote>& notes,
+void logoHTML(const LogoValue& logo, const PageSource& source, const QList<UsageNote>& notes,
               PageSink& sink) {
   sink << "      <div class=\"full logo-set\">\n"
        << "        <div class=\"logo-title\">" << escaped(logo.name) << "</div>\n"
@@ -179,7 +178,7 @@ void logoHTML(const LogoValue& logo, const BrandDocument& document, const QList<
   QByteArrayView separator;
   for (const LogoVariant& variant : logo.variants) {
     sink << separator;
-    variantHTML(variant, document, sink);
+    variantHTML(variant, source, sink);
     separator = "\n";
   }
   sink << "\n        </div>\n        " << notesHTML(notes) << "\n      </div>";

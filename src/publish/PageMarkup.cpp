@@ -78,9 +78,9 @@ QString cssFamily(const QString& family) {
   return QLatin1Char('"') + bare + QLatin1Char('"');
 }
 
-std::optional<WrittenURL> writeDataURL(const AssetRef& asset, const BrandDocument& document,
+std::optional<WrittenURL> writeDataURL(const AssetRef& asset, const PageSource& source,
                                        PageSink& sink) {
-  const auto file = document.openAsset(asset);
+  const auto file = source.package.openAsset(asset);
   if (!file) return std::nullopt;
   const qint64 start = sink.position();
   sink << "data:" << mimeType(pathExtension(asset.filename).toLower()) << ";base64,";
@@ -89,10 +89,10 @@ std::optional<WrittenURL> writeDataURL(const AssetRef& asset, const BrandDocumen
 }
 
 std::optional<WrittenURL> writeDataURLBehind(const QByteArray& head, const AssetRef& asset,
-                                             const BrandDocument& document, PageSink& sink) {
+                                             const PageSource& source, PageSink& sink) {
   const qint64 start = sink.position();
   sink << head;
-  const auto url = writeDataURL(asset, document, sink);
+  const auto url = writeDataURL(asset, source, sink);
   if (!url) sink.rewind(start);
   return url;
 }

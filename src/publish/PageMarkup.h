@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/BrandDocument.h"
 #include "publish/PageSink.h"
+#include "publish/PageSource.h"
 
 #include <functional>
 
@@ -25,7 +25,7 @@ struct WrittenURL {
 
 // Writes the asset's bytes as a data URL. None if they can't be read; what was written by then is
 // the caller's to take back.
-std::optional<WrittenURL> writeDataURL(const AssetRef& asset, const BrandDocument& document,
+std::optional<WrittenURL> writeDataURL(const AssetRef& asset, const PageSource& source,
                                        PageSink& sink);
 
 // Writes that URL once more.
@@ -36,6 +36,6 @@ inline PageSink& operator<<(PageSink& sink, const WrittenURL& url) {
 
 // Writes `head` and then the asset's data URL, or neither.
 std::optional<WrittenURL> writeDataURLBehind(const QByteArray& head, const AssetRef& asset,
-                                             const BrandDocument& document, PageSink& sink);
+                                             const PageSource& source, PageSink& sink);
 
 }  // namespace tarnloft

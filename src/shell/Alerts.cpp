@@ -17,10 +17,7 @@ Alerts::Alerts(LibraryStore& library, QObject* parent) : QObject(parent), librar
   connect(store, &LibraryStore::unsavedChanged, this, &Alerts::renewQuitQuestion);
   connect(store, &LibraryStore::openDocumentChanged, this, &Alerts::saveProblemChanged);
   connect(store, &LibraryStore::libraryProblemChanged, this, &Alerts::libraryProblemChanged);
-  connect(store, &LibraryStore::noticed, this, [this](const QString& title, const QString& text) {
-    notices_ << Notice{title, text};
-    emit noticeChanged();
-  });
+  connect(store, &LibraryStore::noticesChanged, this, &Alerts::noticeChanged);
   connect(store, &LibraryStore::trashRefused, this,
           [this](const BrandSummary& brand, const QString& reason) {
             refused_ = brand;
@@ -37,17 +34,13 @@ QString Alerts::saveProblem() const {
 QString Alerts::libraryProblem() const { return sentence(library_.libraryProblem()); }
 
 QString Alerts::noticeTitle() const {
-  return notices_.isEmpty() ? QString() : notices_.first().title;
+  const auto& notices = library_.notices();
+  return notices.isEmpty() ? QString() : notices.first().title;
 }
 
 QString Alerts::noticeMessage() const {
-  return notices_.isEmpty() ? QString() : sentence(notices_.first().message);
-}
-
-void Alerts::dismissNotice() {
-  if (notices_.isEmpty()) return;
-  notices_.removeFirst();
-  emit noticeChanged();
+  const auto& notices = library_.notices();
+  return notices.isEmpty() ? QString() : sentence(notices.first().message);
 }
 
 void Alerts::ask(TrashQuestion question) {

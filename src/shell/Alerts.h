@@ -47,7 +47,7 @@ class Alerts : public QObject {
 
   QString noticeTitle() const;
   QString noticeMessage() const;
-  Q_INVOKABLE void dismissNotice();
+  Q_INVOKABLE void dismissNotice() { library_.dismissNotice(); }
 
   TrashQuestion trashQuestion() const { return trashQuestion_; }
   QString trashTitle() const;
@@ -72,16 +72,11 @@ class Alerts : public QObject {
   void quitConfirmed();
 
  private:
-  struct Notice {
-    QString title;
-    QString message;
-  };
-
   void ask(TrashQuestion question);
   void renewQuitQuestion();
 
   LibraryStore& library_;
-  QList<Notice> notices_;
+
   TrashQuestion trashQuestion_ = TrashQuestion::none;
   BrandSummary refused_;
   QString refusal_;

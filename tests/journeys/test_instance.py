@@ -55,7 +55,7 @@ class OneInstance(Journey):
     def start_behind(self):
         """A start that tells that the first one doesn't answer."""
         second = self.beside(Program(self.home, hears_alerts=False))
-        second.find("dialog", "Tarn Loft runs already, but doesn’t answer.")
+        second.find("dialog", "Tarn Loft runs already, but doesn't answer.")
         self.assertEqual(second.focus, "Cancel")
         return second
 

@@ -105,7 +105,7 @@ void TestSafety::changesAreOnDiskBeforeTheirDocumentGoes() {
 void TestSafety::workThatCannotBeSavedIsKept() {
   Safe safe;
   const QString acme = safe.library.packagePath("Acme");
-  QSignalSpy notices(safe.library.store.get(), &LibraryStore::noticed);
+  const auto& notices = safe.store().notices();
   safe.accent("#123456");
   safe.disk.isFull = true;
   safe.store().renameSelectedBrand("Renamed");
@@ -153,7 +153,7 @@ void TestSafety::aPackageThatIsNowhereIsMadeAgainAndTold() {
   // A copy that was there before is another brand.
   QVERIFY(safe.disk.copyFolder(acme, safe.library.packagePath("Acme (copy)")));
   safe.store().scan();
-  QSignalSpy notices(safe.library.store.get(), &LibraryStore::noticed);
+  const auto& notices = safe.store().notices();
   safe.store().select(acme);
   QVERIFY(QDir(acme).removeRecursively());
   safe.accent("#123456");

@@ -156,7 +156,10 @@ void TestPage::exportsThroughTheDialog() {
   ScriptedDialogs dialogs;
   ListedViewer viewer;
   const auto exportPage = [&] {
-    return BrandPageExporter::exportPage(*page.document, page.store, dialogs, viewer).has_value();
+    bool hasFailed = false;
+    BrandPageExporter::exportPage(*page.document, page.store, dialogs, viewer, immediateDisk(),
+                                  [&](const Error&) { hasFailed = true; });
+    return !hasFailed;
   };
   QVERIFY(exportPage());
   QCOMPARE(dialogs.suggested, str("Acme Brand Page.html"));

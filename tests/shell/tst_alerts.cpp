@@ -60,9 +60,10 @@ struct Alarmed : Views {
         QAccessible::queryAccessibleInterface(window().activeFocusItem());
     return known ? known->text(QAccessible::Name) : QString();
   }
-  QString rowDescription() const {
-    return QAccessible::queryAccessibleInterface(item(QAccessible::ListItem, "Acme"))
-        ->text(QAccessible::Description);
+  QString rowDescription(const QString& brand) const {
+    QQuickItem* const row = item(QAccessible::ListItem, brand);
+    QAccessibleInterface* const known = QAccessible::queryAccessibleInterface(row);
+    return known ? known->text(QAccessible::Description) : QStringLiteral("no row");
   }
   bool shows(const QString& text) const { return item(QAccessible::StaticText, text); }
   // Gives an answer to the dialog of that title.
@@ -108,11 +109,11 @@ void TestAlerts::initTestCase() {
 void TestAlerts::aBarTellsOfUnsavedChanges() {
   Alarmed views;
   views.start();
-  QCOMPARE(views.rowDescription(), QString());
+  QCOMPARE(views.rowDescription("Acme"), QString());
   views.failToSave();
   const QString text = "Changes aren't saved: " + views.reason;
   QTRY_VERIFY(views.item(alert, text));
-  QTRY_COMPARE(views.rowDescription(), QStringLiteral("Changes aren't saved"));
+  QTRY_COMPARE(views.rowDescription("Acme"), QStringLiteral("Changes aren't saved"));
 
   // Its buttons come before the page's.
   views.item(button, "New Brand")->forceActiveFocus(Qt::TabFocusReason);
@@ -130,7 +131,7 @@ void TestAlerts::aBarTellsOfUnsavedChanges() {
   QTRY_VERIFY(!views.item(alert, text));
   QTRY_VERIFY(!views.item(button, "Try Again"));
   QCOMPARE(views.focused(), QStringLiteral("Section name"));
-  QTRY_COMPARE(views.rowDescription(), QString());
+  QTRY_COMPARE(views.rowDescription("Birch"), QString());
   QVERIFY(contentOf(views.manifest).contains("Birch"));
 }
 
@@ -186,8 +187,8 @@ void TestAlerts::aSlowDiskIsNoEmptyLibrary() {
 void TestAlerts::noticesFollowEachOther() {
   Alarmed views;
   views.start();
-  emit views.library.store->noticed("One", "the reason");
-  emit views.library.store->noticed("Two", "The reason.");
+  views.library.store->tell("One", "the reason");
+  views.library.store->tell("Two", "The reason.");
   QTRY_VERIFY(views.shows("the reason."));
   views.answer("One", "Return");
   QTRY_VERIFY(views.shows("The reason."));

@@ -42,7 +42,7 @@ WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
   const auto tellFailed = [&library](const QStringList& names, const QString& reason) {
     const QString what = names.size() == 1 ? QStringLiteral("“%1”").arg(names.first())
                                            : QStringLiteral("%1 files").arg(names.size());
-    emit library.noticed(what + QStringLiteral(" couldn't be added"), reason);
+    library.tell(what + QStringLiteral(" couldn't be added"), reason);
   };
   const auto tiff = [this](const QString& path, qint64 maxBytes) {
     return media.tiff(path, maxBytes);

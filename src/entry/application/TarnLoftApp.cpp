@@ -45,7 +45,9 @@ TarnLoftApp::TarnLoftApp()
   connect(&engine_, &QQmlEngine::quit, this, &TarnLoftApp::requestQuit);
   connect(&terminationSignals_, &TerminationSignals::requested, this, &TarnLoftApp::quitByForce);
   connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &TarnLoftApp::saveAll);
-  connect(qGuiApp, &QGuiApplication::aboutToQuit, this, &TarnLoftApp::saveAll);
+  connect(qGuiApp, &QGuiApplication::aboutToQuit, this, [this] {
+    if (!isQuitting_) saveAll();
+  });
   connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &TarnLoftApp::followFocus);
   mainWindow_.setMayClose([this] { return mayCloseWindow(); });
   running = this;
@@ -104,9 +106,12 @@ void TarnLoftApp::quitByForce() {
 
 // Without its window the program goes on where there is a tray, and tries on to save.
 bool TarnLoftApp::mayCloseWindow() {
-  const bool isSaved = saveAll();
-  if (isQuitting_ || isSaved) return true;
-  if (!appDelegate_.applicationShouldTerminateAfterLastWindowClosed()) return true;
+  if (isQuitting_) return true;
+  if (!appDelegate_.applicationShouldTerminateAfterLastWindowClosed()) {
+    (void)library_.flush(0s);
+    return true;
+  }
+  if (saveAll()) return true;
   askToQuit();
   return false;
 }

@@ -23,8 +23,8 @@ AppearanceOverride chosenAppearance() {
 }
 
 const QVariantMap texts{
-    {QStringLiteral("title"), QStringLiteral("Tarn Loft doesn’t answer")},
-    {QStringLiteral("heading"), QStringLiteral("Tarn Loft runs already, but doesn’t answer.")},
+    {QStringLiteral("title"), QStringLiteral("Tarn Loft doesn't answer")},
+    {QStringLiteral("heading"), QStringLiteral("Tarn Loft runs already, but doesn't answer.")},
     {QStringLiteral("message"),
      QStringLiteral("It may be busy and answer in a moment. If you end it, changes of the last "
                     "moment may be lost.")},
@@ -72,9 +72,9 @@ void UnansweredStart::tellFailure() {
   window_->setProperty("busy", false);
   window_->setProperty("confirmText", QString());
   window_->setProperty("cancelText", QStringLiteral("OK"));
-  window_->setProperty("heading", QStringLiteral("Tarn Loft can’t be ended."));
+  window_->setProperty("heading", QStringLiteral("Tarn Loft can't be ended."));
   window_->setProperty("message",
-                       QStringLiteral("Perhaps a disk that it uses doesn’t answer. Try again "
+                       QStringLiteral("Perhaps a disk that it uses doesn't answer. Try again "
                                       "later, or log out and in."));
 }
 
