@@ -8,9 +8,9 @@ namespace tarnloft::TileDrag {
 namespace {
 
 // None for a name that leads out of the package, which counts as a file that can't be read.
-std::optional<QString> exported(FileStore& files, const BrandDocument& document,
+std::optional<QString> exported(FileStore& files, const PackageReader& package,
                                 const AssetRef& asset) {
-  const auto path = document.assetPath(asset);
+  const auto path = package.assetPath(asset);
   if (!path) return std::nullopt;
   return DragFileExport::tempURL(files, *path, asset.originalName);
 }
@@ -26,38 +26,38 @@ bool isPicture(const ContentTypes& types, const AssetRef& asset) {
 
 }  // namespace
 
-DragItem variantProvider(FileStore& files, const BrandDocument& document, const AssetRef& asset) {
-  const auto url = exported(files, document, asset);
+DragItem variantProvider(FileStore& files, const PackageReader& package, const AssetRef& asset) {
+  const auto url = exported(files, package, asset);
   const bool isThere = url && files.exists(*url) && !files.isFolder(*url);
   return fileItem(isThere ? url : std::nullopt, asset.originalName);
 }
 
-DragItem fileExportProvider(const DragServices& services, const BrandDocument& document,
+DragItem fileExportProvider(const DragServices& services, const PackageReader& package,
                             const AssetRef& asset) {
-  DragItem item = variantProvider(services.files, document, asset);
+  DragItem item = variantProvider(services.files, package, asset);
   if (item.file && isPicture(services.types, asset)) {
     // Of the package's own file: the copy may have made way for another of its name by then.
-    item.makeTiff = [tiff = services.tiff, path = *document.assetPath(asset)](qint64 maxBytes) {
+    item.makeTiff = [tiff = services.tiff, path = *package.assetPath(asset)](qint64 maxBytes) {
       return tiff(path, maxBytes);
     };
   }
   return item;
 }
 
-DragItem makeDragProvider(const DragServices& services, const BrandDocument& document,
+DragItem makeDragProvider(const DragServices& services, const PackageReader& package,
                           const Item& item) {
   const auto asset = item.exportableAsset();
   return ItemDrag::provider(item.id, ItemDrag::type,
-                            asset ? fileExportProvider(services, document, *asset) : DragItem());
+                            asset ? fileExportProvider(services, package, *asset) : DragItem());
 }
 
-QStringList exportURLs(FileStore& files, const BrandDocument& document, const Section& section,
+QStringList exportURLs(FileStore& files, const PackageReader& package, const Section& section,
                        const QSet<QUuid>& items) {
   QStringList urls;
   for (const Item& item : section.items) {
     const auto asset = items.contains(item.id) ? item.exportableAsset() : std::nullopt;
     if (!asset) continue;
-    if (const auto url = exported(files, document, *asset)) urls << *url;
+    if (const auto url = exported(files, package, *asset)) urls << *url;
   }
   return urls;
 }

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "document/BrandDocument.h"
+#include "document/PackageReader.h"
+#include "model/Item.h"
+#include "model/Section.h"
 #include "platform/ContentTypes.h"
 #include "platform/DragSession.h"
 
@@ -16,24 +18,24 @@ struct DragServices {
   std::function<std::optional<QByteArray>(const QString& path, qint64 maxBytes)> tiff;
 };
 
-// What is dragged from a brand's tiles. Main thread. Files are copied here, as the drag begins.
+// What is dragged from a brand's tiles. Any thread; files are copied here, which takes its time.
 namespace TileDrag {
 
 // A tile of a section: the item's file, if it has one, with the item's id beside it. A block row is
 // an item without a file.
-DragItem makeDragProvider(const DragServices& services, const BrandDocument& document,
+DragItem makeDragProvider(const DragServices& services, const PackageReader& package,
                           const Item& item);
 
 // The file part of that, with a TIFF form for a picture.
-DragItem fileExportProvider(const DragServices& services, const BrandDocument& document,
+DragItem fileExportProvider(const DragServices& services, const PackageReader& package,
                             const AssetRef& asset);
 
 // One file of a logo set: the file alone, so that a drop inside the program imports it.
-DragItem variantProvider(FileStore& files, const BrandDocument& document, const AssetRef& asset);
+DragItem variantProvider(FileStore& files, const PackageReader& package, const AssetRef& asset);
 
 // The files of those items of a section that have one, in the section's order. Files of the same
 // name are one file, the last one, listed twice.
-QStringList exportURLs(FileStore& files, const BrandDocument& document, const Section& section,
+QStringList exportURLs(FileStore& files, const PackageReader& package, const Section& section,
                        const QSet<QUuid>& items);
 
 // The drag of several files.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "assets/DragPreparation.h"
 #include "workspace/SectionListModel.h"
 #include "workspace/TileSelection.h"
 #include "workspace/ToastCenter.h"
@@ -107,6 +108,7 @@ class BrandWorkspace : public QObject {
   const WorkspaceServices services_;
   QString name_;
   QString searchText_;
+  DragPreparation dragPreparation_;
   bool isRefreshDue_ = false;
   std::unique_ptr<ColorSampler> colorSampler_;  // while a pick runs
   SectionListModel sections_;

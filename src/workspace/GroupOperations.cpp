@@ -99,7 +99,7 @@ bool GroupOperations::canGroupAsLogo() const {
 QStringList GroupOperations::selectedExportURLs(FileStore& files) const {
   const Section* section = selectedSection();
   if (!section) return {};
-  return TileDrag::exportURLs(files, document_, *section, selection_.ids());
+  return TileDrag::exportURLs(files, document_.files(), *section, selection_.ids());
 }
 
 void GroupOperations::selectAllInContext() {

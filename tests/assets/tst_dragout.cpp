@@ -2,6 +2,7 @@
 #include "assets/ItemDrag.h"
 #include "assets/TiffFlavour.h"
 #include "assets/TileDrag.h"
+#include "document/BrandDocument.h"
 #include "document/Package.h"
 #include "model/Uuid.h"
 #include "testing/FakeDrops.h"
@@ -64,7 +65,7 @@ struct Dragging {
             }};
   }
   DragItem drag(const Item& item) {
-    return TileDrag::makeDragProvider(services(), *document, item);
+    return TileDrag::makeDragProvider(services(), document->files(), item);
   }
 };
 
@@ -283,7 +284,7 @@ void TestDragOut::handsOutNothingFromOutsideThePackage() {
 
 void TestDragOut::aVariantIsAPlainFile() {
   Dragging dragging;
-  const DragItem drag = TileDrag::variantProvider(dragging.disk.files, *dragging.document,
+  const DragItem drag = TileDrag::variantProvider(dragging.disk.files, dragging.document->files(),
                                                   dragging.asset("v.png", "Mark.final.png"));
   QCOMPARE(drag.file, dragging.folder + "/Mark.final.png");
   QCOMPARE(drag.suggestedName, "Mark.final");
@@ -303,7 +304,7 @@ void TestDragOut::severalFilesComeInTheSectionsOrder() {
   QSet<QUuid> selected;
   for (qsizetype i = 5; i >= 0; --i) selected << section.items.at(i).id;
   const QStringList urls =
-      TileDrag::exportURLs(dragging.disk.files, *dragging.document, section, selected);
+      TileDrag::exportURLs(dragging.disk.files, dragging.document->files(), section, selected);
   const QString same = dragging.folder + "/Same.png";
   QCOMPARE(urls,
            QStringList({dragging.folder + "/One.png", same, same, dragging.assetPath("lost")}));

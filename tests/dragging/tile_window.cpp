@@ -57,7 +57,8 @@ class TileWindow : public QRasterWindow {
     QTimer seeing;
     connect(&seeing, &QTimer::timeout, this, &TileWindow::sayPicture);
     seeing.start(20);
-    session_.drag({TileDrag::makeDragProvider(services, document_, item)}, {picture, {8, 8}});
+    session_.drag({TileDrag::makeDragProvider(services, document_.files(), item)},
+                  {picture, {8, 8}});
     say("DRAGGED");
   }
   bool event(QEvent* event) override {

@@ -1,0 +1,20 @@
+#include "assets/DragPreparation.h"
+
+#include <memory>
+#include <utility>
+
+namespace tarnloft {
+
+std::optional<DragItem> DragPreparation::make(const Item& item, std::function<DragItem()> work,
+                                              std::chrono::milliseconds patience) {
+  if (!underWay_.valid() || item_ != item) {
+    const auto task = std::make_shared<std::packaged_task<DragItem()>>(std::move(work));
+    item_ = item;
+    underWay_ = task->get_future();
+    QThreadPool::globalInstance()->start([task] { (*task)(); });
+  }
+  if (underWay_.wait_for(patience) != std::future_status::ready) return std::nullopt;
+  return std::exchange(underWay_, {}).get();
+}
+
+}  // namespace tarnloft

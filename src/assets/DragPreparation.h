@@ -1,0 +1,27 @@
+#pragma once
+
+#include "model/Item.h"
+#include "platform/DragSession.h"
+
+#include <QThreadPool>
+
+#include <chrono>
+#include <future>
+
+namespace tarnloft {
+
+// Makes what is dragged ready away from the main thread, because a file is copied for it, and waits
+// for that only so long: the disk may be slow, or not answer. Main thread.
+class DragPreparation {
+ public:
+  // None if it takes longer. It goes on then, and the next call gets it if it is for the
+  // same item, unchanged.
+  std::optional<DragItem> make(const Item& item, std::function<DragItem()> work,
+                               std::chrono::milliseconds patience);
+
+ private:
+  Item item_;
+  std::shared_future<DragItem> underWay_;  // what was waited for in vain
+};
+
+}  // namespace tarnloft
