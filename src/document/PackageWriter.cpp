@@ -113,7 +113,9 @@ Result<void> PackageWriter::writeAt(Timestamp moment, Brand brand) {
 Result<void> PackageWriter::write(const Brand& brand) {
   const auto json = encode(brand).and_then(readable);
   if (!json) return tl::unexpected(json.error());
-  return findPackage(brand.id).and_then([&] { return keepPresent(); }).and_then([&] {
+  // By the id in its manifest: a copy with another's id gets its own with this save.
+  const QUuid id = known_.brand.id.isNull() ? brand.id : known_.brand.id;
+  return findPackage(id).and_then([&] { return keepPresent(); }).and_then([&] {
     return replaceManifest(*json, brand);
   });
 }

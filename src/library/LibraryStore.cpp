@@ -117,14 +117,14 @@ void LibraryStore::applyListing(const LibraryListing::Listing& listing) {
                       listing.listed.error().message);
     lookAgain_.start();
   }
-  const QList<BrandSummary> before = brands_;
+  const auto before = brands_;
+  const auto twinsBefore = std::exchange(twins_, listing.twins);
   const QList<QUuid>& order = preferences_.brandOrder();
   brands_ = LibraryListing::sorted(listing.rows, order);
-  twins_ = listing.twins;
   if (const QList<QUuid> missing = LibraryListing::missingIn(order, brands_); !missing.isEmpty()) {
     preferences_.setBrandOrder(order + missing);
   }
-  followDocuments(before);
+  followDocuments(before, twinsBefore);
   if (listing.identity) places_->see(libraryURL_, *listing.identity, brands_);
   for (BrandDocument* const document : documents()) adoptOwnID(*document);
   emit brandsChanged();
@@ -151,15 +151,21 @@ void LibraryStore::setLibraryProblem(const QString& problem) {
 }
 
 // Another machine may have renamed a package whose document is open.
-void LibraryStore::followDocuments(const QList<BrandSummary>& before) {
+void LibraryStore::followDocuments(const QList<BrandSummary>& before,
+                                   const QHash<QString, LibraryListing::Twin>& twinsBefore) {
   const auto isListed = [](const QList<BrandSummary>& rows, const QString& packageURL) {
     return std::ranges::find(rows, packageURL, &BrandSummary::packageURL) != rows.end();
   };
   for (BrandDocument* const document : documents()) {
     if (isListed(brands_, document->packageURL())) continue;
+    const auto twin = twinsBefore.constFind(document->packageURL());
+    const QUuid own = document->brand().id;
+    const QUuid shared = twin == twinsBefore.cend() ? own : twin->sharedID;  // until it is saved
     for (const BrandSummary& row : std::as_const(brands_)) {
       if (isListed(before, row.packageURL)) continue;
-      if (!LibraryListing::holds(row, twins_, document->brand().id)) continue;
+      const bool isItsPackage = LibraryListing::holds(row, twins_, own) ||
+                                LibraryListing::holds(row, twins_, shared);
+      if (!isItsPackage) continue;
       document->follow(row.packageURL);
       break;
     }

@@ -180,7 +180,8 @@ class LibraryStore : public QObject {
   void setLibraryProblem(const QString& problem);
   void setSilent(bool isSilent);
   void refreshRow(const BrandDocument& document);
-  void followDocuments(const QList<BrandSummary>& before);
+  void followDocuments(const QList<BrandSummary>& before,
+                       const QHash<QString, LibraryListing::Twin>& twinsBefore);
   void adoptOwnID(BrandDocument& document) const;
   // Does work on the disk, and tells if that takes long.
   template <class Work, class Done>

@@ -149,17 +149,22 @@ class SharedStore : public PosixFileStore {
 
 void TestSaving::anotherMachinesManifestOfAnyMomentIsKept_data() {
   QTest::addColumn<bool>("isBehind");
-  QTest::newRow("between the comparison and the exchange") << false;
-  QTest::newRow("right behind the exchange") << true;
+  QTest::addColumn<bool>("isBlocked");
+  QTest::newRow("between the comparison and the exchange") << false << false;
+  QTest::newRow("right behind the exchange") << true << false;
+  QTest::newRow("while no version can be written") << false << true;
 }
 
 void TestSaving::anotherMachinesManifestOfAnyMomentIsKept() {
   QFETCH(bool, isBehind);
+  QFETCH(bool, isBlocked);
   TestServices disk;
   SharedStore store;
   const DocumentServices services{store, disk.log, [&] { return disk.now; }};
   const auto document = *BrandDocument::create(services, disk.folder.path(), "Acme");
   const QString manifest = Package::manifestPath(document->packageURL());
+  const QString versionsPath = Package::versionsPath(document->packageURL());
+  if (isBlocked) QVERIFY(writeFile(versionsPath, "no folder"));
   const auto arrive = [&] {
     Brand theirs = document->brand();
     theirs.name = "Theirs";
@@ -170,6 +175,9 @@ void TestSaving::anotherMachinesManifestOfAnyMomentIsKept() {
   for (const char* name : {"Ours", "Ours again"}) {
     document->edit([&](Brand& brand) { brand.name = name; });
     document->saveNow();
+    if (!QFileInfo(versionsPath).isFile()) continue;
+    QCOMPARE(decode<Brand>(contentOf(manifest))->name, "Theirs");
+    QVERIFY(document->hasUnsavedChanges() && QFile::remove(versionsPath));
   }
   const auto versions = document->listVersions();
   QCOMPARE(versions.size(), 1);
