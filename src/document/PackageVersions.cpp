@@ -43,12 +43,6 @@ bool isNewer(const BrandVersion& a, const BrandVersion& b) {
   return momentOf(a.url) > momentOf(b.url);
 }
 
-// Saves alone set that date.
-bool isSameContent(Brand a, const Brand& b) {
-  a.updatedAt = b.updatedAt;
-  return a == b;
-}
-
 }  // namespace
 
 const QString PackageVersions::syncedLabel = QStringLiteral("Synced copy");
@@ -58,6 +52,12 @@ Brand asWritten(Brand brand) {
   brand.createdAt = std::chrono::floor<seconds>(brand.createdAt);
   brand.updatedAt = std::chrono::floor<seconds>(brand.updatedAt);
   return brand;
+}
+
+// Saves alone set that date.
+bool isSameContent(Brand a, const Brand& b) {
+  a.updatedAt = b.updatedAt;
+  return asWritten(std::move(a)) == asWritten(b);
 }
 
 QString PackageVersions::folder() const { return Package::versionsPath(packageURL_); }
@@ -125,7 +125,7 @@ Result<void> PackageVersions::keepSynced(const Brand& brand, Timestamp moment) {
 bool PackageVersions::holds(const Brand& brand) const {
   bool found = false;
   forEach([&](const QString&, const VersionEnvelope& envelope) {
-    found = found || isSameContent(envelope.brand, asWritten(brand));
+    found = found || isSameContent(envelope.brand, brand);
   });
   return found;
 }

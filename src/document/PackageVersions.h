@@ -57,4 +57,7 @@ class PackageVersions {
 // As it reads back from a file, which keeps whole seconds.
 Brand asWritten(Brand brand);
 
+// True if the two differ in nothing but their times of saving.
+bool isSameContent(Brand a, const Brand& b);
+
 }  // namespace tarnloft

@@ -219,7 +219,21 @@ Result<void> PackageWriter::moveTo(const QString& packageURL) {
   return moved;
 }
 
+// A program that was killed right behind an exchange leaves what it displaced, which may be another
+// machine's work.
+void PackageWriter::keepLeftBehind() {
+  for (const QString& name : services_.files.temporaries(packageURL_)) {
+    const auto file =
+        Package::readJson(services_.files, packageURL_ + QLatin1Char('/') + name, packageURL_);
+    const auto brand =
+        file.and_then([](const Package::ReadFile& read) { return decode<Brand>(read.bytes); });
+    if (!brand || brand->id != known_.brand.id || isSameContent(*brand, known_.brand)) continue;
+    (void)versions().keepSynced(*brand, services_.clock());
+  }
+}
+
 void PackageWriter::sweep() {
+  keepLeftBehind();
   for (const QString& folder :
        {packageURL_, Package::assetsPath(packageURL_), Package::versionsPath(packageURL_)}) {
     services_.files.sweepTemporaries(folder, strayAge);

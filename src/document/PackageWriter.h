@@ -89,6 +89,7 @@ class PackageWriter {
   Result<void> writeAt(Timestamp moment, Brand brand);
   Result<void> findPackage(const QUuid& brand);
   Result<void> keepPresent();
+  void keepLeftBehind();
   Result<void> keep(const QString& manifest, const FileIdentity& identity);
   Result<void> replaceManifest(const QByteArray& json, const Brand& brand);
   Result<void> settleDisplaced(const QString& displaced);

@@ -24,8 +24,8 @@ class DiskWork {
   // was enough, else in a later turn of the event loop. Called in an end, it never waits.
   virtual void run(std::function<void()> work, std::function<void()> done, Patience patience) = 0;
 
-  // Waits until all that was asked for has ended, ends included, but at most so long. False if
-  // something is still to be done.
+  // Waits until all that was asked for has ended, ends included. Gives up, with false, when nothing
+  // has ended for so long.
   virtual bool finish(std::chrono::milliseconds patience) = 0;
 
   // `done` gets what `work` gave.

@@ -160,9 +160,12 @@ class FileStore {
   // Renames a file or folder on one file system; fails if anything stands at `target`.
   virtual Result<void> moveFolder(const QString& path, const QString& target) = 0;
 
-  // Removes what crashes and power cuts left in the folder of the store's hidden temporary files
-  // and half-made copies: the user's own, untouched for longer than `age`. Doesn't look into
-  // folders, and follows no links.
+  // The names of the store's hidden temporary files and half-made copies in a folder: left by a
+  // killed program, or in work just now.
+  virtual QStringList temporaries(const QString& folder) const = 0;
+
+  // Removes what crashes and power cuts left in the folder of such temporaries: the user's own,
+  // untouched for longer than `age`. Doesn't look into folders, and follows no links.
   virtual void sweepTemporaries(const QString& folder, std::chrono::hours age) = 0;
 };
 

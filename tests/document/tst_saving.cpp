@@ -23,6 +23,7 @@ class TestSaving : public QObject {
   void whatCouldNotBeReadAgainIsNotWritten();
   void anotherMachinesManifestOfAnyMomentIsKept_data();
   void anotherMachinesManifestOfAnyMomentIsKept();
+  void whatAKilledSaveDisplacedIsKept();
   void bytesOfANewerProgramAreKept_data();
   void bytesOfANewerProgramAreKept();
 };
@@ -184,6 +185,25 @@ void TestSaving::anotherMachinesManifestOfAnyMomentIsKept() {
   QCOMPARE(PackageVersions(store, document->packageURL()).read(versions.first().url)->brand.name,
            "Theirs");
   QCOMPARE(decode<Brand>(contentOf(manifest))->name, "Ours again");
+}
+
+void TestSaving::whatAKilledSaveDisplacedIsKept() {
+  Saving saving;
+  const QString package = saving.document->packageURL();
+  Brand theirs = saving.document->brand();
+  theirs.updatedAt += std::chrono::hours(1);
+  QVERIFY(writeFile(package + "/.tarnloft-1", *encode(theirs)));  // nothing that we don't have
+  theirs.name = "Theirs";
+  QVERIFY(writeFile(package + "/.tarnloft-2", *encode(theirs)));
+  QVERIFY(writeFile(package + "/.tarnloft-3", encode(theirs)->chopped(9)));
+  QVERIFY(writeFile(package + "/.tarnloft-4", *encode(Brand::create("Another"))));
+  for (int start = 0; start < 2; ++start) {
+    BrandDocument::load(saving.disk.services(), package)->sweep();
+    const auto versions = PackageVersions(saving.store, package).list();
+    QCOMPARE(versions.size(), 1);
+    const auto kept = PackageVersions(saving.store, package).read(versions.first().url);
+    QCOMPARE(kept->brand, asWritten(theirs));
+  }
 }
 
 void TestSaving::bytesOfANewerProgramAreKept_data() {

@@ -16,7 +16,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto landingPatience = 2s;  // with what was dropped right before the end
-constexpr auto savingPatience = 3s;   // with the disk, at the end
+constexpr auto savingPatience = 5s;   // with each piece of work on the disk, at the end
 constexpr auto threadPatience = 1s;   // with a picture that is being read, which nobody waits for
 
 // For ends of the process that leave no time, such as a display that goes.

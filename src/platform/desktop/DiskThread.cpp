@@ -44,7 +44,7 @@ void DiskThread::Shared::serve() {
     changed.notify_all();
     if (owner)
       QMetaObject::invokeMethod(
-          owner, [o = owner] { o->deliver(); }, Qt::QueuedConnection);
+          owner, [o = owner] { (void)o->deliver(); }, Qt::QueuedConnection);
   }
   hasEnded = true;
   changed.notify_all();
@@ -70,7 +70,7 @@ void DiskThread::run(std::function<void()> work, std::function<void()> done, Pat
   const auto remaining = turnDeadline().remainingTimeAsDuration();
   shared_->changed.wait_for(lock, remaining, [&] { return shared_->isIdle(); });
   lock.unlock();
-  deliver();
+  (void)deliver();
 }
 
 // Several waits in one turn share its time.
@@ -84,9 +84,10 @@ QDeadlineTimer DiskThread::turnDeadline() {
 }
 
 // May run within itself, from an end's own event loop; the order of ends stays.
-void DiskThread::deliver() {
+bool DiskThread::deliver() {
   const QScopedValueRollback delivering(isDelivering_, true);
   std::unique_lock lock(shared_->mutex);
+  const bool isAny = !shared_->worked.empty();
   while (!shared_->worked.empty()) {
     const Task task = std::move(shared_->worked.front());
     shared_->worked.pop_front();
@@ -94,12 +95,13 @@ void DiskThread::deliver() {
     task.done();
     lock.lock();
   }
+  return isAny;
 }
 
 bool DiskThread::finish(std::chrono::milliseconds patience) {
-  const QDeadlineTimer deadline(patience, Qt::PreciseTimer);
+  QDeadlineTimer deadline(patience, Qt::PreciseTimer);
   for (;;) {
-    deliver();
+    if (deliver()) deadline.setRemainingTime(patience, Qt::PreciseTimer);
     std::unique_lock lock(shared_->mutex);
     if (shared_->isIdle() && shared_->worked.empty()) return true;
     if (deadline.hasExpired()) return false;

@@ -26,7 +26,7 @@ class DiskThread : public QObject, public DiskWork {
   struct Shared;
 
   QDeadlineTimer turnDeadline();
-  void deliver();
+  bool deliver();  // true if there was anything
 
   const std::shared_ptr<Shared> shared_;
   std::optional<QDeadlineTimer> turn_;  // from the first wait of a turn to its end

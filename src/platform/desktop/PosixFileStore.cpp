@@ -222,6 +222,12 @@ Result<void> PosixFileStore::moveFolder(const QString& path, const QString& targ
   return renameToFree(AT_FDCWD, *from, AT_FDCWD, *to);
 }
 
+QStringList PosixFileStore::temporaries(const QString& folder) const {
+  QStringList names = listAll(folder).value_or(QStringList());
+  names.removeIf([](const QString& name) { return !posix::isTemporaryName(name.toLatin1()); });
+  return names;
+}
+
 void PosixFileStore::sweepTemporaries(const QString& folder, std::chrono::hours age) {
   if (const auto name = native(folder)) posix::sweepTemporaries(*name, age);
 }

@@ -30,6 +30,7 @@ class PosixFileStore : public FileStore {
   Result<void> remove(const QString& path) override;
   Result<void> removeFolder(const QString& path) override;
   Result<void> moveFolder(const QString& path, const QString& target) override;
+  QStringList temporaries(const QString& folder) const override;
   void sweepTemporaries(const QString& folder, std::chrono::hours age) override;
 };
 
