@@ -78,6 +78,7 @@ class TestAppearance : public QObject {
 
  private slots:
   void init() { colorDesktop(Qt::white, Qt::black); }
+  void followsAPortalThatComesLater();  // first: as in the program, nothing is registered yet
   void followsThePaletteWithoutAPortal();
   void asksThePortalOnce_data();
   void asksThePortalOnce();
@@ -87,6 +88,15 @@ class TestAppearance : public QObject {
   void desktopsAskForLessMovement_data();
   void desktopsAskForLessMovement();
 };
+
+void TestAppearance::followsAPortalThatComesLater() {
+  const DesktopAppearance appearance;
+  QTest::qWait(50);  // until nobody has answered
+  FakeSettings settings(1);
+  QTRY_VERIFY(appearance.isDark());
+  settings.change(2);
+  QTRY_VERIFY(!appearance.isDark());
+}
 
 void TestAppearance::followsThePaletteWithoutAPortal() {
   DesktopAppearance appearance;

@@ -24,30 +24,43 @@ QVariant unwrapped(QVariant value) {
 
 }  // namespace
 
-PortalSettings::PortalSettings() {
+// The slot takes the message as it is: to connect one with the portal's own types fails, silently,
+// as long as nobody has registered them.
+PortalSettings::PortalSettings()
+    : m_portal(portal, QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForRegistration) {
   QDBusConnection::sessionBus().connect(portal, portalPath, settings,
-                                        QStringLiteral("SettingChanged"), this,
-                                        SLOT(settingChanged(QString, QString, QDBusVariant)));
+                                        QStringLiteral("SettingChanged"), QStringLiteral("ssv"),
+                                        this, SLOT(settingChanged(QDBusMessage)));
+  connect(&m_portal, &QDBusServiceWatcher::serviceRegistered, this, [this] {
+    for (const Follower& follower : m_followers) ask(follower);
+  });
 }
 
 void PortalSettings::follow(const QString& group, const QString& key, Told told) {
+  m_followers.push_back({group, key, std::move(told)});
+  ask(m_followers.back());
+}
+
+// Behind the connection, so that no change falls between the two.
+void PortalSettings::ask(const Follower& follower) {
   auto message =
       QDBusMessage::createMethodCall(portal, portalPath, settings, QStringLiteral("Read"));
-  message << group << key;
+  message << follower.group << follower.key;
   auto* watcher =
       new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(message), this);
-  connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, told] {
+  connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, told = follower.told] {
     const QDBusPendingReply<QDBusVariant> reply = *watcher;
     watcher->deleteLater();
     if (!reply.isError()) told(unwrapped(reply.value().variant()));
   });
-  m_followers.push_back({group, key, std::move(told)});
 }
 
-void PortalSettings::settingChanged(const QString& group, const QString& key,
-                                    const QDBusVariant& value) {
-  for (const Follower& follower : m_followers)
-    if (follower.group == group && follower.key == key) follower.told(unwrapped(value.variant()));
+void PortalSettings::settingChanged(const QDBusMessage& message) {
+  const QVariantList told = message.arguments();
+  for (const Follower& follower : m_followers) {
+    if (follower.group != told.at(0).toString() || follower.key != told.at(1).toString()) continue;
+    follower.told(unwrapped(told.at(2)));
+  }
 }
 
 }  // namespace tarnloft

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QDBusVariant>
+#include <QDBusMessage>
+#include <QDBusServiceWatcher>
 #include <QObject>
 #include <QVariant>
 
@@ -10,7 +11,7 @@
 namespace tarnloft {
 
 // What the desktop tells of itself through its settings portal. Nothing waits: a desktop without a
-// portal answers late or not at all. Main thread only.
+// portal answers late or not at all, and one that comes later is asked then. Main thread only.
 class PortalSettings : public QObject {
   Q_OBJECT
 
@@ -23,14 +24,18 @@ class PortalSettings : public QObject {
   void follow(const QString& group, const QString& key, Told told);
 
  private slots:
-  void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+  void settingChanged(const QDBusMessage& message);
 
  private:
   struct Follower {
     QString group, key;
     Told told;
   };
+
+  void ask(const Follower& follower);
+
   std::vector<Follower> m_followers;
+  QDBusServiceWatcher m_portal;
 };
 
 }  // namespace tarnloft
