@@ -36,7 +36,7 @@ MouseArea {
         wasDrag = false;
         start = Qt.point(mouse.x, mouse.y);
         if (mouse.button === Qt.RightButton)
-            menuRequested(mouse.x, mouse.y);
+            Qt.callLater(menuRequested, mouse.x, mouse.y); // behind the focus that the press gives
     }
     onPositionChanged: mouse => {
         if (!(pressedButtons & Qt.LeftButton) || start.x >= handleEnd)

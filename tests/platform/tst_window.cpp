@@ -1,3 +1,4 @@
+#include "platform/desktop/IniPreferences.h"
 #include "platform/desktop/window/DesktopColorSampler.h"
 #include "platform/desktop/window/DesktopFileDialogs.h"
 #include "platform/desktop/window/DesktopFileViewer.h"
@@ -116,7 +117,7 @@ bool xdotool(const QStringList& arguments) { return QProcess::execute("xdotool",
 struct Pick {
   int calls = 0;
   std::optional<SampledColor> color;
-  DesktopColorSampler sampler;
+  DesktopColorSampler sampler{[](const QString&) {}};
 
   void start() {
     sampler.show([this](std::optional<SampledColor> picked) {
@@ -215,17 +216,24 @@ void TestWindow::choosesFilesAndPackages() {
   QVERIFY(QDir(folder.path()).mkpath("A.tarnloft") && QDir(folder.path()).mkpath("plain"));
   QFile file(folder.filePath("a.zip"));
   QVERIFY(file.open(QIODevice::WriteOnly));
+  Plain window;
+  window.show();
+  QVERIFY(QTest::qWaitForWindowExposed(&window));
+  IniPreferences state(folder.filePath("state.ini"));
+  state.setText("importDialogFolder", folder.path());
   QTimer user;
   user.callOnTimeout([&] {
     auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
     if (!dialog) return;
     user.stop();
+    QCOMPARE(dialog->windowHandle()->transientParent(), &window);
+    QCOMPARE(dialog->directory(), QDir(folder.path()));
     dialog->findChild<QLineEdit*>()->setText(folder.filePath(name));
     QTest::keyClick(dialog->findChild<QLineEdit*>(), Qt::Key_Return);
     QTimer::singleShot(200, dialog, &QDialog::reject);  // one that is still there
   });
   user.start(50);
-  const auto path = DesktopFileDialogs().openFileOrFolder({"application/zip"}, {"tarnloft"});
+  const auto path = DesktopFileDialogs(state).openFileOrFolder({"application/zip"}, {"tarnloft"});
   QTEST(path.has_value(), "chosen");
   if (path) QCOMPARE(*path, folder.filePath(name));
 }

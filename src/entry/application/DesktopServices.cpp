@@ -8,15 +8,16 @@
 
 namespace tarnloft {
 
-namespace {
-
-std::unique_ptr<ColorSampler> makeColorSampler() { return std::make_unique<DesktopColorSampler>(); }
-
-}  // namespace
-
 // Before anything else looks at the disk, on whose thread all does.
 DesktopServices::DesktopServices() {
   disk.run([this] { SupportFolder::migrateIfNeeded(files, log); }, [] {}, DiskWork::Patience::none);
+}
+
+std::unique_ptr<ColorSampler> DesktopServices::makeColorSampler() const {
+  return std::make_unique<DesktopColorSampler>([this](const QString& reason) {
+    tell(QStringLiteral("A color can't be picked from the screen"),
+         QStringLiteral("This desktop has no color picker for programs: ") + reason);
+  });
 }
 
 LibraryServices DesktopServices::forLibrary() {
@@ -28,7 +29,7 @@ LibraryServices DesktopServices::forLibrary() {
           archiver,
           dialogs,
           viewer,
-          makeColorSampler,
+          [this] { return makeColorSampler(); },
           SupportFolder::applicationSupportFolder(),
           QDir::tempPath(),
           copies};
@@ -39,10 +40,10 @@ WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
                                    const QList<Item>& items) {
     library.addItems(brand, section, items);
   };
-  const auto tellFailed = [&library](const QStringList& names, const QString& reason) {
+  const auto tellFailed = [this](const QStringList& names, const QString& reason) {
     const QString what = names.size() == 1 ? QStringLiteral("“%1”").arg(names.first())
                                            : QStringLiteral("%1 files").arg(names.size());
-    library.tell(what + QStringLiteral(" couldn't be added"), reason);
+    tell(what + QStringLiteral(" couldn't be added"), reason);
   };
   const auto tiff = [this](const QString& path, qint64 maxBytes) {
     return media.tiff(path, maxBytes);
@@ -51,7 +52,7 @@ WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
           preferences,
           pasteboard,
           dialogs,
-          makeColorSampler,
+          [this] { return makeColorSampler(); },
           media.thumbnails,
           media.posters,
           {types, fonts, workers, landLate, tellFailed},

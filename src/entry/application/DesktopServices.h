@@ -34,7 +34,7 @@ struct DesktopServices {
   DesktopBeep beep;
   LateTrash trash;
   LateArchiver archiver;
-  DesktopFileDialogs dialogs;
+  DesktopFileDialogs dialogs{state};
   DesktopFileViewer viewer;
   DesktopAppearance appearance;
   DesktopMotion motion;
@@ -49,6 +49,9 @@ struct DesktopServices {
   QThreadPool workers;  // of what is dropped; waited for before the others go
   MimeDrops drops{workers};
 
+  // Tells the user that something failed: the library's, once there is one.
+  std::function<void(const QString& title, const QString& message)> tell;
+
   LibraryServices forLibrary();
   WorkspaceServices forWorkspace(LibraryStore& library);
 
@@ -58,6 +61,9 @@ struct DesktopServices {
 
   // "tarnloft.ini" in the user's folder for state.
   static QString stateFile();
+
+ private:
+  std::unique_ptr<ColorSampler> makeColorSampler() const;
 };
 
 }  // namespace tarnloft

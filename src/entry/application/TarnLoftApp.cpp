@@ -34,6 +34,9 @@ TarnLoftApp::TarnLoftApp()
       appDelegate_(
           services_.preferences, menuBarPrefs_, services_.statusItem, [this] { openMainWindow(); },
           [this] { requestQuit(); }) {
+  services_.tell = [this](const QString& title, const QString& message) {
+    library_.tell(title, message);
+  };
   symbols::fontFamily();  // registered before any text, which it would lay out again
   ViewLoading::answer();
   services_.media.work.hold();  // the first frame has the cores to itself

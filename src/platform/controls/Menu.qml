@@ -6,8 +6,9 @@ import TarnLoft.Controls
 
 // A menu of MenuItem, MenuSeparator, MenuTitle and further menus. Open it with `popup()` under the
 // pointer or `popup(item, x, y)`. Arrows, Home, End, Return and Esc work, Tab goes round, and a
-// letter goes to the next entry that begins with it. The focus goes back as soon as it begins to
-// close, so that no key falls between a menu and what lies under it.
+// letter goes to the next entry that begins with it. The keys are its own from its opening, whatever
+// else the press that opened it gave them to. The focus goes back as soon as it begins to close, so
+// that no key falls between a menu and what lies under it.
 T.Menu {
     id: root
 
@@ -53,6 +54,11 @@ T.Menu {
         }
     }
 
+    function takeKeys() {
+        if (visible && !activeFocus)
+            forceActiveFocus(Qt.PopupFocusReason);
+    }
+
     // For the keys that the template leaves alone, from the menu itself and from its entries.
     function takeKey(event: KeyEvent) {
         const plain = !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier));
@@ -67,7 +73,10 @@ T.Menu {
             event.accepted = false;
     }
 
-    onAboutToShow: focusReturn.remember()
+    onAboutToShow: {
+        focusReturn.remember();
+        Qt.callLater(takeKeys);
+    }
     onAboutToHide: focusReturn.giveBack()
 
     readonly property FocusReturn focusReturn: FocusReturn {

@@ -10,6 +10,9 @@ namespace tarnloft {
 namespace {
 
 constexpr int pause = 20;  // milliseconds between two tries
+constexpr qint64 longestRequest = 4096;
+constexpr auto activationToken = "XDG_ACTIVATION_TOKEN";
+const auto show = QByteArrayLiteral("show ");
 
 }  // namespace
 
@@ -50,6 +53,10 @@ bool RunningInstance::askToShow(const QDeadlineTimer& deadline) const {
   return true;
 }
 
+QByteArray RunningInstance::showRequest() {
+  return show + qgetenv(activationToken).toPercentEncoding() + '\n';
+}
+
 bool RunningInstance::listen() {
   QLocalServer::removeServer(socketPath_);  // one that a crash has left; the lock is ours
   return server_.listen(socketPath_);
@@ -59,9 +66,16 @@ void RunningInstance::answerNext() {
   QLocalSocket* const socket = server_.nextPendingConnection();
   connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
   connect(socket, &QLocalSocket::readyRead, this, [this, socket] {
-    if (socket->bytesAvailable() < showRequest().size()) return;
-    if (socket->read(showRequest().size()) != showRequest()) return socket->abort();
+    if (!socket->canReadLine()) {
+      if (socket->bytesAvailable() >= longestRequest) socket->abort();
+      return;
+    }
+    const QByteArray request = socket->readLine(longestRequest);
+    if (!request.startsWith(show)) return socket->abort();
+    const auto token = QByteArray::fromPercentEncoding(request.sliced(show.size()).trimmed());
+    if (!token.isEmpty()) qputenv(activationToken, token);
     emit showRequested();
+    qunsetenv(activationToken);
     socket->write(shownAnswer());
   });
 }

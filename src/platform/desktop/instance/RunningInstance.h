@@ -37,16 +37,18 @@ class RunningInstance : public QObject {
   // The first instance's: answers other starts from now on. Needs an application object.
   bool listen();
 
-  // How a later start asks, and what it is told when the window is shown.
+  // How a later start asks, and what it is told when the window is shown. The request holds the
+  // token by which the launcher lets this process raise a window on Wayland, if there is one.
   const QString& socketPath() const { return socketPath_; }
-  static QByteArray showRequest() { return QByteArrayLiteral("show\n"); }
+  static QByteArray showRequest();
   static QByteArray shownAnswer() { return QByteArrayLiteral("shown\n"); }
 
   // The user's folder for files that live as long as the session.
   static QString runtimeFolder();
 
  signals:
-  // Another start asks for the window.
+  // Another start asks for the window. Meanwhile its token is the one that the toolkit raises
+  // windows with.
   void showRequested();
 
  private:

@@ -5,9 +5,11 @@
 
 #include <QTimer>
 
+#include <utility>
+
 namespace tarnloft {
 
-DesktopColorSampler::DesktopColorSampler() = default;
+DesktopColorSampler::DesktopColorSampler(Refused refused) : refused_(std::move(refused)) {}
 DesktopColorSampler::~DesktopColorSampler() = default;
 
 void DesktopColorSampler::show(std::function<void(std::optional<SampledColor>)> done) {
@@ -16,10 +18,11 @@ void DesktopColorSampler::show(std::function<void(std::optional<SampledColor>)> 
   const auto later = [this, done](std::optional<SampledColor> color) {
     QTimer::singleShot(0, portal_.get(), [done, color] { done(color); });
   };
-  portal_->pick(later, [this, later] {
+  portal_->pick(later, [this, later](const QString& reason) {
     if (ScreenColorPicker::isAvailable()) {
       screen_ = std::make_unique<ScreenColorPicker>(later);
     } else {
+      refused_(reason);
       later(std::nullopt);
     }
   });

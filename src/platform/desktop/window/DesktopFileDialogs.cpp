@@ -1,18 +1,28 @@
 #include "platform/desktop/window/DesktopFileDialogs.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMimeDatabase>
+#include <QWindow>
 
 #include <utility>
 
 namespace tarnloft {
 namespace {
 
-std::optional<QString> chosenIn(QFileDialog& dialog) {
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-  return QDir::cleanPath(dialog.selectedFiles().constFirst());
+// The one that the user works in.
+QWindow* windowInFront() {
+  if (QWindow* const focused = QGuiApplication::focusWindow()) return focused;
+  for (QWindow* const window : QGuiApplication::topLevelWindows()) {
+    if (window->isVisible() && window->type() == Qt::Window) return window;
+  }
+  return nullptr;
+}
+
+std::optional<QString> onlyOne(const QStringList& paths) {
+  return paths.isEmpty() ? std::nullopt : std::optional(paths.first());
 }
 
 // No desktop's dialog chooses a file or a folder, so this one is the toolkit's own. Opening a
@@ -69,37 +79,49 @@ QString nameFilter(const QStringList& mimeTypes) {
 
 }  // namespace
 
-std::optional<QString> DesktopFileDialogs::savePath(const QString& suggestedName,
-                                                    const QString& mimeType) {
-  QFileDialog dialog;
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setMimeTypeFilters({mimeType});
-  dialog.setDefaultSuffix(QMimeDatabase().mimeTypeForName(mimeType).preferredSuffix());
-  dialog.selectFile(QString(suggestedName).replace(QLatin1Char('/'), QLatin1Char('-')));
-  return chosenIn(dialog);
-}
-
-QStringList DesktopFileDialogs::openFiles(const QStringList& mimeTypes) {
-  QFileDialog dialog;
-  dialog.setFileMode(QFileDialog::ExistingFiles);
-  dialog.setNameFilter(nameFilter(mimeTypes));
+QStringList DesktopFileDialogs::chosenIn(QFileDialog& dialog, const QString& kind) {
+  const QString key = kind + QStringLiteral("DialogFolder");
+  if (const auto folder = state_.text(key); folder && QFileInfo(*folder).isDir()) {
+    dialog.setDirectory(*folder);
+  }
+  dialog.winId();  // makes the window
+  dialog.windowHandle()->setTransientParent(windowInFront());
   if (dialog.exec() != QDialog::Accepted) return {};
+  state_.setText(key, dialog.directory().absolutePath());
   QStringList paths;
   for (const QString& path : dialog.selectedFiles()) paths << QDir::cleanPath(path);
   return paths;
 }
 
+std::optional<QString> DesktopFileDialogs::savePath(const QString& suggestedName,
+                                                    const QString& mimeType) {
+  QFileDialog dialog(nullptr, QStringLiteral("Save"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setMimeTypeFilters({mimeType});
+  dialog.setDefaultSuffix(QMimeDatabase().mimeTypeForName(mimeType).preferredSuffix());
+  dialog.selectFile(QString(suggestedName).replace(QLatin1Char('/'), QLatin1Char('-')));
+  return onlyOne(chosenIn(dialog, QStringLiteral("save")));
+}
+
+QStringList DesktopFileDialogs::openFiles(const QStringList& mimeTypes) {
+  QFileDialog dialog(nullptr, QStringLiteral("Add Files"));
+  dialog.setFileMode(QFileDialog::ExistingFiles);
+  dialog.setNameFilter(nameFilter(mimeTypes));
+  return chosenIn(dialog, QStringLiteral("add"));
+}
+
 std::optional<QString> DesktopFileDialogs::openFileOrFolder(const QStringList& mimeTypes,
                                                             const QStringList& folderExtensions) {
   FileOrFolderDialog dialog(mimeTypes, folderExtensions);
-  return chosenIn(dialog);
+  dialog.setWindowTitle(QStringLiteral("Import"));
+  return onlyOne(chosenIn(dialog, QStringLiteral("import")));
 }
 
 std::optional<QString> DesktopFileDialogs::chooseFolder() {
-  QFileDialog dialog;
+  QFileDialog dialog(nullptr, QStringLiteral("Choose a Folder"));
   dialog.setFileMode(QFileDialog::Directory);
   dialog.setOption(QFileDialog::ShowDirsOnly);
-  return chosenIn(dialog);
+  return onlyOne(chosenIn(dialog, QStringLiteral("folder")));
 }
 
 }  // namespace tarnloft

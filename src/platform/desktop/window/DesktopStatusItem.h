@@ -1,11 +1,14 @@
 #pragma once
 
 #include "platform/StatusItem.h"
+#include "platform/desktop/window/TrayHost.h"
 
+#include <QIcon>
 #include <QMenu>
 #include <QSystemTrayIcon>
 
 #include <memory>
+#include <optional>
 
 namespace tarnloft {
 
@@ -17,6 +20,17 @@ class DesktopStatusItem : public StatusItem {
   bool isInTray() const override;
 
  private:
+  void showInTray();
+
+  struct Look {
+    QIcon icon;
+    QString toolTip;
+    std::function<void()> clicked;
+    std::vector<Command> menu;
+  };
+
+  Look look_;
+  std::optional<TrayHost> host_;
   std::unique_ptr<QMenu> menu_;
   std::unique_ptr<QSystemTrayIcon> icon_;  // uses the menu
 };

@@ -33,7 +33,7 @@ std::optional<SampledColor> colorOf(const QVariantMap& results) {
 
 }  // namespace
 
-void PortalColorPicker::pick(Done done, std::function<void()> unavailable) {
+void PortalColorPicker::pick(Done done, std::function<void(const QString& reason)> unavailable) {
   done_ = std::move(done);
   QDBusConnection bus = QDBusConnection::sessionBus();
   const QString token = QStringLiteral("tarnloft%1").arg(QRandomGenerator::system()->generate());
@@ -47,7 +47,7 @@ void PortalColorPicker::pick(Done done, std::function<void()> unavailable) {
   connect(watcher, &QDBusPendingCallWatcher::finished, this,
           [watcher, unavailable = std::move(unavailable)] {
             watcher->deleteLater();
-            if (watcher->isError()) unavailable();
+            if (watcher->isError()) unavailable(watcher->error().message());
           });
 }
 

@@ -14,8 +14,9 @@ class PortalColorPicker : public QObject {
  public:
   using Done = std::function<void(std::optional<SampledColor>)>;
 
-  // Exactly one of the two is called, later: `unavailable` if there is no portal that can pick.
-  void pick(Done done, std::function<void()> unavailable);
+  // Exactly one of the two is called, later: `unavailable` if there is no portal that can pick,
+  // with what the bus tells of that.
+  void pick(Done done, std::function<void(const QString& reason)> unavailable);
 
  private slots:
   void answered(const QDBusMessage& message);

@@ -1,0 +1,95 @@
+#include "platform/desktop/window/TrayHost.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
+#include <QGuiApplication>
+
+#include <cstdlib>
+#include <memory>
+#include <string_view>
+#include <utility>
+#include <xcb/xcb.h>
+
+namespace tarnloft {
+namespace {
+
+const auto watcher = QStringLiteral("org.kde.StatusNotifierWatcher");
+const auto watcherPath = QStringLiteral("/StatusNotifierWatcher");
+
+template <class Reply>
+using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
+
+xcb_connection_t* xServer() {
+  const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  return x11 ? x11->connection() : nullptr;
+}
+
+xcb_atom_t atomOf(xcb_connection_t* server, std::string_view name) {
+  const auto cookie = xcb_intern_atom(server, false, uint16_t(name.size()), name.data());
+  const Owned<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(server, cookie, nullptr),
+                                             &std::free);
+  return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
+}
+
+}  // namespace
+
+TrayHost::TrayHost()
+    : busTray_(watcher, QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForOwnerChange) {
+  connect(&busTray_, &QDBusServiceWatcher::serviceOwnerChanged, this, &TrayHost::askBus);
+  for (const auto& change : {QStringLiteral("StatusNotifierHostRegistered"),
+                             QStringLiteral("StatusNotifierHostUnregistered")}) {
+    QDBusConnection::sessionBus().connect(watcher, watcherPath, watcher, change, this,
+                                          SLOT(askBus()));
+  }
+  askBus();
+  if (xcb_connection_t* const server = xServer()) {
+    selection_ = atomOf(server, "_NET_SYSTEM_TRAY_S0");
+    managerMessage_ = atomOf(server, "MANAGER");
+    qGuiApp->installNativeEventFilter(this);
+  }
+}
+
+void TrayHost::askBus() {
+  auto question = QDBusMessage::createMethodCall(watcher, watcherPath,
+                                                 QStringLiteral("org.freedesktop.DBus.Properties"),
+                                                 QStringLiteral("Get"));
+  question << watcher << QStringLiteral("IsStatusNotifierHostRegistered");
+  question.setAutoStartService(false);
+  auto* const asked =
+      new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
+  connect(asked, &QDBusPendingCallWatcher::finished, this, [this, asked] {
+    const QDBusPendingReply<QDBusVariant> reply = *asked;
+    asked->deleteLater();
+    setOnBus(!reply.isError() && reply.value().variant().toBool());
+  });
+}
+
+void TrayHost::setOnBus(bool isOnBus) {
+  if (std::exchange(isOnBus_, isOnBus) != isOnBus) emit changed();
+}
+
+bool TrayHost::isThere() const { return isOnBus_ || ownsSelection(); }
+
+bool TrayHost::ownsSelection() const {
+  xcb_connection_t* const server = selection_ ? xServer() : nullptr;
+  if (!server) return false;
+  const auto cookie = xcb_get_selection_owner(server, selection_);
+  const Owned<xcb_get_selection_owner_reply_t> reply(
+      xcb_get_selection_owner_reply(server, cookie, nullptr), &std::free);
+  return reply && reply->owner != XCB_NONE;
+}
+
+// A tray that starts on X11 says so to everybody.
+bool TrayHost::nativeEventFilter(const QByteArray& type, void* message, qintptr*) {
+  if (type != "xcb_generic_event_t") return false;
+  const auto* const event = static_cast<xcb_generic_event_t*>(message);
+  if ((event->response_type & 0x7f) != XCB_CLIENT_MESSAGE) return false;
+  const auto* const told = static_cast<xcb_client_message_event_t*>(message);
+  if (told->type == managerMessage_ && told->data.data32[1] == selection_) emit changed();
+  return false;
+}
+
+}  // namespace tarnloft
