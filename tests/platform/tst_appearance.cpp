@@ -9,8 +9,10 @@
 #include <QPalette>
 #include <QSignalSpy>
 #include <QTest>
+#include <QThread>
 
 using namespace tarnloft;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -83,6 +85,8 @@ class TestAppearance : public QObject {
   void asksThePortalOnce_data();
   void asksThePortalOnce();
   void followsThePortalsChanges();
+  void isKnownBeforeTheFirstFrame();
+  void theToolkitsColorsFollow();
   void theUsersWishWins();
   void thingsMoveWithoutAPortal();
   void desktopsAskForLessMovement_data();
@@ -137,6 +141,34 @@ void TestAppearance::followsThePortalsChanges() {
   settings.change(QStringLiteral("some.other.group"), scheme, 2U);
   settings.change(0);  // no preference: the palette, which is light
   QTRY_VERIFY(!appearance.isDark());
+}
+
+// Without a turn of the event loop.
+void TestAppearance::isKnownBeforeTheFirstFrame() {
+  QThread desktop;
+  FakeSettings settings(1);
+  settings.moveToThread(&desktop);
+  desktop.start();
+  DesktopAppearance appearance;
+  appearance.settle(10s);
+  QVERIFY(appearance.isDark());
+  desktop.quit();
+  desktop.wait();
+}
+
+void TestAppearance::theToolkitsColorsFollow() {
+  DesktopAppearance appearance;
+  const auto window = [] { return QGuiApplication::palette().color(QPalette::Window); };
+  const auto follow = [&] {
+    appearance.setColors(QPalette(appearance.isDark() ? QColor(0x202020) : QColor(0xe0e0e0)));
+  };
+  connect(&appearance, &DesktopAppearance::darkChanged, this, follow);
+  follow();
+  QCOMPARE(window(), QColor(Qt::white));  // the desktop's own
+  appearance.setOverride(AppearanceOverride::dark);
+  QCOMPARE(window(), QColor(0x202020));
+  appearance.setOverride(AppearanceOverride::none);
+  QVERIFY(!appearance.isDark());
 }
 
 void TestAppearance::theUsersWishWins() {

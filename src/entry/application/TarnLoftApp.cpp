@@ -5,10 +5,13 @@
 #include "platform/controls/symbols/SymbolFont.h"
 
 #include <QGuiApplication>
+#include <QPalette>
 #include <QQuickWindow>
 
 #include <chrono>
 #include <cstdlib>
+#include <initializer_list>
+#include <utility>
 
 namespace tarnloft {
 namespace {
@@ -18,6 +21,35 @@ using namespace std::chrono_literals;
 constexpr auto landingPatience = 2s;  // with what was dropped right before the end
 constexpr auto savingPatience = 5s;   // with each piece of work on the disk, at the end
 constexpr auto threadPatience = 1s;   // with a picture that is being read, which nobody waits for
+
+constexpr auto portalPatience =
+    30ms;  // with what it tells of light and dark, before the first frame
+
+// The theme's colours as the toolkit's own drawing wants them.
+QPalette toolkitColors(const Theme& theme) {
+  QPalette colors;
+  using Role = QPalette::ColorRole;
+  for (const auto& [role, color] : std::initializer_list<std::pair<Role, QColor>>{
+           {Role::Window, theme.windowBackground()},
+           {Role::WindowText, theme.label()},
+           {Role::Base, theme.textBackground()},
+           {Role::AlternateBase, theme.controlBackground()},
+           {Role::Text, theme.label()},
+           {Role::PlaceholderText, theme.placeholder()},
+           {Role::Button, theme.controlBackground()},
+           {Role::ButtonText, theme.label()},
+           {Role::ToolTipBase, theme.menuBackground()},
+           {Role::ToolTipText, theme.label()},
+           {Role::Highlight, theme.accentFill()},
+           {Role::HighlightedText, theme.onAccent()},
+           {Role::Link, theme.accentText()}}) {
+    colors.setColor(role, color);
+  }
+  for (const Role role : {Role::WindowText, Role::Text, Role::ButtonText}) {
+    colors.setColor(QPalette::Disabled, role, theme.tertiaryLabel());
+  }
+  return colors;
+}
 
 // For ends of the process that leave no time, such as a display that goes.
 TarnLoftApp* running = nullptr;
@@ -69,6 +101,7 @@ bool TarnLoftApp::start() {
 }
 
 bool TarnLoftApp::openMainWindow() {
+  services_.appearance.settle(portalPatience);
   if (!mainWindow_.open()) return false;
   QQuickWindow* const window = mainWindow_.window();
   appDelegate_.setMainWindow(window);
@@ -136,6 +169,9 @@ void TarnLoftApp::followFocus() {
 
 bool TarnLoftApp::finish() { return services_.finish(threadPatience); }
 
-void TarnLoftApp::followAppearance() { theme_.setDark(services_.appearance.isDark()); }
+void TarnLoftApp::followAppearance() {
+  theme_.setDark(services_.appearance.isDark());
+  services_.appearance.setColors(toolkitColors(theme_));
+}
 
 }  // namespace tarnloft

@@ -2,7 +2,6 @@
 
 #include <QEvent>
 #include <QGuiApplication>
-#include <QPalette>
 
 namespace tarnloft {
 
@@ -44,7 +43,18 @@ bool DesktopAppearance::eventFilter(QObject* watched, QEvent* event) {
   return QObject::eventFilter(watched, event);
 }
 
+void DesktopAppearance::setColors(const QPalette& palette) {
+  if (!m_hasOwnColors && paletteIsDark() == m_dark) return;
+  m_hasOwnColors = true;
+  QGuiApplication::setPalette(palette);
+}
+
 void DesktopAppearance::update() {
+  // To see the desktop's own, where they decide.
+  if (m_hasOwnColors && m_override == AppearanceOverride::none && !m_portalDark) {
+    m_hasOwnColors = false;
+    QGuiApplication::setPalette({});
+  }
   const bool dark = m_override == AppearanceOverride::none ? m_portalDark.value_or(paletteIsDark())
                                                            : m_override == AppearanceOverride::dark;
   if (dark == m_dark) return;

@@ -4,7 +4,9 @@
 #include "platform/desktop/window/PortalSettings.h"
 
 #include <QObject>
+#include <QPalette>
 
+#include <chrono>
 #include <optional>
 
 namespace tarnloft {
@@ -22,6 +24,13 @@ class DesktopAppearance : public QObject, public Appearance {
   void setOverride(AppearanceOverride value) override;
   bool isDark() const { return m_dark; }
 
+  // Waits for what the portal tells, at most so long.
+  void settle(std::chrono::milliseconds patience) { m_settings.settle(patience); }
+
+  // Has what the toolkit draws by itself, such as dialogs and on some desktops the title bar, in
+  // these colours, which are as dark as `isDark` tells; unless the desktop's own are so already.
+  void setColors(const QPalette& palette);
+
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  signals:
@@ -33,6 +42,7 @@ class DesktopAppearance : public QObject, public Appearance {
   AppearanceOverride m_override = AppearanceOverride::none;
   std::optional<bool> m_portalDark;  // none while the portal has no opinion
   bool m_dark = false;
+  bool m_hasOwnColors = false;
   PortalSettings m_settings;
 };
 

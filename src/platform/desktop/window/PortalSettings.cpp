@@ -4,7 +4,12 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusVariant>
+#include <QDeadlineTimer>
+#include <QThread>
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace tarnloft {
@@ -46,13 +51,30 @@ void PortalSettings::ask(const Follower& follower) {
   auto message =
       QDBusMessage::createMethodCall(portal, portalPath, settings, QStringLiteral("Read"));
   message << follower.group << follower.key;
-  auto* watcher =
-      new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(message), this);
-  connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, told = follower.told] {
-    const QDBusPendingReply<QDBusVariant> reply = *watcher;
-    watcher->deleteLater();
-    if (!reply.isError()) told(unwrapped(reply.value().variant()));
-  });
+  m_asked.push_back({QDBusConnection::sessionBus().asyncCall(message), follower.told});
+  auto* const watcher = new QDBusPendingCallWatcher(m_asked.back().call, this);
+  connect(watcher, &QDBusPendingCallWatcher::finished, watcher, &QObject::deleteLater);
+  connect(watcher, &QDBusPendingCallWatcher::finished, this, &PortalSettings::takeAnswers);
+}
+
+void PortalSettings::takeAnswers() {
+  std::list<Question> answered;
+  for (auto each = m_asked.begin(); each != m_asked.end();) {
+    const auto next = std::next(each);
+    if (each->call.isFinished()) answered.splice(answered.end(), m_asked, each);
+    each = next;
+  }
+  for (const Question& question : answered) {
+    const QDBusPendingReply<QDBusVariant> reply = question.call;
+    if (!reply.isError()) question.told(unwrapped(reply.value().variant()));
+  }
+}
+
+void PortalSettings::settle(std::chrono::milliseconds patience) {
+  const QDeadlineTimer deadline(patience);
+  const auto isOnItsWay = [](const Question& question) { return !question.call.isFinished(); };
+  while (std::ranges::any_of(m_asked, isOnItsWay) && !deadline.hasExpired()) QThread::msleep(1);
+  takeAnswers();
 }
 
 void PortalSettings::settingChanged(const QDBusMessage& message) {

@@ -1,11 +1,14 @@
 #pragma once
 
 #include <QDBusMessage>
+#include <QDBusPendingCall>
 #include <QDBusServiceWatcher>
 #include <QObject>
 #include <QVariant>
 
+#include <chrono>
 #include <functional>
+#include <list>
 #include <vector>
 
 namespace tarnloft {
@@ -23,6 +26,9 @@ class PortalSettings : public QObject {
   // `told` is called when the value comes and after each change, never for a key that isn't there.
   void follow(const QString& group, const QString& key, Told told);
 
+  // Takes the values that are on their way, for which it waits at most so long.
+  void settle(std::chrono::milliseconds patience);
+
  private slots:
   void settingChanged(const QDBusMessage& message);
 
@@ -32,9 +38,16 @@ class PortalSettings : public QObject {
     Told told;
   };
 
+  struct Question {
+    QDBusPendingCall call;
+    Told told;
+  };
+
   void ask(const Follower& follower);
+  void takeAnswers();
 
   std::vector<Follower> m_followers;
+  std::list<Question> m_asked;  // and not answered
   QDBusServiceWatcher m_portal;
 };
 
