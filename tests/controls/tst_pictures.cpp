@@ -30,7 +30,7 @@ void TestPictures::theCheckerboardHasItsTwoGreys() {
 
 void TestPictures::theShadowFadesFromItsCaster() {
   QSize size;
-  const QImage image = ShadowProvider().requestImage(QStringLiteral("10/12/50/0/0"), &size, {});
+  const QImage image = ShadowProvider().requestImage(QStringLiteral("10/12/50/0/0/100"), &size, {});
   QCOMPARE(image.size(), size);
   QCOMPARE(size.width(), ShadowProvider::stretchableSide(10, 12) + 2 * ShadowProvider::extent(12));
   const int middle = size.width() / 2;
@@ -46,7 +46,7 @@ void TestPictures::theShadowFadesFromItsCaster() {
 
 void TestPictures::aShadowFitsSmallThings() {
   QSize size;
-  ShadowProvider().requestImage(QStringLiteral("17/12/20/0/34"), &size, {});
+  ShadowProvider().requestImage(QStringLiteral("17/12/20/0/34/100"), &size, {});
   QCOMPARE(size.height(), 34 + 2 * ShadowProvider::extent(12));
 }
 

@@ -42,7 +42,7 @@ class TheSidebar(Journey):
         tarn.click("list item", "Birch", button=3)
         tarn.find("menu item", "Rename…")
         press("Down", "Down", "Return")
-        self.eventually(lambda: rows(tarn), ["Ash", "Birch", "Birch copy"])
+        self.eventually(lambda: rows(tarn), ["Ash", "Birch", "Birch Copy"])
 
         tarn.click("list item", "Ash")
         tarn.click("text", "Section name", button=3)

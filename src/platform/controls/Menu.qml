@@ -65,7 +65,7 @@ T.Menu {
         event.accepted = true;
         if (event.key === Qt.Key_Home)
             goOn(-1, 1);
-        else if (event.key === Qt.Key_End)
+        else if (event.key === Qt.Key_End || event.key === Qt.Key_Up && currentIndex < 0)
             goOn(count, -1);
         else if (plain && event.text.length === 1 && event.text > " ")
             goOn(currentIndex, 1, event.text);

@@ -18,6 +18,10 @@ Item {
     readonly property bool narrow: width < stretchable
     readonly property bool low: height < stretchable
 
+    // Of the picture: its border is told in points, which one scene graph takes for the screen's
+    // pixels and the software one for the picture's.
+    readonly property real ratio: GraphicsInfo.api === GraphicsInfo.Software ? 1 : Screen.devicePixelRatio
+
     BorderImage {
         readonly property string size: (root.narrow ? Math.round(root.width) : 0) + "/"
                                        + (root.low ? Math.round(root.height) : 0)
@@ -34,6 +38,7 @@ Item {
             bottom: border.top
         }
         source: visible ? "image://tarnloft-shadow/" + root.radius + "/" + root.blur + "/"
-                          + Math.round(root.strength * 100) + "/" + size : ""
+                          + Math.round(root.strength * 100) + "/" + size + "/"
+                          + Math.round(root.ratio * 100) : ""
     }
 }

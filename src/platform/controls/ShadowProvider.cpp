@@ -40,11 +40,12 @@ void soften(Coverage& coverage, int blur) {
   }
 }
 
-QImage roundedRectangle(QSize rectangle, int margin, int radius) {
+QImage roundedRectangle(QSize rectangle, int margin, int radius, double ratio) {
   const QSize size = rectangle.grownBy({margin, margin, margin, margin});
-  QImage image(size, QImage::Format_Alpha8);
+  QImage image((QSizeF(size) * ratio).toSize(), QImage::Format_Alpha8);
   image.fill(0);
   QPainter painter(&image);
+  painter.scale(ratio, ratio);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   painter.setBrush(Qt::black);
@@ -77,12 +78,13 @@ QImage ShadowProvider::requestImage(const QString& id, QSize* size, const QSize&
   const auto number = [&parts](int index) { return parts.value(index).toInt(); };
   const int radius = number(0);
   const int blur = number(1);
+  const double ratio = number(5) / 100.0;
   const auto side = [radius, blur](int given) {
     return given > 0 ? given : stretchableSide(radius, blur);
   };
   Coverage coverage =
-      coverageOf(roundedRectangle({side(number(3)), side(number(4))}, extent(blur), radius));
-  soften(coverage, blur);
+      coverageOf(roundedRectangle({side(number(3)), side(number(4))}, extent(blur), radius, ratio));
+  soften(coverage, qRound(blur * ratio));
   if (size) *size = coverage.size;
   return blackWith(coverage, number(2) / 100.0);
 }
