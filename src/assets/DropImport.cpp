@@ -26,8 +26,12 @@ class Import {
       : services_(services), landing_(document, section, services.addToClosed) {}
 
   const ImportServices& services() const { return services_; }
-  ItemLanding::Place take() {
+
+  // A place for the thing that its source knows by the name.
+  ItemLanding::Place take(const QString& name) {
+    names_ << name;
     ++open_;
+    if (progress_) progress_->begin(name);
     return landing_.take();
   }
 
@@ -41,26 +45,28 @@ class Import {
   }
   const Result<AssetFolder>& folder() const { return *folder_; }
 
-  // `name` is what the user knows it by.
   void land(ItemLanding::Place place, const QString& name, const Result<Item>& item);
   // For what can't be told from nothing.
   void drop(ItemLanding::Place place) {
     landing_.land(place, std::nullopt);
-    ended();
+    ended(place);
   }
 
  private:
-  void ended() {
+  void ended(ItemLanding::Place place) {
+    if (progress_) progress_->end(names_.at(qsizetype(place)));
     if (--open_ == 0 && !failed_.isEmpty() && services_.failed) {
       services_.failed(std::exchange(failed_, {}), reason_);
     }
   }
 
   const ImportServices services_;
+  const QPointer<ImportProgress> progress_{services_.progress};
   ItemLanding landing_;
   std::optional<Result<AssetFolder>> folder_;
   std::vector<std::function<void()>> waiting_;
-  int open_ = 0;  // places that nothing has landed on
+  QStringList names_;  // by their places
+  int open_ = 0;       // places that nothing has landed on
   QStringList failed_;
   QString reason_;  // of the first one
 };
@@ -72,7 +78,7 @@ void Import::land(ItemLanding::Place place, const QString& name, const Result<It
     failed_ << name;
   }
   landing_.land(place, item ? std::optional(*item) : std::nullopt);
-  ended();
+  ended(place);
 }
 
 SharedImport begin(const ImportServices& services, const QUuid& section, BrandDocument& document) {
@@ -136,139 +142,140 @@ ItemPayload payloadOf(const ImportedFile& file) {
   return ImagePayload{file.asset, file.displayName};
 }
 
+Item itemOf(const ImportedFile& file) { return Item::create(payloadOf(file)); }
+
+// `work` is a worker's, and gets the folder.
+template <class Work, class Land>
+void inFolder(const SharedImport& import, Work work, Land land) {
+  import->whenBegun([import, work = std::move(work), land = std::move(land)] {
+    const auto& folder = import->folder();
+  if (!folder) return land(tl::unexpected(folder.error()));
+  const auto inIt = [work, folder = *folder] { return work(folder); };
+  inBackground(import->services().workers, inIt, land);
+});
+}  // namespace
+
 // `kind` is what the user chose; by content and extension if there is none.
 void importFile(const SharedImport& import, ItemLanding::Place place, const QString& path,
                 std::optional<FileKind> kind) {
-  const auto landed = [import, place, path](const Result<ImportedFile>& file) {
-    import->land(place, lastPathComponent(path), file.map([](const ImportedFile& imported) {
-      return Item::create(payloadOf(imported));
-    }));
-};
-  import->whenBegun([import, path, kind, landed] {
-    const auto& folder = import->folder();
-  if (!folder) return landed(tl::unexpected(folder.error()));
-  inBackground(
-      import->services().workers,
-      [import, folder = *folder, path, kind] {
-        return bringIn(import->services(), folder, path, kind);
-      },
-      landed);
-  });
-  }
-
-  // Blanks and tabs at both ends go, line ends stay.
-  QString withoutBlanks(const QString& name) {
-    const auto isBlank = [](QChar c) {
-      return c == QLatin1Char('\t') || c.category() == QChar::Separator_Space;
-    };
-    qsizetype begin = 0, end = name.size();
-    while (begin < end && isBlank(name.at(begin))) ++begin;
-    while (end > begin && isBlank(name.at(end - 1))) --end;
-    return name.mid(begin, end - begin);
-  }
-
-  // The bytes are kept as they came, even if they are no PNG.
-  void importImage(const SharedImport& import, ItemLanding::Place place, const QByteArray& data,
-                   const QString& suggestedName) {
-    const QString base =
-        suggestedName.isEmpty() ? QStringLiteral("Image") : withoutPathExtension(suggestedName);
-  const auto landed = [import, place, base](const Result<AssetRef>& asset) {
-    import->land(place, base, asset.map([&](const AssetRef& image) {
-      return Item::create(ImagePayload{image, base});
-    }));
+  const auto work = [import, path, kind](const AssetFolder& folder) {
+    return bringIn(import->services(), folder, path, kind);
   };
-  import->whenBegun([import, data, base, landed] {
-    const auto& folder = import->folder();
-  if (!folder) return landed(tl::unexpected(folder.error()));
-  inBackground(
-      import->services().workers,
-      [folder = *folder, data, base] {
-        return folder.write(data, base + QStringLiteral(".png"), QStringLiteral("png"));
-      },
-      landed);
+  const QString name = lastPathComponent(path);
+  const auto land = [import, place, name](const Result<ImportedFile>& file) {
+    import->land(place, name, file.map(itemOf));
+  };
+  inFolder(import, work, land);
+}
+
+// Blanks and tabs at both ends go, line ends stay.
+QString withoutBlanks(const QString& name) {
+  const auto isBlank = [](QChar c) {
+    return c == QLatin1Char('\t') || c.category() == QChar::Separator_Space;
+  };
+  qsizetype begin = 0, end = name.size();
+  while (begin < end && isBlank(name.at(begin))) ++begin;
+  while (end > begin && isBlank(name.at(end - 1))) --end;
+  return name.mid(begin, end - begin);
+}
+
+// The bytes are kept as they came, even if they are no PNG.
+void importImage(const SharedImport& import, ItemLanding::Place place, const QByteArray& data,
+                 const QString& base) {
+  const auto work = [data, base](const AssetFolder& folder) {
+    return folder.write(data, base + QStringLiteral(".png"), QStringLiteral("png"));
+  };
+  const auto toItem = [base](const AssetRef& image) {
+    return Item::create(ImagePayload{image, base});
+  };
+  const auto land = [import, place, base, toItem](const Result<AssetRef>& asset) {
+    import->land(place, base, asset.map(toItem));
+  };
+  inFolder(import, work, land);
+}
+
+void loadFile(const SharedImport& import, DroppedThing& thing) {
+  const ItemLanding::Place place = import->take(thing.suggestedName());
+  thing.loadURL([import, place](const std::optional<QString>& path) {
+    path ? importFile(import, place, *path, std::nullopt) : import->drop(place);
   });
+}
+
+void loadImage(const SharedImport& import, DroppedThing& thing) {
+  const QString name = withoutBlanks(thing.suggestedName());
+  const QString base = name.isEmpty() ? QStringLiteral("Image") : withoutPathExtension(name);
+  const ItemLanding::Place place = import->take(base);
+  const auto loaded = [import, place, base](const std::optional<QByteArray>& data) {
+    data ? importImage(import, place, *data, base) : import->drop(place);
+  };
+  thing.loadData(DropType::image, loaded);
+}
+
+bool moveDragged(const DroppedThings& things, const QUuid& section, BrandDocument& document) {
+  const auto move = [document = QPointer(&document), section](const QUuid& item) {
+    if (document) document->moveItem(item, section, std::nullopt);
+  };
+  return ItemDrag::loadUUID(things, ItemDrag::type, move);
+}
+
+bool isTaken(const DroppedThing& thing) {
+  return thing.conforms(DropType::fileURL) || thing.conforms(DropType::image);
+}
+
+void importChosen(const ImportServices& services, const QStringList& paths, FileKind kind,
+                  const QUuid& section, BrandDocument& document) {
+  const SharedImport import = begin(services, section, document);
+  for (const QString& path : paths) {
+    importFile(import, import->take(lastPathComponent(path)), path, kind);
   }
+}
 
-  void loadFile(const SharedImport& import, DroppedThing& thing) {
-    const ItemLanding::Place place = import->take();
-    thing.loadURL([import, place](const std::optional<QString>& path) {
-      if (!path) return import->drop(place);
-      importFile(import, place, *path, std::nullopt);
-    });
+}  // namespace tarnloft::DropImport
+
+const QSet<QString>& fontExtensions() {
+  static const QSet<QString> extensions{QStringLiteral("otf"),  QStringLiteral("ttf"),
+                                        QStringLiteral("ttc"),  QStringLiteral("otc"),
+                                        QStringLiteral("woff"), QStringLiteral("woff2"),
+                                        QStringLiteral("dfont")};
+  return extensions;
+}
+
+bool handle(const ImportServices& services, const DroppedThings& things, const QUuid& section,
+            BrandDocument& document) {
+  if (moveDragged(things, section, document)) return true;
+  DroppedThings taken;
+  for (const auto& thing : things) {
+    if (isTaken(*thing)) taken << thing;
   }
-
-  void loadImage(const SharedImport& import, DroppedThing& thing) {
-    const ItemLanding::Place place = import->take();
-    const QString name = withoutBlanks(thing.suggestedName());
-    thing.loadData(DropType::image, [import, place, name](const std::optional<QByteArray>& data) {
-      if (!data) return import->drop(place);
-      importImage(import, place, *data, name);
-    });
+  if (taken.isEmpty()) return false;
+  const SharedImport import = begin(services, section, document);
+  for (const auto& thing : taken) {
+    // A file comes as the file that it is, even where the source offers its picture too.
+    thing->conforms(DropType::fileURL) ? loadFile(import, *thing) : loadImage(import, *thing);
   }
+  return true;
+}
 
-  bool moveDragged(const DroppedThings& things, const QUuid& section, BrandDocument& document) {
-    return ItemDrag::loadUUID(things, ItemDrag::type,
-                              [document = QPointer(&document), section](const QUuid& item) {
-                                if (document) document->moveItem(item, section, std::nullopt);
-                              });
-  }
+void importFiles(const ImportServices& services, const QStringList& paths, MediaKind kind,
+                 const QUuid& section, BrandDocument& document) {
+  importChosen(services, paths, kind == MediaKind::video ? FileKind::video : FileKind::image,
+               section, document);
+}
 
-  bool isTaken(const DroppedThing& thing) {
-    return thing.conforms(DropType::fileURL) || thing.conforms(DropType::image);
-  }
+void importFontFiles(const ImportServices& services, const QStringList& paths, const QUuid& section,
+                     BrandDocument& document) {
+  importChosen(services, paths, FileKind::font, section, document);
+}
 
-  void importChosen(const ImportServices& services, const QStringList& paths, FileKind kind,
-                    const QUuid& section, BrandDocument& document) {
-    const SharedImport import = begin(services, section, document);
-    for (const QString& path : paths) importFile(import, import->take(), path, kind);
-  }
+bool finish(QThreadPool& workers, std::chrono::milliseconds patience) {
+  constexpr int pause = 20;  // milliseconds
+  const QDeadlineTimer deadline(patience);
+  do {
+    const bool isIdle = workers.waitForDone(pause);
+    QCoreApplication::sendPostedEvents(QCoreApplication::instance(), QEvent::MetaCall);
+    if (isIdle && workers.waitForDone(0)) return true;  // what came asked for nothing more
+  } while (!deadline.hasExpired());
+  return false;
+}
 
-  }  // namespace
-
-  const QSet<QString>& fontExtensions() {
-    static const QSet<QString> extensions{QStringLiteral("otf"),  QStringLiteral("ttf"),
-                                          QStringLiteral("ttc"),  QStringLiteral("otc"),
-                                          QStringLiteral("woff"), QStringLiteral("woff2"),
-                                          QStringLiteral("dfont")};
-    return extensions;
-  }
-
-  bool handle(const ImportServices& services, const DroppedThings& things, const QUuid& section,
-              BrandDocument& document) {
-    if (moveDragged(things, section, document)) return true;
-    DroppedThings taken;
-    for (const auto& thing : things) {
-      if (isTaken(*thing)) taken << thing;
-    }
-    if (taken.isEmpty()) return false;
-    const SharedImport import = begin(services, section, document);
-    for (const auto& thing : taken) {
-      // A file comes as the file that it is, even where the source offers its picture too.
-      thing->conforms(DropType::fileURL) ? loadFile(import, *thing) : loadImage(import, *thing);
-    }
-    return true;
-  }
-
-  void importFiles(const ImportServices& services, const QStringList& paths, MediaKind kind,
-                   const QUuid& section, BrandDocument& document) {
-    importChosen(services, paths, kind == MediaKind::video ? FileKind::video : FileKind::image,
-                 section, document);
-  }
-
-  void importFontFiles(const ImportServices& services, const QStringList& paths,
-                       const QUuid& section, BrandDocument& document) {
-    importChosen(services, paths, FileKind::font, section, document);
-  }
-
-  bool finish(QThreadPool& workers, std::chrono::milliseconds patience) {
-    constexpr int pause = 20;  // milliseconds
-    const QDeadlineTimer deadline(patience);
-    do {
-      const bool isIdle = workers.waitForDone(pause);
-      QCoreApplication::sendPostedEvents(QCoreApplication::instance(), QEvent::MetaCall);
-      if (isIdle && workers.waitForDone(0)) return true;  // what came asked for nothing more
-    } while (!deadline.hasExpired());
-    return false;
-  }
-
-  }  // namespace tarnloft::DropImport
+}  // namespace tarnloft::DropImport

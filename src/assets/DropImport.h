@@ -1,5 +1,6 @@
 #pragma once
 
+#include "assets/ImportProgress.h"
 #include "assets/ItemLanding.h"
 #include "platform/ContentTypes.h"
 #include "platform/DroppedThing.h"
@@ -20,6 +21,7 @@ struct ImportServices {
   AddToClosed addToClosed;
   // Told of the files of one call that couldn't be brought in, and why the first of them couldn't.
   std::function<void(const QStringList& names, const QString& reason)> failed = nullptr;
+  ImportProgress* progress = nullptr;
 };
 
 // Files and pictures become items of a section. Main thread; files are copied and read by the

@@ -165,7 +165,7 @@ void TestDragData::readsFilesInOrder() {
     found << pathOf(*thing);
   }
   QCOMPARE(found, paths);
-  QVERIFY(drops.offers(*drop, DropType::fileURL));
+  QCOMPARE(drops.offers(*drop, DropType::fileURL), !paths.isEmpty());
   const auto named =
       foreign({{"text/uri-list", "file://" + QSysInfo::machineHostName().toUtf8() + "/a.png\r\n"}});
   QCOMPARE(pathOf(*drops.things(*named).at(0)), "/a.png");
@@ -189,6 +189,14 @@ void TestDragData::readsPictures_data() {
   row("a data address", {{"text/uri-list", "data:image/png;base64,AAAA/BBBB"}, {"image/png", "x"}},
       "x", "");
   row("an empty picture", {{"image/png", ""}}, "none", "");
+  const QByteArray address("h\0t\0t\0p\0:\0/\0/\0x\0/\0a\0.\0g\0i\0f\0\n\0A\0", 34);
+  row("a picture to save",
+      {{"application/octet-stream", "GIF89a"},
+       {"XdndDirectSave0", ""},
+       {"text/x-moz-url", address}},
+      "GIF89a", "a.gif");
+  row("no picture to save", {{"application/octet-stream", "%PDF-1.4"}, {"XdndDirectSave0", ""}},
+      "none", "");
 }
 
 void TestDragData::readsPictures() {
@@ -204,6 +212,10 @@ void TestDragData::readsPictures() {
   QTEST(dataOf(*things[0], DropType::image), "bytes");
   QTEST(things[0]->suggestedName(), "name");
   QVERIFY(drops.things(*foreign({{"text/plain", "x"}})).isEmpty());
+  for (const char* list : {"", "https://x.example/a", "file:///tmp", "file:///tmp\r\nfile:///"}) {
+    const auto nothing = foreign({{"text/uri-list", list}, {"text/x-moz-url", "h"}});
+    QVERIFY(!drops.offers(*nothing, DropType::fileURL) && !drops.offers(*nothing, DropType::image));
+  }
 }
 
 void TestDragData::encodesAPictureInTheBackground() {

@@ -55,7 +55,7 @@ WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
           [this] { return makeColorSampler(); },
           media.thumbnails,
           media.posters,
-          {types, fonts, workers, landLate, tellFailed},
+          {types, fonts, workers, landLate, tellFailed, &importProgress},
           drops,
           {files, types, tiff},
           dragSession};

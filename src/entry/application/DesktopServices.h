@@ -48,6 +48,7 @@ struct DesktopServices {
   DiskThread copies;
   QThreadPool workers;  // of what is dropped; waited for before the others go
   MimeDrops drops{workers};
+  ImportProgress importProgress;
 
   // Tells the user that something failed: the library's, once there is one.
   std::function<void(const QString& title, const QString& message)> tell;

@@ -6,14 +6,21 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QImage>
+#include <QMimeDatabase>
+#include <QStringDecoder>
 #include <QSysInfo>
 #include <QUrl>
 
 #include <algorithm>
+#include <chrono>
+#include <future>
 #include <limits>
+#include <memory>
 
 namespace tarnloft {
 namespace {
+
+using namespace std::chrono_literals;
 
 constexpr qint64 largest = std::numeric_limits<qint64>::max();
 
@@ -21,6 +28,10 @@ using Done = std::function<void(std::optional<QByteArray>)>;
 using PathDone = std::function<void(std::optional<QString>)>;
 
 const QString toolkitImage = QStringLiteral("application/x-qt-image");
+// How browsers offer a picture of a page: its bytes, for a receiver that would save them.
+const QString plainBytes = QStringLiteral("application/octet-stream");
+const QString directSave = QStringLiteral("XdndDirectSave0");
+const QString webAddress = QStringLiteral("text/x-moz-url");  // and a title, in UTF-16
 
 // A file of any program.
 class FileThing : public DroppedThing {
@@ -57,6 +68,10 @@ class OwnThing : public DroppedThing {
   DragItem item_;
 };
 
+bool isPicture(const QByteArray& bytes) {
+  return QMimeDatabase().mimeTypeForData(bytes).name().startsWith(QLatin1String("image/"));
+}
+
 // Picture data without a file, such as a picture of a page in a browser.
 class ImageThing : public DroppedThing {
  public:
@@ -69,7 +84,8 @@ class ImageThing : public DroppedThing {
     if (type != DropType::image) return done(std::nullopt);
     if (format_ == toolkitImage) return encode(drop_.imageData().value<QImage>(), done);
     const QByteArray bytes = drop_.data(format_);
-    done(bytes.isEmpty() ? std::nullopt : std::optional(bytes));
+    const bool isTaken = !bytes.isEmpty() && (format_ != plainBytes || isPicture(bytes));
+    done(isTaken ? std::optional(bytes) : std::nullopt);
   }
   QString suggestedName() const override { return name_; }
 
@@ -99,7 +115,9 @@ std::optional<QString> imageFormat(const QStringList& formats) {
     return format.startsWith(QLatin1String("image/"));
   });
   if (found != formats.end()) return *found;
-  return formats.contains(toolkitImage) ? std::optional(toolkitImage) : std::nullopt;
+  if (formats.contains(toolkitImage)) return toolkitImage;
+  const bool isSavable = formats.contains(directSave) && formats.contains(plainBytes);
+  return isSavable ? std::optional(plainBytes) : std::nullopt;
 }
 
 // Some programs put this machine's name into the address.
@@ -113,10 +131,20 @@ std::optional<QString> localPath(const QUrl& url) {
   return plain.toLocalFile();
 }
 
+std::optional<QUrl> addressOf(const QMimeData& drop) {
+  if (const QList<QUrl> urls = drop.urls(); !urls.isEmpty()) return urls.first();
+  if (!drop.hasFormat(webAddress)) return std::nullopt;
+  const QByteArray bytes = drop.data(webAddress);
+  QStringDecoder decode(QStringDecoder::Utf16LE);
+  const QString lines = decode(bytes);
+  return QUrl(lines.section(QLatin1Char('\n'), 0, 0));
+}
+
 // A picture from the web is named by its address.
-QString nameOnTheWeb(const QList<QUrl>& urls) {
-  if (urls.isEmpty() || !urls.first().scheme().startsWith(QLatin1String("http"))) return {};
-  return urls.first().fileName(QUrl::FullyDecoded);
+QString nameOnTheWeb(const QMimeData& drop) {
+  const auto url = addressOf(drop);
+  const bool isOnTheWeb = url && url->scheme().startsWith(QLatin1String("http"));
+  return isOnTheWeb ? url->fileName(QUrl::FullyDecoded) : QString();
 }
 
 DroppedThings ownThings(const QList<DragItem>& items) {
@@ -133,8 +161,24 @@ bool MimeDrops::offers(const QMimeData& drag, const QString& type) const {
     return std::any_of(items.begin(), items.end(),
                        [&](const DragItem& item) { return OwnThing(item).conforms(type); });
   }
-  if (type == DropType::fileURL) return drag.hasFormat(DropType::fileURL);
+  if (type == DropType::fileURL) return drag.hasFormat(DropType::fileURL) && holdsFile(drag.urls());
   return type == DropType::image && imageFormat(drag.formats());
+}
+
+// A folder can't be brought in. The disk may be slow, and the drag hovers: what isn't known at once
+// counts as a file.
+bool MimeDrops::holdsFile(const QList<QUrl>& urls) const {
+  QStringList paths;
+  for (const QUrl& url : urls) {
+    if (const auto path = localPath(url)) paths << *path;
+  }
+  if (paths.isEmpty()) return false;
+  const auto look = std::make_shared<std::packaged_task<bool()>>([paths] {
+    return std::ranges::any_of(paths, [](const QString& path) { return !QFileInfo(path).isDir(); });
+  });
+  auto isFile = look->get_future();
+  workers_.start([look] { (*look)(); });
+  return isFile.wait_for(50ms) != std::future_status::ready || isFile.get();
 }
 
 DroppedThings MimeDrops::things(const QMimeData& drop) const {
@@ -146,7 +190,7 @@ DroppedThings MimeDrops::things(const QMimeData& drop) const {
   }
   if (!things.isEmpty()) return things;
   if (const auto format = imageFormat(drop.formats())) {
-    things << std::make_shared<ImageThing>(drop, *format, nameOnTheWeb(urls), workers_);
+    things << std::make_shared<ImageThing>(drop, *format, nameOnTheWeb(drop), workers_);
   }
   return things;
 }

@@ -2,7 +2,9 @@
 
 #include "platform/DroppedThing.h"
 
+#include <QList>
 #include <QThreadPool>
+#include <QUrl>
 
 namespace tarnloft {
 
@@ -17,6 +19,8 @@ class MimeDrops : public DropReader {
   DroppedThings things(const QMimeData& drop) const override;
 
  private:
+  bool holdsFile(const QList<QUrl>& urls) const;
+
   QThreadPool& workers_;
 };
 
