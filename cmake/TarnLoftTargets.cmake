@@ -19,7 +19,9 @@ endif()
 option(TARNLOFT_WERROR "Treat warnings as errors" OFF)
 set(TARNLOFT_SANITIZERS "" CACHE STRING "Sanitizers to build with, such as address,undefined")
 
-add_compile_options(-Wall -Wextra -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast)
+add_compile_options(
+  -Wall -Wextra -Wshadow
+  "$<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor;-Woverloaded-virtual;-Wold-style-cast>")
 if(TARNLOFT_WERROR)
   add_compile_options(-Werror)
 endif()

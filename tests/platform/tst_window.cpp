@@ -33,6 +33,7 @@ class TestWindow : public QObject {
   void picksByThePortal();
   void picksFromTheScreen_data();
   void picksFromTheScreen();
+  void asksByThePortal();
   void choosesFilesAndPackages_data();
   void choosesFilesAndPackages();
 };
@@ -77,6 +78,40 @@ class FakePortal : public QObject, protected QDBusContext {
         QDBusMessage::createSignal(path, "org.freedesktop.portal.Request", "Response");
     signal << response << QVariantMap{{"color", QVariant::fromValue(color)}};
     bus.send(signal);
+  }
+};
+
+// A desktop's file dialogs, with a user who answers at once.
+class FakeFileChooser : public QObject, protected QDBusContext {
+  Q_OBJECT
+  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.FileChooser")
+
+ public:
+  QList<QStringList> answers;  // one for each dialog; empty for a cancelled one
+  QStringList asked;
+
+ public slots:
+  QDBusObjectPath OpenFile(const QString& parent, const QString& title,
+                           const QVariantMap& options) {
+    return ask(parent, title, options);
+  }
+  QDBusObjectPath SaveFile(const QString& parent, const QString& title,
+                           const QVariantMap& options) {
+    return ask(parent, title, options);
+  }
+
+ private:
+  QDBusObjectPath ask(const QString& parent, const QString& title, const QVariantMap& options) {
+    asked << parent + ' ' + title + ' ' + options.value("current_name").toString() +
+                 options.value("current_folder").toByteArray();
+    QString sender = message().service().mid(1);
+    const QString path = "/org/freedesktop/portal/desktop/request/" + sender.replace('.', '_') +
+                         '/' + options.value("handle_token").toString();
+    auto signal = QDBusMessage::createSignal(path, "org.freedesktop.portal.Request", "Response");
+    const QStringList chosen = answers.takeFirst();
+    signal << uint(chosen.isEmpty() ? 1 : 0) << QVariantMap{{"uris", chosen}};
+    QTimer::singleShot(0, this, [bus = connection(), signal] { bus.send(signal); });
+    return QDBusObjectPath(path);
   }
 };
 
@@ -200,6 +235,33 @@ void TestWindow::picksFromTheScreen() {
   QCOMPARE(qRound(pick.color->red * 255), 0xcc);
   QCOMPARE(qRound(pick.color->green * 255), 0x33);
   QCOMPARE(qRound(pick.color->blue * 255), 0x11);
+}
+
+void TestWindow::asksByThePortal() {
+  FakeFileChooser chooser;
+  const Service service("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
+                        &chooser);
+  const QTemporaryDir folder;
+  const QString base = "file://" + folder.path();
+  QFile there(folder.filePath("b c.html"));
+  QVERIFY(there.open(QIODevice::WriteOnly));
+  Plain window;
+  window.show();
+  QVERIFY(QTest::qWaitForWindowExposed(&window));
+  IniPreferences state(folder.filePath("state.ini"));
+  DesktopFileDialogs dialogs(state);
+  const QString parent = "x11:" + QString::number(window.winId(), 16);
+
+  // Without its extension the name is another file's, of which the dialog asks.
+  chooser.answers = {{base + "/b%20c"}, {base + "/new"}};
+  QCOMPARE(dialogs.savePath("A/B", "text/html"), folder.filePath("new.html"));
+  QCOMPARE(chooser.asked, QStringList({parent + " Save A-B",
+                                       parent + " Save b c.html" + folder.path() + QChar(u'\0')}));
+  chooser.answers = {{base + "/1.png", base + "/%23.png"}, {}, {base}};
+  QCOMPARE(dialogs.openFiles({"image/*"}),
+           QStringList({folder.filePath("1.png"), folder.filePath("#.png")}));
+  QCOMPARE(dialogs.openFiles({"image/*"}), QStringList());
+  QCOMPARE(dialogs.chooseFolder(), folder.path());
 }
 
 void TestWindow::choosesFilesAndPackages_data() {

@@ -67,6 +67,10 @@ QStringList knownTypes(const QStringList& mimeTypes) {
   return known;
 }
 
+QString suffixOf(const QStringList& mimeTypes) {
+  return QMimeDatabase().mimeTypeForName(mimeTypes.first()).preferredSuffix();
+}
+
 // One filter of all their names: a list of types would let the user see one of them at a time.
 QString nameFilter(const QStringList& mimeTypes) {
   QStringList patterns;
@@ -77,51 +81,92 @@ QString nameFilter(const QStringList& mimeTypes) {
   return QStringLiteral("(%1)").arg(patterns.join(QLatin1Char(' ')));
 }
 
-}  // namespace
-
-QStringList DesktopFileDialogs::chosenIn(QFileDialog& dialog, const QString& kind) {
-  const QString key = kind + QStringLiteral("DialogFolder");
-  if (const auto folder = state_.text(key); folder && QFileInfo(*folder).isDir()) {
-    dialog.setDirectory(*folder);
-  }
+// The toolkit's, or the desktop's where the toolkit knows it.
+QStringList askToolkit(QFileDialog& dialog, const QString& folder, QWindow* window) {
+  if (QFileInfo(folder).isDir()) dialog.setDirectory(folder);
   dialog.winId();  // makes the window
-  dialog.windowHandle()->setTransientParent(windowInFront());
+  dialog.windowHandle()->setTransientParent(window);
   if (dialog.exec() != QDialog::Accepted) return {};
-  state_.setText(key, dialog.directory().absolutePath());
-  QStringList paths;
-  for (const QString& path : dialog.selectedFiles()) paths << QDir::cleanPath(path);
-  return paths;
+  return dialog.selectedFiles();
 }
 
+QStringList askToolkit(const FileQuestion& question, QWindow* window) {
+  using Kind = FileQuestion::Kind;
+  QFileDialog dialog(nullptr, question.title);
+  switch (question.kind) {
+    case Kind::save:
+      dialog.setAcceptMode(QFileDialog::AcceptSave);
+      dialog.setMimeTypeFilters(question.mimeTypes);
+      dialog.setDefaultSuffix(suffixOf(question.mimeTypes));
+      dialog.selectFile(question.suggestedName);
+      break;
+    case Kind::files:
+      dialog.setFileMode(QFileDialog::ExistingFiles);
+      dialog.setNameFilter(nameFilter(question.mimeTypes));
+      break;
+    case Kind::folder:
+      dialog.setFileMode(QFileDialog::Directory);
+      dialog.setOption(QFileDialog::ShowDirsOnly);
+      break;
+  }
+  return askToolkit(dialog, question.folder, window);
+}
+
+}  // namespace
+
+QString DesktopFileDialogs::folderOf(const QString& key) const {
+  return state_.text(key).value_or(QString());
+}
+
+QStringList DesktopFileDialogs::remembered(const QString& key, const QStringList& paths) {
+  QStringList clean;
+  for (const QString& path : paths) clean << QDir::cleanPath(path);
+  if (!clean.isEmpty()) state_.setText(key, QFileInfo(clean.first()).absolutePath());
+  return clean;
+}
+
+QStringList DesktopFileDialogs::ask(FileQuestion question, const QString& key) {
+  question.folder = folderOf(key);
+  QWindow* const window = windowInFront();
+  const auto chosen = PortalFileChooser().ask(question, window);
+  return remembered(key, chosen ? *chosen : askToolkit(question, window));
+}
+
+// A desktop's dialog gives the name as it was typed. With its extension it may be another file's,
+// of which the user must be asked.
 std::optional<QString> DesktopFileDialogs::savePath(const QString& suggestedName,
                                                     const QString& mimeType) {
-  QFileDialog dialog(nullptr, QStringLiteral("Save"));
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setMimeTypeFilters({mimeType});
-  dialog.setDefaultSuffix(QMimeDatabase().mimeTypeForName(mimeType).preferredSuffix());
-  dialog.selectFile(QString(suggestedName).replace(QLatin1Char('/'), QLatin1Char('-')));
-  return onlyOne(chosenIn(dialog, QStringLiteral("save")));
+  FileQuestion question{FileQuestion::Kind::save,
+                        QStringLiteral("Save"),
+                        {},
+                        QString(suggestedName).replace(QLatin1Char('/'), QLatin1Char('-')),
+                        {mimeType}};
+  for (;;) {
+    const auto path = onlyOne(ask(question, QStringLiteral("saveDialogFolder")));
+    const QString suffix = suffixOf({mimeType});
+    if (!path || suffix.isEmpty() || !QFileInfo(*path).suffix().isEmpty()) return path;
+    const QString whole = *path + QLatin1Char('.') + suffix;
+    if (!QFileInfo::exists(whole)) return whole;
+    question.suggestedName = QFileInfo(whole).fileName();
+  }
 }
 
 QStringList DesktopFileDialogs::openFiles(const QStringList& mimeTypes) {
-  QFileDialog dialog(nullptr, QStringLiteral("Add Files"));
-  dialog.setFileMode(QFileDialog::ExistingFiles);
-  dialog.setNameFilter(nameFilter(mimeTypes));
-  return chosenIn(dialog, QStringLiteral("add"));
+  return ask({FileQuestion::Kind::files, QStringLiteral("Add Files"), {}, {}, mimeTypes},
+             QStringLiteral("addDialogFolder"));
 }
 
 std::optional<QString> DesktopFileDialogs::openFileOrFolder(const QStringList& mimeTypes,
                                                             const QStringList& folderExtensions) {
+  const QString key = QStringLiteral("importDialogFolder");
   FileOrFolderDialog dialog(mimeTypes, folderExtensions);
   dialog.setWindowTitle(QStringLiteral("Import"));
-  return onlyOne(chosenIn(dialog, QStringLiteral("import")));
+  return onlyOne(remembered(key, askToolkit(dialog, folderOf(key), windowInFront())));
 }
 
 std::optional<QString> DesktopFileDialogs::chooseFolder() {
-  QFileDialog dialog(nullptr, QStringLiteral("Choose a Folder"));
-  dialog.setFileMode(QFileDialog::Directory);
-  dialog.setOption(QFileDialog::ShowDirsOnly);
-  return onlyOne(chosenIn(dialog, QStringLiteral("folder")));
+  return onlyOne(ask({FileQuestion::Kind::folder, QStringLiteral("Choose a Folder"), {}, {}, {}},
+                     QStringLiteral("folderDialogFolder")));
 }
 
 }  // namespace tarnloft

@@ -2,13 +2,13 @@
 
 #include "platform/FileDialogs.h"
 #include "platform/Preferences.h"
-
-class QFileDialog;
+#include "platform/desktop/window/PortalFileChooser.h"
 
 namespace tarnloft {
 
-// The toolkit's dialogs, or the desktop's where the toolkit knows some. Each belongs to the window
-// in front, and opens in the folder where the last one of its kind ended. Needs a QApplication.
+// The desktop's own dialogs by its portal, the toolkit's where there is none. Each belongs to the
+// window in front, and opens in the folder where the last one of its kind ended. Needs a
+// QApplication.
 class DesktopFileDialogs : public FileDialogs {
  public:
   // `state` keeps the folders, and outlives this.
@@ -21,7 +21,9 @@ class DesktopFileDialogs : public FileDialogs {
   std::optional<QString> chooseFolder() override;
 
  private:
-  QStringList chosenIn(QFileDialog& dialog, const QString& kind);
+  QStringList ask(FileQuestion question, const QString& key);
+  QString folderOf(const QString& key) const;
+  QStringList remembered(const QString& key, const QStringList& paths);
 
   Preferences& state_;
 };
