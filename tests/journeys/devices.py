@@ -85,7 +85,7 @@ class Wlroots:
     """Virtual devices of the compositors that are made with wlroots."""
 
     def __init__(self, display, size):
-        self._wire, self._size, self._held = Connection(display), size, set()
+        self._wire, self._size = Connection(display), size
         seat = self._wire.bind("wl_seat")
         self._pointer = self._device("zwlr_virtual_pointer_manager_v1", seat)
         self._keyboard = self._device("zwp_virtual_keyboard_manager_v1", seat)
@@ -99,52 +99,71 @@ class Wlroots:
     def close(self):
         self._wire.close()
 
-    def move(self, point, pause):
-        self._point(POINTER_MOTION_ABSOLUTE, struct.pack("IIII", *point, *self._size), pause)
+    def point(self, x, y):
+        self._tell(POINTER_MOTION_ABSOLUTE, struct.pack("IIII", x, y, *self._size))
 
-    def hold(self, button):
-        self._held.add(button)
-        self._point(POINTER_BUTTON, struct.pack("II", BUTTONS[button], 1), 0.05)
+    def button(self, code, state):
+        self._tell(POINTER_BUTTON, struct.pack("II", code, state))
 
-    def release(self, button):
-        if button in self._held:
-            self._held.remove(button)
-            self._point(POINTER_BUTTON, struct.pack("II", BUTTONS[button], 0))
-
-    def press(self, keys):
-        """A key with those that are held meanwhile, or a character."""
-        *held, key = keys.split("+") if len(keys) > 1 else [keys]
-        if key in SHIFTED or len(key) == 1 and key.isupper():
-            held.append("shift")
-            key = SHIFTED.get(key, key.lower())
-        for name in held:
-            self._key(MODIFIERS[name][0], 1)
-        self._hold_modifiers(sum(MODIFIERS[name][1] for name in held))
-        self._key(KEYS[key], 1)
-        self._key(KEYS[key], 0)
-        for name in reversed(held):
-            self._key(MODIFIERS[name][0], 0)
-        self._hold_modifiers(0)
+    def key(self, code, state, modifiers):
+        self._wire.send(self._keyboard, KEYBOARD_MODIFIERS,
+                        struct.pack("IIII", modifiers, 0, 0, 0))
+        self._wire.send(self._keyboard, KEYBOARD_KEY, _now() + struct.pack("II", code, state))
+        self._wire.wait()
 
     def _device(self, manager, seat):
         bound, made = self._wire.bind(manager), self._wire.new()
         self._wire.send(bound, CREATE_DEVICE, struct.pack("II", seat, made))
         return made
 
-    def _point(self, request, body, pause=0.0):
+    def _tell(self, request, body):
         self._wire.send(self._pointer, request, _now() + body)
         self._wire.send(self._pointer, POINTER_FRAME)
         self._wire.wait()
-        time.sleep(pause)
-
-    def _key(self, code, state):
-        self._wire.send(self._keyboard, KEYBOARD_KEY, _now() + struct.pack("II", code, state))
-        self._wire.wait()
-        time.sleep(0.01)
-
-    def _hold_modifiers(self, mask):
-        self._wire.send(self._keyboard, KEYBOARD_MODIFIERS, struct.pack("IIII", mask, 0, 0, 0))
 
 
 def _now():
     return struct.pack("I", int(time.monotonic() * 1000) & 0xffffffff)
+
+
+class Hands:
+    """A desktop's pointer and keys, by devices that are there while it runs."""
+
+    def __init__(self):
+        self.devices = None
+        self._held = set()
+
+    def move(self, *points, pause):
+        for point in points:
+            self.devices.point(*point)
+            time.sleep(pause)
+
+    def hold(self, button):
+        self._held.add(button)
+        self.devices.button(BUTTONS[button], 1)
+        time.sleep(0.05)
+
+    def release(self, button):
+        if button in self._held:
+            self._held.remove(button)
+            self.devices.button(BUTTONS[button], 0)
+
+    def press(self, *keys):
+        for combination in keys:
+            *held, key = combination.split("+")
+            self._press(held, key)
+
+    def write(self, text):
+        for character in text:
+            held = ["shift"] if character in SHIFTED or character.isupper() else []
+            self._press(held, SHIFTED.get(character, character.lower()))
+
+    def _press(self, held, key):
+        modifiers = sum(MODIFIERS[name][1] for name in held)
+        codes = [MODIFIERS[name][0] for name in held] + [KEYS[key]]
+        for code in codes:
+            self.devices.key(code, 1, modifiers)
+        time.sleep(0.02)
+        for code in reversed(codes):
+            self.devices.key(code, 0, modifiers if code == codes[-1] else 0)
+        time.sleep(0.02)

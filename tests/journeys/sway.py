@@ -6,7 +6,7 @@ import pathlib
 import subprocess
 import tempfile
 
-from devices import Wlroots
+from devices import Hands, Wlroots
 from waiting import PATIENCE, until
 
 SIZE = (1280, 1024)
@@ -23,7 +23,7 @@ bindsym Mod1+F4 kill
 """.format(*SIZE)
 
 
-class Desktop:
+class Desktop(Hands):
     brings_back_places = False
 
     @contextlib.contextmanager
@@ -49,7 +49,7 @@ class Desktop:
                     until(lambda: display.exists() and
                           b"HEADLESS-1" in self._tell(kind="get_outputs", check=False),
                           lambda: f"sway: {log.read_text()}")
-                    with contextlib.closing(Wlroots(str(display), SIZE)) as self._devices:
+                    with contextlib.closing(Wlroots(str(display), SIZE)) as self.devices:
                         yield
                 finally:
                     process.terminate()
@@ -69,26 +69,8 @@ class Desktop:
         resize = "resize set {} {}, ".format(*size) if size else ""
         self._tell(f"[con_id={window}] {resize}move absolute position {at[0]} {at[1]}")
 
-    def press(self, *keys):
-        for key in keys:
-            self._devices.press(key)
-
-    def write(self, text):
-        for character in text:
-            self._devices.press(character)
-
     def clipboard(self):
         return self._run("wl-paste", "--no-newline", check=False).decode()
-
-    def move(self, *points, pause):
-        for point in points:
-            self._devices.move(point, pause)
-
-    def hold(self, button):
-        self._devices.hold(button)
-
-    def release(self, button):
-        self._devices.release(button)
 
     def colours_in(self, rectangle):
         x, y, width, height = rectangle

@@ -3,8 +3,9 @@ import pathlib
 import tempfile
 import unittest
 
-from gi.repository import Gio, GLib
+from gi.repository import GLib
 
+from bus import ask
 from desktop import click, colours_in, press, until, visible_window
 from journey import Journey
 from program import Process
@@ -70,17 +71,11 @@ class TheTray(Journey):
         self.assertFalse(tarn.has_ended())
 
 
-def ask(name, path, interface, method, kinds, *arguments):
-    bus = Gio.bus_get_sync(Gio.BusType.SESSION)
-    return bus.call_sync(name, path, interface, method, GLib.Variant(kinds, arguments), None,
-                         Gio.DBusCallFlags.NO_AUTO_START, -1).unpack()
-
-
 def watched(what):
     """What the bus knows of trays and their items; nothing while there is no tray."""
     try:
         return ask(WATCHER, "/StatusNotifierWatcher", "org.freedesktop.DBus.Properties", "Get",
-                   "(ss)", WATCHER, what)[0]
+                   "(ss)", WATCHER, what)
     except GLib.Error:
         return None
 
@@ -88,7 +83,7 @@ def watched(what):
 def item_pids():
     """The processes that have an item in the tray."""
     return [ask("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
-                "GetConnectionUnixProcessID", "(s)", item.partition("/")[0])[0]
+                "GetConnectionUnixProcessID", "(s)", item.partition("/")[0])
             for item in watched("RegisteredStatusNotifierItems") or ()]
 
 

@@ -8,6 +8,7 @@ import gi
 gi.require_version("Gdk", "3.0")
 from gi.repository import Gdk
 
+from pictures import colours_of
 from waiting import PATIENCE, until
 
 
@@ -74,8 +75,5 @@ class Desktop:
         xdotool("mouseup", button)
 
     def colours_in(self, rectangle):
-        picture = Gdk.pixbuf_get_from_window(Gdk.get_default_root_window(), *rectangle)
-        rows, stride = picture.get_pixels(), picture.get_rowstride()
-        step = picture.get_n_channels()
-        pixels = (y * stride + x * step for y in range(rectangle[3]) for x in range(rectangle[2]))
-        return {tuple(rows[at:at + 3]) for at in pixels}
+        return colours_of(
+            Gdk.pixbuf_get_from_window(Gdk.get_default_root_window(), *rectangle))
