@@ -53,6 +53,11 @@ class TheTray(Journey):
         panel.kill()
         until(lambda: tarn.is_active, "the window to come back")
 
+    def test_a_panel_that_starts_later_is_used_too(self):
+        tarn = self.start()
+        self.start_panel()
+        self.close_and_click(tarn)
+
     def start_panel(self):
         panel = self.beside(Process(["xfce4-panel", "--disable-wm-check"], self.environment))
         until(lambda: watched("IsStatusNotifierHostRegistered"), "the panel's tray")
