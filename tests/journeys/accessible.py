@@ -50,8 +50,9 @@ def _ask(questions):
 class Node:
     """One node as it was when it was read, with those beneath it that show."""
 
-    def __init__(self, reference, parent):
+    def __init__(self, reference, parent, origin):
         self._reference = reference
+        self._origin = origin
         self.parent = parent
         self.children = []
 
@@ -69,7 +70,7 @@ class Node:
         bits = states[0][0] | states[0][1] << 32
         self.states = {state for state in KEPT_STATES
                        if bits >> getattr(Atspi.StateType, state.upper()) & 1}
-        return [Node(reference, self) for reference in children[0]]
+        return [Node(reference, self, self._origin) for reference in children[0]]
 
     def __eq__(self, other):
         return isinstance(other, Node) and self._reference == other._reference
@@ -99,7 +100,10 @@ class Node:
     def rectangle(self):
         """Left, top, width and height on the screen, now; none when it has gone."""
         answer = _ask([(*self._reference, COMPONENT, "GetExtents", ON_SCREEN)])[0]
-        return answer and answer[0]
+        if answer is None:
+            return None
+        (left, top), (x, y, width, height) = self._origin(), answer[0]
+        return left + x, top + y, width, height
 
     @property
     def middle(self):
@@ -117,15 +121,17 @@ class Node:
         assert _ask([(*self._reference, ACTION, "DoAction", number)])[0] == (True,), str(self)
 
 
-def application(pid):
-    """All of a process that shows, from the application down; none while it has told of nothing."""
+def application(pid, origin):
+    """All of a process that shows, from the application down; none while it has told of nothing.
+
+    `origin` gives the point on the screen that the process tells its places from."""
     programs = _ask([("org.a11y.atspi.Registry", ROOT, NODE, "GetChildren", None)])[0]
     programs = programs[0] if programs else []
     pids = _ask([("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
                   "GetConnectionUnixProcessID", GLib.Variant("(s)", (name,)))
                  for name, _ in programs])
     found = [reference for reference, its in zip(programs, pids) if its == (pid,)]
-    return _read(Node(found[-1], None)) if found else None
+    return _read(Node(found[-1], None, origin)) if found else None
 
 
 def _read(root):

@@ -1,4 +1,4 @@
-"""A GTK window to drag files from and to. Arguments: x, y, the files that it gives.
+"""A GTK window to drag files from and to. Arguments: the files that it gives.
 
 Prints READY, and for a drop DROPPED with what it was offered and the files that it read, in JSON."""
 import hashlib
@@ -18,7 +18,7 @@ def say(*words):
 
 
 def give(_window, _drag, data, _info, _time):
-    data.set_uris([pathlib.Path(path).as_uri() for path in sys.argv[3:]])
+    data.set_uris([pathlib.Path(path).as_uri() for path in sys.argv[1:]])
 
 
 def take(_window, drag, _x, _y, data, _info, _time):
@@ -31,7 +31,6 @@ def take(_window, drag, _x, _y, data, _info, _time):
 
 window = Gtk.Window(decorated=False)
 window.set_default_size(200, 150)
-window.move(int(sys.argv[1]), int(sys.argv[2]))
 window.drag_source_set(Gdk.ModifierType.BUTTON1_MASK, [], Gdk.DragAction.COPY)
 window.drag_source_add_uri_targets()
 window.connect("drag-data-get", give)

@@ -16,14 +16,13 @@ class Journey(unittest.TestCase):
     def setUpClass(cls):
         folder = tempfile.TemporaryDirectory()
         cls.addClassCleanup(folder.cleanup)
-        manager = desktop.WindowManager(folder.name)
-        cls.addClassCleanup(manager.end)
+        cls.enterClassContext(desktop.here.running(folder.name))
 
     def setUp(self):
         folder = tempfile.TemporaryDirectory(ignore_cleanup_errors=True)
         self.addCleanup(folder.cleanup)
         self.home = Home(folder.name)
-        self.addCleanup(desktop.xdotool, "mouseup", 1)  # for the next one, if this fails in a drag
+        self.addCleanup(desktop.here.release, 1)  # for the next one, if this fails in a drag
 
     def start(self, home=None):
         """Starts the program and waits until its window has the keyboard."""

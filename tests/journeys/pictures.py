@@ -16,3 +16,11 @@ def write_pictures(folder, colours):
         paths.append(pathlib.Path(folder / name))
         picture.savev(str(paths[-1]), "png", [], [])
     return paths
+
+
+def colours_of(picture):
+    """The set of its pixels' (red, green, blue)."""
+    rows, stride, step = picture.get_pixels(), picture.get_rowstride(), picture.get_n_channels()
+    pixels = (y * stride + x * step
+              for y in range(picture.get_height()) for x in range(picture.get_width()))
+    return {tuple(rows[at:at + 3]) for at in pixels}

@@ -104,7 +104,7 @@ class Process:
 
     def __init__(self, command, environment=None):
         self._process = subprocess.Popen(
-            list(map(str, command)), env=os.environ | (environment or {}),
+            list(map(str, command)), env=os.environ | desktop.here.environment | (environment or {}),
             stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
         self.pid = self._process.pid
         self.lines = []
@@ -139,12 +139,14 @@ class Process:
 
 
 def gtk_partner(at, files=()):
-    return _partner(["/usr/bin/python3", "-B", HERE / "gtk_partner.py", *at, *files])
+    partner = _partner(["/usr/bin/python3", "-B", HERE / "gtk_partner.py", *files])
+    desktop.here.place(_window(partner), at)
+    return partner
 
 
 def qt_source(at, what):
     partner = _partner([os.environ["PLAIN_SOURCE"], *at, *what])
-    until(lambda: desktop.visible_window(partner.pid), "the partner's window")
+    _window(partner)
     return partner
 
 
@@ -152,8 +154,12 @@ def x_target(at, formats):
     return _partner([os.environ["XDND_TARGET"], *at, *formats])
 
 
+def _window(partner):
+    return until(lambda: desktop.visible_window(partner.pid), "the partner's window")
+
+
 def _partner(command):
-    partner = Process(command, {"NO_AT_BRIDGE": "1", "GDK_BACKEND": "x11"})
+    partner = Process(command, {"NO_AT_BRIDGE": "1"})
     partner.line("READY")
     return partner
 
@@ -193,7 +199,9 @@ class Program(Process):
     @property
     def tree(self):
         """All that shows now, from the application down."""
-        return until(lambda: accessible.application(self.pid), "the program's accessible tree")
+        def origin():
+            return desktop.here.origin(self.pid)
+        return until(lambda: accessible.application(self.pid, origin), "the program's accessible tree")
 
     def all(self, role, name=None, within=None):
         """Those that show now; `within` is the name of something around them."""
@@ -230,7 +238,7 @@ class Program(Process):
 
     @property
     def window(self):
-        """Its window's number on the X server."""
+        """Its window's number on the desktop."""
         return until(lambda: desktop.visible_window(self.pid, "Tarn Loft"), "the window")
 
     @property
@@ -242,8 +250,7 @@ class Program(Process):
         """Moves the window's frame and sizes its content, as its user does with its border."""
         until(lambda: "didRightSizeWindow" in self.home.kept("config/tarnloft.ini"),
               "the window's own idea of its size")
-        desktop.xdotool("windowsize", "--sync", self.window, *size)
-        desktop.xdotool("windowmove", "--sync", self.window, *at)
+        desktop.here.place(self.window, at, size)
 
     @property
     def geometry(self):

@@ -2,9 +2,10 @@
 import os
 import unittest
 
-from desktop import press, until, visible_window, xdotool
+from desktop import click, press, until, visible_window
 from journey import Journey
 from program import Process, Program, gtk_partner
+from x11 import xdotool
 
 
 class OneInstance(Journey):
@@ -16,7 +17,7 @@ class OneInstance(Journey):
                     xdotool("windowminimize", "--sync", tarn.window)
                 else:
                     self.beside(gtk_partner((300, 300)))
-                    xdotool("mousemove", 400, 375, "click", 1)
+                    click((400, 375))
                     until(lambda: not tarn.is_active, "the other window in front")
                 second = self.beside(Program(self.home))
                 self.assertEqual(second.wait(), 0)

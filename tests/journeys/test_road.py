@@ -3,7 +3,7 @@ import hashlib
 import json
 import unittest
 
-from desktop import Drag, click, clipboard, colours_in, press, until, write
+from desktop import Drag, click, clipboard, colours_in, here, press, until, write
 from journey import ACCENT, Journey
 from pictures import write_pictures
 from program import gtk_partner
@@ -46,6 +46,7 @@ class TheRoad(Journey):
         tarn.click("push button", "Add content to this section", within="Colors")
         tarn.click("menu item", "Color")
         tile = tarn.find("list item", "#4C6FFF")
+        self.eventually(lambda: len(acme.items("Colors")), 1)
         click(tile.middle)
         self.eventually(clipboard, "#4C6FFF")
         until(lambda: "Copied #4C6FFF" in tarn.toasts, lambda: f"the toast; heard {tarn.toasts}")
@@ -56,7 +57,8 @@ class TheRoad(Journey):
         self.assertEqual(tarn.wait(), 0)
 
         tarn = self.start()
-        self.assertEqual(tarn.geometry, before[0])
+        if here.brings_back_places:
+            self.assertEqual(tarn.geometry, before[0])
         self.see_tiles(tarn, ["Seal ü", "Mark", "Word Mark"])
         tarn.find("list item", "#4C6FFF")
         self.assertEqual(acme.manifest, before[1])
