@@ -85,8 +85,8 @@ FocusScope {
         }
 
         // A click beside everything ends the editing of a name.
-        TapHandler {
-            onTapped: root.forceActiveFocus(Qt.MouseFocusReason)
+        PlainTap {
+            onClicked: root.forceActiveFocus(Qt.MouseFocusReason)
         }
 
         Column {
