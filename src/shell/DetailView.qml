@@ -8,12 +8,39 @@ import TarnLoft.Workspace
 
 // What stands beside the sidebar: the open brand's page, headed by why its changes aren't saved if
 // they aren't, or an empty state.
-Item {
+FocusScope {
     id: root
 
     required property ContentModel content
 
+    readonly property Sidebar sidebar: content.sidebar
     property bool addingSection: false
+
+    // The keyboard goes on at the button that opened the sidebar.
+    Connections {
+        target: root.sidebar
+
+        function onOpenChanged() {
+            if (!root.sidebar.open && !root.activeFocus)
+                unfold.item?.forceActiveFocus(FocusOrigin.keyboard ? Qt.TabFocusReason : Qt.MouseFocusReason);
+        }
+    }
+
+    LazyItem {
+        id: unfold
+
+        x: 14
+        y: unsaved.height + 15
+        z: 1
+        active: root.sidebar.folded
+        sourceComponent: Button {
+            symbol: "line.3.horizontal"
+            symbolSize: 16
+            kind: Button.Borderless
+            help: "Show Sidebar"
+            onClicked: root.sidebar.open = true
+        }
+    }
 
     LazyItem {
         anchors.fill: parent
@@ -58,6 +85,7 @@ Item {
             anchors.fill: parent
             anchors.topMargin: unsaved.height
             workspace: modelData
+            headStart: unfold.active ? unfold.x + unfold.width + 6 : 0
             onAddSectionRequested: root.addingSection = true
 
             Connections {

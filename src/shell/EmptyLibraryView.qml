@@ -10,6 +10,7 @@ Item {
     id: root
 
     required property ContentModel content
+    readonly property real room: width - 32 // for what stands in the middle
 
     function viewOf(detail: int): Component {
         switch (detail) {
@@ -34,6 +35,7 @@ Item {
         id: noSelection
 
         EmptyState {
+            width: Math.min(320, root.room)
             spacing: 10
             symbol: "books.vertical"
             symbolSize: 46
@@ -61,6 +63,7 @@ Item {
         id: unavailable
 
         UnavailableView {
+            width: Math.min(380, root.room)
             alerts: root.content.alerts
         }
     }
@@ -69,6 +72,7 @@ Item {
         id: welcome
 
         WelcomeView {
+            room: root.room
             onCreateRequested: root.content.showNewBrand = true
             onImportRequested: root.content.commands.importBrand()
         }

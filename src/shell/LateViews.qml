@@ -7,6 +7,7 @@ import QtQuick
 QtObject {
     required property Component header // on top of the sidebar
     required property Component detail // beside the sidebar
+    required property Component curtain // under the sidebar that lies over the page
     required property Component libraryProblem // at the sidebar's foot
     required property Component overlay // over the whole window
     required property Component brandMenu // with a `packageURL`

@@ -15,6 +15,9 @@ LateViews {
     detail: DetailView {
         content: root.content
     }
+    curtain: SidebarCurtain {
+        sidebar: root.content.sidebar
+    }
     libraryProblem: LibraryProblemBar {
         content: root.content
     }

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import TarnLoft.Controls
 import TarnLoft.Shell
 
@@ -11,11 +10,8 @@ MenuBar {
 
     required property ContentModel content
 
-    function openMenu(index: int) {
-        (itemAt(index) as T.MenuBarItem).triggered();
-    }
-
     background: null
+    onOpeningByKey: content.sidebar.open = true
 
     WindowCommands {
         id: windowCommands
@@ -43,14 +39,14 @@ MenuBar {
 
     Shortcut {
         sequences: ["Alt+F"]
-        onActivated: root.openMenu(0)
+        onActivated: root.openByKey(0)
     }
     Shortcut {
         sequences: ["Alt+E"]
-        onActivated: root.openMenu(1)
+        onActivated: root.openByKey(1)
     }
     Shortcut {
         sequences: ["Alt+I"]
-        onActivated: root.openMenu(2)
+        onActivated: root.openByKey(2)
     }
 }

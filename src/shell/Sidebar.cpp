@@ -3,6 +3,7 @@
 #include "platform/DesktopWords.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tarnloft {
 
@@ -15,10 +16,26 @@ std::optional<BrandSummary> Sidebar::brandAt(const QString& packageURL) const {
   return found == brands.cend() ? std::nullopt : std::optional(*found);
 }
 
-void Sidebar::select(const QString& packageURL) { library_.select(packageURL); }
+void Sidebar::setFolded(bool folded) {
+  if (isFolded_ == folded) return;
+  setOpen(false);
+  isFolded_ = folded;
+  emit foldedChanged();
+}
+
+void Sidebar::setOpen(bool open) {
+  open = open && isFolded_;
+  if (std::exchange(isOpen_, open) != open) emit openChanged();
+}
+
+void Sidebar::select(const QString& packageURL) {
+  library_.select(packageURL);
+  setOpen(false);
+}
 
 void Sidebar::scrollToSection(const QString& id) {
   library_.setScrollToSection(QUuid::fromString(id));
+  setOpen(false);
 }
 
 void Sidebar::duplicate(const QString& packageURL) {

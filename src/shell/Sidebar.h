@@ -11,6 +11,10 @@ class Sidebar : public QObject {
   QML_ELEMENT
   QML_UNCREATABLE("Each window has one")
   Q_PROPERTY(tarnloft::SidebarModel* rows READ rows CONSTANT)
+  // The window is too narrow for it to stand beside the page, as its view tells.
+  Q_PROPERTY(bool folded READ isFolded WRITE setFolded NOTIFY foldedChanged)
+  // While folded: it lies over the page. Something being chosen in it ends that.
+  Q_PROPERTY(bool open READ isOpen WRITE setOpen NOTIFY openChanged)
   Q_PROPERTY(bool renaming READ isRenaming NOTIFY renamingChanged)
   Q_PROPERTY(QString renameText READ renameText NOTIFY renamingChanged)
   Q_PROPERTY(bool deleting READ isDeleting NOTIFY deletingChanged)
@@ -25,6 +29,11 @@ class Sidebar : public QObject {
   Sidebar(LibraryStore& library, const LibraryServices& services, QObject* parent = nullptr);
 
   SidebarModel* rows() { return &rows_; }
+
+  bool isFolded() const { return isFolded_; }
+  void setFolded(bool folded);
+  bool isOpen() const { return isOpen_; }
+  void setOpen(bool open);
 
   Q_INVOKABLE void select(const QString& packageURL);
   // Asks the workspace to scroll to a section of the open brand.
@@ -69,6 +78,8 @@ class Sidebar : public QObject {
   Q_INVOKABLE void moveDown(const QString& brandID);
 
  signals:
+  void foldedChanged();
+  void openChanged();
   void renamingChanged();
   void deletingChanged();
   void draggingChanged();
@@ -86,6 +97,8 @@ class Sidebar : public QObject {
   LibraryStore& library_;
   FileViewer& viewer_;
   SidebarModel rows_;
+  bool isFolded_ = false;
+  bool isOpen_ = false;
   std::optional<BrandSummary> renaming_;
   std::optional<BrandSummary> pendingDelete_;
   QString draggingBrandID_;

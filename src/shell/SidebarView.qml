@@ -15,6 +15,12 @@ Rectangle {
 
     signal newBrandRequested
 
+    // For the keyboard, from wherever it was.
+    function takeFocus() {
+        const first = list.count > 0 ? list : newBrand;
+        first.forceActiveFocus(FocusOrigin.keyboard ? Qt.TabFocusReason : Qt.MouseFocusReason);
+    }
+
     color: Theme.sidebarBackground
 
     Item {

@@ -10,7 +10,6 @@ EmptyState {
 
     required property Alerts alerts
 
-    width: 380
     spacing: 10
     symbol: "exclamationmark.triangle"
     symbolSize: 46

@@ -7,6 +7,8 @@ import TarnLoft.Controls
 Column {
     id: root
 
+    required property real room // across
+
     signal createRequested
     signal importRequested
 
@@ -25,19 +27,24 @@ Column {
     }
 
     Label {
+        readonly property bool fits: root.room >= 440
+
         anchors.horizontalCenter: parent.horizontalCenter
         topPadding: 8
-        text: "Keep every client's colors, logos, type, and more in one tidy place —\nthen drag them straight into your work."
+        width: fits ? implicitWidth : root.room
+        text: "Keep every client's colors, logos, type, and more in one tidy place —%1then drag them straight into your work.".arg(fits ? "\n" : " ")
         font: Theme.callout
         color: Theme.secondaryLabel
         horizontalAlignment: Text.AlignHCenter
         lineHeight: 1.3
+        wrapMode: Text.Wrap
     }
 
-    Row {
+    Grid {
         anchors.horizontalCenter: parent.horizontalCenter
         topPadding: 34
         spacing: 28
+        columns: root.room < 3 * 130 + 2 * spacing ? 1 : 3
 
         FeatureCell {
             symbol: "paintpalette.fill"

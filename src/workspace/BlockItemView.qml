@@ -17,7 +17,7 @@ FocusScope {
     readonly property real lineHeight: paragraph ? paragraph.contentHeight / paragraph.lineCount : height
     readonly property LineField heading: field.item as LineField
     readonly property TextArea paragraph: field.item as TextArea
-    readonly property bool held: gripDrag.active || restDrag.active
+    readonly property bool held: gripDrag.carries || restDrag.carries
 
     function typeAtEnd() {
         field.item.forceActiveFocus(Qt.MouseFocusReason);
@@ -83,8 +83,8 @@ FocusScope {
         width: field.width - x
         height: parent.height
 
-        TapHandler {
-            onTapped: root.typeAtEnd()
+        PlainTap {
+            onClicked: root.typeAtEnd()
         }
 
         TileDragHandler {

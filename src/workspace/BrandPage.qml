@@ -15,6 +15,9 @@ FocusScope {
     // Of the section that has the keyboard, or of the place behind all; -1 for neither.
     property int focusedSection: -1
 
+    // What the window needs at the start of the head, in front of the title.
+    property real headStart: 0
+
     signal addSectionRequested
 
     // Scrolls to that section, which is counted among all.
@@ -42,9 +45,9 @@ FocusScope {
     Label {
         id: title
 
-        x: 24
+        x: Math.max(24, root.headStart)
         y: 14
-        width: parent.width - 48
+        width: parent.width - 24 - x
         text: root.workspace.name
         font: Theme.font(26, Font.Bold)
         Accessible.role: Accessible.Heading
@@ -85,8 +88,8 @@ FocusScope {
         }
 
         // A click beside everything ends the editing of a name.
-        TapHandler {
-            onTapped: root.forceActiveFocus(Qt.MouseFocusReason)
+        PlainTap {
+            onClicked: root.forceActiveFocus(Qt.MouseFocusReason)
         }
 
         Column {

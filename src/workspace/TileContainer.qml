@@ -12,7 +12,7 @@ Item {
     required property Tile tile
 
     readonly property bool focused: activeFocus && FocusOrigin.keyboard
-    readonly property bool dragged: drag.active || tile.dragged
+    readonly property bool dragged: drag.carries || tile.dragged
     readonly property bool hovering: hover.hovered && !dragged
 
     opacity: tile.dragged ? 0.45 : 1
@@ -101,12 +101,10 @@ Item {
         id: hover
     }
 
-    TapHandler {
-        id: tap
-
-        onTapped: {
+    PlainTap {
+        onClicked: modifiers => {
             root.forceActiveFocus(Qt.MouseFocusReason);
-            root.tile.click(Number(tap.point.modifiers));
+            root.tile.click(modifiers);
         }
     }
 

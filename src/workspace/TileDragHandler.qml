@@ -11,17 +11,20 @@ DragHandler {
     required property Item view
     property real radius: 0 // of the picture's corners
 
+    // Not by another button, which the toolkit takes too from a mouse reported as a touchpad.
+    readonly property bool carries: active && Number(centroid.pressedButtons) <= Qt.LeftButton
+
     // The picture is there a frame later, when the button may be up again.
     function start() {
         const ratio = view.Screen.devicePixelRatio;
         const at = view.mapFromItem(parent, centroid.pressPosition);
         const size = Qt.size(Math.round(view.width * ratio), Math.round(view.height * ratio));
         view.grabToImage(result => {
-            if (active)
+            if (carries)
                 tile.drag(view, at, result.image, radius);
         }, size);
     }
 
     target: null
-    onActiveChanged: if (active) start()
+    onCarriesChanged: if (carries) start()
 }

@@ -2,6 +2,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QPointingDevice>
 #include <QQmlContext>
 #include <QQmlExpression>
 #include <QWheelEvent>
@@ -24,6 +25,7 @@ class TestPointer : public QObject {
   void aFieldAtRestShowsItsBeginning();
   void aRightClickOpensTheContextMenu_data();
   void aRightClickOpensTheContextMenu();
+  void aMouseTakenForATouchpadHasItsButtons();
   void textItemsHaveAMenu_data();
   void textItemsHaveAMenu();
   void aClickOutsideLeavesASheet();
@@ -161,6 +163,28 @@ void TestPointer::aRightClickOpensTheContextMenu() {
   stage.press(Qt::Key_Tab);
   stage.press(Qt::Key_F10, Qt::ShiftModifier);
   QTRY_COMPARE(stage.log(), QStringLiteral("requested Delete requested"));
+}
+
+void TestPointer::aMouseTakenForATouchpadHasItsButtons() {
+  using Capability = QInputDevice::Capability;
+  const QPointingDevice pad("touchpad", 1, QInputDevice::DeviceType::TouchPad,
+                            QPointingDevice::PointerType::Finger,
+                            Capability::Position | Capability::MouseEmulation, 1, 3);
+  Stage stage(
+      QStringLiteral("TextArea { objectName: 'field'; text: 'Acme'; width: 200\n"
+                     "  ContextMenuArea { onRequested: log('menu'); menu: Menu {} } }"));
+  const QPointF place(20, 10);
+  for (const auto button : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton}) {
+    QCOMPARE(stage.log(), QString());
+    QCOMPARE(stage.find<QQuickItem>("field")->hasActiveFocus(), button != Qt::LeftButton);
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+      const bool isDown = type == QEvent::MouseButtonPress;
+      QMouseEvent event(type, place, stage.window()->mapToGlobal(place), button,
+                        isDown ? button : Qt::NoButton, {}, &pad);
+      QCoreApplication::sendEvent(stage.window(), &event);
+    }
+  }
+  QCOMPARE(stage.log(), QStringLiteral("menu"));
 }
 
 void TestPointer::textItemsHaveAMenu_data() {

@@ -31,6 +31,13 @@ struct Views : TestShell {
   }
   QQuickWindow& window() const { return *main->window(); }
 
+  // As a desktop that tiles makes it, whatever it asks for.
+  void narrow() const {
+    window().setMinimumSize({});
+    window().resize(500, 600);
+  }
+  static int left(const QQuickItem* item) { return item ? int(item->mapToScene({}).x()) : -1; }
+
   // The item that assistive technology knows by that role and name; null for none that is visible.
   QQuickItem* item(QAccessible::Role role, const QString& name,
                    QQuickItem* within = nullptr) const {

@@ -1,5 +1,6 @@
 #include "platform/controls/Typography.h"
 #include "shell/TestViews.h"
+#include "workspace/Items.h"
 
 #include <QRegularExpression>
 #include <QSignalSpy>
@@ -31,6 +32,8 @@ class TestShellViews : public QObject {
   void opensMenusFromTheKeyboard();
   void theMenuOfABrandHasItsEntries();
   void shortcutsWaitBehindASheet();
+  void aNarrowWindowFoldsItsSidebar();
+  void aFoldedSidebarHasTheMenus();
 };
 
 namespace {
@@ -230,6 +233,67 @@ void TestShellViews::shortcutsWaitBehindASheet() {
   QTRY_VERIFY(!views.item(dialog, "New Brand"));
   views.press(Qt::Key_I, Qt::ControlModifier | Qt::ShiftModifier);
   QVERIFY(!views.library.dialogs.openTypes.isEmpty());
+}
+
+void TestShellViews::aNarrowWindowFoldsItsSidebar() {
+  Views views;
+  views.library.add("Acme", {sectionOf("Colors", {colorItem("Sea")})});
+  views.library.add("Birch");
+  views.start();
+  const double width = views.window().property("sidebarWidth").toDouble();
+  QVERIFY(!views.item(button, "Show Sidebar"));
+  views.narrow();
+  QTRY_VERIFY(views.item(button, "Show Sidebar"));
+  QVERIFY(!views.item(row, "Acme"));
+  QCOMPARE(views.window().property("sidebarWidth").toDouble(), width);  // which is kept
+  const auto tabTo = [&](const QQuickItem* item) {
+    for (int tabs = 0; tabs < 20 && !item->hasActiveFocus(); ++tabs) views.press(Qt::Key_Tab);
+  };
+  tabTo(views.item(button, "Show Sidebar"));
+  views.press(Qt::Key_Space);
+  QTRY_VERIFY(views.item(row, "Acme"));
+  views.press(Qt::Key_A, Qt::ControlModifier);
+  QCOMPARE(views.window().property("content").value<ContentModel*>()->selection()->count(), 1);
+  views.press(Qt::Key_Escape);
+  QTRY_VERIFY(!views.item(row, "Acme"));
+  QVERIFY(views.item(button, "Show Sidebar")->hasActiveFocus());
+  // A choice, a press beside it and the Tab key's way back to the page each end it.
+  const auto open = [&] {
+    views.click(views.item(button, "Show Sidebar"));
+    QTRY_COMPARE(Views::left(views.item(row, "Birch")), 0);
+  };
+  open();
+  views.click(views.item(row, "Birch"));
+  QTRY_VERIFY(!views.item(row, "Birch"));
+  QCOMPARE(views.library.store->selection(), views.library.packagePath("Birch"));
+  open();
+  QTest::mouseClick(&views.window(), Qt::LeftButton, {}, {450, 300});
+  QTRY_VERIFY(!views.item(row, "Birch"));
+  open();
+  tabTo(views.item(button, "Show Sidebar"));
+  QTRY_VERIFY(!views.item(row, "Birch"));
+  open();
+  views.window().resize(900, 600);
+  QTRY_VERIFY(!views.item(button, "Show Sidebar"));
+  QCOMPARE(Views::left(views.item(row, "Birch")), 0);
+  QCOMPARE(views.window().property("sidebarWidth").toDouble(), width);
+}
+
+void TestShellViews::aFoldedSidebarHasTheMenus() {
+  Views views;
+  views.library.add("Acme");
+  views.start();
+  views.narrow();
+  QTRY_VERIFY(views.item(button, "Show Sidebar"));
+  views.press(Qt::Key_F10);
+  QTRY_VERIFY(views.item(entry, "Import Brand…"));
+  QVERIFY(views.item(row, "Acme"));
+  views.press(Qt::Key_Escape);
+  QTRY_VERIFY(!views.item(entry, "Import Brand…"));
+  views.press(Qt::Key_Escape);
+  QTRY_VERIFY(!views.item(row, "Acme"));
+  views.press(Qt::Key_N, Qt::ControlModifier);  // a command of a menu that is folded away
+  QTRY_VERIFY(views.item(dialog, "New Brand"));
 }
 
 QTEST_MAIN(TestShellViews)

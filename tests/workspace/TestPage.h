@@ -6,10 +6,13 @@
 #include "workspace/TileFlow.h"
 
 #include <QAccessible>
+#include <QPointingDevice>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
 #include <QTest>
+
+#include <optional>
 
 namespace tarnloft {
 
@@ -71,6 +74,24 @@ class TestPage {
   void click(const QString& name, Qt::KeyboardModifiers modifiers = {}) {
     QTest::mouseClick(&view, Qt::LeftButton, modifiers, middleOf(name));
   }
+  // From a press to a release of the button, of a mouse that the desktop takes for a touchpad.
+  void padDrag(Qt::MouseButton button, const QPoint& from, std::optional<QPoint> to = {}) {
+    constexpr int steps = 5;
+    time_ += 1000;  // no click is the second one of two
+    const auto send = [&](QEvent::Type type, const QPoint& at, Qt::MouseButton changed,
+                          Qt::MouseButtons held) {
+      QMouseEvent event(type, at, view.mapToGlobal(at), changed, held, {}, &pad_);
+      event.setTimestamp(time_ += 10);
+      QCoreApplication::sendEvent(&view, &event);
+    };
+    send(QEvent::MouseButtonPress, from, button, button);
+    for (int step = 1; to && *to != from && step <= steps; ++step) {
+      send(QEvent::MouseMove, from + (*to - from) * step / steps, Qt::NoButton, button);
+      settle();
+    }
+    send(QEvent::MouseButtonRelease, to.value_or(from), button, {});
+    settle();
+  }
   void key(int key, Qt::KeyboardModifiers modifiers = {}) {
     QTest::keyClick(&view, Qt::Key(key), modifiers);
   }
@@ -83,6 +104,16 @@ class TestPage {
   QQuickView view;
 
  private:
+  using Capability = QInputDevice::Capability;
+  QPointingDevice pad_{"touchpad",
+                       1,
+                       QInputDevice::DeviceType::TouchPad,
+                       QPointingDevice::PointerType::Finger,
+                       Capability::Position | Capability::MouseEmulation,
+                       1,
+                       3};
+  quint64 time_ = 0;
+
   static void collect(QQuickItem* item, QList<TileFlow*>& found) {
     if (auto* flow = qobject_cast<TileFlow*>(item)) found << flow;
     for (QQuickItem* child : item->childItems()) collect(child, found);

@@ -21,6 +21,7 @@ class TestBrandPage : public QObject {
   void init() { QTest::failOnWarning(QRegularExpression(".")); }
   void aClickCopiesAColour();
   void clicksWithKeysSelect();
+  void aMouseTakenForATouchpadIsAMouse();
   void theCheckBoxSelects();
   void hoveringTellsWhatAClickDoes();
   void keysSelectDeleteAndClear();
@@ -167,6 +168,31 @@ void TestBrandPage::clicksWithKeysSelect() {
   QCOMPARE(copied(test), "");
   page.click("b");
   QCOMPARE(selectedNames(test), "");
+}
+
+// GNOME and Plasma report any mouse so.
+void TestBrandPage::aMouseTakenForATouchpadIsAMouse() {
+  TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), textItem("calm")})});
+  TestPage page(test);
+  const QPoint tile = page.middleOf("a");
+  for (const auto other : {Qt::RightButton, Qt::MiddleButton}) {
+    page.padDrag(other, tile, tile);
+    QCOMPARE(copied(test), "");
+    page.padDrag(other, tile, tile + QPoint(40, 20));
+    QVERIFY(test.drags.items.isEmpty());
+  }
+  page.padDrag(Qt::LeftButton, tile, tile);
+  QCOMPARE(copied(test), "#FF0000");
+  const QPoint box = page.tileNamed("a")->mapToScene({16, 16}).toPoint();
+  QTest::mouseMove(&page.view, box);
+  page.settle();
+  page.padDrag(Qt::LeftButton, box, box);
+  QCOMPARE(selectedNames(test), "a");
+  QCOMPARE(copied(test), "#FF0000");
+  page.padDrag(Qt::LeftButton, tile, tile + QPoint(40, 20));
+  QCOMPARE(test.drags.items.size(), 1);
+  page.padDrag(Qt::RightButton, page.tileNamed("calm")->mapToScene({300, 8}).toPoint());
+  QVERIFY(!page.tileNamed("calm")->hasActiveFocus());
 }
 
 void TestBrandPage::theCheckBoxSelects() {

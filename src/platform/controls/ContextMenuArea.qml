@@ -27,11 +27,12 @@ Item {
     anchors.fill: parent
     Accessible.ignored: true
 
-    TapHandler {
+    // No handler of taps, which takes any button of a mouse that the desktop reports as a touchpad.
+    MouseArea {
+        anchors.fill: parent
         acceptedButtons: Qt.RightButton
         enabled: !root.keyboardOnly
-        gesturePolicy: TapHandler.ReleaseWithinBounds
-        onPressedChanged: if (pressed) root.openMenu(point.position.x, point.position.y)
+        onPressed: mouse => root.openMenu(mouse.x, mouse.y)
     }
 
     Shortcut {

@@ -9,6 +9,13 @@ import TarnLoft.Controls
 T.MenuBar {
     id: root
 
+    signal openingByKey // whoever hides the bar shows it
+
+    function openByKey(index: int) {
+        openingByKey();
+        (itemAt(index) as T.MenuBarItem).triggered();
+    }
+
     implicitWidth: contentWidth + leftPadding + rightPadding
     implicitHeight: contentHeight + topPadding + bottomPadding
     leftPadding: 8
@@ -21,8 +28,8 @@ T.MenuBar {
 
     Shortcut {
         sequence: "F10"
-        enabled: root.visible && root.count > 0
-        onActivated: (root.itemAt(0) as T.MenuBarItem).triggered()
+        enabled: root.count > 0
+        onActivated: root.openByKey(0)
     }
 
     contentItem: Row {

@@ -25,6 +25,7 @@ T.MenuBarItem {
 
     background: RoundedRectangle {
         radius: 5
-        color: root.down || root.highlighted ? Theme.pressedFill : root.hovered ? Theme.hoverFill : "transparent"
+        // The toolkit leaves it highlighted when Esc has closed its menu.
+        color: root.down || root.menu?.visible ? Theme.pressedFill : root.hovered ? Theme.hoverFill : "transparent"
     }
 }
