@@ -1,5 +1,6 @@
 #include "sheets/EmblemView.h"
 
+#include "platform/controls/Contrast.h"
 #include "platform/controls/SymbolGlyphs.h"
 #include "platform/controls/Theme.h"
 #include "platform/controls/Typography.h"
@@ -76,9 +77,21 @@ QImage EmblemView::drawn() const {
     painter.setBrush(look_.ground == Ground::Filled ? look_.color
                                                     : Theme::thin(theme_->secondaryLabel(), 0.2));
     painter.drawEllipse(result.rect());
+    if (look_.ground == Ground::Filled) drawRim(painter);
   }
   drawMark(painter);
   return result;
+}
+
+// About a circle that would be lost on what it stands on.
+void EmblemView::drawRim(QPainter& painter) const {
+  constexpr double lost = 1.6;
+  if (contrastRatio(look_.color, theme_->windowBackground()) >= lost) return;
+  const double point = pixelSize().height() / height();
+  painter.setPen(QPen(Theme::thin(theme_->primary(), theme_->isDark() ? 0.34 : 0.22), point));
+  painter.setBrush(Qt::NoBrush);
+  const double inset = point / 2;
+  painter.drawEllipse(QRectF(QPointF(), pixelSize()).adjusted(inset, inset, -inset, -inset));
 }
 
 // Sizes are pixels of the screen.

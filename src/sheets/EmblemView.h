@@ -38,6 +38,7 @@ class EmblemView : public tarnloft::ThumbnailView {
   QImage drawn() const override;
 
  private:
+  void drawRim(QPainter& painter) const;
   void drawMark(QPainter& painter) const;
   QColor ink() const;
 

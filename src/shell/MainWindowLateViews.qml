@@ -28,6 +28,7 @@ LateViews {
         sidebar: root.content.sidebar
     }
     dragGhost: DragGhost {
-        text: root.content.sidebar.draggingName
+        sidebar: root.content.sidebar
+        thumbnails: root.content.thumbnails
     }
 }

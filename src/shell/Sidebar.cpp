@@ -101,9 +101,9 @@ void Sidebar::move(const QString& brandID, const std::optional<QUuid>& before) {
   emit moved();
 }
 
-QString Sidebar::draggingName() const {
-  const qsizetype index = indexOf(draggingBrandID_);
-  return index < 0 ? QString() : library_.brands().at(index).name;
+QVariant Sidebar::ofDragged(SidebarModel::Role role) const {
+  const int row = draggingBrandID_.isEmpty() ? -1 : rows_.rowOf(draggingBrandID_);
+  return row < 0 ? QVariant() : rows_.index(row).data(role);
 }
 
 void Sidebar::beginDrag(const QString& brandID) { setDragging(brandID); }

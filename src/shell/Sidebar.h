@@ -22,7 +22,11 @@ class Sidebar : public QObject {
   // The file manager's entry of a brand's menu.
   Q_PROPERTY(QString revealText READ revealText CONSTANT)
   Q_PROPERTY(QString draggingBrandID READ draggingBrandID NOTIFY draggingChanged)
+  // What the dragged brand's row shows.
   Q_PROPERTY(QString draggingName READ draggingName NOTIFY draggingChanged)
+  Q_PROPERTY(tarnloft::EmblemLook draggingLook READ draggingLook NOTIFY draggingChanged)
+  Q_PROPERTY(bool draggingMarked READ isDraggingMarked NOTIFY draggingChanged)
+  Q_PROPERTY(bool draggingSelected READ isDraggingSelected NOTIFY draggingChanged)
 
  public:
   // Borrowed: the library and all of the services outlive the sidebar.
@@ -67,7 +71,10 @@ class Sidebar : public QObject {
 
   // Empty while no brand is dragged.
   QString draggingBrandID() const { return draggingBrandID_; }
-  QString draggingName() const;
+  QString draggingName() const { return ofDragged(SidebarModel::name).toString(); }
+  EmblemLook draggingLook() const { return ofDragged(SidebarModel::look).value<EmblemLook>(); }
+  bool isDraggingMarked() const { return ofDragged(SidebarModel::marked).toBool(); }
+  bool isDraggingSelected() const { return ofDragged(SidebarModel::selected).toBool(); }
   Q_INVOKABLE void beginDrag(const QString& brandID);
   Q_INVOKABLE void dragEntered(const QString& targetID);
   Q_INVOKABLE void dragEnteredEnd();
@@ -88,6 +95,7 @@ class Sidebar : public QObject {
 
  private:
   std::optional<BrandSummary> brandAt(const QString& packageURL) const;
+  QVariant ofDragged(SidebarModel::Role role) const;
   qsizetype indexOf(const QString& brandID) const;
   void setRenaming(const std::optional<BrandSummary>& brand);
   void setPendingDelete(const std::optional<BrandSummary>& brand);

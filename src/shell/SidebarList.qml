@@ -17,11 +17,16 @@ ListView {
     readonly property int endStrip: 14 // behind the last row, for what is dragged to the end
     readonly property SidebarRow current: currentItem as SidebarRow
 
+    property string currentID: "" // of the current row
+    property T.Menu menu: null // of a brand, the last one that was opened
+    property string menuPackage: "" // of the brand whose menu is open
+
     signal rowDragged(row: SidebarRow, point: point)
     signal rowDropped
 
     function openMenu(row: SidebarRow, x: real, y: real) {
-        const menu = late?.brandMenu.createObject(root, {packageURL: row.packageURL}) as T.Menu;
+        menu = late?.brandMenu.createObject(root, {packageURL: row.packageURL}) as T.Menu;
+        menuPackage = menu ? row.packageURL : "";
         menu?.popup(row, x, y);
     }
 
@@ -38,6 +43,7 @@ ListView {
     bottomMargin: endStrip
     boundsBehavior: Flickable.StopAtBounds
     currentIndex: sidebar.rows.selectedRow()
+    onCurrentItemChanged: currentID = current?.rowID ?? ""
     onActiveFocusChanged: {
         if (activeFocus && FocusOrigin.keyboard)
             currentIndex = sidebar.rows.selectedRow();
@@ -50,6 +56,7 @@ ListView {
         sidebar: root.sidebar
         thumbnails: root.thumbnails
         focused: ListView.isCurrentItem && root.activeFocus && FocusOrigin.keyboard
+        menuOpen: isBrand && root.menuPackage === packageURL
         settling: settled.running
         onPressed: {
             root.currentIndex = index;
@@ -74,6 +81,29 @@ ListView {
         function onMoved() {
             settled.restart();
         }
+    }
+
+    Connections {
+        target: root.menu
+
+        function onAboutToHide() {
+            root.menuPackage = "";
+        }
+    }
+
+    // A row that has gone hands the keyboard to the selected brand, not to what took its place.
+    Connections {
+        target: root.sidebar.rows
+
+        function onUpdated(isOtherSelected: bool) {
+            if (isOtherSelected || root.sidebar.rows.rowOf(root.currentID) < 0)
+                root.currentIndex = root.sidebar.rows.selectedRow();
+        }
+    }
+
+    RowOrder {
+        model: root.sidebar.rows
+        rows: root.contentItem
     }
 
     WheelScroll {

@@ -80,9 +80,20 @@ void SidebarModel::scheduleUpdate() {
   QMetaObject::invokeMethod(this, &SidebarModel::update, Qt::QueuedConnection);
 }
 
+int SidebarModel::rowOf(const QString& id) const {
+  const auto found = std::ranges::find(rows_, QUuid::fromString(id), &Row::id);
+  return found == rows_.cend() ? -1 : int(found - rows_.cbegin());
+}
+
 void SidebarModel::update() {
   updateScheduled_ = false;
+  const auto selectedID = [this] {
+    const int row = selectedRow();
+    return row < 0 ? QUuid() : rows_.at(row).id;
+  };
+  const QUuid before = selectedID();
   apply(wantedRows());
+  emit updated(selectedID() != before);
 }
 
 void SidebarModel::apply(const QList<Row>& rows) {

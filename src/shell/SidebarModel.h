@@ -59,6 +59,13 @@ class SidebarModel : public QAbstractListModel {
   // Position of the selected brand's row, or -1.
   Q_INVOKABLE int selectedRow() const;
 
+  // Of the row with that id, or -1.
+  Q_INVOKABLE int rowOf(const QString& id) const;
+
+ signals:
+  // The rows are those of the library as it is now.
+  void updated(bool isOtherSelected);
+
  private:
   void scheduleUpdate();
   void update();

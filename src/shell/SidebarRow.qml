@@ -12,6 +12,7 @@ Item {
     required property Sidebar sidebar
     required property Thumbnails thumbnails
     required property bool focused
+    required property bool menuOpen
     required property bool settling // moves of rows are shown just now
     required property int index
     required property int kind
@@ -55,7 +56,7 @@ Item {
         height: parent.height
         radius: Theme.fieldRadius
         opacity: root.lifted ? 0.4 : 1
-        color: area.pressed ? Theme.pressedFill : area.containsMouse ? Theme.hoverFill : "transparent"
+        color: area.pressed || root.menuOpen ? Theme.pressedFill : area.containsMouse ? Theme.hoverFill : "transparent"
 
         EmblemView {
             x: root.isBrand ? 10 : 28
@@ -77,6 +78,7 @@ Item {
             font: Theme.font(root.isBrand ? 13 : 12, root.selected ? Font.DemiBold : Font.Normal)
             color: root.ink
             elide: Text.ElideRight
+            horizontalAlignment: Text.AlignLeft // of right-to-left names too, beside their marks
             textFormat: Text.PlainText
             verticalAlignment: Text.AlignVCenter
         }
@@ -107,10 +109,7 @@ Item {
 
         anchors.fill: parent
         handleEnd: root.isBrand ? label.x : 0
-        onPressed: mouse => {
-            if (mouse.accepted)
-                root.pressed();
-        }
+        onTaken: root.pressed()
         onActivated: root.activate()
         onMenuRequested: (x, y) => {
             if (root.isBrand)

@@ -14,6 +14,7 @@ MouseArea {
     property bool wasDrag: false // since the press, so that it is no click
     property point start
 
+    signal taken // pressed, by a button that means something
     signal activated
     signal menuRequested(x: real, y: real)
     signal dragged(x: real, y: real)
@@ -35,6 +36,8 @@ MouseArea {
         mouse.accepted = mouse.button === Qt.LeftButton || mouse.button === Qt.RightButton;
         wasDrag = false;
         start = Qt.point(mouse.x, mouse.y);
+        if (mouse.accepted)
+            taken(); // first, as the menu takes the keyboard
         if (mouse.button === Qt.RightButton)
             Qt.callLater(menuRequested, mouse.x, mouse.y); // behind the focus that the press gives
     }

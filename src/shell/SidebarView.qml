@@ -17,8 +17,11 @@ Rectangle {
 
     // For the keyboard, from wherever it was.
     function takeFocus() {
-        const first = list.count > 0 ? list : newBrand;
-        first.forceActiveFocus(FocusOrigin.keyboard ? Qt.TabFocusReason : Qt.MouseFocusReason);
+        const reason = FocusOrigin.keyboard ? Qt.TabFocusReason : Qt.MouseFocusReason;
+        if (list.count > 0)
+            list.forceActiveFocus(reason);
+        else
+            newBrand.forceActiveFocus(reason);
     }
 
     color: Theme.sidebarBackground

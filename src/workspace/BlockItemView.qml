@@ -14,7 +14,9 @@ FocusScope {
 
     readonly property bool isHeading: tile.kind === TileKind.Header
     readonly property real textWidth: Math.min(field.width, field.item?.implicitWidth ?? 0)
-    readonly property real lineHeight: paragraph ? paragraph.contentHeight / paragraph.lineCount : height
+    readonly property real lineHeight: paragraph ? paragraph.contentHeight / paragraph.lineCount : height - above
+    readonly property int longestLine: 680 // longer ones are hard to read
+    readonly property int above: isHeading ? 10 : 0 // so that it stands nearer to what it heads
     readonly property LineField heading: field.item as LineField
     readonly property TextArea paragraph: field.item as TextArea
     readonly property bool held: gripDrag.carries || restDrag.carries
@@ -27,7 +29,7 @@ FocusScope {
             paragraph.cursorPosition = paragraph.length;
     }
 
-    implicitHeight: field.implicitHeight
+    implicitHeight: above + field.implicitHeight
     opacity: tile.dragged ? 0.45 : 1
 
     DropTarget {
@@ -48,14 +50,28 @@ FocusScope {
         shown: dropTarget.targeted
     }
 
+    LazyItem {
+        x: -6
+        y: root.above - 5
+        width: field.width + 12
+        height: root.height - root.above + 10
+        active: root.tile.selected
+        sourceComponent: RoundedRectangle {
+            radius: Theme.fieldRadius
+            color: Theme.thin(Theme.accent, 0.1)
+            edgeWidth: 2
+            edgeColor: Theme.accent
+        }
+    }
+
     // What is carried: the text, with a little room around it.
     Item {
         id: words
 
         x: -8
-        y: -4
+        y: root.above - 4
         width: root.textWidth + 16
-        height: root.height + 8
+        height: root.height - root.above + 8
 
         RoundedRectangle {
             anchors.fill: parent
@@ -71,7 +87,7 @@ FocusScope {
 
             x: 8
             y: 4
-            width: root.width - 24
+            width: Math.min(root.width - 24, root.longestLine)
             focus: true
             sourceComponent: root.isHeading ? headingField : textField
         }
@@ -80,7 +96,7 @@ FocusScope {
     // The row beside its text; a click there goes into the text.
     Item {
         x: root.textWidth + 8
-        width: field.width - x
+        width: parent.width - x
         height: parent.height
 
         PlainTap {
@@ -108,7 +124,7 @@ FocusScope {
 
         RowGrip {
             x: 2
-            y: Math.round((root.lineHeight - height) / 2)
+            y: root.above + Math.round((root.lineHeight - height) / 2)
             shown: hover.hovered && !root.held
 
             TileDragHandler {
@@ -122,8 +138,8 @@ FocusScope {
     }
 
     LazyItem {
-        anchors.right: parent.right
-        y: Math.round((root.lineHeight - height) / 2)
+        x: field.width + 24 - width
+        y: root.above + Math.round((root.lineHeight - height) / 2)
         active: (hover.hovered || root.activeFocus) && !root.held
         sourceComponent: Button {
             kind: Button.Plain
@@ -143,6 +159,8 @@ FocusScope {
             font: root.tile.level === 1 ? Theme.font(17, Font.Bold)
                 : root.tile.level === 2 ? Theme.font(15, Font.DemiBold) : Theme.headline
             onTextEdited: root.tile.setText(text)
+            Accessible.selectable: true
+            Accessible.selected: root.tile.selected
         }
     }
 
@@ -154,6 +172,8 @@ FocusScope {
             text: root.tile.text
             color: Theme.secondaryLabel
             onEdited: root.tile.setText(text)
+            Accessible.selectable: true
+            Accessible.selected: root.tile.selected
         }
     }
 }

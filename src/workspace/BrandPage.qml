@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import TarnLoft.Controls
 import TarnLoft.Workspace
 
@@ -18,7 +19,22 @@ FocusScope {
     // What the window needs at the start of the head, in front of the title.
     property real headStart: 0
 
+    readonly property int widest: 1200 // of the content, so that tools stay near what they belong to
+    readonly property real contentWidth: Math.min(width - 48, widest)
+    readonly property real contentLeft: Math.round((width - contentWidth) / 2)
+
     signal addSectionRequested
+
+    // Whether nothing that a click could mean stands there.
+    function isGround(at: point): bool {
+        for (let item = root, next = item.childAt(at.x, at.y); next; next = item.childAt(at.x, at.y)) {
+            if (next as TileContainer || next as BlockItemView || next as SectionHeader || next as T.Control)
+                return false;
+            at = item.mapToItem(next, at);
+            item = next;
+        }
+        return true;
+    }
 
     // Scrolls to that section, which is counted among all.
     function showSection(index: int) {
@@ -42,13 +58,30 @@ FocusScope {
         onActivated: root.workspace.clearSelection()
     }
 
+    // Takes the keyboard from a name that is being edited, when the page's ground is clicked.
+    Item {
+        id: ground
+
+        Accessible.ignored: true
+    }
+
+    PlainTap {
+        onClicked: {
+            if (!root.isGround(point.position))
+                return;
+            ground.forceActiveFocus(Qt.MouseFocusReason);
+            root.workspace.clearSelection();
+        }
+    }
+
     Label {
         id: title
 
-        x: Math.max(24, root.headStart)
+        x: Math.max(root.contentLeft, root.headStart)
         y: 14
-        width: parent.width - 24 - x
+        width: root.contentLeft + root.contentWidth - x
         text: root.workspace.name
+        horizontalAlignment: Text.AlignLeft // of a right-to-left one too
         font: Theme.font(26, Font.Bold)
         Accessible.role: Accessible.Heading
     }
@@ -62,7 +95,8 @@ FocusScope {
     }
 
     DragScroll {
-        anchors.fill: scroll
+        anchors.fill: parent
+        head: scroll.y
         flickable: scroll
     }
 
@@ -87,16 +121,11 @@ FocusScope {
             easing.type: Easing.InOutQuad
         }
 
-        // A click beside everything ends the editing of a name.
-        PlainTap {
-            onClicked: root.forceActiveFocus(Qt.MouseFocusReason)
-        }
-
         Column {
             id: column
 
-            x: 24
-            width: scroll.width - 48
+            x: root.contentLeft
+            width: root.contentWidth
             topPadding: 6
             bottomPadding: 28
             spacing: 28

@@ -11,15 +11,24 @@ Item {
     required property Tile tile
 
     Item {
+        id: lines
+
         anchors.fill: parent
         anchors.margins: 8
         clip: true
+
+        FontMetrics {
+            id: metrics
+
+            font: Theme.monospaced(9)
+        }
 
         Text {
             width: parent.width
             text: root.tile.snippet
             wrapMode: Text.Wrap
-            font: Theme.monospaced(9)
+            maximumLineCount: Math.max(1, Math.floor(lines.height / metrics.lineSpacing)) // whole ones
+            font: metrics.font
             color: Theme.label
             textFormat: Text.PlainText
             Accessible.ignored: true

@@ -5,11 +5,12 @@ import TarnLoft.Workspace
 
 // Scrolls a page on while a drag waits near its upper or lower edge. However the page scrolls, what
 // comes under the drag becomes its target.
-//   DragScroll { anchors.fill: scroll; flickable: scroll }
+//   DragScroll { anchors.fill: page; head: scroll.y; flickable: scroll }
 DragWatch {
     id: root
 
     required property Flickable flickable
+    property real head: 0 // the height of what stands above the page, over which it scrolls up too
     property real edge: 48 // points from the edge
     property real fastest: 900 // points a second
 
@@ -17,8 +18,8 @@ DragWatch {
     readonly property real pull: {
         if (hoverY < 0)
             return 0;
-        if (hoverY < edge)
-            return hoverY / edge - 1;
+        if (hoverY < head + edge)
+            return Math.max(0, hoverY - head) / edge - 1;
         return Math.max(0, 1 - (height - hoverY) / edge);
     }
 

@@ -16,6 +16,7 @@ TextField {
     }
 
     bordered: false
+    horizontalAlignment: TextInput.AlignLeft // of a right-to-left name too
     color: elided ? "transparent" : Theme.label
     onActiveFocusChanged: rewind()
     onTextChanged: rewind()
@@ -25,6 +26,7 @@ TextField {
         visible: root.elided
         text: root.text
         font: root.font
+        horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter
         Accessible.ignored: true
     }

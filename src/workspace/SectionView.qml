@@ -72,7 +72,7 @@ FocusScope {
             readonly property string told: "Drop images here, or use ＋ to add colors, type, and more."
 
             visible: root.section.empty
-            width: parent.width
+            width: Math.min(parent.width, 680)
             padding: 18
             text: told.replace("＋", "+") // as most typefaces have no wide one
             font: Theme.callout

@@ -121,11 +121,12 @@ void Tile::click(int modifiers) {
 
 void Tile::toggleSelected() { workspace()->selection().toggle(item_.id, section_.id()); }
 
-void Tile::drag(QQuickItem* view, const QPointF& at, const QImage& grabbed, qreal radius) {
+void Tile::drag(QQuickItem* view, const QImage& grabbed, qreal radius) {
+  constexpr QPoint hotSpot{-14, -10};  // right of the pointer and below it
   const Item item = item_;
   const QPointer<Tile> self(this);  // whole turns of the event loop pass until the drag has ended
   setDragged(true);
-  workspace()->drag(item, {carriedPicture(grabbed, *view, radius), at.toPoint()});
+  workspace()->drag(item, {carriedPicture(grabbed, *view, radius), hotSpot});
   if (self) setDragged(false);
 }
 

@@ -79,10 +79,9 @@ class Tile : public QObject {
   // A click with those keys held down.
   Q_INVOKABLE void click(int modifiers = Qt::NoModifier);
   Q_INVOKABLE void toggleSelected();
-  // Drags the item under what was grabbed of its view, held at that point of it and cut to corners
-  // of that radius. Returns when the drag has ended.
-  Q_INVOKABLE void drag(QQuickItem* view, const QPointF& at, const QImage& grabbed = {},
-                        qreal radius = 0);
+  // Drags the item under what was grabbed of its view, cut to corners of that radius, made smaller
+  // and beside the pointer, so that the place of the drop is seen. Returns when the drag has ended.
+  Q_INVOKABLE void drag(QQuickItem* view, const QImage& grabbed = {}, qreal radius = 0);
   bool isDragged() const { return isDragged_; }
 
   // --- Of a block

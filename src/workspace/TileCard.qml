@@ -12,6 +12,7 @@ Card {
     required property Tile tile
     property bool resting: false // it shows nothing of the pointer
 
+    property real captionHeight: 0 // of what stands beneath it and belongs to it
     property bool helped: false
 
     readonly property bool hovering: hover.hovered && !resting
@@ -85,6 +86,7 @@ Card {
         active: root.helped
         sourceComponent: Help {
             text: root.help
+            below: root.captionHeight
             shown: root.hovering && !notesHover.hovered // which has a help of its own
         }
     }

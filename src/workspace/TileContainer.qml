@@ -48,10 +48,12 @@ Item {
         height: root.tile.workspace.tileHeight
         tile: root.tile
         resting: root.dragged
+        captionHeight: root.height - height
 
         FocusRing {
             shown: root.focused
             base: Theme.cardRadius
+            gap: 2 // beside the stroke of a selected one
         }
     }
 

@@ -17,11 +17,10 @@ DragHandler {
     // The picture is there a frame later, when the button may be up again.
     function start() {
         const ratio = view.Screen.devicePixelRatio;
-        const at = view.mapFromItem(parent, centroid.pressPosition);
         const size = Qt.size(Math.round(view.width * ratio), Math.round(view.height * ratio));
         view.grabToImage(result => {
             if (carries)
-                tile.drag(view, at, result.image, radius);
+                tile.drag(view, result.image, radius);
         }, size);
     }
 

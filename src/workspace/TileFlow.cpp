@@ -33,7 +33,8 @@ namespace {
 // Of a block that isn't measured yet: near enough for what is out of sight.
 double estimatedHeight(const Item& item, double width) {
   const auto* text = std::get_if<TextPayload>(&item.payload);
-  if (!text) return 24;
+  if (!text) return 34;
+  width = std::min(width - 24, 680.0);
   const QFontMetricsF metrics(interfaceFont(13));
   double lines = 0;
   for (const QString& paragraph : text->body.split(QLatin1Char('\n'))) {

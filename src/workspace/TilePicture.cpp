@@ -10,17 +10,23 @@ namespace tarnloft {
 QImage carriedPicture(const QImage& grabbed, const QQuickItem& item, qreal radius) {
   const QQuickWindow* window = item.window();
   if (!window) return {};
+  constexpr qreal share = 0.6;  // of the view's size
   const qreal ratio = window->effectiveDevicePixelRatio();
-  QImage picture((item.size() * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+  QImage picture((item.size() * ratio * share).toSize(), QImage::Format_ARGB32_Premultiplied);
   picture.fill(Qt::transparent);
   picture.setDevicePixelRatio(ratio);
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::Antialiasing);
+  painter.scale(share, share);
   QPainterPath edge;
   edge.addRoundedRect(QRectF(QPointF(), item.size()), radius, radius);
   painter.fillPath(edge, window->color());
   painter.setClipPath(edge);
-  painter.drawImage(QRectF(QPointF(), item.size()), grabbed);
+  // At its own size, as a painter that shrinks an image leaves pixels out.
+  if (grabbed.isNull()) return picture;
+  const QImage small =
+      grabbed.scaled(picture.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  painter.drawImage(QRectF(QPointF(), item.size()), small);
   return picture;
 }
 

@@ -18,13 +18,13 @@ Item {
         radius: Theme.cardRadius
     }
 
-    Shadow {
-        anchors.fill: play
-        anchors.margins: 4
-        radius: width / 2
-        blur: 3
-        drop: 0
-        strength: 0.33
+    // Dark through the sign and around it, on posters of any lightness.
+    RoundedRectangle {
+        anchors.centerIn: play
+        width: 32
+        height: 32
+        radius: 16
+        color: Qt.rgba(0, 0, 0, 0.6)
     }
 
     Symbol {

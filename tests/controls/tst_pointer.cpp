@@ -97,15 +97,23 @@ void TestPointer::focusIsScrolledIntoView() {
 }
 
 void TestPointer::helpComesAfterAWhile() {
-  Stage stage(
-      QStringLiteral("Rectangle { width: 50; height: 50; Help { objectName: 'help'; delay: 10\n"
-                     "  text: 'Drag to reorder' } }"));
+  Stage stage(QStringLiteral(
+      "Rectangle { objectName: 'thing'; width: 50; height: 50\n"
+      "  Help { objectName: 'help'; delay: 10; below: 30; text: 'Drag to reorder' } }"));
   const auto tip = [&stage] { return stage.find("help")->property("tip").value<QObject*>(); };
   QTest::mouseMove(stage.window(), {20, 20});
   QTRY_VERIFY(tip() && tip()->property("opened").toBool());
   QCOMPARE(tip()->property("text").toString(), QStringLiteral("Drag to reorder"));
+  QCOMPARE(tip()->property("y").toInt(), 50 + 30 + 6);  // beneath what belongs to the thing
   QTest::mouseMove(stage.window(), {300, 300});
   QTRY_VERIFY(!tip());
+  stage.find("thing")->setProperty("y", 400);  // where there is no room beneath
+  QTest::mouseMove(stage.window(), {20, 420});
+  QTRY_VERIFY(tip() && tip()->property("opened").toBool());
+  QVERIFY(tip()->property("y").toInt() < -10);
+  QTest::mouseMove(stage.window(), {300, 300});
+  QTRY_VERIFY(!tip());
+  stage.find("thing")->setProperty("y", 0);
   // Who has pressed the thing needs no telling.
   QTest::mouseMove(stage.window(), {20, 20});
   QTest::mouseClick(stage.window(), Qt::LeftButton, {}, {20, 20});

@@ -1,3 +1,5 @@
+#include "platform/controls/Contrast.h"
+#include "platform/controls/Theme.h"
 #include "sheets/EmblemView.h"
 #include "sheets/LazyItem.h"
 #include "sheets/ThumbnailView.h"
@@ -33,6 +35,7 @@ class TestPictureViews : public QObject {
   void standsOnWholePixels();
   void anEmblemsMarkStandsInTheMiddle_data();
   void anEmblemsMarkStandsInTheMiddle();
+  void anEmblemOfTheGroundsColourHasARim();
   void anEmblemShowsItsPicture();
   void aLazyItemExistsWhileItIsWanted();
 };
@@ -274,6 +277,20 @@ void TestPictureViews::anEmblemsMarkStandsInTheMiddle() {
   const QPointF off = QRectF(bounds).center() - QPointF(32, 32);
   QVERIFY2(std::abs(off.x()) <= 1.5 && std::abs(off.y()) <= 2.5,
            qPrintable(QStringLiteral("%1, %2").arg(off.x()).arg(off.y())));
+}
+
+void TestPictureViews::anEmblemOfTheGroundsColourHasARim() {
+  for (const bool dark : {false, true}) {
+    Window test;
+    Theme& theme = Theme::of(*test.window.engine());
+    theme.setDark(dark);
+    using enum EmblemStyle::Ground;
+    using enum EmblemStyle::Mark;
+    const QColor ground = theme.palette().windowBackground;
+    (void)test.emblem({Filled, ground, NoMark, {}, {}});
+    QCOMPARE(test.shown(32, 32), ground);
+    QVERIFY(contrastRatio(test.shown(32, 0), ground) > 1.3);
+  }
 }
 
 void TestPictureViews::anEmblemShowsItsPicture() {

@@ -28,6 +28,9 @@ class TestShellViews : public QObject {
   void deletesWhenConfirmed_data();
   void deletesWhenConfirmed();
   void dragsARowByItsMark();
+  void assistiveTechnologyHearsRowsInTheirOrder();
+  void theKeyboardGoesOnAtTheSelectedBrand();
+  void aRowWithAnOpenMenuStaysLit();
   void aRowSpringsToItsPlace();
   void opensMenusFromTheKeyboard();
   void theMenuOfABrandHasItsEntries();
@@ -166,6 +169,68 @@ void TestShellViews::dragsARowByItsMark() {
   }
   QTest::mouseRelease(&views.window(), Qt::LeftButton, {}, target);
   QCOMPARE(views.library.names(), QStringList({"Cedar", "Acme", "Birch"}));
+}
+
+void TestShellViews::assistiveTechnologyHearsRowsInTheirOrder() {
+  Views views;
+  for (const char* name : {"Acme", "Birch", "Cedar"}) {
+    views.library.add(name, {Section::create(QString("Logos of ") + name)});
+  }
+  views.start();
+  const auto heard = [&] {
+    QStringList names;
+    const QAccessibleInterface* list =
+        QAccessible::queryAccessibleInterface(views.item(QAccessible::List, "Brands"));
+    for (int i = 0; i < list->childCount(); ++i) {
+      const QAccessibleInterface* child = list->child(i);
+      if (child->role() == row && !child->state().invisible)
+        names << child->text(QAccessible::Name);
+    }
+    return names;
+  };
+  QTRY_COMPARE(heard(), QStringList({"Acme", "Logos of Acme", "Birch", "Cedar"}));
+  views.click(views.item(row, "Birch"));
+  QTRY_COMPARE(heard(), QStringList({"Acme", "Birch", "Logos of Birch", "Cedar"}));
+  views.press(Qt::Key_Up, Qt::AltModifier);
+  QTRY_COMPARE(heard(), QStringList({"Birch", "Logos of Birch", "Acme", "Cedar"}));
+}
+
+void TestShellViews::theKeyboardGoesOnAtTheSelectedBrand() {
+  Views views;
+  for (const char* name : {"Acme", "Birch"}) {
+    views.library.add(name, {Section::create(QString("Logos of ") + name)});
+  }
+  views.start();
+  views.press(Qt::Key_Tab);
+  views.click(views.item(row, "Acme"));
+  views.press(Qt::Key_Delete);
+  QTRY_VERIFY(views.item(dialog, "Move “Acme” to the Trash?"));
+  QTRY_VERIFY(views.item(button, "Move to Trash"));
+  views.click(views.item(button, "Move to Trash"));
+  QTRY_VERIFY(views.item(row, "Logos of Birch"));
+  QTRY_VERIFY(!views.item(dialog, "Move “Acme” to the Trash?"));
+  const QQuickItem* list = views.item(QAccessible::List, "Brands");
+  QTRY_COMPARE(list->property("currentItem").value<QQuickItem*>(), views.item(row, "Birch"));
+  QCOMPARE(views.library.store->selection(), views.library.packagePath("Birch"));
+}
+
+void TestShellViews::aRowWithAnOpenMenuStaysLit() {
+  Views views;
+  views.library.add("Acme");
+  views.library.add("Birch");
+  views.start();
+  const auto ground = [&] {
+    const QQuickItem* birch = views.item(row, "Birch");
+    return views.window().grabWindow().pixelColor(
+        birch->mapToScene({birch->width() - 20, 15}).toPoint());
+  };
+  const QColor resting = ground();
+  views.click(views.item(row, "Birch"), Qt::RightButton);
+  QTRY_VERIFY(views.item(entry, "Duplicate"));
+  QTest::mouseMove(&views.window(), {700, 500});
+  QVERIFY(ground() != resting);
+  views.press(Qt::Key_Escape);
+  QTRY_COMPARE(ground(), resting);
 }
 
 void TestShellViews::aRowSpringsToItsPlace() {

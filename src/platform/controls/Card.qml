@@ -25,6 +25,17 @@ Item {
         anchors.fill: parent
     }
 
+    // Ground inside the stroke, which would be lost on content of its colour.
+    RoundedRectangle {
+        anchors.fill: parent
+        anchors.margins: 2
+        visible: root.selected
+        radius: root.radius - 2
+        color: "transparent"
+        edgeWidth: 3
+        edgeColor: Theme.windowBackground
+    }
+
     RoundedRectangle {
         anchors.fill: parent
         radius: root.radius

@@ -12,6 +12,7 @@ Item {
     required property string text
     property bool shown: hover.hovered
     property int delay: 700
+    property real below: 0 // the height of what beneath the item belongs to it, and stays in sight
 
     anchors.fill: parent
     Accessible.ignored: true
@@ -34,7 +35,7 @@ Item {
     // Named by its file: a type would be loaded with every button.
     onDueChanged: {
         if (due)
-            tip = Qt.createComponent("ToolTip.qml").createObject(root, {text: Qt.binding(() => root.text)}) as T.ToolTip;
+            tip = Qt.createComponent("ToolTip.qml").createObject(root, {text: Qt.binding(() => root.text), below: root.below}) as T.ToolTip;
         else if (tip)
             tip.close();
     }

@@ -9,11 +9,15 @@ import TarnLoft.Controls
 T.ToolTip {
     id: root
 
+    property real below: 0 // the height of what beneath its item stays in sight
+    readonly property real bottom: (parent?.height ?? 0) + below + 6
+    readonly property bool fits: !parent || !T.Overlay.overlay || parent.mapToItem(T.Overlay.overlay, 0, bottom).y + height + margins <= T.Overlay.overlay.height
+
     visible: true
     implicitWidth: Math.min(implicitContentWidth + leftPadding + rightPadding, 300)
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     x: parent ? Math.round((parent.width - width) / 2) : 0
-    y: parent ? parent.height + 6 : 0
+    y: fits ? bottom : -height - 6
     margins: 6
     padding: 5
     leftPadding: 8
