@@ -3,6 +3,12 @@
 #include "workspace/BrandWorkspace.h"
 #include "workspace/TilePicture.h"
 
+#include <QCoreApplication>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QPointingDevice>
+#include <QQuickWindow>
+
 #include <algorithm>
 
 namespace tarnloft {
@@ -29,6 +35,19 @@ qsizetype placeOf(const Section& section, const QUuid& item) {
 void writeText(Item& item, const QString& text) {
   if (auto* header = std::get_if<HeaderPayload>(&item.payload)) header->text = text;
   if (auto* block = std::get_if<TextPayload>(&item.payload)) block->body = text;
+}
+
+// On Wayland the window system's drag takes the release away, without which its handler would go on
+// at the next press, wherever that is.
+void endPress(QQuickWindow& window) {
+  constexpr QPointF outside(-1, -1);
+  for (const QInputDevice* const device : QInputDevice::devices()) {
+    const auto* const pointer = qobject_cast<const QPointingDevice*>(device);
+    if (!pointer || pointer->type() == QInputDevice::DeviceType::TouchScreen) continue;
+    QMouseEvent release(QEvent::MouseButtonRelease, outside, window.mapToGlobal(outside),
+                        Qt::LeftButton, Qt::NoButton, {}, pointer);
+    QCoreApplication::sendEvent(&window, &release);
+  }
 }
 
 }  // namespace
@@ -124,9 +143,12 @@ void Tile::toggleSelected() { workspace()->selection().toggle(item_.id, section_
 void Tile::drag(QQuickItem* view, const QImage& grabbed, qreal radius) {
   constexpr QPoint hotSpot{-14, -10};  // right of the pointer and below it
   const Item item = item_;
-  const QPointer<Tile> self(this);  // whole turns of the event loop pass until the drag has ended
+  // Whole turns of the event loop pass until the drag has ended.
+  const QPointer<Tile> self(this);
+  const QPointer<QQuickWindow> window(view->window());
   setDragged(true);
   workspace()->drag(item, {carriedPicture(grabbed, *view, radius), hotSpot});
+  if (window) endPress(*window);
   if (self) setDragged(false);
 }
 

@@ -11,6 +11,7 @@
 #include <QQuickItem>
 #include <QQuickView>
 #include <QTest>
+#include <qpa/qwindowsysteminterface.h>
 
 #include <optional>
 
@@ -74,8 +75,10 @@ class TestPage {
   void click(const QString& name, Qt::KeyboardModifiers modifiers = {}) {
     QTest::mouseClick(&view, Qt::LeftButton, modifiers, middleOf(name));
   }
-  // From a press to a release of the button, of a mouse that the desktop takes for a touchpad.
-  void padDrag(Qt::MouseButton button, const QPoint& from, std::optional<QPoint> to = {}) {
+  // From a press to a release of the button, of a mouse that the desktop takes for a touchpad. Or
+  // until a drag has begun, which takes moves and the release away on Wayland.
+  void padDrag(Qt::MouseButton button, const QPoint& from, std::optional<QPoint> to = {},
+               const bool* isTaken = nullptr) {
     constexpr int steps = 5;
     time_ += 1000;  // no click is the second one of two
     const auto send = [&](QEvent::Type type, const QPoint& at, Qt::MouseButton changed,
@@ -86,6 +89,7 @@ class TestPage {
     };
     send(QEvent::MouseButtonPress, from, button, button);
     for (int step = 1; to && *to != from && step <= steps; ++step) {
+      if (isTaken && *isTaken) return;
       send(QEvent::MouseMove, from + (*to - from) * step / steps, Qt::NoButton, button);
       settle();
     }
@@ -112,6 +116,7 @@ class TestPage {
                        Capability::Position | Capability::MouseEmulation,
                        1,
                        3};
+  const bool isKnown_ = (QWindowSystemInterface::registerInputDevice(&pad_), true);
   quint64 time_ = 0;
 
   static void collect(QQuickItem* item, QList<TileFlow*>& found) {

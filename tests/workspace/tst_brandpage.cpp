@@ -22,6 +22,7 @@ class TestBrandPage : public QObject {
   void aClickCopiesAColour();
   void clicksWithKeysSelect();
   void aMouseTakenForATouchpadIsAMouse();
+  void aDragThatTakesTheReleaseAwayIsTheLastOfItsTile();
   void theCheckBoxSelects();
   void aClickOnTheGroundEndsSelectionAndEditing();
   void aRangeMarksItsRowsOfText();
@@ -171,6 +172,27 @@ void TestBrandPage::clicksWithKeysSelect() {
   QCOMPARE(copied(test), "");
   page.click("b");
   QCOMPARE(selectedNames(test), "");
+}
+
+void TestBrandPage::aDragThatTakesTheReleaseAwayIsTheLastOfItsTile() {
+  TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), colorItem("b", "#00ff00")})});
+  TestPage page(test);
+  QList<QByteArray> dragged;
+  bool isTaken = false;
+  test.drags.during = [&] {
+    dragged << test.drags.items.first().payload->bytes;
+    isTaken = true;
+  };
+  for (const char* name : {"a", "b", "a"}) {
+    const QPoint tile = page.middleOf(name);
+    isTaken = false;
+    page.padDrag(Qt::LeftButton, tile, tile + QPoint(40, 20), &isTaken);
+    QVERIFY(isTaken);
+  }
+  QCOMPARE(dragged.size(), 3);
+  QVERIFY(dragged[0] == dragged[2] && dragged[0] != dragged[1]);
+  page.padDrag(Qt::LeftButton, page.middleOf("b"));
+  QCOMPARE(copied(test), "#00FF00");
 }
 
 // GNOME and Plasma report any mouse so.
