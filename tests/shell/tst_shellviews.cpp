@@ -197,21 +197,19 @@ void TestShellViews::assistiveTechnologyHearsRowsInTheirOrder() {
 
 void TestShellViews::theKeyboardGoesOnAtTheSelectedBrand() {
   Views views;
-  for (const char* name : {"Acme", "Birch"}) {
+  for (const char* name : {"Acme", "Birch", "Cedar"}) {
     views.library.add(name, {Section::create(QString("Logos of ") + name)});
   }
   views.start();
-  views.press(Qt::Key_Tab);
-  views.click(views.item(row, "Acme"));
+  views.click(views.item(row, "Cedar"));
+  QTRY_VERIFY(views.item(row, "Logos of Cedar"));
   views.press(Qt::Key_Delete);
-  QTRY_VERIFY(views.item(dialog, "Move “Acme” to the Trash?"));
   QTRY_VERIFY(views.item(button, "Move to Trash"));
   views.click(views.item(button, "Move to Trash"));
-  QTRY_VERIFY(views.item(row, "Logos of Birch"));
-  QTRY_VERIFY(!views.item(dialog, "Move “Acme” to the Trash?"));
+  QTRY_VERIFY(views.item(row, "Logos of Acme"));
+  QCOMPARE(views.library.store->selection(), views.library.packagePath("Acme"));
   const QQuickItem* list = views.item(QAccessible::List, "Brands");
-  QTRY_COMPARE(list->property("currentItem").value<QQuickItem*>(), views.item(row, "Birch"));
-  QCOMPARE(views.library.store->selection(), views.library.packagePath("Birch"));
+  QTRY_COMPARE(list->property("currentItem").value<QQuickItem*>(), views.item(row, "Acme"));
 }
 
 void TestShellViews::aRowWithAnOpenMenuStaysLit() {

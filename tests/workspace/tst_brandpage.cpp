@@ -216,6 +216,10 @@ void TestBrandPage::aMouseTakenForATouchpadIsAMouse() {
   QCOMPARE(copied(test), "#FF0000");
   page.padDrag(Qt::LeftButton, tile, tile + QPoint(40, 20));
   QCOMPARE(test.drags.items.size(), 1);
+  const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+  QTest::touchEvent(&page.view, screen.get()).press(1, tile, &page.view);
+  QTest::touchEvent(&page.view, screen.get()).release(1, tile, &page.view);
+  QCOMPARE(test.pasteboard.texts.size(), 2);  // a finger's tap still counts
   page.padDrag(Qt::RightButton, page.tileNamed("calm")->mapToScene({300, 8}).toPoint());
   QVERIFY(!page.tileNamed("calm")->hasActiveFocus());
 }

@@ -19,6 +19,7 @@ Sheet {
     property bool destructive: false
     property bool cancelIsDefault: false
 
+    readonly property real room: (parent?.width ?? 384) - 2 * (margins + padding) // in a narrow window
     property Button pressed: null // since it was opened
 
     signal confirmed
@@ -48,7 +49,9 @@ Sheet {
         spacing: 18
 
         Column {
-            width: 320
+            id: words
+
+            width: Math.min(320, root.room)
             spacing: 7
 
             Label {
@@ -70,7 +73,7 @@ Sheet {
         }
 
         Item {
-            width: parent.width
+            width: words.width
             height: confirm.height
 
             Button {
