@@ -142,7 +142,7 @@ std::optional<QString> DesktopFileDialogs::savePath(const QString& suggestedName
                         QString(suggestedName).replace(QLatin1Char('/'), QLatin1Char('-')),
                         {mimeType}};
   for (;;) {
-    const auto path = onlyOne(ask(question, QStringLiteral("saveDialogFolder")));
+    auto path = onlyOne(ask(question, QStringLiteral("saveDialogFolder")));
     const QString suffix = suffixOf({mimeType});
     if (!path || suffix.isEmpty() || !QFileInfo(*path).suffix().isEmpty()) return path;
     const QString whole = *path + QLatin1Char('.') + suffix;
