@@ -1,4 +1,6 @@
 """Calls on the session bus."""
+import os
+
 from gi.repository import Gio, GLib
 
 
@@ -16,3 +18,12 @@ def ask(name, path, interface, method, kinds="()", *arguments):
 def is_there(name):
     return ask("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
                "NameHasOwner", "(s)", name)
+
+
+def ask_with_file(name, path, interface, method, kinds, *arguments, file):
+    """The same with an open file as the last argument."""
+    files = Gio.UnixFDList.new_from_array([os.dup(file.fileno())])
+    answer, _ = _bus.call_with_unix_fd_list_sync(
+        name, path, interface, method, GLib.Variant(kinds, (*arguments, 0)), None,
+        Gio.DBusCallFlags.NO_AUTO_START, -1, files, None)
+    return answer.unpack()[0]

@@ -5,6 +5,7 @@ Points are pairs of pixels on the screen. Each such module has a class Desktop w
 
     environment                    for the programs that are started on it
     brings_back_places             whether programs can put their windows where they were
+    has_tray                       whether it has one by itself
     running(folder)                a context; the folder is a home for what belongs to the desktop
     visible_window(pid, name="")   the last one of a process whose title holds the name, or None
     active_window()                the one that gets the keys, or None

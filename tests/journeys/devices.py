@@ -24,6 +24,7 @@ BIND, GLOBAL = 0, 0
 CREATE_DEVICE = 0
 POINTER_MOTION_ABSOLUTE, POINTER_BUTTON, POINTER_FRAME = 1, 2, 4
 KEYBOARD_KEYMAP, KEYBOARD_KEY, KEYBOARD_MODIFIERS = 0, 1, 2
+FAKE_AUTHENTICATE, FAKE_BUTTON, FAKE_MOTION_ABSOLUTE, FAKE_KEY = 0, 2, 9, 10
 
 
 class Connection:
@@ -48,12 +49,10 @@ class Connection:
         message = struct.pack("II", to, (8 + len(body)) << 16 | request) + body
         socket.send_fds(self._socket, [message], files)
 
-    def bind(self, interface):
-        """The interface in its first version."""
-        bound, name = self.new(), interface.encode() + b"\0"
+    def bind(self, interface, version=1):
+        bound, name = self.new(), struct.pack("I", self._globals[interface])
         self.send(self._registry, BIND,
-                  struct.pack("II", self._globals[interface], len(name)) + name +
-                  b"\0" * (-len(name) % 4) + struct.pack("II", 1, bound))
+                  name + text(interface) + struct.pack("II", version, bound))
         return bound
 
     def wait(self):
@@ -79,6 +78,12 @@ class Connection:
             received = self._socket.recv(65536)
             assert received, "the compositor has gone"
             self._received += received
+
+
+def text(words):
+    """As a message has it: its length, its bytes, and nothing up to a whole number."""
+    ended = words.encode() + b"\0"
+    return struct.pack("I", len(ended)) + ended + b"\0" * (-len(ended) % 4)
 
 
 class Wlroots:
@@ -119,6 +124,31 @@ class Wlroots:
     def _tell(self, request, body):
         self._wire.send(self._pointer, request, _now() + body)
         self._wire.send(self._pointer, POINTER_FRAME)
+        self._wire.wait()
+
+
+class FakeInput:
+    """Devices of KWin's."""
+
+    def __init__(self, display):
+        self._wire = Connection(display)
+        self._input = self._wire.bind("org_kde_kwin_fake_input", 4)
+        self._tell(FAKE_AUTHENTICATE, 2 * text("journey"))
+
+    def close(self):
+        self._wire.close()
+
+    def point(self, x, y):
+        self._tell(FAKE_MOTION_ABSOLUTE, struct.pack("ii", x * 256, y * 256))
+
+    def button(self, code, state):
+        self._tell(FAKE_BUTTON, struct.pack("II", code, state))
+
+    def key(self, code, state, _modifiers):
+        self._tell(FAKE_KEY, struct.pack("II", code, state))
+
+    def _tell(self, request, body):
+        self._wire.send(self._input, request, body)
         self._wire.wait()
 
 

@@ -26,6 +26,7 @@ REMOTE = "org.gnome.Mutter.RemoteDesktop"
 
 class Desktop(Hands):
     brings_back_places = False
+    has_tray = False
 
     @contextlib.contextmanager
     def running(self, _folder):

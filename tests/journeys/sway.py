@@ -25,6 +25,7 @@ bindsym Mod1+F4 kill
 
 class Desktop(Hands):
     brings_back_places = False
+    has_tray = False
 
     @contextlib.contextmanager
     def running(self, _folder):

@@ -25,6 +25,7 @@ def _told(*words):
 class Desktop:
     environment = {"QT_QPA_PLATFORM": "xcb", "GDK_BACKEND": "x11"}
     brings_back_places = True
+    has_tray = False
 
     @contextlib.contextmanager
     def running(self, folder):
