@@ -163,8 +163,8 @@ void LibraryStore::followDocuments(const QList<BrandSummary>& before,
     const QUuid shared = twin == twinsBefore.cend() ? own : twin->sharedID;  // until it is saved
     for (const BrandSummary& row : std::as_const(brands_)) {
       if (isListed(before, row.packageURL)) continue;
-      const bool isItsPackage = LibraryListing::holds(row, twins_, own) ||
-                                LibraryListing::holds(row, twins_, shared);
+      const bool isItsPackage =
+          LibraryListing::holds(row, twins_, own) || LibraryListing::holds(row, twins_, shared);
       if (!isItsPackage) continue;
       document->follow(row.packageURL);
       break;

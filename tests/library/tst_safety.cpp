@@ -154,8 +154,8 @@ void TestSafety::aPackageRenamedElsewhereIsFollowed() {
   QVERIFY(!QDir(before).exists());
   QCOMPARE(safe.open()->packageURL(), now);
   QCOMPARE(safe.store().selection(), now);
-  QCOMPARE(safe.library.names(), hasTwin ? QStringList({"Acme", "Beta", "Acme"})
-                                         : QStringList({"Acme", "Beta"}));
+  QCOMPARE(safe.library.names(),
+           hasTwin ? QStringList({"Acme", "Beta", "Acme"}) : QStringList({"Acme", "Beta"}));
 }
 
 void TestSafety::aPackageThatIsNowhereIsMadeAgainAndTold() {

@@ -6,8 +6,8 @@ namespace tarnloft {
 
 // Soft shadows of rounded rectangles. An id is
 //   "<corner radius>/<blur radius>/<opacity in percent>/<width>/<height>/<ratio in percent>",
-// in whole points, with the picture's pixels of a point. A width or height of 0 gives a picture to stretch by its middle.
-// A picture reaches `extent(blur)` points beyond the rectangle on each side.
+// in whole points, with the picture's pixels of a point. A width or height of 0 gives a picture to
+// stretch by its middle. A picture reaches `extent(blur)` points beyond the rectangle on each side.
 class ShadowProvider : public QQuickImageProvider {
  public:
   ShadowProvider() : QQuickImageProvider(QQuickImageProvider::Image) {}
