@@ -39,7 +39,7 @@ MouseArea {
         if (mouse.accepted)
             taken(); // first, as the menu takes the keyboard
         if (mouse.button === Qt.RightButton)
-            Qt.callLater(menuRequested, mouse.x, mouse.y); // behind the focus that the press gives
+            menuRequested(mouse.x, mouse.y);
     }
     onPositionChanged: mouse => {
         if (!(pressedButtons & Qt.LeftButton) || start.x >= handleEnd)

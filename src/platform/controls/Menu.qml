@@ -54,11 +54,6 @@ T.Menu {
         }
     }
 
-    function takeKeys() {
-        if (visible && !activeFocus)
-            forceActiveFocus(Qt.PopupFocusReason);
-    }
-
     // For the keys that the template leaves alone, from the menu itself and from its entries.
     function takeKey(event: KeyEvent) {
         const plain = !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier));
@@ -75,9 +70,18 @@ T.Menu {
 
     onAboutToShow: {
         focusReturn.remember();
-        Qt.callLater(takeKeys);
+        keysLater.start();
     }
     onAboutToHide: focusReturn.giveBack()
+
+    // Behind the event that opened it, which may give the focus to what was pressed.
+    readonly property Timer keysLater: Timer {
+        interval: 0
+        onTriggered: {
+            if (root.visible && !root.activeFocus)
+                root.forceActiveFocus(Qt.PopupFocusReason);
+        }
+    }
 
     readonly property FocusReturn focusReturn: FocusReturn {
         within: root.parent
