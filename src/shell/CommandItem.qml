@@ -10,5 +10,5 @@ MenuItem {
     text: command.text
     shortcut: command.keys
     enabled: command.enabled
-    onTriggered: command.activated()
+    onAfterClosing: command.activated()
 }

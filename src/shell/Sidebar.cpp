@@ -42,12 +42,20 @@ void Sidebar::duplicate(const QString& packageURL) {
   if (const auto brand = brandAt(packageURL)) library_.duplicateBrand(*brand);
 }
 
+// A dialog waits in a loop of its own, within which the menu that asked for it would stay open, or
+// go while its entry is still at work. So both come in a later turn.
 void Sidebar::exportPage(const QString& packageURL) {
-  if (const auto brand = brandAt(packageURL)) library_.exportBrandPage(*brand);
+  const auto ask = [this, packageURL] {
+    if (const auto brand = brandAt(packageURL)) library_.exportBrandPage(*brand);
+  };
+  QMetaObject::invokeMethod(this, ask, Qt::QueuedConnection);
 }
 
 void Sidebar::exportFile(const QString& packageURL) {
-  if (const auto brand = brandAt(packageURL)) library_.exportBrand(*brand);
+  const auto ask = [this, packageURL] {
+    if (const auto brand = brandAt(packageURL)) library_.exportBrand(*brand);
+  };
+  QMetaObject::invokeMethod(this, ask, Qt::QueuedConnection);
 }
 
 void Sidebar::reveal(const QString& packageURL) { viewer_.reveal(packageURL); }

@@ -21,8 +21,8 @@ Menu {
     MenuItem { text: "Font (by name)"; onTriggered: root.section.addFont() }
     MenuItem { text: "Code Snippet"; onTriggered: root.section.addCode() }
     MenuSeparator {}
-    MenuItem { text: "Image…"; onTriggered: root.section.importImages() }
+    MenuItem { text: "Image…"; onAfterClosing: root.section.importImages() }
     MenuItem { text: "Logo Set…"; onTriggered: root.section.addLogoSet() }
-    MenuItem { text: "Video…"; onTriggered: root.section.importVideos() }
-    MenuItem { text: "Import Font File…"; onTriggered: root.section.importFontFiles() }
+    MenuItem { text: "Video…"; onAfterClosing: root.section.importVideos() }
+    MenuItem { text: "Import Font File…"; onAfterClosing: root.section.importFontFiles() }
 }

@@ -142,13 +142,16 @@ void BrandWorkspace::deleteSection(const QUuid& section) {
 
 void BrandWorkspace::importChosen(const QStringList& mimeTypes, DropImport::MediaKind kind,
                                   const QUuid& section) {
+  const QPointer<BrandWorkspace> self(this);  // the brand may go while the dialog is open
   const QStringList paths = services_.dialogs.openFiles(mimeTypes);
-  if (document_) DropImport::importFiles(services_.imports, paths, kind, section, *document_);
+  if (self && document_)
+    DropImport::importFiles(services_.imports, paths, kind, section, *document_);
 }
 
 void BrandWorkspace::importChosenFonts(const QUuid& section) {
+  const QPointer<BrandWorkspace> self(this);
   const QStringList paths = services_.dialogs.openFiles({QStringLiteral("font/*")});
-  if (document_) DropImport::importFontFiles(services_.imports, paths, section, *document_);
+  if (self && document_) DropImport::importFontFiles(services_.imports, paths, section, *document_);
 }
 
 bool BrandWorkspace::drop(const QMimeData& data, const QUuid& section) {

@@ -1,3 +1,4 @@
+#include "platform/controls/Motion.h"
 #include "platform/controls/Typography.h"
 #include "shell/TestViews.h"
 #include "workspace/Items.h"
@@ -282,6 +283,17 @@ void TestShellViews::theMenuOfABrandHasItsEntries() {
   views.click(views.item(row, "Acme"));
   views.press(Qt::Key_Menu);
   QTRY_VERIFY(views.item(entry, "Duplicate"));
+
+  // It has gone by the time that a dialog opens, also where nothing moves.
+  Motion::of(views.engine).setReduced(true);
+  std::optional<bool> isOpen;
+  views.library.dialogs.whileSaving = [&] {
+    QTest::qWait(200);
+    isOpen = views.item(entry, "Duplicate");
+  };
+  views.click(views.item(entry, "Export Brand Page…"));
+  QTRY_VERIFY(isOpen);
+  QVERIFY(!*isOpen);
 }
 
 void TestShellViews::shortcutsWaitBehindASheet() {

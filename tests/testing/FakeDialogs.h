@@ -5,17 +5,21 @@
 
 #include <QStringList>
 
+#include <functional>
+
 namespace tarnloft {
 
 // Answers the dialogs as the test told it.
 class ScriptedDialogs : public FileDialogs {
  public:
   std::optional<QString> answer;
+  std::function<void()> whileSaving;  // what happens while the dialog is open
   QString suggested;
   QString mimeType;
   std::optional<QString> savePath(const QString& name, const QString& type) override {
     suggested = name;
     mimeType = type;
+    if (whileSaving) whileSaving();
     return answer;
   }
   QStringList openTypes;

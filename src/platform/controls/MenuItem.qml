@@ -14,6 +14,10 @@ T.MenuItem {
     property string symbol: ""
     property bool destructive: false
 
+    // Follows `triggered` when the menu has closed: for what waits for the user in a dialog of the
+    // desktop, behind which the menu would stay.
+    signal afterClosing
+
     readonly property bool chosen: highlighted && enabled
     readonly property color ink: chosen ? (destructive ? Theme.onDestructive : Theme.onAccent)
                                         : !enabled ? Theme.tertiaryLabel : destructive ? Theme.destructive : Theme.label
@@ -25,6 +29,15 @@ T.MenuItem {
     rightPadding: subMenu ? 26 : 9
     spacing: 24
     font: Theme.body
+
+    onTriggered: closing.start()
+
+    Timer {
+        id: closing
+
+        interval: 0
+        onTriggered: root.afterClosing()
+    }
 
     // Here, since the template would take Tab for itself.
     Keys.onPressed: event => {
