@@ -22,8 +22,8 @@ QImage carriedPicture(const QImage& grabbed, const QQuickItem& item, qreal radiu
   edge.addRoundedRect(QRectF(QPointF(), item.size()), radius, radius);
   painter.fillPath(edge, window->color());
   painter.setClipPath(edge);
-  // At its own size, as a painter that shrinks an image leaves pixels out.
   if (grabbed.isNull()) return picture;
+  // At its own size, as a painter that shrinks an image leaves pixels out.
   const QImage small =
       grabbed.scaled(picture.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
   painter.drawImage(QRectF(QPointF(), item.size()), small);
