@@ -1,6 +1,6 @@
 #include "assets/FontManager.h"
 #include "document/Package.h"
-#include "platform/desktop/FreeTypeFonts.h"
+#include "platform/desktop/fonts/FreeTypeFonts.h"
 #include "testing/DrawnText.h"
 #include "testing/TestServices.h"
 

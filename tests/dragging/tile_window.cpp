@@ -5,9 +5,9 @@
 #include "assets/DropImport.h"
 #include "assets/ItemDrag.h"
 #include "assets/TileDrag.h"
-#include "platform/desktop/MimeDrops.h"
-#include "platform/desktop/PosixFileStore.h"
-#include "platform/desktop/QtDragSession.h"
+#include "platform/desktop/dragging/MimeDrops.h"
+#include "platform/desktop/dragging/QtDragSession.h"
+#include "platform/desktop/files/PosixFileStore.h"
 #include "testing/FakeDrops.h"
 #include "testing/TestServices.h"
 

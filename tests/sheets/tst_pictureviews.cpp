@@ -1,8 +1,8 @@
-#include "platform/controls/Contrast.h"
-#include "platform/controls/Theme.h"
-#include "sheets/EmblemView.h"
-#include "sheets/LazyItem.h"
-#include "sheets/ThumbnailView.h"
+#include "controls/loading/LazyItem.h"
+#include "controls/theme/Contrast.h"
+#include "controls/theme/Theme.h"
+#include "pictures/EmblemView.h"
+#include "pictures/ThumbnailView.h"
 
 #include <QGuiApplication>
 #include <QMutex>
@@ -15,7 +15,7 @@
 #include <QtQml/qqmlextensionplugin.h>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
-Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
 
 using namespace tarnloft;
 
@@ -90,7 +90,7 @@ struct Window {
   // A view of that file, 100 by 60 points, at the window's corner.
   ThumbnailView* view(const QString& path, QSizeF size = {100, 60}) {
     QQmlComponent component(window.engine());
-    component.setData("import TarnLoft.Sheets\nThumbnailView {}", QUrl("qrc:/test.qml"));
+    component.setData("import TarnLoft.Pictures\nThumbnailView {}", QUrl("qrc:/test.qml"));
     auto* view = qobject_cast<ThumbnailView*>(
         component.createWithInitialProperties({{"thumbnails", QVariant::fromValue(&thumbnails)},
                                                {"path", path},
@@ -103,7 +103,7 @@ struct Window {
   // An emblem, 64 points across, at the window's corner.
   EmblemView* emblem(const EmblemLook& look) {
     QQmlComponent component(window.engine());
-    component.setData("import TarnLoft.Sheets\nEmblemView { size: 64 }", QUrl("qrc:/test.qml"));
+    component.setData("import TarnLoft.Pictures\nEmblemView { size: 64 }", QUrl("qrc:/test.qml"));
     auto* view = qobject_cast<EmblemView*>(component.createWithInitialProperties(
         {{"thumbnails", QVariant::fromValue(&thumbnails)}, {"look", QVariant::fromValue(look)}}));
     view->setParent(&window);
@@ -312,7 +312,7 @@ void TestPictureViews::aLazyItemExistsWhileItIsWanted() {
   component.setData(R"(
     pragma ComponentBehavior: Bound
     import QtQuick
-    import TarnLoft.Sheets
+    import TarnLoft.Pictures
     Item {
       id: root
       property bool wanted: false

@@ -1,6 +1,6 @@
-#include "platform/controls/Theme.h"
-#include "shell/MainWindow.h"
+#include "controls/theme/Theme.h"
 #include "shell/TestShell.h"
+#include "shell/window/MainWindow.h"
 
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -11,7 +11,7 @@
 #include <QtQml/qqmlextensionplugin.h>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
-Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 

@@ -1,4 +1,4 @@
-#include "platform/controls/Contrast.h"
+#include "controls/theme/Contrast.h"
 #include "workspace/Items.h"
 #include "workspace/TestPage.h"
 
@@ -9,7 +9,7 @@
 #include <utility>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
-Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 using namespace tarnloft;

@@ -1,7 +1,7 @@
-#include "platform/controls/Spring.h"
-#include "workspace/FlowLayout.h"
+#include "controls/motion/Spring.h"
+#include "controls/motion/SpringMotion.h"
 #include "workspace/Items.h"
-#include "workspace/SpringMotion.h"
+#include "workspace/flow/FlowLayout.h"
 
 #include <QTest>
 

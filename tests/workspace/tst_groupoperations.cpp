@@ -2,7 +2,7 @@
 #include "document/UndoHistory.h"
 #include "testing/RandomBrand.h"
 #include "testing/TestServices.h"
-#include "workspace/GroupOperations.h"
+#include "workspace/selection/GroupOperations.h"
 
 #include <QTest>
 

@@ -1,4 +1,4 @@
-#include "workspace/TileSelection.h"
+#include "workspace/selection/TileSelection.h"
 
 #include <QRandomGenerator>
 #include <QSignalSpy>

@@ -1,7 +1,7 @@
-#include "workspace/GradientView.h"
+#include "pictures/GradientView.h"
 #include "workspace/Items.h"
-#include "workspace/Segments.h"
-#include "workspace/TileFacts.h"
+#include "workspace/flow/Segments.h"
+#include "workspace/tiles/TileFacts.h"
 
 #include <QTest>
 
