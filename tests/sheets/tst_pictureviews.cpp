@@ -312,7 +312,7 @@ void TestPictureViews::aLazyItemExistsWhileItIsWanted() {
   component.setData(R"(
     pragma ComponentBehavior: Bound
     import QtQuick
-    import TarnLoft.Pictures
+    import TarnLoft.Controls
     Item {
       id: root
       property bool wanted: false
