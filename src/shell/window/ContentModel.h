@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/sheets/NameSheet.h"
 #include "shell/alerts/Alerts.h"
 #include "shell/menus/ShellCommands.h"
 #include "shell/menus/StackUndoManager.h"
@@ -17,17 +18,15 @@ class ContentModel : public QObject {
   Q_PROPERTY(tarnloft::Sidebar* sidebar READ sidebar CONSTANT)
   Q_PROPERTY(tarnloft::StackUndoManager* undo READ undo CONSTANT)
   Q_PROPERTY(tarnloft::Alerts* alerts READ alerts CONSTANT)
-  // A BrandWorkspace, or null while no brand is open. Not of that type for QML, because its module
-  // would be loaded with this one, before the first frame.
-  Q_PROPERTY(QObject* workspace READ workspace NOTIFY workspaceChanged)
+  // Null while no brand is open. Its module isn't among this one's imports, as it would be loaded
+  // with it, before the first frame: who uses the workspace imports it.
+  Q_PROPERTY(tarnloft::BrandWorkspace* workspace READ workspace NOTIFY workspaceChanged)
+  Q_PROPERTY(tarnloft::SheetHost* sheets READ sheets CONSTANT)
   Q_PROPERTY(tarnloft::Thumbnails* thumbnails READ thumbnails CONSTANT)
   // The text of the toast that is shown; empty for none.
   Q_PROPERTY(QString toast READ toast NOTIFY toastChanged)
   Q_PROPERTY(Detail detail READ detail NOTIFY detailChanged)
   Q_PROPERTY(QString title READ title NOTIFY titleChanged)
-  Q_PROPERTY(bool showNewBrand READ showsNewBrand WRITE setShowNewBrand NOTIFY showNewBrandChanged)
-  Q_PROPERTY(
-      QString newBrandName READ newBrandName WRITE setNewBrandName NOTIFY newBrandNameChanged)
 
  public:
   enum class Detail {
@@ -40,8 +39,7 @@ class ContentModel : public QObject {
   Q_ENUM(Detail)
 
   // Borrowed: all of the services outlive the content.
-  ContentModel(const LibraryServices& libraryServices, const WorkspaceServices& services,
-               QObject* parent = nullptr);
+  explicit ContentModel(const WorkspaceServices& services, QObject* parent = nullptr);
   ~ContentModel() override;
   Q_DISABLE_COPY_MOVE(ContentModel)
 
@@ -60,12 +58,9 @@ class ContentModel : public QObject {
   // The window's, led by the open brand's name.
   QString title() const;
 
-  // Whether the new-brand sheet is up, and its text, which it keeps for its next opening.
-  bool showsNewBrand() const { return showNewBrand_; }
-  void setShowNewBrand(bool show);
-  const QString& newBrandName() const { return newBrandName_; }
-  void setNewBrandName(const QString& name);
-  Q_INVOKABLE void createBrand(const QString& name) { library_.createBrand(name); }
+  SheetHost* sheets() { return &sheets_; }
+  // Asks for a name, beginning with what was typed at its last opening, and makes a brand.
+  Q_INVOKABLE void askNewBrand();
 
  signals:
   void detailChanged();
@@ -74,8 +69,6 @@ class ContentModel : public QObject {
   // The page shall scroll to that section of the open brand.
   void sectionRequested(int index);
   void titleChanged();
-  void showNewBrandChanged();
-  void newBrandNameChanged();
 
  private:
   void answerRequest();
@@ -90,11 +83,12 @@ class ContentModel : public QObject {
   StackUndoManager undo_;
   TileSelection selection_;
   ToastCenter toasts_;
+  SheetHost sheets_;
   ShellCommands commands_;
   Sidebar sidebar_;
   Alerts alerts_;
   std::optional<QString> selectedBrand_;
-  bool showNewBrand_ = false;
+  QPointer<NameSheet> newBrandSheet_;  // while it is up
   QString newBrandName_;
   std::unique_ptr<BrandWorkspace> workspace_;
   QString workspacePackage_;              // where its paths lead

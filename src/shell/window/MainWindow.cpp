@@ -45,13 +45,8 @@ void loadFonts() {
 
 }  // namespace
 
-MainWindow::MainWindow(QQmlEngine& engine, const LibraryServices& libraryServices,
-                       const WorkspaceServices& services, Preferences& state)
-    : engine_(engine),
-      libraryServices_(libraryServices),
-      services_(services),
-      state_(state),
-      lateViews_(&engine) {
+MainWindow::MainWindow(QQmlEngine& engine, const WorkspaceServices& services, Preferences& state)
+    : engine_(engine), services_(services), state_(state), lateViews_(&engine) {
   settled_.setSingleShot(true);
   settled_.setInterval(400);
   connect(&settled_, &QTimer::timeout, this, &MainWindow::remember);
@@ -80,7 +75,7 @@ bool MainWindow::open() {
 }
 
 bool MainWindow::make() {
-  auto content = std::make_unique<ContentModel>(libraryServices_, services_);
+  auto content = std::make_unique<ContentModel>(services_);
   loadFonts();
   QQmlComponent component(&engine_, url());
   const WindowState state = WindowState::read(state_).fitting(screenRooms());

@@ -32,6 +32,8 @@ class LiveTiles {
   explicit LiveTiles(QQuickItem& parent) : parent_(parent) {}
 
   LiveTile* find(const QUuid& id) const;
+  // Gives the item's view its present value; null if it has none. A view of another kind ends.
+  LiveTile* follow(const Item& item);
   // The item's view: its own, one that waited, or a new one; null if none can be made.
   LiveTile* obtain(SectionModel& section, const Item& item, QQmlComponent& component,
                    const QSizeF& size);

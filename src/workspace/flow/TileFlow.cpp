@@ -72,12 +72,13 @@ void TileFlow::setSection(SectionModel* section) {
   live_.clear();
   section_ = section;
   if (section_) watch(*section_->items());
-  itemsChanged();
+  itemsChanged(true);
   emit sectionChanged();
 }
 
 void TileFlow::watch(const ItemListModel& items) {
   connect(&items, &ItemListModel::updated, this, &TileFlow::itemsChanged);
+  connect(&items, &ItemListModel::dataChanged, this, &TileFlow::showChanged);
   connect(section_->workspace(), &BrandWorkspace::metricsChanged, this, &TileFlow::layoutChanged);
 }
 
@@ -110,11 +111,19 @@ void TileFlow::geometryChange(const QRectF& now, const QRectF& before) {
 }
 
 // The height follows at once, so that the page isn't lower for a moment and scrolls.
-void TileFlow::itemsChanged() {
-  areItemsStale_ = true;
+void TileFlow::itemsChanged(bool areOthers) {
+  areItemsStale_ = areItemsStale_ || areOthers;
   isMoving_ = animated_;
   setOut();
   polish();
+}
+
+void TileFlow::showChanged(const QModelIndex& first, const QModelIndex& last) {
+  for (int row = first.row(); row <= last.row(); ++row) {
+    const Item& item = section_->items()->items().at(row);
+    const bool hasView = live_.find(item.id);
+    if (hasView && !live_.follow(item)) areItemsStale_ = true;
+  }
 }
 
 void TileFlow::layoutChanged() {
@@ -173,10 +182,7 @@ void TileFlow::populate() {
     live_.forEach([](LiveTile& live) { live.index = -1; });
     int index = 0;
     for (const Item& item : items) {
-      if (LiveTile* live = live_.find(item.id)) {
-        live->index = index;
-        live->tile->setItem(item);
-      }
+      if (LiveTile* const live = live_.follow(item)) live->index = index;
       ++index;
     }
     if (focused >= 0 && focusedIndex() < 0) handOverFocus(focused);

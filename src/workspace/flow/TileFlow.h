@@ -62,7 +62,8 @@ class TileFlow : public QQuickItem {
   class Clock;
 
   void watch(const ItemListModel& items);
-  void itemsChanged();
+  void itemsChanged(bool areOthers);
+  void showChanged(const QModelIndex& first, const QModelIndex& last);
   void layoutChanged();
   void setOut();
   double blockHeight(int index) const;

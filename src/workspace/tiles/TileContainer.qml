@@ -102,6 +102,15 @@ Item {
         id: hover
     }
 
+    ContextMenuArea {
+        id: context
+
+        menu: TileMenu {
+            tile: root.tile
+        }
+        onRequested: root.forceActiveFocus(Qt.MouseFocusReason)
+    }
+
     PlainTap {
         onClicked: modifiers => {
             root.forceActiveFocus(Qt.MouseFocusReason);

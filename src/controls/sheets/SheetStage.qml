@@ -1,0 +1,60 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Controls
+
+// Where a window's sheets are shown: makes the view of the one in front, and takes it away again.
+//   SheetStage { host: window.sheets }
+Item {
+    id: root
+
+    required property SheetHost host
+
+    property Sheet shown: null
+    property SheetModel model: null // of the one that is shown
+
+    // Another one waits until the one that is up has closed.
+    function follow() {
+        if (host.current === model)
+            return;
+        if (shown)
+            shown.close();
+        else if (host.current)
+            show(host.current);
+    }
+
+    function show(wanted: SheetModel) {
+        const component = Qt.createComponent(wanted.view);
+        if (component.status !== Component.Ready) {
+            console.warn(component.errorString());
+            return;
+        }
+        model = wanted;
+        shown = component.createObject(root, {model: wanted}) as Sheet;
+        shown.closed.connect(end);
+        shown.open();
+    }
+
+    function end() {
+        const ended = model;
+        shown.destroy();
+        shown = null;
+        model = null;
+        host.closed(ended);
+        follow();
+    }
+
+    Component.onCompleted: follow()
+
+    Connections {
+        target: root.host
+
+        function onCurrentChanged() {
+            root.follow();
+        }
+
+        function onClosing() {
+            root.shown?.close();
+        }
+    }
+}
