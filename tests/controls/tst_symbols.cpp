@@ -84,6 +84,7 @@ class SymbolsTest : public QObject {
                              "zzz", "star-circle", "ａtom", "\xf0\x9f\x94\xa5"})
       QTest::newRow(name) << QString::fromUtf8(name);
   }
+
   void otherNamesLeadToNone() {
     QFETCH(QString, name);
     QVERIFY(!symbols::glyph(name));
@@ -139,6 +140,7 @@ class SymbolsTest : public QObject {
     QTest::newRow("ant, itself") << "ant.fill"
                                  << "ant.fill";
   }
+
   void mirroredNamesAreMirrored() {
     QFETCH(QString, left);
     QFETCH(QString, right);
@@ -149,4 +151,5 @@ class SymbolsTest : public QObject {
 };
 
 QTEST_MAIN(SymbolsTest)
+
 #include "tst_symbols.moc"

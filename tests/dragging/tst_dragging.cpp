@@ -10,23 +10,6 @@
 
 using namespace tarnloft;
 
-class TestDragging : public QObject {
-  Q_OBJECT
-
- private slots:
-  void anotherProgramGetsAFileUnderTheClientsName();
-  void anotherProgramSeesNoPrivateType();
-  void thePictureIsMadeWhenAskedFor();
-  void aPictureTooLargeForTheServerIsLeftOut();
-  void aColourOffersNothing();
-  void theCarriedPictureHasItsOwnShape();
-  void aDragWithinTheWindowMovesTheTile_data();
-  void aDragWithinTheWindowMovesTheTile();
-  void aTileOfAnotherProcessComesAsAFile();
-  void filesOfAnotherProgramComeInOrder();
-  void aPictureOfAnotherProgramComesWithItsName();
-};
-
 namespace {
 
 constexpr int tiffSize = 100;
@@ -137,142 +120,149 @@ QByteArray dataOf(Program& program, const QString& format) {
 
 }  // namespace
 
-void TestDragging::anotherProgramGetsAFileUnderTheClientsName() {
-  const Tiles tiles;
-  Program window = tiles.window(left), other = target({"text/uri-list", "UTF8_STRING"});
-  QVERIFY(!window.line("READY").isEmpty() && !other.line("READY").isEmpty());
-  QVERIFY(drag(left, right, other));
-  QVERIFY(!other.line("FINISHED").isEmpty());
-  const QString path = tiles.disk.path("tarnloft-drag/AcmeLogo.png");
-  QCOMPARE(dataOf(other, "text/uri-list"), QUrl::fromLocalFile(path).toEncoded() + "\r\n");
-  QCOMPARE(dataOf(other, "UTF8_STRING"), path.toUtf8());
-  QVERIFY(!window.line("DRAGGED").isEmpty());
-  QCOMPARE(contentOf(path), "the picture's bytes");
-}
+class TestDragging : public QObject {
+  Q_OBJECT
 
-void TestDragging::anotherProgramSeesNoPrivateType() {
-  const Tiles tiles;
-  const QString privateType = "com.quillmoor.tarnloft.item";
-  Program window = tiles.window(left), other = target({privateType});
-  QVERIFY(!window.line("READY").isEmpty() && !other.line("READY").isEmpty());
-  QVERIFY(drag(left, right, other));
-  QVERIFY(!other.line("FINISHED").isEmpty());
-  const QString offered = other.line("TYPES");
-  QVERIFY2(offered.contains(" text/uri-list"), qPrintable(offered));
-  QVERIFY2(!other.lines().join('\n').remove("REFUSED " + privateType).contains("quillmoor"),
-           qPrintable(offered));
-  // Not even by its name.
-  QVERIFY(!other.line("REFUSED " + privateType).isEmpty());
-}
+ private slots:
+  void anotherProgramGetsAFileUnderTheClientsName() {
+    const Tiles tiles;
+    Program window = tiles.window(left), other = target({"text/uri-list", "UTF8_STRING"});
+    QVERIFY(!window.line("READY").isEmpty() && !other.line("READY").isEmpty());
+    QVERIFY(drag(left, right, other));
+    QVERIFY(!other.line("FINISHED").isEmpty());
+    const QString path = tiles.disk.path("tarnloft-drag/AcmeLogo.png");
+    QCOMPARE(dataOf(other, "text/uri-list"), QUrl::fromLocalFile(path).toEncoded() + "\r\n");
+    QCOMPARE(dataOf(other, "UTF8_STRING"), path.toUtf8());
+    QVERIFY(!window.line("DRAGGED").isEmpty());
+    QCOMPARE(contentOf(path), "the picture's bytes");
+  }
 
-void TestDragging::thePictureIsMadeWhenAskedFor() {
-  const Tiles tiles;
-  Program window = tiles.window(left);
-  QVERIFY(!window.line("READY").isEmpty());
-  {
-    Program other = target({"text/uri-list"});
+  void anotherProgramSeesNoPrivateType() {
+    const Tiles tiles;
+    const QString privateType = "com.quillmoor.tarnloft.item";
+    Program window = tiles.window(left), other = target({privateType});
+    QVERIFY(!window.line("READY").isEmpty() && !other.line("READY").isEmpty());
+    QVERIFY(drag(left, right, other));
+    QVERIFY(!other.line("FINISHED").isEmpty());
+    const QString offered = other.line("TYPES");
+    QVERIFY2(offered.contains(" text/uri-list"), qPrintable(offered));
+    QVERIFY2(!other.lines().join('\n').remove("REFUSED " + privateType).contains("quillmoor"),
+             qPrintable(offered));
+    // Not even by its name.
+    QVERIFY(!other.line("REFUSED " + privateType).isEmpty());
+  }
+
+  void thePictureIsMadeWhenAskedFor() {
+    const Tiles tiles;
+    Program window = tiles.window(left);
+    QVERIFY(!window.line("READY").isEmpty());
+    {
+      Program other = target({"text/uri-list"});
+      QVERIFY(!other.line("READY").isEmpty());
+      QVERIFY(drag(left, right, other));
+      QVERIFY(other.line("TYPES").contains(" image/tiff"));
+      QVERIFY(!other.line("FINISHED").isEmpty());
+      QVERIFY(!window.line("DRAGGED").isEmpty());
+    }
+    QVERIFY(!window.lines().join('\n').contains("TIFF"));
+    Program other = target({"image/tiff"});
     QVERIFY(!other.line("READY").isEmpty());
     QVERIFY(drag(left, right, other));
-    QVERIFY(other.line("TYPES").contains(" image/tiff"));
     QVERIFY(!other.line("FINISHED").isEmpty());
+    QCOMPARE(dataOf(other, "image/tiff"), QByteArray(tiffSize, 't'));
+    QCOMPARE(window.line("TIFF"), "TIFF " + tiles.package + "/assets/stored.png");
+  }
+
+  void aPictureTooLargeForTheServerIsLeftOut() {
+    const Tiles tiles;
+    Program window = tiles.window(left, 20'000'000),
+            other = target({"image/tiff", "text/uri-list"});
+    QVERIFY(!window.line("READY").isEmpty() && !other.line("READY").isEmpty());
+    QVERIFY(drag(left, right, other));
+    QCOMPARE(other.line("DATA image/tiff"), "DATA image/tiff 0 ");
+    QVERIFY(!dataOf(other, "text/uri-list").isEmpty());
+    QVERIFY(window.isRunning());
+  }
+
+  void aColourOffersNothing() {
+    const Tiles tiles(ColorPayload{{"#123456", {}, {}}});
+    Program window = tiles.window(left), other = target({"text/uri-list"});
+    QVERIFY(!window.line("READY").isEmpty() && !other.line("READY").isEmpty());
+    QVERIFY(drag(left, right, other));
     QVERIFY(!window.line("DRAGGED").isEmpty());
+    QVERIFY(other.lines().join('\n').indexOf("DATA") < 0);
   }
-  QVERIFY(!window.lines().join('\n').contains("TIFF"));
-  Program other = target({"image/tiff"});
-  QVERIFY(!other.line("READY").isEmpty());
-  QVERIFY(drag(left, right, other));
-  QVERIFY(!other.line("FINISHED").isEmpty());
-  QCOMPARE(dataOf(other, "image/tiff"), QByteArray(tiffSize, 't'));
-  QCOMPARE(window.line("TIFF"), "TIFF " + tiles.package + "/assets/stored.png");
-}
 
-void TestDragging::aPictureTooLargeForTheServerIsLeftOut() {
-  const Tiles tiles;
-  Program window = tiles.window(left, 20'000'000), other = target({"image/tiff", "text/uri-list"});
-  QVERIFY(!window.line("READY").isEmpty() && !other.line("READY").isEmpty());
-  QVERIFY(drag(left, right, other));
-  QCOMPARE(other.line("DATA image/tiff"), "DATA image/tiff 0 ");
-  QVERIFY(!dataOf(other, "text/uri-list").isEmpty());
-  QVERIFY(window.isRunning());
-}
-
-void TestDragging::aColourOffersNothing() {
-  const Tiles tiles(ColorPayload{{"#123456", {}, {}}});
-  Program window = tiles.window(left), other = target({"text/uri-list"});
-  QVERIFY(!window.line("READY").isEmpty() && !other.line("READY").isEmpty());
-  QVERIFY(drag(left, right, other));
-  QVERIFY(!window.line("DRAGGED").isEmpty());
-  QVERIFY(other.lines().join('\n').indexOf("DATA") < 0);
-}
-
-// Also where nobody composes the screen, which would show the ground of its window.
-void TestDragging::theCarriedPictureHasItsOwnShape() {
-  const Tiles tiles;
-  Program window = tiles.window(left);
-  QVERIFY(!window.line("READY").isEmpty());
-  QVERIFY(drag(left, left + QPoint(60, 40),
-               [&] { return window.lines().filter("PICTURE").size() > 0; }));
-  QCOMPARE(window.line("PICTURE"), "PICTURE #0000ff");
-}
-
-void TestDragging::aDragWithinTheWindowMovesTheTile_data() {
-  QTest::addColumn<bool>("hasFile");
-  QTest::newRow("a picture") << true;
-  QTest::newRow("a colour, which shows no format to anyone") << false;
-}
-
-void TestDragging::aDragWithinTheWindowMovesTheTile() {
-  QFETCH(bool, hasFile);
-  const Tiles tiles(hasFile ? Tiles::picture("Logo.png")
-                            : ItemPayload(ColorPayload{{"#123456", "Logo", {}}}));
-  Program window = tiles.window(left);
-  QVERIFY(!window.line("READY").isEmpty());
-  QVERIFY(drag(left, left + QPoint(60, 40), window));
-  QVERIFY(!window.line("ITEMS | | Logo").isEmpty());
-  QVERIFY(!window.line("DRAGGED").isEmpty());
-  QCOMPARE(window.line("DROP"), "DROP taken");
-  // It came as the tile that it is, not as its file.
-  QCOMPARE(QDir(Package::assetsPath(tiles.package)).entryList(QDir::Files).size(), 1);
-}
-
-void TestDragging::aTileOfAnotherProcessComesAsAFile() {
-  const Tiles tiles;
-  Program from = tiles.window(left), to = tiles.window(right);
-  QVERIFY(!from.line("READY").isEmpty() && !to.line("READY").isEmpty());
-  QVERIFY(drag(left, right, to));
-  QCOMPARE(to.line("ITEMS"), "ITEMS | Logo | AcmeLogo");
-  QVERIFY(!from.lines().join('\n').contains("ITEMS"));
-}
-
-void TestDragging::filesOfAnotherProgramComeInOrder() {
-  const Tiles tiles;
-  QStringList paths;
-  for (const char* name : {"b ü.png", "a#1.mp4", "c%20.pdf"}) {
-    paths << tiles.disk.path(QString("from/") + name);
-    QVERIFY(writeFile(paths.last(), "x"));
+  // Also where nobody composes the screen, which would show the ground of its window.
+  void theCarriedPictureHasItsOwnShape() {
+    const Tiles tiles;
+    Program window = tiles.window(left);
+    QVERIFY(!window.line("READY").isEmpty());
+    QVERIFY(drag(left, left + QPoint(60, 40),
+                 [&] { return window.lines().filter("PICTURE").size() > 0; }));
+    QCOMPARE(window.line("PICTURE"), "PICTURE #0000ff");
   }
-  Program from = source(paths), to = tiles.window(right);
-  QVERIFY(!from.line("READY").isEmpty() && !to.line("READY").isEmpty());
-  QVERIFY(drag(left, right, to));
-  QVERIFY(!to.line("ITEMS | Logo | b ü a#1 c%20").isEmpty());
-}
 
-void TestDragging::aPictureOfAnotherProgramComesWithItsName() {
-  const Tiles tiles;
-  Program from = source({"picture", "https://pictures.example/Hero%20Shot.jpg"}),
-          to = tiles.window(right);
-  QVERIFY(!from.line("READY").isEmpty() && !to.line("READY").isEmpty());
-  QVERIFY(drag(left, right, to));
-  QCOMPARE(to.line("ITEMS"), "ITEMS | Logo | Hero Shot");
-  const QDir assets(Package::assetsPath(tiles.package));
-  for (const QString& name : assets.entryList({"*.png"}, QDir::Files)) {
-    if (name == "stored.png") continue;
-    const QImage image(assets.filePath(name));
-    QCOMPARE(image.size(), QSize(300, 200));
-    QCOMPARE(image.pixelColor(5, 5), QColor(10, 200, 30, 128));
+  void aDragWithinTheWindowMovesTheTile_data() {
+    QTest::addColumn<bool>("hasFile");
+    QTest::newRow("a picture") << true;
+    QTest::newRow("a colour, which shows no format to anyone") << false;
   }
-  QCOMPARE(assets.entryList(QDir::Files).size(), 2);
-}
+
+  void aDragWithinTheWindowMovesTheTile() {
+    QFETCH(bool, hasFile);
+    const Tiles tiles(hasFile ? Tiles::picture("Logo.png")
+                              : ItemPayload(ColorPayload{{"#123456", "Logo", {}}}));
+    Program window = tiles.window(left);
+    QVERIFY(!window.line("READY").isEmpty());
+    QVERIFY(drag(left, left + QPoint(60, 40), window));
+    QVERIFY(!window.line("ITEMS | | Logo").isEmpty());
+    QVERIFY(!window.line("DRAGGED").isEmpty());
+    QCOMPARE(window.line("DROP"), "DROP taken");
+    // It came as the tile that it is, not as its file.
+    QCOMPARE(QDir(Package::assetsPath(tiles.package)).entryList(QDir::Files).size(), 1);
+  }
+
+  void aTileOfAnotherProcessComesAsAFile() {
+    const Tiles tiles;
+    Program from = tiles.window(left), to = tiles.window(right);
+    QVERIFY(!from.line("READY").isEmpty() && !to.line("READY").isEmpty());
+    QVERIFY(drag(left, right, to));
+    QCOMPARE(to.line("ITEMS"), "ITEMS | Logo | AcmeLogo");
+    QVERIFY(!from.lines().join('\n').contains("ITEMS"));
+  }
+
+  void filesOfAnotherProgramComeInOrder() {
+    const Tiles tiles;
+    QStringList paths;
+    for (const char* name : {"b ü.png", "a#1.mp4", "c%20.pdf"}) {
+      paths << tiles.disk.path(QString("from/") + name);
+      QVERIFY(writeFile(paths.last(), "x"));
+    }
+    Program from = source(paths), to = tiles.window(right);
+    QVERIFY(!from.line("READY").isEmpty() && !to.line("READY").isEmpty());
+    QVERIFY(drag(left, right, to));
+    QVERIFY(!to.line("ITEMS | Logo | b ü a#1 c%20").isEmpty());
+  }
+
+  void aPictureOfAnotherProgramComesWithItsName() {
+    const Tiles tiles;
+    Program from = source({"picture", "https://pictures.example/Hero%20Shot.jpg"}),
+            to = tiles.window(right);
+    QVERIFY(!from.line("READY").isEmpty() && !to.line("READY").isEmpty());
+    QVERIFY(drag(left, right, to));
+    QCOMPARE(to.line("ITEMS"), "ITEMS | Logo | Hero Shot");
+    const QDir assets(Package::assetsPath(tiles.package));
+    for (const QString& name : assets.entryList({"*.png"}, QDir::Files)) {
+      if (name == "stored.png") continue;
+      const QImage image(assets.filePath(name));
+      QCOMPARE(image.size(), QSize(300, 200));
+      QCOMPARE(image.pixelColor(5, 5), QColor(10, 200, 30, 128));
+    }
+    QCOMPARE(assets.entryList(QDir::Files).size(), 2);
+  }
+};
 
 QTEST_GUILESS_MAIN(TestDragging)
+
 #include "tst_dragging.moc"

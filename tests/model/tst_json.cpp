@@ -10,27 +10,6 @@
 
 using namespace tarnloft;
 
-class TestJson : public QObject {
-  Q_OBJECT
-
- private slots:
-  void keepsTheLayoutOfAWholePackage();
-  void randomBrandsSurvive();
-  void otherReadersAgree();
-  void numbersSurviveInShortestForm_data();
-  void numbersSurviveInShortestForm();
-  void randomNumbersSurvive();
-  void refusesNumbersThatAreNotFinite();
-  void refusesDatesWithoutWrittenForm();
-  void readsFromTheMiddleOfABuffer();
-  void takesOldAndForeignFiles_data();
-  void takesOldAndForeignFiles();
-  void refusesAndNamesThePlace_data();
-  void refusesAndNamesThePlace();
-  void readsDates_data();
-  void readsDates();
-};
-
 namespace {
 
 const QByteArray package = R"({
@@ -90,211 +69,220 @@ QByteArray itemWith(const QByteArray& payload) { return QByteArray(item).replace
 
 }  // namespace
 
-void TestJson::keepsTheLayoutOfAWholePackage() {
-  const auto brand = decode<Brand>(package);
-  QVERIFY2(brand, qPrintable(brand ? QString() : brand.error().message));
-  QCOMPARE(brand->name, QString::fromUtf8("Acme / Söhne\t\u0001 \"x\" \\"));
-  QCOMPARE(*encode(*brand), package);
-  const QByteArray compact = QJsonDocument::fromJson(package).toJson(QJsonDocument::Compact);
-  QCOMPARE(*encode(*decode<Brand>(compact)), package);
-}
+class TestJson : public QObject {
+  Q_OBJECT
 
-void TestJson::randomBrandsSurvive() {
-  RandomBrand random(3);
-  for (int i = 0; i < 60; ++i) {
-    const Brand brand = random.brand(random.below(4), random.below(90));
-    const auto json = encode(brand);
-    QVERIFY(json);
-    const auto read = decode<Brand>(*json);
-    QVERIFY2(read, qPrintable(read ? QString() : read.error().message));
-    QVERIFY(*read == brand);
-    QCOMPARE(*encode(*read), *json);
+ private slots:
+  void keepsTheLayoutOfAWholePackage() {
+    const auto brand = decode<Brand>(package);
+    QVERIFY2(brand, qPrintable(brand ? QString() : brand.error().message));
+    QCOMPARE(brand->name, QString::fromUtf8("Acme / Söhne\t\u0001 \"x\" \\"));
+    QCOMPARE(*encode(*brand), package);
+    const QByteArray compact = QJsonDocument::fromJson(package).toJson(QJsonDocument::Compact);
+    QCOMPARE(*encode(*decode<Brand>(compact)), package);
   }
-}
 
-void TestJson::otherReadersAgree() {
-  RandomBrand random(4);
-  const Brand brand = random.brand(5, 60);
-  QJsonParseError problem;
-  const auto document = QJsonDocument::fromJson(*encode(brand), &problem);
-  QCOMPARE(problem.error, QJsonParseError::NoError);
-  QCOMPARE(document[u"name"].toString(), brand.name);
-  const auto sections = document[u"sections"];
-  for (qsizetype s = 0; s < brand.sections.size(); ++s) {
-    for (qsizetype i = 0; i < brand.sections.at(s).items.size(); ++i) {
-      const auto* code = std::get_if<CodePayload>(&brand.sections.at(s).items.at(i).payload);
-      if (!code) continue;
-      const auto read = sections[s][u"items"][i][u"payload"][u"code"][u"value"];
-      QCOMPARE(read[u"snippet"].toString(), code->value.snippet);
+  void randomBrandsSurvive() {
+    RandomBrand random(3);
+    for (int i = 0; i < 60; ++i) {
+      const Brand brand = random.brand(random.below(4), random.below(90));
+      const auto json = encode(brand);
+      QVERIFY(json);
+      const auto read = decode<Brand>(*json);
+      QVERIFY2(read, qPrintable(read ? QString() : read.error().message));
+      QVERIFY(*read == brand);
+      QCOMPARE(*encode(*read), *json);
     }
   }
-}
 
-void TestJson::numbersSurviveInShortestForm_data() {
-  QTest::addColumn<QByteArray>("given");
-  QTest::addColumn<QByteArray>("written");
-  const QList<QList<QByteArray>> rows{{"1.0", "1"},
-                                      {"100000", "100000"},
-                                      {"0.1", "0.1"},
-                                      {"1e-5", "1e-05"},
-                                      {"0.0001", "0.0001"},
-                                      {"1E16", "1e+16"},
-                                      {"123456789012345680", "1.2345678901234568e+17"},
-                                      {"-0.0", "0"},
-                                      {"-12.50", "-12.5"},
-                                      {"9007199254740993", "9007199254740992"},
-                                      {"100000000000000000000", "1e+20"}};
-  for (const auto& row : rows) QTest::newRow(row.first().constData()) << row.first() << row.last();
-}
-
-void TestJson::numbersSurviveInShortestForm() {
-  QFETCH(QByteArray, given);
-  const auto gradient = decode<GradientValue>("{\"stops\":[],\"angle\":" + given + "}");
-  QVERIFY(gradient);
-  QFETCH(QByteArray, written);
-  QVERIFY2(encode(*gradient)->contains("\"angle\" : " + written + ","), *encode(*gradient));
-}
-
-void TestJson::randomNumbersSurvive() {
-  QRandomGenerator random(5);
-  for (int i = 0; i < 20000; ++i) {
-    const quint64 bits = random.generate64();
-    GradientValue gradient;
-    std::memcpy(&gradient.angle, &bits, sizeof bits);
-    if (!std::isfinite(gradient.angle)) continue;
-    const auto read = decode<GradientValue>(*encode(gradient));
-    QVERIFY(read);
-    QCOMPARE(read->angle, gradient.angle);
+  void otherReadersAgree() {
+    RandomBrand random(4);
+    const Brand brand = random.brand(5, 60);
+    QJsonParseError problem;
+    const auto document = QJsonDocument::fromJson(*encode(brand), &problem);
+    QCOMPARE(problem.error, QJsonParseError::NoError);
+    QCOMPARE(document[u"name"].toString(), brand.name);
+    const auto sections = document[u"sections"];
+    for (qsizetype s = 0; s < brand.sections.size(); ++s) {
+      for (qsizetype i = 0; i < brand.sections.at(s).items.size(); ++i) {
+        const auto* code = std::get_if<CodePayload>(&brand.sections.at(s).items.at(i).payload);
+        if (!code) continue;
+        const auto read = sections[s][u"items"][i][u"payload"][u"code"][u"value"];
+        QCOMPARE(read[u"snippet"].toString(), code->value.snippet);
+      }
+    }
   }
-}
 
-void TestJson::refusesNumbersThatAreNotFinite() {
-  QCOMPARE(encode(GradientValue{{}, qInf(), {}}).error().kind, ErrorKind::unwritable);
-  QVERIFY(!encode(GradientValue{{GradientStop{{}, {}, qQNaN()}}, 0, {}}));
-}
-
-void TestJson::refusesDatesWithoutWrittenForm() {
-  Brand brand = Brand::create(QStringLiteral("x"));
-  brand.createdAt = Timestamp(std::chrono::seconds(-62167219201));  // the second before year 0
-  QCOMPARE(encode(brand).error().kind, ErrorKind::unwritable);
-  brand.createdAt += std::chrono::seconds(1);
-  QVERIFY(decode<Brand>(*encode(brand)));
-}
-
-void TestJson::readsFromTheMiddleOfABuffer() {
-  QByteArray bytes(300, ' ');
-  bytes += "{\"hex\":\"#FFF\"}";
-  bytes.squeeze();
-  bytes.remove(0, 300);  // the room is in front now, not behind
-  QCOMPARE(decode<ColorValue>(bytes)->hex, QStringLiteral("#FFF"));
-  QCOMPARE(decode<ColorValue>(QByteArray::fromRawData("{\"hex\":\"#000\"}  ", 14))->hex,
-           QStringLiteral("#000"));
-}
-
-void TestJson::takesOldAndForeignFiles_data() {
-  QTest::addColumn<QByteArray>("json");
-  QTest::addColumn<QByteArray>("same");
-  QTest::newRow("without optional keys")
-      << QByteArray(R"({"hex":"#FFF"})") << QByteArray(R"({"hex":"#FFF"})");
-  QTest::newRow("null for none") << QByteArray(R"({"hex":"#FFF","name":null})")
-                                 << QByteArray(R"({"hex":"#FFF"})");
-  QTest::newRow("unknown keys")
-      << QByteArray(R"({"x":[{}],"hex":"#FFF","y":123456789012345678901234567890})")
-      << QByteArray(R"({"hex":"#FFF"})");
-  QTest::newRow("the last of a repeated key")
-      << QByteArray(R"({"hex":"#000","hex":"#FFF"})") << QByteArray(R"({"hex":"#FFF"})");
-  QTest::newRow("a slash in both forms")
-      << QByteArray(R"({"hex":"a\/b"})") << QByteArray(R"({"hex":"a/b"})");
-  QTest::newRow("U+FEFF in front of a text")
-      << QByteArray("{\"hex\":\"\xEF\xBB\xBF\xEF\xBB\xBFx\"}")
-      << QByteArray(R"({"hex":"\ufeff\ufeffx"})");
-  QTest::newRow("digits in a string")
-      << QByteArray(R"({"hex":"\" 12345678901234567890123","y":123456789012345678901234567890})")
-      << QByteArray(R"({"hex":"\" 12345678901234567890123"})");
-}
-
-void TestJson::takesOldAndForeignFiles() {
-  QFETCH(QByteArray, json);
-  QFETCH(QByteArray, same);
-  const auto color = decode<ColorValue>(json);
-  QVERIFY2(color, qPrintable(color ? QString() : color.error().message));
-  QCOMPARE(*color, *decode<ColorValue>(same));
-  const QString hex = QJsonDocument::fromJson(same)[u"hex"].toString();
-  QCOMPARE(color->hex, hex);
-}
-
-void TestJson::refusesAndNamesThePlace_data() {
-  QTest::addColumn<QByteArray>("json");
-  QTest::addColumn<QString>("message");
-  const auto row = [](const char* name, const QByteArray& json, const char* message) {
-    QTest::newRow(name) << json << QString::fromUtf8(message);
-  };
-  row("empty", "", "document: ");
-  row("mark", "\xEF\xBB\xBF" + itemWith("{}"), "document: begins with a byte-order mark");
-  row("list", "[]", "document: expected an object");
-  row("missing", itemWith(R"({"color":{"value":{"name":"x"}}})"),
-      "payload.color.value.hex: missing");
-  row("null for required", itemWith(R"({"text":{"body":null}})"),
-      "payload.text.body: expected a string");
-  row("wrong type", itemWith(R"({"header":{"text":"x","level":"1"}})"),
-      "payload.header.level: expected an integer");
-  row("fraction", itemWith(R"({"header":{"text":"x","level":1.5}})"),
-      "payload.header.level: expected an integer");
-  row("too large", itemWith(R"({"header":{"text":"x","level":9223372036854775808}})"),
-      "payload.header.level: expected an integer");
-  row("no known key", itemWith(R"({"sound":{}})"),
-      "payload: Invalid number of keys found, expected one.");
-  row("two known keys", itemWith(R"({"text":{"body":""},"code":null})"),
-      "payload: Invalid number of keys found, expected one.");
-  row("unknown role",
-      itemWith(
-          R"({"logo":{"value":{"name":"","variants":[{"id":"8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E21","asset":{"filename":"","originalName":""},"role":"hero"}]}}})"),
-      "payload.logo.value.variants[0].role: unknown value");
-  row("bad id", R"({"id":"8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E2","payload":{"text":{"body":""}}})",
-      "id: expected a UUID");
-  row("id in braces",
-      R"({"id":"{8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E21}","payload":{"text":{"body":""}}})",
-      "id: expected a UUID");
-  row("truncated", itemWith("{}").chopped(1), "document: ");
-  row("bad UTF-8", itemWith("{\"text\":{\"body\":\"\xC3\"}}"), "document: ");
-  row("lone surrogate", itemWith(R"({"text":{"body":"\ud800"}})"), "document: ");
-  row("long number", itemWith("{\"text\":" + QByteArray(100, '9') + "}"),
-      "payload.text: expected an object");
-  row("number beyond all", itemWith("{\"text\":" + QByteArray(400, '9') + "}"), "document: ");
-  row("deep", QByteArray(100000, '['), "document: ");
-  row("deep objects", QByteArray("{\"a\":").repeated(5000), "document: ");
-}
-
-void TestJson::refusesAndNamesThePlace() {
-  QFETCH(QByteArray, json);
-  QFETCH(QString, message);
-  const auto read = decode<Item>(json);
-  QVERIFY(!read);
-  QVERIFY2(read.error().message.startsWith(message), qPrintable(read.error().message));
-}
-
-void TestJson::readsDates_data() {
-  QTest::addColumn<QByteArray>("text");
-  QTest::addColumn<QByteArray>("same");
-  QTest::newRow("UTC") << QByteArray("2026-03-01T09:30:00Z") << QByteArray("2026-03-01T09:30:00Z");
-  QTest::newRow("leap day") << QByteArray("2024-02-29T23:59:59Z")
-                            << QByteArray("2024-02-29T23:59:59Z");
-  QTest::newRow("offset") << QByteArray("2026-03-01T00:30:00+01:30")
-                          << QByteArray("2026-02-28T23:00:00Z");
-  for (const char* bad : {"2026-03-01T09:30:00.5Z", "2026-02-29T09:30:00Z", "2026-03-01 09:30:00Z",
-                          "0000-01-01T00:00:00+01:00", "9999-12-31T23:59:59-01:00",
-                          "2026-03-01T24:00:00Z", "2026-03-01T09:30:60Z", "2026-03-01T09:30:00",
-                          "2026-03-01", "", "2026-3-1T09:30:00Z", "2026-03-01T09:30:00+0130"}) {
-    QTest::newRow(bad) << QByteArray(bad) << QByteArray();
+  void numbersSurviveInShortestForm_data() {
+    QTest::addColumn<QByteArray>("given");
+    QTest::addColumn<QByteArray>("written");
+    const QList<QList<QByteArray>> rows{{"1.0", "1"},
+                                        {"100000", "100000"},
+                                        {"0.1", "0.1"},
+                                        {"1e-5", "1e-05"},
+                                        {"0.0001", "0.0001"},
+                                        {"1E16", "1e+16"},
+                                        {"123456789012345680", "1.2345678901234568e+17"},
+                                        {"-0.0", "0"},
+                                        {"-12.50", "-12.5"},
+                                        {"9007199254740993", "9007199254740992"},
+                                        {"100000000000000000000", "1e+20"}};
+    for (const auto& row : rows)
+      QTest::newRow(row.first().constData()) << row.first() << row.last();
   }
-}
 
-void TestJson::readsDates() {
-  QFETCH(QByteArray, text);
-  QFETCH(QByteArray, same);
-  const auto moment = fromIso8601(text.toStdString());
-  QCOMPARE(moment ? QByteArray::fromStdString(iso8601(*moment)) : QByteArray(), same);
-}
+  void numbersSurviveInShortestForm() {
+    QFETCH(QByteArray, given);
+    const auto gradient = decode<GradientValue>("{\"stops\":[],\"angle\":" + given + "}");
+    QVERIFY(gradient);
+    QFETCH(QByteArray, written);
+    QVERIFY2(encode(*gradient)->contains("\"angle\" : " + written + ","), *encode(*gradient));
+  }
+
+  void randomNumbersSurvive() {
+    QRandomGenerator random(5);
+    for (int i = 0; i < 20000; ++i) {
+      const quint64 bits = random.generate64();
+      GradientValue gradient;
+      std::memcpy(&gradient.angle, &bits, sizeof bits);
+      if (!std::isfinite(gradient.angle)) continue;
+      const auto read = decode<GradientValue>(*encode(gradient));
+      QVERIFY(read);
+      QCOMPARE(read->angle, gradient.angle);
+    }
+  }
+
+  void refusesNumbersThatAreNotFinite() {
+    QCOMPARE(encode(GradientValue{{}, qInf(), {}}).error().kind, ErrorKind::unwritable);
+    QVERIFY(!encode(GradientValue{{GradientStop{{}, {}, qQNaN()}}, 0, {}}));
+  }
+
+  void refusesDatesWithoutWrittenForm() {
+    Brand brand = Brand::create(QStringLiteral("x"));
+    brand.createdAt = Timestamp(std::chrono::seconds(-62167219201));  // the second before year 0
+    QCOMPARE(encode(brand).error().kind, ErrorKind::unwritable);
+    brand.createdAt += std::chrono::seconds(1);
+    QVERIFY(decode<Brand>(*encode(brand)));
+  }
+
+  void readsFromTheMiddleOfABuffer() {
+    QByteArray bytes(300, ' ');
+    bytes += "{\"hex\":\"#FFF\"}";
+    bytes.squeeze();
+    bytes.remove(0, 300);  // the room is in front now, not behind
+    QCOMPARE(decode<ColorValue>(bytes)->hex, QStringLiteral("#FFF"));
+    QCOMPARE(decode<ColorValue>(QByteArray::fromRawData("{\"hex\":\"#000\"}  ", 14))->hex,
+             QStringLiteral("#000"));
+  }
+
+  void takesOldAndForeignFiles_data() {
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<QByteArray>("same");
+    QTest::newRow("without optional keys")
+        << QByteArray(R"({"hex":"#FFF"})") << QByteArray(R"({"hex":"#FFF"})");
+    QTest::newRow("null for none")
+        << QByteArray(R"({"hex":"#FFF","name":null})") << QByteArray(R"({"hex":"#FFF"})");
+    QTest::newRow("unknown keys")
+        << QByteArray(R"({"x":[{}],"hex":"#FFF","y":123456789012345678901234567890})")
+        << QByteArray(R"({"hex":"#FFF"})");
+    QTest::newRow("the last of a repeated key")
+        << QByteArray(R"({"hex":"#000","hex":"#FFF"})") << QByteArray(R"({"hex":"#FFF"})");
+    QTest::newRow("a slash in both forms")
+        << QByteArray(R"({"hex":"a\/b"})") << QByteArray(R"({"hex":"a/b"})");
+    QTest::newRow("U+FEFF in front of a text")
+        << QByteArray("{\"hex\":\"\xEF\xBB\xBF\xEF\xBB\xBFx\"}")
+        << QByteArray(R"({"hex":"\ufeff\ufeffx"})");
+    QTest::newRow("digits in a string")
+        << QByteArray(R"({"hex":"\" 12345678901234567890123","y":123456789012345678901234567890})")
+        << QByteArray(R"({"hex":"\" 12345678901234567890123"})");
+  }
+
+  void takesOldAndForeignFiles() {
+    QFETCH(QByteArray, json);
+    QFETCH(QByteArray, same);
+    const auto color = decode<ColorValue>(json);
+    QVERIFY2(color, qPrintable(color ? QString() : color.error().message));
+    QCOMPARE(*color, *decode<ColorValue>(same));
+    const QString hex = QJsonDocument::fromJson(same)[u"hex"].toString();
+    QCOMPARE(color->hex, hex);
+  }
+
+  void refusesAndNamesThePlace_data() {
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<QString>("message");
+    const auto row = [](const char* name, const QByteArray& json, const char* message) {
+      QTest::newRow(name) << json << QString::fromUtf8(message);
+    };
+    row("empty", "", "document: ");
+    row("mark", "\xEF\xBB\xBF" + itemWith("{}"), "document: begins with a byte-order mark");
+    row("list", "[]", "document: expected an object");
+    row("missing", itemWith(R"({"color":{"value":{"name":"x"}}})"),
+        "payload.color.value.hex: missing");
+    row("null for required", itemWith(R"({"text":{"body":null}})"),
+        "payload.text.body: expected a string");
+    row("wrong type", itemWith(R"({"header":{"text":"x","level":"1"}})"),
+        "payload.header.level: expected an integer");
+    row("fraction", itemWith(R"({"header":{"text":"x","level":1.5}})"),
+        "payload.header.level: expected an integer");
+    row("too large", itemWith(R"({"header":{"text":"x","level":9223372036854775808}})"),
+        "payload.header.level: expected an integer");
+    row("no known key", itemWith(R"({"sound":{}})"),
+        "payload: Invalid number of keys found, expected one.");
+    row("two known keys", itemWith(R"({"text":{"body":""},"code":null})"),
+        "payload: Invalid number of keys found, expected one.");
+    row("unknown role",
+        itemWith(
+            R"({"logo":{"value":{"name":"","variants":[{"id":"8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E21","asset":{"filename":"","originalName":""},"role":"hero"}]}}})"),
+        "payload.logo.value.variants[0].role: unknown value");
+    row("bad id", R"({"id":"8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E2","payload":{"text":{"body":""}}})",
+        "id: expected a UUID");
+    row("id in braces",
+        R"({"id":"{8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E21}","payload":{"text":{"body":""}}})",
+        "id: expected a UUID");
+    row("truncated", itemWith("{}").chopped(1), "document: ");
+    row("bad UTF-8", itemWith("{\"text\":{\"body\":\"\xC3\"}}"), "document: ");
+    row("lone surrogate", itemWith(R"({"text":{"body":"\ud800"}})"), "document: ");
+    row("long number", itemWith("{\"text\":" + QByteArray(100, '9') + "}"),
+        "payload.text: expected an object");
+    row("number beyond all", itemWith("{\"text\":" + QByteArray(400, '9') + "}"), "document: ");
+    row("deep", QByteArray(100000, '['), "document: ");
+    row("deep objects", QByteArray("{\"a\":").repeated(5000), "document: ");
+  }
+
+  void refusesAndNamesThePlace() {
+    QFETCH(QByteArray, json);
+    QFETCH(QString, message);
+    const auto read = decode<Item>(json);
+    QVERIFY(!read);
+    QVERIFY2(read.error().message.startsWith(message), qPrintable(read.error().message));
+  }
+
+  void readsDates_data() {
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QByteArray>("same");
+    QTest::newRow("UTC") << QByteArray("2026-03-01T09:30:00Z")
+                         << QByteArray("2026-03-01T09:30:00Z");
+    QTest::newRow("leap day") << QByteArray("2024-02-29T23:59:59Z")
+                              << QByteArray("2024-02-29T23:59:59Z");
+    QTest::newRow("offset") << QByteArray("2026-03-01T00:30:00+01:30")
+                            << QByteArray("2026-02-28T23:00:00Z");
+    for (const char* bad :
+         {"2026-03-01T09:30:00.5Z", "2026-02-29T09:30:00Z", "2026-03-01 09:30:00Z",
+          "0000-01-01T00:00:00+01:00", "9999-12-31T23:59:59-01:00", "2026-03-01T24:00:00Z",
+          "2026-03-01T09:30:60Z", "2026-03-01T09:30:00", "2026-03-01", "", "2026-3-1T09:30:00Z",
+          "2026-03-01T09:30:00+0130"}) {
+      QTest::newRow(bad) << QByteArray(bad) << QByteArray();
+    }
+  }
+
+  void readsDates() {
+    QFETCH(QByteArray, text);
+    QFETCH(QByteArray, same);
+    const auto moment = fromIso8601(text.toStdString());
+    QCOMPARE(moment ? QByteArray::fromStdString(iso8601(*moment)) : QByteArray(), same);
+  }
+};
 
 QTEST_APPLESS_MAIN(TestJson)
+
 #include "tst_json.moc"

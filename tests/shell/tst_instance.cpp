@@ -9,22 +9,6 @@
 #include <algorithm>
 #include <csignal>
 
-// One running program a user, tried with real processes.
-class TestInstance : public QObject {
-  Q_OBJECT
-
- private slots:
-  void theSecondStartAsksTheFirst();
-  void aCrashLeavesNothingBehind();
-  void startsAtTheSameMomentAgreeOnOne();
-  void aStrangerOnTheSocketDoesNoHarm();
-  void givesUpOnOneThatDoesNotAnswer();
-  void asksOnUntilItAnswers();
-  void endsOneThatDoesNotAnswer_data();
-  void endsOneThatDoesNotAnswer();
-  void endsNoOtherProgram();
-};
-
 namespace {
 
 class Starts {
@@ -61,122 +45,129 @@ int exitCode(QProcess& process) { return process.waitForFinished(20000) ? proces
 
 }  // namespace
 
-void TestInstance::theSecondStartAsksTheFirst() {
-  Starts starts;
-  QProcess& first = starts.start();
-  QCOMPARE(line(first), QByteArray("first"));
-  for (int i = 0; i < 3; ++i) {
-    QProcess& second = starts.start();
+// One running program a user, tried with real processes.
+class TestInstance : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void theSecondStartAsksTheFirst() {
+    Starts starts;
+    QProcess& first = starts.start();
+    QCOMPARE(line(first), QByteArray("first"));
+    for (int i = 0; i < 3; ++i) {
+      QProcess& second = starts.start();
+      QCOMPARE(line(second), QByteArray("shown"));
+      QCOMPARE(exitCode(second), 0);
+      QCOMPARE(line(first), QByteArray("asked"));
+    }
+    QCOMPARE(first.state(), QProcess::Running);
+  }
+
+  void aCrashLeavesNothingBehind() {
+    Starts starts;
+    QProcess& first = starts.start();
+    QCOMPARE(line(first), QByteArray("first"));
+    first.kill();
+    first.waitForFinished();
+    QVERIFY(QDir(starts.folder.path()).entryList(QDir::System).contains("tarnloft.socket"));
+    QProcess& next = starts.start();
+    QCOMPARE(line(next), QByteArray("first"));
+    QCOMPARE(line(starts.start()), QByteArray("shown"));
+  }
+
+  void startsAtTheSameMomentAgreeOnOne() {
+    for (int round = 0; round < 5; ++round) {
+      Starts starts;
+      QList<QProcess*> all;
+      for (int i = 0; i < 4; ++i) all << &starts.start();
+      QList<QByteArray> lines;
+      QProcess* first = nullptr;
+      for (QProcess* process : all) {
+        lines << line(*process);
+        if (lines.last() == "first") first = process;
+      }
+      std::ranges::sort(lines);
+      QCOMPARE(lines, QList<QByteArray>({"first", "shown", "shown", "shown"}));
+      for (int i = 0; i < 3; ++i) QCOMPARE(line(*first), QByteArray("asked"));
+    }
+  }
+
+  void aStrangerOnTheSocketDoesNoHarm() {
+    Starts starts;
+    QProcess& first = starts.start();
+    QCOMPARE(line(first), QByteArray("first"));
+    QLocalSocket stranger;
+    stranger.connectToServer(starts.folder.filePath("tarnloft.socket"));
+    QVERIFY(stranger.waitForConnected());
+    stranger.write("anything else\n");
+    stranger.flush();
+    QVERIFY(stranger.waitForDisconnected(20000));
+    QCOMPARE(line(starts.start()), QByteArray("shown"));
+    QCOMPARE(line(first), QByteArray("asked"));
+  }
+
+  void givesUpOnOneThatDoesNotAnswer() {
+    Starts starts;
+    QProcess& first = starts.start();
+    QCOMPARE(line(first), QByteArray("first"));
+    ::kill(pid_t(first.processId()), SIGSTOP);
+    QProcess& second = starts.start({"300"});
+    QCOMPARE(line(second), QByteArray("no answer"));
+    QCOMPARE(exitCode(second), 1);
+    ::kill(pid_t(first.processId()), SIGCONT);
+    QCOMPARE(line(starts.start()), QByteArray("shown"));
+  }
+
+  void asksOnUntilItAnswers() {
+    Starts starts;
+    QProcess& first = starts.start();
+    QCOMPARE(line(first), QByteArray("first"));
+    ::kill(pid_t(first.processId()), SIGSTOP);
+    QProcess& second = starts.start({"200", "ask"});
+    QCOMPARE(line(second), QByteArray("no answer"));
+    ::kill(pid_t(first.processId()), SIGCONT);
     QCOMPARE(line(second), QByteArray("shown"));
     QCOMPARE(exitCode(second), 0);
     QCOMPARE(line(first), QByteArray("asked"));
+    QCOMPARE(first.state(), QProcess::Running);
   }
-  QCOMPARE(first.state(), QProcess::Running);
-}
 
-void TestInstance::aCrashLeavesNothingBehind() {
-  Starts starts;
-  QProcess& first = starts.start();
-  QCOMPARE(line(first), QByteArray("first"));
-  first.kill();
-  first.waitForFinished();
-  QVERIFY(QDir(starts.folder.path()).entryList(QDir::System).contains("tarnloft.socket"));
-  QProcess& next = starts.start();
-  QCOMPARE(line(next), QByteArray("first"));
-  QCOMPARE(line(starts.start()), QByteArray("shown"));
-}
+  void endsOneThatDoesNotAnswer_data() {
+    QTest::addColumn<QStringList>("words");
+    QTest::addColumn<int>("signal");
+    QTest::newRow("as it is asked to") << QStringList() << SIGTERM;
+    QTest::newRow("by force") << QStringList({"10000", "deaf"}) << SIGKILL;
+  }
 
-void TestInstance::startsAtTheSameMomentAgreeOnOne() {
-  for (int round = 0; round < 5; ++round) {
+  // It goes on as soon as it is asked to end, and its answers don't count any more.
+  void endsOneThatDoesNotAnswer() {
+    QFETCH(QStringList, words);
+    QFETCH(int, signal);
     Starts starts;
-    QList<QProcess*> all;
-    for (int i = 0; i < 4; ++i) all << &starts.start();
-    QList<QByteArray> lines;
-    QProcess* first = nullptr;
-    for (QProcess* process : all) {
-      lines << line(*process);
-      if (lines.last() == "first") first = process;
-    }
-    std::ranges::sort(lines);
-    QCOMPARE(lines, QList<QByteArray>({"first", "shown", "shown", "shown"}));
-    for (int i = 0; i < 3; ++i) QCOMPARE(line(*first), QByteArray("asked"));
+    QProcess& first = starts.start(words);
+    QCOMPARE(line(first), QByteArray("first"));
+    ::kill(pid_t(first.processId()), SIGSTOP);
+    QProcess& second = starts.start({"200", "end"});
+    QCOMPARE(line(second), QByteArray("no answer"));
+    QCOMPARE(line(second), QByteArray("first"));
+    QVERIFY(first.waitForFinished(20000));
+    QCOMPARE(first.exitStatus(), QProcess::CrashExit);
+    QCOMPARE(first.exitCode(), signal);
+    QCOMPARE(line(starts.start()), QByteArray("shown"));
+    QCOMPARE(line(second), QByteArray("asked"));
   }
-}
 
-void TestInstance::aStrangerOnTheSocketDoesNoHarm() {
-  Starts starts;
-  QProcess& first = starts.start();
-  QCOMPARE(line(first), QByteArray("first"));
-  QLocalSocket stranger;
-  stranger.connectToServer(starts.folder.filePath("tarnloft.socket"));
-  QVERIFY(stranger.waitForConnected());
-  stranger.write("anything else\n");
-  stranger.flush();
-  QVERIFY(stranger.waitForDisconnected(20000));
-  QCOMPARE(line(starts.start()), QByteArray("shown"));
-  QCOMPARE(line(first), QByteArray("asked"));
-}
-
-void TestInstance::givesUpOnOneThatDoesNotAnswer() {
-  Starts starts;
-  QProcess& first = starts.start();
-  QCOMPARE(line(first), QByteArray("first"));
-  ::kill(pid_t(first.processId()), SIGSTOP);
-  QProcess& second = starts.start({"300"});
-  QCOMPARE(line(second), QByteArray("no answer"));
-  QCOMPARE(exitCode(second), 1);
-  ::kill(pid_t(first.processId()), SIGCONT);
-  QCOMPARE(line(starts.start()), QByteArray("shown"));
-}
-
-void TestInstance::asksOnUntilItAnswers() {
-  Starts starts;
-  QProcess& first = starts.start();
-  QCOMPARE(line(first), QByteArray("first"));
-  ::kill(pid_t(first.processId()), SIGSTOP);
-  QProcess& second = starts.start({"200", "ask"});
-  QCOMPARE(line(second), QByteArray("no answer"));
-  ::kill(pid_t(first.processId()), SIGCONT);
-  QCOMPARE(line(second), QByteArray("shown"));
-  QCOMPARE(exitCode(second), 0);
-  QCOMPARE(line(first), QByteArray("asked"));
-  QCOMPARE(first.state(), QProcess::Running);
-}
-
-void TestInstance::endsOneThatDoesNotAnswer_data() {
-  QTest::addColumn<QStringList>("words");
-  QTest::addColumn<int>("signal");
-  QTest::newRow("as it is asked to") << QStringList() << SIGTERM;
-  QTest::newRow("by force") << QStringList({"10000", "deaf"}) << SIGKILL;
-}
-
-// It goes on as soon as it is asked to end, and its answers don't count any more.
-void TestInstance::endsOneThatDoesNotAnswer() {
-  QFETCH(QStringList, words);
-  QFETCH(int, signal);
-  Starts starts;
-  QProcess& first = starts.start(words);
-  QCOMPARE(line(first), QByteArray("first"));
-  ::kill(pid_t(first.processId()), SIGSTOP);
-  QProcess& second = starts.start({"200", "end"});
-  QCOMPARE(line(second), QByteArray("no answer"));
-  QCOMPARE(line(second), QByteArray("first"));
-  QVERIFY(first.waitForFinished(20000));
-  QCOMPARE(first.exitStatus(), QProcess::CrashExit);
-  QCOMPARE(first.exitCode(), signal);
-  QCOMPARE(line(starts.start()), QByteArray("shown"));
-  QCOMPARE(line(second), QByteArray("asked"));
-}
-
-void TestInstance::endsNoOtherProgram() {
-  Starts starts;
-  QLockFile lock(starts.folder.filePath("tarnloft.lock"));
-  QVERIFY(lock.lock());
-  QProcess& second = starts.start({"200", "end"});
-  QCOMPARE(line(second), QByteArray("no answer"));
-  QCOMPARE(line(second), QByteArray("failed"));
-  QCOMPARE(exitCode(second), 1);
-}
+  void endsNoOtherProgram() {
+    Starts starts;
+    QLockFile lock(starts.folder.filePath("tarnloft.lock"));
+    QVERIFY(lock.lock());
+    QProcess& second = starts.start({"200", "end"});
+    QCOMPARE(line(second), QByteArray("no answer"));
+    QCOMPARE(line(second), QByteArray("failed"));
+    QCOMPARE(exitCode(second), 1);
+  }
+};
 
 QTEST_GUILESS_MAIN(TestInstance)
+
 #include "tst_instance.moc"
