@@ -5,6 +5,7 @@
 #include "document/BrandDocument.h"
 #include "document/Package.h"
 #include "model/Uuid.h"
+#include "testing/Cases.h"
 #include "testing/FakeDrops.h"
 #include "testing/TestServices.h"
 
@@ -50,10 +51,6 @@ struct Dragging {
 
 Item image(const AssetRef& asset) { return Item::create(ImagePayload{asset, std::nullopt}); }
 
-}  // namespace
-
-namespace {
-
 // Pictures of 1000 by 500 pixels, with so many bytes to each in any format.
 class PlainImages : public Images {
  public:
@@ -79,138 +76,110 @@ class TestDragOut : public QObject {
   Q_OBJECT
 
  private slots:
-  void copiesUnderTheClientsName_data() {
-    QTest::addColumn<QString>("originalName");
-    QTest::addColumn<QString>("copy");
-    QTest::newRow("plain") << "AcmeLogo.png"
-                           << "AcmeLogo.png";
-    QTest::newRow("odd") << "Überzug & Co #1 100%.png"
-                         << "Überzug & Co #1 100%.png";
-    QTest::newRow("no extension") << "Logo"
-                                  << "Logo";
-    QTest::newRow("hidden") << ".png"
-                            << ".png";
-    QTest::newRow("upwards") << "../../../etc/passwd"
-                             << "passwd";
-    QTest::newRow("absolute") << "/etc/cron.d/x"
-                              << "x";
-    QTest::newRow("slash at the end") << "a/Logo.png/"
-                                      << "Logo.png";
-    for (const char* bad : {"", ".", "..", "a/..", "/", "//"}) {
-      QTest::newRow(qPrintable(QString("no name: %1").arg(bad))) << bad << "stored.png";
-    }
-    QTest::newRow("NUL") << "a" + QString(QChar(u'\0')) + "b"
-                         << "stored.png";
-  }
-
   void copiesUnderTheClientsName() {
-    QFETCH(QString, originalName);
-    QFETCH(QString, copy);
-    Dragging dragging;
-    (void)dragging.asset("stored.png", "");
-    const QString url = DragFileExport::tempURL(dragging.disk.files,
-                                                dragging.assetPath("stored.png"), originalName);
-    QCOMPARE(url, dragging.folder + '/' + copy);
-    QCOMPARE(contentOf(url), "stored.png");
-    QCOMPARE(QDir(dragging.temporary).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
-             QStringList("tarnloft-drag"));
-  }
-
-  void theNewestDragReplacesWhateverStandsThere_data() {
-    QTest::addColumn<QString>("what");
-    for (const char* what : {"file", "folder", "link", "link to a folder", "dangling link"}) {
-      QTest::newRow(what) << what;
+    const QString nul = "a" + QString(QChar(u'\0')) + "b";
+    const QList<QPair<QString, QString>> copies{
+        {"AcmeLogo.png", "AcmeLogo.png"},
+        {"Überzug & Co #1 100%.png", "Überzug & Co #1 100%.png"},
+        {"Logo", "Logo"},
+        {".png", ".png"},
+        {"../../../etc/passwd", "passwd"},
+        {"/etc/cron.d/x", "x"},
+        {"a/Logo.png/", "Logo.png"},
+        {"", "stored.png"},
+        {".", "stored.png"},
+        {"..", "stored.png"},
+        {"a/..", "stored.png"},
+        {"//", "stored.png"},
+        {nul, "stored.png"}};
+    for (const auto& [originalName, copy] : copies) {
+      Dragging dragging;
+      (void)dragging.asset("stored.png", "");
+      const QString url = DragFileExport::tempURL(dragging.disk.files,
+                                                  dragging.assetPath("stored.png"), originalName);
+      QCOMPARE(url, dragging.folder + '/' + copy);
+      QCOMPARE(contentOf(url), "stored.png");
+      QCOMPARE(QDir(dragging.temporary).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
+               QStringList("tarnloft-drag"));
     }
   }
 
   void theNewestDragReplacesWhateverStandsThere() {
-    QFETCH(QString, what);
-    Dragging dragging;
-    (void)dragging.asset("stored.png", "");
-    const QString target = dragging.folder + "/Logo.png", other = dragging.disk.path("other/file");
-    QVERIFY(writeFile(other, "other") && QDir().mkpath(dragging.folder));
-    if (what == "file") QVERIFY(writeFile(target, "old"));
-    if (what == "folder") QVERIFY(writeFile(target + "/inside/x", "old"));
-    if (what == "link") QVERIFY(QFile::link(other, target));
-    if (what == "link to a folder") QVERIFY(QFile::link(QFileInfo(other).path(), target));
-    if (what == "dangling link") QVERIFY(QFile::link("nowhere", target));
-    const auto drag = [&] {
-      return DragFileExport::tempURL(dragging.disk.files, dragging.assetPath("stored.png"),
-                                     "Logo.png");
-    };
-    for (int again = 0; again < 2; ++again) QCOMPARE(drag(), target);
-    QVERIFY(!QFileInfo(target).isSymLink());
-    QCOMPARE(contentOf(target), "stored.png");
-    QCOMPARE(contentOf(other), "other");
-  }
-
-  void fallsBackToTheAssetItself_data() {
-    QTest::addColumn<QString>("fault");
-    for (const char* fault : {"asset gone", "no temporary folder", "name too long"}) {
-      QTest::newRow(fault) << fault;
+    for (const QString what : {"file", "folder", "link", "link to a folder", "dangling link"}) {
+      Dragging dragging;
+      (void)dragging.asset("stored.png", "");
+      const QString target = dragging.folder + "/Logo.png",
+                    other = dragging.disk.path("other/file");
+      QVERIFY(writeFile(other, "other") && QDir().mkpath(dragging.folder));
+      if (what == "file") QVERIFY(writeFile(target, "old"));
+      if (what == "folder") QVERIFY(writeFile(target + "/inside/x", "old"));
+      if (what == "link") QVERIFY(QFile::link(other, target));
+      if (what == "link to a folder") QVERIFY(QFile::link(QFileInfo(other).path(), target));
+      if (what == "dangling link") QVERIFY(QFile::link("nowhere", target));
+      for (int again = 0; again < 2; ++again) {
+        QCOMPARE(DragFileExport::tempURL(dragging.disk.files, dragging.assetPath("stored.png"),
+                                         "Logo.png"),
+                 target);
+      }
+      QVERIFY2(!QFileInfo(target).isSymLink(), qPrintable(what));
+      QCOMPARE(contentOf(target), "stored.png");
+      QCOMPARE(contentOf(other), "other");
     }
   }
 
   void fallsBackToTheAssetItself() {
-    QFETCH(QString, fault);
-    Dragging dragging;
-    (void)dragging.asset("stored.png", "");
-    const QString path = dragging.assetPath("stored.png");
-    QVERIFY(writeFile(dragging.folder + "/Logo.png", "of another brand"));
-    if (fault == "asset gone") QVERIFY(QFile::remove(path));
-    if (fault == "no temporary folder") {
-      qputenv("TMPDIR", QFile::encodeName(dragging.folder + "/Logo.png"));
+    for (const QString fault : {"asset gone", "no temporary folder", "name too long"}) {
+      Dragging dragging;
+      (void)dragging.asset("stored.png", "");
+      const QString path = dragging.assetPath("stored.png");
+      QVERIFY(writeFile(dragging.folder + "/Logo.png", "of another brand"));
+      if (fault == "asset gone") QVERIFY(QFile::remove(path));
+      if (fault == "no temporary folder") {
+        qputenv("TMPDIR", QFile::encodeName(dragging.folder + "/Logo.png"));
+      }
+      const QString name = fault == "name too long" ? QString(300, 'x') : "Logo.png";
+      QCOMPARE(DragFileExport::tempURL(dragging.disk.files, path, name), path);
     }
-    const QString name = fault == "name too long" ? QString(300, 'x') : "Logo.png";
-    QCOMPARE(DragFileExport::tempURL(dragging.disk.files, path, name), path);
-  }
-
-  void handsOutByKind_data() {
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<bool>("tiff");
-    const auto row = [](const char* kind, const char* file, bool tiff) {
-      QTest::newRow(kind) << kind << file << tiff;
-    };
-    row("png", "Client.png", true);
-    row("svg", "Client.svg", true);
-    row("pdf image", "Client.pdf", false);
-    row("image without extension", "Client", false);
-    row("video", "Client.mp4", false);
-    row("font", "Client.ttf", false);
-    row("name-only font", "", false);
-    row("logo", "Primary.png", true);
-    row("empty logo", "", false);
-    row("color", "", false);
-    row("header", "", false);
-    row("lost image", "", false);
   }
 
   void handsOutByKind() {
-    QFETCH(QString, kind);
-    QFETCH(QString, file);
-    QFETCH(bool, tiff);
-    Dragging dragging;
-    const AssetRef asset = dragging.asset("stored", file), other = dragging.asset("other", "x.mp4");
-    const QList<LogoVariant> variants{
-        {QUuid::createUuid(), other, LogoRole::mono, std::nullopt},
-        {QUuid::createUuid(), asset, LogoRole::primary, std::nullopt}};
-    const QHash<QString, ItemPayload> odd{
-        {"video", VideoPayload{asset, std::nullopt}},
-        {"font", FontPayload{{"F", {}, {}, asset, {}}}},
-        {"name-only font", FontPayload{{"F", {}, {}, {}, {}}}},
-        {"logo", LogoPayload{{"Logo", variants}}},
-        {"empty logo", LogoPayload{{"Logo", {}}}},
-        {"color", ColorPayload{{"#123456", {}, {}}}},
-        {"header", HeaderPayload{"H", 1}},
-        {"lost image", ImagePayload{{"lost", "lost.png"}, std::nullopt}}};
-    const Item item = Item::create(odd.value(kind, ImagePayload{asset, std::nullopt}));
-    const DragItem drag = dragging.drag(item);
-    QCOMPARE(drag.file.value_or(QString()), file.isEmpty() ? file : dragging.folder + '/' + file);
-    QCOMPARE(bool(drag.makeTiff), tiff);
-    QCOMPARE(drag.payload->type, "com.quillmoor.tarnloft.item");
-    QCOMPARE(drag.payload->bytes, canonicalString(item.id).toUtf8());
-    if (!file.isEmpty()) QCOMPARE(drag.suggestedName, file.section('.', 0, 0));
+    const Cases<QString, QString, bool> cases{
+        {"png", "png", "Client.png", true},
+        {"svg", "svg", "Client.svg", true},
+        {"pdf image", "pdf image", "Client.pdf", false},
+        {"image without extension", "image without extension", "Client", false},
+        {"video", "video", "Client.mp4", false},
+        {"font", "font", "Client.ttf", false},
+        {"name-only font", "name-only font", "", false},
+        {"logo", "logo", "Primary.png", true},
+        {"empty logo", "empty logo", "", false},
+        {"color", "color", "", false},
+        {"header", "header", "", false},
+        {"lost image", "lost image", "", false}};
+    cases.check([&](const QString& kind, const QString& file, bool tiff) {
+      Dragging dragging;
+      const AssetRef asset = dragging.asset("stored", file),
+                     other = dragging.asset("other", "x.mp4");
+      const QList<LogoVariant> variants{
+          {QUuid::createUuid(), other, LogoRole::mono, std::nullopt},
+          {QUuid::createUuid(), asset, LogoRole::primary, std::nullopt}};
+      const QHash<QString, ItemPayload> odd{
+          {"video", VideoPayload{asset, std::nullopt}},
+          {"font", FontPayload{{"F", {}, {}, asset, {}}}},
+          {"name-only font", FontPayload{{"F", {}, {}, {}, {}}}},
+          {"logo", LogoPayload{{"Logo", variants}}},
+          {"empty logo", LogoPayload{{"Logo", {}}}},
+          {"color", ColorPayload{{"#123456", {}, {}}}},
+          {"header", HeaderPayload{"H", 1}},
+          {"lost image", ImagePayload{{"lost", "lost.png"}, std::nullopt}}};
+      const Item item = Item::create(odd.value(kind, ImagePayload{asset, std::nullopt}));
+      const DragItem drag = dragging.drag(item);
+      QCOMPARE(drag.file.value_or(QString()), file.isEmpty() ? file : dragging.folder + '/' + file);
+      QCOMPARE(bool(drag.makeTiff), tiff);
+      QCOMPARE(drag.payload->type, "com.quillmoor.tarnloft.item");
+      QCOMPARE(drag.payload->bytes, canonicalString(item.id).toUtf8());
+      if (!file.isEmpty()) QCOMPARE(drag.suggestedName, file.section('.', 0, 0));
+    });
   }
 
   void aPictureHasATiffOnDemand() {
@@ -222,49 +191,36 @@ class TestDragOut : public QObject {
     QCOMPARE(dragging.tiffed, QStringList(dragging.assetPath("stored.jpg")));
   }
 
-  void aTiffFitsItsBounds_data() {
-    QTest::addColumn<double>("bytesPerPixel");
-    QTest::addColumn<qint64>("maxBytes");
-    QTest::addColumn<qint64>("atLeast");
-    const qint64 none = std::numeric_limits<qint64>::max();
-    QTest::newRow("unbounded") << 4.0 << none << qint64(2'000'000);
-    QTest::newRow("in its own size") << 2.0 << qint64(1'000'000) << qint64(1'000'000);
-    QTest::newRow("smaller") << 2.0 << qint64(999'999) << qint64(800'000);
-    QTest::newRow("much smaller") << 4.0 << qint64(10'000) << qint64(8'000);
-  }
-
   void aTiffFitsItsBounds() {
-    QFETCH(qint64, maxBytes);
-    QFETCH(qint64, atLeast);
-    PlainImages images;
-    QFETCH(double, bytesPerPixel);
-    images.bytesPerPixel = bytesPerPixel;
-    const auto tiff = TiffFlavour::make(images, "a.png", maxBytes);
-    QVERIFY(tiff && tiff->size() <= maxBytes && tiff->size() >= atLeast);
-    const QSizeF last = images.converted.last();
-    QVERIFY(qAbs(last.width() / last.height() - 2) < 0.05);
-    QVERIFY(!TiffFlavour::make(images, "missing", maxBytes));
-  }
-
-  void handsOutNothingFromOutsideThePackage_data() {
-    QTest::addColumn<QString>("filename");
-    for (const char* bad :
-         {"../../secret.png", "", ".", "..", "out.png", "folder.png", "gone.png"}) {
-      QTest::newRow(bad) << bad;
-    }
+    const qint64 none = std::numeric_limits<qint64>::max();
+    const Cases<double, qint64, qint64> cases{
+        {"unbounded", 4.0, none, qint64(2'000'000)},
+        {"in its own size", 2.0, qint64(1'000'000), qint64(1'000'000)},
+        {"smaller", 2.0, qint64(999'999), qint64(800'000)},
+        {"much smaller", 4.0, qint64(10'000), qint64(8'000)}};
+    cases.check([&](double bytesPerPixel, qint64 maxBytes, qint64 atLeast) {
+      PlainImages images;
+      images.bytesPerPixel = bytesPerPixel;
+      const auto tiff = TiffFlavour::make(images, "a.png", maxBytes);
+      QVERIFY(tiff && tiff->size() <= maxBytes && tiff->size() >= atLeast);
+      const QSizeF last = images.converted.last();
+      QVERIFY(qAbs(last.width() / last.height() - 2) < 0.05);
+      QVERIFY(!TiffFlavour::make(images, "missing", maxBytes));
+    });
   }
 
   void handsOutNothingFromOutsideThePackage() {
-    QFETCH(QString, filename);
     Dragging dragging;
     QVERIFY(writeFile(dragging.disk.path("secret.png"), "secret"));
     QVERIFY(QFile::link(dragging.disk.path("secret.png"), dragging.assetPath("out.png")));
     QVERIFY(QFile::link(dragging.disk.path("gone"), dragging.assetPath("gone.png")));
     QVERIFY(QDir().mkpath(dragging.assetPath("folder.png")));
-    const Item item = image({filename, "Logo.png"});
-    const DragItem drag = dragging.drag(item);
-    QVERIFY(!drag.file && !drag.makeTiff && drag.payload);
-    QVERIFY(!QFileInfo::exists(dragging.folder + "/Logo.png"));
+    for (const char* bad :
+         {"../../secret.png", "", ".", "..", "out.png", "folder.png", "gone.png"}) {
+      const DragItem drag = dragging.drag(image({bad, "Logo.png"}));
+      QVERIFY2(!drag.file && !drag.makeTiff && drag.payload, bad);
+      QVERIFY2(!QFileInfo::exists(dragging.folder + "/Logo.png"), bad);
+    }
   }
 
   void aVariantIsAPlainFile() {
@@ -302,5 +258,4 @@ class TestDragOut : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestDragOut)
-
 #include "tst_dragout.moc"

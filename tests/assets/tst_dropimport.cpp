@@ -2,6 +2,7 @@
 #include "assets/ItemDrag.h"
 #include "document/Package.h"
 #include "model/Uuid.h"
+#include "testing/Cases.h"
 #include "testing/FakeDrops.h"
 #include "testing/HeldStore.h"
 #include "testing/TestLibrary.h"
@@ -77,47 +78,37 @@ class TestDropImport : public QObject {
   Q_OBJECT
 
  private slots:
-  void classifiesFiles_data() {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("extension");
-    const auto row = [](const char* file, const char* type, const char* kind, const char* name,
-                        const char* extension) {
-      QTest::newRow(file) << file << type << kind << name << extension;
-    };
-    row("Mark.png", "image/png", "Image", "Mark", "png");
-    row("report.final.png", "image/png", "Image", "report.final", "png");
-    row("Reel.mp4", "video/mp4", "Video", "Reel", "mp4");
-    row("raw.yuv", "video/raw", "Video", "raw", "yuv");
-    row("notes.pdf", "application/pdf", "Image", "notes", "pdf");
-    row("README", "", "Image", "README", "dat");
-    row(".hidden", "text/plain", "Image", ".hidden", "dat");
-    row("Acme.OTF", "", "Type", "Acme", "OTF");
-    row("old.dfont", "", "Type", "old", "dfont");
-    row("fonts.otc", "text/plain", "Type", "fonts", "otc");
-    row("face.mov", "font/ttf", "Type", "face", "mov");
-    row("Überzug & Co #1.jpg", "image/jpeg", "Image", "Überzug & Co #1", "jpg");
-  }
-
   void classifiesFiles() {
-    QFETCH(QString, file);
-    QFETCH(QString, type);
-    QFETCH(QString, extension);
-    Dropping dropping;
-    dropping.types.types[QFileInfo(file).suffix()] = type;
-    QVERIFY(dropping.drop({dropping.file(file, QByteArray())}));
-    dropping.finish();
-    QCOMPARE(dropping.section(1).items.size(), 1);
-    const Item& item = dropping.section(1).items.at(0);
-    QTEST(item.typeLabel(), "kind");
-    QTEST(item.displayName(), "name");
-    QCOMPARE(assetOf(item).originalName, file);
-    QCOMPARE(assetOf(item).filename.mid(36), '.' + extension);
-    QVERIFY(QFileInfo::exists(dropping.assets() + assetOf(item).filename));
-    QVERIFY(!item.imageBackground && !item.notes);
-    QVERIFY(QFileInfo::exists(dropping.disk.path("from/" + file)));
+    const Cases<QString, QString, QString, QString, QString> cases{
+        {"Mark.png", "Mark.png", "image/png", "Image", "Mark", "png"},
+        {"report.final.png", "report.final.png", "image/png", "Image", "report.final", "png"},
+        {"Reel.mp4", "Reel.mp4", "video/mp4", "Video", "Reel", "mp4"},
+        {"raw.yuv", "raw.yuv", "video/raw", "Video", "raw", "yuv"},
+        {"notes.pdf", "notes.pdf", "application/pdf", "Image", "notes", "pdf"},
+        {"README", "README", "", "Image", "README", "dat"},
+        {".hidden", ".hidden", "text/plain", "Image", ".hidden", "dat"},
+        {"Acme.OTF", "Acme.OTF", "", "Type", "Acme", "OTF"},
+        {"old.dfont", "old.dfont", "", "Type", "old", "dfont"},
+        {"fonts.otc", "fonts.otc", "text/plain", "Type", "fonts", "otc"},
+        {"face.mov", "face.mov", "font/ttf", "Type", "face", "mov"},
+        {"Überzug & Co #1.jpg", "Überzug & Co #1.jpg", "image/jpeg", "Image", "Überzug & Co #1",
+         "jpg"}};
+    cases.check([&](const QString& file, const QString& type, const QString& kind,
+                    const QString& name, const QString& extension) {
+      Dropping dropping;
+      dropping.types.types[QFileInfo(file).suffix()] = type;
+      QVERIFY(dropping.drop({dropping.file(file, QByteArray())}));
+      dropping.finish();
+      QCOMPARE(dropping.section(1).items.size(), 1);
+      const Item& item = dropping.section(1).items.at(0);
+      QCOMPARE(item.typeLabel(), kind);
+      QCOMPARE(item.displayName(), name);
+      QCOMPARE(assetOf(item).originalName, file);
+      QCOMPARE(assetOf(item).filename.mid(36), '.' + extension);
+      QVERIFY(QFileInfo::exists(dropping.assets() + assetOf(item).filename));
+      QVERIFY(!item.imageBackground && !item.notes);
+      QVERIFY(QFileInfo::exists(dropping.disk.path("from/" + file)));
+    });
   }
 
   void takesFilesAsChosen() {
@@ -138,58 +129,41 @@ class TestDropImport : public QObject {
     QCOMPARE(kinds, QStringList({"Image", "Image", "Video", "Type"}));
   }
 
-  void namesFontsByTheirContent_data() {
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("family");
-    QTest::addColumn<QString>("weight");
-    QTest::newRow("family and style") << QByteArray("Inter:Bold") << "Inter"
-                                      << "Bold";
-    QTest::newRow("family alone") << QByteArray("Inter") << "Inter" << QString();
-    QTest::newRow("unreadable") << QByteArray() << "file.name" << QString();
-  }
-
   void namesFontsByTheirContent() {
-    QFETCH(QByteArray, content);
-    QFETCH(QString, family);
-    QFETCH(QString, weight);
-    Dropping dropping;
-    QVERIFY(dropping.drop({dropping.file("file.name.ttf", content)}));
-    dropping.finish();
-    const auto font = std::get<FontPayload>(dropping.section(1).items.at(0).payload).value;
-    QCOMPARE(font.family, family);
-    QCOMPARE(font.name, family);
-    QCOMPARE(font.weight.value_or(QString()), weight);
-    QCOMPARE(font.sampleText, "The quick brown fox");
-    QCOMPARE(dropping.fonts.registered, QStringList(dropping.assets() + font.asset->filename));
-  }
-
-  void namesPictures_data() {
-    QTest::addColumn<QString>("suggested");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("with blanks") << " \tHero.jpg \u00a0"
-                                 << "Hero";
-    QTest::newRow("two dots") << "a.b.c"
-                              << "a.b";
-    QTest::newRow("none") << QString() << "Image";
-    QTest::newRow("blank") << " \t "
-                           << "Image";
-    QTest::newRow("a line end stays") << "Hero\n"
-                                      << "Hero\n";
-    QTest::newRow("no extension") << "Hero"
-                                  << "Hero";
+    const Cases<QByteArray, QString, QString> cases{
+        {"family and style", "Inter:Bold", "Inter", "Bold"},
+        {"family alone", "Inter", "Inter", QString()},
+        {"unreadable", "", "file.name", QString()}};
+    cases.check([&](const QByteArray& content, const QString& family, const QString& weight) {
+      Dropping dropping;
+      QVERIFY(dropping.drop({dropping.file("file.name.ttf", content)}));
+      dropping.finish();
+      const auto font = std::get<FontPayload>(dropping.section(1).items.at(0).payload).value;
+      QCOMPARE(font.family, family);
+      QCOMPARE(font.name, family);
+      QCOMPARE(font.weight.value_or(QString()), weight);
+      QCOMPARE(font.sampleText, "The quick brown fox");
+      QCOMPARE(dropping.fonts.registered, QStringList(dropping.assets() + font.asset->filename));
+    });
   }
 
   void namesPictures() {
-    QFETCH(QString, suggested);
-    QFETCH(QString, name);
-    Dropping dropping;
-    QVERIFY(dropping.drop({FakeThing::of(DropType::image, "no png at all", suggested)}));
-    dropping.finish();
-    const auto image = std::get<ImagePayload>(dropping.section(1).items.at(0).payload);
-    QCOMPARE(image.name, name);
-    QCOMPARE(image.asset.originalName, name + ".png");
-    QCOMPARE(image.asset.filename.mid(36), ".png");
-    QCOMPARE(contentOf(dropping.assets() + image.asset.filename), "no png at all");
+    const Cases<QString, QString> cases{{"with blanks", " \tHero.jpg \u00a0", "Hero"},
+                                        {"two dots", "a.b.c", "a.b"},
+                                        {"none", QString(), "Image"},
+                                        {"blank", " \t ", "Image"},
+                                        {"a line end stays", "Hero\n", "Hero\n"},
+                                        {"no extension", "Hero", "Hero"}};
+    cases.check([&](const QString& suggested, const QString& name) {
+      Dropping dropping;
+      QVERIFY(dropping.drop({FakeThing::of(DropType::image, "no png at all", suggested)}));
+      dropping.finish();
+      const auto image = std::get<ImagePayload>(dropping.section(1).items.at(0).payload);
+      QCOMPARE(image.name, name);
+      QCOMPARE(image.asset.originalName, name + ".png");
+      QCOMPARE(image.asset.filename.mid(36), ".png");
+      QCOMPARE(contentOf(dropping.assets() + image.asset.filename), "no png at all");
+    });
   }
 
   void movesADraggedTileAndNothingElse() {
@@ -205,22 +179,19 @@ class TestDropImport : public QObject {
     QCOMPARE(dropping.shape(), "S:a,b T:");
   }
 
-  void movesNothingForABadPayload_data() {
-    QTest::addColumn<QByteArray>("payload");
-    QTest::newRow("null") << QByteArray();
-    QTest::newRow("empty") << QByteArray("");
-    QTest::newRow("no id") << QByteArray("8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E2G");
-    QTest::newRow("no text") << QByteArray(36, '\xff');
-    QTest::newRow("of nothing") << canonicalString(QUuid::createUuid()).toUtf8();
-  }
-
   void movesNothingForABadPayload() {
-    QFETCH(QByteArray, payload);
-    Dropping dropping;
-    const auto bytes = payload.isNull() ? std::nullopt : std::optional(payload);
-    QVERIFY(dropping.drop({FakeThing::of(ItemDrag::type, bytes), dropping.file("x.png")}));
-    dropping.finish();
-    QCOMPARE(dropping.shape(), "S:a,b T:");
+    const Cases<QByteArray> cases{{"null", QByteArray()},
+                                  {"empty", ""},
+                                  {"no id", "8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E2G"},
+                                  {"no text", QByteArray(36, '\xff')},
+                                  {"of nothing", canonicalString(QUuid::createUuid()).toUtf8()}};
+    cases.check([&](const QByteArray& payload) {
+      Dropping dropping;
+      const auto bytes = payload.isNull() ? std::nullopt : std::optional(payload);
+      QVERIFY(dropping.drop({FakeThing::of(ItemDrag::type, bytes), dropping.file("x.png")}));
+      dropping.finish();
+      QCOMPARE(dropping.shape(), "S:a,b T:");
+    });
   }
 
   void refusesWhatIsNothing() {
@@ -393,5 +364,4 @@ class TestDropImport : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestDropImport)
-
 #include "tst_dropimport.moc"

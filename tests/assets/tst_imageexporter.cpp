@@ -2,6 +2,7 @@
 #include "assets/ExportFormats.h"
 #include "assets/ExportImageSize.h"
 #include "assets/ImageExporter.h"
+#include "testing/Cases.h"
 #include "testing/GatedImages.h"
 
 #include <QSignalSpy>
@@ -33,53 +34,40 @@ class TestImageExporter : public QObject {
   Q_OBJECT
 
  private slots:
-  void knowsEachFormat_data() {
-    QTest::addColumn<QString>("raw");
-    QTest::addColumn<QString>("extension");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("mime");
-    QTest::addColumn<bool>("lossy");
-    const auto row = [](const char* raw, const char* extension, const char* name, const char* mime,
-                        bool lossy) {
-      QTest::newRow(raw) << QString::fromLatin1(raw) << QString::fromLatin1(extension)
-                         << QString::fromLatin1(name) << QString::fromLatin1(mime) << lossy;
-    };
-    row("png", "png", "PNG", "image/png", false);
-    row("jpeg", "jpg", "JPEG", "image/jpeg", true);
-    row("heic", "heic", "HEIC", "image/heic", true);
-    row("tiff", "tiff", "TIFF", "image/tiff", false);
-  }
-
   void knowsEachFormat() {
-    QFETCH(QString, raw);
-    const auto format = fromRawValue<ExportFormat>(raw.toStdString());
-    QVERIFY(format);
-    QTEST(fileExtension(*format), "extension");
-    QTEST(label(*format), "name");
-    QTEST(mimeType(*format), "mime");
-    QTEST(isLossy(*format), "lossy");
-  }
-
-  void offersPresets_data() {
-    QTest::addColumn<QSizeF>("native");
-    QTest::addColumn<QString>("labels");
-    QTest::newRow("small") << QSizeF(300, 200) << QStringLiteral("100% 50% 25%");
-    QTest::newRow("middle") << QSizeF(1500, 900) << QStringLiteral("100% 50% 25% 1024px 512px");
-    QTest::newRow("strictly") << QSizeF(100, 2048) << QStringLiteral("100% 50% 25% 1024px 512px");
-    QTest::newRow("large") << QSizeF(2049, 1) << QStringLiteral("100% 50% 25% 2048px 1024px 512px");
+    const Cases<QString, QString, QString, QString, bool> cases{
+        {"png", "png", "png", "PNG", "image/png", false},
+        {"jpeg", "jpeg", "jpg", "JPEG", "image/jpeg", true},
+        {"heic", "heic", "heic", "HEIC", "image/heic", true},
+        {"tiff", "tiff", "tiff", "TIFF", "image/tiff", false}};
+    cases.check([&](const QString& raw, const QString& extension, const QString& name,
+                    const QString& mime, bool lossy) {
+      const auto format = fromRawValue<ExportFormat>(raw.toStdString());
+      QVERIFY(format);
+      QCOMPARE(fileExtension(*format), extension);
+      QCOMPARE(label(*format), name);
+      QCOMPARE(mimeType(*format), mime);
+      QCOMPARE(isLossy(*format), lossy);
+    });
   }
 
   void offersPresets() {
-    QFETCH(QSizeF, native);
-    ExportImageSize size(native);
-    QStringList labels;
-    for (const ExportPreset& preset : size.presets()) {
-      labels << preset.label;
-      if (!preset.label.endsWith(QStringLiteral("px"))) continue;
-      size.applyScale(preset.scale);
-      QCOMPARE(qMax(size.width(), size.height()), QStringView(preset.label).chopped(2).toInt());
-    }
-    QTEST(labels.join(QLatin1Char(' ')), "labels");
+    const Cases<QSizeF, QString> cases{
+        {"small", QSizeF(300, 200), "100% 50% 25%"},
+        {"middle", QSizeF(1500, 900), "100% 50% 25% 1024px 512px"},
+        {"strictly", QSizeF(100, 2048), "100% 50% 25% 1024px 512px"},
+        {"large", QSizeF(2049, 1), "100% 50% 25% 2048px 1024px 512px"}};
+    cases.check([&](const QSizeF& native, const QString& labels) {
+      ExportImageSize size(native);
+      QStringList found;
+      for (const ExportPreset& preset : size.presets()) {
+        found << preset.label;
+        if (!preset.label.endsWith("px")) continue;
+        size.applyScale(preset.scale);
+        QCOMPARE(qMax(size.width(), size.height()), QStringView(preset.label).chopped(2).toInt());
+      }
+      QCOMPARE(found.join(' '), labels);
+    });
   }
 
   void scalesFromTheNativeSize() {
@@ -92,30 +80,22 @@ class TestImageExporter : public QObject {
     QCOMPARE(ExportImageSize({0.2, 99.6}).pixelSize(), QSize(1, 100));
   }
 
-  void keepsTheAspectWhileLocked_data() {
-    QTest::addColumn<QSizeF>("native");
-    QTest::addColumn<int>("width");
-    QTest::addColumn<QSize>("byWidth");
-    QTest::addColumn<int>("height");
-    QTest::addColumn<QSize>("byHeight");
-    QTest::newRow("plain") << QSizeF(1000, 500) << 300 << QSize(300, 150) << 50 << QSize(100, 50);
-    QTest::newRow("least") << QSizeF(1000, 10) << 1 << QSize(1, 1) << 1 << QSize(100, 1);
-    QTest::newRow("none") << QSizeF(100, 50) << 0 << QSize(1, 1) << -7 << QSize(2, 1);
-    QTest::newRow("flat") << QSizeF(100, 0) << 30 << QSize(30, 30) << 40 << QSize(40, 40);
-    QTest::newRow("beyond") << QSizeF(1, 1000) << 2'000'000'000 << QSize(2'000'000'000, INT_MAX)
-                            << 5 << QSize(1, 5);
-  }
-
   void keepsTheAspectWhileLocked() {
-    QFETCH(QSizeF, native);
-    QFETCH(int, width);
-    QFETCH(int, height);
-    ExportImageSize size(native);
-    QVERIFY(size.lockAspect());
-    size.setWidth(width);
-    QTEST(size.pixelSize(), "byWidth");
-    size.setHeight(height);
-    QTEST(size.pixelSize(), "byHeight");
+    const Cases<QSizeF, int, QSize, int, QSize> cases{
+        {"plain", QSizeF(1000, 500), 300, QSize(300, 150), 50, QSize(100, 50)},
+        {"least", QSizeF(1000, 10), 1, QSize(1, 1), 1, QSize(100, 1)},
+        {"none", QSizeF(100, 50), 0, QSize(1, 1), -7, QSize(2, 1)},
+        {"flat", QSizeF(100, 0), 30, QSize(30, 30), 40, QSize(40, 40)},
+        {"beyond", QSizeF(1, 1000), 2'000'000'000, QSize(2'000'000'000, INT_MAX), 5, QSize(1, 5)}};
+    cases.check([&](const QSizeF& native, int width, const QSize& byWidth, int height,
+                    const QSize& byHeight) {
+      ExportImageSize size(native);
+      QVERIFY(size.lockAspect());
+      size.setWidth(width);
+      QCOMPARE(size.pixelSize(), byWidth);
+      size.setHeight(height);
+      QCOMPARE(size.pixelSize(), byHeight);
+    });
   }
 
   void unlockedSidesAreFree() {
@@ -132,7 +112,7 @@ class TestImageExporter : public QObject {
 
   void readsTheNativeSize() {
     GatedImages images;
-    const auto size = [&] { return ImageExporter::nativeSize(images, QStringLiteral("a")); };
+    const auto size = [&] { return ImageExporter::nativeSize(images, "a"); };
     QVERIFY(!size());
     images.toldVectorSize = QSizeF(0, 10);
     QVERIFY(!size());
@@ -144,9 +124,9 @@ class TestImageExporter : public QObject {
 
   void makesTargets() {
     GatedImages images;
-    const AssetRef asset{QStringLiteral("1.png"), QStringLiteral("Acme Logo.final.png")};
-    const auto target = ExportTarget::create(images, QStringLiteral("/p/assets/1.png"), asset);
-    QCOMPARE(target.baseName, QStringLiteral("Acme Logo.final"));
+    const AssetRef asset{"1.png", "Acme Logo.final.png"};
+    const auto target = ExportTarget::create(images, "/p/assets/1.png", asset);
+    QCOMPARE(target.baseName, "Acme Logo.final");
     QCOMPARE(target.nativeSize, QSizeF(1024, 1024));
     QVERIFY(target.id != ExportTarget::create(images, target.url, asset).id);
   }
@@ -155,22 +135,20 @@ class TestImageExporter : public QObject {
     GatedImages images;
     images.open(3);
     for (const QSizeF size : {QSizeF(10.5, 3.4), QSizeF(0.2, -5), QSizeF(1, 9e18)}) {
-      ImageExporter::exportImage(images, QStringLiteral("a"), ExportFormat::jpeg, size, 0.5);
+      ImageExporter::exportImage(images, "a", ExportFormat::jpeg, size, 0.5);
     }
     QCOMPARE(images.begun(),
-             QStringList({QStringLiteral("a jpeg 11x3 0.5"), QStringLiteral("a jpeg 1x1 0.5"),
-                          QStringLiteral("a jpeg 1x2147483647 0.5")}));
+             QStringList({"a jpeg 11x3 0.5", "a jpeg 1x1 0.5", "a jpeg 1x2147483647 0.5"}));
   }
 
   void estimatesOnceTheChoiceRests() {
-    QCOMPARE((ExportChoice{ExportFormat::jpeg, {800, 600}, 0.859}).key(),
-             QStringLiteral("800x600-jpeg-85"));
+    QCOMPARE((ExportChoice{ExportFormat::jpeg, {800, 600}, 0.859}).key(), "800x600-jpeg-85");
     Estimate it;
     it.choose(800);
     QVERIFY(!it.estimate.text());
     QVERIFY(it.images.begun().isEmpty());
     it.images.open(1);
-    QTRY_COMPARE(it.estimate.text(), QStringLiteral("800 KB"));
+    QTRY_COMPARE(it.estimate.text(), "800 KB");
     QCOMPARE(it.changes.size(), 1);
     it.choose(400);
     QVERIFY(!it.estimate.text());
@@ -184,10 +162,9 @@ class TestImageExporter : public QObject {
     it.choose(400);
     it.choose(200);  // before the other has rested
     it.images.open(2);
-    QTRY_COMPARE(it.estimate.text(), QStringLiteral("200 KB"));
+    QTRY_COMPARE(it.estimate.text(), "200 KB");
     QCOMPARE(it.changes.size(), 1);
-    QCOMPARE(it.images.begun(), QStringList({QStringLiteral("a jpeg 800x600 0.85"),
-                                             QStringLiteral("a jpeg 200x600 0.85")}));
+    QCOMPARE(it.images.begun(), QStringList({"a jpeg 800x600 0.85", "a jpeg 200x600 0.85"}));
   }
 
   void startsOnlyForAnotherKey() {
@@ -216,7 +193,7 @@ class TestImageExporter : public QObject {
   void mayEndWhileItConverts() {
     GatedImages images;
     BackgroundWork work(1);
-    auto estimate = std::make_unique<ExportEstimate>(images, work, QStringLiteral("a"), 0ms);
+    auto estimate = std::make_unique<ExportEstimate>(images, work, "a", 0ms);
     estimate->setChoice({ExportFormat::png, {8, 6}, 1});
     QTRY_COMPARE(images.begun().size(), 1);
     estimate.reset();
@@ -228,5 +205,4 @@ class TestImageExporter : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestImageExporter)
-
 #include "tst_imageexporter.moc"

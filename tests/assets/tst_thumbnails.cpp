@@ -46,8 +46,8 @@ class TestThumbnails : public QObject {
     Loader loader;
     const auto first = loader.ask("a"), second = loader.ask("a");
     loader.images.open(1);
-    QTRY_COMPARE(loader.got, QStringList({QStringLiteral("a"), QStringLiteral("a")}));
-    QCOMPARE(loader.images.begun(), QStringList(QStringLiteral("a 64")));
+    QTRY_COMPARE(loader.got, QStringList({"a", "a"}));
+    QCOMPARE(loader.images.begun(), QStringList("a 64"));
   }
 
   void keepsEachSizeOfAFile() {
@@ -74,7 +74,7 @@ class TestThumbnails : public QObject {
     loader.finish(1);
     const auto second = loader.ask("bad");
     loader.finish(1);
-    QCOMPARE(loader.got, QStringList({QStringLiteral("bad!"), QStringLiteral("bad!")}));
+    QCOMPARE(loader.got, QStringList({"bad!", "bad!"}));
     QCOMPARE(loader.images.begun().size(), 2);
   }
 
@@ -83,8 +83,7 @@ class TestThumbnails : public QObject {
     const auto busy = loader.occupy();
     const auto a = loader.ask("a"), b = loader.ask("b"), c = loader.ask("c");
     loader.finish(4);
-    QCOMPARE(loader.got, QStringList({QStringLiteral("busy"), QStringLiteral("c"),
-                                      QStringLiteral("b"), QStringLiteral("a")}));
+    QCOMPARE(loader.got, QStringList({"busy", "c", "b", "a"}));
   }
 
   void asksAgainMovesToTheFront() {
@@ -93,8 +92,7 @@ class TestThumbnails : public QObject {
     const auto a = loader.ask("a"), b = loader.ask("b"), aAgain = loader.ask("a");
     loader.images.open(3);
     QTRY_COMPARE(loader.got.size(), 4);
-    QCOMPARE(loader.images.begun(), QStringList({QStringLiteral("busy 64"), QStringLiteral("a 64"),
-                                                 QStringLiteral("b 64")}));
+    QCOMPARE(loader.images.begun(), QStringList({"busy 64", "a 64", "b 64"}));
   }
 
   void dropsWhatNobodyWantsAnyMore() {
@@ -105,11 +103,10 @@ class TestThumbnails : public QObject {
     b.cancel();
     bAgain.cancel();
     loader.finish(2);
-    QCOMPARE(loader.images.begun(),
-             QStringList({QStringLiteral("busy 64"), QStringLiteral("a 64")}));
+    QCOMPARE(loader.images.begun(), QStringList({"busy 64", "a 64"}));
     b = loader.ask("b");  // dropped, not failed
     loader.finish(1);
-    QCOMPARE(loader.got.last(), QStringLiteral("b"));
+    QCOMPARE(loader.got.last(), "b");
   }
 
   void keepsWhatHadBegun() {
@@ -118,9 +115,9 @@ class TestThumbnails : public QObject {
     busy.cancel();
     const auto other = loader.ask("other");
     loader.images.open(2);
-    QTRY_COMPARE(loader.got, QStringList(QStringLiteral("other")));
+    QTRY_COMPARE(loader.got, QStringList("other"));
     const auto again = loader.ask("busy");
-    QCOMPARE(loader.got.last(), QStringLiteral("busy"));
+    QCOMPARE(loader.got.last(), "busy");
     QCOMPARE(loader.images.begun().size(), 2);
   }
 
@@ -129,13 +126,13 @@ class TestThumbnails : public QObject {
     const auto busy = loader.occupy();
     auto first = loader.ask("a");
     int second = 0;
-    const auto kept = loader.thumbnails.thumbnail(
-        QStringLiteral("a"), 64, [&](const auto& image) { second += image ? 1 : 0; });
+    const auto kept =
+        loader.thumbnails.thumbnail("a", 64, [&](const auto& image) { second += image ? 1 : 0; });
     first.cancel();
     first.cancel();
     loader.images.open(2);
     QTRY_COMPARE(second, 1);
-    QCOMPARE(loader.got, QStringList(QStringLiteral("busy")));
+    QCOMPARE(loader.got, QStringList("busy"));
   }
 
   void forgetsTheLeastRecentlyUsed() {
@@ -158,13 +155,13 @@ class TestThumbnails : public QObject {
   void callbacksMayAskAndCancel() {
     Loader loader;
     ThumbnailLoader::Request next, second;
-    const auto first = loader.thumbnails.thumbnail(QStringLiteral("a"), 64, [&](const auto&) {
+    const auto first = loader.thumbnails.thumbnail("a", 64, [&](const auto&) {
       second.cancel();
       next = loader.ask("a");  // kept by now
     });
     second = loader.ask("a");
     loader.images.open(1);
-    QTRY_COMPARE(loader.got, QStringList(QStringLiteral("a")));
+    QTRY_COMPARE(loader.got, QStringList("a"));
     QCOMPARE(loader.images.begun().size(), 1);
   }
 
@@ -173,9 +170,9 @@ class TestThumbnails : public QObject {
     BackgroundWork work(1);
     auto loader = std::make_unique<ThumbnailLoader>(images, work);
     const auto fail = [](const std::optional<QImage>&) { QFAIL("called after the end"); };
-    auto begun = loader->thumbnail(QStringLiteral("a"), 64, fail);
+    auto begun = loader->thumbnail("a", 64, fail);
     images.awaitBegun(1);
-    auto waiting = loader->thumbnail(QStringLiteral("b"), 64, fail);
+    auto waiting = loader->thumbnail("b", 64, fail);
     loader.reset();
     bool done = false;
     work.start([] {}, [&] { done = true; });
@@ -192,15 +189,15 @@ class TestThumbnails : public QObject {
       return work.start([] {}, [&, name] { done << name; });
     };
     work.hold();
-    start(QStringLiteral("a"));
-    const auto dropped = start(QStringLiteral("b"));
-    start(QStringLiteral("c"));
+    start("a");
+    const auto dropped = start("b");
+    start("c");
     QVERIFY(dropped->drop());
     QTest::qWait(50);
     QVERIFY(done.isEmpty());
     work.resume();
     QTRY_COMPARE(done, QStringList({"c", "a"}));
-    start(QStringLiteral("d"));
+    start("d");
     QTRY_COMPARE(done.size(), 3);
   }
 
@@ -209,9 +206,9 @@ class TestThumbnails : public QObject {
     BackgroundWork work(1);
     ThumbnailLoader loader(images, work);
     const auto ignore = [](const std::optional<QImage>&) {};
-    const auto begun = loader.thumbnail(QStringLiteral("a"), 64, ignore);
+    const auto begun = loader.thumbnail("a", 64, ignore);
     images.awaitBegun(1);
-    const auto waiting = loader.thumbnail(QStringLiteral("b"), 64, ignore);
+    const auto waiting = loader.thumbnail("b", 64, ignore);
     QVERIFY(!work.finish(std::chrono::milliseconds(10)));
     images.open(1);
     QVERIFY(work.finish(std::chrono::seconds(20)));
@@ -220,5 +217,4 @@ class TestThumbnails : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestThumbnails)
-
 #include "tst_thumbnails.moc"

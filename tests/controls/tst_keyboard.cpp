@@ -1,4 +1,5 @@
 #include "Stage.h"
+#include "testing/Cases.h"
 
 #include <QGuiApplication>
 
@@ -110,9 +111,9 @@ class TestKeyboard : public QObject {
         "Button { objectName: 'button'; text: 'A'; onClicked: log('clicked') } }");
     auto* button = stage.find<QQuickItem>("button");
     stage.click(button);
-    QCOMPARE(stage.log(), QStringLiteral("clicked"));
+    QCOMPARE(stage.log(), "clicked");
     QVERIFY(!button->property("visualFocus").toBool());
-    QCOMPARE(stage.focused(), QStringLiteral("field"));  // a click leaves the focus where it was
+    QCOMPARE(stage.focused(), "field");  // a click leaves the focus where it was
     stage.press(Qt::Key_Tab);
     QVERIFY(button->property("visualFocus").toBool());
   }
@@ -120,105 +121,88 @@ class TestKeyboard : public QObject {
   void aFieldEnteredByTabIsSelected() {
     Stage stage("TextField { objectName: 'field'; text: 'Acme' }");
     stage.press(Qt::Key_Tab);
-    QCOMPARE(stage.find("field")->property("selectedText").toString(), QStringLiteral("Acme"));
+    QCOMPARE(stage.find("field")->property("selectedText").toString(), "Acme");
   }
 
   void aSheetKeepsTheFocusAndGivesItBack() {
     Stage stage(sheet);
     stage.press(Qt::Key_Tab);
-    QCOMPARE(stage.focused(), QStringLiteral("opener"));
+    QCOMPARE(stage.focused(), "opener");
     stage.press(Qt::Key_Space);
-    QTRY_COMPARE(stage.focused(), QStringLiteral("name"));
+    QTRY_COMPARE(stage.focused(), "name");
     for (const char* next : {"cancel", "create", "name", "cancel"}) {
       stage.press(Qt::Key_Tab);
       QCOMPARE(stage.focused(), QString::fromLatin1(next));
     }
     stage.press(Qt::Key_Backtab, Qt::ShiftModifier);
     stage.press(Qt::Key_Backtab, Qt::ShiftModifier);
-    QCOMPARE(stage.focused(), QStringLiteral("create"));
+    QCOMPARE(stage.focused(), "create");
     stage.press(Qt::Key_Escape);
-    QTRY_COMPARE(stage.focused(), QStringLiteral("opener"));
-  }
-
-  void aSheetAnswersReturnAndEscape_data() {
-    QTest::addColumn<QList<int>>("keys");
-    QTest::addColumn<QString>("log");
-    QTest::newRow("return in the field") << QList<int>{Qt::Key_Return} << "accepted create closed";
-    QTest::newRow("escape") << QList<int>{Qt::Key_Escape} << "cancel closed";
-    QTest::newRow("return on cancel") << QList<int>{Qt::Key_Tab, Qt::Key_Return} << "cancel closed";
-    QTest::newRow("space on create")
-        << QList<int>{Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Space} << "create closed";
+    QTRY_COMPARE(stage.focused(), "opener");
   }
 
   void aSheetAnswersReturnAndEscape() {
-    QFETCH(QList<int>, keys);
-    QFETCH(QString, log);
-    Stage stage(sheet);
-    stage.press(Qt::Key_Tab);
-    stage.press(Qt::Key_Space);
-    QTRY_COMPARE(stage.focused(), QStringLiteral("name"));
-    for (const int key : keys) stage.press(key);
-    QTRY_COMPARE(stage.log(), log);
-  }
-
-  void aDialogAnswersOnce_data() {
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<QList<int>>("keys");
-    QTest::addColumn<QString>("log");
-    using namespace Qt;
-    const QString cancelling = QStringLiteral("cancelIsDefault: true");
-    const QString third = QStringLiteral("alternativeText: 'Try Again'");
-    QTest::newRow("return confirms") << "" << QList<int>{Key_Return} << "confirmed";
-    QTest::newRow("escape dismisses") << "" << QList<int>{Key_Escape} << "dismissed";
-    QTest::newRow("return cancels") << cancelling << QList<int>{Key_Return} << "dismissed";
-    QTest::newRow("past cancel") << cancelling << QList<int>{Key_Tab, Key_Tab, Key_Space}
-                                 << "confirmed";
-    QTest::newRow("a third button") << third << QList<int>{Key_Tab, Key_Space} << "other";
-    QTest::newRow("past the third") << third << QList<int>{Key_Return} << "confirmed";
+    const Cases<QList<int>, QString> cases{
+        {"return in the field", QList<int>{Qt::Key_Return}, "accepted create closed"},
+        {"escape", QList<int>{Qt::Key_Escape}, "cancel closed"},
+        {"return on cancel", QList<int>{Qt::Key_Tab, Qt::Key_Return}, "cancel closed"},
+        {"space on create", QList<int>{Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Space}, "create closed"}};
+    cases.check([&](const QList<int>& keys, const QString& log) {
+      Stage stage(sheet);
+      stage.press(Qt::Key_Tab);
+      stage.press(Qt::Key_Space);
+      QTRY_COMPARE(stage.focused(), "name");
+      for (const int key : keys) stage.press(key);
+      QTRY_COMPARE(stage.log(), log);
+    });
   }
 
   void aDialogAnswersOnce() {
-    QFETCH(QString, kind);
-    QFETCH(QList<int>, keys);
-    QFETCH(QString, log);
-    Stage stage(QStringLiteral("ConfirmationDialog { objectName: 'dialog'; title: 'Really?'; %1\n"
-                               "  onConfirmed: log('confirmed'); onDismissed: log('dismissed')\n"
-                               "  onAlternativeChosen: log('other') }")
-                    .arg(kind));
-    for (const QString& sofar : {log, log + ' ' + log}) {
-      QMetaObject::invokeMethod(stage.find("dialog"), "open");
-      QTRY_VERIFY(stage.find("dialog")->property("opened").toBool());
-      for (const int key : keys) stage.press(key);
-      QTRY_COMPARE(stage.log(), sofar);
-    }
-  }
-
-  void aMenuGoesByArrowsAndLetters_data() {
-    QTest::addColumn<QList<int>>("keys");
-    QTest::addColumn<QString>("log");
     using namespace Qt;
-    QTest::newRow("down") << QList<int>{Key_Down, Key_Return} << "Duplicate";
-    QTest::newRow("past what tells") << QList<int>{Key_Down, Key_Down, Key_Return} << "Delete";
-    QTest::newRow("back up") << QList<int>{Key_Down, Key_Down, Key_Up, Key_Return} << "Duplicate";
-    QTest::newRow("second of a letter") << QList<int>{Key_D, Key_D, Key_Return} << "Delete";
-    QTest::newRow("space") << QList<int>{Key_D, Key_Space} << "Duplicate";
-    QTest::newRow("tab") << QList<int>{Key_Tab, Key_Tab, Key_Return} << "Delete";
-    QTest::newRow("tab goes round")
-        << QList<int>{Key_Tab, Key_Tab, Key_Tab, Key_Tab, Key_Return} << "Duplicate";
-    QTest::newRow("back by tab") << QList<int>{Key_Backtab, Key_Backtab, Key_Return} << "Delete";
-    QTest::newRow("home") << QList<int>{Key_D, Key_D, Key_Home, Key_Return} << "Duplicate";
-    QTest::newRow("end") << QList<int>{Key_End, Key_Up, Key_Return} << "Delete";
+    const QString cancelling = "cancelIsDefault: true";
+    const QString third = "alternativeText: 'Try Again'";
+    const Cases<QString, QList<int>, QString> cases{
+        {"return confirms", "", QList<int>{Key_Return}, "confirmed"},
+        {"escape dismisses", "", QList<int>{Key_Escape}, "dismissed"},
+        {"return cancels", cancelling, QList<int>{Key_Return}, "dismissed"},
+        {"past cancel", cancelling, QList<int>{Key_Tab, Key_Tab, Key_Space}, "confirmed"},
+        {"a third button", third, QList<int>{Key_Tab, Key_Space}, "other"},
+        {"past the third", third, QList<int>{Key_Return}, "confirmed"}};
+    cases.check([&](const QString& kind, const QList<int>& keys, const QString& log) {
+      Stage stage(
+          "ConfirmationDialog { objectName: 'dialog'; title: 'Really?'; %1\n"
+          "  onConfirmed: log('confirmed'); onDismissed: log('dismissed')\n"
+          "  onAlternativeChosen: log('other') }".arg(kind));
+      for (const QString& sofar : {log, log + ' ' + log}) {
+        QMetaObject::invokeMethod(stage.find("dialog"), "open");
+        QTRY_VERIFY(stage.find("dialog")->property("opened").toBool());
+        for (const int key : keys) stage.press(key);
+        QTRY_COMPARE(stage.log(), sofar);
+      }
+    });
   }
 
   void aMenuGoesByArrowsAndLetters() {
-    QFETCH(QList<int>, keys);
-    QFETCH(QString, log);
-    Stage stage(menus);
-    stage.press(Qt::Key_Tab);
-    stage.press(Qt::Key_Space);
-    QTRY_VERIFY(stage.find("menu")->property("opened").toBool());
-    for (const int key : keys) stage.press(key);
-    QTRY_COMPARE(stage.log(), log);
+    using namespace Qt;
+    const Cases<QList<int>, QString> cases{
+        {"down", QList<int>{Key_Down, Key_Return}, "Duplicate"},
+        {"past what tells", QList<int>{Key_Down, Key_Down, Key_Return}, "Delete"},
+        {"back up", QList<int>{Key_Down, Key_Down, Key_Up, Key_Return}, "Duplicate"},
+        {"second of a letter", QList<int>{Key_D, Key_D, Key_Return}, "Delete"},
+        {"space", QList<int>{Key_D, Key_Space}, "Duplicate"},
+        {"tab", QList<int>{Key_Tab, Key_Tab, Key_Return}, "Delete"},
+        {"tab goes round", QList<int>{Key_Tab, Key_Tab, Key_Tab, Key_Tab, Key_Return}, "Duplicate"},
+        {"back by tab", QList<int>{Key_Backtab, Key_Backtab, Key_Return}, "Delete"},
+        {"home", QList<int>{Key_D, Key_D, Key_Home, Key_Return}, "Duplicate"},
+        {"end", QList<int>{Key_End, Key_Up, Key_Return}, "Delete"}};
+    cases.check([&](const QList<int>& keys, const QString& log) {
+      Stage stage(menus);
+      stage.press(Qt::Key_Tab);
+      stage.press(Qt::Key_Space);
+      QTRY_VERIFY(stage.find("menu")->property("opened").toBool());
+      for (const int key : keys) stage.press(key);
+      QTRY_COMPARE(stage.log(), log);
+    });
   }
 
   void aSubMenuOpensByArrows() {
@@ -231,7 +215,7 @@ class TestKeyboard : public QObject {
     QTest::qWait(150);
     stage.press(Qt::Key_Down);
     stage.press(Qt::Key_Return);
-    QTRY_COMPARE(stage.log(), QStringLiteral("Dark"));
+    QTRY_COMPARE(stage.log(), "Dark");
   }
 
   void theMenuBarOpensByF10() {
@@ -246,7 +230,7 @@ class TestKeyboard : public QObject {
     stage.press(Qt::Key_Down);
     stage.press(Qt::Key_Down);
     stage.press(Qt::Key_Return);
-    QTRY_COMPARE(stage.log(), QStringLiteral("Redo"));
+    QTRY_COMPARE(stage.log(), "Redo");
   }
 
   void escapeWhileASubMenuFadesClosesItsParent() {
@@ -261,9 +245,9 @@ class TestKeyboard : public QObject {
     QVERIFY(stage.find("menu")->property("opened").toBool());
     stage.press(Qt::Key_Escape);
     QVERIFY(!stage.find("menu")->property("opened").toBool());
-    QCOMPARE(stage.focused(), QStringLiteral("opener"));
+    QCOMPARE(stage.focused(), "opener");
     QTRY_VERIFY(!stage.find("menu")->property("visible").toBool());
-    QCOMPARE(stage.focused(), QStringLiteral("opener"));
+    QCOMPARE(stage.focused(), "opener");
   }
 
   void aMenuOpenedAndClosedQuicklyKeepsTheFocus() {
@@ -271,16 +255,16 @@ class TestKeyboard : public QObject {
     stage.press(Qt::Key_Tab);
     for (int i = 0; i < 3; ++i) {
       stage.press(Qt::Key_Space);
-      QVERIFY(stage.focused() != QStringLiteral("opener"));
+      QVERIFY(stage.focused() != "opener");
       stage.press(Qt::Key_Escape);
-      QCOMPARE(stage.focused(), QStringLiteral("opener"));
+      QCOMPARE(stage.focused(), "opener");
     }
     stage.press(Qt::Key_Space);
     QTRY_VERIFY(stage.find("menu")->property("opened").toBool());
     stage.press(Qt::Key_Down);
     stage.press(Qt::Key_Return);
-    QTRY_COMPARE(stage.log(), QStringLiteral("Duplicate"));
-    QCOMPARE(stage.focused(), QStringLiteral("opener"));
+    QTRY_COMPARE(stage.log(), "Duplicate");
+    QCOMPARE(stage.focused(), "opener");
   }
 
   void aSecondClickClosesTheMenuOfAButton() {
@@ -300,11 +284,11 @@ class TestKeyboard : public QObject {
         "  onPicked: color => log(color) }");
     stage.press(Qt::Key_Tab);
     stage.press(Qt::Key_Space);
-    QTRY_VERIFY(stage.focused() != QStringLiteral("well"));
+    QTRY_VERIFY(stage.focused() != "well");
     stage.press(Qt::Key_Right, Qt::ShiftModifier);
     QTRY_VERIFY(!stage.log().isEmpty());
     stage.press(Qt::Key_Escape);
-    QTRY_COMPARE(stage.focused(), QStringLiteral("well"));
+    QTRY_COMPARE(stage.focused(), "well");
   }
 
   void aSheetOpenedFromAMenuGivesTheFocusBack() {
@@ -317,11 +301,11 @@ class TestKeyboard : public QObject {
     QTest::qWait(200);
     stage.press(Qt::Key_Down);
     stage.press(Qt::Key_Return);
-    QTRY_COMPARE(stage.focused(), QStringLiteral("name"));
+    QTRY_COMPARE(stage.focused(), "name");
     QTest::qWait(400);  // the menu has gone by now, and leaves the sheet its focus
-    QCOMPARE(stage.focused(), QStringLiteral("name"));
+    QCOMPARE(stage.focused(), "name");
     stage.press(Qt::Key_Escape);
-    QTRY_COMPARE(stage.focused(), QStringLiteral("opener"));
+    QTRY_COMPARE(stage.focused(), "opener");
   }
 
   void disabledControlsAreSkipped() {
@@ -330,7 +314,7 @@ class TestKeyboard : public QObject {
         "SegmentedPicker { enabled: false; objectName: 'off too' }\n"
         "Button { text: 'B'; objectName: 'on' } }");
     stage.press(Qt::Key_Tab);
-    QCOMPARE(stage.focused(), QStringLiteral("on"));
+    QCOMPARE(stage.focused(), "on");
   }
 
   void anAmpersandIsALetter() {
@@ -342,5 +326,4 @@ class TestKeyboard : public QObject {
 };
 
 QTEST_MAIN(TestKeyboard)
-
 #include "tst_keyboard.moc"

@@ -1,6 +1,7 @@
 #include "platform/controls/Contrast.h"
 #include "platform/controls/Palette.h"
 #include "platform/controls/Spring.h"
+#include "testing/Cases.h"
 
 #include <QTest>
 
@@ -18,65 +19,54 @@ class TestTheme : public QObject {
   void easingIsTheSpring_data() { springs(); }
   void stepsAreTheSpring_data() { springs(); }
 
-  void contrastIsThatOfTheStandard_data() {
-    QTest::addColumn<QColor>("foreground");
-    QTest::addColumn<QColor>("background");
-    QTest::addColumn<double>("ratio");
-    QTest::newRow("black on white") << QColor("#000000") << QColor("#ffffff") << 21.0;
-    QTest::newRow("same") << QColor("#777777") << QColor("#777777") << 1.0;
-    QTest::newRow("known grey") << QColor("#767676") << QColor("#ffffff") << 4.54;
-    QTest::newRow("either way") << QColor("#ffffff") << QColor("#767676") << 4.54;
-    QTest::newRow("red") << QColor("#ff0000") << QColor("#ffffff") << 4.0;
-    QTest::newRow("half black is mid grey") << QColor(0, 0, 0, 128) << QColor("#ffffff") << 4.0;
-  }
-
   void contrastIsThatOfTheStandard() {
-    QFETCH(QColor, foreground);
-    QFETCH(QColor, background);
-    QFETCH(double, ratio);
-    QVERIFY2(std::abs(contrastRatio(foreground, background) - ratio) < 0.01,
-             qPrintable(QString::number(contrastRatio(foreground, background))));
-  }
-
-  void labelsAreReadable_data() {
-    QTest::addColumn<ColorScheme>("scheme");
-    QTest::newRow("light") << ColorScheme::light;
-    QTest::newRow("dark") << ColorScheme::dark;
+    const Cases<QColor, QColor, double> cases{
+        {"black on white", QColor("#000000"), QColor("#ffffff"), 21.0},
+        {"same", QColor("#777777"), QColor("#777777"), 1.0},
+        {"known grey", QColor("#767676"), QColor("#ffffff"), 4.54},
+        {"either way", QColor("#ffffff"), QColor("#767676"), 4.54},
+        {"red", QColor("#ff0000"), QColor("#ffffff"), 4.0},
+        {"half black is mid grey", QColor(0, 0, 0, 128), QColor("#ffffff"), 4.0}};
+    cases.check([&](const QColor& foreground, const QColor& background, double ratio) {
+      QVERIFY2(std::abs(contrastRatio(foreground, background) - ratio) < 0.01,
+               qPrintable(QString::number(contrastRatio(foreground, background))));
+    });
   }
 
   void labelsAreReadable() {
-    QFETCH(ColorScheme, scheme);
-    const Palette p = Palette::make(scheme, QColor("#4C6FFF"));
-    struct Text {
-      const char* name;
-      QColor color;
-      double least;
-    };
-    const std::array texts{Text{"label", p.label, 10},
-                           Text{"secondary", p.secondaryLabel, 4.5},
-                           Text{"placeholder", p.placeholder, 4.5},
-                           Text{"tertiary", p.tertiaryLabel, 3},
-                           Text{"quaternary", p.quaternaryLabel, 1.4},
-                           Text{"accent", p.accentText, 4.5},
-                           Text{"destructive", p.destructive, 4.5},
-                           Text{"positive", p.positive, 3},
-                           Text{"warning", p.warning, 3},
-                           Text{"informative", p.informative, 3},
-                           Text{"focus ring", p.focusRing, 3}};
-    const std::array backgrounds{p.windowBackground, p.sidebarBackground, p.controlBackground,
-                                 p.textBackground,   p.sheetBackground,   p.menuBackground};
-    for (const Text& text : texts)
-      for (const QColor& background : backgrounds) {
-        const double ratio = contrastRatio(text.color, background);
-        QVERIFY2(ratio >= text.least,
-                 qPrintable(QStringLiteral("%1 on %2: %3")
-                                .arg(text.name, background.name(), QString::number(ratio))));
+    const Cases<ColorScheme> cases{{"light", ColorScheme::light}, {"dark", ColorScheme::dark}};
+    cases.check([&](const ColorScheme& scheme) {
+      const Palette p = Palette::make(scheme, QColor("#4C6FFF"));
+      struct Text {
+        const char* name;
+        QColor color;
+        double least;
+      };
+      const std::array texts{Text{"label", p.label, 10},
+                             Text{"secondary", p.secondaryLabel, 4.5},
+                             Text{"placeholder", p.placeholder, 4.5},
+                             Text{"tertiary", p.tertiaryLabel, 3},
+                             Text{"quaternary", p.quaternaryLabel, 1.4},
+                             Text{"accent", p.accentText, 4.5},
+                             Text{"destructive", p.destructive, 4.5},
+                             Text{"positive", p.positive, 3},
+                             Text{"warning", p.warning, 3},
+                             Text{"informative", p.informative, 3},
+                             Text{"focus ring", p.focusRing, 3}};
+      const std::array backgrounds{p.windowBackground, p.sidebarBackground, p.controlBackground,
+                                   p.textBackground,   p.sheetBackground,   p.menuBackground};
+      for (const Text& text : texts)
+        for (const QColor& background : backgrounds) {
+          const double ratio = contrastRatio(text.color, background);
+          QVERIFY2(ratio >= text.least, qPrintable("%1 on %2: %3".arg(text.name, background.name(),
+                                                                      QString::number(ratio))));
+        }
+      for (const QColor& background : {p.windowBackground, p.sidebarBackground}) {
+        const QColor fill = over(p.warningFill, background);
+        QVERIFY2(contrastRatio(p.label, fill) >= 10, qPrintable(fill.name()));
+        QVERIFY2(contrastRatio(p.warning, fill) >= 3, qPrintable(fill.name()));
       }
-    for (const QColor& background : {p.windowBackground, p.sidebarBackground}) {
-      const QColor fill = over(p.warningFill, background);
-      QVERIFY2(contrastRatio(p.label, fill) >= 10, qPrintable(fill.name()));
-      QVERIFY2(contrastRatio(p.warning, fill) >= 3, qPrintable(fill.name()));
-    }
+    });
   }
 
   void anyAccentCarriesReadableText_data() {
@@ -133,7 +123,7 @@ class TestTheme : public QObject {
       const double share = i / 200.0;
       const double off =
           curve.valueForProgress(share) - spring.position(share * spring.settlingTime());
-      QVERIFY2(std::abs(off) < 4e-3, qPrintable(QStringLiteral("%1: %2").arg(share).arg(off)));
+      QVERIFY2(std::abs(off) < 4e-3, qPrintable(QString("%1: %2").arg(share).arg(off)));
     }
   }
 
@@ -154,11 +144,7 @@ class TestTheme : public QObject {
       const double after = spring.position((i + 1) * step);
       QVERIFY2(
           position > std::min(before, after) - 0.02 && position < std::max(before, after) + 0.02,
-          qPrintable(QStringLiteral("step %1: %2 not in %3 … %4")
-                         .arg(i)
-                         .arg(position)
-                         .arg(before)
-                         .arg(after)));
+          qPrintable("step %1: %2 not in %3 … %4".arg(i).arg(position).arg(before).arg(after)));
     }
   }
 
@@ -174,5 +160,4 @@ class TestTheme : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestTheme)
-
 #include "tst_theme.moc"

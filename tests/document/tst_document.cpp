@@ -1,6 +1,7 @@
 #include "document/BrandDocument.h"
 #include "document/Package.h"
 #include "model/Json.h"
+#include "testing/Cases.h"
 #include "testing/RandomBrand.h"
 #include "testing/TestServices.h"
 
@@ -23,7 +24,7 @@ void rename(BrandDocument& document, const char* name) {
 
 QString nameOnDisk(const BrandDocument& document) {
   const auto brand = decode<Brand>(contentOf(Package::manifestPath(document.packageURL())));
-  return brand ? brand->name : QStringLiteral("(unreadable)");
+  return brand ? brand->name : "(unreadable)";
 }
 
 }  // namespace
@@ -37,55 +38,41 @@ class TestDocument : public QObject {
     const auto document = newDocument(disk, " Acme/Co ");
     QVERIFY(document);
     const QDir package(document->packageURL());
-    QCOMPARE(package.dirName(), QStringLiteral("Acme-Co.tarnloft"));
+    QCOMPARE(package.dirName(), "Acme-Co.tarnloft");
     QCOMPARE(package.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-             QStringList({QStringLiteral("assets"), QStringLiteral("manifest.json"),
-                          QStringLiteral("thumbnails")}));
+             QStringList({"assets", "manifest.json", "thumbnails"}));
     const auto read = BrandDocument::load(disk.services(), document->packageURL());
     QVERIFY(read);
-    QCOMPARE(read->brand().name, QStringLiteral(" Acme/Co "));
+    QCOMPARE(read->brand().name, " Acme/Co ");
     QCOMPARE(read->brand().id, document->brand().id);
     QCOMPARE(read->brand().sections, document->brand().sections);
     QCOMPARE(read->brand().sections.size(), 2);
     QCOMPARE(iso8601(read->brand().createdAt), std::string("2026-03-01T09:31:00Z"));
   }
 
-  void findsAFreePackageName_data() {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("first");
-    QTest::addColumn<QString>("third");
-    QTest::newRow("plain") << "Acme"
-                           << "Acme.tarnloft"
-                           << "Acme 3.tarnloft";
-    QTest::newRow("cleaned") << "\tA/B:C\n"
-                             << "A-B-C.tarnloft"
-                             << "A-B-C 3.tarnloft";
-    QTest::newRow("blank") << " \u00a0\n"
-                           << "Untitled Brand.tarnloft"
-                           << "Untitled Brand 3.tarnloft";
-    QTest::newRow("dots") << ".."
-                          << "-..tarnloft"
-                          << "-. 3.tarnloft";
-  }
-
   void findsAFreePackageName() {
-    QFETCH(QString, name);
-    TestServices disk;
-    const auto next = [&] {
-      const QString path = Package::uniquePackageURL(disk.files, disk.folder.path(), name);
-      QDir().mkpath(path);
-      return QFileInfo(path).fileName();
-    };
-    QTEST(next(), "first");
-    next();
-    QTEST(next(), "third");
+    const Cases<QString, QString, QString> cases{
+        {"plain", "Acme", "Acme.tarnloft", "Acme 3.tarnloft"},
+        {"cleaned", "\tA/B:C\n", "A-B-C.tarnloft", "A-B-C 3.tarnloft"},
+        {"blank", " \u00a0\n", "Untitled Brand.tarnloft", "Untitled Brand 3.tarnloft"},
+        {"dots", "..", "-..tarnloft", "-. 3.tarnloft"}};
+    cases.check([&](const QString& name, const QString& first, const QString& third) {
+      TestServices disk;
+      const auto next = [&] {
+        const QString path = Package::uniquePackageURL(disk.files, disk.folder.path(), name);
+        QDir().mkpath(path);
+        return QFileInfo(path).fileName();
+      };
+      QCOMPARE(next(), first);
+      next();
+      QCOMPARE(next(), third);
+    });
   }
 
   void createFailsWhereNoFolderCanBeMade() {
     TestServices disk;
-    QVERIFY(writeFile(disk.path(QStringLiteral("file")), "x"));
-    const auto document = BrandDocument::create(disk.services(), disk.path(QStringLiteral("file")),
-                                                QStringLiteral("A"));
+    QVERIFY(writeFile(disk.path("file"), "x"));
+    const auto document = BrandDocument::create(disk.services(), disk.path("file"), "A");
     QVERIFY(!document);
     QVERIFY(!document.error().message.isEmpty());
   }
@@ -97,10 +84,10 @@ class TestDocument : public QObject {
     for (int i = 0; i < 4; ++i) {
       rename(*document, "Edited");
       QTest::qWait(150);  // longer in all than one delay
-      QCOMPARE(nameOnDisk(*document), QStringLiteral("Acme"));
+      QCOMPARE(nameOnDisk(*document), "Acme");
     }
     QCOMPARE(changes.size(), 4);
-    QTRY_COMPARE_WITH_TIMEOUT(nameOnDisk(*document), QStringLiteral("Edited"), 2000);
+    QTRY_COMPARE_WITH_TIMEOUT(nameOnDisk(*document), "Edited", 2000);
     QCOMPARE(changes.size(), 5);  // the save's own date
     QVERIFY(disk.log.lines.isEmpty());
   }
@@ -141,7 +128,7 @@ class TestDocument : public QObject {
     rename(*document, "Edited");
     document.reset();
     QTest::qWait(600);
-    QCOMPARE(decode<Brand>(contentOf(manifest))->name, QStringLiteral("Acme"));
+    QCOMPARE(decode<Brand>(contentOf(manifest))->name, "Acme");
   }
 
   void aDeadDocumentWritesNothing() {
@@ -154,7 +141,7 @@ class TestDocument : public QObject {
     document->saveNow();
     QTest::qWait(600);
     QVERIFY(!disk.files.exists(document->packageURL()));
-    QCOMPARE(document->brand().name, QStringLiteral("changed"));
+    QCOMPARE(document->brand().name, "changed");
   }
 
   void makesAVanishedPackageAgain() {
@@ -163,40 +150,37 @@ class TestDocument : public QObject {
     QVERIFY(QDir(document->packageURL()).removeRecursively());
     document->saveNow();
     QCOMPARE(QDir(document->packageURL()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-             QStringList(QStringLiteral("manifest.json")));
-  }
-
-  void loadsNothingFromABadPackage_data() {
-    QTest::addColumn<QByteArray>("manifest");
-    QTest::newRow("empty") << QByteArray("");
-    QTest::newRow("not JSON") << QByteArray("PK\x03\x04");
-    QTest::newRow("no brand") << QByteArray("{}");
-    QTest::newRow("a folder in its place") << QByteArray();
+             QStringList("manifest.json"));
   }
 
   void loadsNothingFromABadPackage() {
-    QFETCH(QByteArray, manifest);
-    TestServices disk;
-    const QString package = disk.path(QStringLiteral("Bad.tarnloft"));
-    if (manifest.isNull()) {
-      QVERIFY(QDir().mkpath(Package::manifestPath(package)));
-    } else {
-      QVERIFY(writeFile(Package::manifestPath(package), manifest));
-    }
-    QVERIFY(!BrandDocument::load(disk.services(), package));
-    QVERIFY(!BrandDocument::load(disk.services(), disk.path(QStringLiteral("missing"))));
-    QVERIFY(!BrandDocument::load(disk.services(), QString()));
-    QCOMPARE(QDir(package).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(),
-             1);
-    QVERIFY(disk.log.lines.isEmpty());
+    const Cases<QByteArray> cases{{"empty", ""},
+                                  {"not JSON", "PK\x03\x04"},
+                                  {"no brand", "{}"},
+                                  {"a folder in its place", QByteArray()}};
+    cases.check([&](const QByteArray& manifest) {
+      TestServices disk;
+      const QString package = disk.path("Bad.tarnloft");
+      if (manifest.isNull()) {
+        QVERIFY(QDir().mkpath(Package::manifestPath(package)));
+      } else {
+        QVERIFY(writeFile(Package::manifestPath(package), manifest));
+      }
+      QVERIFY(!BrandDocument::load(disk.services(), package));
+      QVERIFY(!BrandDocument::load(disk.services(), disk.path("missing")));
+      QVERIFY(!BrandDocument::load(disk.services(), QString()));
+      QCOMPARE(
+          QDir(package).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(),
+          1);
+      QVERIFY(disk.log.lines.isEmpty());
+    });
   }
 
   void refusesAManifestBeyondAllBrands() {
     TestServices disk;
-    const QString manifest = Package::manifestPath(disk.path(QStringLiteral("Huge.tarnloft")));
-    QVERIFY(writeFile(manifest,
-                      *encode(Brand::create(QStringLiteral("x"))) + QByteArray(1 << 20, ' ')));
-    QVERIFY(BrandDocument::load(disk.services(), disk.path(QStringLiteral("Huge.tarnloft"))));
+    const QString manifest = Package::manifestPath(disk.path("Huge.tarnloft"));
+    QVERIFY(writeFile(manifest, *encode(Brand::create("x")) + QByteArray(1 << 20, ' ')));
+    QVERIFY(BrandDocument::load(disk.services(), disk.path("Huge.tarnloft")));
     QVERIFY(QFile::resize(manifest, qint64(65) << 20));  // sparse
     const auto file = Package::readJson(disk.files, manifest, disk.folder.path());
     QCOMPARE(file.error().kind, ErrorKind::tooLarge);
@@ -206,7 +190,7 @@ class TestDocument : public QObject {
     TestServices disk;
     RandomBrand random(9);
     for (int i = 0; i < 10; ++i) {
-      const QString package = disk.path(QStringLiteral("%1.tarnloft").arg(i));
+      const QString package = disk.path(QString("%1.tarnloft").arg(i));
       const QByteArray before = *encode(random.brand(3, 30));
       QVERIFY(writeFile(Package::manifestPath(package), before));
       BrandDocument::load(disk.services(), package)->saveNow();
@@ -223,7 +207,7 @@ class TestDocument : public QObject {
     Brand twice = brand;
     twice.sections += brand.sections;
     for (const Item& item : brand.sections.at(0).items) twice.sections[0].items.append(item);
-    const QString package = disk.path(QStringLiteral("Twice.tarnloft"));
+    const QString package = disk.path("Twice.tarnloft");
     QVERIFY(writeFile(Package::manifestPath(package), *encode(twice)));
 
     const Brand read = BrandDocument::load(disk.services(), package)->brand();
@@ -241,27 +225,20 @@ class TestDocument : public QObject {
     QCOMPARE(items.size(), count);
   }
 
-  void refusesHostileAssetNames_data() {
-    QTest::addColumn<QString>("filename");
-    QTest::addColumn<bool>("opens");
-    QTest::newRow("plain") << "a.png" << true;
-    for (const char* bad : {"", ".", "..", "../manifest.json", "sub/a.png", "/etc/hostname"}) {
-      QTest::newRow(bad[0] ? bad : "empty") << QString::fromLatin1(bad) << false;
-    }
-    QTest::newRow("NUL") << QStringLiteral("a.png") + QChar(u'\0') + u'x' << false;
-  }
-
   void refusesHostileAssetNames() {
-    QFETCH(QString, filename);
     TestServices disk;
     const auto document = newDocument(disk);
     const QString assets = Package::assetsPath(document->packageURL());
-    QVERIFY(writeFile(assets + QStringLiteral("/a.png"), "x"));
-    QVERIFY(writeFile(assets + QStringLiteral("/sub/a.png"), "x"));
-    QTEST(document->openAsset({filename, QString()}).has_value(), "opens");
+    QVERIFY(writeFile(assets + "/a.png", "x") && writeFile(assets + "/sub/a.png", "x"));
+    const auto opens = [&](const QString& filename) {
+      return document->openAsset({filename, QString()}).has_value();
+    };
+    QVERIFY(opens("a.png") && !opens(QString("a.png") + QChar(u'\0') + u'x'));
+    for (const char* bad : {"", ".", "..", "../manifest.json", "sub/a.png", "/etc/hostname"}) {
+      QVERIFY2(!opens(bad), bad);
+    }
   }
 };
 
 QTEST_GUILESS_MAIN(TestDocument)
-
 #include "tst_document.moc"

@@ -2,6 +2,7 @@
 #include "document/Package.h"
 #include "document/UndoHistory.h"
 #include "model/Json.h"
+#include "testing/Cases.h"
 #include "testing/RandomBrand.h"
 #include "testing/TestServices.h"
 
@@ -58,77 +59,34 @@ class TestEdits : public QObject {
   Q_OBJECT
 
  private slots:
-  void movesItems_data() {
-    QTest::addColumn<QString>("item");
-    QTest::addColumn<QString>("section");
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("shape");
-    QTest::newRow("to the front") << "c"
-                                  << "S"
-                                  << "a"
-                                  << "S:cab T:d";
-    QTest::newRow("to the end") << "a"
-                                << "S"
-                                << ""
-                                << "S:bca T:d";
-    QTest::newRow("before itself") << "a"
-                                   << "S"
-                                   << "a"
-                                   << "S:abc T:d";
-    QTest::newRow("across") << "b"
-                            << "T"
-                            << "d"
-                            << "S:ac T:bd";
-    QTest::newRow("before one that is elsewhere") << "b"
-                                                  << "T"
-                                                  << "c"
-                                                  << "S:ac T:db";
-    QTest::newRow("to no section") << "b"
-                                   << "?"
-                                   << ""
-                                   << "S:abc T:d";
-    QTest::newRow("no item") << "?"
-                             << "T"
-                             << ""
-                             << "S:abc T:d";
-  }
-
   void movesItems() {
-    QFETCH(QString, item);
-    QFETCH(QString, section);
-    QFETCH(QString, before);
-    Editing editing;
-    editing.document->moveItem(editing.id(item), editing.id(section), editing.optionalId(before));
-    QTEST(editing.shape(), "shape");
-  }
-
-  void movesSections_data() {
-    QTest::addColumn<QString>("section");
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("shape");
-    QTest::newRow("to the front") << "T"
-                                  << "S"
-                                  << "T:d S:abc";
-    QTest::newRow("to the end") << "S"
-                                << ""
-                                << "T:d S:abc";
-    QTest::newRow("before itself") << "S"
-                                   << "S"
-                                   << "S:abc T:d";
-    QTest::newRow("before none") << "S"
-                                 << "?"
-                                 << "T:d S:abc";
-    QTest::newRow("none") << "?"
-                          << "S"
-                          << "S:abc T:d";
+    const Cases<QString, QString, QString, QString> cases{
+        {"to the front", "c", "S", "a", "S:cab T:d"},
+        {"to the end", "a", "S", "", "S:bca T:d"},
+        {"before itself", "a", "S", "a", "S:abc T:d"},
+        {"across", "b", "T", "d", "S:ac T:bd"},
+        {"before one that is elsewhere", "b", "T", "c", "S:ac T:db"},
+        {"to no section", "b", "?", "", "S:abc T:d"},
+        {"no item", "?", "T", "", "S:abc T:d"}};
+    cases.check([&](const QString& item, const QString& section, const QString& before,
+                    const QString& shape) {
+      Editing editing;
+      editing.document->moveItem(editing.id(item), editing.id(section), editing.optionalId(before));
+      QCOMPARE(editing.shape(), shape);
+    });
   }
 
   void movesSections() {
-    QFETCH(QString, section);
-    QFETCH(QString, before);
-    Editing editing;
-    editing.document->moveSection(editing.id(section), editing.optionalId(before));
-    QTEST(editing.shape(), "shape");
+    const Cases<QString, QString, QString> cases{{"to the front", "T", "S", "T:d S:abc"},
+                                                 {"to the end", "S", "", "T:d S:abc"},
+                                                 {"before itself", "S", "S", "S:abc T:d"},
+                                                 {"before none", "S", "?", "T:d S:abc"},
+                                                 {"none", "?", "S", "S:abc T:d"}};
+    cases.check([&](const QString& section, const QString& before, const QString& shape) {
+      Editing editing;
+      editing.document->moveSection(editing.id(section), editing.optionalId(before));
+      QCOMPARE(editing.shape(), shape);
+    });
   }
 
   void movesInTwoAssignments() {
@@ -223,35 +181,26 @@ class TestEdits : public QObject {
     QVERIFY(!editing.history.canRedo());
   }
 
-  void importsFiles_data() {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("extension");
-    QTest::newRow("plain") << "Mark.PNG"
-                           << "PNG";
-    QTest::newRow("none") << "Mark"
-                          << "dat";
-    QTest::newRow("odd") << "a b ü.tar.gz"
-                         << "gz";
-  }
-
   void importsFiles() {
-    QFETCH(QString, name);
-    QFETCH(QString, extension);
-    Editing editing;
-    const QByteArray content(3'000'000, 'x');
-    QVERIFY(writeFile(editing.disk.path(name), content));
-    QVERIFY(QDir(Package::assetsPath(editing.document->packageURL())).removeRecursively());
-    const auto asset = editing.document->importAsset(editing.disk.path(name));
-    QVERIFY(asset);
-    QCOMPARE(asset->originalName, name);
-    const QRegularExpression form("^[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}\\." + extension +
-                                  '$');
-    QVERIFY2(form.match(asset->filename).hasMatch(), qPrintable(asset->filename));
-    const QString assets = Package::assetsPath(editing.document->packageURL()) + '/';
-    QCOMPARE(contentOf(assets + asset->filename), content);
-    const auto pasted = editing.document->importImageData("bytes", "Pasted", extension);
-    QCOMPARE(pasted->originalName, "Pasted");
-    QCOMPARE(contentOf(assets + pasted->filename), "bytes");
+    const Cases<QString, QString> cases{
+        {"plain", "Mark.PNG", "PNG"}, {"none", "Mark", "dat"}, {"odd", "a b ü.tar.gz", "gz"}};
+    cases.check([&](const QString& name, const QString& extension) {
+      Editing editing;
+      const QByteArray content(3'000'000, 'x');
+      QVERIFY(writeFile(editing.disk.path(name), content));
+      QVERIFY(QDir(Package::assetsPath(editing.document->packageURL())).removeRecursively());
+      const auto asset = editing.document->importAsset(editing.disk.path(name));
+      QVERIFY(asset);
+      QCOMPARE(asset->originalName, name);
+      const QRegularExpression form("^[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}\\." + extension +
+                                    '$');
+      QVERIFY2(form.match(asset->filename).hasMatch(), qPrintable(asset->filename));
+      const QString assets = Package::assetsPath(editing.document->packageURL()) + '/';
+      QCOMPARE(contentOf(assets + asset->filename), content);
+      const auto pasted = editing.document->importImageData("bytes", "Pasted", extension);
+      QCOMPARE(pasted->originalName, "Pasted");
+      QCOMPARE(contentOf(assets + pasted->filename), "bytes");
+    });
   }
 
   void failedImportsLeaveNothing() {
@@ -278,5 +227,4 @@ class TestEdits : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestEdits)
-
 #include "tst_edits.moc"

@@ -2,6 +2,7 @@
 #include "document/Package.h"
 #include "document/UndoHistory.h"
 #include "model/Json.h"
+#include "testing/Cases.h"
 #include "testing/FaultyStore.h"
 #include "testing/TestServices.h"
 
@@ -204,24 +205,20 @@ class TestVersions : public QObject {
     QCOMPARE(brand.labels(), QStringList("Synced copy"));
   }
 
-  void doesNotReplaceWhatItCannotOpen_data() {
-    QTest::addColumn<bool>("isTooLarge");
-    QTest::newRow("too large") << true;
-    QTest::newRow("reading fails") << false;
-  }
-
   void doesNotReplaceWhatItCannotOpen() {
-    QFETCH(bool, isTooLarge);
-    Versioned brand;
-    brand.saveElsewhere("Theirs");
-    if (isTooLarge) QVERIFY(QFile::resize(brand.manifest, Package::largestJson + 1));
-    const auto identity = brand.disk.files.identity(brand.manifest);
-    if (!isTooLarge) brand.store.fault = FaultyStore::Fault::failReads;
-    brand.rename("Ours");
-    brand.document->saveNow();
-    QVERIFY(*brand.disk.files.identity(brand.manifest) == *identity);
-    QCOMPARE(brand.disk.log.lines.size(), 1);
-    QVERIFY(brand.document->hasUnsavedChanges());
+    const Cases<bool> cases{{"too large", true}, {"reading fails", false}};
+    cases.check([&](bool isTooLarge) {
+      Versioned brand;
+      brand.saveElsewhere("Theirs");
+      if (isTooLarge) QVERIFY(QFile::resize(brand.manifest, Package::largestJson + 1));
+      const auto identity = brand.disk.files.identity(brand.manifest);
+      if (!isTooLarge) brand.store.fault = FaultyStore::Fault::failReads;
+      brand.rename("Ours");
+      brand.document->saveNow();
+      QVERIFY(*brand.disk.files.identity(brand.manifest) == *identity);
+      QCOMPARE(brand.disk.log.lines.size(), 1);
+      QVERIFY(brand.document->hasUnsavedChanges());
+    });
   }
 
   void countsSyncedCopiesApart() {
@@ -272,5 +269,4 @@ class TestVersions : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestVersions)
-
 #include "tst_versions.moc"

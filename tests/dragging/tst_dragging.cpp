@@ -1,6 +1,7 @@
 // Drags between processes, with the pointer of an X server that nobody else uses.
 #include "document/Package.h"
 #include "model/Json.h"
+#include "testing/Cases.h"
 #include "testing/TestServices.h"
 
 #include <QImage>
@@ -203,24 +204,21 @@ class TestDragging : public QObject {
     QCOMPARE(window.line("PICTURE"), "PICTURE #0000ff");
   }
 
-  void aDragWithinTheWindowMovesTheTile_data() {
-    QTest::addColumn<bool>("hasFile");
-    QTest::newRow("a picture") << true;
-    QTest::newRow("a colour, which shows no format to anyone") << false;
-  }
-
   void aDragWithinTheWindowMovesTheTile() {
-    QFETCH(bool, hasFile);
-    const Tiles tiles(hasFile ? Tiles::picture("Logo.png")
-                              : ItemPayload(ColorPayload{{"#123456", "Logo", {}}}));
-    Program window = tiles.window(left);
-    QVERIFY(!window.line("READY").isEmpty());
-    QVERIFY(drag(left, left + QPoint(60, 40), window));
-    QVERIFY(!window.line("ITEMS | | Logo").isEmpty());
-    QVERIFY(!window.line("DRAGGED").isEmpty());
-    QCOMPARE(window.line("DROP"), "DROP taken");
-    // It came as the tile that it is, not as its file.
-    QCOMPARE(QDir(Package::assetsPath(tiles.package)).entryList(QDir::Files).size(), 1);
+    const Cases<bool> cases{{"a picture", true},
+                            {"a colour, which shows no format to anyone", false}};
+    cases.check([&](bool hasFile) {
+      const Tiles tiles(hasFile ? Tiles::picture("Logo.png")
+                                : ItemPayload(ColorPayload{{"#123456", "Logo", {}}}));
+      Program window = tiles.window(left);
+      QVERIFY(!window.line("READY").isEmpty());
+      QVERIFY(drag(left, left + QPoint(60, 40), window));
+      QVERIFY(!window.line("ITEMS | | Logo").isEmpty());
+      QVERIFY(!window.line("DRAGGED").isEmpty());
+      QCOMPARE(window.line("DROP"), "DROP taken");
+      // It came as the tile that it is, not as its file.
+      QCOMPARE(QDir(Package::assetsPath(tiles.package)).entryList(QDir::Files).size(), 1);
+    });
   }
 
   void aTileOfAnotherProcessComesAsAFile() {
@@ -264,5 +262,4 @@ class TestDragging : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestDragging)
-
 #include "tst_dragging.moc"

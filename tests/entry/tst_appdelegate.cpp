@@ -1,5 +1,6 @@
 #include "entry/application/AppDelegate.h"
 #include "platform/desktop/IniPreferences.h"
+#include "testing/Cases.h"
 #include "testing/TestServices.h"
 
 #include <QPointer>
@@ -42,26 +43,20 @@ class TestAppDelegate : public QObject {
   Q_OBJECT
 
  private slots:
-  void neverHidesWithoutAWayBack_data() {
-    QTest::addColumn<bool>("keepRunning");
-    QTest::addColumn<bool>("tray");
-    QTest::addColumn<int>("ended");
-    QTest::newRow("wanted, tray") << true << true << 0;
-    QTest::newRow("wanted, none") << true << false << 1;
-    QTest::newRow("not wanted, tray") << false << true << 1;
-    QTest::newRow("not wanted, none") << false << false << 1;
-  }
-
   void neverHidesWithoutAWayBack() {
-    QFETCH(bool, keepRunning);
-    Running running;
-    QVERIFY(running.prefs.keepRunning());
-    running.prefs.setKeepRunning(keepRunning);
-    QCOMPARE(MenuBarPrefs(running.preferences).keepRunning(), keepRunning);
-    QFETCH(bool, tray);
-    running.tray.present = tray;
-    running.delegate.lastWindowClosed();
-    QTEST(running.ended, "ended");
+    const Cases<bool, bool, int> cases{{"wanted, tray", true, true, 0},
+                                       {"wanted, none", true, false, 1},
+                                       {"not wanted, tray", false, true, 1},
+                                       {"not wanted, none", false, false, 1}};
+    cases.check([&](bool keepRunning, bool tray, int ended) {
+      Running running;
+      QVERIFY(running.prefs.keepRunning());
+      running.prefs.setKeepRunning(keepRunning);
+      QCOMPARE(MenuBarPrefs(running.preferences).keepRunning(), keepRunning);
+      running.tray.present = tray;
+      running.delegate.lastWindowClosed();
+      QCOMPARE(running.ended, ended);
+    });
   }
 
   void comesBackWhenTheTrayGoes() {
@@ -103,5 +98,4 @@ class TestAppDelegate : public QObject {
 };
 
 QTEST_MAIN(TestAppDelegate)
-
 #include "tst_appdelegate.moc"

@@ -1,3 +1,4 @@
+#include "testing/Cases.h"
 #include "testing/ForeignZip.h"
 #include "testing/TestLibrary.h"
 
@@ -50,7 +51,7 @@ struct Import {
 // One brand with a picture, exported by the program.
 void exportAcme(TestLibrary& library, const QString& archive) {
   LibraryStore& store = library.start();
-  BrandDocument* const document = store.createBrand(QStringLiteral("Acmé 北"));
+  BrandDocument* const document = store.createBrand("Acmé 北");
   QVERIFY(document->importImageData(QByteArray(3'000'000, 'p'), "a.png", "png"));
   document->saveNow();
   library.dialogs.answer = archive;
@@ -65,28 +66,23 @@ class TestArchives : public QObject {
   Q_OBJECT
 
  private slots:
-  void exportsWhatOtherToolsRead_data() {
-    QTest::addColumn<QString>("program");
-    QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("unzip") << "unzip" << QStringList{"-q", "../a.zip"};
-    QTest::newRow("bsdtar") << "bsdtar" << QStringList{"-xf", "../a.zip"};
-  }
-
   void exportsWhatOtherToolsRead() {
-    QFETCH(QString, program);
-    QFETCH(QStringList, arguments);
-    TestLibrary library;
-    const QString archive = library.disk.path("a.zip"), out = library.disk.path("out");
-    QVERIFY(writeFile(archive, "an older file"));
-    exportAcme(library, archive);
-    QCOMPARE(library.dialogs.suggested, QStringLiteral("Acmé 北.tarnloft.zip"));
-    QCOMPARE(library.dialogs.mimeType, "application/zip");
-    QCOMPARE(library.viewer.revealed, QStringList(archive));
-    QVERIFY(QDir().mkpath(out) && runs(program, arguments, out));
-    const QString package = library.packagePath(QStringLiteral("Acmé 北"));
-    QCOMPARE(QDir(out).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-             QStringList(QFileInfo(package).fileName()));
-    QVERIFY(runs("diff", {"-r", package, out + '/' + QFileInfo(package).fileName()}, out));
+    const Cases<QString, QStringList> cases{{"unzip", "unzip", QStringList{"-q", "../a.zip"}},
+                                            {"bsdtar", "bsdtar", QStringList{"-xf", "../a.zip"}}};
+    cases.check([&](const QString& program, const QStringList& arguments) {
+      TestLibrary library;
+      const QString archive = library.disk.path("a.zip"), out = library.disk.path("out");
+      QVERIFY(writeFile(archive, "an older file"));
+      exportAcme(library, archive);
+      QCOMPARE(library.dialogs.suggested, "Acmé 北.tarnloft.zip");
+      QCOMPARE(library.dialogs.mimeType, "application/zip");
+      QCOMPARE(library.viewer.revealed, QStringList(archive));
+      QVERIFY(QDir().mkpath(out) && runs(program, arguments, out));
+      const QString package = library.packagePath("Acmé 北");
+      QCOMPARE(QDir(out).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+               QStringList(QFileInfo(package).fileName()));
+      QVERIFY(runs("diff", {"-r", package, out + '/' + QFileInfo(package).fileName()}, out));
+    });
   }
 
   void keepsTimesRightsAndLinks() {
@@ -113,31 +109,25 @@ class TestArchives : public QObject {
     QCOMPARE(QFileInfo(copy + "/assets/link").symLinkTarget(), copy + "/assets/a.png");
   }
 
-  void readsWhatOtherToolsWrite_data() {
-    QTest::addColumn<QString>("program");
-    QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("zip") << "zip" << QStringList{"-qry", "foreign.zip", "Acmé.tarnloft"};
-    QTest::newRow("bsdtar") << "bsdtar"
-                            << QStringList{"--format", "zip", "-cf", "foreign.zip",
-                                           "Acmé.tarnloft"};
-    QTest::newRow("stored") << "zip" << QStringList{"-qr0", "foreign.zip", "Acmé.tarnloft"};
-  }
-
   void readsWhatOtherToolsWrite() {
-    QFETCH(QString, program);
-    QFETCH(QStringList, arguments);
-    Import import;
-    const QString root = import.library.disk.folder.path();
-    QVERIFY(writeFile(root + QStringLiteral("/Acmé.tarnloft/manifest.json"), manifest("x")));
-    QVERIFY(writeFile(root + QStringLiteral("/Acmé.tarnloft/assets/a.png"), "picture"));
-    QVERIFY(runs(program, arguments, root));
-    QVERIFY(QDir(root + QStringLiteral("/Acmé.tarnloft")).removeRecursively());
-    LibraryStore& store = import.run();
-    QCOMPARE(import.library.dialogs.openTypes, QStringList("application/zip"));
-    QCOMPARE(store.selection(), import.library.packagePath(QStringLiteral("Acmé")));
-    QCOMPARE(store.openDocument()->brand().name, QStringLiteral("Acmé"));
-    QCOMPARE(contentOf(*store.selection() + "/assets/a.png"), "picture");
-    QVERIFY(import.leavesNothing());
+    const Cases<QString, QStringList> cases{
+        {"zip", "zip", QStringList{"-qry", "foreign.zip", "Acmé.tarnloft"}},
+        {"bsdtar", "bsdtar", QStringList{"--format", "zip", "-cf", "foreign.zip", "Acmé.tarnloft"}},
+        {"stored", "zip", QStringList{"-qr0", "foreign.zip", "Acmé.tarnloft"}}};
+    cases.check([&](const QString& program, const QStringList& arguments) {
+      Import import;
+      const QString root = import.library.disk.folder.path();
+      QVERIFY(writeFile(root + "/Acmé.tarnloft/manifest.json", manifest("x")));
+      QVERIFY(writeFile(root + "/Acmé.tarnloft/assets/a.png", "picture"));
+      QVERIFY(runs(program, arguments, root));
+      QVERIFY(QDir(root + "/Acmé.tarnloft").removeRecursively());
+      LibraryStore& store = import.run();
+      QCOMPARE(import.library.dialogs.openTypes, QStringList("application/zip"));
+      QCOMPARE(store.selection(), import.library.packagePath("Acmé"));
+      QCOMPARE(store.openDocument()->brand().name, "Acmé");
+      QCOMPARE(contentOf(*store.selection() + "/assets/a.png"), "picture");
+      QVERIFY(import.leavesNothing());
+    });
   }
 
   void importsBesideItsOriginal() {
@@ -147,26 +137,23 @@ class TestArchives : public QObject {
     const QUuid original = library.store->openDocument()->brand().id;
     library.store->importBrand();
     const Brand& copy = library.store->openDocument()->brand();
-    QCOMPARE(copy.name, QStringLiteral("Acmé 北 2"));
+    QCOMPARE(copy.name, "Acmé 北 2");
     QVERIFY(copy.id != original);
     QCOMPARE(library.store->brands().size(), 2);
   }
 
-  void importsFolders_data() {
-    QTest::addColumn<QString>("folder");
-    QTest::newRow("present extension") << "Acme.tarnloft";
-    QTest::newRow("former extension") << "Acme.yewstack";
-  }
-
   void importsFolders() {
-    QFETCH(QString, folder);
-    Import import;
-    import.archive = import.outside + '/' + folder;
-    QVERIFY(writeFile(import.archive + "/manifest.json", manifest("Other")));
-    LibraryStore& store = import.run();
-    QCOMPARE(store.selection(), import.library.packagePath("Acme"));
-    QCOMPARE(store.openDocument()->brand().name, "Acme");
-    QVERIFY(QFile::exists(import.archive + "/manifest.json"));
+    const Cases<QString> cases{{"present extension", "Acme.tarnloft"},
+                               {"former extension", "Acme.yewstack"}};
+    cases.check([&](const QString& folder) {
+      Import import;
+      import.archive = import.outside + '/' + folder;
+      QVERIFY(writeFile(import.archive + "/manifest.json", manifest("Other")));
+      LibraryStore& store = import.run();
+      QCOMPARE(store.selection(), import.library.packagePath("Acme"));
+      QCOMPARE(store.openDocument()->brand().name, "Acme");
+      QVERIFY(QFile::exists(import.archive + "/manifest.json"));
+    });
   }
 
   void keepsABrokenPackage() {
@@ -178,137 +165,123 @@ class TestArchives : public QObject {
     QCOMPARE(import.library.names(), QStringList("Acme"));
   }
 
-  void refuses_data() {
-    QTest::addColumn<Fill>("fill");
-    const auto row = [](const char* name, const Fill& fill) { QTest::newRow(name) << fill; };
-    row("no package", [](ForeignZip& zip) { zip.file("Acme/manifest.json"); });
-    row("nothing", [](ForeignZip&) {});
-    row("only a foreign second tree",
-        [](ForeignZip& zip) { zip.file("__MACOSX/Acme.tarnloft/._manifest.json"); });
-    row("hidden package", [](ForeignZip& zip) { zip.file(".Acme.tarnloft/manifest.json"); });
-    row("other case", [](ForeignZip& zip) { zip.file("Acme.TARNLOFT/manifest.json"); });
-    row("steps upwards", [](ForeignZip& zip) {
-      zip.file("Acme.tarnloft/manifest.json").file("Acme.tarnloft/../../../outside/x");
-    });
-    row("absolute path", [](ForeignZip& zip) { zip.file("/tmp/Acme.tarnloft/manifest.json"); });
-    row("backslashes", [](ForeignZip& zip) { zip.file("a/..\\..\\outside\\x.tarnloft"); });
-    row("absolute link",
-        [](ForeignZip& zip) { zip.folder("Acme.tarnloft/").link("Acme.tarnloft/a", "/etc"); });
-    row("link out", [](ForeignZip& zip) {
-      zip.folder("Acme.tarnloft/").link("Acme.tarnloft/a", "../../../outside");
-    });
-    row("link to beside the package",
-        [](ForeignZip& zip) { zip.folder("Acme.tarnloft/").link("Acme.tarnloft/a", "../x"); });
-    row("link as the package", [](ForeignZip& zip) { zip.link("Acme.tarnloft", "."); });
-    row("link through a link", [](ForeignZip& zip) {
-      zip.folder("Acme.tarnloft/x/y/")
-          .link("Acme.tarnloft/x/y/up", "../..")
-          .link("Acme.tarnloft/out", "x/y/up/../../outside");
-    });
-    row("file through a link", [](ForeignZip& zip) {
-      zip.folder("Acme.tarnloft/in/").link("Acme.tarnloft/a", "in").file("Acme.tarnloft/a/x");
-    });
-    row("file over a link", [](ForeignZip& zip) {
-      zip.file("Acme.tarnloft/b").link("Acme.tarnloft/a", "b").file("Acme.tarnloft/a");
-    });
-    row("twice", [](ForeignZip& zip) {
-      zip.file("Acme.tarnloft/manifest.json", "1").file("Acme.tarnloft/./manifest.json", "2");
-    });
-  }
-
   void refuses() {
-    QFETCH(Fill, fill);
-    Import import;
-    {
-      ForeignZip zip(import.archive);
-      fill(zip);
-    }
-    LibraryStore& store = import.run();
-    QVERIFY(store.brands().isEmpty() && !store.selection());
-    QVERIFY(import.leavesNothing());
-    QVERIFY(QDir(import.library.folder).isEmpty());
-  }
-
-  void findsThePackage_data() {
-    QTest::addColumn<Fill>("fill");
-    QTest::addColumn<QString>("name");
-    const auto row = [](const char* title, const Fill& fill, const QString& name) {
-      QTest::newRow(title) << fill << name;
-    };
-    const QByteArray good = manifest("x");
-    row(
-        "with clutter of another system",
-        [=](ForeignZip& zip) {
-          zip.file("__MACOSX/A.tarnloft/._manifest.json")
-              .file("B.tarnloft/manifest.json", good)
-              .file("B.tarnloft/.DS_Store");
-        },
-        "B");
-    row(
-        "the first of two",
-        [=](ForeignZip& zip) {
-          zip.file("B.tarnloft/manifest.json", good).file("A.tarnloft/manifest.json", good);
-        },
-        "A");
-    row(
-        "deep", [=](ForeignZip& zip) { zip.file("x/y/A.yewstack/manifest.json", good); }, "A");
-    row(
-        "a package within a package",
-        [=](ForeignZip& zip) {
-          zip.file("A.tarnloft/0.tarnloft/manifest.json", good)
-              .file("A.tarnloft/manifest.json", good);
-        },
-        "A");
-    row(
-        "names of an old code page",
-        [=](ForeignZip& zip) { zip.file("Müller.tarnloft/manifest.json", good); },
-        QStringLiteral("Müller"));
-    row(
-        "folders that nobody may enter",
-        [=](ForeignZip& zip) {
-          zip.folder("A.tarnloft/", 0).folder("A.tarnloft/assets/", 0);
-          zip.file("A.tarnloft/manifest.json", good, 0);
-        },
-        "A");
+    const Cases<Fill> cases{
+        {"no package", [](ForeignZip& zip) { zip.file("Acme/manifest.json"); }},
+        {"nothing", [](ForeignZip&) {}},
+        {"only a foreign second tree",
+         [](ForeignZip& zip) { zip.file("__MACOSX/Acme.tarnloft/._manifest.json"); }},
+        {"hidden package", [](ForeignZip& zip) { zip.file(".Acme.tarnloft/manifest.json"); }},
+        {"other case", [](ForeignZip& zip) { zip.file("Acme.TARNLOFT/manifest.json"); }},
+        {"steps upwards",
+         [](ForeignZip& zip) {
+           zip.file("Acme.tarnloft/manifest.json").file("Acme.tarnloft/../../../outside/x");
+         }},
+        {"absolute path", [](ForeignZip& zip) { zip.file("/tmp/Acme.tarnloft/manifest.json"); }},
+        {"backslashes", [](ForeignZip& zip) { zip.file("a/..\\..\\outside\\x.tarnloft"); }},
+        {"absolute link",
+         [](ForeignZip& zip) { zip.folder("Acme.tarnloft/").link("Acme.tarnloft/a", "/etc"); }},
+        {"link out",
+         [](ForeignZip& zip) {
+           zip.folder("Acme.tarnloft/").link("Acme.tarnloft/a", "../../../outside");
+         }},
+        {"link to beside the package",
+         [](ForeignZip& zip) { zip.folder("Acme.tarnloft/").link("Acme.tarnloft/a", "../x"); }},
+        {"link as the package", [](ForeignZip& zip) { zip.link("Acme.tarnloft", "."); }},
+        {"link through a link",
+         [](ForeignZip& zip) {
+           zip.folder("Acme.tarnloft/x/y/")
+               .link("Acme.tarnloft/x/y/up", "../..")
+               .link("Acme.tarnloft/out", "x/y/up/../../outside");
+         }},
+        {"file through a link",
+         [](ForeignZip& zip) {
+           zip.folder("Acme.tarnloft/in/").link("Acme.tarnloft/a", "in").file("Acme.tarnloft/a/x");
+         }},
+        {"file over a link",
+         [](ForeignZip& zip) {
+           zip.file("Acme.tarnloft/b").link("Acme.tarnloft/a", "b").file("Acme.tarnloft/a");
+         }},
+        {"twice", [](ForeignZip& zip) {
+           zip.file("Acme.tarnloft/manifest.json", "1").file("Acme.tarnloft/./manifest.json", "2");
+         }}};
+    cases.check([&](const Fill& fill) {
+      Import import;
+      {
+        ForeignZip zip(import.archive);
+        fill(zip);
+      }
+      LibraryStore& store = import.run();
+      QVERIFY(store.brands().isEmpty() && !store.selection());
+      QVERIFY(import.leavesNothing());
+      QVERIFY(QDir(import.library.folder).isEmpty());
+    });
   }
 
   void findsThePackage() {
-    QFETCH(Fill, fill);
-    QFETCH(QString, name);
-    Import import;
-    {
-      ForeignZip zip(import.archive, "zip:hdrcharset=CP437");
-      fill(zip);
-    }
-    LibraryStore& store = import.run();
-    QCOMPARE(import.library.names(), QStringList(name));
-    QVERIFY(store.openDocument());
-    QVERIFY(!QFile::exists(*store.selection() + "/.DS_Store"));
-    QVERIFY(import.leavesNothing());
-  }
-
-  void refusesABomb_data() {
-    QTest::addColumn<UnpackLimits>("limits");
-    QTest::addColumn<bool>("imports");
-    QTest::newRow("within bounds") << UnpackLimits{3'000'000, 0, 12} << true;
-    QTest::newRow("too large") << UnpackLimits{1'900'000, 0, 12} << false;
-    QTest::newRow("too many") << UnpackLimits{3'000'000, 0, 11} << false;
-    QTest::newRow("bound by its own size") << UnpackLimits{0, 10, 12} << false;
-    QTest::newRow("larger with its size") << UnpackLimits{0, 2000, 12} << true;
+    const QByteArray good = manifest("x");
+    const Cases<Fill, QString> cases{
+        {"with clutter of another system",
+         [=](ForeignZip& zip) {
+           zip.file("__MACOSX/A.tarnloft/._manifest.json")
+               .file("B.tarnloft/manifest.json", good)
+               .file("B.tarnloft/.DS_Store");
+         },
+         "B"},
+        {"the first of two",
+         [=](ForeignZip& zip) {
+           zip.file("B.tarnloft/manifest.json", good).file("A.tarnloft/manifest.json", good);
+         },
+         "A"},
+        {"deep", [=](ForeignZip& zip) { zip.file("x/y/A.yewstack/manifest.json", good); }, "A"},
+        {"a package within a package",
+         [=](ForeignZip& zip) {
+           zip.file("A.tarnloft/0.tarnloft/manifest.json", good)
+               .file("A.tarnloft/manifest.json", good);
+         },
+         "A"},
+        {"names of an old code page",
+         [=](ForeignZip& zip) { zip.file("Müller.tarnloft/manifest.json", good); }, "Müller"},
+        {"folders that nobody may enter",
+         [=](ForeignZip& zip) {
+           zip.folder("A.tarnloft/", 0).folder("A.tarnloft/assets/", 0);
+           zip.file("A.tarnloft/manifest.json", good, 0);
+         },
+         "A"}};
+    cases.check([&](const Fill& fill, const QString& name) {
+      Import import;
+      {
+        ForeignZip zip(import.archive, "zip:hdrcharset=CP437");
+        fill(zip);
+      }
+      LibraryStore& store = import.run();
+      QCOMPARE(import.library.names(), QStringList(name));
+      QVERIFY(store.openDocument());
+      QVERIFY(!QFile::exists(*store.selection() + "/.DS_Store"));
+      QVERIFY(import.leavesNothing());
+    });
   }
 
   void refusesABomb() {
-    QFETCH(UnpackLimits, limits);
-    Import import;
-    {
-      ForeignZip zip(import.archive);
-      zip.file("A.tarnloft/manifest.json", manifest("x"))
-          .file("A.tarnloft/big", QByteArray(2'000'000, 0));
-      for (int i = 0; i < 10; ++i) zip.file(qPrintable(QString("A.tarnloft/%1").arg(i)), "");
-    }
-    ZipArchiver archiver(limits);
-    QVERIFY(QDir().mkpath(import.library.disk.path("out")));
-    QTEST(archiver.extract(import.archive, import.library.disk.path("out")).has_value(), "imports");
+    const Cases<UnpackLimits, bool> cases{
+        {"within bounds", UnpackLimits{3'000'000, 0, 12}, true},
+        {"too large", UnpackLimits{1'900'000, 0, 12}, false},
+        {"too many", UnpackLimits{3'000'000, 0, 11}, false},
+        {"bound by its own size", UnpackLimits{0, 10, 12}, false},
+        {"larger with its size", UnpackLimits{0, 2000, 12}, true}};
+    cases.check([&](const UnpackLimits& limits, bool imports) {
+      Import import;
+      {
+        ForeignZip zip(import.archive);
+        zip.file("A.tarnloft/manifest.json", manifest("x"))
+            .file("A.tarnloft/big", QByteArray(2'000'000, 0));
+        for (int i = 0; i < 10; ++i) zip.file(qPrintable(QString("A.tarnloft/%1").arg(i)), "");
+      }
+      ZipArchiver archiver(limits);
+      QVERIFY(QDir().mkpath(import.library.disk.path("out")));
+      QCOMPARE(archiver.extract(import.archive, import.library.disk.path("out")).has_value(),
+               imports);
+    });
   }
 
   void unpacksForItsUser() {
@@ -413,5 +386,4 @@ class TestArchives : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestArchives)
-
 #include "tst_archives.moc"

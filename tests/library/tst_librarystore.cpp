@@ -1,5 +1,6 @@
 #include "document/UndoHistory.h"
 #include "model/Uuid.h"
+#include "testing/Cases.h"
 #include "testing/RandomBrand.h"
 #include "testing/TestLibrary.h"
 
@@ -72,47 +73,27 @@ class TestLibraryStore : public QObject {
     }
   }
 
-  void movesRows_data() {
-    QTest::addColumn<QString>("moved");
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("order");
-    QTest::newRow("to the front") << "c"
-                                  << "a"
-                                  << "cab";
-    QTest::newRow("down") << "a"
-                          << "c"
-                          << "bac";
-    QTest::newRow("to the end") << "a"
-                                << ""
-                                << "bca";
-    QTest::newRow("before an unknown one") << "a"
-                                           << "?"
-                                           << "bca";
-    QTest::newRow("before itself") << "b"
-                                   << "b"
-                                   << "abc";
-    QTest::newRow("unknown") << "?"
-                             << "a"
-                             << "abc";
-  }
-
   void movesRows() {
-    QFETCH(QString, moved);
-    QFETCH(QString, before);
-    TestLibrary library;
-    for (const char* name : {"a", "b", "c"}) library.add(name);
-    library.start();
-    const auto id = [&](const QString& name) {
-      for (const BrandSummary& row : library.store->brands()) {
-        if (row.name == name) return row.brandID;
-      }
-      return QUuid::createUuid();
-    };
-    library.store->moveBrand(id(moved),
-                             before.isEmpty() ? std::nullopt : std::optional(id(before)));
-    QTEST(library.names().join(QString()), "order");
-    library.start();
-    QTEST(library.names().join(QString()), "order");
+    const Cases<QString, QString, QString> cases{
+        {"to the front", "c", "a", "cab"},  {"down", "a", "c", "bac"},
+        {"to the end", "a", "", "bca"},     {"before an unknown one", "a", "?", "bca"},
+        {"before itself", "b", "b", "abc"}, {"unknown", "?", "a", "abc"}};
+    cases.check([&](const QString& moved, const QString& before, const QString& order) {
+      TestLibrary library;
+      for (const char* name : {"a", "b", "c"}) library.add(name);
+      library.start();
+      const auto id = [&](const QString& name) {
+        for (const BrandSummary& row : library.store->brands()) {
+          if (row.name == name) return row.brandID;
+        }
+        return QUuid::createUuid();
+      };
+      library.store->moveBrand(id(moved),
+                               before.isEmpty() ? std::nullopt : std::optional(id(before)));
+      QCOMPARE(library.names().join(QString()), order);
+      library.start();
+      QCOMPARE(library.names().join(QString()), order);
+    });
   }
 
   void listsWhatItCannotRead() {
@@ -207,33 +188,30 @@ class TestLibraryStore : public QObject {
     QCOMPARE(library.start().libraryURL(), there);
   }
 
-  void readsPreferences_data() {
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QString>("read");
-    QTest::newRow("none") << QByteArray() << "#0A84FF - system medium hex compact png 0.85";
-    QTest::newRow("all") << QByteArray(
-                                "[General]\ndefaultAccentHex=#123456\ndefaultAccentHexDark=#"
-                                "abc\nappearanceMode=dark\ntileSize=large\n"
-                                "colorCopyFormat=hexLower\nassetDisplayMode="
-                                "expanded\nlastExportFormat=heic\nlastExportQuality=0.5\n")
-                         << "#123456 #abc dark large hexLower expanded heic 0.5";
-    QTest::newRow("nonsense") << QByteArray(
-                                     "[General]\nappearanceMode=sepia\ntileSize="
-                                     "huge\ncolorCopyFormat=HEX\nassetDisplayMode=a, b\n"
-                                     "lastExportFormat=\nlastExportQuality=high\n")
-                              << "#0A84FF - system medium hex compact png 0.85";
-  }
-
   void readsPreferences() {
-    QFETCH(QByteArray, file);
-    QTemporaryDir folder;
-    QVERIFY(writeFile(folder.filePath("p.ini"), file));
-    IniPreferences ini(folder.filePath("p.ini"));
-    const LibraryPreferences preferences(ini);
-    const auto text = [](std::string_view raw) {
-      return QString::fromLatin1(raw.data(), qsizetype(raw.size()));
-    };
-    QTEST(QStringList(
+    const Cases<QByteArray, QString> cases{
+        {"none", "", "#0A84FF - system medium hex compact png 0.85"},
+        {"all",
+         "[General]\ndefaultAccentHex=#123456\ndefaultAccentHexDark=#"
+         "abc\nappearanceMode=dark\ntileSize=large\n"
+         "colorCopyFormat=hexLower\nassetDisplayMode="
+         "expanded\nlastExportFormat=heic\nlastExportQuality=0.5\n",
+         "#123456 #abc dark large hexLower expanded heic 0.5"},
+        {"nonsense",
+         "[General]\nappearanceMode=sepia\ntileSize="
+         "huge\ncolorCopyFormat=HEX\nassetDisplayMode=a, b\n"
+         "lastExportFormat=\nlastExportQuality=high\n",
+         "#0A84FF - system medium hex compact png 0.85"}};
+    cases.check([&](const QByteArray& file, const QString& read) {
+      QTemporaryDir folder;
+      QVERIFY(writeFile(folder.filePath("p.ini"), file));
+      IniPreferences ini(folder.filePath("p.ini"));
+      const LibraryPreferences preferences(ini);
+      const auto text = [](std::string_view raw) {
+        return QString::fromLatin1(raw.data(), qsizetype(raw.size()));
+      };
+      QCOMPARE(
+          QStringList(
               {preferences.defaultAccentHex(), preferences.defaultAccentHexDark().value_or("-"),
                text(rawValue(preferences.appearanceMode())), text(rawValue(preferences.tileSize())),
                text(rawValue(preferences.colorCopyFormat())),
@@ -241,7 +219,8 @@ class TestLibraryStore : public QObject {
                text(rawValue(preferences.lastExportFormat())),
                QString::number(preferences.lastExportQuality())})
               .join(' '),
-          "read");
+          read);
+    });
   }
 
   void writesPreferences() {
@@ -314,5 +293,4 @@ class TestLibraryStore : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestLibraryStore)
-
 #include "tst_librarystore.moc"

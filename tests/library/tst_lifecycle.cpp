@@ -159,5 +159,4 @@ class TestLifecycle : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestLifecycle)
-
 #include "tst_lifecycle.moc"

@@ -1,5 +1,6 @@
 #include "document/PackageVersions.h"
 #include "platform/desktop/DiskThread.h"
+#include "testing/Cases.h"
 #include "testing/TestLibrary.h"
 
 #include <QSemaphore>
@@ -61,31 +62,24 @@ class TestSafety : public QObject {
   Q_OBJECT
 
  private slots:
-  void changesAreOnDiskBeforeTheirDocumentGoes_data() {
-    QTest::addColumn<std::function<void(Safe&)>>("go");
-    QTest::addColumn<QString>("package");
-    const auto row = [](const char* name, const char* package, std::function<void(Safe&)> go) {
-      QTest::newRow(name) << go << QString(package);
-    };
-    row("another is selected", "Acme",
-        [](Safe& safe) { safe.store().select(safe.library.packagePath("Beta")); });
-    row("another is made", "Acme", [](Safe& safe) { safe.store().createBrand("New"); });
-    row("it is duplicated", "Acme Copy",
-        [](Safe& safe) { safe.store().duplicateBrand(safe.row("Acme")); });
-    row("it is thrown away", "../../trash/Acme",
-        [](Safe& safe) { safe.store().deleteBrand(safe.row("Acme")); });
-    row("the library moves", "Acme",
-        [](Safe& safe) { safe.store().setLibraryURL(safe.library.disk.path("other")); });
-    row("the program ends", "Acme", [](Safe& safe) { QVERIFY(safe.store().flush(1s)); });
-  }
-
   void changesAreOnDiskBeforeTheirDocumentGoes() {
-    QFETCH(std::function<void(Safe&)>, go);
-    QFETCH(QString, package);
-    Safe safe;
-    safe.accent("#123456");
-    go(safe);
-    QCOMPARE(safe.accentOnDisk(safe.library.packagePath(package)), "#123456");
+    const Cases<std::function<void(Safe&)>, QString> cases{
+        {"another is selected",
+         [](Safe& safe) { safe.store().select(safe.library.packagePath("Beta")); }, "Acme"},
+        {"another is made", [](Safe& safe) { safe.store().createBrand("New"); }, "Acme"},
+        {"it is duplicated", [](Safe& safe) { safe.store().duplicateBrand(safe.row("Acme")); },
+         "Acme Copy"},
+        {"it is thrown away", [](Safe& safe) { safe.store().deleteBrand(safe.row("Acme")); },
+         "../../trash/Acme"},
+        {"the library moves",
+         [](Safe& safe) { safe.store().setLibraryURL(safe.library.disk.path("other")); }, "Acme"},
+        {"the program ends", [](Safe& safe) { QVERIFY(safe.store().flush(1s)); }, "Acme"}};
+    cases.check([&](const std::function<void(Safe&)>& go, const QString& package) {
+      Safe safe;
+      safe.accent("#123456");
+      go(safe);
+      QCOMPARE(safe.accentOnDisk(safe.library.packagePath(package)), "#123456");
+    });
   }
 
   void workThatCannotBeSavedIsKept() {
@@ -114,35 +108,30 @@ class TestSafety : public QObject {
     QTRY_VERIFY(safe.store().unsavedBrands().isEmpty());
   }
 
-  void aPackageRenamedElsewhereIsFollowed_data() {
-    QTest::addColumn<bool>("scansFirst");
-    QTest::addColumn<bool>("hasTwin");
-    QTest::newRow("found by the save") << false << false;
-    QTest::newRow("found by a scan") << true << false;
-    QTest::newRow("a twin, found by the save") << false << true;
-    QTest::newRow("a twin, found by a scan") << true << true;
-  }
-
   void aPackageRenamedElsewhereIsFollowed() {
-    QFETCH(bool, scansFirst);
-    QFETCH(bool, hasTwin);
-    Safe safe;
-    const QString before = safe.library.packagePath("Acme"),
-                  now = safe.library.packagePath("Moved");
-    if (hasTwin) {
-      QVERIFY(safe.disk.copyFolder(before, safe.library.packagePath("Acme copy")));
-      safe.store().scan();
-    }
-    QVERIFY(QDir().rename(before, now));
-    if (scansFirst) safe.store().scan();
-    safe.accent("#123456");
-    safe.open()->saveNow();
-    QCOMPARE(safe.accentOnDisk(now), "#123456");
-    QVERIFY(!QDir(before).exists());
-    QCOMPARE(safe.open()->packageURL(), now);
-    QCOMPARE(safe.store().selection(), now);
-    QCOMPARE(safe.library.names(),
-             hasTwin ? QStringList({"Acme", "Beta", "Acme"}) : QStringList({"Acme", "Beta"}));
+    const Cases<bool, bool> cases{{"found by the save", false, false},
+                                  {"found by a scan", true, false},
+                                  {"a twin, found by the save", false, true},
+                                  {"a twin, found by a scan", true, true}};
+    cases.check([&](bool scansFirst, bool hasTwin) {
+      Safe safe;
+      const QString before = safe.library.packagePath("Acme"),
+                    now = safe.library.packagePath("Moved");
+      if (hasTwin) {
+        QVERIFY(safe.disk.copyFolder(before, safe.library.packagePath("Acme copy")));
+        safe.store().scan();
+      }
+      QVERIFY(QDir().rename(before, now));
+      if (scansFirst) safe.store().scan();
+      safe.accent("#123456");
+      safe.open()->saveNow();
+      QCOMPARE(safe.accentOnDisk(now), "#123456");
+      QVERIFY(!QDir(before).exists());
+      QCOMPARE(safe.open()->packageURL(), now);
+      QCOMPARE(safe.store().selection(), now);
+      QCOMPARE(safe.library.names(),
+               hasTwin ? QStringList({"Acme", "Beta", "Acme"}) : QStringList({"Acme", "Beta"}));
+    });
   }
 
   void aPackageThatIsNowhereIsMadeAgainAndTold() {
@@ -276,5 +265,4 @@ class TestSafety : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestSafety)
-
 #include "tst_safety.moc"

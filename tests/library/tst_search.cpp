@@ -1,3 +1,4 @@
+#include "testing/Cases.h"
 #include "testing/RandomBrand.h"
 #include "testing/TestLibrary.h"
 
@@ -33,28 +34,25 @@ class TestSearch : public QObject {
   Q_OBJECT
 
  private slots:
-  void findsWhatTheRulesTell_data() {
-    QTest::addColumn<QString>("query");
-    QTest::addColumn<QStringList>("titles");
-    QTest::newRow("section first") << "logo" << QStringList{"Logos", "Primary Logo", "Set"};
-    QTest::newRow("both brands") << "brand" << QStringList{"Brand Blue", "Brand Colors"};
-    QTest::newRow("any case, trimmed") << "  PRIMARY\n" << QStringList{"Primary Logo"};
-    QTest::newRow("blanks") << "   " << QStringList{};
-    QTest::newRow("none") << "zzznope" << QStringList{};
-    QTest::newRow("type") << "color" << QStringList{"Brand Blue", "Brand Colors"};
-    QTest::newRow("part of a hex") << "#1234" << QStringList{"Brand Blue"};
-    QTest::newRow("spot") << "pms 021" << QStringList{"Brand Blue"};
-    QTest::newRow("role") << "wordmark" << QStringList{"Set"};
-    QTest::newRow("no label of a nameless section") << "untitled" << QStringList{};
-    QTest::newRow("beyond ASCII") << "ÜBER" << QStringList{"überblau"};
-    QTest::newRow("not across tokens") << "LogoImage" << QStringList{};
-  }
-
   void findsWhatTheRulesTell() {
-    QFETCH(QString, query);
-    QStringList titles;
-    for (const SearchHit& hit : searchHits(twoBrands(), query)) titles << hit.title;
-    QTEST(titles, "titles");
+    const Cases<QString, QStringList> cases{
+        {"section first", "logo", QStringList{"Logos", "Primary Logo", "Set"}},
+        {"both brands", "brand", QStringList{"Brand Blue", "Brand Colors"}},
+        {"any case, trimmed", "  PRIMARY\n", QStringList{"Primary Logo"}},
+        {"blanks", "   ", QStringList{}},
+        {"none", "zzznope", QStringList{}},
+        {"type", "color", QStringList{"Brand Blue", "Brand Colors"}},
+        {"part of a hex", "#1234", QStringList{"Brand Blue"}},
+        {"spot", "pms 021", QStringList{"Brand Blue"}},
+        {"role", "wordmark", QStringList{"Set"}},
+        {"no label of a nameless section", "untitled", QStringList{}},
+        {"beyond ASCII", "ÜBER", QStringList{"überblau"}},
+        {"not across tokens", "LogoImage", QStringList{}}};
+    cases.check([&](const QString& query, const QStringList& titles) {
+      QStringList found;
+      for (const SearchHit& hit : searchHits(twoBrands(), query)) found << hit.title;
+      QCOMPARE(found, titles);
+    });
   }
 
   void agreesWithEachItemOverRandomBrands() {
@@ -193,5 +191,4 @@ class TestSearch : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestSearch)
-
 #include "tst_search.moc"

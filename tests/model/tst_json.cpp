@@ -1,4 +1,5 @@
 #include "model/Json.h"
+#include "testing/Cases.h"
 #include "testing/RandomBrand.h"
 
 #include <QJsonDocument>
@@ -113,30 +114,24 @@ class TestJson : public QObject {
     }
   }
 
-  void numbersSurviveInShortestForm_data() {
-    QTest::addColumn<QByteArray>("given");
-    QTest::addColumn<QByteArray>("written");
-    const QList<QList<QByteArray>> rows{{"1.0", "1"},
-                                        {"100000", "100000"},
-                                        {"0.1", "0.1"},
-                                        {"1e-5", "1e-05"},
-                                        {"0.0001", "0.0001"},
-                                        {"1E16", "1e+16"},
-                                        {"123456789012345680", "1.2345678901234568e+17"},
-                                        {"-0.0", "0"},
-                                        {"-12.50", "-12.5"},
-                                        {"9007199254740993", "9007199254740992"},
-                                        {"100000000000000000000", "1e+20"}};
-    for (const auto& row : rows)
-      QTest::newRow(row.first().constData()) << row.first() << row.last();
-  }
-
   void numbersSurviveInShortestForm() {
-    QFETCH(QByteArray, given);
-    const auto gradient = decode<GradientValue>("{\"stops\":[],\"angle\":" + given + "}");
-    QVERIFY(gradient);
-    QFETCH(QByteArray, written);
-    QVERIFY2(encode(*gradient)->contains("\"angle\" : " + written + ","), *encode(*gradient));
+    const QList<QPair<QByteArray, QByteArray>> numbers{
+        {"1.0", "1"},
+        {"100000", "100000"},
+        {"0.1", "0.1"},
+        {"1e-5", "1e-05"},
+        {"0.0001", "0.0001"},
+        {"1E16", "1e+16"},
+        {"123456789012345680", "1.2345678901234568e+17"},
+        {"-0.0", "0"},
+        {"-12.50", "-12.5"},
+        {"9007199254740993", "9007199254740992"},
+        {"100000000000000000000", "1e+20"}};
+    for (const auto& [given, written] : numbers) {
+      const auto gradient = decode<GradientValue>("{\"stops\":[],\"angle\":" + given + "}");
+      QVERIFY2(gradient, given);
+      QVERIFY2(encode(*gradient)->contains("\"angle\" : " + written + ","), given);
+    }
   }
 
   void randomNumbersSurvive() {
@@ -158,7 +153,7 @@ class TestJson : public QObject {
   }
 
   void refusesDatesWithoutWrittenForm() {
-    Brand brand = Brand::create(QStringLiteral("x"));
+    Brand brand = Brand::create("x");
     brand.createdAt = Timestamp(std::chrono::seconds(-62167219201));  // the second before year 0
     QCOMPARE(encode(brand).error().kind, ErrorKind::unwritable);
     brand.createdAt += std::chrono::seconds(1);
@@ -170,119 +165,94 @@ class TestJson : public QObject {
     bytes += "{\"hex\":\"#FFF\"}";
     bytes.squeeze();
     bytes.remove(0, 300);  // the room is in front now, not behind
-    QCOMPARE(decode<ColorValue>(bytes)->hex, QStringLiteral("#FFF"));
-    QCOMPARE(decode<ColorValue>(QByteArray::fromRawData("{\"hex\":\"#000\"}  ", 14))->hex,
-             QStringLiteral("#000"));
-  }
-
-  void takesOldAndForeignFiles_data() {
-    QTest::addColumn<QByteArray>("json");
-    QTest::addColumn<QByteArray>("same");
-    QTest::newRow("without optional keys")
-        << QByteArray(R"({"hex":"#FFF"})") << QByteArray(R"({"hex":"#FFF"})");
-    QTest::newRow("null for none")
-        << QByteArray(R"({"hex":"#FFF","name":null})") << QByteArray(R"({"hex":"#FFF"})");
-    QTest::newRow("unknown keys")
-        << QByteArray(R"({"x":[{}],"hex":"#FFF","y":123456789012345678901234567890})")
-        << QByteArray(R"({"hex":"#FFF"})");
-    QTest::newRow("the last of a repeated key")
-        << QByteArray(R"({"hex":"#000","hex":"#FFF"})") << QByteArray(R"({"hex":"#FFF"})");
-    QTest::newRow("a slash in both forms")
-        << QByteArray(R"({"hex":"a\/b"})") << QByteArray(R"({"hex":"a/b"})");
-    QTest::newRow("U+FEFF in front of a text")
-        << QByteArray("{\"hex\":\"\xEF\xBB\xBF\xEF\xBB\xBFx\"}")
-        << QByteArray(R"({"hex":"\ufeff\ufeffx"})");
-    QTest::newRow("digits in a string")
-        << QByteArray(R"({"hex":"\" 12345678901234567890123","y":123456789012345678901234567890})")
-        << QByteArray(R"({"hex":"\" 12345678901234567890123"})");
+    QCOMPARE(decode<ColorValue>(bytes)->hex, "#FFF");
+    QCOMPARE(decode<ColorValue>(QByteArray::fromRawData("{\"hex\":\"#000\"}  ", 14))->hex, "#000");
   }
 
   void takesOldAndForeignFiles() {
-    QFETCH(QByteArray, json);
-    QFETCH(QByteArray, same);
-    const auto color = decode<ColorValue>(json);
-    QVERIFY2(color, qPrintable(color ? QString() : color.error().message));
-    QCOMPARE(*color, *decode<ColorValue>(same));
-    const QString hex = QJsonDocument::fromJson(same)[u"hex"].toString();
-    QCOMPARE(color->hex, hex);
-  }
-
-  void refusesAndNamesThePlace_data() {
-    QTest::addColumn<QByteArray>("json");
-    QTest::addColumn<QString>("message");
-    const auto row = [](const char* name, const QByteArray& json, const char* message) {
-      QTest::newRow(name) << json << QString::fromUtf8(message);
-    };
-    row("empty", "", "document: ");
-    row("mark", "\xEF\xBB\xBF" + itemWith("{}"), "document: begins with a byte-order mark");
-    row("list", "[]", "document: expected an object");
-    row("missing", itemWith(R"({"color":{"value":{"name":"x"}}})"),
-        "payload.color.value.hex: missing");
-    row("null for required", itemWith(R"({"text":{"body":null}})"),
-        "payload.text.body: expected a string");
-    row("wrong type", itemWith(R"({"header":{"text":"x","level":"1"}})"),
-        "payload.header.level: expected an integer");
-    row("fraction", itemWith(R"({"header":{"text":"x","level":1.5}})"),
-        "payload.header.level: expected an integer");
-    row("too large", itemWith(R"({"header":{"text":"x","level":9223372036854775808}})"),
-        "payload.header.level: expected an integer");
-    row("no known key", itemWith(R"({"sound":{}})"),
-        "payload: Invalid number of keys found, expected one.");
-    row("two known keys", itemWith(R"({"text":{"body":""},"code":null})"),
-        "payload: Invalid number of keys found, expected one.");
-    row("unknown role",
-        itemWith(
-            R"({"logo":{"value":{"name":"","variants":[{"id":"8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E21","asset":{"filename":"","originalName":""},"role":"hero"}]}}})"),
-        "payload.logo.value.variants[0].role: unknown value");
-    row("bad id", R"({"id":"8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E2","payload":{"text":{"body":""}}})",
-        "id: expected a UUID");
-    row("id in braces",
-        R"({"id":"{8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E21}","payload":{"text":{"body":""}}})",
-        "id: expected a UUID");
-    row("truncated", itemWith("{}").chopped(1), "document: ");
-    row("bad UTF-8", itemWith("{\"text\":{\"body\":\"\xC3\"}}"), "document: ");
-    row("lone surrogate", itemWith(R"({"text":{"body":"\ud800"}})"), "document: ");
-    row("long number", itemWith("{\"text\":" + QByteArray(100, '9') + "}"),
-        "payload.text: expected an object");
-    row("number beyond all", itemWith("{\"text\":" + QByteArray(400, '9') + "}"), "document: ");
-    row("deep", QByteArray(100000, '['), "document: ");
-    row("deep objects", QByteArray("{\"a\":").repeated(5000), "document: ");
+    const Cases<QByteArray, QByteArray> cases{
+        {"without optional keys", QByteArray(R"({"hex":"#FFF"})"), QByteArray(R"({"hex":"#FFF"})")},
+        {"null for none", QByteArray(R"({"hex":"#FFF","name":null})"),
+         QByteArray(R"({"hex":"#FFF"})")},
+        {"unknown keys",
+         QByteArray(R"({"x":[{}],"hex":"#FFF","y":123456789012345678901234567890})"),
+         QByteArray(R"({"hex":"#FFF"})")},
+        {"the last of a repeated key", QByteArray(R"({"hex":"#000","hex":"#FFF"})"),
+         QByteArray(R"({"hex":"#FFF"})")},
+        {"a slash in both forms", QByteArray(R"({"hex":"a\/b"})"), QByteArray(R"({"hex":"a/b"})")},
+        {"U+FEFF in front of a text", "{\"hex\":\"\xEF\xBB\xBF\xEF\xBB\xBFx\"}",
+         QByteArray(R"({"hex":"\ufeff\ufeffx"})")},
+        {"digits in a string",
+         QByteArray(R"({"hex":"\" 12345678901234567890123","y":123456789012345678901234567890})"),
+         QByteArray(R"({"hex":"\" 12345678901234567890123"})")}};
+    cases.check([&](const QByteArray& json, const QByteArray& same) {
+      const auto color = decode<ColorValue>(json);
+      QVERIFY2(color, qPrintable(color ? QString() : color.error().message));
+      QCOMPARE(*color, *decode<ColorValue>(same));
+      const QString hex = QJsonDocument::fromJson(same)[u"hex"].toString();
+      QCOMPARE(color->hex, hex);
+    });
   }
 
   void refusesAndNamesThePlace() {
-    QFETCH(QByteArray, json);
-    QFETCH(QString, message);
-    const auto read = decode<Item>(json);
-    QVERIFY(!read);
-    QVERIFY2(read.error().message.startsWith(message), qPrintable(read.error().message));
+    const Cases<QByteArray, QString> cases{
+        {"empty", "", "document: "},
+        {"mark", "\xEF\xBB\xBF" + itemWith("{}"), "document: begins with a byte-order mark"},
+        {"list", "[]", "document: expected an object"},
+        {"missing", itemWith(R"({"color":{"value":{"name":"x"}}})"),
+         "payload.color.value.hex: missing"},
+        {"null for required", itemWith(R"({"text":{"body":null}})"),
+         "payload.text.body: expected a string"},
+        {"wrong type", itemWith(R"({"header":{"text":"x","level":"1"}})"),
+         "payload.header.level: expected an integer"},
+        {"fraction", itemWith(R"({"header":{"text":"x","level":1.5}})"),
+         "payload.header.level: expected an integer"},
+        {"too large", itemWith(R"({"header":{"text":"x","level":9223372036854775808}})"),
+         "payload.header.level: expected an integer"},
+        {"no known key", itemWith(R"({"sound":{}})"),
+         "payload: Invalid number of keys found, expected one."},
+        {"two known keys", itemWith(R"({"text":{"body":""},"code":null})"),
+         "payload: Invalid number of keys found, expected one."},
+        {"unknown role",
+         itemWith(
+             R"({"logo":{"value":{"name":"","variants":[{"id":"8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E21","asset":{"filename":"","originalName":""},"role":"hero"}]}}})"),
+         "payload.logo.value.variants[0].role: unknown value"},
+        {"bad id", R"({"id":"8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E2","payload":{"text":{"body":""}}})",
+         "id: expected a UUID"},
+        {"id in braces",
+         R"({"id":"{8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E21}","payload":{"text":{"body":""}}})",
+         "id: expected a UUID"},
+        {"truncated", itemWith("{}").chopped(1), "document: "},
+        {"bad UTF-8", itemWith("{\"text\":{\"body\":\"\xC3\"}}"), "document: "},
+        {"lone surrogate", itemWith(R"({"text":{"body":"\ud800"}})"), "document: "},
+        {"long number", itemWith("{\"text\":" + QByteArray(100, '9') + "}"),
+         "payload.text: expected an object"},
+        {"number beyond all", itemWith("{\"text\":" + QByteArray(400, '9') + "}"), "document: "},
+        {"deep", QByteArray(100000, '['), "document: "},
+        {"deep objects", QByteArray("{\"a\":").repeated(5000), "document: "}};
+    cases.check([&](const QByteArray& json, const QString& message) {
+      const auto read = decode<Item>(json);
+      QVERIFY(!read);
+      QVERIFY2(read.error().message.startsWith(message), qPrintable(read.error().message));
+    });
   }
 
-  void readsDates_data() {
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QByteArray>("same");
-    QTest::newRow("UTC") << QByteArray("2026-03-01T09:30:00Z")
-                         << QByteArray("2026-03-01T09:30:00Z");
-    QTest::newRow("leap day") << QByteArray("2024-02-29T23:59:59Z")
-                              << QByteArray("2024-02-29T23:59:59Z");
-    QTest::newRow("offset") << QByteArray("2026-03-01T00:30:00+01:30")
-                            << QByteArray("2026-02-28T23:00:00Z");
+  void readsDates() {
+    const QList<QPair<const char*, const char*>> dates{
+        {"2026-03-01T09:30:00Z", "2026-03-01T09:30:00Z"},
+        {"2024-02-29T23:59:59Z", "2024-02-29T23:59:59Z"},
+        {"2026-03-01T00:30:00+01:30", "2026-02-28T23:00:00Z"},
+        {"2026-03-01T00:30:00-01:30", "2026-03-01T02:00:00Z"}};
+    for (const auto& [text, same] : dates) QCOMPARE(iso8601(*fromIso8601(text)), std::string(same));
     for (const char* bad :
          {"2026-03-01T09:30:00.5Z", "2026-02-29T09:30:00Z", "2026-03-01 09:30:00Z",
           "0000-01-01T00:00:00+01:00", "9999-12-31T23:59:59-01:00", "2026-03-01T24:00:00Z",
           "2026-03-01T09:30:60Z", "2026-03-01T09:30:00", "2026-03-01", "", "2026-3-1T09:30:00Z",
           "2026-03-01T09:30:00+0130"}) {
-      QTest::newRow(bad) << QByteArray(bad) << QByteArray();
+      QVERIFY2(!fromIso8601(bad), bad);
     }
-  }
-
-  void readsDates() {
-    QFETCH(QByteArray, text);
-    QFETCH(QByteArray, same);
-    const auto moment = fromIso8601(text.toStdString());
-    QCOMPARE(moment ? QByteArray::fromStdString(iso8601(*moment)) : QByteArray(), same);
   }
 };
 
 QTEST_APPLESS_MAIN(TestJson)
-
 #include "tst_json.moc"

@@ -1,4 +1,5 @@
 #include "model/ListDifference.h"
+#include "testing/Cases.h"
 #include "testing/RandomBrand.h"
 
 #include <QAbstractItemModelTester>
@@ -83,49 +84,22 @@ class TestListDifference : public QObject {
   Q_OBJECT
 
  private slots:
-  void fewestSteps_data() {
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("after");
-    QTest::addColumn<QString>("steps");
-    QTest::newRow("same") << "abc"
-                          << "abc"
-                          << "";
-    QTest::newRow("from nothing") << ""
-                                  << "abc"
-                                  << "+0x3";
-    QTest::newRow("to nothing") << "abc"
-                                << ""
-                                << "-0x3";
-    QTest::newRow("one moved forwards") << "abcde"
-                                        << "bcade"
-                                        << "0>2";
-    QTest::newRow("one moved backwards") << "abcde"
-                                         << "aebcd"
-                                         << "4>1";
-    QTest::newRow("removals from the back") << "abcdef"
-                                            << "acf"
-                                            << "-3x2 -1x1";
-    QTest::newRow("insertions") << "ad"
-                                << "abcde"
-                                << "+1x2 +4x1";
-    QTest::newRow("changed") << "abc"
-                             << "aBc"
-                             << "!1";
-    QTest::newRow("moved and changed") << "abc"
-                                       << "bcA"
-                                       << "0>2 !2";
-    QTest::newRow("replaced") << "ab"
-                              << "cd"
-                              << "-0x2 +0x2";
-    QTest::newRow("all together") << "abcde"
-                                  << "fdaB"
-                                  << "-4x1 -2x1 +0x1 3>1 !3";
-  }
-
   void fewestSteps() {
-    QFETCH(QString, before);
-    QFETCH(QString, after);
-    QTEST(shown(difference(before, after)), "steps");
+    const Cases<QString, QString, QString> cases{
+        {"same", "abc", "abc", ""},
+        {"from nothing", "", "abc", "+0x3"},
+        {"to nothing", "abc", "", "-0x3"},
+        {"one moved forwards", "abcde", "bcade", "0>2"},
+        {"one moved backwards", "abcde", "aebcd", "4>1"},
+        {"removals from the back", "abcdef", "acf", "-3x2 -1x1"},
+        {"insertions", "ad", "abcde", "+1x2 +4x1"},
+        {"changed", "abc", "aBc", "!1"},
+        {"moved and changed", "abc", "bcA", "0>2 !2"},
+        {"replaced", "ab", "cd", "-0x2 +0x2"},
+        {"all together", "abcde", "fdaB", "-4x1 -2x1 +0x1 3>1 !3"}};
+    cases.check([&](const QString& before, const QString& after, const QString& steps) {
+      QCOMPARE(shown(difference(before, after)), steps);
+    });
   }
 
   void aModelFollowsRandomEdits() {
@@ -187,5 +161,4 @@ class TestListDifference : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestListDifference)
-
 #include "tst_listdifference.moc"

@@ -1,6 +1,7 @@
 #include "model/FileName.h"
 #include "model/RecordHash.h"
 #include "model/SearchText.h"
+#include "testing/Cases.h"
 #include "testing/RandomBrand.h"
 
 #include <QTest>
@@ -28,97 +29,62 @@ class TestRecords : public QObject {
   Q_OBJECT
 
  private slots:
-  void showsNames_data() {
-    QTest::addColumn<Item>("item");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("type");
-    QTest::newRow("header") << Item::create(HeaderPayload{str("Basics"), 2}) << "Basics"
-                            << "Header";
-    QTest::newRow("text") << Item::create(TextPayload{str("a\nb")}) << "a\nb"
-                          << "Text";
-    QTest::newRow("colour by hex") << color("#123") << "#123"
-                                   << "Color";
-    QTest::newRow("empty name is a name") << color("#123", str("")) << ""
-                                          << "Color";
-    QTest::newRow("gradient") << Item::create(GradientPayload{}) << "Gradient"
-                              << "Gradient";
-    QTest::newRow("image by file") << Item::create(ImagePayload{file("a.b.png"), {}}) << "a.b"
-                                   << "Image";
-    QTest::newRow("image without any") << Item::create(ImagePayload{file(""), {}}) << "Image"
-                                       << "Image";
-    QTest::newRow("video") << Item::create(VideoPayload{file(""), {}}) << "Video"
-                           << "Video";
-    QTest::newRow("font") << Item::create(FontPayload{{str("Inter"), {}, {}, {}, {}}}) << "Inter"
-                          << "Type";
-    QTest::newRow("code") << Item::create(CodePayload{{str("css"), {}, {}}}) << "css"
-                          << "Code";
-    QTest::newRow("logo") << logo({}) << "Set"
-                          << "Logo";
-  }
-
   void showsNames() {
-    QFETCH(Item, item);
-    QTEST(item.displayName(), "name");
-    QTEST(item.typeLabel(), "type");
-  }
-
-  void findsItems_data() {
-    QTest::addColumn<QString>("query");
-    QTest::addColumn<bool>("found");
-    QTest::newRow("part of the hex") << "#1234" << true;
-    QTest::newRow("type, any case") << "cOLOR" << true;
-    QTest::newRow("spot") << "pms 021" << true;
-    QTest::newRow("name, beyond ASCII") << "ÜBER" << true;
-    QTest::newRow("composed and decomposed") << "u\u0308berbl" << true;
-    QTest::newRow("blanks count") << " 123456" << false;
-    QTest::newRow("nothing finds nothing") << "" << false;
+    const Cases<Item, QString, QString> cases{
+        {"header", Item::create(HeaderPayload{str("Basics"), 2}), "Basics", "Header"},
+        {"text", Item::create(TextPayload{str("a\nb")}), "a\nb", "Text"},
+        {"colour by hex", color("#123"), "#123", "Color"},
+        {"empty name is a name", color("#123", str("")), "", "Color"},
+        {"gradient", Item::create(GradientPayload{}), "Gradient", "Gradient"},
+        {"image by file", Item::create(ImagePayload{file("a.b.png"), {}}), "a.b", "Image"},
+        {"image without any", Item::create(ImagePayload{file(""), {}}), "Image", "Image"},
+        {"video", Item::create(VideoPayload{file(""), {}}), "Video", "Video"},
+        {"font", Item::create(FontPayload{{str("Inter"), {}, {}, {}, {}}}), "Inter", "Type"},
+        {"code", Item::create(CodePayload{{str("css"), {}, {}}}), "css", "Code"},
+        {"logo", logo({}), "Set", "Logo"}};
+    cases.check([&](const Item& item, const QString& name, const QString& type) {
+      QCOMPARE(item.displayName(), name);
+      QCOMPARE(item.typeLabel(), type);
+    });
   }
 
   void findsItems() {
-    QFETCH(QString, query);
-    QTEST(color("#123456", str("Überblau"), str("PMS 021 C")).matchesSearch(query), "found");
-    QVERIFY(!logo({variant("m.svg", LogoRole::mono)}).matchesSearch(str("wordmark")));
-    QVERIFY(logo({variant("m.svg", LogoRole::mono)}).matchesSearch(str("monochrome")));
-  }
-
-  void foldsTextsInTheUsersLanguage_data() {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("english");
-    QTest::addColumn<QString>("turkish");
-    QTest::newRow("nothing") << ""
-                             << ""
-                             << "";
-    QTest::newRow("ASCII") << "AZ az @[`{ 09"
-                           << "az az @[`{ 09"
-                           << "az az @[`{ 09";
-    QTest::newRow("letter I") << "ICON"
-                              << "icon"
-                              << "ıcon";
-    QTest::newRow("beyond ASCII") << "Straße ÜBER"
-                                  << "straße über"
-                                  << "straße über";
-    QTest::newRow("decomposed") << "U\u0308"
-                                << "ü"
-                                << "ü";
-    QTest::newRow("U+FEFF in front") << "\uFEFFX"
-                                     << "\uFEFFx"
-                                     << "\uFEFFx";
+    const Cases<QString, bool> cases{{"part of the hex", "#1234", true},
+                                     {"type, any case", "cOLOR", true},
+                                     {"spot", "pms 021", true},
+                                     {"name, beyond ASCII", "ÜBER", true},
+                                     {"composed and decomposed", "u\u0308berbl", true},
+                                     {"blanks count", " 123456", false},
+                                     {"nothing finds nothing", "", false}};
+    cases.check([&](const QString& query, bool found) {
+      QCOMPARE(color("#123456", str("Überblau"), str("PMS 021 C")).matchesSearch(query), found);
+      QVERIFY(!logo({variant("m.svg", LogoRole::mono)}).matchesSearch(str("wordmark")));
+      QVERIFY(logo({variant("m.svg", LogoRole::mono)}).matchesSearch(str("monochrome")));
+    });
   }
 
   void foldsTextsInTheUsersLanguage() {
-    QFETCH(QString, text);
-    for (const auto& [language, column] :
-         {std::pair(QLocale::English, "english"), std::pair(QLocale::Turkish, "turkish")}) {
-      QLocale::setDefault(QLocale(language));
-      const SearchFolding folding;
-      QLocale::setDefault(QLocale::system());
-      std::string ofText, ofUtf8;
-      folding.append(text, ofText);
-      folding.append(text.toStdString(), ofUtf8);
-      QTEST(folding.folded(text), column);
-      QCOMPARE(ofText, folding.folded(text).toStdString());
-      QCOMPARE(ofUtf8, ofText);
-    }
+    const Cases<QString, QString, QString> cases{
+        {"nothing", "", "", ""},
+        {"ASCII", "AZ az @[`{ 09", "az az @[`{ 09", "az az @[`{ 09"},
+        {"letter I", "ICON", "icon", "ıcon"},
+        {"beyond ASCII", "Straße ÜBER", "straße über", "straße über"},
+        {"decomposed", "U\u0308", "ü", "ü"},
+        {"U+FEFF in front", "\uFEFFX", "\uFEFFx", "\uFEFFx"}};
+    cases.check([](const QString& text, const QString& english, const QString& turkish) {
+      for (const auto& [language, expected] :
+           {std::pair(QLocale::English, english), std::pair(QLocale::Turkish, turkish)}) {
+        QLocale::setDefault(QLocale(language));
+        const SearchFolding folding;
+        QLocale::setDefault(QLocale::system());
+        std::string ofText, ofUtf8;
+        folding.append(text, ofText);
+        folding.append(text.toStdString(), ofUtf8);
+        QCOMPARE(folding.folded(text), expected);
+        QCOMPARE(ofText, expected.toStdString());
+        QCOMPARE(ofUtf8, ofText);
+      }
+    });
   }
 
   void handsOutTheRightFile() {
@@ -163,33 +129,18 @@ class TestRecords : public QObject {
     QCOMPARE(value.stops.first().hex, str("#00ff00"));
   }
 
-  void splitsExtensions_data() {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("base");
-    QTest::addColumn<QString>("extension");
-    QTest::newRow("plain") << "Mark.PNG"
-                           << "Mark"
-                           << "PNG";
-    QTest::newRow("two") << "a.tar.gz"
-                         << "a.tar"
-                         << "gz";
-    QTest::newRow("hidden") << ".png"
-                            << ".png"
-                            << "";
-    QTest::newRow("dot at the end") << "Mark."
-                                    << "Mark."
-                                    << "";
-    QTest::newRow("dot in a folder") << "a.b/c"
-                                     << "a.b/c"
-                                     << "";
-  }
-
   void splitsExtensions() {
-    QFETCH(QString, path);
-    QTEST(withoutPathExtension(path), "base");
-    QTEST(pathExtension(path), "extension");
-    const std::string utf8 = path.toStdString();
-    QTEST(QString::fromStdString(std::string(withoutPathExtension(utf8))), "base");
+    const Cases<QString, QString, QString> cases{{"plain", "Mark.PNG", "Mark", "PNG"},
+                                                 {"two", "a.tar.gz", "a.tar", "gz"},
+                                                 {"hidden", ".png", ".png", ""},
+                                                 {"dot at the end", "Mark.", "Mark.", ""},
+                                                 {"dot in a folder", "a.b/c", "a.b/c", ""}};
+    cases.check([&](const QString& path, const QString& base, const QString& extension) {
+      QCOMPARE(withoutPathExtension(path), base);
+      QCOMPARE(pathExtension(path), extension);
+      const std::string utf8 = path.toStdString();
+      QCOMPARE(QString::fromStdString(std::string(withoutPathExtension(utf8))), base);
+    });
   }
 
   void hashesAgreeWithEquality() {
@@ -207,5 +158,4 @@ class TestRecords : public QObject {
 };
 
 QTEST_APPLESS_MAIN(TestRecords)
-
 #include "tst_records.moc"

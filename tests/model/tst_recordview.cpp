@@ -1,6 +1,7 @@
 #include "model/Json.h"
 #include "model/RecordView.h"
 #include "model/Utf8.h"
+#include "testing/Cases.h"
 #include "testing/RandomBrand.h"
 
 #include <QTest>
@@ -139,29 +140,23 @@ class TestRecordView : public QObject {
   Q_OBJECT
 
  private slots:
-  void refusesWhatDecodingRefuses_data() {
-    QTest::addColumn<QByteArray>("from");
-    QTest::addColumn<QByteArray>("to");
-    QTest::newRow("nothing changed") << QByteArray() << QByteArray();
-    QTest::newRow("missing key") << QByteArray("\"updatedAt\"") << QByteArray("\"touchedAt\"");
-    QTest::newRow("fractional seconds") << QByteArray("00Z\"") << QByteArray("00.5Z\"");
-    QTest::newRow("wrong type deep inside") << QByteArray("\"#123456\"") << QByteArray("123456");
-    QTest::newRow("fractional integer")
-        << QByteArray("\"schemaVersion\" : 1") << QByteArray("\"schemaVersion\" : 1.5");
-    QTest::newRow("two kinds") << QByteArray("\"color\"") << QByteArray("\"text\" : {}, \"color\"");
-    QTest::newRow("null entry") << QByteArray("\"items\" : [") << QByteArray("\"items\" : [null, ");
-    QTest::newRow("an earlier bad one of a repeated key")
-        << QByteArray("\"hex\"") << QByteArray("\"hex\" : 1, \"hex\"");
-  }
-
   void refusesWhatDecodingRefuses() {
-    Brand brand = Brand::create(QStringLiteral("Acme"), [] { return Timestamp(); });
-    brand.sections[0].items.append(Item::create(ColorPayload{{QStringLiteral("#123456"), {}, {}}}));
-    QByteArray json = *encode(brand);
-    QFETCH(QByteArray, from);
-    QFETCH(QByteArray, to);
-    if (!from.isEmpty()) json.replace(from, to);
-    QCOMPARE(verdictOf(json), from.isEmpty() ? Verdict::accepted : Verdict::refused);
+    const Cases<QByteArray, QByteArray> cases{
+        {"nothing changed", "", ""},
+        {"missing key", "\"updatedAt\"", "\"touchedAt\""},
+        {"fractional seconds", "00Z\"", "00.5Z\""},
+        {"wrong type deep inside", "\"#123456\"", "123456"},
+        {"fractional integer", "\"schemaVersion\" : 1", "\"schemaVersion\" : 1.5"},
+        {"two kinds", "\"color\"", "\"text\" : {}, \"color\""},
+        {"null entry", "\"items\" : [", "\"items\" : [null, "},
+        {"an earlier bad one of a repeated key", "\"hex\"", "\"hex\" : 1, \"hex\""}};
+    cases.check([&](const QByteArray& from, const QByteArray& to) {
+      Brand brand = Brand::create("Acme", [] { return Timestamp(); });
+      brand.sections[0].items.append(Item::create(ColorPayload{{"#123456", {}, {}}}));
+      QByteArray json = *encode(brand);
+      if (!from.isEmpty()) json.replace(from, to);
+      QCOMPARE(verdictOf(json), from.isEmpty() ? Verdict::accepted : Verdict::refused);
+    });
   }
 
   void agreesWithDecodingOverMutatedManifests() {
@@ -184,5 +179,4 @@ class TestRecordView : public QObject {
 };
 
 QTEST_APPLESS_MAIN(TestRecordView)
-
 #include "tst_recordview.moc"

@@ -64,5 +64,4 @@ class TestSharedList : public QObject {
 };
 
 QTEST_APPLESS_MAIN(TestSharedList)
-
 #include "tst_sharedlist.moc"

@@ -16,10 +16,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
-const QString name = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
-const QString group = QStringLiteral("org.freedesktop.appearance");
-const QString scheme = QStringLiteral("color-scheme");
+const QString name = "org.freedesktop.portal.Desktop";
+const QString path = "/org/freedesktop/portal/desktop";
+const QString group = "org.freedesktop.appearance";
+const QString scheme = "color-scheme";
 
 // The desktop's settings, on a connection of its own.
 class FakeSettings : public QObject, protected QDBusContext {
@@ -39,8 +39,8 @@ class FakeSettings : public QObject, protected QDBusContext {
   }
 
   void change(const QString& ofGroup, const QString& ofKey, const QVariant& value) {
-    auto signal = QDBusMessage::createSignal(
-        path, QStringLiteral("org.freedesktop.portal.Settings"), QStringLiteral("SettingChanged"));
+    auto signal =
+        QDBusMessage::createSignal(path, "org.freedesktop.portal.Settings", "SettingChanged");
     signal << ofGroup << ofKey << QVariant::fromValue(QDBusVariant(value));
     m_bus.send(signal);
   }
@@ -52,15 +52,13 @@ class FakeSettings : public QObject, protected QDBusContext {
   QDBusVariant Read(const QString& ofGroup, const QString& ofKey) {
     ++asked;
     const QVariant value = m_values.value(ofGroup + ofKey);
-    if (!value.isValid())
-      sendErrorReply(QStringLiteral("org.freedesktop.portal.Error.NotFound"), ofKey);
+    if (!value.isValid()) sendErrorReply("org.freedesktop.portal.Error.NotFound", ofKey);
     return QDBusVariant(QVariant::fromValue(QDBusVariant(value)));  // wrapped twice, as told
   }
 
  private:
   QMap<QString, QVariant> m_values;
-  QDBusConnection m_bus =
-      QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("settings"));
+  QDBusConnection m_bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "settings");
 };
 
 void colorDesktop(const QColor& window, const QColor& text) {
@@ -127,7 +125,7 @@ class TestAppearance : public QObject {
     QTRY_COMPARE(settings.asked, 1);
     settings.change(1);
     QTRY_VERIFY(appearance.isDark());
-    settings.change(QStringLiteral("some.other.group"), scheme, 2U);
+    settings.change("some.other.group", scheme, 2U);
     settings.change(0);  // no preference: the palette, which is light
     QTRY_VERIFY(!appearance.isDark());
   }
@@ -208,7 +206,7 @@ class TestAppearance : public QObject {
     QTRY_COMPARE(told, (QList<bool>{false, true}));
     settings.change(ofGroup, key, moving);
     QTRY_COMPARE(told, (QList<bool>{false, true, false}));
-    settings.change(QStringLiteral("some.other.group"), key, still);
+    settings.change("some.other.group", key, still);
     settings.change(ofGroup, key, moving);
     settings.change(ofGroup, key, still);
     QTRY_COMPARE(told, (QList<bool>{false, true, false, true}));
@@ -216,5 +214,4 @@ class TestAppearance : public QObject {
 };
 
 QTEST_MAIN(TestAppearance)
-
 #include "tst_appearance.moc"

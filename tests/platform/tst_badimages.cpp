@@ -93,7 +93,7 @@ class TestBadImages : public QObject {
       QVERIFY(!images_.vectorSize(path));
       QVERIFY(isAbsent(path));
     }
-    QVERIFY(isAbsent(disk_.path(QStringLiteral("missing.png"))));
+    QVERIFY(isAbsent(disk_.path("missing.png")));
     QVERIFY(isAbsent(disk_.folder.path()));
   }
 
@@ -114,16 +114,15 @@ class TestBadImages : public QObject {
   // nothing at their end that counts.
   void neverShowsACutPictureAsAnother() {
     QFETCH(QByteArray, content);
-    const auto whole = images_.thumbnail(written(content, QStringLiteral("whole")), 64);
+    const auto whole = images_.thumbnail(written(content, "whole"), 64);
     for (const int percent : {1, 5, 20, 40, 60, 80, 95, 99}) {
       const QByteArray cut = content.first(content.size() * percent / 100);
-      const QString path = written(cut, QStringLiteral("cut"));
+      const QString path = written(cut, "cut");
       const auto thumbnail = images_.thumbnail(path, 64);
       QVERIFY2(!thumbnail || thumbnail == whole, qPrintable(QString::number(percent)));
       images_.convert(path, ExportFormat::jpeg, {20, 20}, 0.5);
     }
-    QVERIFY(
-        !images_.thumbnail(written(content.first(content.size() / 2), QStringLiteral("half")), 64));
+    QVERIFY(!images_.thumbnail(written(content.first(content.size() / 2), "half"), 64));
   }
 
   void survivesDamage_data() { neverShowsACutPictureAsAnother_data(); }
@@ -136,7 +135,7 @@ class TestBadImages : public QObject {
       for (int i = 0; i < 4; ++i) {
         damaged[random.bounded(damaged.size())] = char(random.bounded(256));
       }
-      const QString path = written(damaged, QStringLiteral("damaged"));
+      const QString path = written(damaged, "damaged");
       images_.properties(path);
       const auto thumbnail = images_.thumbnail(path, 64);
       QVERIFY(!thumbnail || (thumbnail->width() <= 64 && thumbnail->height() <= 64));
@@ -154,15 +153,14 @@ class TestBadImages : public QObject {
 
   void refusesPicturesThatClaimTooMuch() {
     QFETCH(QByteArray, content);
-    const QString path = written(content, QStringLiteral("claim.png"));
+    const QString path = written(content, "claim.png");
     const qint64 before = peakMegabytes();
     QVERIFY(isAbsent(path));
     QVERIFY(peakMegabytes() - before < 100);
   }
 
   void streamsLargePictures() {
-    const QString path =
-        written(pngOf(20'000, 20'000, 1, 0, 0, 2501 * 20'000), QStringLiteral("large.png"));
+    const QString path = written(pngOf(20'000, 20'000, 1, 0, 0, 2501 * 20'000), "large.png");
     const qint64 before = peakMegabytes();
     const auto thumbnail = images_.thumbnail(path, 128);
     QVERIFY(thumbnail);
@@ -178,12 +176,11 @@ class TestBadImages : public QObject {
     QImage pixel(8, 8, QImage::Format_RGB32);
     pixel.fill(Qt::red);
     pixel.save(&buffer, "png");
-    writeFile(disk_.path(QStringLiteral("red.png")), red);
+    writeFile(disk_.path("red.png"), red);
     QTest::newRow("inside") << QByteArray("data:image/png;base64," + red.toBase64()) << true;
     QTest::newRow("beside") << QByteArray("red.png") << false;
-    QTest::newRow("path") << QFile::encodeName(disk_.path(QStringLiteral("red.png"))) << false;
-    QTest::newRow("address") << QByteArray("file://" +
-                                           QFile::encodeName(disk_.path(QStringLiteral("red.png"))))
+    QTest::newRow("path") << QFile::encodeName(disk_.path("red.png")) << false;
+    QTest::newRow("address") << QByteArray("file://" + QFile::encodeName(disk_.path("red.png")))
                              << false;
   }
 
@@ -191,11 +188,11 @@ class TestBadImages : public QObject {
     QFETCH(QByteArray, source);
     QFETCH(bool, shows);
     const QByteArray drawing = svg("<image width='100' height='100' xlink:href='" + source + "'/>");
-    const auto thumbnail = images_.thumbnail(written(drawing, QStringLiteral("outside.svg")), 64);
+    const auto thumbnail = images_.thumbnail(written(drawing, "outside.svg"), 64);
     QCOMPARE(thumbnail && qAlpha(thumbnail->pixel(32, 32)) != 0, shows);
     const QByteArray entity = "<?xml version='1.0'?><!DOCTYPE svg [<!ENTITY x SYSTEM '" + source +
                               "'>]>" + svg("<text y='50'>&x;</text>");
-    QVERIFY(!images_.thumbnail(written(entity, QStringLiteral("entity.svg")), 64));
+    QVERIFY(!images_.thumbnail(written(entity, "entity.svg"), 64));
   }
 
   void endsDrawingsThatNeverEnd_data() {
@@ -208,24 +205,24 @@ class TestBadImages : public QObject {
 
   void endsDrawingsThatNeverEnd() {
     QFETCH(QByteArray, content);
-    QVERIFY(!images_.thumbnail(written(content, QStringLiteral("endless.svg")), 64));
+    QVERIFY(!images_.thumbnail(written(content, "endless.svg"), 64));
     QVERIFY(images_.thumbnail(pictureFixture("mark.svg"), 64));  // by a program that still serves
-    const auto own = images_.thumbnail(
-        written(svg("<g id='a'><use xlink:href='#a'/></g>"), QStringLiteral("own.svg")), 64);
+    const auto own =
+        images_.thumbnail(written(svg("<g id='a'><use xlink:href='#a'/></g>"), "own.svg"), 64);
     QVERIFY(!own || own->size() == QSize(64, 64));
   }
 
   void drawsNothingWithoutTheProgram() {
-    VipsImages images(disk_.path(QStringLiteral("no-such-program")));
+    VipsImages images(disk_.path("no-such-program"));
     QVERIFY(!images.thumbnail(pictureFixture("mark.svg"), 64));
     QVERIFY(images.thumbnail(pictureFixture("chart.tif"), 64));
   }
 
   void neverWaitsOnAPipe() {
-    const QString path = disk_.path(QStringLiteral("pipe.png"));
+    const QString path = disk_.path("pipe.png");
     QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
     QVERIFY(isAbsent(path));
-    QVERIFY(isAbsent(QStringLiteral("/dev/zero")));
+    QVERIFY(isAbsent("/dev/zero"));
   }
 
  private:
@@ -243,5 +240,4 @@ class TestBadImages : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestBadImages)
-
 #include "tst_badimages.moc"

@@ -1,4 +1,5 @@
 #include "platform/desktop/MimeContentTypes.h"
+#include "testing/Cases.h"
 #include "testing/TestServices.h"
 
 #include <QTest>
@@ -11,32 +12,26 @@ class TestContentTypes : public QObject {
   Q_OBJECT
 
  private slots:
-  void knowsWhatABrandHolds_data() {
-    QTest::addColumn<QString>("contentClass");
-    QTest::addColumn<QStringList>("extensions");
-    QTest::newRow("images") << "image"
-                            << QStringList{"png",  "jpg",  "jpeg", "JPG", "heic", "heif", "avif",
-                                           "webp", "tiff", "tif",  "gif", "bmp",  "svg",  "svgz",
-                                           "ico",  "icns", "psd",  "eps", "ps",   "ai",   "jp2",
-                                           "jxl",  "dng",  "cr2",  "exr", "tga"};
-    QTest::newRow("movies") << "movie"
-                            << QStringList{"mp4",  "MP4", "m4v", "mov", "qt",  "avi", "mkv",
-                                           "webm", "mpg", "ts",  "mts", "ogv", "flv", "wmv",
-                                           "asf",  "3gp", "3g2", "dv",  "mxf", "vob"};
-    QTest::newRow("fonts") << "font" << QStringList{"ttf",  "otf",   "OTF", "ttc",
-                                                    "woff", "woff2", "pfb", "pfa"};
-    QTest::newRow("others") << "data" << QStringList{"pdf",  "txt", "html", "zip",  "mp3", "m4a",
-                                                     "m3u8", "afm", "css",  "docx", "json"};
-    QTest::newRow("nothing") << "none" << QStringList{"", "unheardof", "a/b", "."};
-  }
-
   void knowsWhatABrandHolds() {
-    QFETCH(QString, contentClass);
-    QFETCH(QStringList, extensions);
-    for (const QString& extension : extensions) {
-      const QString type = types.typeOfExtension(extension);
-      QVERIFY2(classOf(type) == contentClass, qPrintable(extension + " is " + type));
-    }
+    const Cases<QString, QStringList> cases{
+        {"images", "image",
+         QStringList{"png", "jpg", "jpeg", "JPG", "heic", "heif", "avif", "webp", "tiff",
+                     "tif", "gif", "bmp",  "svg", "svgz", "ico",  "icns", "psd",  "eps",
+                     "ps",  "ai",  "jp2",  "jxl", "dng",  "cr2",  "exr",  "tga"}},
+        {"movies", "movie",
+         QStringList{"mp4", "MP4", "m4v", "mov", "qt",  "avi", "mkv", "webm", "mpg", "ts",
+                     "mts", "ogv", "flv", "wmv", "asf", "3gp", "3g2", "dv",   "mxf", "vob"}},
+        {"fonts", "font", QStringList{"ttf", "otf", "OTF", "ttc", "woff", "woff2", "pfb", "pfa"}},
+        {"others", "data",
+         QStringList{"pdf", "txt", "html", "zip", "mp3", "m4a", "m3u8", "afm", "css", "docx",
+                     "json"}},
+        {"nothing", "none", QStringList{"", "unheardof", "a/b", "."}}};
+    cases.check([&](const QString& contentClass, const QStringList& extensions) {
+      for (const QString& extension : extensions) {
+        const QString type = types.typeOfExtension(extension);
+        QVERIFY2(classOf(type) == contentClass, qPrintable(extension + " is " + type));
+      }
+    });
   }
 
   void believesTheExtension() {
@@ -51,28 +46,23 @@ class TestContentTypes : public QObject {
   }
 
   // Without an extension, with one that stands for nothing, and with one that stands for several.
-  void looksIntoAFileWithoutOne_data() {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("type");
+  void looksIntoAFileWithoutOne() {
     const QByteArray png("\x89PNG\r\n\x1a\n");
     const auto fixture = [](const char* name) { return contentOf(FIXTURES "/" + QString(name)); };
-    QTest::newRow("picture") << "logo" << png << "image/png";
-    QTest::newRow("unknown extension") << "logo.unheardof" << png << "image/png";
-    QTest::newRow("font") << "type" << fixture("fonts/plain.woff2") << "font/woff2";
-    QTest::newRow("clip") << "clip" << fixture("videos/h264.mp4") << "video/mp4";
-    QTest::newRow("stream") << "a.ts" << fixture("videos/h264.ts") << "video/mp2t";
-    QTest::newRow("film") << "a.ogg" << fixture("videos/theora.ogv") << "video/x-theora+ogg";
-    QTest::newRow("OpenType") << "a.otf" << fixture("fonts/plain.otf") << "font/otf";
-    QTest::newRow("text") << "notes" << QByteArray("The quick brown fox\n") << "text/plain";
-  }
-
-  void looksIntoAFileWithoutOne() {
-    QFETCH(QString, name);
-    QFETCH(QByteArray, content);
-    TestServices disk;
-    QVERIFY(writeFile(disk.path(name), content));
-    QTEST(types.typeOfFile(disk.path(name)), "type");
+    const Cases<QString, QByteArray, QString> cases{
+        {"picture", "logo", png, "image/png"},
+        {"unknown extension", "logo.unheardof", png, "image/png"},
+        {"font", "type", fixture("fonts/plain.woff2"), "font/woff2"},
+        {"clip", "clip", fixture("videos/h264.mp4"), "video/mp4"},
+        {"stream", "a.ts", fixture("videos/h264.ts"), "video/mp2t"},
+        {"film", "a.ogg", fixture("videos/theora.ogv"), "video/x-theora+ogg"},
+        {"OpenType", "a.otf", fixture("fonts/plain.otf"), "font/otf"},
+        {"text", "notes", "The quick brown fox\n", "text/plain"}};
+    cases.check([&](const QString& name, const QByteArray& content, const QString& type) {
+      TestServices disk;
+      QVERIFY(writeFile(disk.path(name), content));
+      QCOMPARE(types.typeOfFile(disk.path(name)), type);
+    });
   }
 
   void hasNoTypeOfWhatIsNoFile() {
@@ -110,5 +100,4 @@ class TestContentTypes : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestContentTypes)
-
 #include "tst_contenttypes.moc"

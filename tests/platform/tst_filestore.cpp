@@ -1,3 +1,4 @@
+#include "testing/Cases.h"
 #include "testing/TestServices.h"
 
 #include <QTest>
@@ -11,20 +12,20 @@ namespace {
 
 struct Tree {
   TestServices disk;
-  QString root = disk.path(QStringLiteral("p.tarnloft"));
+  QString root = disk.path("p.tarnloft");
 
   Tree() {
-    writeFile(disk.path(QStringLiteral("secret")), "secret");
-    writeFile(disk.path(QStringLiteral("p.tarnloft-other/x")), "other");
-    writeFile(root + QStringLiteral("/assets/a.png"), "a");
+    writeFile(disk.path("secret"), "secret");
+    writeFile(disk.path("p.tarnloft-other/x"), "other");
+    writeFile(root + "/assets/a.png", "a");
     link("../../secret", "/assets/out");
     link("a.png", "/assets/in");
     link("in", "/assets/twice");
     link("../../p.tarnloft-other/x", "/assets/sibling");
     link("nowhere", "/assets/dangling");
     link("loop", "/assets/loop");
-    ::symlink(QFile::encodeName(root + QStringLiteral("/assets/a.png")).constData(),
-              QFile::encodeName(root + QStringLiteral("/assets/absolute")).constData());
+    ::symlink(QFile::encodeName(root + "/assets/a.png").constData(),
+              QFile::encodeName(root + "/assets/absolute").constData());
   }
   void link(const char* target, const char* name) const {
     ::symlink(target, QFile::encodeName(root + QLatin1String(name)).constData());
@@ -48,59 +49,46 @@ class TestFileStore : public QObject {
   Q_OBJECT
 
  private slots:
-  void opensOnlyWhatStandsInside_data() {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("opens");
+  void opensOnlyWhatStandsInside() {
+    const Tree tree;
+    const auto opens = [&](const QString& name) {
+      return tree.disk.files.open(tree.root + "/assets/" + name, tree.root).has_value();
+    };
     for (const char* good : {"a.png", "in", "twice", "absolute", "../assets/a.png"}) {
-      QTest::newRow(good) << QString::fromLatin1(good) << true;
+      QVERIFY2(opens(good), good);
     }
     for (const char* bad :
          {"out", "sibling", "dangling", "loop", "missing", "../../secret", "", "."}) {
-      QTest::newRow(bad) << QString::fromLatin1(bad) << false;
+      QVERIFY2(!opens(bad), bad);
     }
-    QTest::newRow("NUL") << QStringLiteral("a.png") + QChar(u'\0') << false;
-  }
-
-  void opensOnlyWhatStandsInside() {
-    QFETCH(QString, name);
-    const Tree tree;
+    QVERIFY(!opens(QString("a.png") + QChar(u'\0')));
     QVERIFY(!tree.disk.files.open(tree.root + "/assets/a.png", QString()));  // inside of nothing
-    const auto file =
-        tree.disk.files.open(tree.root + QStringLiteral("/assets/") + name, tree.root);
-    QTEST(file.has_value(), "opens");
-  }
-
-  void tellsWhatIsntThereFromWhatFails_data() {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<std::optional<ErrorKind>>("identity");
-    QTest::addColumn<std::optional<ErrorKind>>("open");
-    using enum ErrorKind;
-    const auto row = [](const QString& name, std::optional<ErrorKind> identity,
-                        std::optional<ErrorKind> open) {
-      QTest::newRow(name.left(20).toUtf8().constData()) << name << identity << open;
-    };
-    row("a.png", {}, {});
-    row("missing", notFound, notFound);
-    row("missing/file", notFound, notFound);
-    row("a.png/file", notFound, io);
-    row("dangling", {}, notFound);
-    row("lost", {}, notFound);  // by an absolute path
-    row("loop", {}, io);
-    row("loop/file", io, io);
-    row("out", {}, refused);
-    row(QString(300, 'x'), io, io);
   }
 
   void tellsWhatIsntThereFromWhatFails() {
-    QFETCH(QString, name);
+    using enum ErrorKind;
+    using Kind = std::optional<ErrorKind>;
     const Tree tree;
     tree.link("/nowhere/at/all", "/assets/lost");
-    const QString path = tree.root + "/assets/" + name;
+    const Cases<QString, Kind, Kind> cases{
+        {"there", "a.png", {}, {}},
+        {"missing", "missing", notFound, notFound},
+        {"in a missing folder", "missing/file", notFound, notFound},
+        {"in a file", "a.png/file", notFound, io},
+        {"dangling", "dangling", {}, notFound},
+        {"dangling, absolute", "lost", {}, notFound},
+        {"a loop", "loop", {}, io},
+        {"in a loop", "loop/file", io, io},
+        {"outside", "out", {}, refused},
+        {"too long", QString(300, 'x'), io, io}};
     const auto kindOf = [](const auto& result) {
-      return result ? std::nullopt : std::optional(result.error().kind);
+      return result ? std::nullopt : Kind(result.error().kind);
     };
-    QTEST(kindOf(tree.disk.files.identity(path)), "identity");
-    QTEST(kindOf(tree.disk.files.open(path, tree.root)), "open");
+    cases.check([&](const QString& name, Kind identity, Kind open) {
+      const QString path = tree.root + "/assets/" + name;
+      QCOMPARE(kindOf(tree.disk.files.identity(path)), identity);
+      QCOMPARE(kindOf(tree.disk.files.open(path, tree.root)), open);
+    });
   }
 
   void listsHiddenNamesWhenAsked() {
@@ -116,7 +104,7 @@ class TestFileStore : public QObject {
 
   void neverWaitsOnAPipe() {
     const Tree tree;
-    const QString pipe = tree.root + QStringLiteral("/assets/pipe");
+    const QString pipe = tree.root + "/assets/pipe";
     QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     const auto file = tree.disk.files.open(pipe, tree.root);
     QVERIFY(!file);
@@ -125,20 +113,20 @@ class TestFileStore : public QObject {
 
   void refusesToReplaceWhatIsNoFile() {
     Tree tree;
-    const QString pipe = tree.disk.path(QStringLiteral("pipe"));
+    const QString pipe = tree.disk.path("pipe");
     QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     for (const QString& path : {pipe, tree.root}) {
       QVERIFY(!replaced(tree.disk.files, path, "x"));
       QVERIFY(!QFileInfo(path).isFile());
     }
     QVERIFY(QDir(tree.disk.folder.path())
-                .entryList({QStringLiteral(".tarnloft-*")}, QDir::Hidden | QDir::Files)
+                .entryList({".tarnloft-*"}, QDir::Hidden | QDir::Files)
                 .isEmpty());
   }
 
   void keepsTheRightsOfAReplacedFile() {
     TestServices disk;
-    const QString path = disk.path(QStringLiteral("file"));
+    const QString path = disk.path("file");
     QVERIFY(writeFile(path, "old"));
     QCOMPARE(::chmod(QFile::encodeName(path).constData(), 06640), 0);
     QVERIFY(replaced(disk.files, path, "new"));
@@ -150,7 +138,7 @@ class TestFileStore : public QObject {
 
   void takesBackAndRepeats() {
     TestServices disk;
-    auto file = disk.files.createTemporary(disk.path(QStringLiteral("x")));
+    auto file = disk.files.createTemporary(disk.path("x"));
     QVERIFY(file);
     QVERIFY((*file)->write("abcdef"));
     QVERIFY((*file)->truncate(4));
@@ -174,72 +162,61 @@ class TestFileStore : public QObject {
 
   void makesParents() {
     TestServices disk;
-    const QString deep = disk.path(QStringLiteral("a/b/c"));
+    const QString deep = disk.path("a/b/c");
     QVERIFY(disk.files.makeFolder(deep));
     QVERIFY(disk.files.makeFolder(deep));
-    QVERIFY(disk.files.makeFolder(disk.path(QStringLiteral("d/e/"))));
+    QVERIFY(disk.files.makeFolder(disk.path("d/e/")));
     QVERIFY(QFileInfo(deep).isDir());
-    QVERIFY(writeFile(disk.path(QStringLiteral("file")), "x"));
-    QVERIFY(!disk.files.makeFolder(disk.path(QStringLiteral("file"))));
-    QVERIFY(!disk.files.makeFolder(disk.path(QStringLiteral("file/inside"))));
-  }
-
-  void temporaryFoldersAreTheUsersOwn_data() {
-    QTest::addColumn<QString>("inPlace");
-    QTest::addColumn<bool>("takesIt");
-    QTest::newRow("nothing") << QString() << true;
-    QTest::newRow("the user's") << QStringLiteral("folder") << true;
-    QTest::newRow("a file") << QStringLiteral("file") << false;
-    QTest::newRow("a link to a folder") << QStringLiteral("link") << false;
-    if (::geteuid() == 0) QTest::newRow("another user's") << QStringLiteral("foreign") << false;
+    QVERIFY(writeFile(disk.path("file"), "x"));
+    QVERIFY(!disk.files.makeFolder(disk.path("file")));
+    QVERIFY(!disk.files.makeFolder(disk.path("file/inside")));
   }
 
   void temporaryFoldersAreTheUsersOwn() {
-    QFETCH(QString, inPlace);
-    QFETCH(bool, takesIt);
-    TestServices disk;
-    qputenv("TMPDIR", QFile::encodeName(disk.folder.path()));
-    const QString path = disk.path("drags");
-    if (inPlace == "file") QVERIFY(writeFile(path, "x"));
-    if (inPlace == "link") QVERIFY(QFile::link(disk.folder.path(), path));
-    if (inPlace == "folder" || inPlace == "foreign") {
-      QCOMPARE(::mkdir(QFile::encodeName(path).constData(), 0777), 0);
+    for (const QString inPlace : {"nothing", "folder", "file", "link", "foreign"}) {
+      if (inPlace == "foreign" && ::geteuid() != 0) continue;
+      TestServices disk;
+      qputenv("TMPDIR", QFile::encodeName(disk.folder.path()));
+      const QString path = disk.path("drags");
+      if (inPlace == "file") QVERIFY(writeFile(path, "x"));
+      if (inPlace == "link") QVERIFY(QFile::link(disk.folder.path(), path));
+      if (inPlace == "folder" || inPlace == "foreign") {
+        QCOMPARE(::mkdir(QFile::encodeName(path).constData(), 0777), 0);
+      }
+      if (inPlace == "foreign") QCOMPARE(::chown(QFile::encodeName(path).constData(), 12345, 0), 0);
+      const bool isTaken = inPlace == "nothing" || inPlace == "folder";
+      for (int again = 0; again < 2; ++again) {
+        const auto folder = disk.files.makeTemporaryFolder("drags");
+        QVERIFY2(folder, qPrintable(inPlace));
+        QCOMPARE(*folder, isTaken ? path : path + '-' + QString::number(::geteuid()));
+        struct stat info;
+        QCOMPARE(::lstat(QFile::encodeName(*folder).constData(), &info), 0);
+        QVERIFY(S_ISDIR(info.st_mode) && info.st_uid == ::geteuid());
+        QCOMPARE(info.st_mode & 07777, 0700u);
+      }
+      qputenv("TMPDIR", QFile::encodeName(disk.path("missing")));
+      QVERIFY(!disk.files.makeTemporaryFolder("drags"));
+      qunsetenv("TMPDIR");
     }
-    if (inPlace == "foreign") QCOMPARE(::chown(QFile::encodeName(path).constData(), 12345, 0), 0);
-    for (int again = 0; again < 2; ++again) {
-      const auto folder = disk.files.makeTemporaryFolder("drags");
-      QVERIFY(folder);
-      QCOMPARE(*folder, takesIt ? path : path + '-' + QString::number(::geteuid()));
-      struct stat info;
-      QCOMPARE(::lstat(QFile::encodeName(*folder).constData(), &info), 0);
-      QVERIFY(S_ISDIR(info.st_mode) && info.st_uid == ::geteuid());
-      QCOMPARE(info.st_mode & 07777, 0700u);
-    }
-    qputenv("TMPDIR", QFile::encodeName(disk.path("missing")));
-    QVERIFY(!disk.files.makeTemporaryFolder("drags"));
-    qunsetenv("TMPDIR");
   }
 
   void movesOnlyToAFreePlace() {
     TestServices disk;
-    QVERIFY(writeFile(disk.path(QStringLiteral("old/kept")), "x"));
-    QVERIFY(QDir().mkpath(disk.path(QStringLiteral("taken"))));
-    QVERIFY(!disk.files.moveFolder(disk.path(QStringLiteral("old")),
-                                   disk.path(QStringLiteral("taken"))));
-    QVERIFY(
-        disk.files.moveFolder(disk.path(QStringLiteral("old")), disk.path(QStringLiteral("new"))));
-    QCOMPARE(contentOf(disk.path(QStringLiteral("new/kept"))), QByteArray("x"));
-    QVERIFY(!disk.files.exists(disk.path(QStringLiteral("old"))));
+    QVERIFY(writeFile(disk.path("old/kept"), "x"));
+    QVERIFY(QDir().mkpath(disk.path("taken")));
+    QVERIFY(!disk.files.moveFolder(disk.path("old"), disk.path("taken")));
+    QVERIFY(disk.files.moveFolder(disk.path("old"), disk.path("new")));
+    QCOMPARE(contentOf(disk.path("new/kept")), QByteArray("x"));
+    QVERIFY(!disk.files.exists(disk.path("old")));
   }
 
   void followsLinksForPages() {
     const Tree tree;
-    const QString assets = tree.root + QStringLiteral("/assets/");
-    QCOMPARE(*tree.disk.files.resolved(assets + QStringLiteral("twice")),
-             QFileInfo(assets + QStringLiteral("a.png")).canonicalFilePath());
-    QCOMPARE(*tree.disk.files.resolved(assets + QStringLiteral("new")),
-             assets + QStringLiteral("new"));
-    QVERIFY(!tree.disk.files.resolved(assets + QStringLiteral("dangling")));
+    const QString assets = tree.root + "/assets/";
+    QCOMPARE(*tree.disk.files.resolved(assets + "twice"),
+             QFileInfo(assets + "a.png").canonicalFilePath());
+    QCOMPARE(*tree.disk.files.resolved(assets + "new"), assets + "new");
+    QVERIFY(!tree.disk.files.resolved(assets + "dangling"));
     // As text it would be another file's path.
     QVERIFY(writeFile(assets + "caf\ufffd", "x"));
     const QByteArray raw = QFile::encodeName(assets) + "caf\xe9";
@@ -252,5 +229,4 @@ class TestFileStore : public QObject {
 };
 
 QTEST_APPLESS_MAIN(TestFileStore)
-
 #include "tst_filestore.moc"

@@ -1,4 +1,5 @@
 #include "platform/desktop/FreeTypeFonts.h"
+#include "testing/Cases.h"
 #include "testing/DrawnText.h"
 #include "testing/TestServices.h"
 
@@ -24,107 +25,93 @@ class TestFonts : public QObject {
   Q_OBJECT
 
  private slots:
-  void tellsFamilyAndStyle_data() {
-    QTest::addColumn<QString>("family");
-    QTest::addColumn<QString>("style");
-    const auto row = [](const char* file, const char* family, const char* style) {
-      QTest::newRow(file) << QString::fromUtf8(family) << QString::fromUtf8(style);
-    };
-    row("plain.ttf", "Tarn Test", "Regular");
-    row("plain.otf", "Tarn Ink", "Bold");
-    row("typographic.ttf", "Tarn Typo", "Light");
-    row("typographic.otf", "Tarn Typo Cff", "Black");
-    row("plain.woff", "Tarn Woff", "Regular");
-    row("typographic.woff", "Tarn Woff Typo", "Thin");
-    row("plain.woff2", "Tarn Woff Two", "Regular");
-    row("typographic.woff2", "Tarn Woff Two Typo", "Heavy");
-    row("collection.ttc", "Tarn First", "Regular");
-    row("suitcase.dfont", "Tarn Suitcase", "Regular");
-    row("variable.ttf", "Tarn Variable", "Regular");
-    row("wws.ttf", "Tarn Wide", "Condensed Bold");
-    row("mac.ttf", "Tarn Café", "Regular");
-    row("languages.ttf", "Tarn Languages", "Regular");
-    row("japanese.ttf", "ターン 漢字", "標準");
-    row("marks.ttf", "Tarn, Comma [Bracket]", "Regular");
-    row("spaces.ttf", "Tarn   Spaces", "Extra  Bold");
-    row("nostyle.ttf", "Tarn Nostyle", "");
-  }
-
   void tellsFamilyAndStyle() {
-    QFETCH(QString, family);
-    QFETCH(QString, style);
-    const auto names = fonts.names(fixtures + QLatin1String(QTest::currentDataTag()));
-    QVERIFY(names);
-    QCOMPARE(names->family, family);
-    QCOMPARE(names->style, style.isEmpty() ? std::nullopt : std::optional(style));
+    const QList<std::tuple<const char*, QString, QString>> names{
+        {"plain.ttf", "Tarn Test", "Regular"},
+        {"plain.otf", "Tarn Ink", "Bold"},
+        {"typographic.ttf", "Tarn Typo", "Light"},
+        {"typographic.otf", "Tarn Typo Cff", "Black"},
+        {"plain.woff", "Tarn Woff", "Regular"},
+        {"typographic.woff", "Tarn Woff Typo", "Thin"},
+        {"plain.woff2", "Tarn Woff Two", "Regular"},
+        {"typographic.woff2", "Tarn Woff Two Typo", "Heavy"},
+        {"collection.ttc", "Tarn First", "Regular"},
+        {"suitcase.dfont", "Tarn Suitcase", "Regular"},
+        {"variable.ttf", "Tarn Variable", "Regular"},
+        {"wws.ttf", "Tarn Wide", "Condensed Bold"},
+        {"mac.ttf", "Tarn Café", "Regular"},
+        {"languages.ttf", "Tarn Languages", "Regular"},
+        {"japanese.ttf", "ターン 漢字", "標準"},
+        {"marks.ttf", "Tarn, Comma [Bracket]", "Regular"},
+        {"spaces.ttf", "Tarn   Spaces", "Extra  Bold"},
+        {"nostyle.ttf", "Tarn Nostyle", ""}};
+    for (const auto& [file, family, style] : names) {
+      const auto found = fonts.names(fixtures + file);
+      QVERIFY2(found, file);
+      QCOMPARE(found->family, family);
+      QCOMPARE(found->style, style.isEmpty() ? std::nullopt : std::optional(style));
+    }
   }
 
-  void hasNoNamesOfWhatIsNoFont_data() {
-    QTest::addColumn<QByteArray>("content");
+  void hasNoNamesOfWhatIsNoFont() {
     const QByteArray font = contentOf(fixtures + "plain.ttf");
     QByteArray crowd = contentOf(fixtures + "collection.ttc");
     qToBigEndian(quint32(100'000), crowd.data() + 8);
     crowd.insert(16, QByteArray(4 * 100'000, '\0'));
-    QTest::newRow("nothing") << QByteArray();
-    QTest::newRow("text") << QByteArray("The quick brown fox\n").repeated(100);
-    QTest::newRow("only a beginning") << font.left(200);
-    QTest::newRow("only a header") << QByteArray("\0\1\0\0", 4);
-    QTest::newRow("a web font's header") << QByteArray("wOF2") + QByteArray(44, '\xff');
-    QTest::newRow("a bitmap font") << QByteArray(
-        "STARTFONT 2.1\nFONT x\nSIZE 8 75 75\nFONTBOUNDINGBOX 8 8 0 0\nSTARTPROPERTIES 1\n"
-        "FAMILY_NAME \"Tarn\"\nENDPROPERTIES\nCHARS 1\nSTARTCHAR A\nENCODING 65\nSWIDTH 8 0\n"
-        "DWIDTH 8 0\nBBX 8 8 0 0\nBITMAP\nFF\nFF\nFF\nFF\nFF\nFF\nFF\nFF\nENDCHAR\nENDFONT\n");
-    QTest::newRow("a crowd of faces") << crowd;
-    QTest::newRow("no family") << contentOf(fixtures + "nofamily.ttf");
-  }
-
-  void hasNoNamesOfWhatIsNoFont() {
-    QFETCH(QByteArray, content);
-    TestServices disk;
-    const QString path = disk.path("a.otf"), pipe = disk.path("pipe.otf");
-    QVERIFY(writeFile(path, content));
-    QVERIFY(!fonts.names(path));
-    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    for (const QString& other : {pipe, disk.folder.path(), disk.path("missing.otf"), QString()}) {
-      QVERIFY(!fonts.names(other));
-      fonts.registerForProcess(other);
-    }
-  }
-
-  void textDrawsInTheFamily_data() {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QStringList>("families");  // the one that is told first
-    QTest::addColumn<int>("width");
-    const auto row = [](const char* file, const QStringList& families, int width) {
-      QTest::newRow(file) << QString::fromLatin1(file) << families << width;
-    };
-    row("plain.ttf", {"Tarn Test"}, 200);
-    row("plain.otf", {"Tarn Ink"}, 240);
-    row("typographic.ttf", {"Tarn Typo", "Tarn Typo Light"}, 280);
-    row("typographic.otf", {"Tarn Typo Cff", "Tarn Typo Cff Black"}, 320);
-    row("plain.woff", {"Tarn Woff"}, 360);
-    row("typographic.woff", {"Tarn Woff Typo"}, 400);
-    row("plain.woff2", {"Tarn Woff Two"}, 440);
-    row("typographic.woff2", {"Tarn Woff Two Typo", "Tarn Woff Two Typo Heavy"}, 480);
-    row("wws.ttf", {"Tarn Wide", "Tarn Wide Condensed"}, 520);
-    row("mac.ttf", {QStringLiteral("Tarn Café")}, 560);
-    row("nostyle.ttf", {"Tarn Nostyle"}, 600);
-    row("variable.ttf", {"Tarn Variable"}, 500);
-    row("languages.ttf", {"Tarn Languages", "Tarn Deutsch", QStringLiteral("ターン")}, 720);
-    row("japanese.ttf", {QStringLiteral("ターン 漢字")}, 760);
-    row("spaces.ttf", {"Tarn   Spaces"}, 880);
-    row("collection.ttc", {"Tarn First"}, 800);
-    row("suitcase.dfont", {"Tarn Suitcase"}, 210);
+    const Cases<QByteArray> cases{
+        {"nothing", ""},
+        {"text", QByteArray("The quick brown fox\n").repeated(100)},
+        {"only a beginning", font.left(200)},
+        {"only a header", QByteArray("\0\1\0\0", 4)},
+        {"a web font's header", QByteArray("wOF2") + QByteArray(44, '\xff')},
+        {"a bitmap font",
+         "STARTFONT 2.1\nFONT x\nSIZE 8 75 75\nFONTBOUNDINGBOX 8 8 0 0\nSTARTPROPERTIES 1\n"
+         "FAMILY_NAME \"Tarn\"\nENDPROPERTIES\nCHARS 1\nSTARTCHAR A\nENCODING 65\nSWIDTH 8 0\n"
+         "DWIDTH 8 0\nBBX 8 8 0 0\nBITMAP\nFF\nFF\nFF\nFF\nFF\nFF\nFF\nFF\nENDCHAR\nENDFONT\n"},
+        {"a crowd of faces", crowd},
+        {"no family", contentOf(fixtures + "nofamily.ttf")}};
+    cases.check([&](const QByteArray& content) {
+      TestServices disk;
+      const QString path = disk.path("a.otf"), pipe = disk.path("pipe.otf");
+      QVERIFY(writeFile(path, content));
+      QVERIFY(!fonts.names(path));
+      QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+      for (const QString& other : {pipe, disk.folder.path(), disk.path("missing.otf"), QString()}) {
+        QVERIFY(!fonts.names(other));
+        fonts.registerForProcess(other);
+      }
+    });
   }
 
   void textDrawsInTheFamily() {
-    QFETCH(QString, file);
-    QFETCH(QStringList, families);
-    QFETCH(int, width);
-    QVERIFY(drawnBox(families.first()) != boxOfWidth(width));
-    fonts.registerForProcess(fixtures + file);
-    QCOMPARE(fonts.names(fixtures + file)->family, families.first());
-    for (const QString& family : families) QCOMPARE(drawnBox(family), boxOfWidth(width));
+    // the one that is told first: families
+    const Cases<QString, QStringList, int> cases{
+        {"plain.ttf", "plain.ttf", {"Tarn Test"}, 200},
+        {"plain.otf", "plain.otf", {"Tarn Ink"}, 240},
+        {"typographic.ttf", "typographic.ttf", {"Tarn Typo", "Tarn Typo Light"}, 280},
+        {"typographic.otf", "typographic.otf", {"Tarn Typo Cff", "Tarn Typo Cff Black"}, 320},
+        {"plain.woff", "plain.woff", {"Tarn Woff"}, 360},
+        {"typographic.woff", "typographic.woff", {"Tarn Woff Typo"}, 400},
+        {"plain.woff2", "plain.woff2", {"Tarn Woff Two"}, 440},
+        {"typographic.woff2",
+         "typographic.woff2",
+         {"Tarn Woff Two Typo", "Tarn Woff Two Typo Heavy"},
+         480},
+        {"wws.ttf", "wws.ttf", {"Tarn Wide", "Tarn Wide Condensed"}, 520},
+        {"mac.ttf", "mac.ttf", {"Tarn Café"}, 560},
+        {"nostyle.ttf", "nostyle.ttf", {"Tarn Nostyle"}, 600},
+        {"variable.ttf", "variable.ttf", {"Tarn Variable"}, 500},
+        {"languages.ttf", "languages.ttf", {"Tarn Languages", "Tarn Deutsch", "ターン"}, 720},
+        {"japanese.ttf", "japanese.ttf", {"ターン 漢字"}, 760},
+        {"spaces.ttf", "spaces.ttf", {"Tarn   Spaces"}, 880},
+        {"collection.ttc", "collection.ttc", {"Tarn First"}, 800},
+        {"suitcase.dfont", "suitcase.dfont", {"Tarn Suitcase"}, 210}};
+    cases.check([&](const QString& file, const QStringList& families, int width) {
+      QVERIFY(drawnBox(families.first()) != boxOfWidth(width));
+      fonts.registerForProcess(fixtures + file);
+      QCOMPARE(fonts.names(fixtures + file)->family, families.first());
+      for (const QString& family : families) QCOMPARE(drawnBox(family), boxOfWidth(width));
+    });
   }
 
   void drawsOnWhenTheFileIsGone() {

@@ -1,4 +1,5 @@
 #include "platform/desktop/VipsImages.h"
+#include "testing/Cases.h"
 #include "testing/Pictures.h"
 
 #include <QBuffer>
@@ -18,49 +19,33 @@ class TestImageExport : public QObject {
   Q_OBJECT
 
  private slots:
-  void writesEachFormat_data() {
-    QTest::addColumn<int>("format");
-    QTest::addColumn<QByteArray>("beginning");
-    QTest::addColumn<int>("tolerance");
-    QTest::newRow("png") << int(ExportFormat::png) << QByteArray("\x89PNG\r\n\x1A\n") << 0;
-    QTest::newRow("jpeg") << int(ExportFormat::jpeg) << QByteArray("\xFF\xD8\xFF") << 6;
-    QTest::newRow("heic") << int(ExportFormat::heic)
-                          << QByteArray::fromRawData(
-                                 "\0\0\0\x1C"
-                                 "ftypheic",
-                                 12)
-                          << 12;
-    QTest::newRow("tiff") << int(ExportFormat::tiff) << QByteArray::fromRawData("II*\0", 4) << 0;
-  }
-
   void writesEachFormat() {
-    QFETCH(int, format);
-    QFETCH(QByteArray, beginning);
-    QFETCH(int, tolerance);
-    const QByteArray bytes = converted("chart.tif", ExportFormat(format), Chart::size);
-    QCOMPARE(bytes.first(beginning.size()), beginning);
-    QVERIFY(differenceAtCells(seen(bytes, ExportFormat(format)), Chart::image()) <= tolerance);
-  }
-
-  void hitsAnySizeExactly_data() {
-    QTest::addColumn<QSize>("size");
-    auto* random = QRandomGenerator::global();
-    for (const QSize size : {QSize(1, 1), QSize(1, 700), QSize(700, 1), QSize(64, 48),
-                             QSize(65, 48), QSize(63, 48), QSize(64, 1000)}) {
-      QTest::addRow("%dx%d", size.width(), size.height()) << size;
-    }
-    for (int i = 0; i < 30; ++i) {
-      const QSize size(random->bounded(1, 900), random->bounded(1, 900));
-      QTest::addRow("%dx%d", size.width(), size.height()) << size;
-    }
+    const Cases<int, QByteArray, int> cases{
+        {"png", int(ExportFormat::png), "\x89PNG\r\n\x1A\n", 0},
+        {"jpeg", int(ExportFormat::jpeg), "\xFF\xD8\xFF", 6},
+        {"heic", int(ExportFormat::heic),
+         QByteArray::fromRawData("\0\0\0\x1C"
+                                 "ftypheic",
+                                 12),
+         12},
+        {"tiff", int(ExportFormat::tiff), QByteArray::fromRawData("II*\0", 4), 0}};
+    cases.check([&](int format, const QByteArray& beginning, int tolerance) {
+      const QByteArray bytes = converted("chart.tif", ExportFormat(format), Chart::size);
+      QCOMPARE(bytes.first(beginning.size()), beginning);
+      QVERIFY(differenceAtCells(seen(bytes, ExportFormat(format)), Chart::image()) <= tolerance);
+    });
   }
 
   void hitsAnySizeExactly() {
-    QFETCH(QSize, size);
-    for (const char* fixture : {"chart.tif", "progressive.jpg", "clear.webp", "mark.svg"}) {
-      QByteArray bytes = converted(fixture, ExportFormat::png, size);
-      QBuffer buffer(&bytes);
-      QCOMPARE(QImageReader(&buffer, "png").size(), size);
+    QList<QSize> sizes{{1, 1}, {1, 700}, {700, 1}, {64, 48}, {65, 48}, {63, 48}, {64, 1000}};
+    auto* random = QRandomGenerator::global();
+    while (sizes.size() < 37) sizes << QSize(random->bounded(1, 900), random->bounded(1, 900));
+    for (const QSize size : sizes) {
+      for (const char* fixture : {"chart.tif", "progressive.jpg", "clear.webp", "mark.svg"}) {
+        QByteArray bytes = converted(fixture, ExportFormat::png, size);
+        QBuffer buffer(&bytes);
+        QCOMPARE(QImageReader(&buffer, "png").size(), size);
+      }
     }
   }
 
@@ -96,7 +81,7 @@ class TestImageExport : public QObject {
                               "Exif\0\0II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01"
                               "\0\0\0\x06\0\0\0\0\0\0\0",
                               36));
-    const QString path = disk_.path(QStringLiteral("turned.jpg"));
+    const QString path = disk_.path("turned.jpg");
     writeFile(path, jpeg);
     QCOMPARE(images_.thumbnail(path, 512)->size(), (Chart::size * 2).transposed());
     QByteArray bytes = *images_.convert(path, ExportFormat::jpeg, Chart::size * 2, 1);
@@ -106,30 +91,26 @@ class TestImageExport : public QObject {
     QVERIFY(differenceAtCells(reader.read(), Chart::image(2)) <= 12);
   }
 
-  void tagsItsColours_data() {
-    QTest::addColumn<int>("format");
-    QTest::newRow("png") << int(ExportFormat::png);
-    QTest::newRow("jpeg") << int(ExportFormat::jpeg);
-  }
-
   void tagsItsColours() {
-    QFETCH(int, format);
-    QImage chart = Chart::image();
-    chart.setColorSpace(QColorSpace::SRgb);
-    chart.convertToColorSpace(QColorSpace::AdobeRgb);
-    const QString path = disk_.path(QStringLiteral("wide.png"));
-    QVERIFY(chart.save(path));
-    const auto bytes = images_.convert(path, ExportFormat(format), Chart::size, 1);
-    QVERIFY(bytes);
-    const QImage image = QImage::fromData(*bytes);
-    QCOMPARE(image.colorSpace().primaries(), QColorSpace::Primaries::SRgb);
-    QVERIFY(differenceAtCells(image, Chart::image()) <= 8);
+    const Cases<int> cases{{"png", int(ExportFormat::png)}, {"jpeg", int(ExportFormat::jpeg)}};
+    cases.check([&](int format) {
+      QImage chart = Chart::image();
+      chart.setColorSpace(QColorSpace::SRgb);
+      chart.convertToColorSpace(QColorSpace::AdobeRgb);
+      const QString path = disk_.path("wide.png");
+      QVERIFY(chart.save(path));
+      const auto bytes = images_.convert(path, ExportFormat(format), Chart::size, 1);
+      QVERIFY(bytes);
+      const QImage image = QImage::fromData(*bytes);
+      QCOMPARE(image.colorSpace().primaries(), QColorSpace::Primaries::SRgb);
+      QVERIFY(differenceAtCells(image, Chart::image()) <= 8);
+    });
   }
 
   void leavesTheSourcesMetadataBehind() {
     QImage chart = Chart::image();
-    chart.setText(QStringLiteral("Author"), QStringLiteral("Somebody"));
-    const QString path = disk_.path(QStringLiteral("author.png"));
+    chart.setText("Author", "Somebody");
+    const QString path = disk_.path("author.png");
     QVERIFY(chart.save(path));
     QVERIFY(contentOf(path).contains("Somebody"));
     for (const ExportFormat format : allCases<ExportFormat>()) {
@@ -170,7 +151,7 @@ class TestImageExport : public QObject {
   // As another reader sees the bytes: the toolkit, or for what it doesn't read the library anew.
   QImage seen(const QByteArray& bytes, ExportFormat format) {
     if (format == ExportFormat::png || format == ExportFormat::jpeg) return QImage::fromData(bytes);
-    const QString path = disk_.path(QStringLiteral("seen"));
+    const QString path = disk_.path("seen");
     writeFile(path, bytes);
     return images_.thumbnail(path, 4096).value_or(QImage());
   }
@@ -180,5 +161,4 @@ class TestImageExport : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestImageExport)
-
 #include "tst_imageexport.moc"

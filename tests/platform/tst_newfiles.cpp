@@ -68,33 +68,26 @@ class TestNewFiles : public QObject {
   Q_OBJECT
 
  private slots:
-  void appearWholeOrNotAtAll_data() {
-    QTest::addColumn<int>("how");
-    QTest::addColumn<bool>("killed");
-    for (int i = 0; i < makings.size(); ++i) {
-      QTest::addRow("%s, disk full", makings.at(i).first) << i << false;
-      QTest::addRow("%s, killed", makings.at(i).first) << i << true;
-    }
-  }
-
   void appearWholeOrNotAtAll() {
-    QFETCH(int, how);
-    QFETCH(bool, killed);
-    TestServices disk;
-    const QString source = disk.path("source"), folder = disk.path("folder");
-    QVERIFY(writeFile(source, QByteArray(3 * limit, 'x')) && QDir().mkpath(folder));
-    const auto make = [&] { return makings.at(how).second(disk.files, source, folder); };
-    const int status = inProcess([&] {
-      const rlimit most{limit, limit}, none{0, 0};
-      ::setrlimit(RLIMIT_CORE, &none);
-      ::signal(SIGXFSZ, killed ? SIG_DFL : SIG_IGN);
-      return ::setrlimit(RLIMIT_FSIZE, &most) == 0 && make();
-    });
-    QVERIFY(killed ? WIFSIGNALED(status) : WIFEXITED(status) && WEXITSTATUS(status) == 1);
-    QCOMPARE(entries(folder), QStringList());
-    QVERIFY(make());
-    QCOMPARE(entries(folder), QStringList("new"));
-    QCOMPARE(contentOf(folder + "/new").size(), qsizetype(3 * limit));
+    for (const auto& [how, making] : makings) {
+      for (const bool killed : {false, true}) {  // or the disk is full
+        TestServices disk;
+        const QString source = disk.path("source"), folder = disk.path("folder");
+        QVERIFY(writeFile(source, QByteArray(3 * limit, 'x')) && QDir().mkpath(folder));
+        const auto make = [&, &make = making] { return make(disk.files, source, folder); };
+        const int status = inProcess([&] {
+          const rlimit most{limit, limit}, none{0, 0};
+          ::setrlimit(RLIMIT_CORE, &none);
+          ::signal(SIGXFSZ, killed ? SIG_DFL : SIG_IGN);
+          return ::setrlimit(RLIMIT_FSIZE, &most) == 0 && make();
+        });
+        QVERIFY2(killed ? WIFSIGNALED(status) : WIFEXITED(status) && WEXITSTATUS(status) == 1, how);
+        QCOMPARE(entries(folder), QStringList());
+        QVERIFY2(make(), how);
+        QCOMPARE(entries(folder), QStringList("new"));
+        QCOMPARE(contentOf(folder + "/new").size(), qsizetype(3 * limit));
+      }
+    }
   }
 
   void appearWhereTheyNeedAHiddenName() {
@@ -228,5 +221,4 @@ class TestNewFiles : public QObject {
 };
 
 QTEST_APPLESS_MAIN(TestNewFiles)
-
 #include "tst_newfiles.moc"

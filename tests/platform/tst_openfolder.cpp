@@ -1,3 +1,4 @@
+#include "testing/Cases.h"
 #include "testing/TestServices.h"
 
 #include <QTest>
@@ -63,48 +64,39 @@ class TestOpenFolder : public QObject {
     QCOMPARE(entries(package.root + "/assets"), QStringList());
   }
 
-  void isOpenedOnlyInside_data() {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<bool>("opens");
-    QTest::newRow("inside") << "p/assets" << true;
-    QTest::newRow("the root") << "p" << true;
-    QTest::newRow("a link to the inside") << "p/in" << true;
-    QTest::newRow("an absolute link to the inside") << "p/absolute" << true;
-    QTest::newRow("the root by another way") << "link" << true;
-    QTest::newRow("a link to the outside") << "p/out" << false;
-    QTest::newRow("beside") << "p2" << false;
-    QTest::newRow("above") << "p/.." << false;
-    QTest::newRow("a file") << "p/assets/file" << false;
-    QTest::newRow("nothing") << "p/missing" << false;
-  }
-
   void isOpenedOnlyInside() {
-    QFETCH(QString, path);
-    TestServices disk;
-    QVERIFY(writeFile(disk.path("p/assets/file"), "x") && QDir().mkpath(disk.path("p2")));
-    QVERIFY(QFile::link("assets", disk.path("p/in")) && QFile::link("../p2", disk.path("p/out")));
-    QVERIFY(QFile::link(disk.path("p/assets"), disk.path("p/absolute")));
-    QVERIFY(QFile::link("p", disk.path("link")));
-    QTEST(disk.files.openFolder(disk.path(path), disk.path("p")).has_value(), "opens");
-  }
-
-  void refusesNames_data() {
-    QTest::addColumn<QString>("name");
-    for (const char* name : {"", ".", "..", "../out", "sub/file", "taken", "folder"}) {
-      QTest::newRow(name) << name;
-    }
-    QTest::newRow("too long") << QString(300, 'x');
+    const Cases<QString, bool> cases{{"inside", "p/assets", true},
+                                     {"the root", "p", true},
+                                     {"a link to the inside", "p/in", true},
+                                     {"an absolute link to the inside", "p/absolute", true},
+                                     {"the root by another way", "link", true},
+                                     {"a link to the outside", "p/out", false},
+                                     {"beside", "p2", false},
+                                     {"above", "p/..", false},
+                                     {"a file", "p/assets/file", false},
+                                     {"nothing", "p/missing", false}};
+    cases.check([&](const QString& path, bool opens) {
+      TestServices disk;
+      QVERIFY(writeFile(disk.path("p/assets/file"), "x") && QDir().mkpath(disk.path("p2")));
+      QVERIFY(QFile::link("assets", disk.path("p/in")) && QFile::link("../p2", disk.path("p/out")));
+      QVERIFY(QFile::link(disk.path("p/assets"), disk.path("p/absolute")));
+      QVERIFY(QFile::link("p", disk.path("link")));
+      QCOMPARE(disk.files.openFolder(disk.path(path), disk.path("p")).has_value(), opens);
+    });
   }
 
   void refusesNames() {
-    QFETCH(QString, name);
     Package package;
     const QString assets = package.root + "/assets";
     QVERIFY(writeFile(assets + "/taken", "old") && QDir().mkpath(assets + "/folder"));
     QVERIFY(QDir().mkpath(assets + "/sub"));
     const auto folder = package.open();
     QVERIFY(folder);
-    QVERIFY(!folder->copyIn(package.source, name) && !folder->writeIn("new", name));
+    for (const QString& name :
+         QStringList{"", ".", "..", "../out", "sub/file", "taken", "folder", QString(300, 'x')}) {
+      QVERIFY2(!folder->copyIn(package.source, name), qPrintable(name));
+      QVERIFY2(!folder->writeIn("new", name), qPrintable(name));
+    }
     QVERIFY(!folder->copyIn(package.root, "a folder") && !folder->copyIn("missing", "x"));
     QCOMPARE(entries(assets), QStringList({"folder", "sub", "taken"}));
     QCOMPARE(contentOf(assets + "/taken"), "old");
@@ -112,5 +104,4 @@ class TestOpenFolder : public QObject {
 };
 
 QTEST_APPLESS_MAIN(TestOpenFolder)
-
 #include "tst_openfolder.moc"

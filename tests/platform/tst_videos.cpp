@@ -1,4 +1,5 @@
 #include "platform/desktop/LibavVideos.h"
+#include "testing/Cases.h"
 #include "testing/TestServices.h"
 
 #include <QRandomGenerator>
@@ -136,21 +137,17 @@ class TestVideos : public QObject {
   }
 
   // Flat colours; what they are in sRGB is computed by hand from the standards that the clips name.
-  void showsColorsAsAScreenDoes_data() {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QRgb>("color");
-    QTest::newRow("of a wide range") << "wide-colors.mp4" << qRgb(241, 76, 29);
-    QTest::newRow("of high range, ST 2084") << "perceptual.mp4" << qRgb(107, 107, 107);
-    QTest::newRow("of high range, B67") << "hybrid.mp4" << qRgb(168, 168, 168);
-    QTest::newRow("half transparent") << "glass.mov" << qRgba(220, 40, 40, 128);
-  }
-
   void showsColorsAsAScreenDoes() {
-    QFETCH(QString, file);
-    QFETCH(QRgb, color);
-    const auto poster = LibavVideos().frame(fixtures + file, 0.1, 512);
-    QVERIFY(poster);
-    QVERIFY(areNear(quartersOf(*poster), {color, color, color, color}));
+    const Cases<QString, QRgb> cases{
+        {"of a wide range", "wide-colors.mp4", qRgb(241, 76, 29)},
+        {"of high range, ST 2084", "perceptual.mp4", qRgb(107, 107, 107)},
+        {"of high range, B67", "hybrid.mp4", qRgb(168, 168, 168)},
+        {"half transparent", "glass.mov", qRgba(220, 40, 40, 128)}};
+    cases.check([&](const QString& file, QRgb color) {
+      const auto poster = LibavVideos().frame(fixtures + file, 0.1, 512);
+      QVERIFY(poster);
+      QVERIFY(areNear(quartersOf(*poster), {color, color, color, color}));
+    });
   }
 
   void showsTheMomentAskedFor_data() {
@@ -171,84 +168,69 @@ class TestVideos : public QObject {
     }
   }
 
-  void neverEnlarges_data() {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<int>("maxPixel");
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("smaller") << "h264.mp4" << 32 << QSize(32, 24);
-    QTest::newRow("as it is") << "h264.mp4" << 64 << QSize(64, 48);
-    QTest::newRow("larger") << "h264.mp4" << 4096 << QSize(64, 48);
-    QTest::newRow("turned") << "turned90.mp4" << 32 << QSize(24, 32);
-    QTest::newRow("wide") << "wide.mp4" << 64 << QSize(64, 24);
-    QTest::newRow("odd") << "odd.mp4" << 21 << QSize(21, 16);
-    QTest::newRow("one pixel") << "h264.mp4" << 1 << QSize(1, 1);
-  }
-
   void neverEnlarges() {
-    QFETCH(QString, file);
-    QFETCH(int, maxPixel);
-    QFETCH(QSize, size);
-    const auto picture = LibavVideos().frame(fixtures + file, 0.1, maxPixel);
-    QVERIFY(picture);
-    QCOMPARE(picture->size(), size);
+    const Cases<QString, int, QSize> cases{
+        {"smaller", "h264.mp4", 32, QSize(32, 24)},  {"as it is", "h264.mp4", 64, QSize(64, 48)},
+        {"larger", "h264.mp4", 4096, QSize(64, 48)}, {"turned", "turned90.mp4", 32, QSize(24, 32)},
+        {"wide", "wide.mp4", 64, QSize(64, 24)},     {"odd", "odd.mp4", 21, QSize(21, 16)},
+        {"one pixel", "h264.mp4", 1, QSize(1, 1)}};
+    cases.check([&](const QString& file, int maxPixel, const QSize& size) {
+      const auto picture = LibavVideos().frame(fixtures + file, 0.1, maxPixel);
+      QVERIFY(picture);
+      QCOMPARE(picture->size(), size);
+    });
   }
 
-  void hasNothingOfWhatIsNoClip_data() {
-    QTest::addColumn<QByteArray>("content");
+  void hasNothingOfWhatIsNoClip() {
     QImage picture(8, 8, QImage::Format_RGB32);
     picture.fill(Qt::red);
     QByteArray noise(100'000, '\0');
     QRandomGenerator(1).fillRange(reinterpret_cast<quint32*>(noise.data()), noise.size() / 4);
-    QTest::newRow("nothing") << QByteArray();
-    QTest::newRow("text") << QByteArray("The quick brown fox\n").repeated(100);
-    QTest::newRow("zeros") << QByteArray(100'000, '\0');
-    QTest::newRow("noise") << noise;
-    QTest::newRow("only a beginning") << clip("h264.mp4").left(900);
-    QTest::newRow("a page") << QByteArray("<html><video src='h264.mp4'></video></html>");
-  }
-
-  void hasNothingOfWhatIsNoClip() {
-    QFETCH(QByteArray, content);
-    TestServices disk;
-    for (const char* name : {"a.mp4", "a.webm", "a.ts", "a"}) {
-      const QString path = disk.path(QString::fromLatin1(name));
-      QVERIFY(writeFile(path, content));
-      QVERIFY(!LibavVideos().properties(path));
-      QVERIFY(!LibavVideos().frame(path, 0.1, 512));
-    }
-    const QString pipe = disk.path(QStringLiteral("pipe.mp4"));
-    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    for (const QString& path : {pipe, disk.folder.path(), disk.path("missing.mp4"), QString()}) {
-      QVERIFY(!LibavVideos().properties(path));
-    }
+    const Cases<QByteArray> cases{{"nothing", ""},
+                                  {"text", QByteArray("The quick brown fox\n").repeated(100)},
+                                  {"zeros", QByteArray(100'000, '\0')},
+                                  {"noise", noise},
+                                  {"only a beginning", clip("h264.mp4").left(900)},
+                                  {"a page", "<html><video src='h264.mp4'></video></html>"}};
+    cases.check([&](const QByteArray& content) {
+      TestServices disk;
+      for (const char* name : {"a.mp4", "a.webm", "a.ts", "a"}) {
+        const QString path = disk.path(QString::fromLatin1(name));
+        QVERIFY(writeFile(path, content));
+        QVERIFY(!LibavVideos().properties(path));
+        QVERIFY(!LibavVideos().frame(path, 0.1, 512));
+      }
+      const QString pipe = disk.path("pipe.mp4");
+      QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+      for (const QString& path : {pipe, disk.folder.path(), disk.path("missing.mp4"), QString()}) {
+        QVERIFY(!LibavVideos().properties(path));
+      }
+    });
   }
 
   // Files that name a good clip beside them, in ways that the library knows.
-  void readsNoOtherFile_data() {
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("playlist") << QByteArray(
-        "#EXTM3U\n#EXT-X-TARGETDURATION:1\n#EXTINF:0.4,\nclip.ts\n#EXT-X-ENDLIST\n");
-    QTest::newRow("script") << QByteArray("ffconcat version 1.0\nfile 'clip.ts'\n");
-    QTest::newRow("session") << QByteArray(
-        "v=0\no=- 0 0 IN IP4 127.0.0.1\ns=x\nc=IN IP4 127.0.0.1\nt=0 0\nm=video 5004 RTP/AVP 96\n"
-        "a=rtpmap:96 H264/90000\n");
-    QTest::newRow("manifest") << QByteArray(
-        "<?xml version='1.0'?>\n<MPD xmlns='urn:mpeg:dash:schema:mpd:2011' type='static'><Period>"
-        "<AdaptationSet mimeType='video/mp4'><Representation id='1' bandwidth='1'><BaseURL>clip.ts"
-        "</BaseURL></Representation></AdaptationSet></Period></MPD>");
-  }
-
   void readsNoOtherFile() {
-    QFETCH(QByteArray, content);
-    TestServices disk;
-    QVERIFY(writeFile(disk.path("clip.ts"), clip("h264.ts")));
-    const QString before = QDir::currentPath();
-    const auto restore = qScopeGuard([&] { QDir::setCurrent(before); });
-    QVERIFY(QDir::setCurrent(disk.folder.path()));
-    for (const char* name : {"a.mp4", "a.m3u8", "a.mpd", "a.sdp"}) {
-      QVERIFY(writeFile(disk.path(QString::fromLatin1(name)), content));
-      QVERIFY(!LibavVideos().properties(disk.path(QString::fromLatin1(name))));
-    }
+    const Cases<QByteArray> cases{
+        {"playlist", "#EXTM3U\n#EXT-X-TARGETDURATION:1\n#EXTINF:0.4,\nclip.ts\n#EXT-X-ENDLIST\n"},
+        {"script", "ffconcat version 1.0\nfile 'clip.ts'\n"},
+        {"session",
+         "v=0\no=- 0 0 IN IP4 127.0.0.1\ns=x\nc=IN IP4 127.0.0.1\nt=0 0\nm=video 5004 RTP/AVP 96\n"
+         "a=rtpmap:96 H264/90000\n"},
+        {"manifest",
+         "<?xml version='1.0'?>\n<MPD xmlns='urn:mpeg:dash:schema:mpd:2011' type='static'><Period>"
+         "<AdaptationSet mimeType='video/mp4'><Representation id='1' bandwidth='1'><BaseURL>clip.ts"
+         "</BaseURL></Representation></AdaptationSet></Period></MPD>"}};
+    cases.check([&](const QByteArray& content) {
+      TestServices disk;
+      QVERIFY(writeFile(disk.path("clip.ts"), clip("h264.ts")));
+      const QString before = QDir::currentPath();
+      const auto restore = qScopeGuard([&] { QDir::setCurrent(before); });
+      QVERIFY(QDir::setCurrent(disk.folder.path()));
+      for (const char* name : {"a.mp4", "a.m3u8", "a.mpd", "a.sdp"}) {
+        QVERIFY(writeFile(disk.path(QString::fromLatin1(name)), content));
+        QVERIFY(!LibavVideos().properties(disk.path(QString::fromLatin1(name))));
+      }
+    });
   }
 
   void tellsWhatIsLeftOfABrokenClip() {
@@ -312,5 +294,4 @@ class TestVideos : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestVideos)
-
 #include "tst_videos.moc"

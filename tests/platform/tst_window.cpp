@@ -2,6 +2,7 @@
 #include "platform/desktop/window/DesktopColorSampler.h"
 #include "platform/desktop/window/DesktopFileDialogs.h"
 #include "platform/desktop/window/DesktopFileViewer.h"
+#include "testing/Cases.h"
 
 #include <QApplication>
 #include <QDBusArgument>
@@ -158,7 +159,7 @@ class TestWindow : public QObject {
     const Service service("org.freedesktop.FileManager1", "/org/freedesktop/FileManager1",
                           &manager);
     const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("Acmé & 北.zip")));
+    QFile file(folder.filePath("Acmé & 北.zip"));
     QVERIFY(file.open(QIODevice::WriteOnly));
     FolderListingViewer viewer;
     viewer.reveal(file.fileName());
@@ -175,56 +176,47 @@ class TestWindow : public QObject {
     QTRY_COMPARE(viewer.opened, QStringList(QFileInfo(folder.path()).path()));
   }
 
-  void picksByThePortal_data() {
-    QTest::addColumn<uint>("response");
-    QTest::addColumn<bool>("picked");
-    QTest::newRow("picked") << 0u << true;
-    QTest::newRow("cancelled") << 1u << false;
-  }
-
   void picksByThePortal() {
-    FakePortal portal;
-    QFETCH(uint, response);
-    portal.response = response;
-    const Service service("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
-                          &portal);
-    Pick pick;
-    pick.start();
-    QTRY_COMPARE(pick.calls, 1);
-    QTEST(pick.color.has_value(), "picked");
-    if (!pick.color) return;
-    QCOMPARE(pick.color->red, 1.0);
-    QCOMPARE(pick.color->green, 0.5);
-    QCOMPARE(pick.color->blue, 0.25);
-  }
-
-  void picksFromTheScreen_data() {
-    QTest::addColumn<QStringList>("gesture");
-    QTest::addColumn<bool>("picked");
-    QTest::newRow("click") << QStringList{"click", "1"} << true;
-    QTest::newRow("Esc") << QStringList{"key", "Escape"} << false;
-    QTest::newRow("other button") << QStringList{"click", "3"} << false;
+    const Cases<uint, bool> cases{{"picked", 0u, true}, {"cancelled", 1u, false}};
+    cases.check([&](uint response, bool picked) {
+      FakePortal portal;
+      portal.response = response;
+      const Service service("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
+                            &portal);
+      Pick pick;
+      pick.start();
+      QTRY_COMPARE(pick.calls, 1);
+      QCOMPARE(pick.color.has_value(), picked);
+      if (!pick.color) return;
+      QCOMPARE(pick.color->red, 1.0);
+      QCOMPARE(pick.color->green, 0.5);
+      QCOMPARE(pick.color->blue, 0.25);
+    });
   }
 
   void picksFromTheScreen() {
-    QFETCH(QStringList, gesture);
-    Plain window;
-    window.setGeometry(100, 100, 200, 200);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QTest::qWait(100);
-    const qsizetype before = QGuiApplication::allWindows().size();
-    Pick pick;
-    pick.start();
-    QTRY_VERIFY(QGuiApplication::allWindows().size() > before);
-    QTest::qWait(200);
-    QVERIFY(xdotool(QStringList{"mousemove", "150", "160"} + gesture));
-    QTRY_COMPARE(pick.calls, 1);
-    QTEST(pick.color.has_value(), "picked");
-    if (!pick.color) return;
-    QCOMPARE(qRound(pick.color->red * 255), 0xcc);
-    QCOMPARE(qRound(pick.color->green * 255), 0x33);
-    QCOMPARE(qRound(pick.color->blue * 255), 0x11);
+    const Cases<QStringList, bool> cases{{"click", QStringList{"click", "1"}, true},
+                                         {"Esc", QStringList{"key", "Escape"}, false},
+                                         {"other button", QStringList{"click", "3"}, false}};
+    cases.check([&](const QStringList& gesture, bool picked) {
+      Plain window;
+      window.setGeometry(100, 100, 200, 200);
+      window.show();
+      QVERIFY(QTest::qWaitForWindowExposed(&window));
+      QTest::qWait(100);
+      const qsizetype before = QGuiApplication::allWindows().size();
+      Pick pick;
+      pick.start();
+      QTRY_VERIFY(QGuiApplication::allWindows().size() > before);
+      QTest::qWait(200);
+      QVERIFY(xdotool(QStringList{"mousemove", "150", "160"} + gesture));
+      QTRY_COMPARE(pick.calls, 1);
+      QCOMPARE(pick.color.has_value(), picked);
+      if (!pick.color) return;
+      QCOMPARE(qRound(pick.color->red * 255), 0xcc);
+      QCOMPARE(qRound(pick.color->green * 255), 0x33);
+      QCOMPARE(qRound(pick.color->blue * 255), 0x11);
+    });
   }
 
   void asksByThePortal() {
@@ -254,43 +246,39 @@ class TestWindow : public QObject {
     QCOMPARE(dialogs.chooseFolder(), folder.path());
   }
 
-  void choosesFilesAndPackages_data() {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("chosen");
-    QTest::newRow("archive") << "a.zip" << true;
-    QTest::newRow("package") << "A.tarnloft" << true;
-    QTest::newRow("other folder") << "plain" << false;
-  }
-
   void choosesFilesAndPackages() {
-    QFETCH(QString, name);
-    const QTemporaryDir folder;
-    QVERIFY(QDir(folder.path()).mkpath("A.tarnloft") && QDir(folder.path()).mkpath("plain"));
-    QFile file(folder.filePath("a.zip"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    Plain window;
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    IniPreferences state(folder.filePath("state.ini"));
-    state.setText("importDialogFolder", folder.path());
-    QTimer user;
-    user.callOnTimeout([&] {
-      auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-      if (!dialog) return;
-      user.stop();
-      QCOMPARE(dialog->windowHandle()->transientParent(), &window);
-      QCOMPARE(dialog->directory(), QDir(folder.path()));
-      dialog->findChild<QLineEdit*>()->setText(folder.filePath(name));
-      QTest::keyClick(dialog->findChild<QLineEdit*>(), Qt::Key_Return);
-      QTimer::singleShot(200, dialog, &QDialog::reject);  // one that is still there
+    const Cases<QString, bool> cases{{"archive", "a.zip", true},
+                                     {"package", "A.tarnloft", true},
+                                     {"other folder", "plain", false}};
+    cases.check([&](const QString& name, bool chosen) {
+      const QTemporaryDir folder;
+      QVERIFY(QDir(folder.path()).mkpath("A.tarnloft") && QDir(folder.path()).mkpath("plain"));
+      QFile file(folder.filePath("a.zip"));
+      QVERIFY(file.open(QIODevice::WriteOnly));
+      Plain window;
+      window.show();
+      QVERIFY(QTest::qWaitForWindowExposed(&window));
+      IniPreferences state(folder.filePath("state.ini"));
+      state.setText("importDialogFolder", folder.path());
+      QTimer user;
+      user.callOnTimeout([&] {
+        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (!dialog) return;
+        user.stop();
+        QCOMPARE(dialog->windowHandle()->transientParent(), &window);
+        QCOMPARE(dialog->directory(), QDir(folder.path()));
+        dialog->findChild<QLineEdit*>()->setText(folder.filePath(name));
+        QTest::keyClick(dialog->findChild<QLineEdit*>(), Qt::Key_Return);
+        QTimer::singleShot(200, dialog, &QDialog::reject);  // one that is still there
+      });
+      user.start(50);
+      const auto path =
+          DesktopFileDialogs(state).openFileOrFolder({"application/zip"}, {"tarnloft"});
+      QCOMPARE(path.has_value(), chosen);
+      if (path) QCOMPARE(*path, folder.filePath(name));
     });
-    user.start(50);
-    const auto path = DesktopFileDialogs(state).openFileOrFolder({"application/zip"}, {"tarnloft"});
-    QTEST(path.has_value(), "chosen");
-    if (path) QCOMPARE(*path, folder.filePath(name));
   }
 };
 
 QTEST_MAIN(TestWindow)
-
 #include "tst_window.moc"

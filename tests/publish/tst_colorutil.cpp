@@ -1,4 +1,5 @@
 #include "publish/ColorUtil.h"
+#include "testing/Cases.h"
 
 #include <QTest>
 
@@ -14,43 +15,30 @@ class TestColorUtil : public QObject {
   Q_OBJECT
 
  private slots:
-  void parsesAndWritesBack_data() {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("written");  // with alpha; empty for a text that is refused
-    const QList<QList<const char*>> rows{{"#4C6FFF", "#4C6FFFFF"},
-                                         {"#FFF", "#FFFFFFFF"},
-                                         {"4c6fff80", "#4C6FFF80"},
-                                         {" #abc\n", "#AABBCCFF"},
-                                         {"\u2003#abc\u00a0", "#AABBCCFF"},
-                                         {"+FF", "#00FFFFFF"},
-                                         {"-00", "#000000FF"},
-                                         {"#+00000", "#000000FF"},
-                                         {"-01", ""},
-                                         {"", ""},
-                                         {"#", ""},
-                                         {"##FFF", ""},
-                                         {"#1234", ""},
-                                         {"nope", ""},
-                                         {"#12 456", ""},
-                                         {"+", ""},
-                                         {"0x123456", ""},
-                                         {"#FFFFFFFFF", ""},
-                                         {"１２３", ""}};
-    for (const auto& row : rows) QTest::newRow(row.first()) << str(row.first()) << str(row.last());
-  }
-
   void parsesAndWritesBack() {
-    QFETCH(QString, text);
-    QFETCH(QString, written);
-    const auto color = ColorUtil::nsColor(text);
-    QCOMPARE(color ? ColorUtil::hex(*color, ColorUtil::Alpha::include) : QString(), written);
-    if (color) QCOMPARE(ColorUtil::hex(*color), written.left(7));
+    const QList<QPair<QString, QString>> colors{{"#4C6FFF", "#4C6FFFFF"},
+                                                {"#FFF", "#FFFFFFFF"},
+                                                {"4c6fff80", "#4C6FFF80"},
+                                                {" #abc\n", "#AABBCCFF"},
+                                                {"\u2003#abc\u00a0", "#AABBCCFF"},
+                                                {"+FF", "#00FFFFFF"},
+                                                {"-00", "#000000FF"},
+                                                {"#+00000", "#000000FF"}};
+    for (const auto& [text, written] : colors) {
+      const auto color = ColorUtil::nsColor(text);
+      QVERIFY2(color, qPrintable(text));
+      QCOMPARE(ColorUtil::hex(*color, ColorUtil::Alpha::include), written);
+      QCOMPARE(ColorUtil::hex(*color), written.left(7));
+    }
+    for (const char* bad : {"-01", "", "#", "##FFF", "#1234", "nope", "#12 456", "+", "0x123456",
+                            "#FFFFFFFFF", "１２３"}) {
+      QVERIFY2(!ColorUtil::nsColor(bad), bad);
+    }
   }
 
   void everyByteSurvives() {
     for (int value = 0; value < 256; ++value) {
-      const QString text = QStringLiteral("#%1%2%3")
-                               .arg(value, 2, 16, QLatin1Char('0'))
+      const QString text = "#%1%2%3".arg(value, 2, 16, QLatin1Char('0'))
                                .arg(255 - value, 2, 16, QLatin1Char('0'))
                                .arg(value / 2, 2, 16, QLatin1Char('0'))
                                .toUpper();
@@ -58,35 +46,26 @@ class TestColorUtil : public QObject {
     }
   }
 
-  void notations_data() {
-    QTest::addColumn<QString>("hex");
-    QTest::addColumn<QStringList>("values");
-    const auto row = [](const char* hex, const char* upper, const char* lower, const char* rgb,
-                        const char* hsl, const char* cmyk) {
-      QTest::newRow(hex) << str(hex)
-                         << QStringList{str(upper), str(lower), str(rgb), str(hsl), str(cmyk)};
-    };
-    row("#FF0000", "#FF0000", "#ff0000", "rgb(255, 0, 0)", "hsl(0, 100%, 50%)",
-        "cmyk(0%, 100%, 100%, 0%)");
-    row("fff", "FFF", "fff", "rgb(255, 255, 255)", "hsl(0, 0%, 100%)", "cmyk(0%, 0%, 0%, 0%)");
-    row("#000000", "#000000", "#000000", "rgb(0, 0, 0)", "hsl(0, 0%, 0%)",
-        "cmyk(0%, 0%, 0%, 100%)");
-    row(" #4c6fff ", " #4C6FFF ", " #4c6fff ", "rgb(76, 111, 255)", "hsl(228, 100%, 65%)",
-        "cmyk(70%, 56%, 0%, 0%)");
-    row("#FF0001", "#FF0001", "#ff0001", "rgb(255, 0, 1)", "hsl(360, 100%, 50%)",
-        "cmyk(0%, 100%, 100%, 0%)");
-  }
-
   void notations() {
-    QFETCH(QString, hex);
-    QFETCH(QStringList, values);
-    const QStringList labels{str("HEX"), str("HEX (lower)"), str("RGB"), str("HSL"), str("CMYK")};
-    QList<FormatVariant> expected;
-    for (qsizetype i = 0; i < 5; ++i) expected << FormatVariant{labels.at(i), values.at(i)};
-    QCOMPARE(ColorUtil::formatVariants(hex), expected);
+    const QList<QStringList> colors{
+        {"#FF0000", "#FF0000", "#ff0000", "rgb(255, 0, 0)", "hsl(0, 100%, 50%)",
+         "cmyk(0%, 100%, 100%, 0%)"},
+        {"fff", "FFF", "fff", "rgb(255, 255, 255)", "hsl(0, 0%, 100%)", "cmyk(0%, 0%, 0%, 0%)"},
+        {"#000000", "#000000", "#000000", "rgb(0, 0, 0)", "hsl(0, 0%, 0%)",
+         "cmyk(0%, 0%, 0%, 100%)"},
+        {" #4c6fff ", " #4C6FFF ", " #4c6fff ", "rgb(76, 111, 255)", "hsl(228, 100%, 65%)",
+         "cmyk(70%, 56%, 0%, 0%)"},
+        {"#FF0001", "#FF0001", "#ff0001", "rgb(255, 0, 1)", "hsl(360, 100%, 50%)",
+         "cmyk(0%, 100%, 100%, 0%)"}};
+    const QStringList labels{"HEX", "HEX (lower)", "RGB", "HSL", "CMYK"};
     const auto formats = allCases<ColorCopyFormat>();
-    for (size_t i = 0; i < formats.size(); ++i) {
-      QCOMPARE(ColorUtil::formatted(hex, formats[i]), values.at(qsizetype(i)));
+    for (const QStringList& color : colors) {
+      QList<FormatVariant> expected;
+      for (qsizetype i = 0; i < 5; ++i) {
+        expected << FormatVariant{labels.at(i), color.at(i + 1)};
+        QCOMPARE(ColorUtil::formatted(color.first(), formats[size_t(i)]), color.at(i + 1));
+      }
+      QCOMPARE(ColorUtil::formatVariants(color.first()), expected);
     }
   }
 
@@ -103,24 +82,20 @@ class TestColorUtil : public QObject {
     QVERIFY(!fromRawValue<ColorCopyFormat>("lab"));
   }
 
-  void gradesContrast_data() {
-    QTest::addColumn<double>("ratio");
-    QTest::addColumn<QString>("grade");
-    QTest::newRow("7") << 7.0 << "AAA";
-    QTest::newRow("6.99") << 6.99 << "AA";
-    QTest::newRow("4.5") << 4.5 << "AA";
-    QTest::newRow("3") << 3.0 << "AA Large";
-    QTest::newRow("2.99") << 2.99 << "Fail";
-  }
-
   void gradesContrast() {
-    QFETCH(double, ratio);
-    QTEST(ColorUtil::wcagGrade(ratio), "grade");
-    QCOMPARE(ColorUtil::contrastRatio(0, 1), 21.0);
-    // #767676 is the well-known lightest grey that passes AA on white.
-    QCOMPARE(ColorUtil::contrastRows(str("#767676")),
-             QStringList({str("On white  4.54:1 · AA"), str("On black  4.62:1 · AA")}));
-    QCOMPARE(ColorUtil::wcagBadge(str("#000")), std::optional(str("AAA")));
+    const Cases<double, QString> cases{{"7", 7.0, "AAA"},
+                                       {"6.99", 6.99, "AA"},
+                                       {"4.5", 4.5, "AA"},
+                                       {"3", 3.0, "AA Large"},
+                                       {"2.99", 2.99, "Fail"}};
+    cases.check([&](double ratio, const QString& grade) {
+      QCOMPARE(ColorUtil::wcagGrade(ratio), grade);
+      QCOMPARE(ColorUtil::contrastRatio(0, 1), 21.0);
+      // #767676 is the well-known lightest grey that passes AA on white.
+      QCOMPARE(ColorUtil::contrastRows(str("#767676")),
+               QStringList({str("On white  4.54:1 · AA"), str("On black  4.62:1 · AA")}));
+      QCOMPARE(ColorUtil::wcagBadge(str("#000")), std::optional(str("AAA")));
+    });
   }
 
   void choosesTextColors() {
@@ -143,5 +118,4 @@ class TestColorUtil : public QObject {
 };
 
 QTEST_APPLESS_MAIN(TestColorUtil)
-
 #include "tst_colorutil.moc"

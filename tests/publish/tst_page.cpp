@@ -1,6 +1,7 @@
 #include "document/Package.h"
 #include "publish/BrandPageExporter.h"
 #include "publish/PageMarkup.h"
+#include "testing/Cases.h"
 #include "testing/FakeDialogs.h"
 #include "testing/FaultyStore.h"
 #include "testing/RandomBrand.h"
@@ -18,7 +19,7 @@ struct Page {
   TestServices disk;
   FaultyStore store;
   std::unique_ptr<BrandDocument> document;
-  QString path = disk.path(QStringLiteral("page.html"));
+  QString path = disk.path("page.html");
 
   Page() {
     const DocumentServices services{store, disk.log, [this] { return disk.now; }};
@@ -35,7 +36,7 @@ struct Page {
   }
 };
 
-const AssetRef picture{QStringLiteral("a.PNG"), QStringLiteral("Mark.png")};
+const AssetRef picture{"a.PNG", "Mark.png"};
 
 SharedList<Item> everyUseOfAFile() {
   Item image = Item::create(ImagePayload{picture, {}});
@@ -63,23 +64,17 @@ class TestPage : public QObject {
     QVERIFY(page.strays().isEmpty());
   }
 
-  void dataURLsHoldTheFile_data() {
-    QTest::addColumn<int>("size");
-    for (const int size : {0, 1, 2, 3, 4, 393215, 393216, 393217, 2 * 393216, 1'000'001}) {
-      QTest::addRow("%d", size) << size;
-    }
-  }
-
   void dataURLsHoldTheFile() {
-    QFETCH(int, size);
-    QByteArray content(size, Qt::Uninitialized);
     QRandomGenerator random(1);
-    for (char& c : content) c = char(random.generate());
-    Page page;
-    page.addAsset(picture, content);
-    MemorySink sink;
-    QVERIFY(writeDataURL(picture, *page.document, sink));
-    QCOMPARE(sink.bytes(), "data:image/png;base64," + content.toBase64());
+    for (const int size : {0, 1, 2, 3, 4, 393215, 393216, 393217, 2 * 393216, 1'000'001}) {
+      QByteArray content(size, Qt::Uninitialized);
+      for (char& c : content) c = char(random.generate());
+      Page page;
+      page.addAsset(picture, content);
+      MemorySink sink;
+      QVERIFY(writeDataURL(picture, *page.document, sink));
+      QCOMPARE(sink.bytes(), "data:image/png;base64," + content.toBase64());
+    }
   }
 
   void anAssetThatFailsMidwayDegradesItsFragment() {
@@ -123,20 +118,13 @@ class TestPage : public QObject {
     QVERIFY(!QFile::exists(page.path) && page.strays().isEmpty());
   }
 
-  void suggestsAFileName_data() {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("file");
-    QTest::newRow("plain") << " Acme\n"
-                           << "Acme Brand Page.html";
-    QTest::newRow("separators") << "a/b:c"
-                                << "a-b-c Brand Page.html";
-    QTest::newRow("blank") << "  "
-                           << "Untitled Brand Brand Page.html";
-  }
-
   void suggestsAFileName() {
-    QFETCH(QString, name);
-    QTEST(BrandPageExporter::suggestedFileName(name), "file");
+    const Cases<QString, QString> cases{{"plain", " Acme\n", "Acme Brand Page.html"},
+                                        {"separators", "a/b:c", "a-b-c Brand Page.html"},
+                                        {"blank", "  ", "Untitled Brand Brand Page.html"}};
+    cases.check([&](const QString& name, const QString& file) {
+      QCOMPARE(BrandPageExporter::suggestedFileName(name), file);
+    });
   }
 
   void exportsThroughTheDialog() {
@@ -169,5 +157,4 @@ class TestPage : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestPage)
-
 #include "tst_page.moc"

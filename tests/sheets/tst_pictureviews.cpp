@@ -3,6 +3,7 @@
 #include "sheets/EmblemView.h"
 #include "sheets/LazyItem.h"
 #include "sheets/ThumbnailView.h"
+#include "testing/Cases.h"
 
 #include <QGuiApplication>
 #include <QMutex>
@@ -15,7 +16,6 @@
 #include <QtQml/qqmlextensionplugin.h>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
-
 Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
 
 using namespace tarnloft;
@@ -93,10 +93,6 @@ struct Window {
   QColor shown(int x, int y) { return window.grabWindow().pixelColor(x, y); }
 };
 
-}  // namespace
-
-namespace {
-
 // Around the pixels of a 64 by 64 picture that are nearly of that colour.
 QRect boundsOf(const QImage& image, const QColor& color) {
   QRect bounds;
@@ -118,23 +114,18 @@ class TestPictureViews : public QObject {
  private slots:
   void init() { QTest::failOnWarning(QRegularExpression(".")); }
 
-  void asksForThePixelsOfTheScreen_data() {
-    QTest::addColumn<QSizeF>("size");
-    QTest::addColumn<int>("pixels");
-    QTest::newRow("in steps of 64") << QSizeF(100, 60) << 128;
-    QTest::newRow("by the longer side") << QSizeF(30, 150) << 192;
-    QTest::newRow("just one") << QSizeF(64, 64) << 64;
-    QTest::newRow("no more than told") << QSizeF(900, 900) << 512;
-  }
-
   void asksForThePixelsOfTheScreen() {
-    Window test;
-    QFETCH(QSizeF, size);
-    QFETCH(int, pixels);
-    const ThumbnailView* view = test.view("red", size);
-    (void)test.window.grabWindow();
-    QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
-    QCOMPARE(test.images.asked, QList<int>{pixels});
+    const Cases<QSizeF, int> cases{{"in steps of 64", QSizeF(100, 60), 128},
+                                   {"by the longer side", QSizeF(30, 150), 192},
+                                   {"just one", QSizeF(64, 64), 64},
+                                   {"no more than told", QSizeF(900, 900), 512}};
+    cases.check([&](const QSizeF& size, int pixels) {
+      Window test;
+      const ThumbnailView* view = test.view("red", size);
+      (void)test.window.grabWindow();
+      QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
+      QCOMPARE(test.images.asked, QList<int>{pixels});
+    });
   }
 
   void showsWhatIsKeptAtOnce() {
@@ -234,35 +225,32 @@ class TestPictureViews : public QObject {
     }
   }
 
-  void anEmblemsMarkStandsInTheMiddle_data() {
-    QTest::addColumn<EmblemLook>("look");
-    QTest::addColumn<int>("least");  // points that the mark is wide and high
+  void anEmblemsMarkStandsInTheMiddle() {
     using enum EmblemStyle::Ground;
     using enum EmblemStyle::Mark;
     using EmblemStyle::Ink;
-    QTest::newRow("letter") << EmblemLook{Filled, Qt::blue, Monogram, "H", Ink::White} << 16;
-    QTest::newRow("symbol") << EmblemLook{Filled, Qt::blue, Symbol, "plus", Ink::White} << 20;
-    QTest::newRow("bare symbol") << EmblemLook{Filled, Qt::blue, Bare, "plus", Ink::White} << 30;
-    QTest::newRow("emoji") << EmblemLook{Filled, Qt::blue, Emoji, "🟥", Ink::Primary} << 24;
-  }
-
-  void anEmblemsMarkStandsInTheMiddle() {
-    Window test;
-    QFETCH(EmblemLook, look);
-    QFETCH(int, least);
-    (void)test.emblem(look);
-    const QImage shown = test.window.grabWindow();
-    QCOMPARE(shown.pixelColor(1, 1), QColor(Qt::white));
-    QCOMPARE(shown.pixelColor(32, 1), QColor(Qt::blue));
-    QCOMPARE(boundsOf(shown, Qt::blue), QRect(0, 0, 64, 64));
-    QImage mark = shown.copy(10, 10, 44, 44);  // without the window around the circle
-    mark = mark.copy(-10, -10, 64, 64);
-    const QRect bounds = boundsOf(mark, shown.pixelColor(32, 32));
-    QVERIFY(bounds.width() >= least && bounds.height() >= least);
-    QVERIFY(bounds.width() < 44 && bounds.height() < 44);
-    const QPointF off = QRectF(bounds).center() - QPointF(32, 32);
-    QVERIFY2(std::abs(off.x()) <= 1.5 && std::abs(off.y()) <= 2.5,
-             qPrintable(QStringLiteral("%1, %2").arg(off.x()).arg(off.y())));
+    // points that the mark is wide and high: least
+    const Cases<EmblemLook, int> cases{
+        {"letter", EmblemLook{Filled, Qt::blue, Monogram, "H", Ink::White}, 16},
+        {"symbol", EmblemLook{Filled, Qt::blue, Symbol, "plus", Ink::White}, 20},
+        {"bare symbol", EmblemLook{Filled, Qt::blue, Bare, "plus", Ink::White}, 30},
+        {"emoji", EmblemLook{Filled, Qt::blue, Emoji, "🟥", Ink::Primary}, 24}};
+    cases.check([&](const EmblemLook& look, int least) {
+      Window test;
+      (void)test.emblem(look);
+      const QImage shown = test.window.grabWindow();
+      QCOMPARE(shown.pixelColor(1, 1), QColor(Qt::white));
+      QCOMPARE(shown.pixelColor(32, 1), QColor(Qt::blue));
+      QCOMPARE(boundsOf(shown, Qt::blue), QRect(0, 0, 64, 64));
+      QImage mark = shown.copy(10, 10, 44, 44);  // without the window around the circle
+      mark = mark.copy(-10, -10, 64, 64);
+      const QRect bounds = boundsOf(mark, shown.pixelColor(32, 32));
+      QVERIFY(bounds.width() >= least && bounds.height() >= least);
+      QVERIFY(bounds.width() < 44 && bounds.height() < 44);
+      const QPointF off = QRectF(bounds).center() - QPointF(32, 32);
+      QVERIFY2(std::abs(off.x()) <= 1.5 && std::abs(off.y()) <= 2.5,
+               qPrintable(QString("%1, %2").arg(off.x()).arg(off.y())));
+    });
   }
 
   void anEmblemOfTheGroundsColourHasARim() {

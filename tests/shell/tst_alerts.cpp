@@ -1,16 +1,14 @@
 #include "platform/controls/Typography.h"
 #include "shell/TestViews.h"
+#include "testing/Cases.h"
 
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QtQml/qqmlextensionplugin.h>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
-
 Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
-
 Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
-
 Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 using namespace tarnloft;
@@ -18,7 +16,7 @@ using namespace tarnloft;
 namespace {
 
 struct Alarmed : Views {
-  const QString reason = QStringLiteral("Something other than a file is there");
+  const QString reason = "Something other than a file is there";
   const QString manifest = Package::manifestPath(library.packagePath("Acme"));
 
   void start() {
@@ -46,7 +44,7 @@ struct Alarmed : Views {
   QString rowDescription(const QString& brand) const {
     QQuickItem* const row = item(QAccessible::ListItem, brand);
     QAccessibleInterface* const known = QAccessible::queryAccessibleInterface(row);
-    return known ? known->text(QAccessible::Description) : QStringLiteral("no row");
+    return known ? known->text(QAccessible::Description) : "no row";
   }
   bool shows(const QString& text) const { return item(QAccessible::StaticText, text); }
   // Gives an answer to the dialog of that title.
@@ -103,7 +101,7 @@ class TestAlerts : public QObject {
     views.failToSave();
     const QString text = "Changes aren't saved: " + views.reason;
     QTRY_VERIFY(views.item(alert, text));
-    QTRY_COMPARE(views.rowDescription("Acme"), QStringLiteral("Changes aren't saved"));
+    QTRY_COMPARE(views.rowDescription("Acme"), "Changes aren't saved");
 
     // Its buttons come before the page's.
     views.item(button, "New Brand")->forceActiveFocus(Qt::TabFocusReason);
@@ -120,7 +118,7 @@ class TestAlerts : public QObject {
     views.press(Qt::Key_Space);
     QTRY_VERIFY(!views.item(alert, text));
     QTRY_VERIFY(!views.item(button, "Try Again"));
-    QCOMPARE(views.focused(), QStringLiteral("Section name"));
+    QCOMPARE(views.focused(), "Section name");
     QTRY_COMPARE(views.rowDescription("Birch"), QString());
     QVERIFY(contentOf(views.manifest).contains("Birch"));
   }
@@ -131,7 +129,7 @@ class TestAlerts : public QObject {
     const QString& folder = views.library.folder;
     QVERIFY(QDir().rename(folder, folder + " away"));
     views.library.store->scan();
-    const QString text = QStringLiteral("“%1” isn't there just now.").arg(folder);
+    const QString text = QString("“%1” isn't there just now.").arg(folder);
     QTRY_VERIFY(views.item(alert, text));
     QVERIFY(views.item(row, "Acme"));
     QVERIFY(QDir().rename(folder + " away", folder));
@@ -196,54 +194,47 @@ class TestAlerts : public QObject {
     QVERIFY(views.shows("No such file or directory."));
   }
 
-  void asksWhatToDoWithoutATrash_data() {
-    QTest::addColumn<QStringList>("answers");
-    QTest::addColumn<qsizetype>("left");
-    QTest::newRow("kept") << QStringList{"Cancel"} << qsizetype(1);
-    QTest::newRow("kept after all") << QStringList{"Delete Immediately…", "Cancel"} << qsizetype(1);
-    QTest::newRow("return alone") << QStringList{"Return", "Return"} << qsizetype(1);
-    QTest::newRow("deleted") << QStringList{"Delete Immediately…", "Delete"} << qsizetype(0);
-  }
-
   void asksWhatToDoWithoutATrash() {
-    QFETCH(QStringList, answers);
-    Alarmed views;
-    views.library.trash.works = false;
-    views.start();
-    views.click(views.item(row, "Acme"));
-    views.press(Qt::Key_Delete);
-    views.answer("Move “Acme” to the Trash?", "Return");
-    QTRY_VERIFY(views.shows("no trash. The brand stays in the library."));
-    views.answer("“Acme” can't be moved to the Trash", answers.takeFirst());
-    if (!answers.isEmpty()) views.answer("Delete “Acme” immediately?", answers.takeFirst());
-    QTRY_VERIFY(!views.item(dialog, "Delete “Acme” immediately?"));
-    QTRY_VERIFY(!views.item(dialog, "“Acme” can't be moved to the Trash"));
-    QTEST(views.library.names().size(), "left");
-    QCOMPARE(QFile::exists(views.manifest), !views.library.names().isEmpty());
-  }
-
-  void asksBeforeItQuits_data() {
-    QTest::addColumn<QString>("answer");
-    QTest::addColumn<int>("quits");
-    QTest::newRow("return") << "Return" << 0;
-    QTest::newRow("cancelled") << "Cancel" << 0;
-    QTest::newRow("tried again") << "Try Again" << 0;
-    QTest::newRow("quit") << "Quit Anyway" << 1;
+    const Cases<QStringList, qsizetype> cases{
+        {"kept", QStringList{"Cancel"}, qsizetype(1)},
+        {"kept after all", QStringList{"Delete Immediately…", "Cancel"}, qsizetype(1)},
+        {"return alone", QStringList{"Return", "Return"}, qsizetype(1)},
+        {"deleted", QStringList{"Delete Immediately…", "Delete"}, qsizetype(0)}};
+    cases.check([&](const QStringList& answers, qsizetype left) {
+      Alarmed views;
+      views.library.trash.works = false;
+      views.start();
+      views.click(views.item(row, "Acme"));
+      views.press(Qt::Key_Delete);
+      views.answer("Move “Acme” to the Trash?", "Return");
+      QTRY_VERIFY(views.shows("no trash. The brand stays in the library."));
+      views.answer("“Acme” can't be moved to the Trash", answers.takeFirst());
+      if (!answers.isEmpty()) views.answer("Delete “Acme” immediately?", answers.takeFirst());
+      QTRY_VERIFY(!views.item(dialog, "Delete “Acme” immediately?"));
+      QTRY_VERIFY(!views.item(dialog, "“Acme” can't be moved to the Trash"));
+      QCOMPARE(views.library.names().size(), left);
+      QCOMPARE(QFile::exists(views.manifest), !views.library.names().isEmpty());
+    });
   }
 
   void asksBeforeItQuits() {
-    QFETCH(QString, answer);
-    Alarmed views;
-    views.start();
-    views.failToSave();
-    QSignalSpy quits(views.main->alerts(), &Alerts::quitConfirmed);
-    const QString title = "Changes to “Birch” aren't saved";
-    for (const int times : {1, 2}) {
-      views.main->alerts()->askToQuit();
-      views.answer(title, answer);
-      QTRY_VERIFY(!views.item(dialog, title));
-      QTEST(int(quits.size()) / times, "quits");
-    }
+    const Cases<QString, int> cases{{"return", "Return", 0},
+                                    {"cancelled", "Cancel", 0},
+                                    {"tried again", "Try Again", 0},
+                                    {"quit", "Quit Anyway", 1}};
+    cases.check([&](const QString& answer, int quits) {
+      Alarmed views;
+      views.start();
+      views.failToSave();
+      QSignalSpy quits(views.main->alerts(), &Alerts::quitConfirmed);
+      const QString title = "Changes to “Birch” aren't saved";
+      for (const int times : {1, 2}) {
+        views.main->alerts()->askToQuit();
+        views.answer(title, answer);
+        QTRY_VERIFY(!views.item(dialog, title));
+        QCOMPARE(int(quits.size()) / times, quits);
+      }
+    });
   }
 
   void theQuestionGoesWithItsReason() {
@@ -260,5 +251,4 @@ class TestAlerts : public QObject {
 };
 
 QTEST_MAIN(TestAlerts)
-
 #include "tst_alerts.moc"

@@ -31,7 +31,7 @@ class TestContent : public QObject {
     ContentTest test;
     ContentModel& content = test.start();
     QCOMPARE(content.detail(), ContentModel::Detail::welcome);
-    QCOMPARE(content.title(), QStringLiteral("Tarn Loft"));
+    QCOMPARE(content.title(), "Tarn Loft");
     QVERIFY(!content.commands()->hasSelection());
 
     QSignalSpy detail(&content, &ContentModel::detailChanged);
@@ -40,7 +40,7 @@ class TestContent : public QObject {
     QVERIFY(!detail.isEmpty());
     QVERIFY(!selection.isEmpty());
     QCOMPARE(content.detail(), ContentModel::Detail::brand);
-    QCOMPARE(content.title(), QStringLiteral("Acme — Tarn Loft"));
+    QCOMPARE(content.title(), "Acme — Tarn Loft");
     QVERIFY(content.commands()->hasSelection());
 
     // Selected, but it can't be read.
@@ -72,7 +72,7 @@ class TestContent : public QObject {
     content.setNewBrandName("Ac");
     content.setShowNewBrand(true);
     content.setShowNewBrand(false);
-    QCOMPARE(content.newBrandName(), QStringLiteral("Ac"));
+    QCOMPARE(content.newBrandName(), "Ac");
   }
 
   void eachDocumentGetsOneWorkspace() {
@@ -124,7 +124,7 @@ class TestContent : public QObject {
     ContentTest test;
     ContentModel& content = test.start();
     content.toasts()->show("Deleted 2 items · ⌘Z to undo");
-    QCOMPARE(content.toast(), QStringLiteral("Deleted 2 items · Ctrl+Z to undo"));
+    QCOMPARE(content.toast(), "Deleted 2 items · Ctrl+Z to undo");
   }
 
   void aNewBrandClearsTheTilesSelection() {
@@ -146,11 +146,11 @@ class TestContent : public QObject {
     ContentModel& content = test.start();
     BrandDocument& document = *test.library.store->openDocument();
     document.mutate("Delete", content.undo(), [](Brand& brand) { brand.name = "Changed"; });
-    QCOMPARE(content.undo()->undoText(), QStringLiteral("Undo Delete"));
+    QCOMPARE(content.undo()->undoText(), "Undo Delete");
     content.undo()->undo();
-    QCOMPARE(document.brand().name, QStringLiteral("Acme"));
+    QCOMPARE(document.brand().name, "Acme");
     content.undo()->redo();
-    QCOMPARE(document.brand().name, QStringLiteral("Changed"));
+    QCOMPARE(document.brand().name, "Changed");
     test.library.store->select(test.library.packagePath("Birch"));
     QVERIFY(!content.undo()->canUndo());
   }
@@ -161,7 +161,7 @@ class TestContent : public QObject {
     ContentModel& content = test.start();
     content.commands()->pickColorFromScreen();
     test.library.pendingPick(SampledColor{1, 0, 0});
-    QCOMPARE(content.undo()->undoText(), QStringLiteral("Undo Pick Color"));
+    QCOMPARE(content.undo()->undoText(), "Undo Pick Color");
     // The next window's undo, or none, takes its place.
     test.content.reset();
     test.library.store->pickColorFromScreen();
@@ -176,7 +176,7 @@ class TestContent : public QObject {
     content.createBrand("Acme");
     test.library.dialogs.answer = test.library.disk.path("page.html");
     content.commands()->exportBrandPage();
-    QCOMPARE(test.library.dialogs.suggested, QStringLiteral("Acme Brand Page.html"));
+    QCOMPARE(test.library.dialogs.suggested, "Acme Brand Page.html");
     QVERIFY(contentOf(test.library.disk.path("page.html")).contains("Acme"));
   }
 
@@ -201,5 +201,4 @@ class TestContent : public QObject {
 };
 
 QTEST_MAIN(TestContent)
-
 #include "tst_content.moc"

@@ -1,3 +1,5 @@
+#include "testing/Cases.h"
+
 #include <QDir>
 #include <QFile>
 #include <QLocalSocket>
@@ -132,29 +134,24 @@ class TestInstance : public QObject {
     QCOMPARE(first.state(), QProcess::Running);
   }
 
-  void endsOneThatDoesNotAnswer_data() {
-    QTest::addColumn<QStringList>("words");
-    QTest::addColumn<int>("signal");
-    QTest::newRow("as it is asked to") << QStringList() << SIGTERM;
-    QTest::newRow("by force") << QStringList({"10000", "deaf"}) << SIGKILL;
-  }
-
   // It goes on as soon as it is asked to end, and its answers don't count any more.
   void endsOneThatDoesNotAnswer() {
-    QFETCH(QStringList, words);
-    QFETCH(int, signal);
-    Starts starts;
-    QProcess& first = starts.start(words);
-    QCOMPARE(line(first), QByteArray("first"));
-    ::kill(pid_t(first.processId()), SIGSTOP);
-    QProcess& second = starts.start({"200", "end"});
-    QCOMPARE(line(second), QByteArray("no answer"));
-    QCOMPARE(line(second), QByteArray("first"));
-    QVERIFY(first.waitForFinished(20000));
-    QCOMPARE(first.exitStatus(), QProcess::CrashExit);
-    QCOMPARE(first.exitCode(), signal);
-    QCOMPARE(line(starts.start()), QByteArray("shown"));
-    QCOMPARE(line(second), QByteArray("asked"));
+    const Cases<QStringList, int> cases{{"as it is asked to", QStringList(), SIGTERM},
+                                        {"by force", QStringList({"10000", "deaf"}), SIGKILL}};
+    cases.check([&](const QStringList& words, int signal) {
+      Starts starts;
+      QProcess& first = starts.start(words);
+      QCOMPARE(line(first), QByteArray("first"));
+      ::kill(pid_t(first.processId()), SIGSTOP);
+      QProcess& second = starts.start({"200", "end"});
+      QCOMPARE(line(second), QByteArray("no answer"));
+      QCOMPARE(line(second), QByteArray("first"));
+      QVERIFY(first.waitForFinished(20000));
+      QCOMPARE(first.exitStatus(), QProcess::CrashExit);
+      QCOMPARE(first.exitCode(), signal);
+      QCOMPARE(line(starts.start()), QByteArray("shown"));
+      QCOMPARE(line(second), QByteArray("asked"));
+    });
   }
 
   void endsNoOtherProgram() {
@@ -169,5 +166,4 @@ class TestInstance : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestInstance)
-
 #include "tst_instance.moc"

@@ -1,6 +1,7 @@
 #include "platform/controls/Theme.h"
 #include "shell/MainWindow.h"
 #include "shell/TestShell.h"
+#include "testing/Cases.h"
 
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -11,11 +12,8 @@
 #include <QtQml/qqmlextensionplugin.h>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
-
 Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
-
 Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
-
 Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 #include <algorithm>
@@ -39,52 +37,42 @@ class TestMainWindow : public QObject {
   Q_OBJECT
 
  private slots:
-  void keepsItsState_data() {
-    QTest::addColumn<WindowState>("state");
-    QTest::newRow("default") << WindowState{};
-    QTest::newRow("maximised") << WindowState{QPoint(-5, 7), {900, 600}, Maximized::yes, 200};
-    QTest::newRow("placed") << WindowState{QPoint(0, 0), {2000, 1000}, Maximized::no, 333};
-  }
-
   void keepsItsState() {
-    QFETCH(WindowState, state);
-    const TestServices disk;
-    const QString path = disk.path("new folder/state.ini");
-    {
-      IniPreferences store(path);
-      WindowState{QPoint(1, 1), {1000, 700}, Maximized::yes, 250}.write(store);
-      if (!state.position) store.remove("windowX");
-      state.write(store);
-    }
-    QVERIFY(WindowState::read(IniPreferences(path)) == state);
+    const Cases<WindowState> cases{
+        {"default", WindowState{}},
+        {"maximised", WindowState{QPoint(-5, 7), {900, 600}, Maximized::yes, 200}},
+        {"placed", WindowState{QPoint(0, 0), {2000, 1000}, Maximized::no, 333}}};
+    cases.check([&](const WindowState& state) {
+      const TestServices disk;
+      const QString path = disk.path("new folder/state.ini");
+      {
+        IniPreferences store(path);
+        WindowState{QPoint(1, 1), {1000, 700}, Maximized::yes, 250}.write(store);
+        if (!state.position) store.remove("windowX");
+        state.write(store);
+      }
+      QVERIFY(WindowState::read(IniPreferences(path)) == state);
+    });
   }
 
-  void fitsTheScreens_data() {
-    QTest::addColumn<WindowState>("state");
-    QTest::addColumn<WindowState>("fitted");
+  void fitsTheScreens() {
     const auto state = [](std::optional<QPoint> position, QSize size) {
       return WindowState{position, size, Maximized::no, 240};
     };
     const QSize usual(1160, 760);
-    QTest::newRow("on it") << state(QPoint(10, 10), usual) << state(QPoint(10, 10), usual);
-    QTest::newRow("on the second")
-        << state(QPoint(1500, 10), usual) << state(QPoint(1500, 10), usual);
-    QTest::newRow("a bit aside") << state(QPoint(-900, 10), usual)
-                                 << state(QPoint(-900, 10), usual);
-    QTest::newRow("far aside") << state(QPoint(-1100, 10), usual) << state(std::nullopt, usual);
-    QTest::newRow("above") << state(QPoint(10, -20), usual) << state(std::nullopt, usual);
-    QTest::newRow("screen has gone")
-        << state(QPoint(5000, 10), usual) << state(std::nullopt, usual);
-    QTest::newRow("too large") << state(QPoint(10, 10), {3000, 2000})
-                               << state(QPoint(10, 10), {1280, 1024});
-    QTest::newRow("anywhere") << state(std::nullopt, usual) << state(std::nullopt, usual);
-  }
-
-  void fitsTheScreens() {
-    QFETCH(WindowState, state);
-    QFETCH(WindowState, fitted);
-    const QList<QRect> screens{{0, 0, 1280, 1024}, {1280, 0, 1920, 1080}};
-    QVERIFY(state.fitting(screens) == fitted);
+    const Cases<WindowState, WindowState> cases{
+        {"on it", state(QPoint(10, 10), usual), state(QPoint(10, 10), usual)},
+        {"on the second", state(QPoint(1500, 10), usual), state(QPoint(1500, 10), usual)},
+        {"a bit aside", state(QPoint(-900, 10), usual), state(QPoint(-900, 10), usual)},
+        {"far aside", state(QPoint(-1100, 10), usual), state(std::nullopt, usual)},
+        {"above", state(QPoint(10, -20), usual), state(std::nullopt, usual)},
+        {"screen has gone", state(QPoint(5000, 10), usual), state(std::nullopt, usual)},
+        {"too large", state(QPoint(10, 10), {3000, 2000}), state(QPoint(10, 10), {1280, 1024})},
+        {"anywhere", state(std::nullopt, usual), state(std::nullopt, usual)}};
+    cases.check([&](const WindowState& state, const WindowState& fitted) {
+      const QList<QRect> screens{{0, 0, 1280, 1024}, {1280, 0, 1920, 1080}};
+      QVERIFY(state.fitting(screens) == fitted);
+    });
   }
 
   void rightSizesOnce() {
@@ -143,7 +131,7 @@ class TestMainWindow : public QObject {
     const QRect screen = window->screen()->availableGeometry();
     QCOMPARE(window->size(), WindowState().fitting({screen}).size);
     QCOMPARE(window->minimumSize(), WindowState::minimumSize);
-    QCOMPARE(window->title(), QStringLiteral("Acme — Tarn Loft"));
+    QCOMPARE(window->title(), "Acme — Tarn Loft");
     QVERIFY(main.open());
     QCOMPARE(main.window(), window.data());
 
@@ -156,42 +144,37 @@ class TestMainWindow : public QObject {
 
     QVERIFY(main.open());
     QCOMPARE(main.window()->size(), QSize(860, 600));
-    QCOMPARE(main.window()->title(), QStringLiteral("While closed — Tarn Loft"));
-  }
-
-  void takesItsViewsAlong_data() {
-    QTest::addColumn<bool>("closed");
-    QTest::newRow("open") << false;
-    QTest::newRow("just closed") << true;
+    QCOMPARE(main.window()->title(), "While closed — Tarn Loft");
   }
 
   // The toolkit leaves a list's views to the event loop's next turn, which the end hasn't got.
   void takesItsViewsAlong() {
-    QFETCH(bool, closed);
-    TestShell test;
-    test.library.add("Acme", {Section::create("S")});
-    test.library.start();
-    IniPreferences state(test.library.disk.path("state.ini"));
-    QQmlEngine engine;
-    Theme::of(engine);
-    auto main =
-        std::make_unique<MainWindow>(engine, test.library.services(), test.services(), state);
-    QVERIFY(main->open());
-    QTRY_VERIFY(pageIn(main->window()->contentItem()));
-    const QPointer<QQuickItem> page = pageIn(main->window()->contentItem());
-    const QPointer<QObject> workspace = page->property("workspace").value<QObject*>();
-    QVERIFY(workspace);
-    if (closed) {
-      main->window()->close();
-      QCoreApplication::sendPostedEvents(main.get(), QEvent::MetaCall);
-      QVERIFY(!main->window());
-    }
-    main.reset();
-    QVERIFY(!page);
-    QVERIFY(!workspace);
+    const Cases<bool> cases{{"open", false}, {"just closed", true}};
+    cases.check([&](bool closed) {
+      TestShell test;
+      test.library.add("Acme", {Section::create("S")});
+      test.library.start();
+      IniPreferences state(test.library.disk.path("state.ini"));
+      QQmlEngine engine;
+      Theme::of(engine);
+      auto main =
+          std::make_unique<MainWindow>(engine, test.library.services(), test.services(), state);
+      QVERIFY(main->open());
+      QTRY_VERIFY(pageIn(main->window()->contentItem()));
+      const QPointer<QQuickItem> page = pageIn(main->window()->contentItem());
+      const QPointer<QObject> workspace = page->property("workspace").value<QObject*>();
+      QVERIFY(workspace);
+      if (closed) {
+        main->window()->close();
+        QCoreApplication::sendPostedEvents(main.get(), QEvent::MetaCall);
+        QVERIFY(!main->window());
+      }
+      main.reset();
+      QVERIFY(!page);
+      QVERIFY(!workspace);
+    });
   }
 };
 
 QTEST_MAIN(TestMainWindow)
-
 #include "tst_mainwindow.moc"

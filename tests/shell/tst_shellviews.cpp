@@ -1,6 +1,7 @@
 #include "platform/controls/Motion.h"
 #include "platform/controls/Typography.h"
 #include "shell/TestViews.h"
+#include "testing/Cases.h"
 #include "workspace/Items.h"
 
 #include <QRegularExpression>
@@ -9,11 +10,8 @@
 #include <QtQml/qqmlextensionplugin.h>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
-
 Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
-
 Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
-
 Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 using namespace tarnloft;
@@ -109,26 +107,22 @@ class TestShellViews : public QObject {
     QTRY_VERIFY(!views.item(dialog, "Rename Brand"));
   }
 
-  void deletesWhenConfirmed_data() {
-    QTest::addColumn<QString>("answer");
-    QTest::addColumn<qsizetype>("left");
-    QTest::newRow("confirmed") << "Move to Trash" << qsizetype(0);
-    QTest::newRow("cancelled") << "Cancel" << qsizetype(1);
-  }
-
   void deletesWhenConfirmed() {
-    QFETCH(QString, answer);
-    Views views;
-    views.library.add("Acme");
-    views.start();
-    views.click(views.item(row, "Acme"));
-    views.press(Qt::Key_Delete);
-    const QString title = "Move “Acme” to the Trash?";
-    QTRY_VERIFY(views.item(dialog, title));
-    QTRY_VERIFY(views.item(button, answer));
-    views.click(views.item(button, answer));
-    QTRY_VERIFY(!views.item(dialog, title));
-    QTEST(views.library.names().size(), "left");
+    const Cases<QString, qsizetype> cases{{"confirmed", "Move to Trash", qsizetype(0)},
+                                          {"cancelled", "Cancel", qsizetype(1)}};
+    cases.check([&](const QString& answer, qsizetype left) {
+      Views views;
+      views.library.add("Acme");
+      views.start();
+      views.click(views.item(row, "Acme"));
+      views.press(Qt::Key_Delete);
+      const QString title = "Move “Acme” to the Trash?";
+      QTRY_VERIFY(views.item(dialog, title));
+      QTRY_VERIFY(views.item(button, answer));
+      views.click(views.item(button, answer));
+      QTRY_VERIFY(!views.item(dialog, title));
+      QCOMPARE(views.library.names().size(), left);
+    });
   }
 
   void dragsARowByItsMark() {
@@ -358,5 +352,4 @@ class TestShellViews : public QObject {
 };
 
 QTEST_MAIN(TestShellViews)
-
 #include "tst_shellviews.moc"

@@ -1,5 +1,6 @@
 #include "model/Uuid.h"
 #include "shell/Sidebar.h"
+#include "testing/Cases.h"
 #include "testing/TestLibrary.h"
 
 #include <QAbstractItemModelTester>
@@ -91,7 +92,7 @@ class TestSidebar : public QObject {
     QCOMPARE(test.value("Plain", SidebarModel::marked), false);
     QCOMPARE(test.value("Tinted", SidebarModel::marked), true);
     const auto look = [&] { return test.value("Tinted", SidebarModel::look).value<EmblemLook>(); };
-    QCOMPARE(look().text, QStringLiteral("T"));
+    QCOMPARE(look().text, "T");
     QCOMPARE(look().color.rgba(), 0x80112233u);
     sidebar.rows()->setAppearance(ColorUtil::Appearance::dark);
     QCoreApplication::processEvents();
@@ -135,7 +136,7 @@ class TestSidebar : public QObject {
     sidebar.dragEntered(test.id("Acme"));
     QCoreApplication::processEvents();
     QCOMPARE(told.counts(), QList<qsizetype>({0, 0, 1, 0, 0}));
-    QCOMPARE(test.texts().first(), QStringLiteral("Cedar"));
+    QCOMPARE(test.texts().first(), "Cedar");
   }
 
   void followsAnyChange() {
@@ -173,7 +174,7 @@ class TestSidebar : public QObject {
     Sidebar& sidebar = test.start();
     sidebar.beginRename(test.library.packagePath("Birch"));
     QVERIFY(sidebar.isRenaming());
-    QCOMPARE(sidebar.renameText(), QStringLiteral("Birch"));
+    QCOMPARE(sidebar.renameText(), "Birch");
     sidebar.commitRename("Cedar");
     sidebar.endRename();
     QVERIFY(!sidebar.isRenaming());
@@ -190,7 +191,7 @@ class TestSidebar : public QObject {
     Sidebar& sidebar = test.start();
     sidebar.askDelete(test.library.packagePath("Say \"hi\""));
     QVERIFY(sidebar.isDeleting());
-    QCOMPARE(sidebar.deleteTitle(), QStringLiteral("Move “Say \"hi\"” to the Trash?"));
+    QCOMPARE(sidebar.deleteTitle(), "Move “Say \"hi\"” to the Trash?");
     sidebar.endDelete();
     sidebar.confirmDelete();
     QCOMPARE(test.library.store->brands().size(), 2);
@@ -224,26 +225,19 @@ class TestSidebar : public QObject {
     QCOMPARE(test.library.names(), QStringList({"Birch", "Cedar", "Acme"}));
   }
 
-  void movesByKeyboard_data() {
-    QTest::addColumn<QString>("brand");
-    QTest::addColumn<bool>("up");
-    QTest::addColumn<QString>("order");
-    QTest::newRow("first up") << "Acme" << true << "Acme Birch Cedar";
-    QTest::newRow("second up") << "Birch" << true << "Birch Acme Cedar";
-    QTest::newRow("first down") << "Acme" << false << "Birch Acme Cedar";
-    QTest::newRow("second down") << "Birch" << false << "Acme Cedar Birch";
-    QTest::newRow("last down") << "Cedar" << false << "Acme Birch Cedar";
-  }
-
   void movesByKeyboard() {
-    QFETCH(QString, brand);
-    QFETCH(bool, up);
-    QFETCH(QString, order);
-    SidebarTest test;
-    for (const char* name : {"Acme", "Birch", "Cedar"}) test.library.add(name);
-    Sidebar& sidebar = test.start();
-    up ? sidebar.moveUp(test.id(brand)) : sidebar.moveDown(test.id(brand));
-    QCOMPARE(test.library.names().join(' '), order);
+    const Cases<QString, bool, QString> cases{{"first up", "Acme", true, "Acme Birch Cedar"},
+                                              {"second up", "Birch", true, "Birch Acme Cedar"},
+                                              {"first down", "Acme", false, "Birch Acme Cedar"},
+                                              {"second down", "Birch", false, "Acme Cedar Birch"},
+                                              {"last down", "Cedar", false, "Acme Birch Cedar"}};
+    cases.check([&](const QString& brand, bool up, const QString& order) {
+      SidebarTest test;
+      for (const char* name : {"Acme", "Birch", "Cedar"}) test.library.add(name);
+      Sidebar& sidebar = test.start();
+      up ? sidebar.moveUp(test.id(brand)) : sidebar.moveDown(test.id(brand));
+      QCOMPARE(test.library.names().join(' '), order);
+    });
   }
 
   void passesOverBrandsThatHaveGone() {
@@ -264,5 +258,4 @@ class TestSidebar : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestSidebar)
-
 #include "tst_sidebar.moc"

@@ -37,8 +37,8 @@ class TestUndo : public QObject {
   void takesBackAndBringsBack() {
     StackUndoManager undo;
     Value value;
-    value.set(1, undo, QStringLiteral("One"));
-    value.set(2, undo, QStringLiteral("Two"));
+    value.set(1, undo, "One");
+    value.set(2, undo, "Two");
     QCOMPARE(value.value, 2);
     undo.undo();
     QCOMPARE(value.value, 1);
@@ -61,26 +61,26 @@ class TestUndo : public QObject {
 
   void namesItsEntries() {
     StackUndoManager undo;
-    QCOMPARE(undo.undoText(), QStringLiteral("Undo"));
-    QCOMPARE(undo.redoText(), QStringLiteral("Redo"));
+    QCOMPARE(undo.undoText(), "Undo");
+    QCOMPARE(undo.redoText(), "Redo");
     QSignalSpy changed(&undo, &StackUndoManager::changed);
     Value value;
-    value.set(1, undo, QStringLiteral("Delete"));
+    value.set(1, undo, "Delete");
     QVERIFY(!changed.isEmpty());
-    QCOMPARE(undo.undoText(), QStringLiteral("Undo Delete"));
+    QCOMPARE(undo.undoText(), "Undo Delete");
     changed.clear();
     undo.undo();
     QVERIFY(!changed.isEmpty());
-    QCOMPARE(undo.undoText(), QStringLiteral("Undo"));
-    QCOMPARE(undo.redoText(), QStringLiteral("Redo Delete"));
+    QCOMPARE(undo.undoText(), "Undo");
+    QCOMPARE(undo.redoText(), "Redo Delete");
   }
 
   void aNewStepDropsWhatCouldBeRedone() {
     StackUndoManager undo;
     Value value;
-    value.set(1, undo, QStringLiteral("One"));
+    value.set(1, undo, "One");
     undo.undo();
-    value.set(2, undo, QStringLiteral("Two"));
+    value.set(2, undo, "Two");
     QVERIFY(!undo.canRedo());
     undo.undo();
     QCOMPARE(value.value, 0);
@@ -90,13 +90,13 @@ class TestUndo : public QObject {
   void aStepWithoutAnInverseIsDropped() {
     StackUndoManager undo;
     Value value;
-    value.set(1, undo, QStringLiteral("One"));
+    value.set(1, undo, "One");
     undo.registerUndo([] {});
-    undo.setActionName(QStringLiteral("Gone"));
+    undo.setActionName("Gone");
     undo.undo();
-    undo.setActionName(QStringLiteral("Nobody's"));
+    undo.setActionName("Nobody's");
     QVERIFY(!undo.canRedo());
-    QCOMPARE(undo.undoText(), QStringLiteral("Undo One"));
+    QCOMPARE(undo.undoText(), "Undo One");
     undo.undo();
     QCOMPARE(value.value, 0);
   }
@@ -104,14 +104,14 @@ class TestUndo : public QObject {
   void forgetsAllSteps() {
     StackUndoManager undo;
     Value value;
-    value.set(1, undo, QStringLiteral("One"));
-    value.set(2, undo, QStringLiteral("Two"));
+    value.set(1, undo, "One");
+    value.set(2, undo, "Two");
     undo.undo();
     undo.clear();
     QVERIFY(!undo.canUndo());
     QVERIFY(!undo.canRedo());
-    undo.setActionName(QStringLiteral("Nobody's"));
-    QCOMPARE(undo.undoText(), QStringLiteral("Undo"));
+    undo.setActionName("Nobody's");
+    QCOMPARE(undo.undoText(), "Undo");
   }
 
   void doesAsTheHistoryInMemoryDoes() {
@@ -130,13 +130,12 @@ class TestUndo : public QObject {
         QCOMPARE(here.value, there.value);
         QCOMPARE(undo.canUndo(), history.canUndo());
         QCOMPARE(undo.canRedo(), history.canRedo());
-        QCOMPARE(undo.undoText(), (QStringLiteral("Undo ") + history.undoActionName()).trimmed());
-        QCOMPARE(undo.redoText(), (QStringLiteral("Redo ") + history.redoActionName()).trimmed());
+        QCOMPARE(undo.undoText(), ("Undo " + history.undoActionName()).trimmed());
+        QCOMPARE(undo.redoText(), ("Redo " + history.redoActionName()).trimmed());
       }
     }
   }
 };
 
 QTEST_MAIN(TestUndo)
-
 #include "tst_undo.moc"

@@ -37,7 +37,7 @@ class FaultyReader : public FileReader {
   explicit FaultyReader(std::unique_ptr<FileReader> file) : file_(std::move(file)) {}
 
   Result<qint64> read(char* buffer, qint64 capacity) override {
-    if (std::exchange(begun_, true)) return failure(ErrorKind::io, QStringLiteral("Bad sector"));
+    if (std::exchange(begun_, true)) return failure(ErrorKind::io, "Bad sector");
     return file_->read(buffer, std::min<qint64>(capacity, 10));
   }
   qint64 size() const override { return file_->size(); }
@@ -68,7 +68,7 @@ class FaultyFolder : public OpenFolder {
 
 }  // namespace
 
-Error fullDisk() { return {ErrorKind::io, QStringLiteral("No space left on device")}; }
+Error fullDisk() { return {ErrorKind::io, "No space left on device"}; }
 
 bool FaultyStore::step() const {
   ++steps;

@@ -18,20 +18,19 @@ class GatedImages : public Images {
   std::optional<QSizeF> vectorSize(const QString&) override { return toldVectorSize; }
 
   std::optional<QImage> thumbnail(const QString& path, int maxPixel) override {
-    pass(QStringLiteral("%1 %2").arg(path).arg(maxPixel));
-    if (path.startsWith(QStringLiteral("bad"))) return std::nullopt;
+    pass(QString("%1 %2").arg(path).arg(maxPixel));
+    if (path.startsWith("bad")) return std::nullopt;
     return QImage(maxPixel, 1, QImage::Format_RGB32);
   }
 
   std::optional<QByteArray> convert(const QString& path, ExportFormat format, QSize size,
                                     double quality) override {
     const auto name = rawValue(format);
-    pass(QStringLiteral("%1 %2 %3x%4 %5")
-             .arg(path, QString::fromLatin1(name.data(), qsizetype(name.size())))
+    pass("%1 %2 %3x%4 %5".arg(path, QString::fromLatin1(name.data(), qsizetype(name.size())))
              .arg(size.width())
              .arg(size.height())
              .arg(quality));
-    if (path.startsWith(QStringLiteral("bad"))) return std::nullopt;
+    if (path.startsWith("bad")) return std::nullopt;
     return QByteArray(size.width() * 1000, 'x');
   }
 

@@ -1,4 +1,5 @@
 #include "platform/controls/Contrast.h"
+#include "testing/Cases.h"
 #include "workspace/Items.h"
 #include "workspace/TestPage.h"
 
@@ -9,9 +10,7 @@
 #include <utility>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
-
 Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
-
 Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 using namespace tarnloft;
@@ -415,30 +414,27 @@ class TestBrandPage : public QObject {
     QCOMPARE(copied(test), "");
   }
 
-  void aRowOfTextIsDraggedBesideItsText_data() {
-    QTest::addColumn<QPoint>("at");
-    QTest::addColumn<bool>("drags");
-    QTest::newRow("by its grip") << QPoint(-12, 20) << true;
-    QTest::newRow("behind its text") << QPoint(300, 20) << true;
-    QTest::newRow("not in its text") << QPoint(10, 20) << false;
-  }
-
   void aRowOfTextIsDraggedBesideItsText() {
-    QFETCH(QPoint, at);
-    TestWorkspace test({sectionOf("A", {headerItem("Heading"), colorItem("b")})});
-    TestPage page(test);
-    const QPoint from = page.tileNamed("Heading")->mapToScene(at).toPoint();
-    QTest::mousePress(&page.view, Qt::LeftButton, {}, from);
-    for (int step = 1; step <= 8; ++step) {
-      QTest::mouseMove(&page.view, from + QPoint(4 * step, 0));
-      page.settle();
-    }
-    QTest::mouseRelease(&page.view, Qt::LeftButton, {}, from + QPoint(32, 0));
-    QTEST(test.drags.items.size() == 1, "drags");
-    if (!test.drags.items.isEmpty()) {
-      QVERIFY(test.drags.items.first().payload && !test.drags.items.first().file);
-      QVERIFY(test.drags.picture.width() > 36 && test.drags.picture.width() < 120);  // of the text
-    }
+    const Cases<QPoint, bool> cases{{"by its grip", QPoint(-12, 20), true},
+                                    {"behind its text", QPoint(300, 20), true},
+                                    {"not in its text", QPoint(10, 20), false}};
+    cases.check([&](const QPoint& at, bool drags) {
+      TestWorkspace test({sectionOf("A", {headerItem("Heading"), colorItem("b")})});
+      TestPage page(test);
+      const QPoint from = page.tileNamed("Heading")->mapToScene(at).toPoint();
+      QTest::mousePress(&page.view, Qt::LeftButton, {}, from);
+      for (int step = 1; step <= 8; ++step) {
+        QTest::mouseMove(&page.view, from + QPoint(4 * step, 0));
+        page.settle();
+      }
+      QTest::mouseRelease(&page.view, Qt::LeftButton, {}, from + QPoint(32, 0));
+      QCOMPARE(test.drags.items.size() == 1, drags);
+      if (!test.drags.items.isEmpty()) {
+        QVERIFY(test.drags.items.first().payload && !test.drags.items.first().file);
+        QVERIFY(test.drags.picture.width() > 36 &&
+                test.drags.picture.width() < 120);  // of the text
+      }
+    });
   }
 
   void theKeyboardDeletesARowOfText() {
@@ -577,58 +573,47 @@ class TestBrandPage : public QObject {
     QCOMPARE(shown.pixelColor(corner + QPoint(20, 20)), QColor(Qt::blue));
   }
 
-  void aBrokenPictureTellsSo_data() {
-    QTest::addColumn<QString>("file");
-    QTest::newRow("that can't be decoded") << "broken.png";
-    QTest::newRow("that leads out of the package") << "../a.png";
-  }
-
   void aBrokenPictureTellsSo() {
-    QFETCH(QString, file);
-    TestWorkspace test({sectionOf("A", {imageItem("a", file), videoItem("v", "broken.mp4")})});
-    TestPage page(test);
-    QTRY_VERIFY(accessible(page, QAccessible::StaticText, "Couldn't load"));
-    QCOMPARE(
-        accessible(page, QAccessible::StaticText, "Couldn't load")->text(QAccessible::Description),
-        "Couldn't load “a” — the file may be corrupt. Re-import it.");
-  }
-
-  void itsWordIsReadableOnEveryBackdrop_data() {
-    QTest::addColumn<bool>("dark");
-    QTest::addColumn<std::optional<ImageBackground>>("backdrop");
-    for (const bool dark : {false, true}) {
-      const char* look = dark ? "dark" : "light";
-      QTest::addRow("none, %s", look) << dark << std::optional<ImageBackground>();
-      for (const auto one : allCases<ImageBackground>()) {
-        QTest::addRow("%s, %s", rawValue(one).data(), look) << dark << std::optional(one);
-      }
-    }
+    const Cases<QString> cases{{"that can't be decoded", "broken.png"},
+                               {"that leads out of the package", "../a.png"}};
+    cases.check([&](const QString& file) {
+      TestWorkspace test({sectionOf("A", {imageItem("a", file), videoItem("v", "broken.mp4")})});
+      TestPage page(test);
+      QTRY_VERIFY(accessible(page, QAccessible::StaticText, "Couldn't load"));
+      QCOMPARE(accessible(page, QAccessible::StaticText, "Couldn't load")
+                   ->text(QAccessible::Description),
+               "Couldn't load “a” — the file may be corrupt. Re-import it.");
+    });
   }
 
   // By what is drawn: the symbol's ink against all that is drawn beside it.
   void itsWordIsReadableOnEveryBackdrop() {
-    QFETCH(bool, dark);
-    QFETCH(std::optional<ImageBackground>, backdrop);
-    Item item = imageItem("a", "broken.png");
-    item.imageBackground = backdrop;
-    TestWorkspace test({sectionOf("A", {item})});
-    TestPage page(test);
-    Theme::of(*page.view.engine()).setDark(dark);
-    QTRY_VERIFY(accessible(page, QAccessible::StaticText, "Couldn't load"));
-    page.settle();
-    const QImage shown = page.view.grabWindow();
-    const QQuickItem* tile = page.tileNamed("a");
-    const QPoint middle = tile->mapToScene({tile->width() / 2, 48}).toPoint();
-    double best = 0;
-    for (int y = -20; y < 0; ++y) {
-      const QColor ink = shown.pixelColor(middle + QPoint(2, y));
-      double worst = 21;
-      for (int x = 20; x < 40; ++x) {
-        worst = std::min(worst, contrastRatio(ink, shown.pixelColor(middle + QPoint(x, -20))));
+    QList<std::optional<ImageBackground>> backdrops{std::nullopt};
+    for (const auto one : allCases<ImageBackground>()) backdrops << one;
+    for (const auto& backdrop : backdrops) {
+      Item item = imageItem("a", "broken.png");
+      item.imageBackground = backdrop;
+      TestWorkspace test({sectionOf("A", {item})});
+      TestPage page(test);
+      QTRY_VERIFY(accessible(page, QAccessible::StaticText, "Couldn't load"));
+      for (const bool dark : {false, true}) {
+        Theme::of(*page.view.engine()).setDark(dark);
+        page.settle();
+        const QImage shown = page.view.grabWindow();
+        const QQuickItem* tile = page.tileNamed("a");
+        const QPoint middle = tile->mapToScene({tile->width() / 2, 48}).toPoint();
+        double best = 0;
+        for (int y = -20; y < 0; ++y) {
+          const QColor ink = shown.pixelColor(middle + QPoint(2, y));
+          double worst = 21;
+          for (int x = 20; x < 40; ++x) {
+            worst = std::min(worst, contrastRatio(ink, shown.pixelColor(middle + QPoint(x, -20))));
+          }
+          best = std::max(best, worst);
+        }
+        QVERIFY2(best >= 4.5, qPrintable(QString::number(best)));
       }
-      best = std::max(best, worst);
     }
-    QVERIFY2(best >= 4.5, qPrintable(QString::number(best)));
   }
 
   void assistiveTechnologyFindsEverything() {

@@ -1,4 +1,5 @@
 #include "platform/controls/Spring.h"
+#include "testing/Cases.h"
 #include "workspace/FlowLayout.h"
 #include "workspace/Items.h"
 #include "workspace/SpringMotion.h"
@@ -28,26 +29,22 @@ class TestFlowLayout : public QObject {
   Q_OBJECT
 
  private slots:
-  void fillsTheWidthWithColumns_data() {
-    QTest::addColumn<double>("width");
-    QTest::addColumn<QList<int>>("widths");  // of the tiles of the first row
-    QTest::newRow("just two") << 278.0 << QList<int>{132, 132};
-    QTest::newRow("not quite two") << 277.0 << QList<int>{180};
-    QTest::newRow("narrower than one") << 100.0 << QList<int>{100};
-    QTest::newRow("points left over") << 281.0 << QList<int>{134, 133};
-    QTest::newRow("six") << 952.0 << QList<int>{147, 147, 147, 147, 147, 147};
-  }
-
   void fillsTheWidthWithColumns() {
-    QFETCH(double, width);
-    QFETCH(QList<int>, widths);
-    const FlowLayout layout = layoutOf("cccccccccccc", width);
-    double x = 0;
-    for (int i = 0; i < widths.size(); ++i) {
-      QCOMPARE(layout.rect(i), QRectF(x, 0, widths.at(i), 132));
-      x += widths.at(i) + 14;
-    }
-    QCOMPARE(layout.rect(int(widths.size())).topLeft(), QPointF(0, 146));
+    // of the tiles of the first row: widths
+    const Cases<double, QList<int>> cases{{"just two", 278.0, QList<int>{132, 132}},
+                                          {"not quite two", 277.0, QList<int>{180}},
+                                          {"narrower than one", 100.0, QList<int>{100}},
+                                          {"points left over", 281.0, QList<int>{134, 133}},
+                                          {"six", 952.0, QList<int>{147, 147, 147, 147, 147, 147}}};
+    cases.check([&](double width, const QList<int>& widths) {
+      const FlowLayout layout = layoutOf("cccccccccccc", width);
+      double x = 0;
+      for (int i = 0; i < widths.size(); ++i) {
+        QCOMPARE(layout.rect(i), QRectF(x, 0, widths.at(i), 132));
+        x += widths.at(i) + 14;
+      }
+      QCOMPARE(layout.rect(int(widths.size())).topLeft(), QPointF(0, 146));
+    });
   }
 
   void makesEachRowAsHighAsItsHighestTile() {
@@ -80,28 +77,23 @@ class TestFlowLayout : public QObject {
     QCOMPARE(layout.range(425, 1000), Range());
   }
 
-  void leadsFromTileToTile_data() {
-    using Direction = FlowLayout::Direction;
-    QTest::addColumn<int>("from");
-    QTest::addColumn<Direction>("direction");
-    QTest::addColumn<int>("to");
-    // Rows: 0 | 1 2 3 | 4 | 5 6 | 7
-    QTest::newRow("right") << 1 << Direction::right << 2;
-    QTest::newRow("right over a block") << 3 << Direction::right << 5;
-    QTest::newRow("right at the end") << 6 << Direction::right << 6;
-    QTest::newRow("left at the beginning") << 1 << Direction::left << 1;
-    QTest::newRow("down over a block") << 2 << Direction::down << 6;
-    QTest::newRow("down into a shorter row") << 3 << Direction::down << 6;
-    QTest::newRow("down at the end") << 5 << Direction::down << 5;
-    QTest::newRow("up over a block") << 6 << Direction::up << 2;
-    QTest::newRow("first") << 6 << Direction::first << 1;
-    QTest::newRow("last") << 1 << Direction::last << 6;
-  }
-
   void leadsFromTileToTile() {
-    QFETCH(int, from);
-    QFETCH(FlowLayout::Direction, direction);
-    QTEST(layoutOf("bcccbccb", 426).neighbour(from, direction), "to");
+    using enum FlowLayout::Direction;
+    // Rows: 0 | 1 2 3 | 4 | 5 6 | 7
+    const FlowLayout layout = layoutOf("bcccbccb", 426);
+    const Cases<int, FlowLayout::Direction, int> cases{{"right", 1, right, 2},
+                                                       {"right over a block", 3, right, 5},
+                                                       {"right at the end", 6, right, 6},
+                                                       {"left at the beginning", 1, left, 1},
+                                                       {"down over a block", 2, down, 6},
+                                                       {"down into a shorter row", 3, down, 6},
+                                                       {"down at the end", 5, down, 5},
+                                                       {"up over a block", 6, up, 2},
+                                                       {"first", 6, first, 1},
+                                                       {"last", 1, last, 6}};
+    cases.check([&](int from, FlowLayout::Direction direction, int to) {
+      QCOMPARE(layout.neighbour(from, direction), to);
+    });
   }
 
   void movesLikeTheToldSpring() {
@@ -140,5 +132,4 @@ class TestFlowLayout : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestFlowLayout)
-
 #include "tst_flowlayout.moc"

@@ -1,5 +1,6 @@
 #include "document/Package.h"
 #include "document/UndoHistory.h"
+#include "testing/Cases.h"
 #include "testing/RandomBrand.h"
 #include "testing/TestServices.h"
 #include "workspace/GroupOperations.h"
@@ -128,57 +129,41 @@ class TestGroupOperations : public QObject {
     QCOMPARE(grouping.shape(), shape);
   }
 
-  void countsWhatIsThere_data() {
-    QTest::addColumn<QString>("selected");
-    QTest::addColumn<int>("exportable");
-    QTest::addColumn<int>("images");
-    QTest::addColumn<bool>("canGroup");
-    QTest::newRow("nothing") << "" << 0 << 0 << false;
-    QTest::newRow("one image") << "i" << 1 << 1 << false;
-    QTest::newRow("two images") << "ij" << 2 << 2 << true;
-    QTest::newRow("two images and a colour") << "ijc" << 2 << 2 << false;
-    QTest::newRow("two colours") << "cd" << 0 << 0 << false;
-    QTest::newRow("two images and one that has gone") << "ij?" << 2 << 2 << true;
-    QTest::newRow("one image and one that has gone") << "i?" << 1 << 1 << false;
-    QTest::newRow("what is elsewhere") << "ijl" << 2 << 2 << true;
-  }
-
   void countsWhatIsThere() {
-    QFETCH(QString, selected);
-    Grouping grouping;
-    grouping.select(selected);
-    QTEST(int(grouping.operations.exportableCount()), "exportable");
-    QTEST(int(grouping.operations.selectedImageCount()), "images");
-    QTEST(grouping.operations.canGroupAsLogo(), "canGroup");
-    grouping.document->edit([](Brand& brand) { brand.sections.removeFirst(); });
-    QCOMPARE(grouping.operations.exportableCount(), 0);
-    QVERIFY(!grouping.operations.canGroupAsLogo());
-  }
-
-  void selectsAllInContext_data() {
-    QTest::addColumn<QString>("s");
-    QTest::addColumn<QString>("selected");
-    QTest::addColumn<int>("section");
-    QTest::addColumn<int>("count");
-    QTest::newRow("the selected section without its blocks") << "ichj"
-                                                             << "i" << 0 << 3;
-    QTest::newRow("the first section") << "ichj"
-                                       << "" << 0 << 3;
-    QTest::newRow("the first section with tiles") << "h"
-                                                  << "" << 1 << 2;
-    QTest::newRow("a section of blocks keeps its selection") << "h"
-                                                             << "h" << 0 << 1;
+    const Cases<QString, int, int, bool> cases{
+        {"nothing", "", 0, 0, false},
+        {"one image", "i", 1, 1, false},
+        {"two images", "ij", 2, 2, true},
+        {"two images and a colour", "ijc", 2, 2, false},
+        {"two colours", "cd", 0, 0, false},
+        {"two images and one that has gone", "ij?", 2, 2, true},
+        {"one image and one that has gone", "i?", 1, 1, false},
+        {"what is elsewhere", "ijl", 2, 2, true}};
+    cases.check([&](const QString& selected, int exportable, int images, bool canGroup) {
+      Grouping grouping;
+      grouping.select(selected);
+      QCOMPARE(int(grouping.operations.exportableCount()), exportable);
+      QCOMPARE(int(grouping.operations.selectedImageCount()), images);
+      QCOMPARE(grouping.operations.canGroupAsLogo(), canGroup);
+      grouping.document->edit([](Brand& brand) { brand.sections.removeFirst(); });
+      QCOMPARE(grouping.operations.exportableCount(), 0);
+      QVERIFY(!grouping.operations.canGroupAsLogo());
+    });
   }
 
   void selectsAllInContext() {
-    QFETCH(QString, s);
-    QFETCH(QString, selected);
-    QFETCH(int, section);
-    Grouping grouping(s);
-    grouping.select(selected);
-    grouping.operations.selectAllInContext();
-    QCOMPARE(grouping.selection.sectionID(), grouping.at(section).id);
-    QTEST(grouping.selection.count(), "count");
+    const Cases<QString, QString, int, int> cases{
+        {"the selected section without its blocks", "ichj", "i", 0, 3},
+        {"the first section", "ichj", "", 0, 3},
+        {"the first section with tiles", "h", "", 1, 2},
+        {"a section of blocks keeps its selection", "h", "h", 0, 1}};
+    cases.check([&](const QString& s, const QString& selected, int section, int count) {
+      Grouping grouping(s);
+      grouping.select(selected);
+      grouping.operations.selectAllInContext();
+      QCOMPARE(grouping.selection.sectionID(), grouping.at(section).id);
+      QCOMPARE(grouping.selection.count(), count);
+    });
   }
 
   void duplicatesDifferInTheirIdsAlone() {
@@ -286,5 +271,4 @@ class TestGroupOperations : public QObject {
 };
 
 QTEST_GUILESS_MAIN(TestGroupOperations)
-
 #include "tst_groupoperations.moc"

@@ -1,3 +1,4 @@
+#include "testing/Cases.h"
 #include "workspace/TileSelection.h"
 
 #include <QRandomGenerator>
@@ -52,49 +53,43 @@ class TestSelection : public QObject {
   Q_OBJECT
 
  private slots:
-  void followsClicks_data() {
-    QTest::addColumn<QString>("script");
-    QTest::addColumn<QString>("result");
-    const auto row = [](const char* name, const char* script, const char* result) {
-      QTest::newRow(name) << script << result;
-    };
-    row("one", "+a", "s:a|a");
-    row("a second", "+a +b", "s:ab|b");
-    row("away again", "+a +b +b", "s:a|b");
-    row("the only one away", "+a +a", "");
-    row("a range", "+b >d", "s:bcd|b");
-    row("a range backwards", "+d >b", "s:bcd|d");
-    row("a range of all", "+a >d", "s:abcd|a");
-    row("a range to itself", "+b >b", "s:b|b");
-    row("a range without an anchor", ">c", "s:c|c");
-    row("two ranges of one anchor", "+b >d >a", "s:abcd|b");
-    row("a range from one that was taken away", "+a +d +d >b", "s:abcd|d");
-    row("a range to what isn't in the order", "+a >x", "s:ax|a");
-    row("a range from what isn't in the order", "+x >b", "s:bx|x");
-    row("another section", "+a +b t +c", "t:c|c");
-    row("the same tile in another section", "+a t +a", "t:a|a");
-    row("a range in another section", "+a t >c", "t:c|c");
-    row("cleared", "+a >c -", "");
-    row("cleared twice", "- -", "");
-    row("all", "*abc", "s:abc|c");
-    row("all of another section", "+a t *bc", "t:bc|c");
-    row("all of nothing", "+a *", "s:a|a");
-    row("all of nothing elsewhere", "+a t *", "s:a|a");
-    row("a range behind all", "*ab >d", "s:abcd|b");
-  }
-
   void followsClicks() {
-    QFETCH(QString, script);
-    TileSelection selection;
-    run(selection, script);
-    QTEST(state(selection), "result");
-    for (const QChar tile : QString("abcdx")) {
-      for (const QChar section : QString("st")) {
-        const bool isIn =
-            selection.sectionID() == id(section) && selection.ids().contains(id(tile));
-        QCOMPARE(selection.contains(id(tile), id(section)), isIn);
+    const Cases<QString, QString> cases{
+        {"one", "+a", "s:a|a"},
+        {"a second", "+a +b", "s:ab|b"},
+        {"away again", "+a +b +b", "s:a|b"},
+        {"the only one away", "+a +a", ""},
+        {"a range", "+b >d", "s:bcd|b"},
+        {"a range backwards", "+d >b", "s:bcd|d"},
+        {"a range of all", "+a >d", "s:abcd|a"},
+        {"a range to itself", "+b >b", "s:b|b"},
+        {"a range without an anchor", ">c", "s:c|c"},
+        {"two ranges of one anchor", "+b >d >a", "s:abcd|b"},
+        {"a range from one that was taken away", "+a +d +d >b", "s:abcd|d"},
+        {"a range to what isn't in the order", "+a >x", "s:ax|a"},
+        {"a range from what isn't in the order", "+x >b", "s:bx|x"},
+        {"another section", "+a +b t +c", "t:c|c"},
+        {"the same tile in another section", "+a t +a", "t:a|a"},
+        {"a range in another section", "+a t >c", "t:c|c"},
+        {"cleared", "+a >c -", ""},
+        {"cleared twice", "- -", ""},
+        {"all", "*abc", "s:abc|c"},
+        {"all of another section", "+a t *bc", "t:bc|c"},
+        {"all of nothing", "+a *", "s:a|a"},
+        {"all of nothing elsewhere", "+a t *", "s:a|a"},
+        {"a range behind all", "*ab >d", "s:abcd|b"}};
+    cases.check([&](const QString& script, const QString& result) {
+      TileSelection selection;
+      run(selection, script);
+      QCOMPARE(state(selection), result);
+      for (const QChar tile : QString("abcdx")) {
+        for (const QChar section : QString("st")) {
+          const bool isIn =
+              selection.sectionID() == id(section) && selection.ids().contains(id(tile));
+          QCOMPARE(selection.contains(id(tile), id(section)), isIn);
+        }
       }
-    }
+    });
   }
 
   void tellsOfWholeChangesOnly() {
@@ -139,5 +134,4 @@ class TestSelection : public QObject {
 };
 
 QTEST_APPLESS_MAIN(TestSelection)
-
 #include "tst_selection.moc"

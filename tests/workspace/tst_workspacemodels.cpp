@@ -1,3 +1,4 @@
+#include "testing/Cases.h"
 #include "testing/RandomBrand.h"
 #include "workspace/Items.h"
 #include "workspace/TestWorkspace.h"
@@ -143,33 +144,28 @@ class TestWorkspaceModels : public QObject {
     QCOMPARE(visible(), "ABC");
   }
 
-  void clicksSelectOrAct_data() {
-    QTest::addColumn<int>("modifiers");
-    QTest::addColumn<QStringList>("selected");
-    QTest::addColumn<QStringList>("copied");
-    const int plain = Qt::NoModifier, command = Qt::ControlModifier, shift = Qt::ShiftModifier;
-    QTest::newRow("plain") << plain << QStringList() << QStringList{"#123456"};
-    QTest::newRow("command") << command << QStringList{"a", "d"} << QStringList();
-    QTest::newRow("shift") << shift << QStringList{"a", "b", "c", "d"} << QStringList();
-    QTest::newRow("command comes first")
-        << (command | shift) << QStringList{"a", "d"} << QStringList();
-  }
-
   void clicksSelectOrAct() {
-    TestWorkspace test({sectionOf(
-        "A", {colorItem("a"), textItem("b"), colorItem("c"), colorItem("d"), colorItem("e")})});
-    const auto& items = test.stored(0).items;
-    test.selection.toggle(items.at(0).id, test.stored(0).id);
-    Tile tile(test.section(0), items.at(3));
-    QVERIFY(!tile.isSelected() && tile.isSectionSelected());
-    QFETCH(int, modifiers);
-    tile.click(modifiers);
-    QStringList selected;
-    for (const Item& item : items) {
-      if (test.selection.contains(item.id, test.stored(0).id)) selected << item.displayName();
-    }
-    QTEST(selected, "selected");
-    QTEST(test.pasteboard.texts, "copied");
+    const int plain = Qt::NoModifier, command = Qt::ControlModifier, shift = Qt::ShiftModifier;
+    const Cases<int, QStringList, QStringList> cases{
+        {"plain", plain, QStringList(), QStringList{"#123456"}},
+        {"command", command, QStringList{"a", "d"}, QStringList()},
+        {"shift", shift, QStringList{"a", "b", "c", "d"}, QStringList()},
+        {"command comes first", (command | shift), QStringList{"a", "d"}, QStringList()}};
+    cases.check([&](int modifiers, const QStringList& selected, const QStringList& copied) {
+      TestWorkspace test({sectionOf(
+          "A", {colorItem("a"), textItem("b"), colorItem("c"), colorItem("d"), colorItem("e")})});
+      const auto& items = test.stored(0).items;
+      test.selection.toggle(items.at(0).id, test.stored(0).id);
+      Tile tile(test.section(0), items.at(3));
+      QVERIFY(!tile.isSelected() && tile.isSectionSelected());
+      tile.click(modifiers);
+      QStringList names;
+      for (const Item& item : items) {
+        if (test.selection.contains(item.id, test.stored(0).id)) names << item.displayName();
+      }
+      QCOMPARE(names, selected);
+      QCOMPARE(test.pasteboard.texts, copied);
+    });
   }
 
   void coloursAreCopiedInTheChosenNotation() {
@@ -182,32 +178,25 @@ class TestWorkspaceModels : public QObject {
     QCOMPARE(test.pasteboard.texts.size(), 1);
   }
 
-  void theAddMenuAppends_data() {
-    QTest::addColumn<Verb>("verb");
-    QTest::addColumn<ItemPayload>("payload");
-    const auto row = [](const char* name, Verb verb, const ItemPayload& payload) {
-      QTest::newRow(name) << verb << payload;
-    };
-    row("header", &SectionModel::addHeader, HeaderPayload{"Heading", 1});
-    row("text", &SectionModel::addText, TextPayload{"Add a note…"});
-    row("color", &SectionModel::addColor, ColorPayload{{"#4C6FFF", {}, {}}});
-    row("font", &SectionModel::addFont,
-        FontPayload{{"Helvetica Neue", "Regular", "The quick brown fox", {}, {}}});
-    row("code", &SectionModel::addCode, CodePayload{{"swift", "// Snippet", {}}});
-    row("logo set", &SectionModel::addLogoSet, LogoPayload{{"Logo", {}}});
-  }
-
   void theAddMenuAppends() {
-    TestWorkspace test({sectionOf("A", {colorItem("a")})});
-    QFETCH(Verb, verb);
-    (test.section(0).*verb)();
-    QCOMPARE(test.stored(0).items.size(), 2);
-    QFETCH(ItemPayload, payload);
-    QVERIFY(test.stored(0).items.at(1).payload == payload);
-    QVERIFY(!test.undo.canUndo());
-    test.section(0).addGradient();
-    const auto gradient = std::get<GradientPayload>(test.stored(0).items.at(2).payload).value;
-    QCOMPARE(gradient.cssString(), "linear-gradient(45deg, #4C6FFF 0%, #9C4CFF 100%)");
+    const Cases<Verb, ItemPayload> cases{
+        {"header", &SectionModel::addHeader, HeaderPayload{"Heading", 1}},
+        {"text", &SectionModel::addText, TextPayload{"Add a note…"}},
+        {"color", &SectionModel::addColor, ColorPayload{{"#4C6FFF", {}, {}}}},
+        {"font", &SectionModel::addFont,
+         FontPayload{{"Helvetica Neue", "Regular", "The quick brown fox", {}, {}}}},
+        {"code", &SectionModel::addCode, CodePayload{{"swift", "// Snippet", {}}}},
+        {"logo set", &SectionModel::addLogoSet, LogoPayload{{"Logo", {}}}}};
+    cases.check([&](const Verb& verb, const ItemPayload& payload) {
+      TestWorkspace test({sectionOf("A", {colorItem("a")})});
+      (test.section(0).*verb)();
+      QCOMPARE(test.stored(0).items.size(), 2);
+      QVERIFY(test.stored(0).items.at(1).payload == payload);
+      QVERIFY(!test.undo.canUndo());
+      test.section(0).addGradient();
+      const auto gradient = std::get<GradientPayload>(test.stored(0).items.at(2).payload).value;
+      QCOMPARE(gradient.cssString(), "linear-gradient(45deg, #4C6FFF 0%, #9C4CFF 100%)");
+    });
   }
 
   void chosenFilesAreImported() {
