@@ -1,23 +1,12 @@
 #include "assets/AssetMetadata.h"
 #include "assets/ByteCount.h"
 #include "testing/Cases.h"
-#include "testing/GatedImages.h"
+#include "testing/FakeMedia.h"
 #include "testing/TestServices.h"
 
 #include <QTest>
 
 using namespace tarnloft;
-
-namespace {
-
-class ToldVideos : public Videos {
- public:
-  std::optional<VideoProperties> told;
-  std::optional<VideoProperties> properties(const QString&) override { return told; }
-  std::optional<QImage> frame(const QString&, double, int) override { return std::nullopt; }
-};
-
-}  // namespace
 
 class TestAssetMetadata : public QObject {
   Q_OBJECT
@@ -67,7 +56,7 @@ class TestAssetMetadata : public QObject {
         {"1 KB", "unknown", false, false, 0, "1 KB"}};
     cases.check(
         [&](const QString& name, bool isReadable, bool hasAlpha, double dpi, const QString& line) {
-          GatedImages images;
+          FakeImages images;
           if (isReadable) images.told = ImageProperties{{30, 20}, hasAlpha, dpi};
           QCOMPARE(AssetMetadata::imageSpec(disk_.files, images, written(name)).line(), line);
         });
@@ -84,9 +73,9 @@ class TestAssetMetadata : public QObject {
         {"turned", {}, QSize(-1080, -1920), "1080 × 1920 px · MOV · 1 KB"},
         {"without end", qInf(), {}, "MOV · 1 KB"}};
     cases.check(
-        [&](std::optional<double> duration, std::optional<QSize> size, const QString& line) {
-          ToldVideos videos;
-          videos.told = VideoProperties{duration, size};
+        [&](std::optional<double> duration, std::optional<QSize> told, const QString& line) {
+          FakeVideos videos;
+          videos.told = VideoProperties{duration, told};
           const QString path = written("a.mov");
           QCOMPARE(AssetMetadata::videoSpec(disk_.files, videos, path).line(), line);
           videos.told = std::nullopt;
@@ -95,7 +84,7 @@ class TestAssetMetadata : public QObject {
   }
 
   void aMissingFileTellsNothing() {
-    GatedImages images;
+    FakeImages images;
     const QString path = disk_.path("missing");
     QVERIFY(!AssetMetadata::byteString(disk_.files, path));
     QCOMPARE(AssetMetadata::imageSpec(disk_.files, images, path), AssetSpec());

@@ -7,6 +7,7 @@
 #include "model/Uuid.h"
 #include "testing/Cases.h"
 #include "testing/FakeDrops.h"
+#include "testing/FakeMedia.h"
 #include "testing/TestServices.h"
 
 #include <QTest>
@@ -51,25 +52,6 @@ struct Dragging {
 
 Item image(const AssetRef& asset) { return Item::create(ImagePayload{asset, std::nullopt}); }
 
-// Pictures of 1000 by 500 pixels, with so many bytes to each in any format.
-class PlainImages : public Images {
- public:
-  double bytesPerPixel = 2;
-  QList<QSize> converted;
-  std::optional<ImageProperties> properties(const QString& path) override {
-    return path == "missing" ? std::nullopt
-                             : std::optional(ImageProperties{{1000, 500}, false, std::nullopt});
-  }
-  std::optional<QSizeF> vectorSize(const QString&) override { return std::nullopt; }
-  std::optional<QImage> thumbnail(const QString&, int) override { return std::nullopt; }
-  std::optional<QByteArray> convert(const QString&, ExportFormat format, QSize size,
-                                    double) override {
-    converted << size;
-    if (format != ExportFormat::tiff) return std::nullopt;
-    return QByteArray(qsizetype(size.width() * size.height() * bytesPerPixel), 't');
-  }
-};
-
 }  // namespace
 
 class TestDragOut : public QObject {
@@ -99,8 +81,7 @@ class TestDragOut : public QObject {
                                                   dragging.assetPath("stored.png"), originalName);
       QCOMPARE(url, dragging.folder + '/' + copy);
       QCOMPARE(contentOf(url), "stored.png");
-      QCOMPARE(QDir(dragging.temporary).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
-               QStringList("tarnloft-drag"));
+      QCOMPARE(namesIn(dragging.temporary), QStringList("tarnloft-drag"));
     }
   }
 
@@ -143,19 +124,18 @@ class TestDragOut : public QObject {
   }
 
   void handsOutByKind() {
-    const Cases<QString, QString, bool> cases{
-        {"png", "png", "Client.png", true},
-        {"svg", "svg", "Client.svg", true},
-        {"pdf image", "pdf image", "Client.pdf", false},
-        {"image without extension", "image without extension", "Client", false},
-        {"video", "video", "Client.mp4", false},
-        {"font", "font", "Client.ttf", false},
-        {"name-only font", "name-only font", "", false},
-        {"logo", "logo", "Primary.png", true},
-        {"empty logo", "empty logo", "", false},
-        {"color", "color", "", false},
-        {"header", "header", "", false},
-        {"lost image", "lost image", "", false}};
+    const Cases<QString, bool> cases{{"png", "Client.png", true},
+                                     {"svg", "Client.svg", true},
+                                     {"pdf image", "Client.pdf", false},
+                                     {"image without extension", "Client", false},
+                                     {"video", "Client.mp4", false},
+                                     {"font", "Client.ttf", false},
+                                     {"name-only font", "", false},
+                                     {"logo", "Primary.png", true},
+                                     {"empty logo", "", false},
+                                     {"color", "", false},
+                                     {"header", "", false},
+                                     {"lost image", "", false}};
     cases.check([&](const QString& kind, const QString& file, bool tiff) {
       Dragging dragging;
       const AssetRef asset = dragging.asset("stored", file),
@@ -199,11 +179,16 @@ class TestDragOut : public QObject {
         {"smaller", 2.0, qint64(999'999), qint64(800'000)},
         {"much smaller", 4.0, qint64(10'000), qint64(8'000)}};
     cases.check([&](double bytesPerPixel, qint64 maxBytes, qint64 atLeast) {
-      PlainImages images;
-      images.bytesPerPixel = bytesPerPixel;
+      FakeImages images;
+      images.told = ImageProperties{{1000, 500}, false, std::nullopt};
+      QSizeF last;
+      images.converted = [&](ExportFormat format, QSize size) {
+        last = size;
+        const double bytes = size.width() * size.height() * bytesPerPixel;
+        return QByteArray(format == ExportFormat::tiff ? qsizetype(bytes) : 0, 't');
+      };
       const auto tiff = TiffFlavour::make(images, "a.png", maxBytes);
       QVERIFY(tiff && tiff->size() <= maxBytes && tiff->size() >= atLeast);
-      const QSizeF last = images.converted.last();
       QVERIFY(qAbs(last.width() / last.height() - 2) < 0.05);
       QVERIFY(!TiffFlavour::make(images, "missing", maxBytes));
     });

@@ -1,5 +1,5 @@
 #include "assets/ThumbnailLoader.h"
-#include "testing/GatedImages.h"
+#include "testing/FakeMedia.h"
 
 #include <QTest>
 
@@ -8,12 +8,13 @@ using namespace tarnloft;
 namespace {
 
 struct Loader {
-  GatedImages images;
+  FakeImages images;
   BackgroundWork work{1};
   ThumbnailLoader thumbnails{images, work};
   QStringList got;  // "name" of each callback, with "!" for nothing
 
-  ~Loader() { images.open(10'000); }
+  Loader() { images.close(); }
+  ~Loader() { images.open(); }
 
   ThumbnailLoader::Request ask(const char* name, int maxPixel = 64) {
     const QString path = QString::fromLatin1(name);
@@ -42,30 +43,15 @@ class TestThumbnails : public QObject {
   Q_OBJECT
 
  private slots:
-  void decodesOnceForOneKey() {
+  void decodesOnceForEachSizeOfAFile() {
     Loader loader;
-    const auto first = loader.ask("a"), second = loader.ask("a");
-    loader.images.open(1);
-    QTRY_COMPARE(loader.got, QStringList({"a", "a"}));
-    QCOMPARE(loader.images.begun(), QStringList("a 64"));
-  }
-
-  void keepsEachSizeOfAFile() {
-    Loader loader;
-    const auto small = loader.ask("a", 128), large = loader.ask("a", 256);
-    loader.finish(2);
-    const auto again = loader.ask("a", 128), alsoAgain = loader.ask("a", 256);
-    QCOMPARE(loader.got.size(), 4);
-    QCOMPARE(loader.images.begun().size(), 2);
-  }
-
-  void givesAKeptPictureAtOnce() {
-    Loader loader;
-    const auto first = loader.ask("a");
+    const auto first = loader.ask("a"), second = loader.ask("a"), large = loader.ask("a", 256);
     QVERIFY(loader.got.isEmpty());
-    loader.finish(1);
-    const auto second = loader.ask("a");
-    QCOMPARE(loader.got.size(), 2);
+    loader.images.open(2);
+    QTRY_COMPARE(loader.got.size(), 3);
+    const auto again = loader.ask("a"), largeAgain = loader.ask("a", 256);  // kept: at once
+    QCOMPARE(loader.got.size(), 5);
+    QCOMPARE(loader.images.begun().size(), 2);
   }
 
   void triesAFileThatFailedAgain() {
@@ -166,7 +152,8 @@ class TestThumbnails : public QObject {
   }
 
   void mayEndBeforeItsRequests() {
-    GatedImages images;
+    FakeImages images;
+    images.close();
     BackgroundWork work(1);
     auto loader = std::make_unique<ThumbnailLoader>(images, work);
     const auto fail = [](const std::optional<QImage>&) { QFAIL("called after the end"); };
@@ -202,7 +189,8 @@ class TestThumbnails : public QObject {
   }
 
   void finishWaitsForWhatHasBegunAlone() {
-    GatedImages images;
+    FakeImages images;
+    images.close();
     BackgroundWork work(1);
     ThumbnailLoader loader(images, work);
     const auto ignore = [](const std::optional<QImage>&) {};

@@ -69,35 +69,24 @@ class TestAccessibility : public QObject {
   }
 
   void rolesAndNames() {
-    const Cases<QString, QAccessible::Role, QString> cases{
-        {"Button { text: 'Create'", "Button { text: 'Create'", QAccessible::Button, "Create"},
-        {"Button { symbol: 'trash'; help: 'Delete'", "Button { symbol: 'trash'; help: 'Delete'",
-         QAccessible::Button, "Delete"},
-        {"MenuButton { text: 'Move to…'; menu: Menu {}",
-         "MenuButton { text: 'Move to…'; menu: Menu {}", QAccessible::ButtonMenu, "Move to…"},
-        {"TextField { placeholderText: 'Brand name'", "TextField { placeholderText: 'Brand name'",
-         QAccessible::EditableText, "Brand name"},
-        {"TextArea { accessibleName: 'Note'", "TextArea { accessibleName: 'Note'",
-         QAccessible::EditableText, "Note"},
-        {"Switch { accessibleName: 'Show Dock icon'", "Switch { accessibleName: 'Show Dock icon'",
-         QAccessible::CheckBox, "Show Dock icon"},
-        {"CheckBox { text: 'Colors'", "CheckBox { text: 'Colors'", QAccessible::CheckBox, "Colors"},
-        {"SelectionMark { selected: true", "SelectionMark { selected: true", QAccessible::CheckBox,
-         "Deselect"},
-        {"Slider { accessibleName: 'Quality'", "Slider { accessibleName: 'Quality'",
-         QAccessible::Slider, "Quality"},
-        {"ListRow { text: 'Acme'", "ListRow { text: 'Acme'", QAccessible::ListItem, "Acme"},
+    const Cases<QAccessible::Role, QString> cases{
+        {"Button { text: 'Create'", QAccessible::Button, "Create"},
+        {"Button { symbol: 'trash'; help: 'Delete'", QAccessible::Button, "Delete"},
+        {"MenuButton { text: 'Move to…'; menu: Menu {}", QAccessible::ButtonMenu, "Move to…"},
+        {"TextField { placeholderText: 'Brand name'", QAccessible::EditableText, "Brand name"},
+        {"TextArea { accessibleName: 'Note'", QAccessible::EditableText, "Note"},
+        {"Switch { accessibleName: 'Show Dock icon'", QAccessible::CheckBox, "Show Dock icon"},
+        {"CheckBox { text: 'Colors'", QAccessible::CheckBox, "Colors"},
+        {"SelectionMark { selected: true", QAccessible::CheckBox, "Deselect"},
+        {"Slider { accessibleName: 'Quality'", QAccessible::Slider, "Quality"},
+        {"ListRow { text: 'Acme'", QAccessible::ListItem, "Acme"},
         {"PopUpPicker { accessibleName: 'Theme'; options: [PickerOption { text: 'Dark' }]",
-         "PopUpPicker { accessibleName: 'Theme'; options: [PickerOption { text: 'Dark' }]",
          QAccessible::ComboBox, "Theme, Dark"},
-        {"ColorWell { accessibleName: 'Tint'; color: '#4c6fff'",
-         "ColorWell { accessibleName: 'Tint'; color: '#4c6fff'", QAccessible::Button,
+        {"ColorWell { accessibleName: 'Tint'; color: '#4c6fff'", QAccessible::Button,
          "Tint, #4C6FFF"},
-        {"SegmentedPicker { accessibleName: 'Tile size'",
-         "SegmentedPicker { accessibleName: 'Tile size'", QAccessible::Grouping, "Tile size"},
-        {"Toast { message: 'Copied'", "Toast { message: 'Copied'", QAccessible::AlertMessage,
-         "Copied"},
-        {"Label { text: 'Brands'", "Label { text: 'Brands'", QAccessible::StaticText, "Brands"}};
+        {"SegmentedPicker { accessibleName: 'Tile size'", QAccessible::Grouping, "Tile size"},
+        {"Toast { message: 'Copied'", QAccessible::AlertMessage, "Copied"},
+        {"Label { text: 'Brands'", QAccessible::StaticText, "Brands"}};
     cases.check([&](const QString& qml, const QAccessible::Role& role, const QString& name) {
       for (const bool before : {true, false}) {  // assistive technology may come later
         QAccessible::setActive(before);

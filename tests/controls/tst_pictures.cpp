@@ -40,12 +40,6 @@ class TestPictures : public QObject {
         QVERIFY(std::abs(qAlpha(image.pixel(x, y)) - qAlpha(turned.pixel(x, y))) <= 1);
   }
 
-  void aShadowFitsSmallThings() {
-    QSize size;
-    ShadowProvider().requestImage("17/12/20/0/34/100", &size, {});
-    QCOMPARE(size.height(), 34 + 2 * ShadowProvider::extent(12));
-  }
-
   void emojiAreInColor() {
     const Cases<QString, QString> cases{{"in a text", "body", "R&D 🌿"},
                                         {"in a large text", "largeTitle", "R&D 🌿"},

@@ -127,13 +127,13 @@ class TestPointer : public QObject {
   }
 
   void aRightClickOpensTheContextMenu() {
-    const QString tile =
+    const QString piece =
         "Rectangle { objectName: 'tile'; width: 100; height: 100; activeFocusOnTab: true\n"
         "  ContextMenuArea { objectName: 'area'; onRequested: log('requested')\n"
         "    menu: Menu { MenuItem { text: 'Delete'; onTriggered: log('Delete') } } } }";
     const Cases<QString> cases{
-        {"alone", tile},
-        {"of a delegate", QString("Repeater { model: 1; delegate: %1 }").arg(tile)}};
+        {"alone", piece},
+        {"of a delegate", QString("Repeater { model: 1; delegate: %1 }").arg(piece)}};
     cases.check([&](const QString& qml) {
       Stage stage(qml);
       auto* tile = stage.find<QQuickItem>("tile");

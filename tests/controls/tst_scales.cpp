@@ -64,17 +64,17 @@ class TestScales : public QObject {
         {"half a point off", QRectF(10.5, 6.5, 83, 28), 6, 1.0, hairline}};
     cases.check([&](const QRectF& place, int radius, double edge, const QColor& edgeColor) {
       const QColor fill(76, 111, 255);
-      Stage stage(
-          "Rectangle { anchors.fill: parent; color: 'white'\n"
-          "RoundedRectangle { x: %1; y: %2; width: %3; height: %4; radius: %5\n"
-          "  color: '%6'; edgeWidth: %7; edgeColor: '%8' } }".arg(place.x())
-              .arg(place.y())
-              .arg(place.width())
-              .arg(place.height())
-              .arg(radius)
-              .arg(fill.name())
-              .arg(edge)
-              .arg(edgeColor.name(QColor::HexArgb)));
+      Stage stage(QString("Rectangle { anchors.fill: parent; color: 'white'\n"
+                          "RoundedRectangle { x: %1; y: %2; width: %3; height: %4; radius: %5\n"
+                          "  color: '%6'; edgeWidth: %7; edgeColor: '%8' } }")
+                      .arg(place.x())
+                      .arg(place.y())
+                      .arg(place.width())
+                      .arg(place.height())
+                      .arg(radius)
+                      .arg(fill.name())
+                      .arg(edge)
+                      .arg(edgeColor.name(QColor::HexArgb)));
       QVERIFY(stage.ready());
       const QImage window = stage.window()->grabWindow().convertToFormat(QImage::Format_RGB32);
       const qreal ratio = stage.window()->effectiveDevicePixelRatio();

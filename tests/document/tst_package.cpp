@@ -38,13 +38,15 @@ class TestPackage : public QObject {
     });
   }
 
-  void longNamesStayApart() {
-    TestServices disk;
-    for (const char* counter : {"", " 2", " 3"}) {
-      const QString path =
-          Package::uniquePackageURL(disk.files, disk.folder.path(), QString(300, 'x'));
-      QCOMPARE(path, disk.path(QString(239, 'x') + counter + ".tarnloft"));
-      QVERIFY(disk.files.makeFolder(path));
+  void namesThatAreTakenAreCounted() {
+    for (const auto& [brand, name] : {std::pair(QString("\tA/B:C\n"), QString("A-B-C")),
+                                      {QString(300, 'x'), QString(239, 'x')}}) {
+      TestServices disk;
+      for (const char* counter : {"", " 2", " 3"}) {
+        const QString path = Package::uniquePackageURL(disk.files, disk.folder.path(), brand);
+        QCOMPARE(path, disk.path(name + counter + ".tarnloft"));
+        QVERIFY(disk.files.makeFolder(path));
+      }
     }
   }
 };

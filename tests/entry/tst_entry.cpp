@@ -12,18 +12,15 @@ class TestEntry : public QObject {
 
  private slots:
   void dispatches() {
-    const Cases<QString, Mode> cases{
-        {"t", "t", ApplicationMode{}},
-        {"t --SELFTEST --selftest=1", "t --SELFTEST --selftest=1", ApplicationMode{}},
-        {"t --export-page a b --selftest", "t --export-page a b --selftest", SelfTestMode{}},
-        {"t x --export-page a b c", "t x --export-page a b c", PageExportMode{"a", "b"}},
-        {"t --export-page a", "t --export-page a", ApplicationMode{}},
-        {"t --export-page a --seed-logo", "t --export-page a --seed-logo",
-         PageExportMode{"a", "--seed-logo"}},
-        {"t --seed-logo p --export-page a", "t --seed-logo p --export-page a",
-         LogoSeedingMode{"p"}},
-        {"t --seed-logo p --seed-logo q", "t --seed-logo p --seed-logo q", LogoSeedingMode{"p"}},
-        {"t a --seed-logo", "t a --seed-logo", ApplicationMode{}}};
+    const Cases<Mode> cases{{"t", ApplicationMode{}},
+                            {"t --SELFTEST --selftest=1", ApplicationMode{}},
+                            {"t --export-page a b --selftest", SelfTestMode{}},
+                            {"t x --export-page a b c", PageExportMode{"a", "b"}},
+                            {"t --export-page a", ApplicationMode{}},
+                            {"t --export-page a --seed-logo", PageExportMode{"a", "--seed-logo"}},
+                            {"t --seed-logo p --export-page a", LogoSeedingMode{"p"}},
+                            {"t --seed-logo p --seed-logo q", LogoSeedingMode{"p"}},
+                            {"t a --seed-logo", ApplicationMode{}}};
     cases.check(
         [&](const QString& line, const Mode& mode) { QVERIFY(modeOf(line.split(u' ')) == mode); });
   }

@@ -53,11 +53,6 @@ struct Program {
   }
 };
 
-QStringList entries(const QString& folder) {
-  return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System |
-                                QDir::NoDotAndDotDot);
-}
-
 // With one picture.
 bool writePackage(const QString& package) {
   Brand brand = Brand::create("Acme");
@@ -85,7 +80,7 @@ class TestProgram : public QObject {
     QCOMPARE(lines.takeLast(), QByteArray::number(lines.size() - 2) + " passed, 0 failed");
     QCOMPARE(lines.takeLast(), QByteArray());
     for (const QByteArray& line : lines) QVERIFY2(line.startsWith("  ✔ "), line);
-    QCOMPARE(entries(program.path("tmp")), QStringList());
+    QCOMPARE(namesIn(program.path("tmp")), QStringList());
   }
 
   void failedSelfTestCleansUp() {
@@ -101,7 +96,7 @@ class TestProgram : public QObject {
       const Run run = program.runByShell(script);
       QCOMPARE(run.status, 1);
       QVERIFY(run.output.contains(line));
-      QCOMPARE(entries(program.path("tmp")), QStringList());
+      QCOMPARE(namesIn(program.path("tmp")), QStringList());
     });
   }
 
@@ -146,7 +141,7 @@ class TestProgram : public QObject {
       const Run run = program.runByShell("d=$(printf 'caf\\351'); exec \"$t\" " + arguments);
       QCOMPARE(run.status, 1);
       QVERIFY(run.output.isEmpty() && run.errors.isEmpty());
-      QCOMPARE(entries(program.home.path()), QStringList({"p.tarnloft", "tmp"}));
+      QCOMPARE(namesIn(program.home.path()), QStringList({"p.tarnloft", "tmp"}));
     });
   }
 

@@ -135,19 +135,6 @@ class TestSearch : public QObject {
     }
   }
 
-  void findsInStoredOrder() {
-    const QList<BrandAtURL> brands = twoBrands();
-    const auto hits = searchHits(brands, "e");
-    QVERIFY(hits.size() > 3);
-    QCOMPARE(hits.first().brandName, "Acme");
-    QCOMPARE(hits.last().brandURL, "/tmp/B.tarnloft");
-    for (const SearchHit& hit : hits) {
-      QCOMPARE(hit.isSection(), hit.typeLabel == "Section");
-      QVERIFY(!hit.sectionName.isEmpty());
-    }
-    QVERIFY(searchHits(brands, "e") == hits);
-  }
-
   void searchesUnsavedEditsAndWhatChangedOnDisk() {
     TestLibrary library;
     library.add("A");

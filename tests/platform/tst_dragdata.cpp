@@ -174,7 +174,6 @@ class TestDragData : public QObject {
          "none",
          ""}};
     cases.check([&](const Formats& formats, const QByteArray& bytes, const QString& name) {
-      using Formats = QList<QPair<QString, QByteArray>>;
       QThreadPool workers;
       const MimeDrops drops(workers);
       const auto drop = foreign(formats);

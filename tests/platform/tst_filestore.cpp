@@ -39,10 +39,6 @@ Result<void> replaced(FileStore& files, const QString& path, const QByteArray& c
   return files.replace(**file, path);
 }
 
-QStringList entries(const TestServices& disk) {
-  return QDir(disk.folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-}
-
 }  // namespace
 
 class TestFileStore : public QObject {
@@ -155,9 +151,9 @@ class TestFileStore : public QObject {
       auto file = disk.files.createTemporary(disk.path("x"));
       QVERIFY(file && (*file)->write("abc"));
       // Without a name from the start: not even a killed process leaves it behind.
-      QCOMPARE(entries(disk), QStringList());
+      QCOMPARE(namesIn(disk.folder.path()), QStringList());
     }
-    QCOMPARE(entries(disk), QStringList());
+    QCOMPARE(namesIn(disk.folder.path()), QStringList());
   }
 
   void makesParents() {

@@ -74,15 +74,8 @@ class TestImageExport : public QObject {
   }
 
   void doesNotTurn() {
-    QByteArray jpeg;
-    QBuffer buffer(&jpeg);
-    QVERIFY(Chart::image(2).save(&buffer, "jpeg", 100));
-    jpeg.insert(2, QByteArray("\xFF\xE1\x00\x22"
-                              "Exif\0\0II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01"
-                              "\0\0\0\x06\0\0\0\0\0\0\0",
-                              36));
     const QString path = disk_.path("turned.jpg");
-    writeFile(path, jpeg);
+    writeFile(path, turnedJpeg(Chart::image(2), 6));
     QCOMPARE(images_.thumbnail(path, 512)->size(), (Chart::size * 2).transposed());
     QByteArray bytes = *images_.convert(path, ExportFormat::jpeg, Chart::size * 2, 1);
     QBuffer result(&bytes);

@@ -18,11 +18,6 @@ namespace {
 
 constexpr rlim_t limit = 1 << 20;  // bytes of a file
 
-QStringList entries(const QString& folder) {
-  return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System |
-                                QDir::NoDotAndDotDot);
-}
-
 mode_t rightsOf(const QString& path) {
   struct stat info {};
   return ::lstat(QFile::encodeName(path).constData(), &info) == 0 ? info.st_mode & 07777 : 0;
@@ -82,9 +77,9 @@ class TestNewFiles : public QObject {
           return ::setrlimit(RLIMIT_FSIZE, &most) == 0 && make();
         });
         QVERIFY2(killed ? WIFSIGNALED(status) : WIFEXITED(status) && WEXITSTATUS(status) == 1, how);
-        QCOMPARE(entries(folder), QStringList());
+        QCOMPARE(namesIn(folder), QStringList());
         QVERIFY2(make(), how);
-        QCOMPARE(entries(folder), QStringList("new"));
+        QCOMPARE(namesIn(folder), QStringList("new"));
         QCOMPARE(contentOf(folder + "/new").size(), qsizetype(3 * limit));
       }
     }
@@ -100,7 +95,7 @@ class TestNewFiles : public QObject {
         if (!leaveProc(disk.folder.path())) ::_exit(notAllowed);
         const bool made = making.second(disk.files, "/source", folder);
         (void)making.second(disk.files, "/source", folder);  // its place is taken by now
-        return made && entries(folder) == QStringList("new");
+        return made && namesIn(folder) == QStringList("new");
       });
       if (WEXITSTATUS(status) == notAllowed) QSKIP("The system lets nobody change the root folder");
       QVERIFY2(WIFEXITED(status) && WEXITSTATUS(status) == 0, making.first);
@@ -117,15 +112,15 @@ class TestNewFiles : public QObject {
     };
     const auto first = exchanged("first");
     QVERIFY(first && first->displacedPath.isEmpty());
-    QCOMPARE(entries(disk.folder.path()), QStringList("file"));
+    QCOMPARE(namesIn(disk.folder.path()), QStringList("file"));
     const auto second = exchanged("second");
     QVERIFY(second && QFileInfo(second->displacedPath).fileName().startsWith(".tarnloft-"));
     QCOMPARE(contentOf(path), "second");
     QCOMPARE(contentOf(second->displacedPath), "first");
-    QCOMPARE(entries(disk.folder.path()).size(), 2);
+    QCOMPARE(namesIn(disk.folder.path()).size(), 2);
     QVERIFY(disk.files.moveOver(second->displacedPath, path));
     QCOMPARE(contentOf(path), "first");
-    QCOMPARE(entries(disk.folder.path()), QStringList("file"));
+    QCOMPARE(namesIn(disk.folder.path()), QStringList("file"));
   }
 
   void moveOverFilesAlone() {
@@ -201,19 +196,19 @@ class TestNewFiles : public QObject {
     for (const QString& name : others) QVERIFY(writeFile(disk.path(name), "x"));
     QVERIFY(writeFile(disk.path("elsewhere/.tarnloft-1"), "x"));
     QVERIFY(QFile::link("elsewhere", disk.path(".tarnloft-2")));
-    const QStringList all = entries(disk.folder.path());
+    const QStringList all = namesIn(disk.folder.path());
     // A file whose content is old may have come just now: the time of its record counts too.
     const timespec longAgo[] = {{1, 0}, {1, 0}};
     QCOMPARE(
         ::utimensat(AT_FDCWD, QFile::encodeName(disk.path(".tarnloft-0")).constData(), longAgo, 0),
         0);
     disk.files.sweepTemporaries(disk.folder.path(), 1h);
-    QCOMPARE(entries(disk.folder.path()), all);
+    QCOMPARE(namesIn(disk.folder.path()), all);
     QTest::qWait(20);
     disk.files.sweepTemporaries(disk.folder.path(), 0h);
     QStringList left = others + QStringList{"elsewhere", ".tarnloft-2"};
     left.sort();
-    QStringList found = entries(disk.folder.path());
+    QStringList found = namesIn(disk.folder.path());
     found.sort();
     QCOMPARE(found, left);
     QVERIFY(disk.files.exists(disk.path("elsewhere/.tarnloft-1")));

@@ -23,10 +23,6 @@ struct Package {
   }
 };
 
-QStringList entries(const QString& folder) {
-  return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-}
-
 }  // namespace
 
 class TestOpenFolder : public QObject {
@@ -48,7 +44,7 @@ class TestOpenFolder : public QObject {
       QCOMPARE(contentOf(moved + "/assets/written to " + name), "written");
       package.root = moved;
     }
-    QCOMPARE(entries(package.root + "/assets").size(), 4);
+    QCOMPARE(namesIn(package.root + "/assets").size(), 4);
   }
 
   void takesNothingInOnceDeleted() {
@@ -61,7 +57,7 @@ class TestOpenFolder : public QObject {
       QVERIFY(!folder->path());
       QVERIFY(QDir().mkpath(package.root + "/assets"));  // another one in its place
     }
-    QCOMPARE(entries(package.root + "/assets"), QStringList());
+    QCOMPARE(namesIn(package.root + "/assets"), QStringList());
   }
 
   void isOpenedOnlyInside() {
@@ -98,7 +94,7 @@ class TestOpenFolder : public QObject {
       QVERIFY2(!folder->writeIn("new", name), qPrintable(name));
     }
     QVERIFY(!folder->copyIn(package.root, "a folder") && !folder->copyIn("missing", "x"));
-    QCOMPARE(entries(assets), QStringList({"folder", "sub", "taken"}));
+    QCOMPARE(namesIn(assets), QStringList({"folder", "sub", "taken"}));
     QCOMPARE(contentOf(assets + "/taken"), "old");
   }
 };

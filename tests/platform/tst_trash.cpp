@@ -65,10 +65,7 @@ struct Home {
   }
   Q_DISABLE_COPY_MOVE(Home)
 
-  QStringList entries(const char* name) const {
-    return QDir(folder.filePath(name))
-        .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-  }
+  QStringList entries(const char* name) const { return namesIn(folder.filePath(name)); }
 };
 
 // In a process of its own: the library looks at the user's folders once. As an ordinary user, from

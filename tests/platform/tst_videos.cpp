@@ -62,78 +62,59 @@ class TestVideos : public QObject {
   Q_OBJECT
 
  private slots:
-  // As `ffprobe -show_entries stream=width,height:format=duration` tells them.
-  void tellsWhatAProbeTells_data() {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<double>("duration");  // negative for none
-    const auto row = [](const char* file, QSize size, double duration) {
-      QTest::newRow(file) << QString::fromLatin1(file) << size << duration;
-    };
-    const QSize size(64, 48), none;
-    for (const char* file :
-         {"av1.mp4", "bt709.mp4", "full-range.mp4", "h264.mkv", "h264.mp4", "h264.ts", "hevc10.mov",
-          "animation.mov", "mirrored.mp4", "turned90.mp4", "mjpeg.avi", "mpeg4.3gp", "narrow.mp4",
-          "wide.mp4", "theora.ogv", "vp8.webm", "vp9.webm", "wmv2.wmv", "cover-and-clip.mkv"}) {
-      row(file, size, 0.4);
-    }
-    row("h264.flv", size, 0.6);
-    row("mpeg2.mpg", size, 0.04);
-    row("odd.mp4", QSize(63, 47), 0.4);
-    row("one-frame.mp4", size, 0.1);
-    row("prores.mov", size, 0.2);
-    row("late-picture.mp4", size, 1.4);
-    row("no-duration.webm", size, -1);
-    row("sound.m4a", none, 0.5);
-    row("sound-with-cover.m4a", none, 0.5);  // a probe calls the cover a track; a player doesn't
-  }
-
-  void tellsWhatAProbeTells() {
-    QFETCH(QString, file);
-    QFETCH(QSize, size);
-    QFETCH(double, duration);
-    const auto properties = LibavVideos().properties(fixtures + file);
-    QVERIFY(properties);
-    QCOMPARE(properties->size.value_or(QSize()), size);
-    QVERIFY(std::abs(properties->duration.value_or(-1) - duration) < 0.001);
-    QCOMPARE(LibavVideos().frame(fixtures + file, 0.1, 512).has_value(), !size.isEmpty());
-  }
-
-  void showsAPosterUpright_data() {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QList<QRgb>>("quarters");
+  // Sizes and durations as `ffprobe -show_entries stream=width,height:format=duration` tells them;
+  // the poster stands upright, in the proportions of its pixels.
+  void tellsAndShowsWhatIsInAFile() {
+    using Quarters = QList<QRgb>;
+    const QSize size(64, 48), tall(48, 64);
     const QRgb grey = greyOf(1);
-    const QList<QRgb> upright{red, green, blue, grey};
-    const auto row = [](const char* file, QSize size, const QList<QRgb>& quarters) {
-      QTest::newRow(file) << QString::fromLatin1(file) << size << quarters;
-    };
-    for (const char* file : {"av1.mp4", "bt709.mp4", "full-range.mp4", "h264.flv", "h264.mkv",
-                             "h264.mp4", "h264.ts", "hevc10.mov", "animation.mov", "mjpeg.avi",
-                             "mpeg4.3gp", "mpeg2.mpg", "theora.ogv", "vp8.webm", "vp9.webm",
-                             "wmv2.wmv", "prores.mov", "no-duration.webm", "cover-and-clip.mkv"}) {
-      row(file, QSize(64, 48), upright);
-    }
-    row("odd.mp4", QSize(63, 47), upright);
-    row("wide.mp4", QSize(128, 48), upright);
-    row("narrow.mp4", QSize(32, 48), upright);
-    row("turned90.mp4", QSize(48, 64), {blue, red, grey, green});
-    row("turned180.mp4", QSize(64, 48), {grey, blue, green, red});
-    row("turned270.mp4", QSize(48, 64), {green, grey, red, blue});
-    row("mirrored.mp4", QSize(64, 48), {green, red, grey, blue});
-    row("mirrored-turned.mp4", QSize(48, 64), {red, blue, green, grey});
-    row("one-frame.mp4", QSize(64, 48), {red, green, blue, greyOf(0)});
-    row("late-picture.mp4", QSize(64, 48), {red, green, blue, greyOf(0)});
-  }
-
-  void showsAPosterUpright() {
-    QFETCH(QString, file);
-    QFETCH(QSize, size);
-    QFETCH(QList<QRgb>, quarters);
-    const auto poster = LibavVideos().frame(fixtures + file, 0.1, 512);
-    QVERIFY(poster);
-    QCOMPARE(poster->size(), size);
-    QVERIFY(areNear(quartersOf(*poster), quarters));
+    const Quarters upright{red, green, blue, grey}, atOnce{red, green, blue, greyOf(0)};
+    // size, duration, the poster's size and quarters; negative and empty for none
+    const Cases<QSize, double, QSize, Quarters> cases{
+        {"av1.mp4", size, 0.4, size, upright},
+        {"bt709.mp4", size, 0.4, size, upright},
+        {"full-range.mp4", size, 0.4, size, upright},
+        {"h264.mkv", size, 0.4, size, upright},
+        {"h264.mp4", size, 0.4, size, upright},
+        {"h264.ts", size, 0.4, size, upright},
+        {"h264.flv", size, 0.6, size, upright},
+        {"hevc10.mov", size, 0.4, size, upright},
+        {"animation.mov", size, 0.4, size, upright},
+        {"mjpeg.avi", size, 0.4, size, upright},
+        {"mpeg4.3gp", size, 0.4, size, upright},
+        {"mpeg2.mpg", size, 0.04, size, upright},
+        {"theora.ogv", size, 0.4, size, upright},
+        {"vp8.webm", size, 0.4, size, upright},
+        {"vp9.webm", size, 0.4, size, upright},
+        {"wmv2.wmv", size, 0.4, size, upright},
+        {"prores.mov", size, 0.2, size, upright},
+        {"cover-and-clip.mkv", size, 0.4, size, upright},
+        {"no-duration.webm", size, -1, size, upright},
+        {"odd.mp4", {63, 47}, 0.4, {63, 47}, upright},
+        {"wide.mp4", size, 0.4, {128, 48}, upright},
+        {"narrow.mp4", size, 0.4, {32, 48}, upright},
+        {"turned90.mp4", size, 0.4, tall, {blue, red, grey, green}},
+        {"turned180.mp4", size, 0.4, size, {grey, blue, green, red}},
+        {"turned270.mp4", size, 0.4, tall, {green, grey, red, blue}},
+        {"mirrored.mp4", size, 0.4, size, {green, red, grey, blue}},
+        {"mirrored-turned.mp4", size, 0.4, tall, {red, blue, green, grey}},
+        {"one-frame.mp4", size, 0.1, size, atOnce},
+        {"late-picture.mp4", size, 1.4, size, atOnce},
+        {"sound.m4a", {}, 0.5, {}, {}},
+        // A probe calls the cover a track; a player doesn't.
+        {"sound-with-cover.m4a", {}, 0.5, {}, {}}};
+    cases.check([](const QString& file, QSize told, double duration, QSize shown,
+                   const Quarters& quarters) {
+      const auto properties = LibavVideos().properties(fixtures + file);
+      QVERIFY(properties);
+      QCOMPARE(properties->size.value_or(QSize()), told);
+      QVERIFY(std::abs(properties->duration.value_or(-1) - duration) < 0.001);
+      const auto poster = LibavVideos().frame(fixtures + file, 0.1, 512);
+      QCOMPARE(poster.has_value(), shown.isValid());
+      if (!poster) return;
+      QCOMPARE(poster->size(), shown);
+      QVERIFY(areNear(quartersOf(*poster), quarters));
+    });
   }
 
   // Flat colours; what they are in sRGB is computed by hand from the standards that the clips name.
@@ -150,21 +131,14 @@ class TestVideos : public QObject {
     });
   }
 
-  void showsTheMomentAskedFor_data() {
-    QTest::addColumn<QString>("file");
-    for (const char* file : {"h264.mp4", "h264.mkv", "h264.ts", "vp9.webm", "hevc10.mov"}) {
-      QTest::newRow(file) << QString::fromLatin1(file);
-    }
-  }
-
   void showsTheMomentAskedFor() {
-    QFETCH(QString, file);
     const std::pair<double, int> frames[] = {{-1, 0},   {0, 0},    {0.09, 0}, {0.11, 1},
                                              {0.25, 2}, {0.35, 3}, {3, 3},    {1e30, 3}};
-    for (const auto& [seconds, frame] : frames) {
-      const auto picture = LibavVideos().frame(fixtures + file, seconds, 512);
-      QVERIFY2(picture && isNear(colorAt(*picture, .75, .75), greyOf(frame)),
-               qPrintable(QString::number(seconds)));
+    for (const char* file : {"h264.mp4", "h264.mkv", "h264.ts", "vp9.webm", "hevc10.mov"}) {
+      for (const auto& [seconds, frame] : frames) {
+        const auto picture = LibavVideos().frame(fixtures + file, seconds, 512);
+        QVERIFY2(picture && isNear(colorAt(*picture, .75, .75), greyOf(frame)), file);
+      }
     }
   }
 

@@ -36,7 +36,19 @@ class FakeFileManager : public QObject {
   void ShowItems(const QStringList& urls, const QString& /*startup*/) { shown << urls; }
 };
 
-class FakePortal : public QObject, protected QDBusContext {
+// A portal's answer to the call that is being served, in the next turn; gives the request's path.
+QDBusObjectPath answered(const QDBusContext& call, const QVariantMap& options, uint response,
+                         const QVariantMap& results) {
+  QString sender = call.message().service().mid(1);
+  const QString path = "/org/freedesktop/portal/desktop/request/" + sender.replace('.', '_') + '/' +
+                       options.value("handle_token").toString();
+  auto signal = QDBusMessage::createSignal(path, "org.freedesktop.portal.Request", "Response");
+  signal << response << results;
+  QTimer::singleShot(0, [bus = call.connection(), signal] { bus.send(signal); });
+  return QDBusObjectPath(path);
+}
+
+class FakePortal : public QObject, public QDBusContext {
   Q_OBJECT
   Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Screenshot")
 
@@ -45,29 +57,16 @@ class FakePortal : public QObject, protected QDBusContext {
 
  public slots:
   QDBusObjectPath PickColor(const QString& /*window*/, const QVariantMap& options) {
-    QString sender = message().service().mid(1);
-    const QString path = "/org/freedesktop/portal/desktop/request/" + sender.replace('.', '_') +
-                         '/' + options.value("handle_token").toString();
-    const QDBusConnection bus = connection();
-    QTimer::singleShot(0, this, [this, path, bus] { answer(path, bus); });
-    return QDBusObjectPath(path);
-  }
-
- private:
-  void answer(const QString& path, const QDBusConnection& bus) const {
     QDBusArgument color;
     color.beginStructure();
     color << 1.0 << 0.5 << 0.25;
     color.endStructure();
-    QDBusMessage signal =
-        QDBusMessage::createSignal(path, "org.freedesktop.portal.Request", "Response");
-    signal << response << QVariantMap{{"color", QVariant::fromValue(color)}};
-    bus.send(signal);
+    return answered(*this, options, response, {{"color", QVariant::fromValue(color)}});
   }
 };
 
 // A desktop's file dialogs, with a user who answers at once.
-class FakeFileChooser : public QObject, protected QDBusContext {
+class FakeFileChooser : public QObject, public QDBusContext {
   Q_OBJECT
   Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.FileChooser")
 
@@ -78,25 +77,14 @@ class FakeFileChooser : public QObject, protected QDBusContext {
  public slots:
   QDBusObjectPath OpenFile(const QString& parent, const QString& title,
                            const QVariantMap& options) {
-    return ask(parent, title, options);
+    asked << parent + ' ' + title + ' ' + options.value("current_name").toString() +
+                 options.value("current_folder").toByteArray();
+    const QStringList chosen = answers.takeFirst();
+    return answered(*this, options, chosen.isEmpty() ? 1 : 0, {{"uris", chosen}});
   }
   QDBusObjectPath SaveFile(const QString& parent, const QString& title,
                            const QVariantMap& options) {
-    return ask(parent, title, options);
-  }
-
- private:
-  QDBusObjectPath ask(const QString& parent, const QString& title, const QVariantMap& options) {
-    asked << parent + ' ' + title + ' ' + options.value("current_name").toString() +
-                 options.value("current_folder").toByteArray();
-    QString sender = message().service().mid(1);
-    const QString path = "/org/freedesktop/portal/desktop/request/" + sender.replace('.', '_') +
-                         '/' + options.value("handle_token").toString();
-    auto signal = QDBusMessage::createSignal(path, "org.freedesktop.portal.Request", "Response");
-    const QStringList chosen = answers.takeFirst();
-    signal << uint(chosen.isEmpty() ? 1 : 0) << QVariantMap{{"uris", chosen}};
-    QTimer::singleShot(0, this, [bus = connection(), signal] { bus.send(signal); });
-    return QDBusObjectPath(path);
+    return OpenFile(parent, title, options);
   }
 };
 

@@ -38,7 +38,8 @@ class TestColorUtil : public QObject {
 
   void everyByteSurvives() {
     for (int value = 0; value < 256; ++value) {
-      const QString text = "#%1%2%3".arg(value, 2, 16, QLatin1Char('0'))
+      const QString text = QString("#%1%2%3")
+                               .arg(value, 2, 16, QLatin1Char('0'))
                                .arg(255 - value, 2, 16, QLatin1Char('0'))
                                .arg(value / 2, 2, 16, QLatin1Char('0'))
                                .toUpper();

@@ -4,15 +4,14 @@
 #include "sheets/LazyItem.h"
 #include "sheets/ThumbnailView.h"
 #include "testing/Cases.h"
+#include "testing/FakeMedia.h"
 
 #include <QGuiApplication>
-#include <QMutex>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickView>
 #include <QSignalSpy>
 #include <QTest>
-#include <QWaitCondition>
 #include <QtQml/qqmlextensionplugin.h>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
@@ -22,39 +21,8 @@ using namespace tarnloft;
 
 namespace {
 
-// Pictures of one colour, twice as wide as high; a gate holds them back.
-class GatedImages : public Images {
- public:
-  QList<int> asked;
-  bool isOpen = true;
-
-  std::optional<ImageProperties> properties(const QString&) override { return std::nullopt; }
-  std::optional<QSizeF> vectorSize(const QString&) override { return std::nullopt; }
-  std::optional<QByteArray> convert(const QString&, ExportFormat, QSize, double) override {
-    return std::nullopt;
-  }
-  std::optional<QImage> thumbnail(const QString& path, int maxPixel) override {
-    QMutexLocker lock(&mutex_);
-    asked << maxPixel;
-    while (!isOpen) opened_.wait(&mutex_);
-    if (path == "broken") return std::nullopt;
-    QImage image(maxPixel, maxPixel / 2, QImage::Format_ARGB32_Premultiplied);
-    image.fill(QColor(path));
-    return image;
-  }
-  void open() {
-    const QMutexLocker lock(&mutex_);
-    isOpen = true;
-    opened_.wakeAll();
-  }
-
- private:
-  QMutex mutex_;
-  QWaitCondition opened_;
-};
-
 struct Window {
-  GatedImages images;
+  FakeImages images;
   BackgroundWork work{1};
   ThumbnailLoader loader{images, work};
   Thumbnails thumbnails{loader};
@@ -124,7 +92,7 @@ class TestPictureViews : public QObject {
       const ThumbnailView* view = test.view("red", size);
       (void)test.window.grabWindow();
       QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
-      QCOMPARE(test.images.asked, QList<int>{pixels});
+      QCOMPARE(test.images.begun(), QStringList(QString("red %1").arg(pixels)));
     });
   }
 
@@ -137,7 +105,7 @@ class TestPictureViews : public QObject {
     const ThumbnailView* second = test.view("red");
     QCOMPARE(test.shown(50, 30), QColor(Qt::red));  // in its first frame
     QCOMPARE(second->loadState(), ThumbnailView::LoadState::Loaded);
-    QCOMPARE(test.images.asked.size(), 1);
+    QCOMPARE(test.images.begun().size(), 1);
   }
 
   void keepsThePictureWhileAnotherSizeIsMade() {
@@ -145,11 +113,11 @@ class TestPictureViews : public QObject {
     ThumbnailView* view = test.view("red");
     (void)test.window.grabWindow();
     QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
-    test.images.isOpen = false;
+    test.images.close();
     view->setSize({300, 200});
     QCOMPARE(test.shown(150, 100), QColor(Qt::red));
     QCOMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
-    QTRY_COMPARE(test.images.asked, (QList<int>{128, 320}));
+    QTRY_COMPARE(test.images.begun(), QStringList({"red 128", "red 320"}));
   }
 
   void anotherFileShowsNothingOfTheFormer() {
@@ -157,7 +125,7 @@ class TestPictureViews : public QObject {
     ThumbnailView* view = test.view("red");
     (void)test.window.grabWindow();
     QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
-    test.images.isOpen = false;
+    test.images.close();
     view->setPath("blue");
     QCOMPARE(test.shown(50, 30), QColor(Qt::white));
     QCOMPARE(view->loadState(), ThumbnailView::LoadState::Loading);
@@ -179,16 +147,16 @@ class TestPictureViews : public QObject {
 
   void aViewThatGoesWithdrawsItsRequest() {
     Window test;
-    test.images.isOpen = false;
+    test.images.close();
     const ThumbnailView* running = test.view("red");
     const ThumbnailView* waiting = test.view("blue");
     (void)test.window.grabWindow();
-    QTRY_COMPARE(test.images.asked.size(), 1);
+    QTRY_COMPARE(test.images.begun().size(), 1);
     delete running;
     delete waiting;
     test.images.open();
     QTest::qWait(50);
-    QCOMPARE(test.images.asked.size(), 1);  // the one that hadn't begun never will
+    QCOMPARE(test.images.begun().size(), 1);  // the one that hadn't begun never will
   }
 
   void fitsOrFillsAndCutsCorners() {
@@ -275,7 +243,7 @@ class TestPictureViews : public QObject {
     QCOMPARE(test.shown(32, 32), QColor(Qt::blue));
     QTRY_COMPARE(test.shown(32, 32), QColor(Qt::red));
     QCOMPARE(test.shown(2, 2), QColor(Qt::white));
-    QCOMPARE(test.images.asked, QList<int>{64});
+    QCOMPARE(test.images.begun(), QStringList("red 64"));
     emblem->setLook({Filled, Qt::green, NoMark, {}, {}});
     QCOMPARE(test.shown(32, 32), QColor(Qt::green));
   }

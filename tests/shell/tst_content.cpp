@@ -66,15 +66,6 @@ class TestContent : public QObject {
     QVERIFY(!test.library.store->newBrandRequested());
   }
 
-  void keepsTheTextOfTheNewBrandSheet() {
-    ContentTest test;
-    ContentModel& content = test.start();
-    content.setNewBrandName("Ac");
-    content.setShowNewBrand(true);
-    content.setShowNewBrand(false);
-    QCOMPARE(content.newBrandName(), "Ac");
-  }
-
   void eachDocumentGetsOneWorkspace() {
     ContentTest test;
     ContentModel& content = test.start();
@@ -166,18 +157,6 @@ class TestContent : public QObject {
     test.content.reset();
     test.library.store->pickColorFromScreen();
     test.library.pendingPick(SampledColor{0, 1, 0});
-  }
-
-  void exportsTheOpenBrandsPage() {
-    ContentTest test;
-    ContentModel& content = test.start();
-    content.commands()->exportBrandPage();
-    QCOMPARE(test.library.dialogs.suggested, QString());
-    content.createBrand("Acme");
-    test.library.dialogs.answer = test.library.disk.path("page.html");
-    content.commands()->exportBrandPage();
-    QCOMPARE(test.library.dialogs.suggested, "Acme Brand Page.html");
-    QVERIFY(contentOf(test.library.disk.path("page.html")).contains("Acme"));
   }
 
   void tintsWithTheAccentInForce() {

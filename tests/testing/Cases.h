@@ -4,11 +4,13 @@
 
 #include <initializer_list>
 #include <tuple>
+#include <type_traits>
 #include <vector>
 
 namespace tarnloft {
 
-// The cases of a test: each has a name, and a value for each parameter of the check.
+// The cases of a test: each has a name, and a value for each parameter of the check, which may take
+// the name in front of them.
 template <class... Values>
 class Cases {
  public:
@@ -20,7 +22,15 @@ class Cases {
   template <class Check>
   void check(const Check& check) const {
     for (const Case& each : cases_) {
-      std::apply([&](const char*, const auto&... values) { check(values...); }, each);
+      std::apply(
+          [&](const char* name, const Values&... values) {
+            if constexpr (std::is_invocable_v<const Check&, const char*, const Values&...>) {
+              check(name, values...);
+            } else {
+              check(values...);
+            }
+          },
+          each);
       if (!QTest::currentTestFailed()) continue;
       return qWarning("In the case: %s", std::get<0>(each));
     }

@@ -1,7 +1,6 @@
 #include "testing/Cases.h"
 #include "workspace/TileSelection.h"
 
-#include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -103,33 +102,6 @@ class TestSelection : public QObject {
     seen.clear();
     run(selection, "*ab t +a - -");
     QCOMPARE(seen, QStringList({"in t:a|a", "t:a|a", "in ", ""}));
-  }
-
-  void keepsItsInvariants() {
-    QRandomGenerator random(3);
-    TileSelection selection;
-    const QString tiles = "abcdx";
-    for (int i = 0; i < 5000; ++i) {
-      const QString section = random.bounded(2) ? "s " : "t ";
-      const QString tile = tiles.at(random.bounded(int(tiles.size())));
-      const QStringList steps{"+" + tile, ">" + tile, "*" + tiles.left(random.bounded(4)), "-"};
-      const QString step = steps.at(random.bounded(20) == 0 ? 3 : random.bounded(3));
-      const TileSelection* const now = &selection;
-      const QSet<QUuid> before = selection.ids();
-      const auto sectionBefore = selection.sectionID();
-      run(selection, section + step);
-      QCOMPARE(now->ids().isEmpty(), !now->sectionID());
-      QCOMPARE(now->ids().isEmpty(), !now->anchor());
-      QCOMPARE(now->count(), int(now->ids().size()));
-      // Only a click in the same section keeps anything of what was selected before.
-      if (now->sectionID() != sectionBefore) {
-        QVERIFY(now->ids().size() <= (step.at(0) == '*' ? 5 : 1));
-      } else if (step.at(0) == '>') {
-        QVERIFY(now->ids().contains(before));
-      } else if (step.at(0) == '+' && sectionBefore == id(section.at(0))) {
-        QCOMPARE(now->ids().contains(id(tile.at(0))), !before.contains(id(tile.at(0))));
-      }
-    }
   }
 };
 

@@ -48,13 +48,14 @@ class TestTileFlow : public QObject {
     TestPage page(test);
     const int visible = visibleCount(page);
     QVERIFY(visible >= 24);
-    QVERIFY2(page.flow().liveCount() <= 3 * visible,
-             qPrintable(QString("%1 for %2").arg(page.flow().liveCount()).arg(visible)));
     QTest::qWait(100);
-    QVERIFY(page.flow().liveCount() <= 3 * visible);
-    page.scroll()->setProperty("contentY", 50000);
-    page.settle();
-    QVERIFY(page.flow().liveCount() <= 3 * visibleCount(page));
+    for (int y = 0; y < 20000; y += 400) {
+      page.scroll()->setProperty("contentY", y);
+      page.settle();
+      QVERIFY(visibleCount(page) >= 24);
+      QVERIFY(page.flow().liveCount() <= 3 * visible);
+    }
+    QVERIFY(page.flow().madeCount() < 150);  // those that went out of sight serve again
   }
 
   void theFirstFrameShowsAllThatIsSeen() {
@@ -77,17 +78,6 @@ class TestTileFlow : public QObject {
       return page.flow().madeCount();
     };
     QCOMPARE(made(10000), made(200));
-  }
-
-  void scrollingServesViewsAgain() {
-    TestWorkspace test({colorSection("Colors", 10000)});
-    TestPage page(test);
-    for (int y = 0; y < 20000; y += 400) {
-      page.scroll()->setProperty("contentY", y);
-      page.settle();
-      QVERIFY(visibleCount(page) >= 24);
-    }
-    QVERIFY(page.flow().madeCount() < 150);
   }
 
   void aMoveMakesNoViewAnewAndGlides() {
@@ -135,31 +125,10 @@ class TestTileFlow : public QObject {
       items.append(items.takeAt(2));
     });
     QTRY_VERIFY(page.tileNamed("new"));
-    page.settle();
+    QTRY_COMPARE(shownNames(page), test.names(0));
     for (QQuickItem* tile : page.tiles()) {
       const Item& item = TestPage::tileOf(tile)->item();
       if (item.displayName() != "new") QCOMPARE(tile, before.value(item.id));
-    }
-    QCOMPARE(page.tiles().size(), 12);
-  }
-
-  void showsWhatItsItemsSayAfterRandomEdits() {
-    TestWorkspace test({colorSection("Colors", 40)});
-    TestPage page(test);
-    page.flow().setProperty("animated", false);
-    QRandomGenerator random(5);
-    for (int round = 0; round < 60; ++round) {
-      test.document().edit([&](Brand& brand) {
-        auto& items = brand.sections[0].items;
-        const int at = int(random.bounded(quint32(items.size())));
-        const int what = int(random.bounded(4U));
-        if (what == 0 && items.size() > 30) (void)items.takeAt(at);
-        if (what == 1) items.insert(at, colorItem(QString("new %1").arg(round)));
-        if (what == 2) items.insert(0, items.takeAt(at));
-        if (what == 3) items.insert(at, imageItem(QString("image %1").arg(round)));
-      });
-      page.settle();
-      QCOMPARE(shownNames(page), test.names(0).mid(0, page.tiles().size()));
     }
   }
 

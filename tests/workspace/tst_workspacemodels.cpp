@@ -55,12 +55,6 @@ struct Signals {
 
 QQuickItem view;  // of nothing, in no window
 
-QMimeData* fileDrag(const QString& path) {
-  auto* data = new QMimeData;
-  data->setUrls({QUrl::fromLocalFile(path)});
-  return data;
-}
-
 }  // namespace
 
 using Verb = void (SectionModel::*)();
@@ -270,77 +264,6 @@ class TestWorkspaceModels : public QObject {
     test.section(0).copyColors("SCSS");
     QCOMPARE(test.toasts.message(), "Copied SCSS");
     QCOMPARE(test.pasteboard.texts, QStringList{"$sea: #123456;"});
-  }
-
-  void blocksAreEditedAndDeleted() {
-    TestWorkspace test(
-        {sectionOf("A", {headerItem("Voice", 2), textItem("calm"), colorItem("c")})});
-    const auto& items = test.stored(0).items;
-    Tile heading(test.section(0), items.at(0)), text(test.section(0), items.at(1));
-    heading.setText("Tone");
-    text.setText("loud");
-    QVERIFY(test.stored(0).items.at(0).payload == ItemPayload(HeaderPayload{"Tone", 2}));
-    QVERIFY(test.stored(0).items.at(1).payload == ItemPayload(TextPayload{"loud"}));
-    heading.remove();
-    QCOMPARE(test.names(0), (QStringList{"loud", "c"}));
-    heading.setText("late");  // its item has gone
-    QCOMPARE(test.names(0), (QStringList{"loud", "c"}));
-  }
-
-  void aDragCarriesTheFileAndTheItem() {
-    TestWorkspace test({sectionOf("A", {imageItem("Hero", "h.png"), colorItem("c")})});
-    QVERIFY(writeFile(Package::assetsPath(test.document().packageURL()) + "/h.png", "picture"));
-    const auto& items = test.stored(0).items;
-    Tile(test.section(0), items.at(0)).drag(&view);
-    QCOMPARE(test.drags.items.size(), 1);
-    QCOMPARE(contentOf(*test.drags.items.first().file), "picture");
-    QCOMPARE(QFileInfo(*test.drags.items.first().file).fileName(), "Client h.png");
-    QCOMPARE(test.drags.items.first().payload->bytes,
-             items.at(0).id.toString(QUuid::WithoutBraces).toUpper().toUtf8());
-    QVERIFY(test.drags.hotSpot.x() < 0 && test.drags.hotSpot.y() < 0);  // beside the pointer
-    Tile(test.section(0), items.at(1)).drag(&view);
-    QVERIFY(!test.drags.items.first().file);
-  }
-
-  void aDropOnASectionMovesOrImports() {
-    TestWorkspace test({sectionOf("A", {colorItem("a"), colorItem("b")}), sectionOf("B", {})});
-    Tile(test.section(0), test.stored(0).items.at(0)).drag(&view);
-    const DragData own(test.drags.items);
-    QVERIFY(test.workspace->drop(own, test.stored(1).id));
-    QTRY_COMPARE(test.names(1), QStringList{"a"});
-    QCOMPARE(test.names(0), QStringList{"b"});
-
-    const QString path = test.library.disk.path("Hero.png");
-    QVERIFY(writeFile(path, "p"));
-    const std::unique_ptr<QMimeData> files(fileDrag(path));
-    QVERIFY(test.workspace->drop(*files, test.stored(1).id));
-    QTRY_COMPARE(test.names(1), (QStringList{"a", "Hero"}));
-    QVERIFY(!test.workspace->drop(QMimeData(), test.stored(1).id));
-  }
-
-  void aDropOnATileMovesInFrontOfIt() {
-    TestWorkspace test({sectionOf("A", {colorItem("a"), colorItem("b"), colorItem("c")})});
-    Tile(test.section(0), test.stored(0).items.at(2)).drag(&view);
-    const DragData own(test.drags.items);
-    const auto id = test.stored(0).id;
-    QVERIFY(test.workspace->dropBefore(own, id, test.stored(0).items.at(0).id));
-    QTRY_COMPARE(test.names(0), (QStringList{"c", "a", "b"}));
-    QVERIFY(!test.workspace->dropBefore(QMimeData(), id, test.stored(0).items.at(0).id));
-  }
-
-  void aDeletedSelectionCanBeHadBack() {
-    TestWorkspace test({sectionOf("A", {colorItem("a"), textItem("b"), colorItem("c")})});
-    test.workspace->selectAll();
-    QCOMPARE(test.selection.count(), 2);
-    QVERIFY(test.workspace->hasSelection());
-    test.workspace->deleteSelection();
-    QCOMPARE(test.names(0), QStringList{"b"});
-    QCOMPARE(test.toasts.message(), "Deleted 2 items · ⌘Z to undo");
-    test.undo.undo();
-    QCOMPARE(test.names(0), (QStringList{"a", "b", "c"}));
-    test.workspace->selectAll();
-    test.workspace->clearSelection();
-    QVERIFY(!test.workspace->hasSelection());
   }
 
   void nothingHappensOnceTheDocumentHasGone() {
