@@ -3,7 +3,7 @@
 #include "Process.h"
 #include "Ratio.h"
 #include "document/AtomicWrite.h"
-#include "platform/desktop/ZipArchiver.h"
+#include "platform/desktop/archives/ZipArchiver.h"
 
 using namespace tarnloft;
 

@@ -4,7 +4,7 @@
 #include "Ratio.h"
 #include "assets/BackgroundWork.h"
 #include "assets/ImageExporter.h"
-#include "platform/desktop/VipsImages.h"
+#include "platform/desktop/images/VipsImages.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -13,7 +13,7 @@
 #include <cstdio>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
-Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 using namespace tarnloft;

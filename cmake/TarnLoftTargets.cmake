@@ -56,10 +56,21 @@ endfunction()
 # The QML module TarnLoft.NAME of a library, which it makes: SOURCES and QML_FILES as for
 # qt_add_qml_module, LINKS as above, IMPORTS the modules whose types its C++ shows. A program that
 # uses the module links TARGET and TARGETplugin and says Q_IMPORT_QML_PLUGIN(TarnLoft_NAMEPlugin).
-# Qt 6.4 looks for modules in programs under this prefix alone.
+# Qt 6.4 looks for modules in programs under this prefix alone. Files may stand in folders beneath
+# that of the module, which is flat.
 function(tarnloft_qml_module target name)
   cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "SOURCES;QML_FILES;LINKS;PRIVATE_LINKS;IMPORTS")
   list(TRANSFORM arg_LINKS PREPEND tarnloft_)
+  set(rooms ${CMAKE_CURRENT_SOURCE_DIR})
+  foreach(source IN LISTS arg_SOURCES)
+    get_filename_component(room ${CMAKE_CURRENT_SOURCE_DIR}/${source} DIRECTORY)
+    list(APPEND rooms ${room})
+  endforeach()
+  list(REMOVE_DUPLICATES rooms)
+  foreach(view IN LISTS arg_QML_FILES)
+    get_filename_component(name_alone ${view} NAME)
+    set_source_files_properties(${view} PROPERTIES QT_RESOURCE_ALIAS ${name_alone})
+  endforeach()
   qt_add_library(${target} STATIC)
   qt_add_qml_module(${target}
     URI TarnLoft.${name}
@@ -71,8 +82,7 @@ function(tarnloft_qml_module target name)
     SOURCES ${arg_SOURCES}
     QML_FILES ${arg_QML_FILES})
   # The registration of types includes headers by their bare names.
-  target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR}/src
-                                       PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+  target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR}/src PRIVATE ${rooms})
   target_link_libraries(${target} PUBLIC Qt6::Quick ${arg_LINKS} PRIVATE ${arg_PRIVATE_LINKS})
   get_target_property(generated ${target} SOURCES)
   list(FILTER generated INCLUDE REGEX "/qmlcache/.*\\.cpp$")

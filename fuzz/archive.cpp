@@ -1,5 +1,5 @@
 // The unpacker on any bytes: it never crashes, and nothing that it unpacks leads out of the folder.
-#include "platform/desktop/ZipArchiver.h"
+#include "platform/desktop/archives/ZipArchiver.h"
 
 #include <QDirIterator>
 #include <QFile>

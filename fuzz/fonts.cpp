@@ -1,6 +1,6 @@
 // Font files of any bytes: reading them never crashes, and names are never empty.
 #include "MemoryFile.h"
-#include "platform/desktop/FreeTypeFonts.h"
+#include "platform/desktop/fonts/FreeTypeFonts.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace tarnloft;

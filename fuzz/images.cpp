@@ -1,6 +1,6 @@
 // Picture files of any bytes: none crashes the readers, and what they give is within its bounds.
 // Drawings are not tried; they go to a program of their own, which is not there.
-#include "platform/desktop/VipsImages.h"
+#include "platform/desktop/images/VipsImages.h"
 
 #include <cstdlib>
 #include <sys/mman.h>

@@ -1,6 +1,6 @@
 // Clips of any bytes: reading them never crashes, and a picture is no larger than it was asked for.
 #include "MemoryFile.h"
-#include "platform/desktop/LibavVideos.h"
+#include "platform/desktop/clips/LibavVideos.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace tarnloft;

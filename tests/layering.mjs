@@ -12,12 +12,13 @@ below.document = ['platform', ...below.platform];
 below.publish = ['document', ...below.document];
 below.library = ['publish', ...below.publish];
 below.assets = ['library', ...below.library];
-below.sheets = ['assets', ...below.assets];
+below.controls = ['platform', ...below.platform];
+below.pictures = ['assets', 'controls', ...below.assets];
+below.sheets = ['pictures', ...below.pictures];
 below.workspace = ['sheets', ...below.sheets];
 below.shell = ['workspace', ...below.workspace];
 below.quickgrab = ['workspace', ...below.workspace];
 below.entry = ['shell', 'quickgrab', ...below.shell];
-const controlsUsers = new Set(['workspace', 'sheets', 'shell', 'quickgrab', 'entry']);
 
 function* files(folder) {
   for (const name of readdirSync(folder)) {
@@ -36,19 +37,14 @@ function problemOf(path, used) {
   if (usedFolder !== folder && !below[folder].includes(usedFolder)) return `points upwards: ${used}`;
   if (usedFolder === 'platform' && room === 'desktop' && folder !== 'entry' && !inDesktop)
     return `uses an implementation instead of its interface: ${used}`;
-  if (usedFolder === 'platform' && room === 'controls' && folder !== 'platform' && !controlsUsers.has(folder))
-    return `uses the interface's vocabulary: ${used}`;
   return null;
 }
-
-// The one module whose folder isn't named as it is.
-const folderOfModule = module => (module === 'controls' ? 'platform/controls' : module);
 
 // The layers' folders that a file names, as "folder/file".
 function usesOf(path) {
   const text = readFileSync(path, 'utf8');
   const includes = [...text.matchAll(/^\s*#\s*include\s+"([^"]+)"/gm)].map(match => match[1]);
-  const imports = [...text.matchAll(/^\s*import\s+TarnLoft\.(\w+)/gm)].map(match => folderOfModule(match[1].toLowerCase()));
+  const imports = [...text.matchAll(/^\s*import\s+TarnLoft\.(\w+)/gm)].map(match => match[1].toLowerCase());
   return [...includes, ...imports].filter(used => !used.endsWith('.moc'));
 }
 

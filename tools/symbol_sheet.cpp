@@ -1,8 +1,8 @@
 // Paints every symbol of the interface, with its name and where its glyph comes from, into one
 // picture: symbol_sheet FILE.png. For looking at what a change of the table has done.
-#include "platform/controls/symbols/SymbolFont.h"
-#include "platform/controls/symbols/SymbolTable.h"
-#include "sheets/EmblemSymbols.h"
+#include "controls/symbols/SymbolFont.h"
+#include "controls/symbols/SymbolTable.h"
+#include "pictures/EmblemSymbols.h"
 
 #include <QGuiApplication>
 #include <QImage>

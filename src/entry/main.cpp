@@ -2,9 +2,9 @@
 #include "entry/QuickModes.h"
 #include "entry/SupportFolder.h"
 #include "model/ItemPayload.h"
-#include "platform/desktop/PosixFileStore.h"
-#include "platform/desktop/Syslog.h"
-#include "platform/desktop/TextPath.h"
+#include "platform/desktop/files/PosixFileStore.h"
+#include "platform/desktop/files/TextPath.h"
+#include "platform/desktop/system/Syslog.h"
 
 #include <QCoreApplication>
 

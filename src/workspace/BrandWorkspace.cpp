@@ -2,7 +2,7 @@
 
 #include "assets/ItemDrag.h"
 #include "document/Package.h"
-#include "workspace/GroupOperations.h"
+#include "workspace/selection/GroupOperations.h"
 
 #include <algorithm>
 #include <utility>

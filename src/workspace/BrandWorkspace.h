@@ -1,10 +1,10 @@
 #pragma once
 
 #include "assets/DragPreparation.h"
-#include "workspace/SectionListModel.h"
-#include "workspace/TileSelection.h"
 #include "workspace/ToastCenter.h"
 #include "workspace/WorkspaceServices.h"
+#include "workspace/page/SectionListModel.h"
+#include "workspace/selection/TileSelection.h"
 
 #include <QPointer>
 

@@ -3,12 +3,12 @@
 #include "assets/DropImport.h"
 #include "assets/TileDrag.h"
 #include "library/LibraryStore.h"
+#include "pictures/Posters.h"
+#include "pictures/Thumbnails.h"
 #include "platform/ColorSampler.h"
 #include "platform/DragSession.h"
 #include "platform/DroppedThing.h"
 #include "platform/Pasteboard.h"
-#include "sheets/Thumbnails.h"
-#include "workspace/Posters.h"
 
 namespace tarnloft {
 

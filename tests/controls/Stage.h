@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/controls/Theme.h"
-#include "platform/controls/Typography.h"
+#include "controls/theme/Theme.h"
+#include "controls/theme/Typography.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>

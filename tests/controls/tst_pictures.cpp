@@ -1,5 +1,5 @@
 #include "Stage.h"
-#include "platform/controls/ShadowProvider.h"
+#include "controls/drawing/ShadowProvider.h"
 #include "testing/Cases.h"
 
 #include <QGuiApplication>

@@ -1,6 +1,6 @@
-#include "platform/controls/symbols/SymbolFont.h"
-#include "platform/controls/symbols/SymbolTable.h"
-#include "sheets/EmblemSymbols.h"
+#include "controls/symbols/SymbolFont.h"
+#include "controls/symbols/SymbolTable.h"
+#include "pictures/EmblemSymbols.h"
 #include "testing/Cases.h"
 
 #include <QFont>

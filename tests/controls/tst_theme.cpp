@@ -1,6 +1,6 @@
-#include "platform/controls/Contrast.h"
-#include "platform/controls/Palette.h"
-#include "platform/controls/Spring.h"
+#include "controls/motion/Spring.h"
+#include "controls/theme/Contrast.h"
+#include "controls/theme/Palette.h"
 #include "testing/Cases.h"
 
 #include <QTest>

@@ -1,5 +1,5 @@
 #include "entry/application/AppDelegate.h"
-#include "platform/desktop/IniPreferences.h"
+#include "platform/desktop/system/IniPreferences.h"
 #include "testing/Cases.h"
 #include "testing/TestServices.h"
 

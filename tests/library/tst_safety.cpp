@@ -1,5 +1,5 @@
 #include "document/PackageVersions.h"
-#include "platform/desktop/DiskThread.h"
+#include "platform/desktop/files/DiskThread.h"
 #include "testing/Cases.h"
 #include "testing/TestLibrary.h"
 

@@ -1,4 +1,4 @@
-#include "platform/desktop/VipsImages.h"
+#include "platform/desktop/images/VipsImages.h"
 #include "testing/Pictures.h"
 
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "platform/desktop/MimeContentTypes.h"
+#include "platform/desktop/system/MimeContentTypes.h"
 #include "testing/Cases.h"
 #include "testing/TestServices.h"
 

@@ -1,5 +1,5 @@
-#include "platform/desktop/DragData.h"
-#include "platform/desktop/MimeDrops.h"
+#include "platform/desktop/dragging/DragData.h"
+#include "platform/desktop/dragging/MimeDrops.h"
 #include "testing/Cases.h"
 
 #include <QImage>

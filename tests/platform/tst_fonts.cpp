@@ -1,4 +1,4 @@
-#include "platform/desktop/FreeTypeFonts.h"
+#include "platform/desktop/fonts/FreeTypeFonts.h"
 #include "testing/Cases.h"
 #include "testing/DrawnText.h"
 #include "testing/TestServices.h"

@@ -1,4 +1,4 @@
-#include "platform/desktop/GioTrash.h"
+#include "platform/desktop/files/GioTrash.h"
 #include "testing/InProcess.h"
 #include "testing/TestServices.h"
 

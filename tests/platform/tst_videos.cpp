@@ -1,4 +1,4 @@
-#include "platform/desktop/LibavVideos.h"
+#include "platform/desktop/clips/LibavVideos.h"
 #include "testing/Cases.h"
 #include "testing/TestServices.h"
 

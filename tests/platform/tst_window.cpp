@@ -1,4 +1,4 @@
-#include "platform/desktop/IniPreferences.h"
+#include "platform/desktop/system/IniPreferences.h"
 #include "platform/desktop/window/DesktopColorSampler.h"
 #include "platform/desktop/window/DesktopFileDialogs.h"
 #include "platform/desktop/window/DesktopFileViewer.h"

@@ -1,6 +1,6 @@
 #include "document/Package.h"
-#include "sheets/EmblemLook.h"
-#include "sheets/MonogramColor.h"
+#include "pictures/EmblemLook.h"
+#include "pictures/MonogramColor.h"
 #include "testing/Cases.h"
 #include "testing/TestServices.h"
 

@@ -1,8 +1,8 @@
-#include "platform/controls/Contrast.h"
-#include "platform/controls/Theme.h"
-#include "sheets/EmblemView.h"
-#include "sheets/LazyItem.h"
-#include "sheets/ThumbnailView.h"
+#include "controls/loading/LazyItem.h"
+#include "controls/theme/Contrast.h"
+#include "controls/theme/Theme.h"
+#include "pictures/EmblemView.h"
+#include "pictures/ThumbnailView.h"
 #include "testing/Cases.h"
 #include "testing/FakeMedia.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/ContentModel.h"
+#include "shell/window/ContentModel.h"
 #include "workspace/TestWorkspace.h"
 
 namespace tarnloft {

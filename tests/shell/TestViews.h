@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/controls/Theme.h"
-#include "shell/AccentTint.h"
-#include "shell/MainWindow.h"
+#include "controls/theme/Theme.h"
 #include "shell/TestShell.h"
+#include "shell/window/AccentTint.h"
+#include "shell/window/MainWindow.h"
 
 #include <QAccessible>
 #include <QQmlEngine>

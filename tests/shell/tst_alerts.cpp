@@ -1,4 +1,4 @@
-#include "platform/controls/Typography.h"
+#include "controls/theme/Typography.h"
 #include "shell/TestViews.h"
 #include "testing/Cases.h"
 
@@ -7,7 +7,7 @@
 #include <QtQml/qqmlextensionplugin.h>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
-Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 

@@ -1,6 +1,6 @@
-#include "platform/controls/Theme.h"
-#include "shell/AccentTint.h"
+#include "controls/theme/Theme.h"
 #include "shell/TestShell.h"
+#include "shell/window/AccentTint.h"
 
 #include <QQmlEngine>
 #include <QSignalSpy>

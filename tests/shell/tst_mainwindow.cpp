@@ -1,6 +1,6 @@
-#include "platform/controls/Theme.h"
-#include "shell/MainWindow.h"
+#include "controls/theme/Theme.h"
 #include "shell/TestShell.h"
+#include "shell/window/MainWindow.h"
 #include "testing/Cases.h"
 
 #include <QQmlEngine>

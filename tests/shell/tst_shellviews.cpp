@@ -1,5 +1,5 @@
-#include "platform/controls/Motion.h"
-#include "platform/controls/Typography.h"
+#include "controls/motion/Motion.h"
+#include "controls/theme/Typography.h"
 #include "shell/TestViews.h"
 #include "testing/Cases.h"
 #include "workspace/Items.h"
@@ -10,7 +10,7 @@
 #include <QtQml/qqmlextensionplugin.h>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
-Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 

@@ -1,5 +1,5 @@
 #include "model/Uuid.h"
-#include "shell/Sidebar.h"
+#include "shell/sidebar/Sidebar.h"
 #include "testing/Cases.h"
 #include "testing/TestLibrary.h"
 

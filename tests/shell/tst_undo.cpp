@@ -1,5 +1,5 @@
 #include "document/UndoHistory.h"
-#include "shell/StackUndoManager.h"
+#include "shell/menus/StackUndoManager.h"
 
 #include <QRandomGenerator>
 #include <QSignalSpy>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/desktop/PosixFileStore.h"
+#include "platform/desktop/files/PosixFileStore.h"
 
 namespace tarnloft {
 

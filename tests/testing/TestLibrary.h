@@ -3,8 +3,8 @@
 #include "document/Package.h"
 #include "library/LibraryStore.h"
 #include "model/Json.h"
-#include "platform/desktop/IniPreferences.h"
-#include "platform/desktop/ZipArchiver.h"
+#include "platform/desktop/archives/ZipArchiver.h"
+#include "platform/desktop/system/IniPreferences.h"
 #include "testing/FakeDialogs.h"
 #include "testing/TestServices.h"
 

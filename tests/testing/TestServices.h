@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/DocumentServices.h"
-#include "platform/desktop/PosixFileStore.h"
+#include "platform/desktop/files/PosixFileStore.h"
 
 #include <QDir>
 #include <QFile>

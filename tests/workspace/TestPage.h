@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/controls/Theme.h"
-#include "workspace/DropTarget.h"
+#include "controls/theme/Theme.h"
 #include "workspace/TestWorkspace.h"
-#include "workspace/TileFlow.h"
+#include "workspace/dragging/DropTarget.h"
+#include "workspace/flow/TileFlow.h"
 
 #include <QAccessible>
 #include <QPointingDevice>

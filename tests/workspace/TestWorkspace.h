@@ -1,8 +1,8 @@
 #pragma once
 
 #include "document/UndoHistory.h"
-#include "platform/desktop/DragData.h"
-#include "platform/desktop/MimeDrops.h"
+#include "platform/desktop/dragging/DragData.h"
+#include "platform/desktop/dragging/MimeDrops.h"
 #include "testing/FakeDrops.h"
 #include "testing/FakeMedia.h"
 #include "testing/TestLibrary.h"

@@ -1,9 +1,9 @@
 // Draws the page of a brand into a file, for looking at it.
 //   workspace_pictures PACKAGE FILE [--dark] [--scale FACTOR] [--size WIDTHxHEIGHT] [--scroll Y]
 //                      [--select SECTION,ITEM] [--hover X,Y]
-#include "platform/controls/Theme.h"
-#include "platform/controls/Typography.h"
-#include "platform/desktop/VipsImages.h"
+#include "controls/theme/Theme.h"
+#include "controls/theme/Typography.h"
+#include "platform/desktop/images/VipsImages.h"
 #include "workspace/TestWorkspace.h"
 
 #include <QCommandLineParser>
@@ -17,7 +17,7 @@
 #include <cstdio>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
-Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 using namespace tarnloft;

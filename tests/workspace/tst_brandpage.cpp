@@ -1,4 +1,4 @@
-#include "platform/controls/Contrast.h"
+#include "controls/theme/Contrast.h"
 #include "testing/Cases.h"
 #include "workspace/Items.h"
 #include "workspace/TestPage.h"

@@ -1,8 +1,8 @@
-#include "platform/controls/Spring.h"
+#include "controls/motion/Spring.h"
+#include "controls/motion/SpringMotion.h"
 #include "testing/Cases.h"
-#include "workspace/FlowLayout.h"
 #include "workspace/Items.h"
-#include "workspace/SpringMotion.h"
+#include "workspace/flow/FlowLayout.h"
 
 #include <QTest>
 

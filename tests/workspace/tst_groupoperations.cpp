@@ -3,7 +3,7 @@
 #include "testing/Cases.h"
 #include "testing/RandomBrand.h"
 #include "testing/TestServices.h"
-#include "workspace/GroupOperations.h"
+#include "workspace/selection/GroupOperations.h"
 
 #include <QTest>
 

@@ -1,5 +1,5 @@
 #include "testing/Cases.h"
-#include "workspace/TileSelection.h"
+#include "workspace/selection/TileSelection.h"
 
 #include <QSignalSpy>
 #include <QTest>

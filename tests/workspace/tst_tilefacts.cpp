@@ -1,8 +1,8 @@
+#include "pictures/GradientView.h"
 #include "testing/Cases.h"
-#include "workspace/GradientView.h"
 #include "workspace/Items.h"
-#include "workspace/Segments.h"
-#include "workspace/TileFacts.h"
+#include "workspace/flow/Segments.h"
+#include "workspace/tiles/TileFacts.h"
 
 #include <QTest>
 

@@ -2,7 +2,7 @@
 #include "testing/RandomBrand.h"
 #include "workspace/Items.h"
 #include "workspace/TestWorkspace.h"
-#include "workspace/Tile.h"
+#include "workspace/tiles/Tile.h"
 
 #include <QAbstractItemModelTester>
 #include <QElapsedTimer>

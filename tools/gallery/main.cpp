@@ -3,9 +3,9 @@
 //   FILE]
 // With --screenshot the whole gallery is drawn into the file; it needs no display unless
 // QT_QPA_PLATFORM asks for one.
-#include "platform/controls/Motion.h"
-#include "platform/controls/Theme.h"
-#include "platform/controls/Typography.h"
+#include "controls/motion/Motion.h"
+#include "controls/theme/Theme.h"
+#include "controls/theme/Typography.h"
 
 #include <QCommandLineParser>
 #include <QGuiApplication>

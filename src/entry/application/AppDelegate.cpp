@@ -1,6 +1,6 @@
 #include "entry/application/AppDelegate.h"
 
-#include "shell/WindowState.h"
+#include "shell/window/WindowState.h"
 
 #include <chrono>
 

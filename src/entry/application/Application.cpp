@@ -1,12 +1,12 @@
+#include "controls/theme/Typography.h"
 #include "entry/ApplicationModule.h"
 #include "entry/application/TarnLoftApp.h"
 #include "entry/application/UnansweredStart.h"
 #include "entry/late/LateServices.h"
 #include "entry/selftest/SelfTest.h"
-#include "platform/controls/Typography.h"
-#include "platform/desktop/PosixFileStore.h"
-#include "platform/desktop/Syslog.h"
+#include "platform/desktop/files/PosixFileStore.h"
 #include "platform/desktop/instance/RunningInstance.h"
+#include "platform/desktop/system/Syslog.h"
 
 #include <QApplication>
 #include <QtQml/qqmlextensionplugin.h>
@@ -15,7 +15,7 @@
 #include <cstdlib>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
-Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 

@@ -4,8 +4,8 @@
 #include "assets/PackageMedia.h"
 #include "assets/ThumbnailLoader.h"
 #include "entry/late/LateServices.h"
-#include "sheets/Thumbnails.h"
-#include "workspace/Posters.h"
+#include "pictures/Posters.h"
+#include "pictures/Thumbnails.h"
 
 namespace tarnloft {
 

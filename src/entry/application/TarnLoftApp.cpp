@@ -1,8 +1,8 @@
 #include "entry/application/TarnLoftApp.h"
 
 #include "assets/DropImport.h"
-#include "platform/controls/Motion.h"
-#include "platform/controls/symbols/SymbolFont.h"
+#include "controls/motion/Motion.h"
+#include "controls/symbols/SymbolFont.h"
 
 #include <QGuiApplication>
 #include <QPalette>

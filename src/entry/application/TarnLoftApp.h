@@ -1,14 +1,14 @@
 #pragma once
 
+#include "controls/loading/DeferredEnds.h"
+#include "controls/loading/ViewLoading.h"
+#include "controls/theme/Theme.h"
 #include "entry/application/AppDelegate.h"
 #include "entry/application/DesktopServices.h"
 #include "library/LibraryStore.h"
-#include "platform/controls/DeferredEnds.h"
-#include "platform/controls/Theme.h"
-#include "platform/controls/ViewLoading.h"
-#include "platform/desktop/TerminationSignals.h"
-#include "shell/AccentTint.h"
-#include "shell/MainWindow.h"
+#include "platform/desktop/system/TerminationSignals.h"
+#include "shell/window/AccentTint.h"
+#include "shell/window/MainWindow.h"
 
 #include <QQmlEngine>
 

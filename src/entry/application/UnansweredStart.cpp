@@ -1,8 +1,8 @@
 #include "entry/application/UnansweredStart.h"
 
+#include "controls/theme/Theme.h"
 #include "library/LibraryPreferences.h"
-#include "platform/controls/Theme.h"
-#include "platform/desktop/IniPreferences.h"
+#include "platform/desktop/system/IniPreferences.h"
 #include "platform/desktop/window/DesktopAppearance.h"
 
 #include <QQmlComponent>

@@ -1,5 +1,5 @@
 #include "entry/late/LateModules.h"
-#include "platform/desktop/ZipArchiver.h"
+#include "platform/desktop/archives/ZipArchiver.h"
 
 using namespace tarnloft;
 

@@ -1,5 +1,5 @@
 #include "entry/late/LateModules.h"
-#include "platform/desktop/VipsImages.h"
+#include "platform/desktop/images/VipsImages.h"
 
 using namespace tarnloft;
 

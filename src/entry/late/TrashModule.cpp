@@ -1,5 +1,5 @@
 #include "entry/late/LateModules.h"
-#include "platform/desktop/GioTrash.h"
+#include "platform/desktop/files/GioTrash.h"
 
 using namespace tarnloft;
 

@@ -1,5 +1,5 @@
 #include "entry/late/LateModules.h"
-#include "platform/desktop/LibavVideos.h"
+#include "platform/desktop/clips/LibavVideos.h"
 
 using namespace tarnloft;
 

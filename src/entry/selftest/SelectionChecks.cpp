@@ -1,5 +1,5 @@
 #include "entry/selftest/Checks.h"
-#include "workspace/TileSelection.h"
+#include "workspace/selection/TileSelection.h"
 
 namespace tarnloft::SelfTest {
 

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "controls/motion/Spring.h"
+
+#include <QEasingCurve>
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+class QJSEngine;
+class QQmlEngine;
+
+namespace tarnloft {
+
+// How things move, for QML: `Motion.easing(0.5, 0.85)` with `Motion.duration(0.5, 0.85)`, which the
+// types SpringNumber and SpringFollow take for their users.
+class Motion : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_SINGLETON
+  // Set where the user asks for less movement: durations become 0 and things jump.
+  Q_PROPERTY(bool reduced READ isReduced WRITE setReduced NOTIFY reducedChanged)
+
+ public:
+  // The engine's one instance, made at the first call and owned by the engine.
+  static Motion& of(QQmlEngine& engine);
+
+  static Motion* create(QQmlEngine* engine, QJSEngine* scripts);
+
+  bool isReduced() const { return m_reduced; }
+  void setReduced(bool reduced);
+
+  // Milliseconds for a plain animation, 0 where movement is reduced.
+  Q_INVOKABLE int time(int milliseconds) const { return m_reduced ? 0 : milliseconds; }
+
+  Q_INVOKABLE int duration(double response, double dampingFraction) const;
+  Q_INVOKABLE QEasingCurve easing(double response, double dampingFraction) const;
+  Q_INVOKABLE double stiffness(double response, double dampingFraction) const;
+  Q_INVOKABLE double friction(double response, double dampingFraction) const;
+
+ signals:
+  void reducedChanged();
+
+ private:
+  explicit Motion(QObject* parent) : QObject(parent) {}
+
+  bool m_reduced = false;
+};
+
+}  // namespace tarnloft

@@ -1,9 +1,0 @@
-#include "platform/controls/ViewLoading.h"
-
-#include <QCoreApplication>
-
-namespace tarnloft {
-
-void ViewLoading::answer() { QCoreApplication::sendPostedEvents(nullptr, QEvent::User); }
-
-}  // namespace tarnloft

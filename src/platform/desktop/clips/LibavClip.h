@@ -1,0 +1,95 @@
+#pragma once
+
+#include "platform/desktop/files/PosixFiles.h"
+
+#include <QDeadlineTimer>
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+extern "C" {
+#include <libavcodec/avcodec.h>
+#include <libavformat/avformat.h>
+#include <libswscale/swscale.h>
+}
+
+// The pieces that LibavVideos is made of.
+namespace tarnloft::libav {
+
+template <auto release>
+struct ReleasePointed {
+  template <class Object>
+  void operator()(Object* object) const {
+    release(&object);
+  }
+};
+
+using Decoder = std::unique_ptr<AVCodecContext, ReleasePointed<avcodec_free_context>>;
+using Format = std::unique_ptr<AVFormatContext, ReleasePointed<avformat_close_input>>;
+using Frame = std::unique_ptr<AVFrame, ReleasePointed<av_frame_free>>;
+using Packet = std::unique_ptr<AVPacket, ReleasePointed<av_packet_free>>;
+
+struct ReleaseScaler {
+  void operator()(SwsContext* scaler) const { sws_freeContext(scaler); }
+};
+using Scaler = std::unique_ptr<SwsContext, ReleaseScaler>;
+
+// The bytes of one open file, as libavformat reads them; none any more once the time is up.
+class ByteSource {
+ public:
+  ByteSource(posix::OpenFile file, QDeadlineTimer deadline);
+
+  // Owned by this.
+  AVIOContext* context() const { return context_.get(); }
+  bool isExpired() const { return deadline_.hasExpired(); }
+
+ private:
+  static int read(void* self, uint8_t* buffer, int capacity);
+  static int64_t seek(void* self, int64_t offset, int whence);
+
+  struct ReleaseContext {
+    void operator()(AVIOContext* context) const;
+  };
+
+  posix::OpenFile file_;
+  QDeadlineTimer deadline_;
+  qint64 position_ = 0;
+  std::unique_ptr<AVIOContext, ReleaseContext> context_;
+};
+
+// An open clip, whose streams are known. Work on it ends when its time is up. One thread at a time.
+class Clip {
+ public:
+  // Null if the file is none of the containers that are taken, or if the time is up before its
+  // streams are known.
+  static std::unique_ptr<Clip> open(const QString& path, QDeadlineTimer deadline);
+
+  AVFormatContext& format() const { return *format_; }
+
+  // The first track of moving pictures; a cover picture is none. Null if there isn't one.
+  AVStream* videoStream() const;
+
+  // Reads only that stream from now on.
+  void keepOnly(const AVStream& stream);
+
+  // The next packet into `packet`; false at the end of the file and of the time.
+  bool read(AVPacket& packet);
+
+  bool isExpired() const { return source_.isExpired(); }
+
+ private:
+  Clip(posix::OpenFile file, QDeadlineTimer deadline) : source_(std::move(file), deadline) {}
+
+  bool openFormat();
+  void meetStreams();
+  bool findStreams();
+
+  ByteSource source_;
+  Format format_;  // goes before the source that it reads
+};
+
+// An open decoder of the stream, on one thread; null if it is of a kind that isn't taken.
+Decoder openDecoder(const AVStream& stream);
+
+}  // namespace tarnloft::libav

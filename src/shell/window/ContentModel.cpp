@@ -1,0 +1,127 @@
+#include "shell/window/ContentModel.h"
+
+#include "assets/FontManager.h"
+#include "platform/DesktopWords.h"
+
+#include <QTimer>
+
+#include <algorithm>
+#include <utility>
+
+namespace tarnloft {
+ContentModel::ContentModel(const LibraryServices& libraryServices,
+                           const WorkspaceServices& services, QObject* parent)
+    : QObject(parent),
+      services_(services),
+      library_(services.library),
+      commands_(library_),
+      sidebar_(library_, libraryServices),
+      alerts_(library_),
+      selectedBrand_(library_.selection()),
+      undoDocument_(library_.openDocument()) {
+  library_.setHostUndoManager(&undo_);
+  const LibraryStore* const library = &library_;
+  connect(library, &LibraryStore::brandsChanged, this, &ContentModel::detailChanged);
+  connect(library, &LibraryStore::openDocumentChanged, this, &ContentModel::detailChanged);
+  connect(library, &LibraryStore::openDocumentChanged, this, &ContentModel::titleChanged);
+  connect(library, &LibraryStore::brandChanged, this, &ContentModel::titleChanged);
+  // Several documents may come and go in one turn; each page costs.
+  connect(library, &LibraryStore::openDocumentChanged, this, &ContentModel::renewWorkspace,
+          Qt::QueuedConnection);
+  connect(library, &LibraryStore::openDocumentChanged, this, &ContentModel::followDocument);
+  connect(library, &LibraryStore::isLoadingChanged, this, &ContentModel::detailChanged);
+  connect(library, &LibraryStore::libraryProblemChanged, this, &ContentModel::detailChanged);
+  connect(library, &LibraryStore::selectionChanged, this, &ContentModel::followSelection);
+  connect(library, &LibraryStore::newBrandRequestedChanged, this, &ContentModel::answerRequest);
+  connect(library, &LibraryStore::scrollToSectionChanged, this, &ContentModel::answerScrollRequest,
+          Qt::QueuedConnection);
+  connect(&toasts_, &ToastCenter::messageChanged, this, &ContentModel::toastChanged);
+  if (const ImportProgress* const progress = services.imports.progress) {
+    const auto follow = [this, progress] { toasts_.setUnderWay(progress->text()); };
+    connect(progress, &ImportProgress::textChanged, this, follow);
+    follow();
+  }
+  renewWorkspace();
+  answerRequest();
+}
+
+ContentModel::~ContentModel() { library_.setHostUndoManager(nullptr); }
+
+ContentModel::Detail ContentModel::detail() const {
+  if (library_.openDocument()) return Detail::brand;
+  if (library_.isLoading()) return Detail::opening;
+  const bool isEmpty = library_.brands().isEmpty();
+  if (isEmpty && !library_.libraryProblem().isEmpty()) return Detail::unavailable;
+  if (library_.isOpening()) return Detail::opening;
+  return isEmpty ? Detail::welcome : Detail::noSelection;
+}
+
+QString ContentModel::title() const {
+  const QString program = QStringLiteral("Tarn Loft");
+  const BrandDocument* const open = library_.openDocument();
+  return open ? open->brand().name + QStringLiteral(" — ") + program : program;
+}
+
+void ContentModel::setShowNewBrand(bool show) {
+  if (std::exchange(showNewBrand_, show) != show) emit showNewBrandChanged();
+}
+
+void ContentModel::setNewBrandName(const QString& name) {
+  if (std::exchange(newBrandName_, name) != name) emit newBrandNameChanged();
+}
+
+void ContentModel::answerRequest() {
+  if (!library_.newBrandRequested()) return;
+  setShowNewBrand(true);
+  library_.setNewBrandRequested(false);
+}
+
+QString ContentModel::toast() const { return inDesktopWords(toasts_.text()); }
+
+void ContentModel::answerScrollRequest() {
+  const std::optional<QUuid> id = library_.scrollToSection();
+  if (!id || !library_.openDocument()) return;
+  const QList<Section>& sections = library_.openDocument()->brand().sections;
+  const auto found = std::ranges::find(sections, *id, &Section::id);
+  if (found != sections.cend()) emit sectionRequested(int(found - sections.cbegin()));
+  library_.setScrollToSection(std::nullopt);
+}
+
+void ContentModel::renewWorkspace() {
+  BrandDocument* const document = library_.openDocument();
+  if (!workspace_ && !document) return;
+  const QString package = document ? document->packageURL() : QString();
+  const bool isSame = workspace_ && document && workspace_->document() == document;
+  if (isSame && workspacePackage_ == package) return;
+  workspacePackage_ = package;
+  auto old = std::exchange(workspace_, document ? makeWorkspace(*document) : nullptr);
+  emit workspaceChanged();
+  // The old page goes in turns of its own, its sections behind it, and reads the old one till then.
+  if (!old) return;
+  old->setParent(this);  // which takes it along if no turn comes any more
+  QTimer::singleShot(0, old.release(), &QObject::deleteLater);
+}
+
+std::unique_ptr<BrandWorkspace> ContentModel::makeWorkspace(BrandDocument& document) {
+  services_.imports.workers.start(
+      [brand = document.brand(), package = document.files(), &fonts = services_.imports.fonts] {
+        FontManager::registerAll(brand, package, fonts);
+      });
+  document.maybeAutoSnapshot();
+  return std::make_unique<BrandWorkspace>(document, selection_, toasts_, &undo_, services_);
+}
+
+// Steps of a document that has gone would do nothing.
+void ContentModel::followDocument() {
+  if (std::exchange(undoDocument_, library_.openDocument()) != library_.openDocument()) {
+    undo_.clear();
+  }
+}
+
+void ContentModel::followSelection() {
+  if (std::exchange(selectedBrand_, library_.selection()) != library_.selection()) {
+    selection_.clear();
+  }
+}
+
+}  // namespace tarnloft

@@ -1,0 +1,104 @@
+#pragma once
+
+#include "shell/alerts/Alerts.h"
+#include "shell/menus/ShellCommands.h"
+#include "shell/menus/StackUndoManager.h"
+#include "shell/sidebar/Sidebar.h"
+#include "workspace/BrandWorkspace.h"
+
+namespace tarnloft {
+
+// What a main window shows and does; made with the window and gone with it.
+class ContentModel : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("Each window has one")
+  Q_PROPERTY(tarnloft::ShellCommands* commands READ commands CONSTANT)
+  Q_PROPERTY(tarnloft::Sidebar* sidebar READ sidebar CONSTANT)
+  Q_PROPERTY(tarnloft::StackUndoManager* undo READ undo CONSTANT)
+  Q_PROPERTY(tarnloft::Alerts* alerts READ alerts CONSTANT)
+  // A BrandWorkspace, or null while no brand is open. Not of that type for QML, because its module
+  // would be loaded with this one, before the first frame.
+  Q_PROPERTY(QObject* workspace READ workspace NOTIFY workspaceChanged)
+  Q_PROPERTY(tarnloft::Thumbnails* thumbnails READ thumbnails CONSTANT)
+  // The text of the toast that is shown; empty for none.
+  Q_PROPERTY(QString toast READ toast NOTIFY toastChanged)
+  Q_PROPERTY(Detail detail READ detail NOTIFY detailChanged)
+  Q_PROPERTY(QString title READ title NOTIFY titleChanged)
+  Q_PROPERTY(bool showNewBrand READ showsNewBrand WRITE setShowNewBrand NOTIFY showNewBrandChanged)
+  Q_PROPERTY(
+      QString newBrandName READ newBrandName WRITE setNewBrandName NOTIFY newBrandNameChanged)
+
+ public:
+  enum class Detail {
+    opening,      // the library, or the selected brand, is being read
+    unavailable,  // the library can't be read
+    welcome,      // the library is empty
+    noSelection,  // it has brands, and none is open
+    brand
+  };
+  Q_ENUM(Detail)
+
+  // Borrowed: all of the services outlive the content.
+  ContentModel(const LibraryServices& libraryServices, const WorkspaceServices& services,
+               QObject* parent = nullptr);
+  ~ContentModel() override;
+  Q_DISABLE_COPY_MOVE(ContentModel)
+
+  ShellCommands* commands() { return &commands_; }
+  Sidebar* sidebar() { return &sidebar_; }
+  StackUndoManager* undo() { return &undo_; }
+  Alerts* alerts() { return &alerts_; }
+  TileSelection* selection() { return &selection_; }
+  ToastCenter* toasts() { return &toasts_; }
+  // Another brand gets another one, on the next turn of the event loop.
+  BrandWorkspace* workspace() const { return workspace_.get(); }
+  Thumbnails* thumbnails() const { return &services_.thumbnails; }
+  QString toast() const;
+
+  Detail detail() const;
+  // The window's, led by the open brand's name.
+  QString title() const;
+
+  // Whether the new-brand sheet is up, and its text, which it keeps for its next opening.
+  bool showsNewBrand() const { return showNewBrand_; }
+  void setShowNewBrand(bool show);
+  const QString& newBrandName() const { return newBrandName_; }
+  void setNewBrandName(const QString& name);
+  Q_INVOKABLE void createBrand(const QString& name) { library_.createBrand(name); }
+
+ signals:
+  void detailChanged();
+  void workspaceChanged();
+  void toastChanged();
+  // The page shall scroll to that section of the open brand.
+  void sectionRequested(int index);
+  void titleChanged();
+  void showNewBrandChanged();
+  void newBrandNameChanged();
+
+ private:
+  void answerRequest();
+  void answerScrollRequest();
+  void followSelection();
+  void renewWorkspace();
+  void followDocument();
+  std::unique_ptr<BrandWorkspace> makeWorkspace(BrandDocument& document);
+
+  const WorkspaceServices services_;
+  LibraryStore& library_;
+  StackUndoManager undo_;
+  TileSelection selection_;
+  ToastCenter toasts_;
+  ShellCommands commands_;
+  Sidebar sidebar_;
+  Alerts alerts_;
+  std::optional<QString> selectedBrand_;
+  bool showNewBrand_ = false;
+  QString newBrandName_;
+  std::unique_ptr<BrandWorkspace> workspace_;
+  QString workspacePackage_;              // where its paths lead
+  QPointer<BrandDocument> undoDocument_;  // whose steps the undo has
+};
+
+}  // namespace tarnloft

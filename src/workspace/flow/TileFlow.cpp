@@ -1,0 +1,328 @@
+#include "workspace/flow/TileFlow.h"
+
+#include "controls/theme/Typography.h"
+#include "workspace/BrandWorkspace.h"
+
+#include <QFontMetricsF>
+#include <QKeyEvent>
+
+#include <algorithm>
+#include <utility>
+
+namespace tarnloft {
+
+// Runs while views are on their way, once a frame.
+class TileFlow::Clock : public QAbstractAnimation {
+ public:
+  explicit Clock(TileFlow& flow) : flow_(flow) {}
+  int duration() const override { return -1; }
+
+ protected:
+  void updateCurrentTime(int now) override {
+    flow_.advance((now - std::exchange(last_, now)) / 1000.0);
+  }
+  void updateState(State /*now*/, State /*before*/) override { last_ = 0; }
+
+ private:
+  TileFlow& flow_;
+  int last_ = 0;
+};
+
+namespace {
+
+// Of a block that isn't measured yet: near enough for what is out of sight.
+double estimatedHeight(const Item& item, double width) {
+  const auto* text = std::get_if<TextPayload>(&item.payload);
+  if (!text) return 34;
+  width = std::min(width - 24, 680.0);
+  const QFontMetricsF metrics(interfaceFont(13));
+  double lines = 0;
+  for (const QString& paragraph : text->body.split(QLatin1Char('\n'))) {
+    lines += std::max(1.0, std::ceil(metrics.horizontalAdvance(paragraph) / std::max(width, 1.0)));
+  }
+  return std::ceil(lines * metrics.height());
+}
+
+std::optional<FlowLayout::Direction> directionOf(int key) {
+  using Direction = FlowLayout::Direction;
+  switch (key) {
+    case Qt::Key_Left: return Direction::left;
+    case Qt::Key_Right: return Direction::right;
+    case Qt::Key_Up: return Direction::up;
+    case Qt::Key_Down: return Direction::down;
+    case Qt::Key_Home: return Direction::first;
+    case Qt::Key_End: return Direction::last;
+    default: return std::nullopt;
+  }
+}
+
+}  // namespace
+
+TileFlow::TileFlow(QQuickItem* parent)
+    : QQuickItem(parent), live_(*this), clock_(std::make_unique<Clock>(*this)) {}
+
+TileFlow::~TileFlow() = default;
+
+void TileFlow::setSection(SectionModel* section) {
+  if (section_ == section) return;
+  if (section_) {
+    section_->items()->disconnect(this);
+    section_->workspace()->disconnect(this);
+  }
+  live_.clear();
+  section_ = section;
+  if (section_) watch(*section_->items());
+  itemsChanged();
+  emit sectionChanged();
+}
+
+void TileFlow::watch(const ItemListModel& items) {
+  connect(&items, &ItemListModel::updated, this, &TileFlow::itemsChanged);
+  connect(section_->workspace(), &BrandWorkspace::metricsChanged, this, &TileFlow::layoutChanged);
+}
+
+void TileFlow::setViewTop(qreal top) {
+  if (std::exchange(viewTop_, top) == top) return;
+  emit viewportChanged();
+  polish();
+}
+
+void TileFlow::setViewHeight(qreal height) {
+  if (std::exchange(viewHeight_, height) == height) return;
+  emit viewportChanged();
+  polish();
+}
+
+void TileFlow::setReachable(bool reachable) {
+  if (std::exchange(reachable_, reachable) == reachable) return;
+  emit reachableChanged();
+  layoutChanged();
+}
+
+void TileFlow::componentComplete() {
+  QQuickItem::componentComplete();
+  setOut();
+}
+
+void TileFlow::geometryChange(const QRectF& now, const QRectF& before) {
+  QQuickItem::geometryChange(now, before);
+  if (now.width() != before.width()) layoutChanged();
+}
+
+// The height follows at once, so that the page isn't lower for a moment and scrolls.
+void TileFlow::itemsChanged() {
+  areItemsStale_ = true;
+  isMoving_ = animated_;
+  setOut();
+  polish();
+}
+
+void TileFlow::layoutChanged() {
+  isLayoutStale_ = true;
+  polish();
+}
+
+void TileFlow::setOut() {
+  if (!section_ || !isComponentComplete()) return;
+  isLayoutStale_ = false;
+  populated_ = {};
+  const BrandWorkspace& workspace = *section_->workspace();
+  layout_.setOut(section_->items()->items(), width(),
+                 {workspace.gridMinWidth(), workspace.gridMaxWidth(), workspace.tileHeight()},
+                 [this](int index) { return blockHeight(index); });
+  setImplicitHeight(layout_.height());
+}
+
+double TileFlow::blockHeight(int index) const {
+  const Item& item = section_->items()->items().at(index);
+  const auto measured = blockHeights_.constFind(item.id);
+  return measured == blockHeights_.constEnd() ? estimatedHeight(item, width()) : *measured;
+}
+
+void TileFlow::updatePolish() {
+  if (!section_ || !tile_ || !block_) return;
+  constexpr int mostRounds = 4;  // a block's height may bring others into sight
+  for (int round = 0; round < mostRounds; ++round) {
+    if (isLayoutStale_) setOut();
+    populate();
+    if (!measureBlocks()) break;
+  }
+  placeViews();
+  isMoving_ = false;
+}
+
+// What is seen is made at once; what is near it, a little in each of the next frames.
+FlowLayout::Range TileFlow::wantedRange() {
+  constexpr double step = 80;  // points a frame, less than a row
+  const double most = viewHeight_ / 2;
+  const double margin = std::min(margin_, most);
+  if (margin_ < most) {
+    margin_ += step;
+    QMetaObject::invokeMethod(this, &TileFlow::polish, Qt::QueuedConnection);
+  }
+  return layout_.range(viewTop_ - margin, viewTop_ + viewHeight_ + margin);
+}
+
+void TileFlow::populate() {
+  const auto wanted = wantedRange();
+  if (!areItemsStale_ && !isOrderStale_ && wanted == populated_) return;
+  const SharedList<Item>& items = section_->items()->items();
+  if (std::exchange(areItemsStale_, false)) {
+    isOrderStale_ = true;
+    const int focused = focusedIndex();
+    live_.forEach([](LiveTile& live) { live.index = -1; });
+    int index = 0;
+    for (const Item& item : items) {
+      if (LiveTile* live = live_.find(item.id)) {
+        live->index = index;
+        live->tile->setItem(item);
+      }
+      ++index;
+    }
+    if (focused >= 0 && focusedIndex() < 0) handOverFocus(focused);
+  }
+  const int tabStop = reachable_ ? currentIndex() : -1;
+  live_.releaseIf([&](const LiveTile& live) {
+    const bool isWanted =
+        wanted.contains(live.index) || live.index == tabStop || live.motion.isMoving();
+    return !(isWanted && live.index >= 0) && !live.isHeld();
+  });
+  QQuickItem* before = nullptr;
+  if (tabStop >= 0 && tabStop < wanted.first) before = show(tabStop, before);
+  for (int index = wanted.first; index < wanted.last; ++index) before = show(index, before);
+  if (tabStop >= wanted.last) (void)show(tabStop, before);
+  populated_ = wanted;
+  isOrderStale_ = false;
+}
+
+// Makes the item's view exist, behind the other in the order of the Tab key.
+QQuickItem* TileFlow::show(int index, QQuickItem* before) {
+  const Item& item = section_->items()->items().at(index);
+  QQmlComponent& component = TileFacts::isBlock(item) ? *block_ : *tile_;
+  LiveTile* live = live_.obtain(*section_, item, component, layout_.rect(index).size());
+  if (!live) return before;
+  if (!live->isWatched) {
+    connect(live->view, &QQuickItem::activeFocusChanged, this, &TileFlow::focusMoved);
+    live->isWatched = true;
+  }
+  live->index = index;
+  if (isOrderStale_ || !live->isPlaced) stack(*live->view, before);
+  if (!TileFacts::isBlock(item)) live->view->setActiveFocusOnTab(item.id == current_);
+  return live->view;
+}
+
+// Children stand in the order in which the Tab key and assistive technology go through them.
+void TileFlow::stack(QQuickItem& view, QQuickItem* before) {
+  if (before) return view.stackAfter(before);
+  QQuickItem* const first = childItems().constFirst();
+  if (first != &view) view.stackBefore(first);
+}
+
+// Where the Tab key leads: the tile that last had the keyboard, else the first one; -1 without any.
+int TileFlow::currentIndex() {
+  const LiveTile* live = live_.find(current_);
+  if (live && live->index >= 0) return live->index;
+  const int first = layout_.neighbour(0, FlowLayout::Direction::first);
+  current_ = first < 0 ? QUuid() : section_->items()->items().at(first).id;
+  return first;
+}
+
+// True if a block isn't as high as it was laid out.
+bool TileFlow::measureBlocks() {
+  double above = 0;
+  bool isOff = false;
+  live_.forEach([&](LiveTile& live) {
+    if (live.index < 0 || !TileFacts::isBlock(live.tile->item())) return;
+    const QRectF rect = layout_.rect(live.index);
+    live.view->setWidth(rect.width());
+    const double height = std::ceil(live.view->implicitHeight());
+    blockHeights_[live.tile->item().id] = height;
+    if (height == rect.height()) return;
+    isOff = true;
+    if (rect.bottom() < viewTop_) above += height - rect.height();
+  });
+  if (isOff) isLayoutStale_ = true;
+  if (above != 0) emit shifted(above);
+  return isOff;
+}
+
+void TileFlow::placeViews() {
+  live_.forEach([this](LiveTile& live) {
+    if (live.index >= 0) put(live, layout_.rect(live.index));
+  });
+  constexpr size_t mostWaiting = 12;
+  live_.trim(mostWaiting);
+}
+
+void TileFlow::put(LiveTile& live, const QRectF& rect) {
+  live.view->setSize(rect.size());
+  if (isMoving_ && live.isPlaced) {
+    live.motion.aim(rect.topLeft());
+    if (live.motion.isMoving()) clock_->start();
+  } else if (!live.motion.isMoving() || live.motion.target() != rect.topLeft()) {
+    live.motion.settle(rect.topLeft());
+    live.view->setPosition(rect.topLeft());
+  }
+  live.isPlaced = true;
+}
+
+void TileFlow::advance(double seconds) {
+  bool areMoving = false;
+  live_.forEach([&](LiveTile& live) {
+    if (!live.motion.isMoving()) return;
+    live.motion.advance(seconds);
+    live.view->setPosition(live.motion.position());
+    areMoving = areMoving || live.motion.isMoving();
+  });
+  if (areMoving) return;
+  clock_->stop();
+  populated_ = {};  // those that have moved out of sight may go
+  polish();
+}
+
+int TileFlow::focusedIndex() const {
+  int index = -1;
+  live_.forEach([&](const LiveTile& live) {
+    if (live.view->hasActiveFocus()) index = live.index;
+  });
+  return index;
+}
+
+void TileFlow::keyPressEvent(QKeyEvent* event) {
+  const int from = focusedIndex();
+  const auto direction = directionOf(event->key());
+  event->setAccepted(direction && from >= 0 && !layout_.isBlock(from));
+  if (event->isAccepted()) focusTile(layout_.neighbour(from, *direction));
+}
+
+void TileFlow::focusTile(int index) {
+  (void)show(index, nullptr);
+  isOrderStale_ = true;  // it gets its place among the others when they are shown
+  polish();
+  LiveTile* live = live_.find(section_->items()->items().at(index).id);
+  if (!live) return;
+  put(*live, layout_.rect(index));
+  live->view->forceActiveFocus(Qt::TabFocusReason);
+}
+
+// The item with the keyboard has gone: the tile that took its place gets it.
+void TileFlow::handOverFocus(int from) {
+  const int last = int(section_->items()->items().size()) - 1;
+  const int index = layout_.nearestTile(std::min(from, last));
+  if (index >= 0) return focusTile(index);
+  live_.forEach([](LiveTile& live) {
+    if (live.view->hasActiveFocus()) live.view->setFocus(false);
+  });
+}
+
+// However the keyboard came to it: the tile is where the Tab key leads from now on.
+void TileFlow::focusMoved() {
+  const int index = focusedIndex();
+  if (index < 0 || layout_.isBlock(index)) return;
+  const QUuid before = std::exchange(current_, section_->items()->items().at(index).id);
+  if (before == current_) return;
+  if (const LiveTile* live = live_.find(before)) live->view->setActiveFocusOnTab(false);
+  live_.find(current_)->view->setActiveFocusOnTab(true);
+}
+
+}  // namespace tarnloft

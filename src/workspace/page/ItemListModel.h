@@ -1,0 +1,46 @@
+#pragma once
+
+#include "model/SharedList.h"
+#include "workspace/tiles/TileFacts.h"
+
+#include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
+
+namespace tarnloft {
+
+// The items of a section that are shown, in order. A new value shows as the fewest removals, moves,
+// insertions and changes, by id. Main thread.
+class ItemListModel : public QAbstractListModel {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("Belongs to a section")
+  Q_PROPERTY(int count READ count NOTIFY countChanged)
+
+ public:
+  enum Role {
+    IdRole = Qt::UserRole,  // QUuid
+    KindRole                // TileKind::Kind
+  };
+
+  using QAbstractListModel::QAbstractListModel;
+
+  const SharedList<Item>& items() const { return items_; }
+  int count() const { return int(items_.size()); }
+  void setItems(const SharedList<Item>& items);
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  // The display role is the item's name.
+  QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+  QHash<int, QByteArray> roleNames() const override;
+
+ signals:
+  void countChanged();
+  void updated();  // after all rows of a new value
+
+ private:
+  void apply(const struct ListChange& change, const SharedList<Item>& target);
+
+  SharedList<Item> items_;
+};
+
+}  // namespace tarnloft

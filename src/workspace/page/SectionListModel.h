@@ -1,0 +1,43 @@
+#pragma once
+
+#include "workspace/page/SectionModel.h"
+
+#include <QAbstractListModel>
+
+#include <memory>
+#include <vector>
+
+namespace tarnloft {
+
+// The sections of the open brand, in order. Each keeps its `SectionModel` for as long as it is in
+// the brand. Main thread.
+class SectionListModel : public QAbstractListModel {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("Belongs to a workspace")
+
+ public:
+  enum Role {
+    SectionRole = Qt::UserRole  // SectionModel*
+  };
+
+  // The workspace outlives it.
+  explicit SectionListModel(BrandWorkspace& workspace) : workspace_(workspace) {}
+  ~SectionListModel() override;
+
+  void setSections(const QList<Section>& sections, const QString& searchText);
+  const std::vector<std::unique_ptr<SectionModel>>& models() const { return models_; }
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role = SectionRole) const override;
+  QHash<int, QByteArray> roleNames() const override;
+
+ private:
+  void apply(const struct ListChange& change, const QList<Section>& target);
+  QList<SectionModel*> take(int row, int count);
+
+  BrandWorkspace& workspace_;
+  std::vector<std::unique_ptr<SectionModel>> models_;
+};
+
+}  // namespace tarnloft

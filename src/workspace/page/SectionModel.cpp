@@ -1,0 +1,142 @@
+#include "workspace/page/SectionModel.h"
+
+#include "workspace/BrandWorkspace.h"
+#include "workspace/flow/Segments.h"
+
+#include <algorithm>
+
+namespace tarnloft {
+namespace {
+
+const QString newColor = QStringLiteral("#4C6FFF");
+const QString sampleText = QStringLiteral("The quick brown fox");
+const QString tipShownKey = QStringLiteral("didShowEyedropperTip");
+
+bool holdsColors(const Section& section) {
+  return std::any_of(section.items.begin(), section.items.end(), [](const Item& item) {
+    return std::holds_alternative<ColorPayload>(item.payload);
+  });
+}
+
+}  // namespace
+
+SectionModel::SectionModel(BrandWorkspace& workspace, const Section& section)
+    : QObject(&workspace), workspace_(workspace), section_(section) {
+  setSection(section, QString());
+}
+
+QList<QUuid> SectionModel::itemOrder() const {
+  QList<QUuid> order;
+  order.reserve(section_.items.size());
+  for (const Item& item : section_.items) order << item.id;
+  return order;
+}
+
+EmblemLook SectionModel::emblem() const {
+  return workspace_.lookOf(section_.emblem, QStringLiteral("rectangle.grid.1x2"));
+}
+
+void SectionModel::setSection(const Section& section, const QString& searchText) {
+  section_ = section;
+  isSearched_ = !searchText.trimmed().isEmpty();
+  hasColors_ = holdsColors(section);
+  items_.setItems(matching(section.items, searchText));
+  emit changed();
+}
+
+void SectionModel::setPlace(qsizetype place, qsizetype count) {
+  const bool isSame = place_ == place && last_ == count - 1;
+  place_ = place;
+  last_ = count - 1;
+  if (!isSame) emit placeChanged();
+}
+
+void SectionModel::rename(const QString& name) {
+  workspace_.editSection(id(), [&](Section& section) { section.name = name; });
+}
+
+void SectionModel::append(ItemPayload payload) {
+  const Item item = Item::create(std::move(payload));
+  workspace_.editSection(id(), [&](Section& section) { section.items.append(item); });
+}
+
+void SectionModel::addHeader() { append(HeaderPayload{QStringLiteral("Heading"), 1}); }
+
+void SectionModel::addText() { append(TextPayload{QStringLiteral("Add a note…")}); }
+
+void SectionModel::addColor() {
+  append(ColorPayload{{newColor, std::nullopt, std::nullopt}});
+  workspace_.services().library.setActiveColorSectionID(id());
+}
+
+void SectionModel::addGradient() {
+  append(GradientPayload{
+      {{{QUuid::createUuid(), newColor, 0}, {QUuid::createUuid(), QStringLiteral("#9C4CFF"), 1}},
+       45,
+       std::nullopt}});
+}
+
+void SectionModel::addFont() {
+  append(FontPayload{{QStringLiteral("Helvetica Neue"), QStringLiteral("Regular"), sampleText,
+                      std::nullopt, std::nullopt}});
+}
+
+void SectionModel::addCode() {
+  append(CodePayload{{QStringLiteral("swift"), QStringLiteral("// Snippet"), std::nullopt}});
+}
+
+void SectionModel::addLogoSet() { append(LogoPayload{{QStringLiteral("Logo"), {}}}); }
+
+void SectionModel::pickColorFromScreen() {
+  workspace_.sampleColor([section = QPointer(this)](const QString& hex) {
+    if (section) section->addPicked(hex);
+  });
+}
+
+void SectionModel::addPicked(const QString& hex) {
+  const Item item = Item::create(ColorPayload{{hex, std::nullopt, std::nullopt}});
+  workspace_.mutateSection(QStringLiteral("Pick Color"), id(),
+                           [&](Section& section) { section.items.append(item); });
+  workspace_.services().library.setActiveColorSectionID(id());
+  showEyedropperTip();
+}
+
+void SectionModel::showEyedropperTip() {
+  Preferences& preferences = workspace_.services().preferences;
+  if (preferences.number(tipShownKey).value_or(0) != 0) return;
+  preferences.setNumber(tipShownKey, 1);
+  workspace_.toasts().show(
+      QStringLiteral("Tip: press ⌃⌘P to keep sampling — colors land in this section"));
+}
+
+void SectionModel::importImages() {
+  workspace_.importChosen({QStringLiteral("image/*")}, DropImport::MediaKind::image, id());
+}
+
+void SectionModel::importVideos() {
+  workspace_.importChosen({QStringLiteral("video/*")}, DropImport::MediaKind::video, id());
+}
+
+void SectionModel::importFontFiles() { workspace_.importChosenFonts(id()); }
+
+QStringList SectionModel::paletteFormats() {
+  QStringList names;
+  for (const auto format : allCases<PaletteExport::Format>())
+    names << PaletteExport::rawValue(format);
+  return names;
+}
+
+void SectionModel::copyColors(const QString& format) {
+  for (const auto known : allCases<PaletteExport::Format>()) {
+    if (PaletteExport::rawValue(known) != format) continue;
+    workspace_.copy(PaletteExport::format(PaletteExport::entries(section_), known), format);
+  }
+}
+
+void SectionModel::moveUp() { workspace_.moveSection(id(), -1); }
+
+void SectionModel::moveDown() { workspace_.moveSection(id(), 1); }
+
+void SectionModel::remove() { workspace_.deleteSection(id()); }
+
+}  // namespace tarnloft

@@ -1,0 +1,54 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Controls
+import TarnLoft.Pictures
+import TarnLoft.Workspace
+
+// A picture, fitted into the card; without one a symbol, and for a broken file a word about it.
+Item {
+    id: root
+
+    required property Tile tile
+
+    readonly property bool failed: tile.hasPicture && (tile.path === "" || picture.state === ThumbnailView.Failed)
+    readonly property bool loading: tile.path !== "" && picture.state === ThumbnailView.Loading
+
+    // Marks stand on the backdrop, which is the theme's own only where none was chosen.
+    readonly property bool themed: tile.backdrop === TileKind.Window
+    readonly property color ink: tile.backdrop === TileKind.Dark ? "white" : "black"
+
+    LazyItem {
+        anchors.fill: parent
+        active: root.tile.backdrop === TileKind.Checkerboard
+        sourceComponent: CheckerboardView {}
+    }
+
+    ThumbnailView {
+        id: picture
+
+        anchors.fill: parent
+        anchors.margins: 4
+        thumbnails: root.tile.workspace.thumbnails
+        path: root.tile.path
+    }
+
+    LazyItem {
+        anchors.centerIn: parent
+        active: root.loading || !root.tile.hasPicture
+        sourceComponent: Symbol {
+            name: root.tile.hasPicture ? "photo" : "square.stack.3d.up"
+            size: 20
+            color: root.themed ? Theme.quaternaryLabel : Theme.thin(root.ink, 0.3)
+        }
+    }
+
+    LazyItem {
+        anchors.fill: parent
+        active: root.failed
+        sourceComponent: FailedPicture {
+            help: root.tile.failureHelp
+            color: root.themed ? Theme.secondaryLabel : Theme.thin(root.ink, 0.8)
+        }
+    }
+}

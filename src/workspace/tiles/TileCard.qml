@@ -1,0 +1,122 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Controls
+import TarnLoft.Workspace
+
+// The card of a tile, with its kind's content and the badge of its notes.
+Card {
+    id: root
+
+    required property Tile tile
+    property bool resting: false // it shows nothing of the pointer
+
+    property real captionHeight: 0 // of what stands beneath it and belongs to it
+    property bool helped: false
+
+    readonly property bool hovering: hover.hovered && !resting
+    readonly property bool failed: (content.item as ImageTileContent)?.failed ?? false
+    readonly property string help: failed ? tile.failureHelp : tile.help
+    readonly property color backdrop: {
+        switch (tile.backdrop) {
+        case TileKind.White:
+            return "white";
+        case TileKind.Dark:
+            return Qt.hsva(0, 0, 0.16, 1);
+        default:
+            return Theme.windowBackground;
+        }
+    }
+
+    onHoveringChanged: if (hovering && help !== "") helped = true
+    selected: tile.selected
+    color: {
+        switch (tile.kind) {
+        case TileKind.Color:
+            return tile.color;
+        case TileKind.Gradient:
+            return "transparent";
+        case TileKind.Video:
+            return Qt.rgba(0, 0, 0, 0.85);
+        case TileKind.Font:
+        case TileKind.Code:
+            return Theme.textBackground;
+        default:
+            return backdrop;
+        }
+    }
+
+    LazyItem {
+        id: content
+
+        anchors.fill: parent
+        sourceComponent: {
+            switch (root.tile.kind) {
+            case TileKind.Color:
+                return color;
+            case TileKind.Gradient:
+                return gradient;
+            case TileKind.Video:
+                return video;
+            case TileKind.Font:
+                return font;
+            case TileKind.Code:
+                return code;
+            default:
+                return image;
+            }
+        }
+    }
+
+    Component { id: color; ColorTileContent { tile: root.tile; hovering: root.hovering } }
+    Component { id: gradient; GradientTileContent { tile: root.tile } }
+    Component { id: image; ImageTileContent { tile: root.tile } }
+    Component { id: video; VideoTileContent { tile: root.tile } }
+    Component { id: font; FontTileContent { tile: root.tile } }
+    Component { id: code; CodeTileContent { tile: root.tile } }
+
+    HoverHandler {
+        id: hover
+    }
+
+    // It stays once it was wanted, for a tip needs time to fade.
+    LazyItem {
+        anchors.fill: parent
+        active: root.helped
+        sourceComponent: Help {
+            text: root.help
+            below: root.captionHeight
+            shown: root.hovering && !notesHover.hovered // which has a help of its own
+        }
+    }
+
+    LazyItem {
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        anchors.margins: 5
+        active: root.tile.variantCount > 1
+        sourceComponent: Badge {
+            symbol: "square.stack.3d.up.fill"
+            text: root.tile.variantCount
+            kind: Badge.Dark
+            font: Theme.font(10, Font.Bold)
+            Accessible.ignored: true // the tile's own description counts them
+        }
+    }
+
+    LazyItem {
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.margins: 5
+        active: root.tile.hasNotes
+        sourceComponent: Badge {
+            symbol: "checklist"
+            kind: Badge.Dark
+            help: "Has usage notes"
+        }
+
+        HoverHandler {
+            id: notesHover
+        }
+    }
+}
