@@ -15,7 +15,7 @@
 #include <QtQml/qqmlextensionplugin.h>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
-Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
 
 using namespace tarnloft;
 
@@ -38,7 +38,7 @@ struct Window {
   // A view of that file, 100 by 60 points, at the window's corner.
   ThumbnailView* view(const QString& path, QSizeF size = {100, 60}) {
     QQmlComponent component(window.engine());
-    component.setData("import TarnLoft.Sheets\nThumbnailView {}", QUrl("qrc:/test.qml"));
+    component.setData("import TarnLoft.Pictures\nThumbnailView {}", QUrl("qrc:/test.qml"));
     auto* view = qobject_cast<ThumbnailView*>(
         component.createWithInitialProperties({{"thumbnails", QVariant::fromValue(&thumbnails)},
                                                {"path", path},
@@ -51,7 +51,7 @@ struct Window {
   // An emblem, 64 points across, at the window's corner.
   EmblemView* emblem(const EmblemLook& look) {
     QQmlComponent component(window.engine());
-    component.setData("import TarnLoft.Sheets\nEmblemView { size: 64 }", QUrl("qrc:/test.qml"));
+    component.setData("import TarnLoft.Pictures\nEmblemView { size: 64 }", QUrl("qrc:/test.qml"));
     auto* view = qobject_cast<EmblemView*>(component.createWithInitialProperties(
         {{"thumbnails", QVariant::fromValue(&thumbnails)}, {"look", QVariant::fromValue(look)}}));
     view->setParent(&window);
@@ -254,7 +254,7 @@ class TestPictureViews : public QObject {
     component.setData(R"(
     pragma ComponentBehavior: Bound
     import QtQuick
-    import TarnLoft.Sheets
+    import TarnLoft.Controls
     Item {
       id: root
       property bool wanted: false

@@ -173,7 +173,7 @@ class TestContent : public QObject {
     store.createBrand("Acme")->edit([](Brand& brand) { brand.accentHex = "#FF0000"; });
     QCOMPARE(theme.accent(), QColor("#FF0000"));
     store.openDocument()->edit([](Brand& brand) { brand.accentHex = "no colour"; });
-    QCOMPARE(theme.accent(), QColor(Qt::gray));
+    QCOMPARE(theme.accent(), QColor(0x8e8e93));
     store.select(std::nullopt);
     QCOMPARE(theme.accent(), QColor("#00FF00"));
   }
