@@ -65,30 +65,6 @@ class TestShellViews : public QObject {
     QVERIFY(views.library.names().isEmpty());
   }
 
-  void selectsByClickAndByKeyboard() {
-    Views views;
-    for (const char* name : {"Acme", "Birch", "Cedar"}) {
-      views.library.add(name, {Section::create(QString("Logos of ") + name)});
-    }
-    views.start();
-    views.click(views.item(row, "Birch"));
-    QCOMPARE(views.library.store->selection(), views.library.packagePath("Birch"));
-    QTRY_VERIFY(views.item(row, "Logos of Birch"));
-    views.press(Qt::Key_Down);
-    views.press(Qt::Key_Down);
-    views.press(Qt::Key_Return);
-    QCOMPARE(views.library.store->selection(), views.library.packagePath("Cedar"));
-    QTRY_VERIFY(views.item(row, "Logos of Cedar"));
-    QList<std::optional<QUuid>> asked;
-    LibraryStore& store = *views.library.store;
-    connect(&store, &LibraryStore::scrollToSectionChanged, this,
-            [&] { asked << store.scrollToSection(); });
-    views.press(Qt::Key_Down);
-    views.press(Qt::Key_Space);
-    QTRY_COMPARE(asked.size(), 2);  // asked for, and answered
-    QCOMPARE(asked.first(), store.openDocument()->brand().sections.first().id);
-  }
-
   void assistiveTechnologyHearsRowsInTheirOrder() {
     Views views;
     for (const char* name : {"Acme", "Birch", "Cedar"}) {
