@@ -1,35 +1,94 @@
 #include "assets/AssetMetadata.h"
 #include "assets/ByteCount.h"
-#include "testing/GatedImages.h"
+#include "testing/Cases.h"
+#include "testing/FakeMedia.h"
 #include "testing/TestServices.h"
 
 #include <QTest>
 
 using namespace tarnloft;
 
-namespace {
-
-class ToldVideos : public Videos {
- public:
-  std::optional<VideoProperties> told;
-  std::optional<VideoProperties> properties(const QString&) override { return told; }
-  std::optional<QImage> frame(const QString&, double, int) override { return std::nullopt; }
-};
-
-}  // namespace
-
 class TestAssetMetadata : public QObject {
   Q_OBJECT
 
  private slots:
-  void writesByteCounts_data();
-  void writesByteCounts();
-  void joinsWhatIsThere();
-  void tellsOfPictures_data();
-  void tellsOfPictures();
-  void tellsOfClips_data();
-  void tellsOfClips();
-  void aMissingFileTellsNothing();
+  void writesByteCounts() {
+    const Cases<qint64, QString> cases{{"Zero KB", 0, "Zero KB"},
+                                       {"1 byte", 1, "1 byte"},
+                                       {"999 bytes", 999, "999 bytes"},
+                                       {"1 KB", 1000, "1 KB"},
+                                       {"1 KB", 1499, "1 KB"},
+                                       {"2 KB", 1500, "2 KB"},
+                                       {"999 KB", 999'499, "999 KB"},
+                                       {"1 MB", 999'500, "1 MB"},
+                                       {"2.4 MB", 2'449'999, "2.4 MB"},
+                                       {"2.5 MB", 2'450'000, "2.5 MB"},
+                                       {"12 MB", 12'000'000, "12 MB"},
+                                       {"999.9 MB", 999'949'999, "999.9 MB"},
+                                       {"1 GB", 999'950'000, "1 GB"},
+                                       {"1.23 GB", 1'234'567'890, "1.23 GB"},
+                                       {"1.01 GB", 1'005'000'000, "1.01 GB"},
+                                       {"1.2 GB", 1'200'000'000, "1.2 GB"},
+                                       {"5 TB", 5'000'000'000'000, "5 TB"},
+                                       {"9.22 EB", 9'223'372'036'854'775'807, "9.22 EB"}};
+    cases.check([&](qint64 bytes, const QString& text) { QCOMPARE(byteCountText(bytes), text); });
+  }
+
+  void joinsWhatIsThere() {
+    QCOMPARE(AssetSpec().line(), QString());
+    QCOMPARE((AssetSpec{{}, {}, "2.4 MB", {}}).line(), "2.4 MB");
+    const AssetSpec all{"1200 × 630 px", "PNG", "2.4 MB", {"Transparent", "144 dpi"}};
+    QCOMPARE(all.line(), "1200 × 630 px · PNG · 2.4 MB · Transparent · 144 dpi");
+  }
+
+  void tellsOfPictures() {
+    const Cases<QString, bool, bool, double, QString> cases{
+        {"30 × 20 px · PNG · 1 KB · Transparent · 144 dpi", "a.png", true, true, 144,
+         "30 × 20 px · PNG · 1 KB · Transparent · 144 dpi"},
+        {"30 × 20 px · JPEG · 1 KB", "a.JPeg", true, false, 71.98, "30 × 20 px · JPEG · 1 KB"},
+        {"30 × 20 px · PNG · 1 KB · 73 dpi", "a.b.png", true, false, 72.5,
+         "30 × 20 px · PNG · 1 KB · 73 dpi"},
+        {"30 × 20 px · PNG · 1 KB", "a.png", true, false, 0, "30 × 20 px · PNG · 1 KB"},
+        {"30 × 20 px · PNG · 1 KB", "b.png", true, false, qInf(), "30 × 20 px · PNG · 1 KB"},
+        {"30 × 20 px · PNG · 1 KB", "c.png", true, false, qQNaN(), "30 × 20 px · PNG · 1 KB"},
+        {"Scalable · SVG · 1 KB", "a.Svg", true, true, 300, "Scalable · SVG · 1 KB"},
+        {"PSD · 1 KB", "a.psd", false, false, 0, "PSD · 1 KB"},
+        {"1 KB", "unknown", false, false, 0, "1 KB"}};
+    cases.check(
+        [&](const QString& name, bool isReadable, bool hasAlpha, double dpi, const QString& line) {
+          FakeImages images;
+          if (isReadable) images.told = ImageProperties{{30, 20}, hasAlpha, dpi};
+          QCOMPARE(AssetMetadata::imageSpec(disk_.files, images, written(name)).line(), line);
+        });
+  }
+
+  void tellsOfClips() {
+    const QSize size(1920, 1080);
+    const Cases<std::optional<double>, std::optional<QSize>, QString> cases{
+        {"minutes", 65, size, "1920 × 1080 px · MOV · 1 KB · 1:05"},
+        {"rounded up", 59.6, size, "1920 × 1080 px · MOV · 1 KB · 1:00"},
+        {"beyond an hour", 4500, size, "1920 × 1080 px · MOV · 1 KB · 75:00"},
+        {"next to nothing", 0.4, size, "1920 × 1080 px · MOV · 1 KB"},
+        {"half a second of sound", 0.5, {}, "MOV · 1 KB · 0:01"},
+        {"turned", {}, QSize(-1080, -1920), "1080 × 1920 px · MOV · 1 KB"},
+        {"without end", qInf(), {}, "MOV · 1 KB"}};
+    cases.check(
+        [&](std::optional<double> duration, std::optional<QSize> told, const QString& line) {
+          FakeVideos videos;
+          videos.told = VideoProperties{duration, told};
+          const QString path = written("a.mov");
+          QCOMPARE(AssetMetadata::videoSpec(disk_.files, videos, path).line(), line);
+          videos.told = std::nullopt;
+          QCOMPARE(AssetMetadata::videoSpec(disk_.files, videos, path).line(), "MOV · 1 KB");
+        });
+  }
+
+  void aMissingFileTellsNothing() {
+    FakeImages images;
+    const QString path = disk_.path("missing");
+    QVERIFY(!AssetMetadata::byteString(disk_.files, path));
+    QCOMPARE(AssetMetadata::imageSpec(disk_.files, images, path), AssetSpec());
+  }
 
  private:
   QString written(const QString& name) {
@@ -40,116 +99,6 @@ class TestAssetMetadata : public QObject {
 
   TestServices disk_;
 };
-
-void TestAssetMetadata::writesByteCounts_data() {
-  QTest::addColumn<qint64>("bytes");
-  QTest::addColumn<QString>("text");
-  const auto row = [](qint64 bytes, const char* text) {
-    QTest::newRow(text) << bytes << QString::fromLatin1(text);
-  };
-  row(0, "Zero KB");
-  row(1, "1 byte");
-  row(999, "999 bytes");
-  row(1000, "1 KB");
-  row(1499, "1 KB");
-  row(1500, "2 KB");
-  row(999'499, "999 KB");
-  row(999'500, "1 MB");
-  row(2'449'999, "2.4 MB");
-  row(2'450'000, "2.5 MB");
-  row(12'000'000, "12 MB");
-  row(999'949'999, "999.9 MB");
-  row(999'950'000, "1 GB");
-  row(1'234'567'890, "1.23 GB");
-  row(1'005'000'000, "1.01 GB");
-  row(1'200'000'000, "1.2 GB");
-  row(5'000'000'000'000, "5 TB");
-  row(9'223'372'036'854'775'807, "9.22 EB");
-}
-
-void TestAssetMetadata::writesByteCounts() {
-  QFETCH(qint64, bytes);
-  QTEST(byteCountText(bytes), "text");
-}
-
-void TestAssetMetadata::joinsWhatIsThere() {
-  QCOMPARE(AssetSpec().line(), QString());
-  QCOMPARE((AssetSpec{{}, {}, QStringLiteral("2.4 MB"), {}}).line(), QStringLiteral("2.4 MB"));
-  const AssetSpec all{QStringLiteral("1200 × 630 px"),
-                      QStringLiteral("PNG"),
-                      QStringLiteral("2.4 MB"),
-                      {QStringLiteral("Transparent"), QStringLiteral("144 dpi")}};
-  QCOMPARE(all.line(), QStringLiteral("1200 × 630 px · PNG · 2.4 MB · Transparent · 144 dpi"));
-}
-
-void TestAssetMetadata::tellsOfPictures_data() {
-  QTest::addColumn<QString>("name");
-  QTest::addColumn<bool>("isReadable");
-  QTest::addColumn<bool>("hasAlpha");
-  QTest::addColumn<double>("dpi");
-  QTest::addColumn<QString>("line");
-  const auto row = [](const char* name, bool readable, bool alpha, double dpi, const char* line) {
-    QTest::newRow(qPrintable(QString::fromUtf8(line)))
-        << QString::fromUtf8(name) << readable << alpha << dpi << QString::fromUtf8(line);
-  };
-  row("a.png", true, true, 144, "30 × 20 px · PNG · 1 KB · Transparent · 144 dpi");
-  row("a.JPeg", true, false, 71.98, "30 × 20 px · JPEG · 1 KB");
-  row("a.b.png", true, false, 72.5, "30 × 20 px · PNG · 1 KB · 73 dpi");
-  row("a.png", true, false, 0, "30 × 20 px · PNG · 1 KB");
-  row("b.png", true, false, qInf(), "30 × 20 px · PNG · 1 KB");
-  row("c.png", true, false, qQNaN(), "30 × 20 px · PNG · 1 KB");
-  row("a.Svg", true, true, 300, "Scalable · SVG · 1 KB");
-  row("a.psd", false, false, 0, "PSD · 1 KB");
-  row("unknown", false, false, 0, "1 KB");
-}
-
-void TestAssetMetadata::tellsOfPictures() {
-  QFETCH(QString, name);
-  QFETCH(bool, isReadable);
-  QFETCH(bool, hasAlpha);
-  QFETCH(double, dpi);
-  GatedImages images;
-  if (isReadable) images.told = ImageProperties{{30, 20}, hasAlpha, dpi};
-  QTEST(AssetMetadata::imageSpec(disk_.files, images, written(name)).line(), "line");
-}
-
-void TestAssetMetadata::tellsOfClips_data() {
-  using Seconds = std::optional<double>;
-  QTest::addColumn<Seconds>("duration");
-  QTest::addColumn<std::optional<QSize>>("size");
-  QTest::addColumn<QString>("line");
-  const auto row = [](Seconds duration, std::optional<QSize> size, const char* line) {
-    QTest::newRow(qPrintable(QString::fromUtf8(line)))
-        << duration << size << QString::fromUtf8(line);
-  };
-  const QSize size(1920, 1080);
-  row(65, size, "1920 × 1080 px · MOV · 1 KB · 1:05");
-  row(59.6, size, "1920 × 1080 px · MOV · 1 KB · 1:00");
-  row(4500, size, "1920 × 1080 px · MOV · 1 KB · 75:00");
-  row(0.4, size, "1920 × 1080 px · MOV · 1 KB");
-  row(0.5, std::nullopt, "MOV · 1 KB · 0:01");
-  row(std::nullopt, QSize(-1080, -1920), "1080 × 1920 px · MOV · 1 KB");
-  row(qInf(), std::nullopt, "MOV · 1 KB");
-}
-
-void TestAssetMetadata::tellsOfClips() {
-  QFETCH(std::optional<double>, duration);
-  QFETCH(std::optional<QSize>, size);
-  ToldVideos videos;
-  videos.told = VideoProperties{duration, size};
-  const QString path = written(QStringLiteral("a.mov"));
-  QTEST(AssetMetadata::videoSpec(disk_.files, videos, path).line(), "line");
-  videos.told = std::nullopt;
-  QCOMPARE(AssetMetadata::videoSpec(disk_.files, videos, path).line(),
-           QStringLiteral("MOV · 1 KB"));
-}
-
-void TestAssetMetadata::aMissingFileTellsNothing() {
-  GatedImages images;
-  const QString path = disk_.path(QStringLiteral("missing"));
-  QVERIFY(!AssetMetadata::byteString(disk_.files, path));
-  QCOMPARE(AssetMetadata::imageSpec(disk_.files, images, path), AssetSpec());
-}
 
 QTEST_GUILESS_MAIN(TestAssetMetadata)
 #include "tst_assetmetadata.moc"

@@ -5,33 +5,14 @@
 #include "document/BrandDocument.h"
 #include "document/Package.h"
 #include "model/Uuid.h"
+#include "testing/Cases.h"
 #include "testing/FakeDrops.h"
+#include "testing/FakeMedia.h"
 #include "testing/TestServices.h"
 
 #include <QTest>
 
 using namespace tarnloft;
-
-class TestDragOut : public QObject {
-  Q_OBJECT
-
- private slots:
-  void copiesUnderTheClientsName_data();
-  void copiesUnderTheClientsName();
-  void theNewestDragReplacesWhateverStandsThere_data();
-  void theNewestDragReplacesWhateverStandsThere();
-  void fallsBackToTheAssetItself_data();
-  void fallsBackToTheAssetItself();
-  void handsOutByKind_data();
-  void handsOutByKind();
-  void aPictureHasATiffOnDemand();
-  void aTiffFitsItsBounds_data();
-  void aTiffFitsItsBounds();
-  void handsOutNothingFromOutsideThePackage_data();
-  void handsOutNothingFromOutsideThePackage();
-  void aVariantIsAPlainFile();
-  void severalFilesComeInTheSectionsOrder();
-};
 
 namespace {
 
@@ -73,247 +54,193 @@ Item image(const AssetRef& asset) { return Item::create(ImagePayload{asset, std:
 
 }  // namespace
 
-void TestDragOut::copiesUnderTheClientsName_data() {
-  QTest::addColumn<QString>("originalName");
-  QTest::addColumn<QString>("copy");
-  QTest::newRow("plain") << "AcmeLogo.png"
-                         << "AcmeLogo.png";
-  QTest::newRow("odd") << "Überzug & Co #1 100%.png"
-                       << "Überzug & Co #1 100%.png";
-  QTest::newRow("no extension") << "Logo"
-                                << "Logo";
-  QTest::newRow("hidden") << ".png"
-                          << ".png";
-  QTest::newRow("upwards") << "../../../etc/passwd"
-                           << "passwd";
-  QTest::newRow("absolute") << "/etc/cron.d/x"
-                            << "x";
-  QTest::newRow("slash at the end") << "a/Logo.png/"
-                                    << "Logo.png";
-  for (const char* bad : {"", ".", "..", "a/..", "/", "//"}) {
-    QTest::newRow(qPrintable(QString("no name: %1").arg(bad))) << bad << "stored.png";
+class TestDragOut : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void copiesUnderTheClientsName() {
+    const QString nul = "a" + QString(QChar(u'\0')) + "b";
+    const QList<QPair<QString, QString>> copies{
+        {"AcmeLogo.png", "AcmeLogo.png"},
+        {"Überzug & Co #1 100%.png", "Überzug & Co #1 100%.png"},
+        {"Logo", "Logo"},
+        {".png", ".png"},
+        {"../../../etc/passwd", "passwd"},
+        {"/etc/cron.d/x", "x"},
+        {"a/Logo.png/", "Logo.png"},
+        {"", "stored.png"},
+        {".", "stored.png"},
+        {"..", "stored.png"},
+        {"a/..", "stored.png"},
+        {"//", "stored.png"},
+        {nul, "stored.png"}};
+    for (const auto& [originalName, copy] : copies) {
+      Dragging dragging;
+      (void)dragging.asset("stored.png", "");
+      const QString url = DragFileExport::tempURL(dragging.disk.files,
+                                                  dragging.assetPath("stored.png"), originalName);
+      QCOMPARE(url, dragging.folder + '/' + copy);
+      QCOMPARE(contentOf(url), "stored.png");
+      QCOMPARE(namesIn(dragging.temporary), QStringList("tarnloft-drag"));
+    }
   }
-  QTest::newRow("NUL") << "a" + QString(QChar(u'\0')) + "b"
-                       << "stored.png";
-}
 
-void TestDragOut::copiesUnderTheClientsName() {
-  QFETCH(QString, originalName);
-  QFETCH(QString, copy);
-  Dragging dragging;
-  (void)dragging.asset("stored.png", "");
-  const QString url =
-      DragFileExport::tempURL(dragging.disk.files, dragging.assetPath("stored.png"), originalName);
-  QCOMPARE(url, dragging.folder + '/' + copy);
-  QCOMPARE(contentOf(url), "stored.png");
-  QCOMPARE(QDir(dragging.temporary).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
-           QStringList("tarnloft-drag"));
-}
-
-void TestDragOut::theNewestDragReplacesWhateverStandsThere_data() {
-  QTest::addColumn<QString>("what");
-  for (const char* what : {"file", "folder", "link", "link to a folder", "dangling link"}) {
-    QTest::newRow(what) << what;
+  void theNewestDragReplacesWhateverStandsThere() {
+    for (const QString what : {"file", "folder", "link", "link to a folder", "dangling link"}) {
+      Dragging dragging;
+      (void)dragging.asset("stored.png", "");
+      const QString target = dragging.folder + "/Logo.png",
+                    other = dragging.disk.path("other/file");
+      QVERIFY(writeFile(other, "other") && QDir().mkpath(dragging.folder));
+      if (what == "file") QVERIFY(writeFile(target, "old"));
+      if (what == "folder") QVERIFY(writeFile(target + "/inside/x", "old"));
+      if (what == "link") QVERIFY(QFile::link(other, target));
+      if (what == "link to a folder") QVERIFY(QFile::link(QFileInfo(other).path(), target));
+      if (what == "dangling link") QVERIFY(QFile::link("nowhere", target));
+      for (int again = 0; again < 2; ++again) {
+        QCOMPARE(DragFileExport::tempURL(dragging.disk.files, dragging.assetPath("stored.png"),
+                                         "Logo.png"),
+                 target);
+      }
+      QVERIFY2(!QFileInfo(target).isSymLink(), qPrintable(what));
+      QCOMPARE(contentOf(target), "stored.png");
+      QCOMPARE(contentOf(other), "other");
+    }
   }
-}
 
-void TestDragOut::theNewestDragReplacesWhateverStandsThere() {
-  QFETCH(QString, what);
-  Dragging dragging;
-  (void)dragging.asset("stored.png", "");
-  const QString target = dragging.folder + "/Logo.png", other = dragging.disk.path("other/file");
-  QVERIFY(writeFile(other, "other") && QDir().mkpath(dragging.folder));
-  if (what == "file") QVERIFY(writeFile(target, "old"));
-  if (what == "folder") QVERIFY(writeFile(target + "/inside/x", "old"));
-  if (what == "link") QVERIFY(QFile::link(other, target));
-  if (what == "link to a folder") QVERIFY(QFile::link(QFileInfo(other).path(), target));
-  if (what == "dangling link") QVERIFY(QFile::link("nowhere", target));
-  const auto drag = [&] {
-    return DragFileExport::tempURL(dragging.disk.files, dragging.assetPath("stored.png"),
-                                   "Logo.png");
-  };
-  for (int again = 0; again < 2; ++again) QCOMPARE(drag(), target);
-  QVERIFY(!QFileInfo(target).isSymLink());
-  QCOMPARE(contentOf(target), "stored.png");
-  QCOMPARE(contentOf(other), "other");
-}
-
-void TestDragOut::fallsBackToTheAssetItself_data() {
-  QTest::addColumn<QString>("fault");
-  for (const char* fault : {"asset gone", "no temporary folder", "name too long"}) {
-    QTest::newRow(fault) << fault;
+  void fallsBackToTheAssetItself() {
+    for (const QString fault : {"asset gone", "no temporary folder", "name too long"}) {
+      Dragging dragging;
+      (void)dragging.asset("stored.png", "");
+      const QString path = dragging.assetPath("stored.png");
+      QVERIFY(writeFile(dragging.folder + "/Logo.png", "of another brand"));
+      if (fault == "asset gone") QVERIFY(QFile::remove(path));
+      if (fault == "no temporary folder") {
+        qputenv("TMPDIR", QFile::encodeName(dragging.folder + "/Logo.png"));
+      }
+      const QString name = fault == "name too long" ? QString(300, 'x') : "Logo.png";
+      QCOMPARE(DragFileExport::tempURL(dragging.disk.files, path, name), path);
+    }
   }
-}
 
-void TestDragOut::fallsBackToTheAssetItself() {
-  QFETCH(QString, fault);
-  Dragging dragging;
-  (void)dragging.asset("stored.png", "");
-  const QString path = dragging.assetPath("stored.png");
-  QVERIFY(writeFile(dragging.folder + "/Logo.png", "of another brand"));
-  if (fault == "asset gone") QVERIFY(QFile::remove(path));
-  if (fault == "no temporary folder") {
-    qputenv("TMPDIR", QFile::encodeName(dragging.folder + "/Logo.png"));
+  void handsOutByKind() {
+    const Cases<QString, bool> cases{{"png", "Client.png", true},
+                                     {"svg", "Client.svg", true},
+                                     {"pdf image", "Client.pdf", false},
+                                     {"image without extension", "Client", false},
+                                     {"video", "Client.mp4", false},
+                                     {"font", "Client.ttf", false},
+                                     {"name-only font", "", false},
+                                     {"logo", "Primary.png", true},
+                                     {"empty logo", "", false},
+                                     {"color", "", false},
+                                     {"header", "", false},
+                                     {"lost image", "", false}};
+    cases.check([&](const QString& kind, const QString& file, bool tiff) {
+      Dragging dragging;
+      const AssetRef asset = dragging.asset("stored", file),
+                     other = dragging.asset("other", "x.mp4");
+      const QList<LogoVariant> variants{
+          {QUuid::createUuid(), other, LogoRole::mono, std::nullopt},
+          {QUuid::createUuid(), asset, LogoRole::primary, std::nullopt}};
+      const QHash<QString, ItemPayload> odd{
+          {"video", VideoPayload{asset, std::nullopt}},
+          {"font", FontPayload{{"F", {}, {}, asset, {}}}},
+          {"name-only font", FontPayload{{"F", {}, {}, {}, {}}}},
+          {"logo", LogoPayload{{"Logo", variants}}},
+          {"empty logo", LogoPayload{{"Logo", {}}}},
+          {"color", ColorPayload{{"#123456", {}, {}}}},
+          {"header", HeaderPayload{"H", 1}},
+          {"lost image", ImagePayload{{"lost", "lost.png"}, std::nullopt}}};
+      const Item item = Item::create(odd.value(kind, ImagePayload{asset, std::nullopt}));
+      const DragItem drag = dragging.drag(item);
+      QCOMPARE(drag.file.value_or(QString()), file.isEmpty() ? file : dragging.folder + '/' + file);
+      QCOMPARE(bool(drag.makeTiff), tiff);
+      QCOMPARE(drag.payload->type, "com.quillmoor.tarnloft.item");
+      QCOMPARE(drag.payload->bytes, canonicalString(item.id).toUtf8());
+      if (!file.isEmpty()) QCOMPARE(drag.suggestedName, file.section('.', 0, 0));
+    });
   }
-  const QString name = fault == "name too long" ? QString(300, 'x') : "Logo.png";
-  QCOMPARE(DragFileExport::tempURL(dragging.disk.files, path, name), path);
-}
 
-void TestDragOut::handsOutByKind_data() {
-  QTest::addColumn<QString>("kind");
-  QTest::addColumn<QString>("file");
-  QTest::addColumn<bool>("tiff");
-  const auto row = [](const char* kind, const char* file, bool tiff) {
-    QTest::newRow(kind) << kind << file << tiff;
-  };
-  row("png", "Client.png", true);
-  row("svg", "Client.svg", true);
-  row("pdf image", "Client.pdf", false);
-  row("image without extension", "Client", false);
-  row("video", "Client.mp4", false);
-  row("font", "Client.ttf", false);
-  row("name-only font", "", false);
-  row("logo", "Primary.png", true);
-  row("empty logo", "", false);
-  row("color", "", false);
-  row("header", "", false);
-  row("lost image", "", false);
-}
-
-void TestDragOut::handsOutByKind() {
-  QFETCH(QString, kind);
-  QFETCH(QString, file);
-  QFETCH(bool, tiff);
-  Dragging dragging;
-  const AssetRef asset = dragging.asset("stored", file), other = dragging.asset("other", "x.mp4");
-  const QList<LogoVariant> variants{{QUuid::createUuid(), other, LogoRole::mono, std::nullopt},
-                                    {QUuid::createUuid(), asset, LogoRole::primary, std::nullopt}};
-  const QHash<QString, ItemPayload> odd{
-      {"video", VideoPayload{asset, std::nullopt}},
-      {"font", FontPayload{{"F", {}, {}, asset, {}}}},
-      {"name-only font", FontPayload{{"F", {}, {}, {}, {}}}},
-      {"logo", LogoPayload{{"Logo", variants}}},
-      {"empty logo", LogoPayload{{"Logo", {}}}},
-      {"color", ColorPayload{{"#123456", {}, {}}}},
-      {"header", HeaderPayload{"H", 1}},
-      {"lost image", ImagePayload{{"lost", "lost.png"}, std::nullopt}}};
-  const Item item = Item::create(odd.value(kind, ImagePayload{asset, std::nullopt}));
-  const DragItem drag = dragging.drag(item);
-  QCOMPARE(drag.file.value_or(QString()), file.isEmpty() ? file : dragging.folder + '/' + file);
-  QCOMPARE(bool(drag.makeTiff), tiff);
-  QCOMPARE(drag.payload->type, "com.quillmoor.tarnloft.item");
-  QCOMPARE(drag.payload->bytes, canonicalString(item.id).toUtf8());
-  if (!file.isEmpty()) QCOMPARE(drag.suggestedName, file.section('.', 0, 0));
-}
-
-void TestDragOut::aPictureHasATiffOnDemand() {
-  Dragging dragging;
-  const DragItem drag = dragging.drag(image(dragging.asset("stored.jpg", "Photo.jpg")));
-  QVERIFY(dragging.tiffed.isEmpty());
-  QVERIFY(QFile::remove(*drag.file));
-  QCOMPARE(*drag.makeTiff(100), "tiff of stored.jpg");
-  QCOMPARE(dragging.tiffed, QStringList(dragging.assetPath("stored.jpg")));
-}
-
-namespace {
-
-// Pictures of 1000 by 500 pixels, with so many bytes to each in any format.
-class PlainImages : public Images {
- public:
-  double bytesPerPixel = 2;
-  QList<QSize> converted;
-  std::optional<ImageProperties> properties(const QString& path) override {
-    return path == "missing" ? std::nullopt
-                             : std::optional(ImageProperties{{1000, 500}, false, std::nullopt});
+  void aPictureHasATiffOnDemand() {
+    Dragging dragging;
+    const DragItem drag = dragging.drag(image(dragging.asset("stored.jpg", "Photo.jpg")));
+    QVERIFY(dragging.tiffed.isEmpty());
+    QVERIFY(QFile::remove(*drag.file));
+    QCOMPARE(*drag.makeTiff(100), "tiff of stored.jpg");
+    QCOMPARE(dragging.tiffed, QStringList(dragging.assetPath("stored.jpg")));
   }
-  std::optional<QSizeF> vectorSize(const QString&) override { return std::nullopt; }
-  std::optional<QImage> thumbnail(const QString&, int) override { return std::nullopt; }
-  std::optional<QByteArray> convert(const QString&, ExportFormat format, QSize size,
-                                    double) override {
-    converted << size;
-    if (format != ExportFormat::tiff) return std::nullopt;
-    return QByteArray(qsizetype(size.width() * size.height() * bytesPerPixel), 't');
+
+  void aTiffFitsItsBounds() {
+    const qint64 none = std::numeric_limits<qint64>::max();
+    const Cases<double, qint64, qint64> cases{
+        {"unbounded", 4.0, none, qint64(2'000'000)},
+        {"in its own size", 2.0, qint64(1'000'000), qint64(1'000'000)},
+        {"smaller", 2.0, qint64(999'999), qint64(800'000)},
+        {"much smaller", 4.0, qint64(10'000), qint64(8'000)}};
+    cases.check([&](double bytesPerPixel, qint64 maxBytes, qint64 atLeast) {
+      FakeImages images;
+      images.told = ImageProperties{{1000, 500}, false, std::nullopt};
+      QSizeF last;
+      images.converted = [&](ExportFormat format, QSize size) {
+        last = size;
+        const double bytes = size.width() * size.height() * bytesPerPixel;
+        return QByteArray(format == ExportFormat::tiff ? qsizetype(bytes) : 0, 't');
+      };
+      const auto tiff = TiffFlavour::make(images, "a.png", maxBytes);
+      QVERIFY(tiff && tiff->size() <= maxBytes && tiff->size() >= atLeast);
+      QVERIFY(qAbs(last.width() / last.height() - 2) < 0.05);
+      QVERIFY(!TiffFlavour::make(images, "missing", maxBytes));
+    });
+  }
+
+  void handsOutNothingFromOutsideThePackage() {
+    Dragging dragging;
+    QVERIFY(writeFile(dragging.disk.path("secret.png"), "secret"));
+    QVERIFY(QFile::link(dragging.disk.path("secret.png"), dragging.assetPath("out.png")));
+    QVERIFY(QFile::link(dragging.disk.path("gone"), dragging.assetPath("gone.png")));
+    QVERIFY(QDir().mkpath(dragging.assetPath("folder.png")));
+    for (const char* bad :
+         {"../../secret.png", "", ".", "..", "out.png", "folder.png", "gone.png"}) {
+      const DragItem drag = dragging.drag(image({bad, "Logo.png"}));
+      QVERIFY2(!drag.file && !drag.makeTiff && drag.payload, bad);
+      QVERIFY2(!QFileInfo::exists(dragging.folder + "/Logo.png"), bad);
+    }
+  }
+
+  void aVariantIsAPlainFile() {
+    Dragging dragging;
+    const DragItem drag = TileDrag::variantProvider(dragging.disk.files, dragging.document->files(),
+                                                    dragging.asset("v.png", "Mark.final.png"));
+    QCOMPARE(drag.file, dragging.folder + "/Mark.final.png");
+    QCOMPARE(drag.suggestedName, "Mark.final");
+    QVERIFY(!drag.payload && !drag.makeTiff);
+  }
+
+  void severalFilesComeInTheSectionsOrder() {
+    Dragging dragging;
+    Section section = Section::create("S");
+    section.items = {image(dragging.asset("1", "One.png")),
+                     Item::create(TextPayload{"text"}),
+                     image(dragging.asset("2", "Same.png")),
+                     image(dragging.asset("3", "Same.png")),
+                     image({"lost", "Lost.png"}),
+                     image({"../x", "Outside.png"}),
+                     image(dragging.asset("4", "Not.png"))};
+    QSet<QUuid> selected;
+    for (qsizetype i = 5; i >= 0; --i) selected << section.items.at(i).id;
+    const QStringList urls =
+        TileDrag::exportURLs(dragging.disk.files, dragging.document->files(), section, selected);
+    const QString same = dragging.folder + "/Same.png";
+    QCOMPARE(urls,
+             QStringList({dragging.folder + "/One.png", same, same, dragging.assetPath("lost")}));
+    QCOMPARE(contentOf(same), "3");
+    const QList<DragItem> drag = TileDrag::providers(urls);
+    QCOMPARE(drag.size(), 4);
+    QCOMPARE(drag.at(0).file, urls.at(0));
+    QCOMPARE(drag.at(0).suggestedName, "One");
   }
 };
-
-}  // namespace
-
-void TestDragOut::aTiffFitsItsBounds_data() {
-  QTest::addColumn<double>("bytesPerPixel");
-  QTest::addColumn<qint64>("maxBytes");
-  QTest::addColumn<qint64>("atLeast");
-  const qint64 none = std::numeric_limits<qint64>::max();
-  QTest::newRow("unbounded") << 4.0 << none << qint64(2'000'000);
-  QTest::newRow("in its own size") << 2.0 << qint64(1'000'000) << qint64(1'000'000);
-  QTest::newRow("smaller") << 2.0 << qint64(999'999) << qint64(800'000);
-  QTest::newRow("much smaller") << 4.0 << qint64(10'000) << qint64(8'000);
-}
-
-void TestDragOut::aTiffFitsItsBounds() {
-  QFETCH(qint64, maxBytes);
-  QFETCH(qint64, atLeast);
-  PlainImages images;
-  QFETCH(double, bytesPerPixel);
-  images.bytesPerPixel = bytesPerPixel;
-  const auto tiff = TiffFlavour::make(images, "a.png", maxBytes);
-  QVERIFY(tiff && tiff->size() <= maxBytes && tiff->size() >= atLeast);
-  const QSizeF last = images.converted.last();
-  QVERIFY(qAbs(last.width() / last.height() - 2) < 0.05);
-  QVERIFY(!TiffFlavour::make(images, "missing", maxBytes));
-}
-
-void TestDragOut::handsOutNothingFromOutsideThePackage_data() {
-  QTest::addColumn<QString>("filename");
-  for (const char* bad : {"../../secret.png", "", ".", "..", "out.png", "folder.png", "gone.png"}) {
-    QTest::newRow(bad) << bad;
-  }
-}
-
-void TestDragOut::handsOutNothingFromOutsideThePackage() {
-  QFETCH(QString, filename);
-  Dragging dragging;
-  QVERIFY(writeFile(dragging.disk.path("secret.png"), "secret"));
-  QVERIFY(QFile::link(dragging.disk.path("secret.png"), dragging.assetPath("out.png")));
-  QVERIFY(QFile::link(dragging.disk.path("gone"), dragging.assetPath("gone.png")));
-  QVERIFY(QDir().mkpath(dragging.assetPath("folder.png")));
-  const Item item = image({filename, "Logo.png"});
-  const DragItem drag = dragging.drag(item);
-  QVERIFY(!drag.file && !drag.makeTiff && drag.payload);
-  QVERIFY(!QFileInfo::exists(dragging.folder + "/Logo.png"));
-}
-
-void TestDragOut::aVariantIsAPlainFile() {
-  Dragging dragging;
-  const DragItem drag = TileDrag::variantProvider(dragging.disk.files, dragging.document->files(),
-                                                  dragging.asset("v.png", "Mark.final.png"));
-  QCOMPARE(drag.file, dragging.folder + "/Mark.final.png");
-  QCOMPARE(drag.suggestedName, "Mark.final");
-  QVERIFY(!drag.payload && !drag.makeTiff);
-}
-
-void TestDragOut::severalFilesComeInTheSectionsOrder() {
-  Dragging dragging;
-  Section section = Section::create("S");
-  section.items = {image(dragging.asset("1", "One.png")),
-                   Item::create(TextPayload{"text"}),
-                   image(dragging.asset("2", "Same.png")),
-                   image(dragging.asset("3", "Same.png")),
-                   image({"lost", "Lost.png"}),
-                   image({"../x", "Outside.png"}),
-                   image(dragging.asset("4", "Not.png"))};
-  QSet<QUuid> selected;
-  for (qsizetype i = 5; i >= 0; --i) selected << section.items.at(i).id;
-  const QStringList urls =
-      TileDrag::exportURLs(dragging.disk.files, dragging.document->files(), section, selected);
-  const QString same = dragging.folder + "/Same.png";
-  QCOMPARE(urls,
-           QStringList({dragging.folder + "/One.png", same, same, dragging.assetPath("lost")}));
-  QCOMPARE(contentOf(same), "3");
-  const QList<DragItem> drag = TileDrag::providers(urls);
-  QCOMPARE(drag.size(), 4);
-  QCOMPARE(drag.at(0).file, urls.at(0));
-  QCOMPARE(drag.at(0).suggestedName, "One");
-}
 
 QTEST_GUILESS_MAIN(TestDragOut)
 #include "tst_dragout.moc"

@@ -2,6 +2,7 @@
 #include "assets/ItemDrag.h"
 #include "document/Package.h"
 #include "model/Uuid.h"
+#include "testing/Cases.h"
 #include "testing/FakeDrops.h"
 #include "testing/HeldStore.h"
 #include "testing/TestLibrary.h"
@@ -10,32 +11,6 @@
 #include <QTest>
 
 using namespace tarnloft;
-
-class TestDropImport : public QObject {
-  Q_OBJECT
-
- private slots:
-  void classifiesFiles_data();
-  void classifiesFiles();
-  void takesFilesAsChosen();
-  void namesFontsByTheirContent_data();
-  void namesFontsByTheirContent();
-  void namesPictures_data();
-  void namesPictures();
-  void movesADraggedTileAndNothingElse();
-  void movesNothingForABadPayload_data();
-  void movesNothingForABadPayload();
-  void refusesWhatIsNothing();
-  void takesAFileBeforeItsPicture();
-  void leavesTheEventLoopFreeWhileItCopies();
-  void landsInTheDropsOrder();
-  void landsAtTheEndWithoutAnEventLoop();
-  void failuresMakeNoItem();
-  void aDeletedSectionTakesNothing();
-  void aClosedDocumentStillTakesItems();
-  void aRenamedPackageStillTakesFiles();
-  void aDeletedPackageStaysDeleted();
-};
 
 namespace {
 
@@ -99,319 +74,286 @@ AssetRef assetOf(const Item& item) { return item.exportableAsset().value_or(Asse
 
 }  // namespace
 
-void TestDropImport::classifiesFiles_data() {
-  QTest::addColumn<QString>("file");
-  QTest::addColumn<QString>("type");
-  QTest::addColumn<QString>("kind");
-  QTest::addColumn<QString>("name");
-  QTest::addColumn<QString>("extension");
-  const auto row = [](const char* file, const char* type, const char* kind, const char* name,
-                      const char* extension) {
-    QTest::newRow(file) << file << type << kind << name << extension;
-  };
-  row("Mark.png", "image/png", "Image", "Mark", "png");
-  row("report.final.png", "image/png", "Image", "report.final", "png");
-  row("Reel.mp4", "video/mp4", "Video", "Reel", "mp4");
-  row("raw.yuv", "video/raw", "Video", "raw", "yuv");
-  row("notes.pdf", "application/pdf", "Image", "notes", "pdf");
-  row("README", "", "Image", "README", "dat");
-  row(".hidden", "text/plain", "Image", ".hidden", "dat");
-  row("Acme.OTF", "", "Type", "Acme", "OTF");
-  row("old.dfont", "", "Type", "old", "dfont");
-  row("fonts.otc", "text/plain", "Type", "fonts", "otc");
-  row("face.mov", "font/ttf", "Type", "face", "mov");
-  row("Überzug & Co #1.jpg", "image/jpeg", "Image", "Überzug & Co #1", "jpg");
-}
+class TestDropImport : public QObject {
+  Q_OBJECT
 
-void TestDropImport::classifiesFiles() {
-  QFETCH(QString, file);
-  QFETCH(QString, type);
-  QFETCH(QString, extension);
-  Dropping dropping;
-  dropping.types.types[QFileInfo(file).suffix()] = type;
-  QVERIFY(dropping.drop({dropping.file(file, QByteArray())}));
-  dropping.finish();
-  QCOMPARE(dropping.section(1).items.size(), 1);
-  const Item& item = dropping.section(1).items.at(0);
-  QTEST(item.typeLabel(), "kind");
-  QTEST(item.displayName(), "name");
-  QCOMPARE(assetOf(item).originalName, file);
-  QCOMPARE(assetOf(item).filename.mid(36), '.' + extension);
-  QVERIFY(QFileInfo::exists(dropping.assets() + assetOf(item).filename));
-  QVERIFY(!item.imageBackground && !item.notes);
-  QVERIFY(QFileInfo::exists(dropping.disk.path("from/" + file)));
-}
+ private slots:
+  void classifiesFiles() {
+    const Cases<QString, QString, QString, QString> cases{
+        {"Mark.png", "image/png", "Image", "Mark", "png"},
+        {"report.final.png", "image/png", "Image", "report.final", "png"},
+        {"Reel.mp4", "video/mp4", "Video", "Reel", "mp4"},
+        {"raw.yuv", "video/raw", "Video", "raw", "yuv"},
+        {"notes.pdf", "application/pdf", "Image", "notes", "pdf"},
+        {"README", "", "Image", "README", "dat"},
+        {".hidden", "text/plain", "Image", ".hidden", "dat"},
+        {"Acme.OTF", "", "Type", "Acme", "OTF"},
+        {"old.dfont", "", "Type", "old", "dfont"},
+        {"fonts.otc", "text/plain", "Type", "fonts", "otc"},
+        {"face.mov", "font/ttf", "Type", "face", "mov"},
+        {"Überzug & Co #1.jpg", "image/jpeg", "Image", "Überzug & Co #1", "jpg"}};
+    cases.check([&](const QString& file, const QString& type, const QString& kind,
+                    const QString& name, const QString& extension) {
+      Dropping dropping;
+      dropping.types.types[QFileInfo(file).suffix()] = type;
+      QVERIFY(dropping.drop({dropping.file(file, QByteArray())}));
+      dropping.finish();
+      QCOMPARE(dropping.section(1).items.size(), 1);
+      const Item& item = dropping.section(1).items.at(0);
+      QCOMPARE(item.typeLabel(), kind);
+      QCOMPARE(item.displayName(), name);
+      QCOMPARE(assetOf(item).originalName, file);
+      QCOMPARE(assetOf(item).filename.mid(36), '.' + extension);
+      QVERIFY(QFileInfo::exists(dropping.assets() + assetOf(item).filename));
+      QVERIFY(!item.imageBackground && !item.notes);
+      QVERIFY(QFileInfo::exists(dropping.disk.path("from/" + file)));
+    });
+  }
 
-void TestDropImport::takesFilesAsChosen() {
-  Dropping dropping;
-  using enum DropImport::MediaKind;
-  const QString font = *dropping.file("a.ttf")->path, text = *dropping.file("b.txt")->path;
-  const QUuid section = dropping.section(1).id;
-  const auto services = dropping.services();
-  DropImport::importFiles(services, {font, "/missing.png", text}, image, section,
-                          *dropping.document);
-  dropping.finish();
-  DropImport::importFiles(services, {text}, video, section, *dropping.document);
-  dropping.finish();
-  DropImport::importFontFiles(services, {text}, section, *dropping.document);
-  dropping.finish();
-  QStringList kinds;
-  for (const Item& item : dropping.section(1).items) kinds << item.typeLabel();
-  QCOMPARE(kinds, QStringList({"Image", "Image", "Video", "Type"}));
-}
-
-void TestDropImport::namesFontsByTheirContent_data() {
-  QTest::addColumn<QByteArray>("content");
-  QTest::addColumn<QString>("family");
-  QTest::addColumn<QString>("weight");
-  QTest::newRow("family and style") << QByteArray("Inter:Bold") << "Inter"
-                                    << "Bold";
-  QTest::newRow("family alone") << QByteArray("Inter") << "Inter" << QString();
-  QTest::newRow("unreadable") << QByteArray() << "file.name" << QString();
-}
-
-void TestDropImport::namesFontsByTheirContent() {
-  QFETCH(QByteArray, content);
-  QFETCH(QString, family);
-  QFETCH(QString, weight);
-  Dropping dropping;
-  QVERIFY(dropping.drop({dropping.file("file.name.ttf", content)}));
-  dropping.finish();
-  const auto font = std::get<FontPayload>(dropping.section(1).items.at(0).payload).value;
-  QCOMPARE(font.family, family);
-  QCOMPARE(font.name, family);
-  QCOMPARE(font.weight.value_or(QString()), weight);
-  QCOMPARE(font.sampleText, "The quick brown fox");
-  QCOMPARE(dropping.fonts.registered, QStringList(dropping.assets() + font.asset->filename));
-}
-
-void TestDropImport::namesPictures_data() {
-  QTest::addColumn<QString>("suggested");
-  QTest::addColumn<QString>("name");
-  QTest::newRow("with blanks") << " \tHero.jpg \u00a0"
-                               << "Hero";
-  QTest::newRow("two dots") << "a.b.c"
-                            << "a.b";
-  QTest::newRow("none") << QString() << "Image";
-  QTest::newRow("blank") << " \t "
-                         << "Image";
-  QTest::newRow("a line end stays") << "Hero\n"
-                                    << "Hero\n";
-  QTest::newRow("no extension") << "Hero"
-                                << "Hero";
-}
-
-void TestDropImport::namesPictures() {
-  QFETCH(QString, suggested);
-  QFETCH(QString, name);
-  Dropping dropping;
-  QVERIFY(dropping.drop({FakeThing::of(DropType::image, "no png at all", suggested)}));
-  dropping.finish();
-  const auto image = std::get<ImagePayload>(dropping.section(1).items.at(0).payload);
-  QCOMPARE(image.name, name);
-  QCOMPARE(image.asset.originalName, name + ".png");
-  QCOMPARE(image.asset.filename.mid(36), ".png");
-  QCOMPARE(contentOf(dropping.assets() + image.asset.filename), "no png at all");
-}
-
-void TestDropImport::movesADraggedTileAndNothingElse() {
-  Dropping dropping;
-  const Item a = dropping.section(0).items.at(0), b = dropping.section(0).items.at(1);
-  const auto file = dropping.file("x.png");
-  QVERIFY(dropping.drop({file, Dropping::tile(a), Dropping::tile(b)}));
-  dropping.finish();
-  QCOMPARE(dropping.shape(), "S:b T:a");
-  QVERIFY(file->loaded.isEmpty());
-  QVERIFY(dropping.drop({Dropping::tile(a)}, 0));
-  QVERIFY(dropping.drop({Dropping::tile(b)}, 0));
-  QCOMPARE(dropping.shape(), "S:a,b T:");
-}
-
-void TestDropImport::movesNothingForABadPayload_data() {
-  QTest::addColumn<QByteArray>("payload");
-  QTest::newRow("null") << QByteArray();
-  QTest::newRow("empty") << QByteArray("");
-  QTest::newRow("no id") << QByteArray("8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E2G");
-  QTest::newRow("no text") << QByteArray(36, '\xff');
-  QTest::newRow("of nothing") << canonicalString(QUuid::createUuid()).toUtf8();
-}
-
-void TestDropImport::movesNothingForABadPayload() {
-  QFETCH(QByteArray, payload);
-  Dropping dropping;
-  const auto bytes = payload.isNull() ? std::nullopt : std::optional(payload);
-  QVERIFY(dropping.drop({FakeThing::of(ItemDrag::type, bytes), dropping.file("x.png")}));
-  dropping.finish();
-  QCOMPARE(dropping.shape(), "S:a,b T:");
-}
-
-void TestDropImport::refusesWhatIsNothing() {
-  Dropping dropping;
-  QVERIFY(!dropping.drop({}));
-  const auto text = FakeThing::of("text/plain", "hello");
-  const auto brand = FakeThing::of("com.quillmoor.tarnloft.brand", "x");
-  QVERIFY(!dropping.drop({text, brand}));
-  QVERIFY(dropping.drop({text, dropping.file("x.png"), brand}));
-  dropping.finish();
-  QCOMPARE(dropping.shape(), "S:a,b T:x");
-}
-
-void TestDropImport::takesAFileBeforeItsPicture() {
-  Dropping dropping;
-  const auto both = dropping.file("x.jpg");
-  both->data[DropType::image] = "pixels";
-  QVERIFY(dropping.drop({both}));
-  dropping.finish();
-  QCOMPARE(both->loaded, QStringList(DropType::fileURL));
-  QCOMPARE(assetOf(dropping.section(1).items.at(0)).originalName, "x.jpg");
-}
-
-void TestDropImport::leavesTheEventLoopFreeWhileItCopies() {
-  Dropping dropping;
-  dropping.held.hold("slow.png");
-  QVERIFY(dropping.drop({dropping.file("slow.png")}));
-  dropping.document->addItem(Item::create(TextPayload{"meanwhile"}), dropping.section(1).id);
-  QCoreApplication::processEvents();
-  QCOMPARE(dropping.shape(), "S:a,b T:meanwhile");
-  dropping.held.release("slow.png");
-  dropping.finish();
-  QCOMPARE(dropping.shape(), "S:a,b T:meanwhile,slow");
-  QCOMPARE(dropping.held.onMainThread, 0);
-}
-
-// Answers come in any order, copies end in any order, some fail.
-void TestDropImport::landsInTheDropsOrder() {
-  QRandomGenerator random(11);
-  for (int round = 0; round < 30; ++round) {
+  void takesFilesAsChosen() {
     Dropping dropping;
-    QList<std::shared_ptr<FakeThing>> late;
-    DroppedThings things;
-    QStringList expected, held;
-    for (int i = 0; i < 12; ++i) {
-      const QString name = QString::number(i);
-      std::shared_ptr<FakeThing> thing;
-      switch (random.bounded(4)) {
-        case 0: thing = FakeThing::of(DropType::image, "pixels", name); break;
-        case 1: thing = FakeThing::file("/missing/" + name); break;
-        default: thing = dropping.file(name + ".png");
+    using enum DropImport::MediaKind;
+    const QString font = *dropping.file("a.ttf")->path, text = *dropping.file("b.txt")->path;
+    const QUuid section = dropping.section(1).id;
+    const auto services = dropping.services();
+    DropImport::importFiles(services, {font, "/missing.png", text}, image, section,
+                            *dropping.document);
+    dropping.finish();
+    DropImport::importFiles(services, {text}, video, section, *dropping.document);
+    dropping.finish();
+    DropImport::importFontFiles(services, {text}, section, *dropping.document);
+    dropping.finish();
+    QStringList kinds;
+    for (const Item& item : dropping.section(1).items) kinds << item.typeLabel();
+    QCOMPARE(kinds, QStringList({"Image", "Image", "Video", "Type"}));
+  }
+
+  void namesFontsByTheirContent() {
+    const Cases<QByteArray, QString, QString> cases{
+        {"family and style", "Inter:Bold", "Inter", "Bold"},
+        {"family alone", "Inter", "Inter", QString()},
+        {"unreadable", "", "file.name", QString()}};
+    cases.check([&](const QByteArray& content, const QString& family, const QString& weight) {
+      Dropping dropping;
+      QVERIFY(dropping.drop({dropping.file("file.name.ttf", content)}));
+      dropping.finish();
+      const auto font = std::get<FontPayload>(dropping.section(1).items.at(0).payload).value;
+      QCOMPARE(font.family, family);
+      QCOMPARE(font.name, family);
+      QCOMPARE(font.weight.value_or(QString()), weight);
+      QCOMPARE(font.sampleText, "The quick brown fox");
+      QCOMPARE(dropping.fonts.registered, QStringList(dropping.assets() + font.asset->filename));
+    });
+  }
+
+  void namesPictures() {
+    const Cases<QString, QString> cases{{"with blanks", " \tHero.jpg \u00a0", "Hero"},
+                                        {"two dots", "a.b.c", "a.b"},
+                                        {"none", QString(), "Image"},
+                                        {"blank", " \t ", "Image"},
+                                        {"a line end stays", "Hero\n", "Hero\n"},
+                                        {"no extension", "Hero", "Hero"}};
+    cases.check([&](const QString& suggested, const QString& name) {
+      Dropping dropping;
+      QVERIFY(dropping.drop({FakeThing::of(DropType::image, "no png at all", suggested)}));
+      dropping.finish();
+      const auto image = std::get<ImagePayload>(dropping.section(1).items.at(0).payload);
+      QCOMPARE(image.name, name);
+      QCOMPARE(image.asset.originalName, name + ".png");
+      QCOMPARE(image.asset.filename.mid(36), ".png");
+      QCOMPARE(contentOf(dropping.assets() + image.asset.filename), "no png at all");
+    });
+  }
+
+  void movesADraggedTileAndNothingElse() {
+    Dropping dropping;
+    const Item a = dropping.section(0).items.at(0), b = dropping.section(0).items.at(1);
+    const auto file = dropping.file("x.png");
+    QVERIFY(dropping.drop({file, Dropping::tile(a), Dropping::tile(b)}));
+    dropping.finish();
+    QCOMPARE(dropping.shape(), "S:b T:a");
+    QVERIFY(file->loaded.isEmpty());
+    QVERIFY(dropping.drop({Dropping::tile(a)}, 0));
+    QVERIFY(dropping.drop({Dropping::tile(b)}, 0));
+    QCOMPARE(dropping.shape(), "S:a,b T:");
+  }
+
+  void movesNothingForABadPayload() {
+    const Cases<QByteArray> cases{{"null", QByteArray()},
+                                  {"empty", ""},
+                                  {"no id", "8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E2G"},
+                                  {"no text", QByteArray(36, '\xff')},
+                                  {"of nothing", canonicalString(QUuid::createUuid()).toUtf8()}};
+    cases.check([&](const QByteArray& payload) {
+      Dropping dropping;
+      const auto bytes = payload.isNull() ? std::nullopt : std::optional(payload);
+      QVERIFY(dropping.drop({FakeThing::of(ItemDrag::type, bytes), dropping.file("x.png")}));
+      dropping.finish();
+      QCOMPARE(dropping.shape(), "S:a,b T:");
+    });
+  }
+
+  void refusesWhatIsNothing() {
+    Dropping dropping;
+    QVERIFY(!dropping.drop({}));
+    const auto text = FakeThing::of("text/plain", "hello");
+    const auto brand = FakeThing::of("com.quillmoor.tarnloft.brand", "x");
+    QVERIFY(!dropping.drop({text, brand}));
+    const auto both = dropping.file("x.jpg");
+    both->data[DropType::image] = "pixels";
+    QVERIFY(dropping.drop({text, both, brand}));
+    dropping.finish();
+    QCOMPARE(dropping.shape(), "S:a,b T:x");
+    QCOMPARE(both->loaded, QStringList(DropType::fileURL));  // the file, not its picture
+  }
+
+  void leavesTheEventLoopFreeWhileItCopies() {
+    Dropping dropping;
+    dropping.held.hold("slow.png");
+    QVERIFY(dropping.drop({dropping.file("slow.png")}));
+    dropping.document->addItem(Item::create(TextPayload{"meanwhile"}), dropping.section(1).id);
+    QCoreApplication::processEvents();
+    QCOMPARE(dropping.shape(), "S:a,b T:meanwhile");
+    dropping.held.release("slow.png");
+    dropping.finish();
+    QCOMPARE(dropping.shape(), "S:a,b T:meanwhile,slow");
+    QCOMPARE(dropping.held.onMainThread, 0);
+  }
+
+  // Answers come in any order, copies end in any order, some fail.
+  void landsInTheDropsOrder() {
+    QRandomGenerator random(11);
+    for (int round = 0; round < 30; ++round) {
+      Dropping dropping;
+      QList<std::shared_ptr<FakeThing>> late;
+      DroppedThings things;
+      QStringList expected, held;
+      for (int i = 0; i < 12; ++i) {
+        const QString name = QString::number(i);
+        std::shared_ptr<FakeThing> thing;
+        switch (random.bounded(4)) {
+          case 0: thing = FakeThing::of(DropType::image, "pixels", name); break;
+          case 1: thing = FakeThing::file("/missing/" + name); break;
+          default: thing = dropping.file(name + ".png");
+        }
+        if (thing->path && random.bounded(3) == 0) {
+          held << name + ".png";
+          dropping.held.hold(held.last());
+        }
+        thing->isLate = random.bounded(2) == 0;
+        if (thing->isLate) late.insert(random.bounded(int(late.size()) + 1), thing);
+        if (!thing->path || !thing->path->startsWith("/missing")) expected << name;
+        things << thing;
       }
-      if (thing->path && random.bounded(3) == 0) {
-        held << name + ".png";
-        dropping.held.hold(held.last());
+      QVERIFY(dropping.drop(things));
+      for (const auto& thing : late) {
+        thing->answer();
+        QCoreApplication::processEvents();
       }
-      thing->isLate = random.bounded(2) == 0;
-      if (thing->isLate) late.insert(random.bounded(int(late.size()) + 1), thing);
-      if (!thing->path || !thing->path->startsWith("/missing")) expected << name;
-      things << thing;
+      while (!held.isEmpty()) dropping.held.release(held.takeAt(random.bounded(int(held.size()))));
+      dropping.finish();
+      QCOMPARE(dropping.shape(), "S:a,b T:" + expected.join(','));
     }
-    QVERIFY(dropping.drop(things));
-    for (const auto& thing : late) {
-      thing->answer();
+  }
+
+  void landsAtTheEndWithoutAnEventLoop() {
+    Dropping dropping;
+    dropping.held.hold("slow.png");
+    QVERIFY(dropping.drop({dropping.file("slow.png"), dropping.file("quick.png")}));
+    QVERIFY(!DropImport::finish(dropping.workers, std::chrono::milliseconds(50)));
+    QCOMPARE(dropping.shape(), "S:a,b T:");
+    dropping.held.release("slow.png");
+    QVERIFY(DropImport::finish(dropping.workers, std::chrono::seconds(20)));
+    QCOMPARE(dropping.shape(), "S:a,b T:slow,quick");
+  }
+
+  void failuresMakeNoItem() {
+    Dropping dropping;
+    QVERIFY(dropping.drop({FakeThing::file(QString()), FakeThing::file("/missing.png"),
+                           FakeThing::file(dropping.disk.folder.path()),
+                           FakeThing::of(DropType::image, std::nullopt), dropping.file("x.png")}));
+    dropping.finish();
+    QCOMPARE(dropping.shape(), "S:a,b T:x");
+    QCOMPARE(QDir(dropping.assets()).entryList(QDir::Files).size(), 1);
+    // Told once, and not of what there was nothing of.
+    const QString folder = QFileInfo(dropping.disk.folder.path()).fileName();
+    QCOMPARE(dropping.failed.size(), 1);
+    const QStringList& names = dropping.failed.first();
+    QCOMPARE(QSet<QString>(names.begin(), names.end()), QSet<QString>({"missing.png", folder}));
+  }
+
+  void aDeletedSectionTakesNothing() {
+    Dropping dropping;
+    dropping.held.hold("x.png");
+    QVERIFY(dropping.drop({dropping.file("x.png")}));
+    dropping.document->edit([](Brand& brand) { brand.sections.removeLast(); });
+    dropping.held.release("x.png");
+    dropping.finish();
+    QCOMPARE(dropping.shape(), "S:a,b");
+    QCOMPARE(QDir(dropping.assets()).entryList(QDir::Files).size(), 1);
+  }
+
+  void aClosedDocumentStillTakesItems() {
+    TestLibrary library;
+    const QUuid section = library.add("Acme").sections.first().id;
+    library.add("Other");
+    LibraryStore& store = library.start();
+    HeldStore held;
+    FakeTypes types;
+    FakeFonts fonts;
+    QThreadPool workers;
+    ListedLog log;
+    QVERIFY(writeFile(library.disk.path("x.png"), "x"));
+    const auto document = BrandDocument::load({held, log}, library.packagePath("Acme"));
+    QVERIFY(document);
+    const ImportServices services{types, fonts, workers,
+                                  [&](const auto&... what) { store.addItems(what...); }};
+    for (const char* open : {"Other", "Acme"}) {
+      auto dropped = BrandDocument::load({held, log}, library.packagePath("Acme"));
+      held.hold("x.png");
+      QVERIFY(DropImport::handle(services, {FakeThing::file(library.disk.path("x.png"))}, section,
+                                 *dropped));
+      dropped.reset();
+      store.select(library.packagePath(open));
+      held.release("x.png");
+      workers.waitForDone();
       QCoreApplication::processEvents();
     }
-    while (!held.isEmpty()) dropping.held.release(held.takeAt(random.bounded(int(held.size()))));
+    // Once into the closed package, and once into the document that was open again.
+    QCOMPARE(store.openDocument()->brand().sections.first().items.size(), 2);
+  }
+
+  void aRenamedPackageStillTakesFiles() {
+    Dropping dropping;
+    for (const char* name : {"1.png", "2.ttf"}) dropping.held.hold(name);
+    QVERIFY(dropping.drop({dropping.file("1.png"), dropping.file("2.ttf", "Inter")}));
+    const QString package = dropping.document->packageURL(), moved = dropping.disk.path("Moved");
+    QVERIFY(QDir().rename(package, moved));
+    for (const char* name : {"1.png", "2.ttf"}) dropping.held.release(name);
     dropping.finish();
-    QCOMPARE(dropping.shape(), "S:a,b T:" + expected.join(','));
+    QCOMPARE(dropping.shape(), "S:a,b T:1,Inter");
+    QVERIFY(!QFileInfo::exists(package));
+    for (const Item& item : dropping.section(1).items) {
+      QVERIFY(QFileInfo::exists(moved + "/assets/" + assetOf(item).filename));
+    }
   }
-}
 
-void TestDropImport::landsAtTheEndWithoutAnEventLoop() {
-  Dropping dropping;
-  dropping.held.hold("slow.png");
-  QVERIFY(dropping.drop({dropping.file("slow.png"), dropping.file("quick.png")}));
-  QVERIFY(!DropImport::finish(dropping.workers, std::chrono::milliseconds(50)));
-  QCOMPARE(dropping.shape(), "S:a,b T:");
-  dropping.held.release("slow.png");
-  QVERIFY(DropImport::finish(dropping.workers, std::chrono::seconds(20)));
-  QCOMPARE(dropping.shape(), "S:a,b T:slow,quick");
-}
-
-void TestDropImport::failuresMakeNoItem() {
-  Dropping dropping;
-  QVERIFY(dropping.drop({FakeThing::file(QString()), FakeThing::file("/missing.png"),
-                         FakeThing::file(dropping.disk.folder.path()),
-                         FakeThing::of(DropType::image, std::nullopt), dropping.file("x.png")}));
-  dropping.finish();
-  QCOMPARE(dropping.shape(), "S:a,b T:x");
-  QCOMPARE(QDir(dropping.assets()).entryList(QDir::Files).size(), 1);
-  // Told once, and not of what there was nothing of.
-  const QString folder = QFileInfo(dropping.disk.folder.path()).fileName();
-  QCOMPARE(dropping.failed.size(), 1);
-  const QStringList& names = dropping.failed.first();
-  QCOMPARE(QSet<QString>(names.begin(), names.end()), QSet<QString>({"missing.png", folder}));
-}
-
-void TestDropImport::aDeletedSectionTakesNothing() {
-  Dropping dropping;
-  dropping.held.hold("x.png");
-  QVERIFY(dropping.drop({dropping.file("x.png")}));
-  dropping.document->edit([](Brand& brand) { brand.sections.removeLast(); });
-  dropping.held.release("x.png");
-  dropping.finish();
-  QCOMPARE(dropping.shape(), "S:a,b");
-  QCOMPARE(QDir(dropping.assets()).entryList(QDir::Files).size(), 1);
-}
-
-void TestDropImport::aClosedDocumentStillTakesItems() {
-  TestLibrary library;
-  const QUuid section = library.add("Acme").sections.first().id;
-  library.add("Other");
-  LibraryStore& store = library.start();
-  HeldStore held;
-  FakeTypes types;
-  FakeFonts fonts;
-  QThreadPool workers;
-  ListedLog log;
-  QVERIFY(writeFile(library.disk.path("x.png"), "x"));
-  const auto document = BrandDocument::load({held, log}, library.packagePath("Acme"));
-  QVERIFY(document);
-  const ImportServices services{types, fonts, workers,
-                                [&](const auto&... what) { store.addItems(what...); }};
-  for (const char* open : {"Other", "Acme"}) {
-    auto dropped = BrandDocument::load({held, log}, library.packagePath("Acme"));
-    held.hold("x.png");
-    QVERIFY(DropImport::handle(services, {FakeThing::file(library.disk.path("x.png"))}, section,
-                               *dropped));
-    dropped.reset();
-    store.select(library.packagePath(open));
-    held.release("x.png");
-    workers.waitForDone();
-    QCoreApplication::processEvents();
+  void aDeletedPackageStaysDeleted() {
+    Dropping dropping;
+    dropping.held.hold("1.png");
+    dropping.workers.setMaxThreadCount(1);
+    QVERIFY(dropping.drop({dropping.file("1.png"), dropping.file("2.png"),
+                           FakeThing::of(DropType::image, "pixels")}));
+    const QString package = dropping.document->packageURL();
+    dropping.document->invalidate();
+    QVERIFY(QDir(package).removeRecursively());
+    dropping.document.reset();
+    dropping.held.release("1.png");
+    dropping.finish();
+    QVERIFY(!QFileInfo::exists(package));
+    QVERIFY(dropping.addedToClosed.isEmpty());
   }
-  // Once into the closed package, and once into the document that was open again.
-  QCOMPARE(store.openDocument()->brand().sections.first().items.size(), 2);
-}
-
-void TestDropImport::aRenamedPackageStillTakesFiles() {
-  Dropping dropping;
-  for (const char* name : {"1.png", "2.ttf"}) dropping.held.hold(name);
-  QVERIFY(dropping.drop({dropping.file("1.png"), dropping.file("2.ttf", "Inter")}));
-  const QString package = dropping.document->packageURL(), moved = dropping.disk.path("Moved");
-  QVERIFY(QDir().rename(package, moved));
-  for (const char* name : {"1.png", "2.ttf"}) dropping.held.release(name);
-  dropping.finish();
-  QCOMPARE(dropping.shape(), "S:a,b T:1,Inter");
-  QVERIFY(!QFileInfo::exists(package));
-  for (const Item& item : dropping.section(1).items) {
-    QVERIFY(QFileInfo::exists(moved + "/assets/" + assetOf(item).filename));
-  }
-}
-
-void TestDropImport::aDeletedPackageStaysDeleted() {
-  Dropping dropping;
-  dropping.held.hold("1.png");
-  dropping.workers.setMaxThreadCount(1);
-  QVERIFY(dropping.drop(
-      {dropping.file("1.png"), dropping.file("2.png"), FakeThing::of(DropType::image, "pixels")}));
-  const QString package = dropping.document->packageURL();
-  dropping.document->invalidate();
-  QVERIFY(QDir(package).removeRecursively());
-  dropping.document.reset();
-  dropping.held.release("1.png");
-  dropping.finish();
-  QVERIFY(!QFileInfo::exists(package));
-  QVERIFY(dropping.addedToClosed.isEmpty());
-}
+};
 
 QTEST_GUILESS_MAIN(TestDropImport)
 #include "tst_dropimport.moc"

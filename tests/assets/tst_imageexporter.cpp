@@ -1,8 +1,8 @@
 #include "assets/ExportEstimate.h"
-#include "assets/ExportFormats.h"
 #include "assets/ExportImageSize.h"
 #include "assets/ImageExporter.h"
-#include "testing/GatedImages.h"
+#include "testing/Cases.h"
+#include "testing/FakeMedia.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -10,168 +10,19 @@
 using namespace tarnloft;
 using namespace std::chrono_literals;
 
-class TestImageExporter : public QObject {
-  Q_OBJECT
-
- private slots:
-  void knowsEachFormat_data();
-  void knowsEachFormat();
-  void offersPresets_data();
-  void offersPresets();
-  void scalesFromTheNativeSize();
-  void keepsTheAspectWhileLocked_data();
-  void keepsTheAspectWhileLocked();
-  void unlockedSidesAreFree();
-  void readsTheNativeSize();
-  void makesTargets();
-  void roundsTheTargetSize();
-  void estimatesOnceTheChoiceRests();
-  void aChoiceAnewThrowsAwayTheOldResult();
-  void startsOnlyForAnotherKey();
-  void staysAbsentWhenNothingComes();
-  void mayEndWhileItConverts();
-};
-
-void TestImageExporter::knowsEachFormat_data() {
-  QTest::addColumn<QString>("raw");
-  QTest::addColumn<QString>("extension");
-  QTest::addColumn<QString>("name");
-  QTest::addColumn<QString>("mime");
-  QTest::addColumn<bool>("lossy");
-  const auto row = [](const char* raw, const char* extension, const char* name, const char* mime,
-                      bool lossy) {
-    QTest::newRow(raw) << QString::fromLatin1(raw) << QString::fromLatin1(extension)
-                       << QString::fromLatin1(name) << QString::fromLatin1(mime) << lossy;
-  };
-  row("png", "png", "PNG", "image/png", false);
-  row("jpeg", "jpg", "JPEG", "image/jpeg", true);
-  row("heic", "heic", "HEIC", "image/heic", true);
-  row("tiff", "tiff", "TIFF", "image/tiff", false);
-}
-
-void TestImageExporter::knowsEachFormat() {
-  QFETCH(QString, raw);
-  const auto format = fromRawValue<ExportFormat>(raw.toStdString());
-  QVERIFY(format);
-  QTEST(fileExtension(*format), "extension");
-  QTEST(label(*format), "name");
-  QTEST(mimeType(*format), "mime");
-  QTEST(isLossy(*format), "lossy");
-}
-
-void TestImageExporter::offersPresets_data() {
-  QTest::addColumn<QSizeF>("native");
-  QTest::addColumn<QString>("labels");
-  QTest::newRow("small") << QSizeF(300, 200) << QStringLiteral("100% 50% 25%");
-  QTest::newRow("middle") << QSizeF(1500, 900) << QStringLiteral("100% 50% 25% 1024px 512px");
-  QTest::newRow("strictly") << QSizeF(100, 2048) << QStringLiteral("100% 50% 25% 1024px 512px");
-  QTest::newRow("large") << QSizeF(2049, 1) << QStringLiteral("100% 50% 25% 2048px 1024px 512px");
-}
-
-void TestImageExporter::offersPresets() {
-  QFETCH(QSizeF, native);
-  ExportImageSize size(native);
-  QStringList labels;
-  for (const ExportPreset& preset : size.presets()) {
-    labels << preset.label;
-    if (!preset.label.endsWith(QStringLiteral("px"))) continue;
-    size.applyScale(preset.scale);
-    QCOMPARE(qMax(size.width(), size.height()), QStringView(preset.label).chopped(2).toInt());
-  }
-  QTEST(labels.join(QLatin1Char(' ')), "labels");
-}
-
-void TestImageExporter::scalesFromTheNativeSize() {
-  ExportImageSize size({101, 33});
-  size.setWidth(7);
-  size.applyScale(0.5);
-  QCOMPARE(size.pixelSize(), QSize(51, 17));  // halves away from zero
-  size.applyScale(0.0001);
-  QCOMPARE(size.pixelSize(), QSize(1, 1));
-  QCOMPARE(ExportImageSize({0.2, 99.6}).pixelSize(), QSize(1, 100));
-}
-
-void TestImageExporter::keepsTheAspectWhileLocked_data() {
-  QTest::addColumn<QSizeF>("native");
-  QTest::addColumn<int>("width");
-  QTest::addColumn<QSize>("byWidth");
-  QTest::addColumn<int>("height");
-  QTest::addColumn<QSize>("byHeight");
-  QTest::newRow("plain") << QSizeF(1000, 500) << 300 << QSize(300, 150) << 50 << QSize(100, 50);
-  QTest::newRow("least") << QSizeF(1000, 10) << 1 << QSize(1, 1) << 1 << QSize(100, 1);
-  QTest::newRow("none") << QSizeF(100, 50) << 0 << QSize(1, 1) << -7 << QSize(2, 1);
-  QTest::newRow("flat") << QSizeF(100, 0) << 30 << QSize(30, 30) << 40 << QSize(40, 40);
-  QTest::newRow("beyond") << QSizeF(1, 1000) << 2'000'000'000 << QSize(2'000'000'000, INT_MAX) << 5
-                          << QSize(1, 5);
-}
-
-void TestImageExporter::keepsTheAspectWhileLocked() {
-  QFETCH(QSizeF, native);
-  QFETCH(int, width);
-  QFETCH(int, height);
-  ExportImageSize size(native);
-  QVERIFY(size.lockAspect());
-  size.setWidth(width);
-  QTEST(size.pixelSize(), "byWidth");
-  size.setHeight(height);
-  QTEST(size.pixelSize(), "byHeight");
-}
-
-void TestImageExporter::unlockedSidesAreFree() {
-  ExportImageSize size({100, 50});
-  size.setLockAspect(false);
-  size.setWidth(30);
-  size.setHeight(-1);
-  QCOMPARE(size.pixelSize(), QSize(30, 1));
-  size.setLockAspect(true);
-  QCOMPARE(size.pixelSize(), QSize(30, 1));
-  size.setWidth(40);
-  QCOMPARE(size.pixelSize(), QSize(40, 20));
-}
-
-void TestImageExporter::readsTheNativeSize() {
-  GatedImages images;
-  const auto size = [&] { return ImageExporter::nativeSize(images, QStringLiteral("a")); };
-  QVERIFY(!size());
-  images.toldVectorSize = QSizeF(0, 10);
-  QVERIFY(!size());
-  images.toldVectorSize = QSizeF(12.5, 10);
-  QCOMPARE(size(), QSizeF(12.5, 10));
-  images.told = ImageProperties{{30, 20}, false, {}};
-  QCOMPARE(size(), QSizeF(30, 20));
-}
-
-void TestImageExporter::makesTargets() {
-  GatedImages images;
-  const AssetRef asset{QStringLiteral("1.png"), QStringLiteral("Acme Logo.final.png")};
-  const auto target = ExportTarget::create(images, QStringLiteral("/p/assets/1.png"), asset);
-  QCOMPARE(target.baseName, QStringLiteral("Acme Logo.final"));
-  QCOMPARE(target.nativeSize, QSizeF(1024, 1024));
-  QVERIFY(target.id != ExportTarget::create(images, target.url, asset).id);
-}
-
-void TestImageExporter::roundsTheTargetSize() {
-  GatedImages images;
-  images.open(3);
-  for (const QSizeF size : {QSizeF(10.5, 3.4), QSizeF(0.2, -5), QSizeF(1, 9e18)}) {
-    ImageExporter::exportImage(images, QStringLiteral("a"), ExportFormat::jpeg, size, 0.5);
-  }
-  QCOMPARE(images.begun(),
-           QStringList({QStringLiteral("a jpeg 11x3 0.5"), QStringLiteral("a jpeg 1x1 0.5"),
-                        QStringLiteral("a jpeg 1x2147483647 0.5")}));
-}
-
 namespace {
 
 struct Estimate {
-  GatedImages images;
+  FakeImages images;
   BackgroundWork work{1};
   ExportEstimate estimate;
   QSignalSpy changes{&estimate, &ExportEstimate::textChanged};
 
   explicit Estimate(const char* path = "a")
-      : estimate(images, work, QString::fromLatin1(path), 0ms) {}
-  ~Estimate() { images.open(100); }
+      : estimate(images, work, QString::fromLatin1(path), 0ms) {
+    images.close();
+  }
+  ~Estimate() { images.open(); }
 
   void choose(int width, double quality = 0.85) {
     estimate.setChoice({ExportFormat::jpeg, {width, 600}, quality});
@@ -180,69 +31,153 @@ struct Estimate {
 
 }  // namespace
 
-void TestImageExporter::estimatesOnceTheChoiceRests() {
-  QCOMPARE((ExportChoice{ExportFormat::jpeg, {800, 600}, 0.859}).key(),
-           QStringLiteral("800x600-jpeg-85"));
-  Estimate it;
-  it.choose(800);
-  QVERIFY(!it.estimate.text());
-  QVERIFY(it.images.begun().isEmpty());
-  it.images.open(1);
-  QTRY_COMPARE(it.estimate.text(), QStringLiteral("800 KB"));
-  QCOMPARE(it.changes.size(), 1);
-  it.choose(400);
-  QVERIFY(!it.estimate.text());
-  QCOMPARE(it.changes.size(), 2);
-}
+class TestImageExporter : public QObject {
+  Q_OBJECT
 
-void TestImageExporter::aChoiceAnewThrowsAwayTheOldResult() {
-  Estimate it;
-  it.choose(800);
-  QTRY_COMPARE(it.images.begun().size(), 1);
-  it.choose(400);
-  it.choose(200);  // before the other has rested
-  it.images.open(2);
-  QTRY_COMPARE(it.estimate.text(), QStringLiteral("200 KB"));
-  QCOMPARE(it.changes.size(), 1);
-  QCOMPARE(it.images.begun(), QStringList({QStringLiteral("a jpeg 800x600 0.85"),
-                                           QStringLiteral("a jpeg 200x600 0.85")}));
-}
+ private slots:
+  void offersPresets() {
+    const Cases<QSizeF, QString> cases{
+        {"small", QSizeF(300, 200), "100% 50% 25%"},
+        {"middle", QSizeF(1500, 900), "100% 50% 25% 1024px 512px"},
+        {"strictly", QSizeF(100, 2048), "100% 50% 25% 1024px 512px"},
+        {"large", QSizeF(2049, 1), "100% 50% 25% 2048px 1024px 512px"}};
+    cases.check([&](const QSizeF& native, const QString& labels) {
+      ExportImageSize size(native);
+      QStringList found;
+      for (const ExportPreset& preset : size.presets()) {
+        found << preset.label;
+        if (!preset.label.endsWith("px")) continue;
+        size.applyScale(preset.scale);
+        QCOMPARE(qMax(size.width(), size.height()), QStringView(preset.label).chopped(2).toInt());
+      }
+      QCOMPARE(found.join(' '), labels);
+    });
+  }
 
-void TestImageExporter::startsOnlyForAnotherKey() {
-  Estimate it;
-  it.images.open(10);
-  it.choose(800);
-  QTRY_VERIFY(it.estimate.text());
-  it.choose(800, 0.8501);
-  QVERIFY(it.estimate.text());
-  it.choose(800, 0.86);
-  QVERIFY(!it.estimate.text());
-}
+  void scalesFromTheNativeSize() {
+    ExportImageSize size({101, 33});
+    size.setWidth(7);
+    size.applyScale(0.5);
+    QCOMPARE(size.pixelSize(), QSize(51, 17));  // halves away from zero
+    size.applyScale(0.0001);
+    QCOMPARE(size.pixelSize(), QSize(1, 1));
+    QCOMPARE(ExportImageSize({0.2, 99.6}).pixelSize(), QSize(1, 100));
+  }
 
-void TestImageExporter::staysAbsentWhenNothingComes() {
-  Estimate it("bad");
-  it.choose(800);
-  it.images.open(1);
-  bool done = false;
-  QTRY_COMPARE(it.images.begun().size(), 1);
-  it.work.start([] {}, [&] { done = true; });
-  QTRY_VERIFY(done);
-  QVERIFY(!it.estimate.text());
-  QCOMPARE(it.changes.size(), 0);
-}
+  void keepsTheAspectWhileLocked() {
+    const Cases<QSizeF, int, QSize, int, QSize> cases{
+        {"plain", QSizeF(1000, 500), 300, QSize(300, 150), 50, QSize(100, 50)},
+        {"least", QSizeF(1000, 10), 1, QSize(1, 1), 1, QSize(100, 1)},
+        {"none", QSizeF(100, 50), 0, QSize(1, 1), -7, QSize(2, 1)},
+        {"flat", QSizeF(100, 0), 30, QSize(30, 30), 40, QSize(40, 40)},
+        {"beyond", QSizeF(1, 1000), 2'000'000'000, QSize(2'000'000'000, INT_MAX), 5, QSize(1, 5)}};
+    cases.check([&](const QSizeF& native, int width, const QSize& byWidth, int height,
+                    const QSize& byHeight) {
+      ExportImageSize size(native);
+      QVERIFY(size.lockAspect());
+      size.setWidth(width);
+      QCOMPARE(size.pixelSize(), byWidth);
+      size.setHeight(height);
+      QCOMPARE(size.pixelSize(), byHeight);
+    });
+  }
 
-void TestImageExporter::mayEndWhileItConverts() {
-  GatedImages images;
-  BackgroundWork work(1);
-  auto estimate = std::make_unique<ExportEstimate>(images, work, QStringLiteral("a"), 0ms);
-  estimate->setChoice({ExportFormat::png, {8, 6}, 1});
-  QTRY_COMPARE(images.begun().size(), 1);
-  estimate.reset();
-  bool done = false;
-  work.start([] {}, [&] { done = true; });
-  images.open(1);
-  QTRY_VERIFY(done);
-}
+  void unlockedSidesAreFree() {
+    ExportImageSize size({100, 50});
+    size.setLockAspect(false);
+    size.setWidth(30);
+    size.setHeight(-1);
+    QCOMPARE(size.pixelSize(), QSize(30, 1));
+    size.setLockAspect(true);
+    QCOMPARE(size.pixelSize(), QSize(30, 1));
+    size.setWidth(40);
+    QCOMPARE(size.pixelSize(), QSize(40, 20));
+  }
+
+  void readsTheNativeSize() {
+    FakeImages images;
+    const auto size = [&] { return ImageExporter::nativeSize(images, "a"); };
+    QVERIFY(!size());
+    images.toldVectorSize = QSizeF(0, 10);
+    QVERIFY(!size());
+    images.toldVectorSize = QSizeF(12.5, 10);
+    QCOMPARE(size(), QSizeF(12.5, 10));
+    images.told = ImageProperties{{30, 20}, false, {}};
+    QCOMPARE(size(), QSizeF(30, 20));
+  }
+
+  void roundsTheTargetSize() {
+    FakeImages images;
+    for (const QSizeF size : {QSizeF(10.5, 3.4), QSizeF(0.2, -5), QSizeF(1, 9e18)}) {
+      ImageExporter::exportImage(images, "a", ExportFormat::jpeg, size, 0.5);
+    }
+    QCOMPARE(images.begun(),
+             QStringList({"a jpeg 11x3 0.5", "a jpeg 1x1 0.5", "a jpeg 1x2147483647 0.5"}));
+  }
+
+  void estimatesOnceTheChoiceRests() {
+    QCOMPARE((ExportChoice{ExportFormat::jpeg, {800, 600}, 0.859}).key(), "800x600-jpeg-85");
+    Estimate it;
+    it.choose(800);
+    QVERIFY(!it.estimate.text());
+    QVERIFY(it.images.begun().isEmpty());
+    it.images.open(1);
+    QTRY_COMPARE(it.estimate.text(), "800 KB");
+    QCOMPARE(it.changes.size(), 1);
+    it.choose(400);
+    QVERIFY(!it.estimate.text());
+    QCOMPARE(it.changes.size(), 2);
+  }
+
+  void aChoiceAnewThrowsAwayTheOldResult() {
+    Estimate it;
+    it.choose(800);
+    QTRY_COMPARE(it.images.begun().size(), 1);
+    it.choose(400);
+    it.choose(200);  // before the other has rested
+    it.images.open(2);
+    QTRY_COMPARE(it.estimate.text(), "200 KB");
+    QCOMPARE(it.changes.size(), 1);
+    QCOMPARE(it.images.begun(), QStringList({"a jpeg 800x600 0.85", "a jpeg 200x600 0.85"}));
+  }
+
+  void startsOnlyForAnotherKey() {
+    Estimate it;
+    it.images.open(10);
+    it.choose(800);
+    QTRY_VERIFY(it.estimate.text());
+    it.choose(800, 0.8501);
+    QVERIFY(it.estimate.text());
+    it.choose(800, 0.86);
+    QVERIFY(!it.estimate.text());
+  }
+
+  void staysAbsentWhenNothingComes() {
+    Estimate it("bad");
+    it.choose(800);
+    it.images.open(1);
+    bool done = false;
+    QTRY_COMPARE(it.images.begun().size(), 1);
+    it.work.start([] {}, [&] { done = true; });
+    QTRY_VERIFY(done);
+    QVERIFY(!it.estimate.text());
+    QCOMPARE(it.changes.size(), 0);
+  }
+
+  void mayEndWhileItConverts() {
+    FakeImages images;
+    images.close();
+    BackgroundWork work(1);
+    auto estimate = std::make_unique<ExportEstimate>(images, work, "a", 0ms);
+    estimate->setChoice({ExportFormat::png, {8, 6}, 1});
+    QTRY_COMPARE(images.begun().size(), 1);
+    estimate.reset();
+    bool done = false;
+    work.start([] {}, [&] { done = true; });
+    images.open(1);
+    QTRY_VERIFY(done);
+  }
+};
 
 QTEST_GUILESS_MAIN(TestImageExporter)
 #include "tst_imageexporter.moc"

@@ -1,39 +1,20 @@
 #include "assets/ThumbnailLoader.h"
-#include "testing/GatedImages.h"
+#include "testing/FakeMedia.h"
 
 #include <QTest>
 
 using namespace tarnloft;
 
-class TestThumbnails : public QObject {
-  Q_OBJECT
-
- private slots:
-  void decodesOnceForOneKey();
-  void keepsEachSizeOfAFile();
-  void givesAKeptPictureAtOnce();
-  void triesAFileThatFailedAgain();
-  void takesTheMostRecentlyAskedFirst();
-  void asksAgainMovesToTheFront();
-  void dropsWhatNobodyWantsAnyMore();
-  void keepsWhatHadBegun();
-  void cancelsOneOfTwo();
-  void forgetsTheLeastRecentlyUsed();
-  void callbacksMayAskAndCancel();
-  void mayEndBeforeItsRequests();
-  void waitsWhileItIsHeld();
-  void finishWaitsForWhatHasBegunAlone();
-};
-
 namespace {
 
 struct Loader {
-  GatedImages images;
+  FakeImages images;
   BackgroundWork work{1};
   ThumbnailLoader thumbnails{images, work};
   QStringList got;  // "name" of each callback, with "!" for nothing
 
-  ~Loader() { images.open(10'000); }
+  Loader() { images.close(); }
+  ~Loader() { images.open(); }
 
   ThumbnailLoader::Request ask(const char* name, int maxPixel = 64) {
     const QString path = QString::fromLatin1(name);
@@ -58,180 +39,170 @@ struct Loader {
 
 }  // namespace
 
-void TestThumbnails::decodesOnceForOneKey() {
-  Loader loader;
-  const auto first = loader.ask("a"), second = loader.ask("a");
-  loader.images.open(1);
-  QTRY_COMPARE(loader.got, QStringList({QStringLiteral("a"), QStringLiteral("a")}));
-  QCOMPARE(loader.images.begun(), QStringList(QStringLiteral("a 64")));
-}
+class TestThumbnails : public QObject {
+  Q_OBJECT
 
-void TestThumbnails::keepsEachSizeOfAFile() {
-  Loader loader;
-  const auto small = loader.ask("a", 128), large = loader.ask("a", 256);
-  loader.finish(2);
-  const auto again = loader.ask("a", 128), alsoAgain = loader.ask("a", 256);
-  QCOMPARE(loader.got.size(), 4);
-  QCOMPARE(loader.images.begun().size(), 2);
-}
-
-void TestThumbnails::givesAKeptPictureAtOnce() {
-  Loader loader;
-  const auto first = loader.ask("a");
-  QVERIFY(loader.got.isEmpty());
-  loader.finish(1);
-  const auto second = loader.ask("a");
-  QCOMPARE(loader.got.size(), 2);
-}
-
-void TestThumbnails::triesAFileThatFailedAgain() {
-  Loader loader;
-  const auto first = loader.ask("bad");
-  loader.finish(1);
-  const auto second = loader.ask("bad");
-  loader.finish(1);
-  QCOMPARE(loader.got, QStringList({QStringLiteral("bad!"), QStringLiteral("bad!")}));
-  QCOMPARE(loader.images.begun().size(), 2);
-}
-
-void TestThumbnails::takesTheMostRecentlyAskedFirst() {
-  Loader loader;
-  const auto busy = loader.occupy();
-  const auto a = loader.ask("a"), b = loader.ask("b"), c = loader.ask("c");
-  loader.finish(4);
-  QCOMPARE(loader.got, QStringList({QStringLiteral("busy"), QStringLiteral("c"),
-                                    QStringLiteral("b"), QStringLiteral("a")}));
-}
-
-void TestThumbnails::asksAgainMovesToTheFront() {
-  Loader loader;
-  const auto busy = loader.occupy();
-  const auto a = loader.ask("a"), b = loader.ask("b"), aAgain = loader.ask("a");
-  loader.images.open(3);
-  QTRY_COMPARE(loader.got.size(), 4);
-  QCOMPARE(loader.images.begun(), QStringList({QStringLiteral("busy 64"), QStringLiteral("a 64"),
-                                               QStringLiteral("b 64")}));
-}
-
-void TestThumbnails::dropsWhatNobodyWantsAnyMore() {
-  Loader loader;
-  const auto busy = loader.occupy();
-  auto a = loader.ask("a"), b = loader.ask("b"), bAgain = loader.ask("b");
-  { const auto gone = loader.ask("c"); }
-  b.cancel();
-  bAgain.cancel();
-  loader.finish(2);
-  QCOMPARE(loader.images.begun(), QStringList({QStringLiteral("busy 64"), QStringLiteral("a 64")}));
-  b = loader.ask("b");  // dropped, not failed
-  loader.finish(1);
-  QCOMPARE(loader.got.last(), QStringLiteral("b"));
-}
-
-void TestThumbnails::keepsWhatHadBegun() {
-  Loader loader;
-  auto busy = loader.occupy();
-  busy.cancel();
-  const auto other = loader.ask("other");
-  loader.images.open(2);
-  QTRY_COMPARE(loader.got, QStringList(QStringLiteral("other")));
-  const auto again = loader.ask("busy");
-  QCOMPARE(loader.got.last(), QStringLiteral("busy"));
-  QCOMPARE(loader.images.begun().size(), 2);
-}
-
-void TestThumbnails::cancelsOneOfTwo() {
-  Loader loader;
-  const auto busy = loader.occupy();
-  auto first = loader.ask("a");
-  int second = 0;
-  const auto kept = loader.thumbnails.thumbnail(
-      QStringLiteral("a"), 64, [&](const auto& image) { second += image ? 1 : 0; });
-  first.cancel();
-  first.cancel();
-  loader.images.open(2);
-  QTRY_COMPARE(second, 1);
-  QCOMPARE(loader.got, QStringList(QStringLiteral("busy")));
-}
-
-void TestThumbnails::forgetsTheLeastRecentlyUsed() {
-  Loader loader;
-  const auto askFor = [&](int i) { return loader.ask(QByteArray::number(i).constData()); };
-  for (int i = 0; i < ThumbnailLoader::cacheLimit; ++i) {
-    const auto request = askFor(i);
-    loader.finish(1);
+ private slots:
+  void decodesOnceForEachSizeOfAFile() {
+    Loader loader;
+    const auto first = loader.ask("a"), second = loader.ask("a"), large = loader.ask("a", 256);
+    QVERIFY(loader.got.isEmpty());
+    loader.images.open(2);
+    QTRY_COMPARE(loader.got.size(), 3);
+    const auto again = loader.ask("a"), largeAgain = loader.ask("a", 256);  // kept: at once
+    QCOMPARE(loader.got.size(), 5);
+    QCOMPARE(loader.images.begun().size(), 2);
   }
-  const auto used = askFor(0), one = loader.ask("one more");
-  loader.finish(1);
-  const qsizetype decoded = loader.images.begun().size();
-  const auto kept = askFor(0), alsoKept = askFor(2);
-  QCOMPARE(loader.images.begun().size(), decoded);
-  const auto forgotten = askFor(1);
-  loader.finish(1);
-  QCOMPARE(loader.images.begun().size(), decoded + 1);
-}
 
-void TestThumbnails::callbacksMayAskAndCancel() {
-  Loader loader;
-  ThumbnailLoader::Request next, second;
-  const auto first = loader.thumbnails.thumbnail(QStringLiteral("a"), 64, [&](const auto&) {
-    second.cancel();
-    next = loader.ask("a");  // kept by now
-  });
-  second = loader.ask("a");
-  loader.images.open(1);
-  QTRY_COMPARE(loader.got, QStringList(QStringLiteral("a")));
-  QCOMPARE(loader.images.begun().size(), 1);
-}
+  void triesAFileThatFailedAgain() {
+    Loader loader;
+    const auto first = loader.ask("bad");
+    loader.finish(1);
+    const auto second = loader.ask("bad");
+    loader.finish(1);
+    QCOMPARE(loader.got, QStringList({"bad!", "bad!"}));
+    QCOMPARE(loader.images.begun().size(), 2);
+  }
 
-void TestThumbnails::mayEndBeforeItsRequests() {
-  GatedImages images;
-  BackgroundWork work(1);
-  auto loader = std::make_unique<ThumbnailLoader>(images, work);
-  const auto fail = [](const std::optional<QImage>&) { QFAIL("called after the end"); };
-  auto begun = loader->thumbnail(QStringLiteral("a"), 64, fail);
-  images.awaitBegun(1);
-  auto waiting = loader->thumbnail(QStringLiteral("b"), 64, fail);
-  loader.reset();
-  bool done = false;
-  work.start([] {}, [&] { done = true; });
-  images.open(2);
-  QTRY_VERIFY(done);
-  QCOMPARE(images.begun().size(), 1);
-  begun.cancel();
-}
+  void takesTheMostRecentlyAskedFirst() {
+    Loader loader;
+    const auto busy = loader.occupy();
+    const auto a = loader.ask("a"), b = loader.ask("b"), c = loader.ask("c");
+    loader.finish(4);
+    QCOMPARE(loader.got, QStringList({"busy", "c", "b", "a"}));
+  }
 
-void TestThumbnails::waitsWhileItIsHeld() {
-  BackgroundWork work(1);
-  QStringList done;
-  const auto start = [&](const QString& name) {
-    return work.start([] {}, [&, name] { done << name; });
-  };
-  work.hold();
-  start(QStringLiteral("a"));
-  const auto dropped = start(QStringLiteral("b"));
-  start(QStringLiteral("c"));
-  QVERIFY(dropped->drop());
-  QTest::qWait(50);
-  QVERIFY(done.isEmpty());
-  work.resume();
-  QTRY_COMPARE(done, QStringList({"c", "a"}));
-  start(QStringLiteral("d"));
-  QTRY_COMPARE(done.size(), 3);
-}
+  void asksAgainMovesToTheFront() {
+    Loader loader;
+    const auto busy = loader.occupy();
+    const auto a = loader.ask("a"), b = loader.ask("b"), aAgain = loader.ask("a");
+    loader.images.open(3);
+    QTRY_COMPARE(loader.got.size(), 4);
+    QCOMPARE(loader.images.begun(), QStringList({"busy 64", "a 64", "b 64"}));
+  }
 
-void TestThumbnails::finishWaitsForWhatHasBegunAlone() {
-  GatedImages images;
-  BackgroundWork work(1);
-  ThumbnailLoader loader(images, work);
-  const auto ignore = [](const std::optional<QImage>&) {};
-  const auto begun = loader.thumbnail(QStringLiteral("a"), 64, ignore);
-  images.awaitBegun(1);
-  const auto waiting = loader.thumbnail(QStringLiteral("b"), 64, ignore);
-  QVERIFY(!work.finish(std::chrono::milliseconds(10)));
-  images.open(1);
-  QVERIFY(work.finish(std::chrono::seconds(20)));
-  QCOMPARE(images.begun().size(), 1);
-}
+  void dropsWhatNobodyWantsAnyMore() {
+    Loader loader;
+    const auto busy = loader.occupy();
+    auto a = loader.ask("a"), b = loader.ask("b"), bAgain = loader.ask("b");
+    { const auto gone = loader.ask("c"); }
+    b.cancel();
+    bAgain.cancel();
+    loader.finish(2);
+    QCOMPARE(loader.images.begun(), QStringList({"busy 64", "a 64"}));
+    b = loader.ask("b");  // dropped, not failed
+    loader.finish(1);
+    QCOMPARE(loader.got.last(), "b");
+  }
+
+  void keepsWhatHadBegun() {
+    Loader loader;
+    auto busy = loader.occupy();
+    busy.cancel();
+    const auto other = loader.ask("other");
+    loader.images.open(2);
+    QTRY_COMPARE(loader.got, QStringList("other"));
+    const auto again = loader.ask("busy");
+    QCOMPARE(loader.got.last(), "busy");
+    QCOMPARE(loader.images.begun().size(), 2);
+  }
+
+  void cancelsOneOfTwo() {
+    Loader loader;
+    const auto busy = loader.occupy();
+    auto first = loader.ask("a");
+    int second = 0;
+    const auto kept =
+        loader.thumbnails.thumbnail("a", 64, [&](const auto& image) { second += image ? 1 : 0; });
+    first.cancel();
+    first.cancel();
+    loader.images.open(2);
+    QTRY_COMPARE(second, 1);
+    QCOMPARE(loader.got, QStringList("busy"));
+  }
+
+  void forgetsTheLeastRecentlyUsed() {
+    Loader loader;
+    const auto askFor = [&](int i) { return loader.ask(QByteArray::number(i).constData()); };
+    for (int i = 0; i < ThumbnailLoader::cacheLimit; ++i) {
+      const auto request = askFor(i);
+      loader.finish(1);
+    }
+    const auto used = askFor(0), one = loader.ask("one more");
+    loader.finish(1);
+    const qsizetype decoded = loader.images.begun().size();
+    const auto kept = askFor(0), alsoKept = askFor(2);
+    QCOMPARE(loader.images.begun().size(), decoded);
+    const auto forgotten = askFor(1);
+    loader.finish(1);
+    QCOMPARE(loader.images.begun().size(), decoded + 1);
+  }
+
+  void callbacksMayAskAndCancel() {
+    Loader loader;
+    ThumbnailLoader::Request next, second;
+    const auto first = loader.thumbnails.thumbnail("a", 64, [&](const auto&) {
+      second.cancel();
+      next = loader.ask("a");  // kept by now
+    });
+    second = loader.ask("a");
+    loader.images.open(1);
+    QTRY_COMPARE(loader.got, QStringList("a"));
+    QCOMPARE(loader.images.begun().size(), 1);
+  }
+
+  void mayEndBeforeItsRequests() {
+    FakeImages images;
+    images.close();
+    BackgroundWork work(1);
+    auto loader = std::make_unique<ThumbnailLoader>(images, work);
+    const auto fail = [](const std::optional<QImage>&) { QFAIL("called after the end"); };
+    auto begun = loader->thumbnail("a", 64, fail);
+    images.awaitBegun(1);
+    auto waiting = loader->thumbnail("b", 64, fail);
+    loader.reset();
+    bool done = false;
+    work.start([] {}, [&] { done = true; });
+    images.open(2);
+    QTRY_VERIFY(done);
+    QCOMPARE(images.begun().size(), 1);
+    begun.cancel();
+  }
+
+  void waitsWhileItIsHeld() {
+    BackgroundWork work(1);
+    QStringList done;
+    const auto start = [&](const QString& name) {
+      return work.start([] {}, [&, name] { done << name; });
+    };
+    work.hold();
+    start("a");
+    const auto dropped = start("b");
+    start("c");
+    QVERIFY(dropped->drop());
+    QTest::qWait(50);
+    QVERIFY(done.isEmpty());
+    work.resume();
+    QTRY_COMPARE(done, QStringList({"c", "a"}));
+    start("d");
+    QTRY_COMPARE(done.size(), 3);
+  }
+
+  void finishWaitsForWhatHasBegunAlone() {
+    FakeImages images;
+    images.close();
+    BackgroundWork work(1);
+    ThumbnailLoader loader(images, work);
+    const auto ignore = [](const std::optional<QImage>&) {};
+    const auto begun = loader.thumbnail("a", 64, ignore);
+    images.awaitBegun(1);
+    const auto waiting = loader.thumbnail("b", 64, ignore);
+    QVERIFY(!work.finish(std::chrono::milliseconds(10)));
+    images.open(1);
+    QVERIFY(work.finish(std::chrono::seconds(20)));
+    QCOMPARE(images.begun().size(), 1);
+  }
+};
 
 QTEST_GUILESS_MAIN(TestThumbnails)
 #include "tst_thumbnails.moc"

@@ -22,7 +22,7 @@ class Stage {
   explicit Stage(const QString& qml) {
     m_view.setColor(Theme::of(*m_view.engine()).windowBackground());
     QQmlComponent component(m_view.engine());
-    component.setData(frame.arg(qml).toUtf8(), QUrl(QStringLiteral("qrc:/stage.qml")));
+    component.setData(frame.arg(qml).toUtf8(), QUrl("qrc:/stage.qml"));
     QObject* root = component.create();
     if (!root) qFatal("%s", qPrintable(component.errorString()));
     m_view.setContent({}, nullptr, root);
@@ -77,11 +77,11 @@ class Stage {
     return nullptr;
   }
 
-  static inline const QString frame = QStringLiteral(
+  static inline const QString frame =
       "pragma ComponentBehavior: Bound\nimport QtQuick\nimport TarnLoft.Controls\n"
       "Item {\n  property string logged\n"
       "  function log(what) { logged += (logged ? ' ' : '') + what }\n"
-      "  id: stage\n  %1\n}\n");
+      "  id: stage\n  %1\n}\n";
 
   QQuickView m_view;
   bool m_ready = false;

@@ -1,122 +1,11 @@
 #include "Stage.h"
+#include "testing/Cases.h"
 
 #include <QGuiApplication>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
 
 using namespace tarnloft;
-
-// Every control by keyboard alone, and where the focus goes.
-class TestKeyboard : public QObject {
-  Q_OBJECT
-
- private slots:
-  void initTestCase() { prepareTypography(); }
-  void keysDo_data();
-  void keysDo();
-  void theRingShowsForTheKeyboardAlone();
-  void aFieldEnteredByTabIsSelected();
-  void aSheetKeepsTheFocusAndGivesItBack();
-  void aSheetAnswersReturnAndEscape_data();
-  void aSheetAnswersReturnAndEscape();
-  void aDialogAnswersOnce_data();
-  void aDialogAnswersOnce();
-  void aMenuGoesByArrowsAndLetters_data();
-  void aMenuGoesByArrowsAndLetters();
-  void aSubMenuOpensByArrows();
-  void escapeWhileASubMenuFadesClosesItsParent();
-  void aMenuOpenedAndClosedQuicklyKeepsTheFocus();
-  void aSecondClickClosesTheMenuOfAButton();
-  void theMenuBarOpensByF10();
-  void aPopoverGivesTheFocusBack();
-  void aSheetOpenedFromAMenuGivesTheFocusBack();
-  void disabledControlsAreSkipped();
-  void anAmpersandIsALetter();
-};
-
-void TestKeyboard::keysDo_data() {
-  QTest::addColumn<QString>("qml");
-  QTest::addColumn<QList<int>>("keys");
-  QTest::addColumn<QString>("log");
-  const auto row = [](const char* name, const char* qml, QList<int> keys, const char* log) {
-    QTest::newRow(name) << QString::fromUtf8(qml) << keys << QString::fromUtf8(log);
-  };
-  using namespace Qt;
-  for (const int key : {Key_Space, Key_Return, Key_Enter}) {
-    row("button", "Button { text: 'A'; onClicked: log('clicked') }", {Key_Tab, key}, "clicked");
-    row("checkable button", "Button { text: 'A'; checkable: true; onClicked: log(checked) }",
-        {Key_Tab, key}, "true");
-    row("switch", "Switch { accessibleName: 'A'; onToggled: log(checked) }", {Key_Tab, key, key},
-        "true false");
-    row("check box", "CheckBox { text: 'A'; onToggled: log(checked) }", {Key_Tab, key, key},
-        "true false");
-    row("row", "ListRow { text: 'A'; onClicked: log('chosen') }", {Key_Tab, key}, "chosen");
-    row("selection mark", "SelectionMark { onClicked: log('clicked') }", {Key_Tab, key}, "clicked");
-    row("pop-up picker",
-        "PopUpPicker { options: [PickerOption { text: 'A' }, PickerOption { text: 'B' }]\n"
-        "  onActivated: index => log(index) }",
-        {Key_Tab, key, Key_Down, key}, "1");
-    row("menu button",
-        "MenuButton { text: 'A'; menu: Menu { MenuItem { text: 'B'; onTriggered: log('B') } } }",
-        {Key_Tab, key, Key_Down, key}, "B");
-  }
-  row("segmented picker",
-      "SegmentedPicker { options: [PickerOption { text: 'A' }, PickerOption { text: 'B' }]\n"
-      "  onActivated: index => { log(index); currentIndex = index } }",
-      {Key_Tab, Key_Left, Key_Right, Key_Right, Key_Left}, "1 0");
-  row("slider", "Slider { accessibleName: 'A'; stepSize: 0.25; value: 0.5; onMoved: log(value) }",
-      {Key_Tab, Key_Right, Key_Left, Key_Left}, "0.75 0.5 0.25");
-  row("shades",
-      "ShadeField { width: 99; hue: 0; saturation: 0.5; brightness: 0.9\n"
-      "  onMoved: (s, b) => log(s.toFixed(2) + '/' + b.toFixed(2)) }",
-      {Key_Tab, Key_Right, Key_Up}, "0.51/0.90 0.50/0.91");
-  row("scopes",
-      "ScopeBar { options: [PickerOption { text: 'A' }, PickerOption { text: 'B' }]\n"
-      "  onActivated: index => log(index) }",
-      {Key_Tab, Key_Space, Key_Tab, Key_Space}, "1");
-  row("divider",
-      "SplitView { anchors.fill: parent\n"
-      "  Item { SplitView.preferredWidth: 100; SplitView.minimumWidth: 75\n"
-      "    onWidthChanged: log(width) }\n"
-      "  Item { SplitView.fillWidth: true } }",
-      {Key_Tab, Key_Left, Key_Left, Key_Right}, "100 91");
-  row("field", "TextField { onAccepted: log(text) }", {Key_Tab, Key_A, Key_Return}, "a");
-  row("search", "SearchField { onTextEdited: log(text || 'cleared') }",
-      {Key_Tab, Key_A, Key_Escape, Key_Escape}, "a cleared");
-  row("text area is left by Tab",
-      "Column { TextArea { onEdited: log(text) }\nButton { text: 'A'; onClicked: log('clicked') } "
-      "}",
-      {Key_Tab, Key_A, Key_Tab, Key_Space}, "a clicked");
-}
-
-void TestKeyboard::keysDo() {
-  QFETCH(QString, qml);
-  QFETCH(QList<int>, keys);
-  QFETCH(QString, log);
-  Stage stage(qml);
-  QVERIFY(stage.ready());
-  for (const int key : keys) stage.press(key);
-  QTRY_COMPARE(stage.log(), log);
-}
-
-void TestKeyboard::theRingShowsForTheKeyboardAlone() {
-  Stage stage(
-      "Row { TextField { objectName: 'field'; focus: true }\n"
-      "Button { objectName: 'button'; text: 'A'; onClicked: log('clicked') } }");
-  auto* button = stage.find<QQuickItem>("button");
-  stage.click(button);
-  QCOMPARE(stage.log(), QStringLiteral("clicked"));
-  QVERIFY(!button->property("visualFocus").toBool());
-  QCOMPARE(stage.focused(), QStringLiteral("field"));  // a click leaves the focus where it was
-  stage.press(Qt::Key_Tab);
-  QVERIFY(button->property("visualFocus").toBool());
-}
-
-void TestKeyboard::aFieldEnteredByTabIsSelected() {
-  Stage stage("TextField { objectName: 'field'; text: 'Acme' }");
-  stage.press(Qt::Key_Tab);
-  QCOMPARE(stage.find("field")->property("selectedText").toString(), QStringLiteral("Acme"));
-}
 
 static const QString sheet = QStringLiteral(R"(
   Button { objectName: 'opener'; text: 'Open'; onClicked: naming.open() }
@@ -131,76 +20,6 @@ static const QString sheet = QStringLiteral(R"(
     }
   })");
 
-void TestKeyboard::aSheetKeepsTheFocusAndGivesItBack() {
-  Stage stage(sheet);
-  stage.press(Qt::Key_Tab);
-  QCOMPARE(stage.focused(), QStringLiteral("opener"));
-  stage.press(Qt::Key_Space);
-  QTRY_COMPARE(stage.focused(), QStringLiteral("name"));
-  for (const char* next : {"cancel", "create", "name", "cancel"}) {
-    stage.press(Qt::Key_Tab);
-    QCOMPARE(stage.focused(), QString::fromLatin1(next));
-  }
-  stage.press(Qt::Key_Backtab, Qt::ShiftModifier);
-  stage.press(Qt::Key_Backtab, Qt::ShiftModifier);
-  QCOMPARE(stage.focused(), QStringLiteral("create"));
-  stage.press(Qt::Key_Escape);
-  QTRY_COMPARE(stage.focused(), QStringLiteral("opener"));
-}
-
-void TestKeyboard::aSheetAnswersReturnAndEscape_data() {
-  QTest::addColumn<QList<int>>("keys");
-  QTest::addColumn<QString>("log");
-  QTest::newRow("return in the field") << QList<int>{Qt::Key_Return} << "accepted create closed";
-  QTest::newRow("escape") << QList<int>{Qt::Key_Escape} << "cancel closed";
-  QTest::newRow("return on cancel") << QList<int>{Qt::Key_Tab, Qt::Key_Return} << "cancel closed";
-  QTest::newRow("space on create")
-      << QList<int>{Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Space} << "create closed";
-}
-
-void TestKeyboard::aSheetAnswersReturnAndEscape() {
-  QFETCH(QList<int>, keys);
-  QFETCH(QString, log);
-  Stage stage(sheet);
-  stage.press(Qt::Key_Tab);
-  stage.press(Qt::Key_Space);
-  QTRY_COMPARE(stage.focused(), QStringLiteral("name"));
-  for (const int key : keys) stage.press(key);
-  QTRY_COMPARE(stage.log(), log);
-}
-
-void TestKeyboard::aDialogAnswersOnce_data() {
-  QTest::addColumn<QString>("kind");
-  QTest::addColumn<QList<int>>("keys");
-  QTest::addColumn<QString>("log");
-  using namespace Qt;
-  const QString cancelling = QStringLiteral("cancelIsDefault: true");
-  const QString third = QStringLiteral("alternativeText: 'Try Again'");
-  QTest::newRow("return confirms") << "" << QList<int>{Key_Return} << "confirmed";
-  QTest::newRow("escape dismisses") << "" << QList<int>{Key_Escape} << "dismissed";
-  QTest::newRow("return cancels") << cancelling << QList<int>{Key_Return} << "dismissed";
-  QTest::newRow("past cancel") << cancelling << QList<int>{Key_Tab, Key_Tab, Key_Space}
-                               << "confirmed";
-  QTest::newRow("a third button") << third << QList<int>{Key_Tab, Key_Space} << "other";
-  QTest::newRow("past the third") << third << QList<int>{Key_Return} << "confirmed";
-}
-
-void TestKeyboard::aDialogAnswersOnce() {
-  QFETCH(QString, kind);
-  QFETCH(QList<int>, keys);
-  QFETCH(QString, log);
-  Stage stage(QStringLiteral("ConfirmationDialog { objectName: 'dialog'; title: 'Really?'; %1\n"
-                             "  onConfirmed: log('confirmed'); onDismissed: log('dismissed')\n"
-                             "  onAlternativeChosen: log('other') }")
-                  .arg(kind));
-  for (const QString& sofar : {log, log + ' ' + log}) {
-    QMetaObject::invokeMethod(stage.find("dialog"), "open");
-    QTRY_VERIFY(stage.find("dialog")->property("opened").toBool());
-    for (const int key : keys) stage.press(key);
-    QTRY_COMPARE(stage.log(), sofar);
-  }
-}
-
 static const QString menus = QStringLiteral(R"(
   Button { objectName: 'opener'; text: 'Open'; onClicked: menu.popup(0, 30) }
   Menu {
@@ -212,152 +31,293 @@ static const QString menus = QStringLiteral(R"(
     Menu { title: 'Background'; objectName: 'background'; MenuItem { text: 'White'; onTriggered: log(text) } MenuItem { text: 'Dark'; onTriggered: log(text) } }
   })");
 
-void TestKeyboard::aMenuGoesByArrowsAndLetters_data() {
-  QTest::addColumn<QList<int>>("keys");
-  QTest::addColumn<QString>("log");
-  using namespace Qt;
-  QTest::newRow("down") << QList<int>{Key_Down, Key_Return} << "Duplicate";
-  QTest::newRow("past what tells") << QList<int>{Key_Down, Key_Down, Key_Return} << "Delete";
-  QTest::newRow("back up") << QList<int>{Key_Down, Key_Down, Key_Up, Key_Return} << "Duplicate";
-  QTest::newRow("second of a letter") << QList<int>{Key_D, Key_D, Key_Return} << "Delete";
-  QTest::newRow("space") << QList<int>{Key_D, Key_Space} << "Duplicate";
-  QTest::newRow("tab") << QList<int>{Key_Tab, Key_Tab, Key_Return} << "Delete";
-  QTest::newRow("tab goes round") << QList<int>{Key_Tab, Key_Tab, Key_Tab, Key_Tab, Key_Return}
-                                  << "Duplicate";
-  QTest::newRow("back by tab") << QList<int>{Key_Backtab, Key_Backtab, Key_Return} << "Delete";
-  QTest::newRow("home") << QList<int>{Key_D, Key_D, Key_Home, Key_Return} << "Duplicate";
-  QTest::newRow("end") << QList<int>{Key_End, Key_Up, Key_Return} << "Delete";
-}
+// Every control by keyboard alone, and where the focus goes.
+class TestKeyboard : public QObject {
+  Q_OBJECT
 
-void TestKeyboard::aMenuGoesByArrowsAndLetters() {
-  QFETCH(QList<int>, keys);
-  QFETCH(QString, log);
-  Stage stage(menus);
-  stage.press(Qt::Key_Tab);
-  stage.press(Qt::Key_Space);
-  QTRY_VERIFY(stage.find("menu")->property("opened").toBool());
-  for (const int key : keys) stage.press(key);
-  QTRY_COMPARE(stage.log(), log);
-}
+ private slots:
+  void initTestCase() { prepareTypography(); }
 
-void TestKeyboard::aSubMenuOpensByArrows() {
-  Stage stage(menus);
-  stage.press(Qt::Key_Tab);
-  stage.press(Qt::Key_Space);
-  QTRY_VERIFY(stage.find("menu")->property("opened").toBool());
-  stage.press(Qt::Key_B);
-  stage.press(Qt::Key_Right);
-  QTest::qWait(150);
-  stage.press(Qt::Key_Down);
-  stage.press(Qt::Key_Return);
-  QTRY_COMPARE(stage.log(), QStringLiteral("Dark"));
-}
+  void keysDo_data() {
+    QTest::addColumn<QString>("qml");
+    QTest::addColumn<QList<int>>("keys");
+    QTest::addColumn<QString>("log");
+    const auto row = [](const char* name, const char* qml, QList<int> keys, const char* log) {
+      QTest::newRow(name) << QString::fromUtf8(qml) << keys << QString::fromUtf8(log);
+    };
+    using namespace Qt;
+    for (const int key : {Key_Space, Key_Return, Key_Enter}) {
+      row("button", "Button { text: 'A'; onClicked: log('clicked') }", {Key_Tab, key}, "clicked");
+      row("checkable button", "Button { text: 'A'; checkable: true; onClicked: log(checked) }",
+          {Key_Tab, key}, "true");
+      row("switch", "Switch { accessibleName: 'A'; onToggled: log(checked) }", {Key_Tab, key, key},
+          "true false");
+      row("check box", "CheckBox { text: 'A'; onToggled: log(checked) }", {Key_Tab, key, key},
+          "true false");
+      row("row", "ListRow { text: 'A'; onClicked: log('chosen') }", {Key_Tab, key}, "chosen");
+      row("selection mark", "SelectionMark { onClicked: log('clicked') }", {Key_Tab, key},
+          "clicked");
+      row("pop-up picker",
+          "PopUpPicker { options: [PickerOption { text: 'A' }, PickerOption { text: 'B' }]\n"
+          "  onActivated: index => log(index) }",
+          {Key_Tab, key, Key_Down, key}, "1");
+      row("menu button",
+          "MenuButton { text: 'A'; menu: Menu { MenuItem { text: 'B'; onTriggered: log('B') } } }",
+          {Key_Tab, key, Key_Down, key}, "B");
+    }
+    row("segmented picker",
+        "SegmentedPicker { options: [PickerOption { text: 'A' }, PickerOption { text: 'B' }]\n"
+        "  onActivated: index => { log(index); currentIndex = index } }",
+        {Key_Tab, Key_Left, Key_Right, Key_Right, Key_Left}, "1 0");
+    row("slider", "Slider { accessibleName: 'A'; stepSize: 0.25; value: 0.5; onMoved: log(value) }",
+        {Key_Tab, Key_Right, Key_Left, Key_Left}, "0.75 0.5 0.25");
+    row("shades",
+        "ShadeField { width: 99; hue: 0; saturation: 0.5; brightness: 0.9\n"
+        "  onMoved: (s, b) => log(s.toFixed(2) + '/' + b.toFixed(2)) }",
+        {Key_Tab, Key_Right, Key_Up}, "0.51/0.90 0.50/0.91");
+    row("scopes",
+        "ScopeBar { options: [PickerOption { text: 'A' }, PickerOption { text: 'B' }]\n"
+        "  onActivated: index => log(index) }",
+        {Key_Tab, Key_Space, Key_Tab, Key_Space}, "1");
+    row("divider",
+        "SplitView { anchors.fill: parent\n"
+        "  Item { SplitView.preferredWidth: 100; SplitView.minimumWidth: 75\n"
+        "    onWidthChanged: log(width) }\n"
+        "  Item { SplitView.fillWidth: true } }",
+        {Key_Tab, Key_Left, Key_Left, Key_Right}, "100 91");
+    row("field", "TextField { onAccepted: log(text) }", {Key_Tab, Key_A, Key_Return}, "a");
+    row("search", "SearchField { onTextEdited: log(text || 'cleared') }",
+        {Key_Tab, Key_A, Key_Escape, Key_Escape}, "a cleared");
+    row("text area is left by Tab",
+        "Column { TextArea { onEdited: log(text) }\nButton { text: 'A'; onClicked: log('clicked') "
+        "} "
+        "}",
+        {Key_Tab, Key_A, Key_Tab, Key_Space}, "a clicked");
+  }
 
-void TestKeyboard::theMenuBarOpensByF10() {
-  Stage stage(
-      "MenuBar { Menu { title: 'File'; MenuItem { text: 'New'; onTriggered: log(text) } }\n"
-      "Menu { title: 'Edit'; MenuItem { text: 'Undo'; onTriggered: log(text) }\n"
-      "MenuItem { text: 'Redo'; onTriggered: log(text) } } }");
-  stage.press(Qt::Key_F10);
-  QTest::qWait(150);
-  stage.press(Qt::Key_Right);
-  QTest::qWait(150);
-  stage.press(Qt::Key_Down);
-  stage.press(Qt::Key_Down);
-  stage.press(Qt::Key_Return);
-  QTRY_COMPARE(stage.log(), QStringLiteral("Redo"));
-}
+  void keysDo() {
+    QFETCH(QString, qml);
+    QFETCH(QList<int>, keys);
+    QFETCH(QString, log);
+    Stage stage(qml);
+    QVERIFY(stage.ready());
+    for (const int key : keys) stage.press(key);
+    QTRY_COMPARE(stage.log(), log);
+  }
 
-void TestKeyboard::escapeWhileASubMenuFadesClosesItsParent() {
-  Stage stage(menus);
-  stage.press(Qt::Key_Tab);
-  stage.press(Qt::Key_Space);
-  QTRY_VERIFY(stage.find("menu")->property("opened").toBool());
-  stage.press(Qt::Key_B);
-  stage.press(Qt::Key_Right);
-  QTRY_VERIFY(stage.find("background")->property("opened").toBool());
-  stage.press(Qt::Key_Escape);
-  QVERIFY(stage.find("menu")->property("opened").toBool());
-  stage.press(Qt::Key_Escape);
-  QVERIFY(!stage.find("menu")->property("opened").toBool());
-  QCOMPARE(stage.focused(), QStringLiteral("opener"));
-  QTRY_VERIFY(!stage.find("menu")->property("visible").toBool());
-  QCOMPARE(stage.focused(), QStringLiteral("opener"));
-}
+  void theRingShowsForTheKeyboardAlone() {
+    Stage stage(
+        "Row { TextField { objectName: 'field'; focus: true }\n"
+        "Button { objectName: 'button'; text: 'A'; onClicked: log('clicked') } }");
+    auto* button = stage.find<QQuickItem>("button");
+    stage.click(button);
+    QCOMPARE(stage.log(), "clicked");
+    QVERIFY(!button->property("visualFocus").toBool());
+    QCOMPARE(stage.focused(), "field");  // a click leaves the focus where it was
+    stage.press(Qt::Key_Tab);
+    QVERIFY(button->property("visualFocus").toBool());
+  }
 
-void TestKeyboard::aMenuOpenedAndClosedQuicklyKeepsTheFocus() {
-  Stage stage(menus);
-  stage.press(Qt::Key_Tab);
-  for (int i = 0; i < 3; ++i) {
+  void aSheetKeepsTheFocusAndGivesItBack() {
+    Stage stage(sheet);
+    stage.press(Qt::Key_Tab);
+    QCOMPARE(stage.focused(), "opener");
     stage.press(Qt::Key_Space);
-    QVERIFY(stage.focused() != QStringLiteral("opener"));
+    QTRY_COMPARE(stage.focused(), "name");
+    for (const char* next : {"cancel", "create", "name", "cancel"}) {
+      stage.press(Qt::Key_Tab);
+      QCOMPARE(stage.focused(), QString::fromLatin1(next));
+    }
+    stage.press(Qt::Key_Backtab, Qt::ShiftModifier);
+    stage.press(Qt::Key_Backtab, Qt::ShiftModifier);
+    QCOMPARE(stage.focused(), "create");
     stage.press(Qt::Key_Escape);
-    QCOMPARE(stage.focused(), QStringLiteral("opener"));
+    QTRY_COMPARE(stage.focused(), "opener");
   }
-  stage.press(Qt::Key_Space);
-  QTRY_VERIFY(stage.find("menu")->property("opened").toBool());
-  stage.press(Qt::Key_Down);
-  stage.press(Qt::Key_Return);
-  QTRY_COMPARE(stage.log(), QStringLiteral("Duplicate"));
-  QCOMPARE(stage.focused(), QStringLiteral("opener"));
-}
 
-void TestKeyboard::aSecondClickClosesTheMenuOfAButton() {
-  Stage stage(
-      "MenuButton { objectName: 'opener'; text: 'A'\n"
-      "  menu: Menu { MenuItem { text: 'B'; onTriggered: log(text) } } }");
-  auto* opener = stage.find<QQuickItem>("opener");
-  for (const bool open : {true, false, true}) {
-    stage.click(opener);
-    QTRY_COMPARE(opener->property("open").toBool(), open);
+  void aSheetAnswersReturnAndEscape() {
+    const Cases<QList<int>, QString> cases{
+        {"return in the field", QList<int>{Qt::Key_Return}, "accepted create closed"},
+        {"escape", QList<int>{Qt::Key_Escape}, "cancel closed"},
+        {"return on cancel", QList<int>{Qt::Key_Tab, Qt::Key_Return}, "cancel closed"},
+        {"space on create", QList<int>{Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Space}, "create closed"}};
+    cases.check([&](const QList<int>& keys, const QString& log) {
+      Stage stage(sheet);
+      stage.press(Qt::Key_Tab);
+      stage.press(Qt::Key_Space);
+      QTRY_COMPARE(stage.focused(), "name");
+      for (const int key : keys) stage.press(key);
+      QTRY_COMPARE(stage.log(), log);
+    });
   }
-}
 
-void TestKeyboard::aPopoverGivesTheFocusBack() {
-  Stage stage(
-      "ColorWell { objectName: 'well'; accessibleName: 'Tint'; color: '#336699'\n"
-      "  onPicked: color => log(color) }");
-  stage.press(Qt::Key_Tab);
-  stage.press(Qt::Key_Space);
-  QTRY_VERIFY(stage.focused() != QStringLiteral("well"));
-  stage.press(Qt::Key_Right, Qt::ShiftModifier);
-  QTRY_VERIFY(!stage.log().isEmpty());
-  stage.press(Qt::Key_Escape);
-  QTRY_COMPARE(stage.focused(), QStringLiteral("well"));
-}
+  void aDialogAnswersOnce() {
+    using namespace Qt;
+    const QString cancelling = "cancelIsDefault: true";
+    const QString third = "alternativeText: 'Try Again'";
+    const Cases<QString, QList<int>, QString> cases{
+        {"return confirms", "", QList<int>{Key_Return}, "confirmed"},
+        {"escape dismisses", "", QList<int>{Key_Escape}, "dismissed"},
+        {"return cancels", cancelling, QList<int>{Key_Return}, "dismissed"},
+        {"past cancel", cancelling, QList<int>{Key_Tab, Key_Tab, Key_Space}, "confirmed"},
+        {"a third button", third, QList<int>{Key_Tab, Key_Space}, "other"},
+        {"past the third", third, QList<int>{Key_Return}, "confirmed"}};
+    cases.check([&](const QString& kind, const QList<int>& keys, const QString& log) {
+      Stage stage(QString("ConfirmationDialog { objectName: 'dialog'; title: 'Really?'; %1\n"
+                          "  onConfirmed: log('confirmed'); onDismissed: log('dismissed')\n"
+                          "  onAlternativeChosen: log('other') }")
+                      .arg(kind));
+      for (const QString& sofar : {log, log + ' ' + log}) {
+        QMetaObject::invokeMethod(stage.find("dialog"), "open");
+        QTRY_VERIFY(stage.find("dialog")->property("opened").toBool());
+        for (const int key : keys) stage.press(key);
+        QTRY_COMPARE(stage.log(), sofar);
+      }
+    });
+  }
 
-void TestKeyboard::aSheetOpenedFromAMenuGivesTheFocusBack() {
-  Stage stage(
-      "MenuButton { objectName: 'opener'; text: 'A'\n"
-      "  menu: Menu { MenuItem { text: 'Rename'; onTriggered: naming.open() } } }\n"
-      "Sheet { id: naming; TextField { objectName: 'name'; focus: true } }");
-  stage.press(Qt::Key_Tab);
-  stage.press(Qt::Key_Space);
-  QTest::qWait(200);
-  stage.press(Qt::Key_Down);
-  stage.press(Qt::Key_Return);
-  QTRY_COMPARE(stage.focused(), QStringLiteral("name"));
-  QTest::qWait(400);  // the menu has gone by now, and leaves the sheet its focus
-  QCOMPARE(stage.focused(), QStringLiteral("name"));
-  stage.press(Qt::Key_Escape);
-  QTRY_COMPARE(stage.focused(), QStringLiteral("opener"));
-}
+  void aMenuGoesByArrowsAndLetters() {
+    using namespace Qt;
+    const Cases<QList<int>, QString> cases{
+        {"down", QList<int>{Key_Down, Key_Return}, "Duplicate"},
+        {"past what tells", QList<int>{Key_Down, Key_Down, Key_Return}, "Delete"},
+        {"back up", QList<int>{Key_Down, Key_Down, Key_Up, Key_Return}, "Duplicate"},
+        {"second of a letter", QList<int>{Key_D, Key_D, Key_Return}, "Delete"},
+        {"space", QList<int>{Key_D, Key_Space}, "Duplicate"},
+        {"tab", QList<int>{Key_Tab, Key_Tab, Key_Return}, "Delete"},
+        {"tab goes round", QList<int>{Key_Tab, Key_Tab, Key_Tab, Key_Tab, Key_Return}, "Duplicate"},
+        {"back by tab", QList<int>{Key_Backtab, Key_Backtab, Key_Return}, "Delete"},
+        {"home", QList<int>{Key_D, Key_D, Key_Home, Key_Return}, "Duplicate"},
+        {"end", QList<int>{Key_End, Key_Up, Key_Return}, "Delete"}};
+    cases.check([&](const QList<int>& keys, const QString& log) {
+      Stage stage(menus);
+      stage.press(Qt::Key_Tab);
+      stage.press(Qt::Key_Space);
+      QTRY_VERIFY(stage.find("menu")->property("opened").toBool());
+      for (const int key : keys) stage.press(key);
+      QTRY_COMPARE(stage.log(), log);
+    });
+  }
 
-void TestKeyboard::disabledControlsAreSkipped() {
-  Stage stage(
-      "Row { Button { text: 'A'; enabled: false; objectName: 'off' }\n"
-      "SegmentedPicker { enabled: false; objectName: 'off too' }\n"
-      "Button { text: 'B'; objectName: 'on' } }");
-  stage.press(Qt::Key_Tab);
-  QCOMPARE(stage.focused(), QStringLiteral("on"));
-}
+  void aSubMenuOpensByArrows() {
+    Stage stage(menus);
+    stage.press(Qt::Key_Tab);
+    stage.press(Qt::Key_Space);
+    QTRY_VERIFY(stage.find("menu")->property("opened").toBool());
+    stage.press(Qt::Key_B);
+    stage.press(Qt::Key_Right);
+    QTest::qWait(150);
+    stage.press(Qt::Key_Down);
+    stage.press(Qt::Key_Return);
+    QTRY_COMPARE(stage.log(), "Dark");
+  }
 
-void TestKeyboard::anAmpersandIsALetter() {
-  Stage stage("ListRow { text: 'R&D'; onClicked: log('pressed') }");
-  stage.press(Qt::Key_D, Qt::AltModifier);
-  QTest::qWait(50);
-  QCOMPARE(stage.log(), QString());
-}
+  void theMenuBarOpensByF10() {
+    Stage stage(
+        "MenuBar { Menu { title: 'File'; MenuItem { text: 'New'; onTriggered: log(text) } }\n"
+        "Menu { title: 'Edit'; MenuItem { text: 'Undo'; onTriggered: log(text) }\n"
+        "MenuItem { text: 'Redo'; onTriggered: log(text) } } }");
+    stage.press(Qt::Key_F10);
+    QTest::qWait(150);
+    stage.press(Qt::Key_Right);
+    QTest::qWait(150);
+    stage.press(Qt::Key_Down);
+    stage.press(Qt::Key_Down);
+    stage.press(Qt::Key_Return);
+    QTRY_COMPARE(stage.log(), "Redo");
+  }
+
+  void escapeWhileASubMenuFadesClosesItsParent() {
+    Stage stage(menus);
+    stage.press(Qt::Key_Tab);
+    stage.press(Qt::Key_Space);
+    QTRY_VERIFY(stage.find("menu")->property("opened").toBool());
+    stage.press(Qt::Key_B);
+    stage.press(Qt::Key_Right);
+    QTRY_VERIFY(stage.find("background")->property("opened").toBool());
+    stage.press(Qt::Key_Escape);
+    QVERIFY(stage.find("menu")->property("opened").toBool());
+    stage.press(Qt::Key_Escape);
+    QVERIFY(!stage.find("menu")->property("opened").toBool());
+    QCOMPARE(stage.focused(), "opener");
+    QTRY_VERIFY(!stage.find("menu")->property("visible").toBool());
+    QCOMPARE(stage.focused(), "opener");
+  }
+
+  void aMenuOpenedAndClosedQuicklyKeepsTheFocus() {
+    Stage stage(menus);
+    stage.press(Qt::Key_Tab);
+    for (int i = 0; i < 3; ++i) {
+      stage.press(Qt::Key_Space);
+      QVERIFY(stage.focused() != "opener");
+      stage.press(Qt::Key_Escape);
+      QCOMPARE(stage.focused(), "opener");
+    }
+    stage.press(Qt::Key_Space);
+    QTRY_VERIFY(stage.find("menu")->property("opened").toBool());
+    stage.press(Qt::Key_Down);
+    stage.press(Qt::Key_Return);
+    QTRY_COMPARE(stage.log(), "Duplicate");
+    QCOMPARE(stage.focused(), "opener");
+  }
+
+  void aSecondClickClosesTheMenuOfAButton() {
+    Stage stage(
+        "MenuButton { objectName: 'opener'; text: 'A'\n"
+        "  menu: Menu { MenuItem { text: 'B'; onTriggered: log(text) } } }");
+    auto* opener = stage.find<QQuickItem>("opener");
+    for (const bool open : {true, false, true}) {
+      stage.click(opener);
+      QTRY_COMPARE(opener->property("open").toBool(), open);
+    }
+  }
+
+  void aPopoverGivesTheFocusBack() {
+    Stage stage(
+        "ColorWell { objectName: 'well'; accessibleName: 'Tint'; color: '#336699'\n"
+        "  onPicked: color => log(color) }");
+    stage.press(Qt::Key_Tab);
+    stage.press(Qt::Key_Space);
+    QTRY_VERIFY(stage.focused() != "well");
+    stage.press(Qt::Key_Right, Qt::ShiftModifier);
+    QTRY_VERIFY(!stage.log().isEmpty());
+    stage.press(Qt::Key_Escape);
+    QTRY_COMPARE(stage.focused(), "well");
+  }
+
+  void aSheetOpenedFromAMenuGivesTheFocusBack() {
+    Stage stage(
+        "MenuButton { objectName: 'opener'; text: 'A'\n"
+        "  menu: Menu { MenuItem { text: 'Rename'; onTriggered: naming.open() } } }\n"
+        "Sheet { id: naming; TextField { objectName: 'name'; focus: true } }");
+    stage.press(Qt::Key_Tab);
+    stage.press(Qt::Key_Space);
+    QTest::qWait(200);
+    stage.press(Qt::Key_Down);
+    stage.press(Qt::Key_Return);
+    QTRY_COMPARE(stage.focused(), "name");
+    QTest::qWait(400);  // the menu has gone by now, and leaves the sheet its focus
+    QCOMPARE(stage.focused(), "name");
+    stage.press(Qt::Key_Escape);
+    QTRY_COMPARE(stage.focused(), "opener");
+  }
+
+  void disabledControlsAreSkipped() {
+    Stage stage(
+        "Row { Button { text: 'A'; enabled: false; objectName: 'off' }\n"
+        "SegmentedPicker { enabled: false; objectName: 'off too' }\n"
+        "Button { text: 'B'; objectName: 'on' } }");
+    stage.press(Qt::Key_Tab);
+    QCOMPARE(stage.focused(), "on");
+  }
+
+  void anAmpersandIsALetter() {
+    Stage stage("ListRow { text: 'R&D'; onClicked: log('pressed') }");
+    stage.press(Qt::Key_D, Qt::AltModifier);
+    QTest::qWait(50);
+    QCOMPARE(stage.log(), QString());
+  }
+};
 
 QTEST_MAIN(TestKeyboard)
 #include "tst_keyboard.moc"

@@ -1,4 +1,5 @@
 #include "Stage.h"
+#include "testing/Cases.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -11,35 +12,12 @@ Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
 
 using namespace tarnloft;
 
-// Wheel, hover and clicks.
-class TestPointer : public QObject {
-  Q_OBJECT
-
- private slots:
-  void aNotchGlides();
-  void aTouchpadMovesByPixels();
-  void theWheelGoesOnAtTheEnd();
-  void aDragOfTheMouseScrollsNothing();
-  void focusIsScrolledIntoView();
-  void helpComesAfterAWhile();
-  void aFieldAtRestShowsItsBeginning();
-  void aRightClickOpensTheContextMenu_data();
-  void aRightClickOpensTheContextMenu();
-  void aMouseTakenForATouchpadHasItsButtons();
-  void textItemsHaveAMenu_data();
-  void textItemsHaveAMenu();
-  void aClickOutsideLeavesASheet();
-  void aToastComesAndGoes();
-  void aClickChoosesASegment();
-  void theColorPanelRemembersTheHueOfGrey();
-};
-
 namespace {
 
-const QString area = QStringLiteral(
+const QString area =
     "ScrollArea { objectName: 'area'; width: 200; height: 100\n"
     "  Column { Repeater { model: 10; Button { required property int index; height: 50\n"
-    "    text: 'B' + index; objectName: text; onClicked: log(text) } } } }");
+    "    text: 'B' + index; objectName: text; onClicked: log(text) } } } }";
 
 void wheel(Stage& stage, const QPoint& pixels, int notches) {
   const QPointF place(100, 50);
@@ -52,224 +30,220 @@ qreal scrolled(const Stage& stage) { return stage.find("area")->property("conten
 
 }  // namespace
 
-void TestPointer::aNotchGlides() {
-  Stage stage(area);
-  wheel(stage, {}, -1);
-  QVERIFY(scrolled(stage) < 84);
-  wheel(stage, {}, -1);
-  QTRY_COMPARE(scrolled(stage), 168.0);
-  wheel(stage, {}, 20);
-  QTRY_COMPARE(scrolled(stage), 0.0);
-}
+// Wheel, hover and clicks.
+class TestPointer : public QObject {
+  Q_OBJECT
 
-void TestPointer::aTouchpadMovesByPixels() {
-  Stage stage(area);
-  wheel(stage, {0, -13}, 0);
-  QCOMPARE(scrolled(stage), 13.0);
-  wheel(stage, {0, -4000}, 0);
-  QCOMPARE(scrolled(stage), 400.0);
-}
+ private slots:
+  void aNotchGlides() {
+    Stage stage(area);
+    wheel(stage, {}, -1);
+    QVERIFY(scrolled(stage) < 84);
+    wheel(stage, {}, -1);
+    QTRY_COMPARE(scrolled(stage), 168.0);
+    wheel(stage, {}, 20);
+    QTRY_COMPARE(scrolled(stage), 0.0);
+  }
 
-void TestPointer::theWheelGoesOnAtTheEnd() {
-  Stage stage(
-      QStringLiteral("ScrollArea { objectName: 'area'; width: 200; height: 100\n"
-                     "  Column { TextEditor { width: 200; height: 100; text: 'a\\nb' } Item { "
-                     "width: 9; height: 300 } } }"));
-  wheel(stage, {0, -30}, 0);
-  QCOMPARE(scrolled(stage), 30.0);
-}
+  void aTouchpadMovesByPixels() {
+    Stage stage(area);
+    wheel(stage, {0, -13}, 0);
+    QCOMPARE(scrolled(stage), 13.0);
+    wheel(stage, {0, -4000}, 0);
+    QCOMPARE(scrolled(stage), 400.0);
+  }
 
-void TestPointer::aDragOfTheMouseScrollsNothing() {
-  Stage stage(area);
-  QTest::mousePress(stage.window(), Qt::LeftButton, {}, {150, 90});
-  for (int y = 85; y > 10; y -= 5) QTest::mouseMove(stage.window(), {150, y});
-  QTest::mouseRelease(stage.window(), Qt::LeftButton, {}, {150, 10});
-  QCOMPARE(scrolled(stage), 0.0);
-}
+  void theWheelGoesOnAtTheEnd() {
+    Stage stage(
+        "ScrollArea { objectName: 'area'; width: 200; height: 100\n"
+        "  Column { TextEditor { width: 200; height: 100; text: 'a\\nb' } Item { "
+        "width: 9; height: 300 } } }");
+    wheel(stage, {0, -30}, 0);
+    QCOMPARE(scrolled(stage), 30.0);
+  }
 
-void TestPointer::focusIsScrolledIntoView() {
-  Stage stage(area);
-  for (int i = 0; i < 6; ++i) stage.press(Qt::Key_Tab);
-  QCOMPARE(stage.focused(), QStringLiteral("B5"));
-  QVERIFY(scrolled(stage) >= 200);
-  for (int i = 0; i < 5; ++i) stage.press(Qt::Key_Backtab, Qt::ShiftModifier);
-  QCOMPARE(scrolled(stage), 0.0);
-}
+  void aDragOfTheMouseScrollsNothing() {
+    Stage stage(area);
+    QTest::mousePress(stage.window(), Qt::LeftButton, {}, {150, 90});
+    for (int y = 85; y > 10; y -= 5) QTest::mouseMove(stage.window(), {150, y});
+    QTest::mouseRelease(stage.window(), Qt::LeftButton, {}, {150, 10});
+    QCOMPARE(scrolled(stage), 0.0);
+  }
 
-void TestPointer::helpComesAfterAWhile() {
-  Stage stage(QStringLiteral(
-      "Rectangle { objectName: 'thing'; width: 50; height: 50\n"
-      "  Help { objectName: 'help'; delay: 10; below: 30; text: 'Drag to reorder' } }"));
-  const auto tip = [&stage] { return stage.find("help")->property("tip").value<QObject*>(); };
-  QTest::mouseMove(stage.window(), {20, 20});
-  QTRY_VERIFY(tip() && tip()->property("opened").toBool());
-  QCOMPARE(tip()->property("text").toString(), QStringLiteral("Drag to reorder"));
-  QCOMPARE(tip()->property("y").toInt(), 50 + 30 + 6);  // beneath what belongs to the thing
-  QTest::mouseMove(stage.window(), {300, 300});
-  QTRY_VERIFY(!tip());
-  stage.find("thing")->setProperty("y", 400);  // where there is no room beneath
-  QTest::mouseMove(stage.window(), {20, 420});
-  QTRY_VERIFY(tip() && tip()->property("opened").toBool());
-  QCOMPARE(tip()->property("y").toInt() + tip()->property("height").toInt(), -6);
-  QTest::mouseMove(stage.window(), {300, 300});
-  QTRY_VERIFY(!tip());
-  stage.find("thing")->setProperty("y", 0);
-  // Who has pressed the thing needs no telling.
-  QTest::mouseMove(stage.window(), {20, 20});
-  QTest::mouseClick(stage.window(), Qt::LeftButton, {}, {20, 20});
-  QTest::qWait(100);
-  QVERIFY(!tip());
-  QTest::mouseMove(stage.window(), {300, 300});
-  QTest::mouseMove(stage.window(), {20, 20});
-  QTRY_VERIFY(tip());
-}
+  void focusIsScrolledIntoView() {
+    Stage stage(area);
+    for (int i = 0; i < 6; ++i) stage.press(Qt::Key_Tab);
+    QCOMPARE(stage.focused(), "B5");
+    QVERIFY(scrolled(stage) >= 200);
+    for (int i = 0; i < 5; ++i) stage.press(Qt::Key_Backtab, Qt::ShiftModifier);
+    QCOMPARE(scrolled(stage), 0.0);
+  }
 
-void TestPointer::aFieldAtRestShowsItsBeginning() {
-  Stage stage(
-      QStringLiteral("Column { TextField { objectName: 'field'; width: 80; activeFocusOnTab: true\n"
-                     "  text: 'A name that is much longer than its field' } }"));
-  auto* field = stage.find<QQuickItem>("field");
-  const auto first = [field] {
-    const QVariant left =
-        QQmlExpression(qmlContext(field), field, "positionAt(leftPadding)").evaluate();
-    return left.toInt();
-  };
-  QCOMPARE(first(), 0);
-  stage.press(Qt::Key_Tab);
-  stage.press(Qt::Key_End);
-  QVERIFY(first() > 10);
-  stage.press(Qt::Key_Tab);
-  field->setFocus(false);
-  QCOMPARE(first(), 0);
-}
+  void helpComesAfterAWhile() {
+    Stage stage(
+        "Rectangle { objectName: 'thing'; width: 50; height: 50\n"
+        "  Help { objectName: 'help'; delay: 10; below: 30; text: 'Drag to reorder' } }");
+    const auto tip = [&stage] { return stage.find("help")->property("tip").value<QObject*>(); };
+    QTest::mouseMove(stage.window(), {20, 20});
+    QTRY_VERIFY(tip() && tip()->property("opened").toBool());
+    QCOMPARE(tip()->property("text").toString(), "Drag to reorder");
+    QCOMPARE(tip()->property("y").toInt(), 50 + 30 + 6);  // beneath what belongs to the thing
+    QTest::mouseMove(stage.window(), {300, 300});
+    QTRY_VERIFY(!tip());
+    stage.find("thing")->setProperty("y", 400);  // where there is no room beneath
+    QTest::mouseMove(stage.window(), {20, 420});
+    QTRY_VERIFY(tip() && tip()->property("opened").toBool());
+    QCOMPARE(tip()->property("y").toInt() + tip()->property("height").toInt(), -6);
+    QTest::mouseMove(stage.window(), {300, 300});
+    QTRY_VERIFY(!tip());
+    stage.find("thing")->setProperty("y", 0);
+    // Who has pressed the thing needs no telling.
+    QTest::mouseMove(stage.window(), {20, 20});
+    QTest::mouseClick(stage.window(), Qt::LeftButton, {}, {20, 20});
+    QTest::qWait(100);
+    QVERIFY(!tip());
+    QTest::mouseMove(stage.window(), {300, 300});
+    QTest::mouseMove(stage.window(), {20, 20});
+    QTRY_VERIFY(tip());
+  }
 
-void TestPointer::aRightClickOpensTheContextMenu_data() {
-  QTest::addColumn<QString>("qml");
-  const QString tile = QStringLiteral(
-      "Rectangle { objectName: 'tile'; width: 100; height: 100; activeFocusOnTab: true\n"
-      "  ContextMenuArea { objectName: 'area'; onRequested: log('requested')\n"
-      "    menu: Menu { MenuItem { text: 'Delete'; onTriggered: log('Delete') } } } }");
-  QTest::newRow("alone") << tile;
-  QTest::newRow("of a delegate") << QStringLiteral("Repeater { model: 1; delegate: %1 }").arg(tile);
-}
+  void aFieldAtRestShowsItsBeginning() {
+    Stage stage(
+        "Column { TextField { objectName: 'field'; width: 80; activeFocusOnTab: true\n"
+        "  text: 'A name that is much longer than its field' } }");
+    auto* field = stage.find<QQuickItem>("field");
+    const auto first = [field] {
+      const QVariant left =
+          QQmlExpression(qmlContext(field), field, "positionAt(leftPadding)").evaluate();
+      return left.toInt();
+    };
+    QCOMPARE(first(), 0);
+    stage.press(Qt::Key_Tab);
+    stage.press(Qt::Key_End);
+    QVERIFY(first() > 10);
+    stage.press(Qt::Key_Tab);
+    field->setFocus(false);
+    QCOMPARE(first(), 0);
+  }
 
-void TestPointer::aRightClickOpensTheContextMenu() {
-  QFETCH(QString, qml);
-  Stage stage(qml);
-  auto* tile = stage.find<QQuickItem>("tile");
-  const auto menuIsOpen = [tile] {
-    const auto* area = tile->findChild<QObject*>(QStringLiteral("area"));
-    return area->property("opened").value<QObject*>()->property("visible").toBool();
-  };
-  stage.click(tile, Qt::RightButton);
-  QCOMPARE(stage.log(), QStringLiteral("requested"));
-  QTRY_VERIFY(menuIsOpen());
-  stage.press(Qt::Key_Down);
-  stage.press(Qt::Key_Return);
-  QTRY_COMPARE(stage.log(), QStringLiteral("requested Delete"));
-  QTRY_VERIFY(!menuIsOpen());
-  stage.press(Qt::Key_Tab);
-  stage.press(Qt::Key_F10, Qt::ShiftModifier);
-  QTRY_COMPARE(stage.log(), QStringLiteral("requested Delete requested"));
-}
+  void aRightClickOpensTheContextMenu() {
+    const QString piece =
+        "Rectangle { objectName: 'tile'; width: 100; height: 100; activeFocusOnTab: true\n"
+        "  ContextMenuArea { objectName: 'area'; onRequested: log('requested')\n"
+        "    menu: Menu { MenuItem { text: 'Delete'; onTriggered: log('Delete') } } } }";
+    const Cases<QString> cases{
+        {"alone", piece},
+        {"of a delegate", QString("Repeater { model: 1; delegate: %1 }").arg(piece)}};
+    cases.check([&](const QString& qml) {
+      Stage stage(qml);
+      auto* tile = stage.find<QQuickItem>("tile");
+      const auto menuIsOpen = [tile] {
+        const auto* area = tile->findChild<QObject*>("area");
+        return area->property("opened").value<QObject*>()->property("visible").toBool();
+      };
+      stage.click(tile, Qt::RightButton);
+      QCOMPARE(stage.log(), "requested");
+      QTRY_VERIFY(menuIsOpen());
+      stage.press(Qt::Key_Down);
+      stage.press(Qt::Key_Return);
+      QTRY_COMPARE(stage.log(), "requested Delete");
+      QTRY_VERIFY(!menuIsOpen());
+      stage.press(Qt::Key_Tab);
+      stage.press(Qt::Key_F10, Qt::ShiftModifier);
+      QTRY_COMPARE(stage.log(), "requested Delete requested");
+    });
+  }
 
-void TestPointer::aMouseTakenForATouchpadHasItsButtons() {
-  using Capability = QInputDevice::Capability;
-  const QPointingDevice pad("touchpad", 1, QInputDevice::DeviceType::TouchPad,
-                            QPointingDevice::PointerType::Finger,
-                            Capability::Position | Capability::MouseEmulation, 1, 3);
-  Stage stage(
-      QStringLiteral("TextArea { objectName: 'field'; text: 'Acme'; width: 200\n"
-                     "  ContextMenuArea { onRequested: log('menu'); menu: Menu {} } }"));
-  const QPointF place(20, 10);
-  for (const auto button : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton}) {
-    QCOMPARE(stage.log(), QString());
-    QCOMPARE(stage.find<QQuickItem>("field")->hasActiveFocus(), button != Qt::LeftButton);
-    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-      const bool isDown = type == QEvent::MouseButtonPress;
-      QMouseEvent event(type, place, stage.window()->mapToGlobal(place), button,
-                        isDown ? button : Qt::NoButton, {}, &pad);
-      QCoreApplication::sendEvent(stage.window(), &event);
+  void aMouseTakenForATouchpadHasItsButtons() {
+    using Capability = QInputDevice::Capability;
+    const QPointingDevice pad("touchpad", 1, QInputDevice::DeviceType::TouchPad,
+                              QPointingDevice::PointerType::Finger,
+                              Capability::Position | Capability::MouseEmulation, 1, 3);
+    Stage stage(
+        "TextArea { objectName: 'field'; text: 'Acme'; width: 200\n"
+        "  ContextMenuArea { onRequested: log('menu'); menu: Menu {} } }");
+    const QPointF place(20, 10);
+    for (const auto button : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton}) {
+      QCOMPARE(stage.log(), QString());
+      QCOMPARE(stage.find<QQuickItem>("field")->hasActiveFocus(), button != Qt::LeftButton);
+      for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        const bool isDown = type == QEvent::MouseButtonPress;
+        QMouseEvent event(type, place, stage.window()->mapToGlobal(place), button,
+                          isDown ? button : Qt::NoButton, {}, &pad);
+        QCoreApplication::sendEvent(stage.window(), &event);
+      }
+    }
+    QCOMPARE(stage.log(), "menu");
+  }
+
+  void textItemsHaveAMenu() {
+    for (const bool byKeyboard : {false, true}) {
+      for (const char* type : {"TextField", "TextArea"}) {
+        Stage stage(type + QString(" { objectName: 'field'; text: 'Acme'; width: 200 }"));
+        auto* field = stage.find<QQuickItem>("field");
+        stage.press(Qt::Key_Tab);
+        QMetaObject::invokeMethod(field, "selectAll");
+        byKeyboard ? stage.press(Qt::Key_F10, Qt::ShiftModifier)
+                   : stage.click(field, Qt::RightButton);
+        QTRY_VERIFY2(!field->hasActiveFocus(), type);
+        stage.press(Qt::Key_C);  // Cut, and no letter of the text
+        stage.press(Qt::Key_Return);
+        QTRY_COMPARE(field->property("text").toString(), QString());
+        QTRY_VERIFY2(field->hasActiveFocus(), type);
+        QCOMPARE(QGuiApplication::clipboard()->text(), "Acme");
+      }
     }
   }
-  QCOMPARE(stage.log(), QStringLiteral("menu"));
-}
 
-void TestPointer::textItemsHaveAMenu_data() {
-  QTest::addColumn<QString>("type");
-  QTest::addColumn<bool>("byKeyboard");
-  for (const char* type : {"TextField", "TextArea"})
-    for (const bool byKeyboard : {false, true})
-      QTest::addRow("%s by %s", type, byKeyboard ? "keyboard" : "pointer")
-          << QString::fromLatin1(type) << byKeyboard;
-}
+  void aClickOutsideLeavesASheet() {
+    Stage stage(
+        "Button { objectName: 'under'; text: 'A'; onClicked: log('under') }\n"
+        "Sheet { objectName: 'sheet'; Item { width: 100; height: 100 } }");
+    QMetaObject::invokeMethod(stage.find("sheet"), "open");
+    QTRY_VERIFY(stage.find("sheet")->property("opened").toBool());
+    stage.click(stage.find<QQuickItem>("under"));
+    QVERIFY(stage.find("sheet")->property("opened").toBool());
+    QCOMPARE(stage.log(), QString());
+  }
 
-void TestPointer::textItemsHaveAMenu() {
-  QFETCH(QString, type);
-  QFETCH(bool, byKeyboard);
-  Stage stage(type + QStringLiteral(" { objectName: 'field'; text: 'Acme'; width: 200 }"));
-  auto* field = stage.find<QQuickItem>("field");
-  stage.press(Qt::Key_Tab);
-  QMetaObject::invokeMethod(field, "selectAll");
-  if (byKeyboard)
-    stage.press(Qt::Key_F10, Qt::ShiftModifier);
-  else
-    stage.click(field, Qt::RightButton);
-  QTRY_VERIFY(!field->hasActiveFocus());
-  stage.press(Qt::Key_C);  // Cut, and no letter of the text
-  stage.press(Qt::Key_Return);
-  QTRY_COMPARE(field->property("text").toString(), QString());
-  QTRY_VERIFY(field->hasActiveFocus());
-  QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("Acme"));
-}
+  void aToastComesAndGoes() {
+    Stage stage("Toast { objectName: 'toast'; message: '' }");
+    auto* toast = stage.find<QQuickItem>("toast");
+    QVERIFY(!toast->isVisible());
+    toast->setProperty("message", "Copied #4C6FFF");
+    QTRY_COMPARE(toast->opacity(), 1.0);
+    QCOMPARE(toast->y() + toast->height(), 500.0 - 24);
+    toast->setProperty("message", QString());
+    QTRY_VERIFY(!toast->isVisible());
+  }
 
-void TestPointer::aClickOutsideLeavesASheet() {
-  Stage stage(
-      QStringLiteral("Button { objectName: 'under'; text: 'A'; onClicked: log('under') }\n"
-                     "Sheet { objectName: 'sheet'; Item { width: 100; height: 100 } }"));
-  QMetaObject::invokeMethod(stage.find("sheet"), "open");
-  QTRY_VERIFY(stage.find("sheet")->property("opened").toBool());
-  stage.click(stage.find<QQuickItem>("under"));
-  QVERIFY(stage.find("sheet")->property("opened").toBool());
-  QCOMPARE(stage.log(), QString());
-}
+  void aClickChoosesASegment() {
+    Stage stage(
+        "SegmentedPicker { objectName: 'picker'; onActivated: index => log(index)\n"
+        "  options: [PickerOption { text: 'A' }, PickerOption { text: 'B' }] }");
+    const auto* picker = stage.find<QQuickItem>("picker");
+    for (const qreal share : {0.75, 0.25})
+      QTest::mouseClick(
+          stage.window(), Qt::LeftButton, {},
+          picker->mapToScene({picker->width() * share, picker->height() / 2}).toPoint());
+    QCOMPARE(stage.log(),
+             "1");  // the view has not stored it: the first is still on
+  }
 
-void TestPointer::aToastComesAndGoes() {
-  Stage stage(QStringLiteral("Toast { objectName: 'toast'; message: '' }"));
-  auto* toast = stage.find<QQuickItem>("toast");
-  QVERIFY(!toast->isVisible());
-  toast->setProperty("message", QStringLiteral("Copied #4C6FFF"));
-  QTRY_COMPARE(toast->opacity(), 1.0);
-  QCOMPARE(toast->y() + toast->height(), 500.0 - 24);
-  toast->setProperty("message", QString());
-  QTRY_VERIFY(!toast->isVisible());
-}
-
-void TestPointer::aClickChoosesASegment() {
-  Stage stage(
-      QStringLiteral("SegmentedPicker { objectName: 'picker'; onActivated: index => log(index)\n"
-                     "  options: [PickerOption { text: 'A' }, PickerOption { text: 'B' }] }"));
-  const auto* picker = stage.find<QQuickItem>("picker");
-  for (const qreal share : {0.75, 0.25})
-    QTest::mouseClick(
-        stage.window(), Qt::LeftButton, {},
-        picker->mapToScene({picker->width() * share, picker->height() / 2}).toPoint());
-  QCOMPARE(stage.log(), QStringLiteral("1"));  // the view has not stored it: the first is still on
-}
-
-void TestPointer::theColorPanelRemembersTheHueOfGrey() {
-  Stage stage(
-      QStringLiteral("ColorPanel { objectName: 'panel'; color: '#336699'\n"
-                     "  onPicked: picked => color = picked }"));
-  auto* panel = stage.find("panel");
-  const qreal hue = panel->property("hue").toReal();
-  QVERIFY(std::abs(hue - 210.0 / 360) < 0.01);
-  stage.eval(QStringLiteral("children[0].pick(children[0].hue, 0, 0.5)"));
-  QCOMPARE(panel->property("color").value<QColor>().name(), QStringLiteral("#808080"));
-  QCOMPARE(panel->property("hue").toReal(), hue);
-  stage.eval(QStringLiteral("children[0].pick(children[0].hue, 1, 1)"));
-  QCOMPARE(panel->property("color").value<QColor>().name(), QStringLiteral("#0080ff"));
-}
+  void theColorPanelRemembersTheHueOfGrey() {
+    Stage stage(
+        "ColorPanel { objectName: 'panel'; color: '#336699'\n"
+        "  onPicked: picked => color = picked }");
+    auto* panel = stage.find("panel");
+    const qreal hue = panel->property("hue").toReal();
+    QVERIFY(std::abs(hue - 210.0 / 360) < 0.01);
+    stage.eval("children[0].pick(children[0].hue, 0, 0.5)");
+    QCOMPARE(panel->property("color").value<QColor>().name(), "#808080");
+    QCOMPARE(panel->property("hue").toReal(), hue);
+    stage.eval("children[0].pick(children[0].hue, 1, 1)");
+    QCOMPARE(panel->property("color").value<QColor>().name(), "#0080ff");
+  }
+};
 
 QTEST_MAIN(TestPointer)
 #include "tst_pointer.moc"

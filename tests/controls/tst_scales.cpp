@@ -1,4 +1,5 @@
 #include "Stage.h"
+#include "testing/Cases.h"
 
 #include <QGuiApplication>
 
@@ -7,16 +8,6 @@
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
 
 using namespace tarnloft;
-
-// Rounded rectangles pixel by pixel; run at several scales of the screen and with both scene
-// graphs.
-class TestScales : public QObject {
-  Q_OBJECT
-
- private slots:
-  void edgesLieOnWholePixels_data();
-  void edgesLieOnWholePixels();
-};
 
 namespace {
 
@@ -55,56 +46,55 @@ int mostApart(const QImage& one, const QImage& other) {
 
 }  // namespace
 
-void TestScales::edgesLieOnWholePixels_data() {
-  QTest::addColumn<QRectF>("place");
-  QTest::addColumn<int>("radius");
-  QTest::addColumn<double>("edge");
-  QTest::addColumn<QColor>("edgeColor");
-  const QColor hairline(0, 0, 0, 40);
-  QTest::newRow("button") << QRectF(11, 7, 83, 28) << 6 << 1.0 << hairline;
-  QTest::newRow("small button") << QRectF(13, 9, 47, 22) << 5 << 1.0 << hairline;
-  QTest::newRow("card") << QRectF(31, 17, 150, 95) << 10 << 1.0 << hairline;
-  QTest::newRow("selected card") << QRectF(33, 19, 151, 97) << 10 << 3.0 << QColor(Qt::red);
-  QTest::newRow("capsule") << QRectF(21, 23, 131, 33) << 17 << 1.0 << hairline;
-  QTest::newRow("dot") << QRectF(15, 9, 17, 17) << 9 << 1.5 << QColor(Qt::black);
-  QTest::newRow("half a point off") << QRectF(10.5, 6.5, 83, 28) << 6 << 1.0 << hairline;
-}
+// Rounded rectangles pixel by pixel; run at several scales of the screen and with both scene
+// graphs.
+class TestScales : public QObject {
+  Q_OBJECT
 
-void TestScales::edgesLieOnWholePixels() {
-  QFETCH(QRectF, place);
-  QFETCH(int, radius);
-  QFETCH(double, edge);
-  QFETCH(QColor, edgeColor);
-  const QColor fill(76, 111, 255);
-  Stage stage(QStringLiteral("Rectangle { anchors.fill: parent; color: 'white'\n"
-                             "RoundedRectangle { x: %1; y: %2; width: %3; height: %4; radius: %5\n"
-                             "  color: '%6'; edgeWidth: %7; edgeColor: '%8' } }")
-                  .arg(place.x())
-                  .arg(place.y())
-                  .arg(place.width())
-                  .arg(place.height())
-                  .arg(radius)
-                  .arg(fill.name())
-                  .arg(edge)
-                  .arg(edgeColor.name(QColor::HexArgb)));
-  QVERIFY(stage.ready());
-  const QImage window = stage.window()->grabWindow().convertToFormat(QImage::Format_RGB32);
-  const qreal ratio = stage.window()->effectiveDevicePixelRatio();
-  const QRect found = content(window);
-  QVERIFY(std::abs(found.width() - place.width() * ratio) <= 1);
-  QVERIFY(std::abs(found.height() - place.height() * ratio) <= 1);
-  QVERIFY(std::abs(found.x() - place.x() * ratio) <= 1);
-  QVERIFY(std::abs(found.y() - place.y() * ratio) <= 1);
+ private slots:
+  void edgesLieOnWholePixels() {
+    const QColor hairline(0, 0, 0, 40);
+    const Cases<QRectF, int, double, QColor> cases{
+        {"button", QRectF(11, 7, 83, 28), 6, 1.0, hairline},
+        {"small button", QRectF(13, 9, 47, 22), 5, 1.0, hairline},
+        {"card", QRectF(31, 17, 150, 95), 10, 1.0, hairline},
+        {"selected card", QRectF(33, 19, 151, 97), 10, 3.0, QColor(Qt::red)},
+        {"capsule", QRectF(21, 23, 131, 33), 17, 1.0, hairline},
+        {"dot", QRectF(15, 9, 17, 17), 9, 1.5, QColor(Qt::black)},
+        {"half a point off", QRectF(10.5, 6.5, 83, 28), 6, 1.0, hairline}};
+    cases.check([&](const QRectF& place, int radius, double edge, const QColor& edgeColor) {
+      const QColor fill(76, 111, 255);
+      Stage stage(QString("Rectangle { anchors.fill: parent; color: 'white'\n"
+                          "RoundedRectangle { x: %1; y: %2; width: %3; height: %4; radius: %5\n"
+                          "  color: '%6'; edgeWidth: %7; edgeColor: '%8' } }")
+                      .arg(place.x())
+                      .arg(place.y())
+                      .arg(place.width())
+                      .arg(place.height())
+                      .arg(radius)
+                      .arg(fill.name())
+                      .arg(edge)
+                      .arg(edgeColor.name(QColor::HexArgb)));
+      QVERIFY(stage.ready());
+      const QImage window = stage.window()->grabWindow().convertToFormat(QImage::Format_RGB32);
+      const qreal ratio = stage.window()->effectiveDevicePixelRatio();
+      const QRect found = content(window);
+      QVERIFY(std::abs(found.width() - place.width() * ratio) <= 1);
+      QVERIFY(std::abs(found.height() - place.height() * ratio) <= 1);
+      QVERIFY(std::abs(found.x() - place.x() * ratio) <= 1);
+      QVERIFY(std::abs(found.y() - place.y() * ratio) <= 1);
 
-  const QImage shape = window.copy(found);
-  QVERIFY2(mostApart(shape, shape.mirrored(true, false)) <= 12, "left and right differ");
-  QVERIFY2(mostApart(shape, shape.mirrored(false, true)) <= 12, "above and below differ");
-  // Edge, fill, edge, and nothing blurred between, where the sides are straight.
-  if (place.height() > 2 * radius) QCOMPARE(bands(shape, Qt::Horizontal).size(), 3);
-  if (place.width() > 2 * radius) QCOMPARE(bands(shape, Qt::Vertical).size(), 3);
-  QCOMPARE(shape.pixelColor(shape.rect().center()), fill);
-  if (radius > 2) QVERIFY(shape.pixelColor(0, 0).lightness() > 240);
-}
+      const QImage shape = window.copy(found);
+      QVERIFY2(mostApart(shape, shape.mirrored(true, false)) <= 12, "left and right differ");
+      QVERIFY2(mostApart(shape, shape.mirrored(false, true)) <= 12, "above and below differ");
+      // Edge, fill, edge, and nothing blurred between, where the sides are straight.
+      if (place.height() > 2 * radius) QCOMPARE(bands(shape, Qt::Horizontal).size(), 3);
+      if (place.width() > 2 * radius) QCOMPARE(bands(shape, Qt::Vertical).size(), 3);
+      QCOMPARE(shape.pixelColor(shape.rect().center()), fill);
+      if (radius > 2) QVERIFY(shape.pixelColor(0, 0).lightness() > 240);
+    });
+  }
+};
 
 QTEST_MAIN(TestScales)
 #include "tst_scales.moc"

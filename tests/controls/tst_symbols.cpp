@@ -1,6 +1,7 @@
 #include "controls/symbols/SymbolFont.h"
 #include "controls/symbols/SymbolTable.h"
 #include "pictures/EmblemSymbols.h"
+#include "testing/Cases.h"
 
 #include <QFont>
 #include <QGuiApplication>
@@ -78,19 +79,15 @@ class SymbolsTest : public QObject {
              used.size() + 1);  // one for the unknown
   }
 
-  void otherNamesLeadToNone_data() {
-    QTest::addColumn<QString>("name");
-    for (const char* name : {"", "star", "Star.fill", "star.fil", "star.fill.", "star.fill ", "a",
-                             "zzz", "star-circle", "ａtom", "\xf0\x9f\x94\xa5"})
-      QTest::newRow(name) << QString::fromUtf8(name);
-  }
   void otherNamesLeadToNone() {
-    QFETCH(QString, name);
-    QVERIFY(!symbols::glyph(name));
+    for (const char* name : {"", "star", "Star.fill", "star.fil", "star.fill.", "star.fill ", "a",
+                             "zzz", "star-circle", "ａtom", "\xf0\x9f\x94\xa5"}) {
+      QVERIFY2(!symbols::glyph(QString::fromUtf8(name)), name);
+    }
   }
 
   void aNameMayBePartOfALongerText() {
-    const QString longer = QStringLiteral("(leaf.fill)");
+    const QString longer = "(leaf.fill)";
     QCOMPARE(symbols::glyph(QStringView(longer).mid(1, 9)), symbols::glyph(u"leaf.fill"));
     QVERIFY(!symbols::glyph(QStringView()));
   }
@@ -109,8 +106,7 @@ class SymbolsTest : public QObject {
     for (size_t i = 0; i < images.size(); ++i) {
       for (size_t j = 0; j < i; ++j) {
         const double apart = difference(images[i], images[j]);
-        const QString told =
-            QStringLiteral("%1, %2: %3").arg(text(names[i]), text(names[j])).arg(apart);
+        const QString told = QString("%1, %2: %3").arg(text(names[i]), text(names[j])).arg(apart);
         QVERIFY2(apart > 0.05, qPrintable(told));
       }
     }
@@ -125,26 +121,17 @@ class SymbolsTest : public QObject {
     }
   }
 
-  void mirroredNamesAreMirrored_data() {
-    QTest::addColumn<QString>("left");
-    QTest::addColumn<QString>("right");
-    QTest::newRow("chevrons") << "chevron.left"
-                              << "chevron.right";
-    QTest::newRow("transport") << "backward.fill"
-                               << "forward.fill";
-    QTest::newRow("laurels") << "laurel.leading"
-                             << "laurel.trailing";
-    QTest::newRow("pin, itself") << "pin.fill"
-                                 << "pin.fill";
-    QTest::newRow("ant, itself") << "ant.fill"
-                                 << "ant.fill";
-  }
   void mirroredNamesAreMirrored() {
-    QFETCH(QString, left);
-    QFETCH(QString, right);
-    const double apart =
-        difference(painted(glyphOf(left)).mirrored(true, false), painted(glyphOf(right)));
-    QVERIFY2(apart < 0.1, qPrintable(QString::number(apart)));
+    const Cases<QString, QString> cases{{"chevrons", "chevron.left", "chevron.right"},
+                                        {"transport", "backward.fill", "forward.fill"},
+                                        {"laurels", "laurel.leading", "laurel.trailing"},
+                                        {"pin, itself", "pin.fill", "pin.fill"},
+                                        {"ant, itself", "ant.fill", "ant.fill"}};
+    cases.check([&](const QString& left, const QString& right) {
+      const double apart =
+          difference(painted(glyphOf(left)).mirrored(true, false), painted(glyphOf(right)));
+      QVERIFY2(apart < 0.1, qPrintable(QString::number(apart)));
+    });
   }
 };
 

@@ -1,6 +1,7 @@
 #include "controls/motion/Spring.h"
 #include "controls/theme/Contrast.h"
 #include "controls/theme/Palette.h"
+#include "testing/Cases.h"
 
 #include <QTest>
 
@@ -9,179 +10,128 @@
 
 using namespace tarnloft;
 
+constexpr std::array springs{Spring{0.5, 0.85}, Spring{0.2, 0.85}, Spring{0.25, 1},
+                             Spring{0.6, 0.4}};
+
 // The figures of the look: what can be read, and how springs move.
 class TestTheme : public QObject {
   Q_OBJECT
 
  private slots:
-  void contrastIsThatOfTheStandard_data();
-  void contrastIsThatOfTheStandard();
-  void labelsAreReadable_data();
-  void labelsAreReadable();
-  void anyAccentCarriesReadableText_data();
-  void anyAccentCarriesReadableText();
-  void springsObeyTheirEquation_data() { springs(); }
-  void springsObeyTheirEquation();
-  void easingIsTheSpring_data() { springs(); }
-  void easingIsTheSpring();
-  void stepsAreTheSpring_data() { springs(); }
-  void stepsAreTheSpring();
+  void contrastIsThatOfTheStandard() {
+    const Cases<QColor, QColor, double> cases{
+        {"black on white", QColor("#000000"), QColor("#ffffff"), 21.0},
+        {"same", QColor("#777777"), QColor("#777777"), 1.0},
+        {"known grey", QColor("#767676"), QColor("#ffffff"), 4.54},
+        {"either way", QColor("#ffffff"), QColor("#767676"), 4.54},
+        {"red", QColor("#ff0000"), QColor("#ffffff"), 4.0},
+        {"half black is mid grey", QColor(0, 0, 0, 128), QColor("#ffffff"), 4.0}};
+    cases.check([&](const QColor& foreground, const QColor& background, double ratio) {
+      QVERIFY2(std::abs(contrastRatio(foreground, background) - ratio) < 0.01,
+               qPrintable(QString::number(contrastRatio(foreground, background))));
+    });
+  }
 
- private:
-  static void springs();
-};
+  void labelsAreReadable() {
+    const Cases<ColorScheme> cases{{"light", ColorScheme::light}, {"dark", ColorScheme::dark}};
+    cases.check([&](const ColorScheme& scheme) {
+      const Palette p = Palette::make(scheme, QColor("#4C6FFF"));
+      struct Text {
+        const char* name;
+        QColor color;
+        double least;
+      };
+      const std::array texts{Text{"label", p.label, 10},
+                             Text{"secondary", p.secondaryLabel, 4.5},
+                             Text{"placeholder", p.placeholder, 4.5},
+                             Text{"tertiary", p.tertiaryLabel, 3},
+                             Text{"quaternary", p.quaternaryLabel, 1.4},
+                             Text{"accent", p.accentText, 4.5},
+                             Text{"destructive", p.destructive, 4.5},
+                             Text{"positive", p.positive, 3},
+                             Text{"warning", p.warning, 3},
+                             Text{"informative", p.informative, 3},
+                             Text{"focus ring", p.focusRing, 3}};
+      const std::array backgrounds{p.windowBackground, p.sidebarBackground, p.controlBackground,
+                                   p.textBackground,   p.sheetBackground,   p.menuBackground};
+      for (const Text& text : texts)
+        for (const QColor& background : backgrounds) {
+          const double ratio = contrastRatio(text.color, background);
+          QVERIFY2(ratio >= text.least,
+                   qPrintable(QString("%1 on %2: %3")
+                                  .arg(text.name, background.name(), QString::number(ratio))));
+        }
+      for (const QColor& background : {p.windowBackground, p.sidebarBackground}) {
+        const QColor fill = over(p.warningFill, background);
+        QVERIFY2(contrastRatio(p.label, fill) >= 10, qPrintable(fill.name()));
+        QVERIFY2(contrastRatio(p.warning, fill) >= 3, qPrintable(fill.name()));
+      }
+    });
+  }
 
-void TestTheme::contrastIsThatOfTheStandard_data() {
-  QTest::addColumn<QColor>("foreground");
-  QTest::addColumn<QColor>("background");
-  QTest::addColumn<double>("ratio");
-  QTest::newRow("black on white") << QColor("#000000") << QColor("#ffffff") << 21.0;
-  QTest::newRow("same") << QColor("#777777") << QColor("#777777") << 1.0;
-  QTest::newRow("known grey") << QColor("#767676") << QColor("#ffffff") << 4.54;
-  QTest::newRow("either way") << QColor("#ffffff") << QColor("#767676") << 4.54;
-  QTest::newRow("red") << QColor("#ff0000") << QColor("#ffffff") << 4.0;
-  QTest::newRow("half black is mid grey") << QColor(0, 0, 0, 128) << QColor("#ffffff") << 4.0;
-}
-
-void TestTheme::contrastIsThatOfTheStandard() {
-  QFETCH(QColor, foreground);
-  QFETCH(QColor, background);
-  QFETCH(double, ratio);
-  QVERIFY2(std::abs(contrastRatio(foreground, background) - ratio) < 0.01,
-           qPrintable(QString::number(contrastRatio(foreground, background))));
-}
-
-void TestTheme::labelsAreReadable_data() {
-  QTest::addColumn<ColorScheme>("scheme");
-  QTest::newRow("light") << ColorScheme::light;
-  QTest::newRow("dark") << ColorScheme::dark;
-}
-
-void TestTheme::labelsAreReadable() {
-  QFETCH(ColorScheme, scheme);
-  const Palette p = Palette::make(scheme, QColor("#4C6FFF"));
-  struct Text {
-    const char* name;
-    QColor color;
-    double least;
-  };
-  const std::array texts{Text{"label", p.label, 10},
-                         Text{"secondary", p.secondaryLabel, 4.5},
-                         Text{"placeholder", p.placeholder, 4.5},
-                         Text{"tertiary", p.tertiaryLabel, 3},
-                         Text{"quaternary", p.quaternaryLabel, 1.4},
-                         Text{"accent", p.accentText, 4.5},
-                         Text{"destructive", p.destructive, 4.5},
-                         Text{"positive", p.positive, 3},
-                         Text{"warning", p.warning, 3},
-                         Text{"informative", p.informative, 3},
-                         Text{"focus ring", p.focusRing, 3}};
-  const std::array backgrounds{p.windowBackground, p.sidebarBackground, p.controlBackground,
-                               p.textBackground,   p.sheetBackground,   p.menuBackground};
-  for (const Text& text : texts)
-    for (const QColor& background : backgrounds) {
-      const double ratio = contrastRatio(text.color, background);
-      QVERIFY2(ratio >= text.least,
-               qPrintable(QStringLiteral("%1 on %2: %3")
-                              .arg(text.name, background.name(), QString::number(ratio))));
+  void anyAccentCarriesReadableText() {
+    for (const char* hex : {"#4C6FFF", "#000000", "#FFFFFF", "#FFEE00", "#FF6B00", "#00C2A8",
+                            "#7F7F7F", "#FF0000", "#0000FF", "#FF9EC7", "#1B1B3A"}) {
+      for (const auto scheme : {ColorScheme::light, ColorScheme::dark}) {
+        const Palette p = Palette::make(scheme, QColor(hex));
+        QCOMPARE(p.accent, QColor(hex));
+        for (const QColor& fill : {p.accentFill, p.accentFillHovered, p.accentFillPressed})
+          QVERIFY2(contrastRatio(p.onAccent, fill) >= 4.5, hex);
+        for (const QColor& fill :
+             {p.destructiveFill, p.destructiveFillHovered, p.destructiveFillPressed})
+          QVERIFY2(contrastRatio(p.onDestructive, fill) >= 4.5, hex);
+        for (const QColor& background : {p.windowBackground, p.sidebarBackground,
+                                         p.controlBackground, p.sheetBackground, p.menuBackground})
+          QVERIFY2(contrastRatio(p.accentText, background) >= 4.5, hex);
+      }
     }
-  for (const QColor& background : {p.windowBackground, p.sidebarBackground}) {
-    const QColor fill = over(p.warningFill, background);
-    QVERIFY2(contrastRatio(p.label, fill) >= 10, qPrintable(fill.name()));
-    QVERIFY2(contrastRatio(p.warning, fill) >= 3, qPrintable(fill.name()));
   }
-}
 
-void TestTheme::anyAccentCarriesReadableText_data() {
-  QTest::addColumn<QColor>("accent");
-  for (const char* hex : {"#4C6FFF", "#000000", "#FFFFFF", "#FFEE00", "#FF6B00", "#00C2A8",
-                          "#7F7F7F", "#FF0000", "#0000FF", "#FF9EC7", "#1B1B3A"})
-    QTest::newRow(hex) << QColor(hex);
-}
-
-void TestTheme::anyAccentCarriesReadableText() {
-  QFETCH(QColor, accent);
-  for (const auto scheme : {ColorScheme::light, ColorScheme::dark}) {
-    const Palette p = Palette::make(scheme, accent);
-    QCOMPARE(p.accent, accent);
-    for (const QColor& fill : {p.accentFill, p.accentFillHovered, p.accentFillPressed})
-      QVERIFY2(contrastRatio(p.onAccent, fill) >= 4.5, qPrintable(fill.name()));
-    for (const QColor& fill :
-         {p.destructiveFill, p.destructiveFillHovered, p.destructiveFillPressed})
-      QVERIFY2(contrastRatio(p.onDestructive, fill) >= 4.5, qPrintable(fill.name()));
-    for (const QColor& background : {p.windowBackground, p.sidebarBackground, p.controlBackground,
-                                     p.sheetBackground, p.menuBackground})
-      QVERIFY2(contrastRatio(p.accentText, background) >= 4.5, qPrintable(background.name()));
+  // Follows the spring's own equation in small steps, apart from the closed form.
+  void springsObeyTheirEquation() {
+    for (const Spring& spring : springs) {
+      const double w = 2 * M_PI / spring.response, step = 1e-5;
+      double position = 0, rate = 0;
+      for (int i = 1; i * step < spring.settlingTime(); ++i) {
+        rate += step * (w * w * (1 - position) - 2 * spring.dampingFraction * w * rate);
+        position += step * rate;
+        if (i % 1000 != 0) continue;
+        QVERIFY(std::abs(spring.position(i * step) - position) < 1e-3);
+        QVERIFY(std::abs(spring.velocity(i * step) - rate) < 1e-3 * w);
+      }
+      QVERIFY(std::abs(position - 1) < 3e-3);
+    }
   }
-}
 
-void TestTheme::springs() {
-  QTest::addColumn<double>("response");
-  QTest::addColumn<double>("damping");
-  QTest::newRow("reordering") << 0.5 << 0.85;
-  QTest::newRow("toolbar") << 0.2 << 0.85;
-  QTest::newRow("flash") << 0.25 << 1.0;
-  QTest::newRow("bouncy") << 0.6 << 0.4;
-}
-
-// Follows the spring's own equation in small steps, apart from the closed form.
-void TestTheme::springsObeyTheirEquation() {
-  QFETCH(double, response);
-  QFETCH(double, damping);
-  const Spring spring{response, damping};
-  const double w = 2 * M_PI / response;
-  const double step = 1e-5;
-  const double end = spring.settlingTime();
-  double position = 0;
-  double rate = 0;
-  for (int i = 1; i * step < end; ++i) {
-    rate += step * (w * w * (1 - position) - 2 * damping * w * rate);
-    position += step * rate;
-    if (i % 1000 != 0) continue;
-    QVERIFY(std::abs(spring.position(i * step) - position) < 1e-3);
-    QVERIFY(std::abs(spring.velocity(i * step) - rate) < 1e-3 * w);
+  void easingIsTheSpring() {
+    for (const Spring& spring : springs) {
+      const QEasingCurve curve = spring.easing();
+      QCOMPARE(curve.valueForProgress(0), 0.0);
+      QCOMPARE(curve.valueForProgress(1), 1.0);
+      for (double share = 0.005; share < 1; share += 0.005) {
+        const double told = spring.position(share * spring.settlingTime());
+        QVERIFY(std::abs(curve.valueForProgress(share) - told) < 4e-3);
+      }
+    }
   }
-  QVERIFY(std::abs(position - 1) < 3e-3);
-}
 
-void TestTheme::easingIsTheSpring() {
-  QFETCH(double, response);
-  QFETCH(double, damping);
-  const Spring spring{response, damping};
-  const QEasingCurve curve = spring.easing();
-  QCOMPARE(curve.valueForProgress(0), 0.0);
-  QCOMPARE(curve.valueForProgress(1), 1.0);
-  for (int i = 1; i < 200; ++i) {
-    const double share = i / 200.0;
-    const double off =
-        curve.valueForProgress(share) - spring.position(share * spring.settlingTime());
-    QVERIFY2(std::abs(off) < 4e-3, qPrintable(QStringLiteral("%1: %2").arg(share).arg(off)));
+  // Repeats what Qt Quick's SpringAnimation does with its two numbers every 16 ms. It moves before
+  // the first step's force has acted for long, so its curve may lie one step off.
+  void stepsAreTheSpring() {
+    for (const Spring& spring : springs) {
+      const auto [stiffness, friction] = spring.steps();
+      constexpr double step = 0.016;
+      double position = 0, rate = 0;
+      for (int i = 1; i * step < spring.settlingTime(); ++i) {
+        rate += stiffness * (1 - position) - friction * rate;
+        position += rate * step;
+        const auto [least, most] =
+            std::minmax({spring.position((i - 0.5) * step), spring.position((i + 1) * step)});
+        QVERIFY(position > least - 0.02 && position < most + 0.02);
+      }
+    }
   }
-}
-
-// Repeats what Qt Quick's SpringAnimation does with its two numbers every 16 ms. It moves before
-// the first step's force has acted for long, so its curve may lie one step off.
-void TestTheme::stepsAreTheSpring() {
-  QFETCH(double, response);
-  QFETCH(double, damping);
-  const Spring spring{response, damping};
-  const auto [stiffness, friction] = spring.steps();
-  constexpr double step = 0.016;
-  double position = 0;
-  double rate = 0;
-  for (int i = 1; i * step < spring.settlingTime(); ++i) {
-    rate += stiffness * (1 - position) - friction * rate;
-    position += rate * step;
-    const double before = spring.position((i - 0.5) * step);
-    const double after = spring.position((i + 1) * step);
-    QVERIFY2(position > std::min(before, after) - 0.02 && position < std::max(before, after) + 0.02,
-             qPrintable(QStringLiteral("step %1: %2 not in %3 … %4")
-                            .arg(i)
-                            .arg(position)
-                            .arg(before)
-                            .arg(after)));
-  }
-}
+};
 
 QTEST_GUILESS_MAIN(TestTheme)
 #include "tst_theme.moc"

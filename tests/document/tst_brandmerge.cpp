@@ -1,22 +1,11 @@
 #include "document/BrandMerge.h"
+#include "testing/Cases.h"
 #include "testing/RandomBrand.h"
 
 #include <QSet>
 #include <QTest>
 
 using namespace tarnloft;
-
-class TestBrandMerge : public QObject {
-  Q_OBJECT
-
- private slots:
-  void takesBackItsOwnStep_data();
-  void takesBackItsOwnStep();
-  void mergesFieldByField();
-  void nothingInBetweenGivesTheEarlierBrand();
-  void laterWorkOutlivesAnyUndo();
-  void whatIsUntouchedStaysShared();
-};
 
 namespace {
 
@@ -50,83 +39,6 @@ QString shapeOf(const Brand& brand) {
   }
   return words.join(' ');
 }
-
-}  // namespace
-
-void TestBrandMerge::takesBackItsOwnStep_data() {
-  QTest::addColumn<QString>("before");
-  QTest::addColumn<QString>("after");    // of the step that is undone
-  QTest::addColumn<QString>("present");  // with later work
-  QTest::addColumn<QString>("undone");
-  const auto row = [](const char* name, const char* before, const char* after, const char* present,
-                      const char* undone) {
-    QTest::newRow(name) << before << after << present << undone;
-  };
-  row("deleted, then one dropped", "S:abc", "S:ac", "S:acx", "S:abcx");
-  row("deleted, then its neighbour too", "S:abcd", "S:acd", "S:cdx", "S:bcdx");
-  row("deleted, then all others", "S:ab", "S:b", "S:x", "S:ax");
-  row("the last ones deleted", "S:abc", "S:a", "S:ax", "S:abcx");
-  row("the first deleted, then one put in front", "S:abc", "S:bc", "S:xbc", "S:xabc");
-  row("deleted, and brought back by other means", "S:ab", "S:b", "S:ba2", "S:ba2");
-  row("deleted, then its section", "S:ab T:c", "S:b T:c", "T:cx", "S:a T:cx");
-  row("deleted, then its section renamed", "S:ab", "S:b", "Sx:b", "Sx:ab");
-  row("duplicated, then one dropped", "S:ab", "S:abc", "S:abcx", "S:abx");
-  row("duplicated, and the copy changed", "S:ab", "S:abc", "S:abc2x", "S:abx");
-  row("duplicated, and the copy moved", "S:ab T:", "S:abc T:", "S:ab T:cx", "S:ab T:x");
-  row("moved, then one dropped", "S:abc T:d", "S:ac T:db", "S:ac T:dbx", "S:abc T:dx");
-  row("moved, then moved on", "S:ab T: U:", "S:a T:b U:", "S:a T: U:b", "S:a T: U:b");
-  row("moved, then deleted", "S:ab T:", "S:a T:b", "S:ax T:", "S:ax T:");
-  row("moved, then changed", "S:ab T:", "S:a T:b", "S:a T:b2", "S:ab2 T:");
-  row("moved, then its old section deleted", "S:ab T:", "S:a T:b", "T:bx", "S:b T:x");
-  row("ordered, then one dropped", "S:abcd", "S:bcda", "S:bcdax", "S:abcdx");
-  row("ordered, then otherwise", "S:abcd", "S:bcda", "S:bacd", "S:bacd");
-  row("changed, then one dropped", "S:ab", "S:a2b", "S:a2bx", "S:abx");
-  row("changed, then anew", "S:ab", "S:a2b", "S:a3b", "S:a3b");
-  row("changed, then deleted", "S:ab", "S:a2b", "S:bx", "S:bx");
-  row("grouped, then one dropped", "S:abcd", "S:aLd", "S:aLdx", "S:abcdx");
-  row("a section added, then one dropped elsewhere", "S:a", "S:a T:b", "S:ax T:b", "S:ax");
-  row("a section added, then one dropped into it", "S:a", "S:a T:b", "S:a T:bx", "S:a T:x");
-  row("a section added, then renamed", "S:a", "S:a T:", "S:a Tx:", "S:a Tx:");
-  row("a section added with a moved one", "S:ab", "S:a T:b", "S:a T:bx", "S:ab T:x");
-  row("a section removed, then one dropped", "S:a T:b U:c", "S:a U:c", "S:ax U:c", "S:ax T:b U:c");
-  row("a section's items dealt out", "S:a T:b", "S:ab", "S:abx", "S:ax T:b");
-  row("a section renamed, then one dropped", "S:a", "Sx:a", "Sx:ab", "S:ab");
-  row("a section renamed, then anew", "S:a", "Sx:a", "Sy:ab", "Sy:ab");
-  row("sections ordered, then one added", "S:a T:b U:c", "T:b U:c S:a",
-      "T:b U:c S:a V:", "S:a T:b U:c V:");
-  row("sections ordered, then otherwise",
-      "S: T: U: V:", "T: U: V: S:", "T: S: U: V:", "T: S: U: V:");
-}
-
-void TestBrandMerge::takesBackItsOwnStep() {
-  QFETCH(QString, before);
-  QFETCH(QString, after);
-  QFETCH(QString, present);
-  const Brand merged = reapplied(brandOf(after), brandOf(before), brandOf(present));
-  QTEST(shapeOf(merged), "undone");
-}
-
-void TestBrandMerge::mergesFieldByField() {
-  Item color = Item::create(ColorPayload{{"#111111", "One", std::nullopt}});
-  Brand before = brandOf("S:");
-  before.name = "Old";
-  before.sections[0].items.append(color);
-  Brand after = before;
-  after.name = "New";
-  after.sections[0].items[0].payload = ColorPayload{{"#222222", "Two", std::nullopt}};
-  Brand present = after;
-  present.accentHex = "#ABCDEF";
-  present.sections[0].emblem = Emblem{Emblem::Kind::emoji, {}, "x", {}, {}};
-  present.sections[0].items[0].payload = ColorPayload{{"#222222", "Mine", "PMS 1"}};
-  present.sections[0].items[0].imageBackground = ImageBackground::dark;
-  const Brand merged = reapplied(after, before, present);
-  Brand expected = present;
-  expected.name = "Old";
-  expected.sections[0].items[0].payload = ColorPayload{{"#111111", "Mine", "PMS 1"}};
-  QVERIFY(merged == expected);
-}
-
-namespace {
 
 // One random edit of what a user can do to a brand.
 void edit(Brand& brand, RandomBrand& random) {
@@ -180,71 +92,143 @@ bool hasEachIdOnce(const Brand& brand) {
 
 }  // namespace
 
-void TestBrandMerge::nothingInBetweenGivesTheEarlierBrand() {
-  RandomBrand random(41);
-  for (int round = 0; round < 300; ++round) {
-    const Brand before = random.brand(random.below(4), random.below(5));
-    const Brand after = edited(before, random);
-    Brand saved = after;
-    saved.updatedAt += std::chrono::seconds(1);
-    QVERIFY(reapplied(after, before, saved) == before);
-    // A step that changes nothing takes nothing of the later work away.
-    const Brand present = edited(after, random);
-    QVERIFY(reapplied(after, after, present) == present);
-  }
-}
+class TestBrandMerge : public QObject {
+  Q_OBJECT
 
-void TestBrandMerge::laterWorkOutlivesAnyUndo() {
-  RandomBrand random(43);
-  for (int round = 0; round < 3000; ++round) {
-    const Brand before = random.brand(1 + random.below(3), random.below(5));
-    const Brand after = edited(before, random), present = edited(after, random);
-    const Brand undone = reapplied(after, before, present);
-    QVERIFY(hasEachIdOnce(undone));
-    const auto old = itemsById(before), done = itemsById(after), now = itemsById(present),
-               left = itemsById(undone);
-    for (const Item& item : now) {
-      const bool isOfTheStep = done.contains(item.id) && !old.contains(item.id);
-      QCOMPARE(left.contains(item.id), !isOfTheStep);
-      if (done.value(item.id) != item && !isOfTheStep) QVERIFY(left.value(item.id) == item);
+ private slots:
+  void takesBackItsOwnStep() {
+    // of the step that is undone: after
+    // with later work: present
+    const Cases<QString, QString, QString, QString> cases{
+        {"deleted, then one dropped", "S:abc", "S:ac", "S:acx", "S:abcx"},
+        {"deleted, then its neighbour too", "S:abcd", "S:acd", "S:cdx", "S:bcdx"},
+        {"deleted, then all others", "S:ab", "S:b", "S:x", "S:ax"},
+        {"the last ones deleted", "S:abc", "S:a", "S:ax", "S:abcx"},
+        {"the first deleted, then one put in front", "S:abc", "S:bc", "S:xbc", "S:xabc"},
+        {"deleted, and brought back by other means", "S:ab", "S:b", "S:ba2", "S:ba2"},
+        {"deleted, then its section", "S:ab T:c", "S:b T:c", "T:cx", "S:a T:cx"},
+        {"deleted, then its section renamed", "S:ab", "S:b", "Sx:b", "Sx:ab"},
+        {"duplicated, then one dropped", "S:ab", "S:abc", "S:abcx", "S:abx"},
+        {"duplicated, and the copy changed", "S:ab", "S:abc", "S:abc2x", "S:abx"},
+        {"duplicated, and the copy moved", "S:ab T:", "S:abc T:", "S:ab T:cx", "S:ab T:x"},
+        {"moved, then one dropped", "S:abc T:d", "S:ac T:db", "S:ac T:dbx", "S:abc T:dx"},
+        {"moved, then moved on", "S:ab T: U:", "S:a T:b U:", "S:a T: U:b", "S:a T: U:b"},
+        {"moved, then deleted", "S:ab T:", "S:a T:b", "S:ax T:", "S:ax T:"},
+        {"moved, then changed", "S:ab T:", "S:a T:b", "S:a T:b2", "S:ab2 T:"},
+        {"moved, then its old section deleted", "S:ab T:", "S:a T:b", "T:bx", "S:b T:x"},
+        {"ordered, then one dropped", "S:abcd", "S:bcda", "S:bcdax", "S:abcdx"},
+        {"ordered, then otherwise", "S:abcd", "S:bcda", "S:bacd", "S:bacd"},
+        {"changed, then one dropped", "S:ab", "S:a2b", "S:a2bx", "S:abx"},
+        {"changed, then anew", "S:ab", "S:a2b", "S:a3b", "S:a3b"},
+        {"changed, then deleted", "S:ab", "S:a2b", "S:bx", "S:bx"},
+        {"grouped, then one dropped", "S:abcd", "S:aLd", "S:aLdx", "S:abcdx"},
+        {"a section added, then one dropped elsewhere", "S:a", "S:a T:b", "S:ax T:b", "S:ax"},
+        {"a section added, then one dropped into it", "S:a", "S:a T:b", "S:a T:bx", "S:a T:x"},
+        {"a section added, then renamed", "S:a", "S:a T:", "S:a Tx:", "S:a Tx:"},
+        {"a section added with a moved one", "S:ab", "S:a T:b", "S:a T:bx", "S:ab T:x"},
+        {"a section removed, then one dropped", "S:a T:b U:c", "S:a U:c", "S:ax U:c",
+         "S:ax T:b U:c"},
+        {"a section's items dealt out", "S:a T:b", "S:ab", "S:abx", "S:ax T:b"},
+        {"a section renamed, then one dropped", "S:a", "Sx:a", "Sx:ab", "S:ab"},
+        {"a section renamed, then anew", "S:a", "Sx:a", "Sy:ab", "Sy:ab"},
+        {"sections ordered, then one added", "S:a T:b U:c", "T:b U:c S:a",
+         "T:b U:c S:a V:", "S:a T:b U:c V:"},
+        {"sections ordered, then otherwise",
+         "S: T: U: V:", "T: U: V: S:", "T: S: U: V:", "T: S: U: V:"}};
+    cases.check([&](const QString& before, const QString& after, const QString& present,
+                    const QString& undone) {
+      const Brand merged = reapplied(brandOf(after), brandOf(before), brandOf(present));
+      QCOMPARE(shapeOf(merged), undone);
+    });
+  }
+
+  void mergesFieldByField() {
+    Item color = Item::create(ColorPayload{{"#111111", "One", std::nullopt}});
+    Brand before = brandOf("S:");
+    before.name = "Old";
+    before.sections[0].items.append(color);
+    Brand after = before;
+    after.name = "New";
+    after.sections[0].items[0].payload = ColorPayload{{"#222222", "Two", std::nullopt}};
+    Brand present = after;
+    present.accentHex = "#ABCDEF";
+    present.sections[0].emblem = Emblem{Emblem::Kind::emoji, {}, "x", {}, {}};
+    present.sections[0].items[0].payload = ColorPayload{{"#222222", "Mine", "PMS 1"}};
+    present.sections[0].items[0].imageBackground = ImageBackground::dark;
+    const Brand merged = reapplied(after, before, present);
+    Brand expected = present;
+    expected.name = "Old";
+    expected.sections[0].items[0].payload = ColorPayload{{"#111111", "Mine", "PMS 1"}};
+    QVERIFY(merged == expected);
+  }
+
+  void nothingInBetweenGivesTheEarlierBrand() {
+    RandomBrand random(41);
+    for (int round = 0; round < 300; ++round) {
+      const Brand before = random.brand(random.below(4), random.below(5));
+      const Brand after = edited(before, random);
+      Brand saved = after;
+      saved.updatedAt += std::chrono::seconds(1);
+      QVERIFY(reapplied(after, before, saved) == before);
+      // A step that changes nothing takes nothing of the later work away.
+      const Brand present = edited(after, random);
+      QVERIFY(reapplied(after, after, present) == present);
     }
-    for (const Item& item : old) {  // what the step took or changed, and nobody since, is as it was
-      if (!done.contains(item.id)) QVERIFY(left.value(item.id) == item);
-      if (now.contains(item.id) && now.value(item.id) == done.value(item.id)) {
-        QVERIFY(left.value(item.id) == item);
+  }
+
+  void laterWorkOutlivesAnyUndo() {
+    RandomBrand random(43);
+    for (int round = 0; round < 3000; ++round) {
+      const Brand before = random.brand(1 + random.below(3), random.below(5));
+      const Brand after = edited(before, random), present = edited(after, random);
+      const Brand undone = reapplied(after, before, present);
+      QVERIFY(hasEachIdOnce(undone));
+      const auto old = itemsById(before), done = itemsById(after), now = itemsById(present),
+                 left = itemsById(undone);
+      for (const Item& item : now) {
+        const bool isOfTheStep = done.contains(item.id) && !old.contains(item.id);
+        QCOMPARE(left.contains(item.id), !isOfTheStep);
+        if (done.value(item.id) != item && !isOfTheStep) QVERIFY(left.value(item.id) == item);
       }
+      for (const Item& item :
+           old) {  // what the step took or changed, and nobody since, is as it was
+        if (!done.contains(item.id)) QVERIFY(left.value(item.id) == item);
+        if (now.contains(item.id) && now.value(item.id) == done.value(item.id)) {
+          QVERIFY(left.value(item.id) == item);
+        }
+      }
+      // The redo takes back the undo, whatever comes in between.
+      const Brand later = edited(undone, random), redone = reapplied(undone, present, later);
+      QVERIFY(hasEachIdOnce(redone));
+      const auto afterwards = itemsById(redone);
+      for (const Item& item : itemsById(later)) {
+        if (!left.contains(item.id) || now.contains(item.id)) QVERIFY(afterwards.contains(item.id));
+      }
+      QVERIFY(reapplied(undone, present, undone) == present);
+      QVERIFY(reapplied(redone, later, redone) == later);
     }
-    // The redo takes back the undo, whatever comes in between.
-    const Brand later = edited(undone, random), redone = reapplied(undone, present, later);
-    QVERIFY(hasEachIdOnce(redone));
-    const auto afterwards = itemsById(redone);
-    for (const Item& item : itemsById(later)) {
-      if (!left.contains(item.id) || now.contains(item.id)) QVERIFY(afterwards.contains(item.id));
-    }
-    QVERIFY(reapplied(undone, present, undone) == present);
-    QVERIFY(reapplied(redone, later, redone) == later);
   }
-}
 
-void TestBrandMerge::whatIsUntouchedStaysShared() {
-  RandomBrand random(47);
-  const Brand before = random.brand(2, 5000);
-  Brand after = before;
-  after.sections[0].items.takeAt(2500);
-  Brand present = after;
-  present.sections[1].items.append(random.item());
-  const Brand undone = reapplied(after, before, present);
-  QVERIFY(undone.sections.at(0).items == before.sections.at(0).items);
-  QSet<const Item*> known;
-  for (const Section& section : present.sections) {
-    for (const Item& item : section.items) known.insert(&item);
+  void whatIsUntouchedStaysShared() {
+    RandomBrand random(47);
+    const Brand before = random.brand(2, 5000);
+    Brand after = before;
+    after.sections[0].items.takeAt(2500);
+    Brand present = after;
+    present.sections[1].items.append(random.item());
+    const Brand undone = reapplied(after, before, present);
+    QVERIFY(undone.sections.at(0).items == before.sections.at(0).items);
+    QSet<const Item*> known;
+    for (const Section& section : present.sections) {
+      for (const Item& item : section.items) known.insert(&item);
+    }
+    int copied = 0;
+    for (const Section& section : undone.sections) {
+      for (const Item& item : section.items) copied += known.contains(&item) ? 0 : 1;
+    }
+    QVERIFY2(copied <= 2 * SharedList<Item>::runLength, qPrintable(QString::number(copied)));
   }
-  int copied = 0;
-  for (const Section& section : undone.sections) {
-    for (const Item& item : section.items) copied += known.contains(&item) ? 0 : 1;
-  }
-  QVERIFY2(copied <= 2 * SharedList<Item>::runLength, qPrintable(QString::number(copied)));
-}
+};
 
 QTEST_GUILESS_MAIN(TestBrandMerge)
 #include "tst_brandmerge.moc"

@@ -1,6 +1,7 @@
 #include "document/BrandDocument.h"
 #include "document/Package.h"
 #include "model/Json.h"
+#include "testing/Cases.h"
 #include "testing/RandomBrand.h"
 #include "testing/TestServices.h"
 
@@ -8,30 +9,6 @@
 #include <QTest>
 
 using namespace tarnloft;
-
-class TestDocument : public QObject {
-  Q_OBJECT
-
- private slots:
-  void createsAPackage();
-  void findsAFreePackageName_data();
-  void findsAFreePackageName();
-  void createFailsWhereNoFolderCanBeMade();
-  void savesABurstOnceBehindItsLastEdit();
-  void savingSchedulesNothing();
-  void savingAtOnceReplacesThePendingSave();
-  void anObserverMayInvalidateDuringASave();
-  void losesAYoungChangeWithTheDocument();
-  void aDeadDocumentWritesNothing();
-  void makesAVanishedPackageAgain();
-  void loadsNothingFromABadPackage_data();
-  void loadsNothingFromABadPackage();
-  void refusesAManifestBeyondAllBrands();
-  void savesWhatItReadUnchanged();
-  void givesWhatSharesAnIDOneOfItsOwn();
-  void refusesHostileAssetNames_data();
-  void refusesHostileAssetNames();
-};
 
 namespace {
 
@@ -47,239 +24,195 @@ void rename(BrandDocument& document, const char* name) {
 
 QString nameOnDisk(const BrandDocument& document) {
   const auto brand = decode<Brand>(contentOf(Package::manifestPath(document.packageURL())));
-  return brand ? brand->name : QStringLiteral("(unreadable)");
+  return brand ? brand->name : "(unreadable)";
 }
 
 }  // namespace
 
-void TestDocument::createsAPackage() {
-  TestServices disk;
-  const auto document = newDocument(disk, " Acme/Co ");
-  QVERIFY(document);
-  const QDir package(document->packageURL());
-  QCOMPARE(package.dirName(), QStringLiteral("Acme-Co.tarnloft"));
-  QCOMPARE(package.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-           QStringList({QStringLiteral("assets"), QStringLiteral("manifest.json"),
-                        QStringLiteral("thumbnails")}));
-  const auto read = BrandDocument::load(disk.services(), document->packageURL());
-  QVERIFY(read);
-  QCOMPARE(read->brand().name, QStringLiteral(" Acme/Co "));
-  QCOMPARE(read->brand().id, document->brand().id);
-  QCOMPARE(read->brand().sections, document->brand().sections);
-  QCOMPARE(read->brand().sections.size(), 2);
-  QCOMPARE(iso8601(read->brand().createdAt), std::string("2026-03-01T09:31:00Z"));
-}
+class TestDocument : public QObject {
+  Q_OBJECT
 
-void TestDocument::findsAFreePackageName_data() {
-  QTest::addColumn<QString>("name");
-  QTest::addColumn<QString>("first");
-  QTest::addColumn<QString>("third");
-  QTest::newRow("plain") << "Acme"
-                         << "Acme.tarnloft"
-                         << "Acme 3.tarnloft";
-  QTest::newRow("cleaned") << "\tA/B:C\n"
-                           << "A-B-C.tarnloft"
-                           << "A-B-C 3.tarnloft";
-  QTest::newRow("blank") << " \u00a0\n"
-                         << "Untitled Brand.tarnloft"
-                         << "Untitled Brand 3.tarnloft";
-  QTest::newRow("dots") << ".."
-                        << "-..tarnloft"
-                        << "-. 3.tarnloft";
-}
+ private slots:
+  void createsAPackage() {
+    TestServices disk;
+    const auto document = newDocument(disk, " Acme/Co ");
+    QVERIFY(document);
+    const QDir package(document->packageURL());
+    QCOMPARE(package.dirName(), "Acme-Co.tarnloft");
+    QCOMPARE(package.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+             QStringList({"assets", "manifest.json", "thumbnails"}));
+    const auto read = BrandDocument::load(disk.services(), document->packageURL());
+    QVERIFY(read);
+    QCOMPARE(read->brand().name, " Acme/Co ");
+    QCOMPARE(read->brand().id, document->brand().id);
+    QCOMPARE(read->brand().sections, document->brand().sections);
+    QCOMPARE(read->brand().sections.size(), 2);
+    QCOMPARE(iso8601(read->brand().createdAt), std::string("2026-03-01T09:31:00Z"));
+  }
 
-void TestDocument::findsAFreePackageName() {
-  QFETCH(QString, name);
-  TestServices disk;
-  const auto next = [&] {
-    const QString path = Package::uniquePackageURL(disk.files, disk.folder.path(), name);
-    QDir().mkpath(path);
-    return QFileInfo(path).fileName();
-  };
-  QTEST(next(), "first");
-  next();
-  QTEST(next(), "third");
-}
+  void createFailsWhereNoFolderCanBeMade() {
+    TestServices disk;
+    QVERIFY(writeFile(disk.path("file"), "x"));
+    const auto document = BrandDocument::create(disk.services(), disk.path("file"), "A");
+    QVERIFY(!document);
+    QVERIFY(!document.error().message.isEmpty());
+  }
 
-void TestDocument::createFailsWhereNoFolderCanBeMade() {
-  TestServices disk;
-  QVERIFY(writeFile(disk.path(QStringLiteral("file")), "x"));
-  const auto document = BrandDocument::create(disk.services(), disk.path(QStringLiteral("file")),
-                                              QStringLiteral("A"));
-  QVERIFY(!document);
-  QVERIFY(!document.error().message.isEmpty());
-}
+  void savesABurstOnceBehindItsLastEdit() {
+    TestServices disk;
+    const auto document = newDocument(disk);
+    QSignalSpy changes(document.get(), &BrandDocument::brandChanged);
+    for (int i = 0; i < 4; ++i) {
+      rename(*document, "Edited");
+      QTest::qWait(150);  // longer in all than one delay
+      QCOMPARE(nameOnDisk(*document), "Acme");
+    }
+    QCOMPARE(changes.size(), 4);
+    QTRY_COMPARE_WITH_TIMEOUT(nameOnDisk(*document), "Edited", 2000);
+    QCOMPARE(changes.size(), 5);  // the save's own date
+    QVERIFY(disk.log.lines.isEmpty());
+  }
 
-void TestDocument::savesABurstOnceBehindItsLastEdit() {
-  TestServices disk;
-  const auto document = newDocument(disk);
-  QSignalSpy changes(document.get(), &BrandDocument::brandChanged);
-  for (int i = 0; i < 4; ++i) {
+  void savingSchedulesNothing() {
+    TestServices disk;
+    const auto made = newDocument(disk), edited = newDocument(disk);
+    rename(*edited, "Edited");
+    edited->saveNow();  // in the place of the pending save
+    for (const auto& document : {made.get(), edited.get()}) {
+      QVERIFY(QFile::remove(Package::manifestPath(document->packageURL())));
+    }
+    QTest::qWait(600);
+    for (const auto& document : {made.get(), edited.get()}) {
+      QVERIFY(!disk.files.exists(Package::manifestPath(document->packageURL())));
+    }
+  }
+
+  void anObserverMayInvalidateDuringASave() {
+    TestServices disk;
+    const auto document = newDocument(disk);
+    connect(document.get(), &BrandDocument::brandChanged, this, [&] {
+      document->invalidate();
+      QDir(document->packageURL()).removeRecursively();
+    });
+    document->saveNow();
+    QVERIFY(!disk.files.exists(document->packageURL()));
+  }
+
+  void losesAYoungChangeWithTheDocument() {
+    TestServices disk;
+    auto document = newDocument(disk);
+    const QString manifest = Package::manifestPath(document->packageURL());
     rename(*document, "Edited");
-    QTest::qWait(150);  // longer in all than one delay
-    QCOMPARE(nameOnDisk(*document), QStringLiteral("Acme"));
+    document.reset();
+    QTest::qWait(600);
+    QCOMPARE(decode<Brand>(contentOf(manifest))->name, "Acme");
   }
-  QCOMPARE(changes.size(), 4);
-  QTRY_COMPARE_WITH_TIMEOUT(nameOnDisk(*document), QStringLiteral("Edited"), 2000);
-  QCOMPARE(changes.size(), 5);  // the save's own date
-  QVERIFY(disk.log.lines.isEmpty());
-}
 
-void TestDocument::savingSchedulesNothing() {
-  TestServices disk;
-  const auto document = newDocument(disk);
-  QVERIFY(QFile::remove(Package::manifestPath(document->packageURL())));
-  QTest::qWait(600);
-  QVERIFY(!disk.files.exists(Package::manifestPath(document->packageURL())));
-}
-
-void TestDocument::savingAtOnceReplacesThePendingSave() {
-  TestServices disk;
-  const auto document = newDocument(disk);
-  rename(*document, "Edited");
-  document->saveNow();
-  QVERIFY(QFile::remove(Package::manifestPath(document->packageURL())));
-  QTest::qWait(600);
-  QVERIFY(!disk.files.exists(Package::manifestPath(document->packageURL())));
-}
-
-void TestDocument::anObserverMayInvalidateDuringASave() {
-  TestServices disk;
-  const auto document = newDocument(disk);
-  connect(document.get(), &BrandDocument::brandChanged, this, [&] {
+  void aDeadDocumentWritesNothing() {
+    TestServices disk;
+    const auto document = newDocument(disk);
+    rename(*document, "pending");
     document->invalidate();
-    QDir(document->packageURL()).removeRecursively();
-  });
-  document->saveNow();
-  QVERIFY(!disk.files.exists(document->packageURL()));
-}
-
-void TestDocument::losesAYoungChangeWithTheDocument() {
-  TestServices disk;
-  auto document = newDocument(disk);
-  const QString manifest = Package::manifestPath(document->packageURL());
-  rename(*document, "Edited");
-  document.reset();
-  QTest::qWait(600);
-  QCOMPARE(decode<Brand>(contentOf(manifest))->name, QStringLiteral("Acme"));
-}
-
-void TestDocument::aDeadDocumentWritesNothing() {
-  TestServices disk;
-  const auto document = newDocument(disk);
-  rename(*document, "pending");
-  document->invalidate();
-  QVERIFY(QDir(document->packageURL()).removeRecursively());
-  rename(*document, "changed");
-  document->saveNow();
-  QTest::qWait(600);
-  QVERIFY(!disk.files.exists(document->packageURL()));
-  QCOMPARE(document->brand().name, QStringLiteral("changed"));
-}
-
-void TestDocument::makesAVanishedPackageAgain() {
-  TestServices disk;
-  const auto document = newDocument(disk);
-  QVERIFY(QDir(document->packageURL()).removeRecursively());
-  document->saveNow();
-  QCOMPARE(QDir(document->packageURL()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-           QStringList(QStringLiteral("manifest.json")));
-}
-
-void TestDocument::loadsNothingFromABadPackage_data() {
-  QTest::addColumn<QByteArray>("manifest");
-  QTest::newRow("empty") << QByteArray("");
-  QTest::newRow("not JSON") << QByteArray("PK\x03\x04");
-  QTest::newRow("no brand") << QByteArray("{}");
-  QTest::newRow("a folder in its place") << QByteArray();
-}
-
-void TestDocument::loadsNothingFromABadPackage() {
-  QFETCH(QByteArray, manifest);
-  TestServices disk;
-  const QString package = disk.path(QStringLiteral("Bad.tarnloft"));
-  if (manifest.isNull()) {
-    QVERIFY(QDir().mkpath(Package::manifestPath(package)));
-  } else {
-    QVERIFY(writeFile(Package::manifestPath(package), manifest));
+    QVERIFY(QDir(document->packageURL()).removeRecursively());
+    rename(*document, "changed");
+    document->saveNow();
+    QTest::qWait(600);
+    QVERIFY(!disk.files.exists(document->packageURL()));
+    QCOMPARE(document->brand().name, "changed");
   }
-  QVERIFY(!BrandDocument::load(disk.services(), package));
-  QVERIFY(!BrandDocument::load(disk.services(), disk.path(QStringLiteral("missing"))));
-  QVERIFY(!BrandDocument::load(disk.services(), QString()));
-  QCOMPARE(QDir(package).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(),
-           1);
-  QVERIFY(disk.log.lines.isEmpty());
-}
 
-void TestDocument::refusesAManifestBeyondAllBrands() {
-  TestServices disk;
-  const QString manifest = Package::manifestPath(disk.path(QStringLiteral("Huge.tarnloft")));
-  QVERIFY(
-      writeFile(manifest, *encode(Brand::create(QStringLiteral("x"))) + QByteArray(1 << 20, ' ')));
-  QVERIFY(BrandDocument::load(disk.services(), disk.path(QStringLiteral("Huge.tarnloft"))));
-  QVERIFY(QFile::resize(manifest, qint64(65) << 20));  // sparse
-  const auto file = Package::readJson(disk.files, manifest, disk.folder.path());
-  QCOMPARE(file.error().kind, ErrorKind::tooLarge);
-}
-
-void TestDocument::savesWhatItReadUnchanged() {
-  TestServices disk;
-  RandomBrand random(9);
-  for (int i = 0; i < 10; ++i) {
-    const QString package = disk.path(QStringLiteral("%1.tarnloft").arg(i));
-    const QByteArray before = *encode(random.brand(3, 30));
-    QVERIFY(writeFile(Package::manifestPath(package), before));
-    BrandDocument::load(disk.services(), package)->saveNow();
-    const qsizetype date = before.lastIndexOf("\"updatedAt\"");
-    const QByteArray after = contentOf(Package::manifestPath(package));
-    QCOMPARE(after, before.left(date) + "\"updatedAt\" : \"2026-03-01T09:31:00Z\"\n}");
+  void makesAVanishedPackageAgain() {
+    TestServices disk;
+    const auto document = newDocument(disk);
+    QVERIFY(QDir(document->packageURL()).removeRecursively());
+    document->saveNow();
+    QCOMPARE(namesIn(document->packageURL()), QStringList("manifest.json"));
   }
-}
 
-// A manifest that was put together elsewhere: sections and items repeat, within one and across.
-void TestDocument::givesWhatSharesAnIDOneOfItsOwn() {
-  TestServices disk;
-  const Brand brand = RandomBrand(4).brand(3, 12);
-  Brand twice = brand;
-  twice.sections += brand.sections;
-  for (const Item& item : brand.sections.at(0).items) twice.sections[0].items.append(item);
-  const QString package = disk.path(QStringLiteral("Twice.tarnloft"));
-  QVERIFY(writeFile(Package::manifestPath(package), *encode(twice)));
-
-  const Brand read = BrandDocument::load(disk.services(), package)->brand();
-  QCOMPARE(read, BrandDocument::load(disk.services(), package)->brand());
-  QSet<QUuid> sections, items;
-  qsizetype count = 0;
-  for (qsizetype i = 0; i < read.sections.size(); ++i) {
-    sections.insert(read.sections.at(i).id);
-    for (const Item& item : read.sections.at(i).items) items.insert(item.id);
-    count += read.sections.at(i).items.size();
-    QCOMPARE(read.sections.at(i).items.size(), twice.sections.at(i).items.size());
-    if (i < brand.sections.size()) QCOMPARE(read.sections.at(i).id, brand.sections.at(i).id);
+  void loadsNothingFromABadPackage() {
+    const Cases<QByteArray> cases{{"empty", ""},
+                                  {"not JSON", "PK\x03\x04"},
+                                  {"no brand", "{}"},
+                                  {"a folder in its place", QByteArray()}};
+    cases.check([&](const QByteArray& manifest) {
+      TestServices disk;
+      const QString package = disk.path("Bad.tarnloft");
+      if (manifest.isNull()) {
+        QVERIFY(QDir().mkpath(Package::manifestPath(package)));
+      } else {
+        QVERIFY(writeFile(Package::manifestPath(package), manifest));
+      }
+      QVERIFY(!BrandDocument::load(disk.services(), package));
+      QVERIFY(!BrandDocument::load(disk.services(), disk.path("missing")));
+      QVERIFY(!BrandDocument::load(disk.services(), QString()));
+      QCOMPARE(namesIn(package).size(), 1);
+      QVERIFY(disk.log.lines.isEmpty());
+    });
   }
-  QCOMPARE(sections.size(), read.sections.size());
-  QCOMPARE(items.size(), count);
-}
 
-void TestDocument::refusesHostileAssetNames_data() {
-  QTest::addColumn<QString>("filename");
-  QTest::addColumn<bool>("opens");
-  QTest::newRow("plain") << "a.png" << true;
-  for (const char* bad : {"", ".", "..", "../manifest.json", "sub/a.png", "/etc/hostname"}) {
-    QTest::newRow(bad[0] ? bad : "empty") << QString::fromLatin1(bad) << false;
+  void refusesAManifestBeyondAllBrands() {
+    TestServices disk;
+    const QString manifest = Package::manifestPath(disk.path("Huge.tarnloft"));
+    QVERIFY(writeFile(manifest, *encode(Brand::create("x")) + QByteArray(1 << 20, ' ')));
+    QVERIFY(BrandDocument::load(disk.services(), disk.path("Huge.tarnloft")));
+    QVERIFY(QFile::resize(manifest, qint64(65) << 20));  // sparse
+    const auto file = Package::readJson(disk.files, manifest, disk.folder.path());
+    QCOMPARE(file.error().kind, ErrorKind::tooLarge);
   }
-  QTest::newRow("NUL") << QStringLiteral("a.png") + QChar(u'\0') + u'x' << false;
-}
 
-void TestDocument::refusesHostileAssetNames() {
-  QFETCH(QString, filename);
-  TestServices disk;
-  const auto document = newDocument(disk);
-  const QString assets = Package::assetsPath(document->packageURL());
-  QVERIFY(writeFile(assets + QStringLiteral("/a.png"), "x"));
-  QVERIFY(writeFile(assets + QStringLiteral("/sub/a.png"), "x"));
-  QTEST(document->openAsset({filename, QString()}).has_value(), "opens");
-}
+  void savesWhatItReadUnchanged() {
+    TestServices disk;
+    RandomBrand random(9);
+    for (int i = 0; i < 10; ++i) {
+      const QString package = disk.path(QString("%1.tarnloft").arg(i));
+      const QByteArray before = *encode(random.brand(3, 30));
+      QVERIFY(writeFile(Package::manifestPath(package), before));
+      BrandDocument::load(disk.services(), package)->saveNow();
+      const qsizetype date = before.lastIndexOf("\"updatedAt\"");
+      const QByteArray after = contentOf(Package::manifestPath(package));
+      QCOMPARE(after, before.left(date) + "\"updatedAt\" : \"2026-03-01T09:31:00Z\"\n}");
+    }
+  }
+
+  // A manifest that was put together elsewhere: sections and items repeat, within one and across.
+  void givesWhatSharesAnIDOneOfItsOwn() {
+    TestServices disk;
+    const Brand brand = RandomBrand(4).brand(3, 12);
+    Brand twice = brand;
+    twice.sections += brand.sections;
+    for (const Item& item : brand.sections.at(0).items) twice.sections[0].items.append(item);
+    const QString package = disk.path("Twice.tarnloft");
+    QVERIFY(writeFile(Package::manifestPath(package), *encode(twice)));
+
+    const Brand read = BrandDocument::load(disk.services(), package)->brand();
+    QCOMPARE(read, BrandDocument::load(disk.services(), package)->brand());
+    QSet<QUuid> sections, items;
+    qsizetype count = 0;
+    for (qsizetype i = 0; i < read.sections.size(); ++i) {
+      sections.insert(read.sections.at(i).id);
+      for (const Item& item : read.sections.at(i).items) items.insert(item.id);
+      count += read.sections.at(i).items.size();
+      QCOMPARE(read.sections.at(i).items.size(), twice.sections.at(i).items.size());
+      if (i < brand.sections.size()) QCOMPARE(read.sections.at(i).id, brand.sections.at(i).id);
+    }
+    QCOMPARE(sections.size(), read.sections.size());
+    QCOMPARE(items.size(), count);
+  }
+
+  void refusesHostileAssetNames() {
+    TestServices disk;
+    const auto document = newDocument(disk);
+    const QString assets = Package::assetsPath(document->packageURL());
+    QVERIFY(writeFile(assets + "/a.png", "x") && writeFile(assets + "/sub/a.png", "x"));
+    const auto opens = [&](const QString& filename) {
+      return document->openAsset({filename, QString()}).has_value();
+    };
+    QVERIFY(opens("a.png") && !opens(QString("a.png") + QChar(u'\0') + u'x'));
+    for (const char* bad : {"", ".", "..", "../manifest.json", "sub/a.png", "/etc/hostname"}) {
+      QVERIFY2(!opens(bad), bad);
+    }
+  }
+};
 
 QTEST_GUILESS_MAIN(TestDocument)
 #include "tst_document.moc"

@@ -2,6 +2,7 @@
 #include "document/Package.h"
 #include "document/UndoHistory.h"
 #include "model/Json.h"
+#include "testing/Cases.h"
 #include "testing/RandomBrand.h"
 #include "testing/TestServices.h"
 
@@ -10,26 +11,6 @@
 #include <QTest>
 
 using namespace tarnloft;
-
-class TestEdits : public QObject {
-  Q_OBJECT
-
- private slots:
-  void movesItems_data();
-  void movesItems();
-  void movesSections_data();
-  void movesSections();
-  void movesInTwoAssignments();
-  void undoAndRedoWalkThroughWholeBrands();
-  void undoKeepsWhatCameSince();
-  void aChangeThatChangesNothingIsNoStep();
-  void undoReachesTheFile();
-  void undoOutlivesTheDocument();
-  void importsFiles_data();
-  void importsFiles();
-  void failedImportsLeaveNothing();
-  void importsNothingThroughALinkThatLeadsOut();
-};
 
 namespace {
 
@@ -74,222 +55,174 @@ struct Editing {
 
 }  // namespace
 
-void TestEdits::movesItems_data() {
-  QTest::addColumn<QString>("item");
-  QTest::addColumn<QString>("section");
-  QTest::addColumn<QString>("before");
-  QTest::addColumn<QString>("shape");
-  QTest::newRow("to the front") << "c"
-                                << "S"
-                                << "a"
-                                << "S:cab T:d";
-  QTest::newRow("to the end") << "a"
-                              << "S"
-                              << ""
-                              << "S:bca T:d";
-  QTest::newRow("before itself") << "a"
-                                 << "S"
-                                 << "a"
-                                 << "S:abc T:d";
-  QTest::newRow("across") << "b"
-                          << "T"
-                          << "d"
-                          << "S:ac T:bd";
-  QTest::newRow("before one that is elsewhere") << "b"
-                                                << "T"
-                                                << "c"
-                                                << "S:ac T:db";
-  QTest::newRow("to no section") << "b"
-                                 << "?"
-                                 << ""
-                                 << "S:abc T:d";
-  QTest::newRow("no item") << "?"
-                           << "T"
-                           << ""
-                           << "S:abc T:d";
-}
+class TestEdits : public QObject {
+  Q_OBJECT
 
-void TestEdits::movesItems() {
-  QFETCH(QString, item);
-  QFETCH(QString, section);
-  QFETCH(QString, before);
-  Editing editing;
-  editing.document->moveItem(editing.id(item), editing.id(section), editing.optionalId(before));
-  QTEST(editing.shape(), "shape");
-}
-
-void TestEdits::movesSections_data() {
-  QTest::addColumn<QString>("section");
-  QTest::addColumn<QString>("before");
-  QTest::addColumn<QString>("shape");
-  QTest::newRow("to the front") << "T"
-                                << "S"
-                                << "T:d S:abc";
-  QTest::newRow("to the end") << "S"
-                              << ""
-                              << "T:d S:abc";
-  QTest::newRow("before itself") << "S"
-                                 << "S"
-                                 << "S:abc T:d";
-  QTest::newRow("before none") << "S"
-                               << "?"
-                               << "T:d S:abc";
-  QTest::newRow("none") << "?"
-                        << "S"
-                        << "S:abc T:d";
-}
-
-void TestEdits::movesSections() {
-  QFETCH(QString, section);
-  QFETCH(QString, before);
-  Editing editing;
-  editing.document->moveSection(editing.id(section), editing.optionalId(before));
-  QTEST(editing.shape(), "shape");
-}
-
-void TestEdits::movesInTwoAssignments() {
-  Editing editing;
-  QSignalSpy changes(editing.document.get(), &BrandDocument::brandChanged);
-  editing.document->moveItem(editing.id("a"), editing.id("T"), {});
-  QCOMPARE(changes.size(), 2);
-  editing.document->addItem(Item::create(TextPayload{"e"}), editing.id("T"));
-  editing.document->addItem(Item::create(TextPayload{"f"}), editing.id("?"));
-  QCOMPARE(changes.size(), 3);
-  QCOMPARE(editing.shape(), "S:bc T:dae");
-}
-
-void TestEdits::undoAndRedoWalkThroughWholeBrands() {
-  Editing editing;
-  RandomBrand random(5);
-  QList<Brand> states{editing.document->brand()};
-  for (int i = 0; i < 20; ++i) {
-    editing.document->mutate(QString::number(i), &editing.history, [&](Brand& brand) {
-      brand.sections[random.below(int(brand.sections.size()))].items.append(random.item());
+ private slots:
+  void movesItems() {
+    const Cases<QString, QString, QString, QString> cases{
+        {"to the front", "c", "S", "a", "S:cab T:d"},
+        {"to the end", "a", "S", "", "S:bca T:d"},
+        {"before itself", "a", "S", "a", "S:abc T:d"},
+        {"across", "b", "T", "d", "S:ac T:bd"},
+        {"before one that is elsewhere", "b", "T", "c", "S:ac T:db"},
+        {"to no section", "b", "?", "", "S:abc T:d"},
+        {"no item", "?", "T", "", "S:abc T:d"}};
+    cases.check([&](const QString& item, const QString& section, const QString& before,
+                    const QString& shape) {
+      Editing editing;
+      editing.document->moveItem(editing.id(item), editing.id(section), editing.optionalId(before));
+      QCOMPARE(editing.shape(), shape);
     });
-    states << editing.document->brand();
   }
-  qsizetype at = states.size() - 1;
-  for (int i = 0; i < 200; ++i) {
-    const bool back = random.below(2) == 0;
-    if (back && at > 0) QCOMPARE(editing.history.undoActionName(), QString::number(at - 1));
-    back ? editing.history.undo() : editing.history.redo();
-    at = std::clamp<qsizetype>(back ? at - 1 : at + 1, 0, states.size() - 1);
-    QVERIFY(editing.document->brand() == states.at(at));
-    QCOMPARE(editing.history.canUndo(), at > 0);
-    QCOMPARE(editing.history.canRedo(), at < states.size() - 1);
-  }
-  editing.history.undo();
-  editing.document->mutate("new", &editing.history, [](Brand& brand) { brand.name = "new"; });
-  QVERIFY(!editing.history.canRedo());
-}
 
-void TestEdits::undoKeepsWhatCameSince() {
-  Editing editing;
-  const auto remove = [&](qsizetype place) {
+  void movesSections() {
+    const Cases<QString, QString, QString> cases{{"to the front", "T", "S", "T:d S:abc"},
+                                                 {"to the end", "S", "", "T:d S:abc"},
+                                                 {"before itself", "S", "S", "S:abc T:d"},
+                                                 {"before none", "S", "?", "T:d S:abc"},
+                                                 {"none", "?", "S", "S:abc T:d"}};
+    cases.check([&](const QString& section, const QString& before, const QString& shape) {
+      Editing editing;
+      editing.document->moveSection(editing.id(section), editing.optionalId(before));
+      QCOMPARE(editing.shape(), shape);
+    });
+  }
+
+  void addsToASectionThatIsThere() {
+    Editing editing;
+    QSignalSpy changes(editing.document.get(), &BrandDocument::brandChanged);
+    editing.document->addItem(Item::create(TextPayload{"e"}), editing.id("T"));
+    editing.document->addItem(Item::create(TextPayload{"f"}), editing.id("?"));
+    QCOMPARE(changes.size(), 1);
+    QCOMPARE(editing.shape(), "S:abc T:de");
+  }
+
+  void undoAndRedoWalkThroughWholeBrands() {
+    Editing editing;
+    RandomBrand random(5);
+    QList<Brand> states{editing.document->brand()};
+    for (int i = 0; i < 20; ++i) {
+      editing.document->mutate(QString::number(i), &editing.history, [&](Brand& brand) {
+        brand.sections[random.below(int(brand.sections.size()))].items.append(random.item());
+      });
+      states << editing.document->brand();
+    }
+    qsizetype at = states.size() - 1;
+    for (int i = 0; i < 200; ++i) {
+      const bool back = random.below(2) == 0;
+      if (back && at > 0) QCOMPARE(editing.history.undoActionName(), QString::number(at - 1));
+      back ? editing.history.undo() : editing.history.redo();
+      at = std::clamp<qsizetype>(back ? at - 1 : at + 1, 0, states.size() - 1);
+      QVERIFY(editing.document->brand() == states.at(at));
+      QCOMPARE(editing.history.canUndo(), at > 0);
+      QCOMPARE(editing.history.canRedo(), at < states.size() - 1);
+    }
+    editing.history.undo();
+    editing.document->mutate("new", &editing.history, [](Brand& brand) { brand.name = "new"; });
+    QVERIFY(!editing.history.canRedo());
+  }
+
+  void undoKeepsWhatCameSince() {
+    Editing editing;
+    const auto remove = [&](qsizetype place) {
+      editing.document->mutate("Delete", &editing.history,
+                               [&](Brand& brand) { brand.sections[0].items.takeAt(place); });
+    };
+    const auto import = [&](const QString& name) {
+      editing.document->addItem(Item::create(TextPayload{name}), editing.id("S"));
+    };
+    remove(1);
+    import("x");
+    remove(0);
+    editing.document->saveNow();
+    QCOMPARE(editing.shape(), "S:cx T:d");
+    editing.history.undo();
+    import("y");
+    QCOMPARE(editing.shape(), "S:acxy T:d");
+    editing.history.undo();
+    QCOMPARE(editing.shape(), "S:abcxy T:d");
+    editing.history.redo();
+    QCOMPARE(editing.shape(), "S:acxy T:d");
+    import("z");
+    editing.history.redo();
+    QCOMPARE(editing.shape(), "S:cxyz T:d");
+    editing.history.undo();
+    QCOMPARE(editing.shape(), "S:acxyz T:d");
+  }
+
+  void aChangeThatChangesNothingIsNoStep() {
+    Editing editing;
+    editing.document->saveNow();
+    QSignalSpy changes(editing.document.get(), &BrandDocument::brandChanged);
+    editing.document->mutate("Delete", &editing.history, [](Brand& brand) {
+      brand.sections[0].items[0] = Item(brand.sections[0].items.at(0));
+    });
+    QVERIFY(changes.isEmpty() && !editing.history.canUndo());
+  }
+
+  void undoReachesTheFile() {
+    Editing editing;
+    editing.document->saveNow();
     editing.document->mutate("Delete", &editing.history,
-                             [&](Brand& brand) { brand.sections[0].items.takeAt(place); });
-  };
-  const auto import = [&](const QString& name) {
-    editing.document->addItem(Item::create(TextPayload{name}), editing.id("S"));
-  };
-  remove(1);
-  import("x");
-  remove(0);
-  editing.document->saveNow();
-  QCOMPARE(editing.shape(), "S:cx T:d");
-  editing.history.undo();
-  import("y");
-  QCOMPARE(editing.shape(), "S:acxy T:d");
-  editing.history.undo();
-  QCOMPARE(editing.shape(), "S:abcxy T:d");
-  editing.history.redo();
-  QCOMPARE(editing.shape(), "S:acxy T:d");
-  import("z");
-  editing.history.redo();
-  QCOMPARE(editing.shape(), "S:cxyz T:d");
-  editing.history.undo();
-  QCOMPARE(editing.shape(), "S:acxyz T:d");
-}
+                             [](Brand& brand) { brand.sections[0].items.takeAt(0); });
+    QTRY_COMPARE_WITH_TIMEOUT(decode<Brand>(editing.manifest())->sections[0].items.size(), 2, 2000);
+    editing.history.undo();
+    QTRY_COMPARE_WITH_TIMEOUT(decode<Brand>(editing.manifest())->sections[0].items.size(), 3, 2000);
+  }
 
-void TestEdits::aChangeThatChangesNothingIsNoStep() {
-  Editing editing;
-  editing.document->saveNow();
-  QSignalSpy changes(editing.document.get(), &BrandDocument::brandChanged);
-  editing.document->mutate("Delete", &editing.history, [](Brand& brand) {
-    brand.sections[0].items[0] = Item(brand.sections[0].items.at(0));
-  });
-  QVERIFY(changes.isEmpty() && !editing.history.canUndo());
-}
+  void undoOutlivesTheDocument() {
+    Editing editing;
+    editing.document->mutate("Delete", &editing.history, [](Brand& brand) { brand.name = "x"; });
+    editing.document.reset();
+    editing.history.undo();
+    QVERIFY(!editing.history.canRedo());
+  }
 
-void TestEdits::undoReachesTheFile() {
-  Editing editing;
-  editing.document->saveNow();
-  editing.document->mutate("Delete", &editing.history,
-                           [](Brand& brand) { brand.sections[0].items.takeAt(0); });
-  QTRY_COMPARE_WITH_TIMEOUT(decode<Brand>(editing.manifest())->sections[0].items.size(), 2, 2000);
-  editing.history.undo();
-  QTRY_COMPARE_WITH_TIMEOUT(decode<Brand>(editing.manifest())->sections[0].items.size(), 3, 2000);
-}
+  void importsFiles() {
+    const Cases<QString, QString> cases{
+        {"plain", "Mark.PNG", "PNG"}, {"none", "Mark", "dat"}, {"odd", "a b ü.tar.gz", "gz"}};
+    cases.check([&](const QString& name, const QString& extension) {
+      Editing editing;
+      const QByteArray content(3'000'000, 'x');
+      QVERIFY(writeFile(editing.disk.path(name), content));
+      QVERIFY(QDir(Package::assetsPath(editing.document->packageURL())).removeRecursively());
+      const auto asset = editing.document->importAsset(editing.disk.path(name));
+      QVERIFY(asset);
+      QCOMPARE(asset->originalName, name);
+      const QRegularExpression form("^[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}\\." + extension +
+                                    '$');
+      QVERIFY2(form.match(asset->filename).hasMatch(), qPrintable(asset->filename));
+      const QString assets = Package::assetsPath(editing.document->packageURL()) + '/';
+      QCOMPARE(contentOf(assets + asset->filename), content);
+      const auto pasted = editing.document->importImageData("bytes", "Pasted", extension);
+      QCOMPARE(pasted->originalName, "Pasted");
+      QCOMPARE(contentOf(assets + pasted->filename), "bytes");
+    });
+  }
 
-void TestEdits::undoOutlivesTheDocument() {
-  Editing editing;
-  editing.document->mutate("Delete", &editing.history, [](Brand& brand) { brand.name = "x"; });
-  editing.document.reset();
-  editing.history.undo();
-  QVERIFY(!editing.history.canRedo());
-}
+  void failedImportsLeaveNothing() {
+    Editing editing;
+    const Brand before = editing.document->brand();
+    QVERIFY(!editing.document->importAsset(editing.disk.path("missing.png")));
+    QVERIFY(!editing.document->importAsset(editing.disk.folder.path()));
+    QVERIFY(!editing.document->importImageData("x", "x", "no/such"));
+    QVERIFY(QDir(Package::assetsPath(editing.document->packageURL())).isEmpty());
+    QVERIFY(editing.document->brand() == before);
+  }
 
-void TestEdits::importsFiles_data() {
-  QTest::addColumn<QString>("name");
-  QTest::addColumn<QString>("extension");
-  QTest::newRow("plain") << "Mark.PNG"
-                         << "PNG";
-  QTest::newRow("none") << "Mark"
-                        << "dat";
-  QTest::newRow("odd") << "a b ü.tar.gz"
-                       << "gz";
-}
-
-void TestEdits::importsFiles() {
-  QFETCH(QString, name);
-  QFETCH(QString, extension);
-  Editing editing;
-  const QByteArray content(3'000'000, 'x');
-  QVERIFY(writeFile(editing.disk.path(name), content));
-  QVERIFY(QDir(Package::assetsPath(editing.document->packageURL())).removeRecursively());
-  const auto asset = editing.document->importAsset(editing.disk.path(name));
-  QVERIFY(asset);
-  QCOMPARE(asset->originalName, name);
-  const QRegularExpression form("^[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}\\." + extension + '$');
-  QVERIFY2(form.match(asset->filename).hasMatch(), qPrintable(asset->filename));
-  const QString assets = Package::assetsPath(editing.document->packageURL()) + '/';
-  QCOMPARE(contentOf(assets + asset->filename), content);
-  const auto pasted = editing.document->importImageData("bytes", "Pasted", extension);
-  QCOMPARE(pasted->originalName, "Pasted");
-  QCOMPARE(contentOf(assets + pasted->filename), "bytes");
-}
-
-void TestEdits::failedImportsLeaveNothing() {
-  Editing editing;
-  const Brand before = editing.document->brand();
-  QVERIFY(!editing.document->importAsset(editing.disk.path("missing.png")));
-  QVERIFY(!editing.document->importAsset(editing.disk.folder.path()));
-  QVERIFY(!editing.document->importImageData("x", "x", "no/such"));
-  QVERIFY(QDir(Package::assetsPath(editing.document->packageURL())).isEmpty());
-  QVERIFY(editing.document->brand() == before);
-}
-
-void TestEdits::importsNothingThroughALinkThatLeadsOut() {
-  Editing editing;
-  const QString assets = Package::assetsPath(editing.document->packageURL());
-  const QString outside = editing.disk.path("outside");
-  QVERIFY(QDir().mkpath(outside) && QDir(assets).removeRecursively());
-  QVERIFY(QFile::link(outside, assets));
-  QVERIFY(writeFile(editing.disk.path("a.png"), "x"));
-  QVERIFY(!editing.document->importAsset(editing.disk.path("a.png")));
-  QVERIFY(!editing.document->importImageData("x", "x", "png"));
-  QVERIFY(QDir(outside).isEmpty());
-}
+  void importsNothingThroughALinkThatLeadsOut() {
+    Editing editing;
+    const QString assets = Package::assetsPath(editing.document->packageURL());
+    const QString outside = editing.disk.path("outside");
+    QVERIFY(QDir().mkpath(outside) && QDir(assets).removeRecursively());
+    QVERIFY(QFile::link(outside, assets));
+    QVERIFY(writeFile(editing.disk.path("a.png"), "x"));
+    QVERIFY(!editing.document->importAsset(editing.disk.path("a.png")));
+    QVERIFY(!editing.document->importImageData("x", "x", "png"));
+    QVERIFY(QDir(outside).isEmpty());
+  }
+};
 
 QTEST_GUILESS_MAIN(TestEdits)
 #include "tst_edits.moc"

@@ -1,6 +1,7 @@
 #include "document/BrandDocument.h"
 #include "document/Package.h"
 #include "model/Json.h"
+#include "testing/Cases.h"
 #include "testing/FaultyStore.h"
 #include "testing/TestServices.h"
 
@@ -9,24 +10,6 @@
 #include <utility>
 
 using namespace tarnloft;
-
-// Saves that go wrong: each of the steps fails, or the power goes behind each of them.
-class TestSaving : public QObject {
-  Q_OBJECT
-
- private slots:
-  void theStepsAreThoseWrittenDown();
-  void aCutLeavesTheOldFileOrTheNewOne();
-  void aFailedStepLeavesTheOldFileAndOneLine();
-  void afterAFailedSyncOfTheFolderTheNewFileStands();
-  void aManifestThatLeadsOutIsNeitherReadNorFollowed();
-  void whatCouldNotBeReadAgainIsNotWritten();
-  void anotherMachinesManifestOfAnyMomentIsKept_data();
-  void anotherMachinesManifestOfAnyMomentIsKept();
-  void whatAKilledSaveDisplacedIsKept();
-  void bytesOfANewerProgramAreKept_data();
-  void bytesOfANewerProgramAreKept();
-};
 
 namespace {
 
@@ -42,7 +25,7 @@ struct Saving {
 
   Saving() {
     const DocumentServices services{store, disk.log, [this] { return disk.now; }};
-    document = *BrandDocument::create(services, disk.folder.path(), QStringLiteral("Acme"));
+    document = *BrandDocument::create(services, disk.folder.path(), "Acme");
     manifest = Package::manifestPath(document->packageURL());
     before = contentOf(manifest);
   }
@@ -51,86 +34,14 @@ struct Saving {
     store.fault = fault;
     store.atStep = atStep;
     store.steps = 0;
-    document->edit([](Brand& brand) { brand.name = QStringLiteral("Edited"); });
+    document->edit([](Brand& brand) { brand.name = "Edited"; });
     document->saveNow();
   }
   QByteArray after() const { return *encode(document->brand()); }
   QStringList strays() const {
-    return QDir(document->packageURL())
-        .entryList({QStringLiteral(".*")}, QDir::Files | QDir::Hidden);
+    return QDir(document->packageURL()).entryList({".*"}, QDir::Files | QDir::Hidden);
   }
 };
-
-}  // namespace
-
-void TestSaving::theStepsAreThoseWrittenDown() {
-  Saving saving;
-  saving.save(FaultyStore::Fault::none, 0);
-  QCOMPARE(saving.store.steps, stepsOfASave);
-  QCOMPARE(contentOf(saving.manifest), saving.after());
-  QVERIFY(saving.strays().isEmpty());
-}
-
-void TestSaving::aCutLeavesTheOldFileOrTheNewOne() {
-  for (int step = 0; step <= stepsOfASave; ++step) {
-    Saving saving;
-    saving.save(FaultyStore::Fault::cutBehind, step);
-    const bool replacedByThen = step >= exchangeStep;
-    QCOMPARE(contentOf(saving.manifest), replacedByThen ? saving.after() : saving.before);
-    QVERIFY(BrandDocument::load(saving.disk.services(), saving.document->packageURL()));
-    QVERIFY(saving.strays().size() <= 1);
-    for (const QString& stray : saving.strays())
-      QVERIFY(stray.startsWith(QStringLiteral(".tarnloft-")));
-  }
-}
-
-void TestSaving::aFailedStepLeavesTheOldFileAndOneLine() {
-  for (int step = 1; step <= exchangeStep; ++step) {
-    Saving saving;
-    saving.save(FaultyStore::Fault::failStep, step);
-    QCOMPARE(contentOf(saving.manifest), saving.before);
-    QVERIFY(saving.strays().isEmpty());
-    QCOMPARE(saving.disk.log.lines,
-             QStringList(QStringLiteral("failed to save ") + saving.manifest +
-                         QStringLiteral(": No space left on device")));
-    QCOMPARE(saving.document->brand().name, QStringLiteral("Edited"));
-    QCOMPARE(saving.document->saveProblem(), QStringLiteral("No space left on device"));
-    QVERIFY(saving.document->hasUnsavedChanges());
-    saving.store.fault = FaultyStore::Fault::none;
-    saving.document->saveNow();
-    QCOMPARE(contentOf(saving.manifest), saving.after());
-    QVERIFY(saving.document->saveProblem().isEmpty() && !saving.document->hasUnsavedChanges());
-  }
-}
-
-void TestSaving::afterAFailedSyncOfTheFolderTheNewFileStands() {
-  Saving saving;
-  saving.save(FaultyStore::Fault::failStep, stepsOfASave);
-  QCOMPARE(contentOf(saving.manifest), saving.after());
-  QCOMPARE(saving.disk.log.lines.size(), 1);
-}
-
-void TestSaving::aManifestThatLeadsOutIsNeitherReadNorFollowed() {
-  Saving saving;
-  const QString outside = saving.disk.path(QStringLiteral("outside.json"));
-  QVERIFY(QFile::rename(saving.manifest, outside));
-  QVERIFY(QFile::link(outside, saving.manifest));
-  QVERIFY(!BrandDocument::load(saving.disk.services(), saving.document->packageURL()));
-  saving.save(FaultyStore::Fault::none, 0);
-  QCOMPARE(contentOf(outside), saving.before);
-  QVERIFY(!QFileInfo(saving.manifest).isSymLink());
-}
-
-void TestSaving::whatCouldNotBeReadAgainIsNotWritten() {
-  Saving saving;
-  saving.document->edit([](Brand& brand) { brand.name = QString(65 << 20, QChar('x')); });
-  saving.document->saveNow();
-  QCOMPARE(contentOf(saving.manifest), saving.before);
-  QVERIFY(!saving.document->saveProblem().isEmpty());
-  QVERIFY(saving.strays().isEmpty());
-}
-
-namespace {
 
 // The real disk, on which another machine does something at chosen moments of a save.
 class SharedStore : public PosixFileStore {
@@ -148,95 +59,153 @@ class SharedStore : public PosixFileStore {
 
 }  // namespace
 
-void TestSaving::anotherMachinesManifestOfAnyMomentIsKept_data() {
-  QTest::addColumn<bool>("isBehind");
-  QTest::addColumn<bool>("isBlocked");
-  QTest::newRow("between the comparison and the exchange") << false << false;
-  QTest::newRow("right behind the exchange") << true << false;
-  QTest::newRow("while no version can be written") << false << true;
-}
+// Saves that go wrong: each of the steps fails, or the power goes behind each of them.
+class TestSaving : public QObject {
+  Q_OBJECT
 
-void TestSaving::anotherMachinesManifestOfAnyMomentIsKept() {
-  QFETCH(bool, isBehind);
-  QFETCH(bool, isBlocked);
-  TestServices disk;
-  SharedStore store;
-  const DocumentServices services{store, disk.log, [&] { return disk.now; }};
-  const auto document = *BrandDocument::create(services, disk.folder.path(), "Acme");
-  const QString manifest = Package::manifestPath(document->packageURL());
-  const QString versionsPath = Package::versionsPath(document->packageURL());
-  if (isBlocked) QVERIFY(writeFile(versionsPath, "no folder"));
-  const auto arrive = [&] {
-    Brand theirs = document->brand();
+ private slots:
+  void theStepsAreThoseWrittenDown() {
+    Saving saving;
+    saving.save(FaultyStore::Fault::none, 0);
+    QCOMPARE(saving.store.steps, stepsOfASave);
+    QCOMPARE(contentOf(saving.manifest), saving.after());
+    QVERIFY(saving.strays().isEmpty());
+  }
+
+  void aCutLeavesTheOldFileOrTheNewOne() {
+    for (int step = 0; step <= stepsOfASave; ++step) {
+      Saving saving;
+      saving.save(FaultyStore::Fault::cutBehind, step);
+      const bool replacedByThen = step >= exchangeStep;
+      QCOMPARE(contentOf(saving.manifest), replacedByThen ? saving.after() : saving.before);
+      QVERIFY(BrandDocument::load(saving.disk.services(), saving.document->packageURL()));
+      QVERIFY(saving.strays().size() <= 1);
+      for (const QString& stray : saving.strays()) QVERIFY(stray.startsWith(".tarnloft-"));
+    }
+  }
+
+  void aFailedStepLeavesTheOldFileAndOneLine() {
+    for (int step = 1; step <= exchangeStep; ++step) {
+      Saving saving;
+      saving.save(FaultyStore::Fault::failStep, step);
+      QCOMPARE(contentOf(saving.manifest), saving.before);
+      QVERIFY(saving.strays().isEmpty());
+      QCOMPARE(saving.disk.log.lines,
+               QStringList("failed to save " + saving.manifest + ": No space left on device"));
+      QCOMPARE(saving.document->brand().name, "Edited");
+      QCOMPARE(saving.document->saveProblem(), "No space left on device");
+      QVERIFY(saving.document->hasUnsavedChanges());
+      saving.store.fault = FaultyStore::Fault::none;
+      saving.document->saveNow();
+      QCOMPARE(contentOf(saving.manifest), saving.after());
+      QVERIFY(saving.document->saveProblem().isEmpty() && !saving.document->hasUnsavedChanges());
+    }
+  }
+
+  void afterAFailedSyncOfTheFolderTheNewFileStands() {
+    Saving saving;
+    saving.save(FaultyStore::Fault::failStep, stepsOfASave);
+    QCOMPARE(contentOf(saving.manifest), saving.after());
+    QCOMPARE(saving.disk.log.lines.size(), 1);
+  }
+
+  void aManifestThatLeadsOutIsNeitherReadNorFollowed() {
+    Saving saving;
+    const QString outside = saving.disk.path("outside.json");
+    QVERIFY(QFile::rename(saving.manifest, outside));
+    QVERIFY(QFile::link(outside, saving.manifest));
+    QVERIFY(!BrandDocument::load(saving.disk.services(), saving.document->packageURL()));
+    saving.save(FaultyStore::Fault::none, 0);
+    QCOMPARE(contentOf(outside), saving.before);
+    QVERIFY(!QFileInfo(saving.manifest).isSymLink());
+  }
+
+  void whatCouldNotBeReadAgainIsNotWritten() {
+    Saving saving;
+    saving.document->edit([](Brand& brand) { brand.name = QString(65 << 20, QChar('x')); });
+    saving.document->saveNow();
+    QCOMPARE(contentOf(saving.manifest), saving.before);
+    QVERIFY(!saving.document->saveProblem().isEmpty());
+    QVERIFY(saving.strays().isEmpty());
+  }
+
+  void anotherMachinesManifestOfAnyMomentIsKept() {
+    const Cases<bool, bool> cases{{"between the comparison and the exchange", false, false},
+                                  {"right behind the exchange", true, false},
+                                  {"while no version can be written", false, true}};
+    cases.check([&](bool isBehind, bool isBlocked) {
+      TestServices disk;
+      SharedStore store;
+      const DocumentServices services{store, disk.log, [&] { return disk.now; }};
+      const auto document = *BrandDocument::create(services, disk.folder.path(), "Acme");
+      const QString manifest = Package::manifestPath(document->packageURL());
+      const QString versionsPath = Package::versionsPath(document->packageURL());
+      if (isBlocked) QVERIFY(writeFile(versionsPath, "no folder"));
+      const auto arrive = [&] {
+        Brand theirs = document->brand();
+        theirs.name = "Theirs";
+        QVERIFY(writeFile(manifest + ".new", *encode(theirs)));
+        QVERIFY(QFile::remove(manifest) && QFile::rename(manifest + ".new", manifest));
+      };
+      (isBehind ? store.afterExchange : store.beforeExchange) = arrive;
+      for (const char* name : {"Ours", "Ours again"}) {
+        document->edit([&](Brand& brand) { brand.name = name; });
+        document->saveNow();
+        if (!QFileInfo(versionsPath).isFile()) continue;
+        QCOMPARE(decode<Brand>(contentOf(manifest))->name, "Theirs");
+        QVERIFY(document->hasUnsavedChanges() && QFile::remove(versionsPath));
+      }
+      const auto versions = document->listVersions();
+      QCOMPARE(versions.size(), 1);
+      QCOMPARE(
+          PackageVersions(store, document->packageURL()).read(versions.first().url)->brand.name,
+          "Theirs");
+      QCOMPARE(decode<Brand>(contentOf(manifest))->name, "Ours again");
+    });
+  }
+
+  void whatAKilledSaveDisplacedIsKept() {
+    Saving saving;
+    const QString package = saving.document->packageURL();
+    Brand theirs = saving.document->brand();
+    theirs.updatedAt += std::chrono::hours(1);
+    QVERIFY(writeFile(package + "/.tarnloft-1", *encode(theirs)));  // nothing that we don't have
     theirs.name = "Theirs";
-    QVERIFY(writeFile(manifest + ".new", *encode(theirs)));
-    QVERIFY(QFile::remove(manifest) && QFile::rename(manifest + ".new", manifest));
-  };
-  (isBehind ? store.afterExchange : store.beforeExchange) = arrive;
-  for (const char* name : {"Ours", "Ours again"}) {
-    document->edit([&](Brand& brand) { brand.name = name; });
-    document->saveNow();
-    if (!QFileInfo(versionsPath).isFile()) continue;
-    QCOMPARE(decode<Brand>(contentOf(manifest))->name, "Theirs");
-    QVERIFY(document->hasUnsavedChanges() && QFile::remove(versionsPath));
+    QVERIFY(writeFile(package + "/.tarnloft-2", *encode(theirs)));
+    QVERIFY(writeFile(package + "/.tarnloft-3", encode(theirs)->chopped(9)));
+    QVERIFY(writeFile(package + "/.tarnloft-4", *encode(Brand::create("Another"))));
+    for (int start = 0; start < 2; ++start) {
+      BrandDocument::load(saving.disk.services(), package)->sweep();
+      const auto versions = PackageVersions(saving.store, package).list();
+      QCOMPARE(versions.size(), 1);
+      const auto kept = PackageVersions(saving.store, package).read(versions.first().url);
+      QCOMPARE(kept->brand, asWritten(theirs));
+    }
   }
-  const auto versions = document->listVersions();
-  QCOMPARE(versions.size(), 1);
-  QCOMPARE(PackageVersions(store, document->packageURL()).read(versions.first().url)->brand.name,
-           "Theirs");
-  QCOMPARE(decode<Brand>(contentOf(manifest))->name, "Ours again");
-}
 
-void TestSaving::whatAKilledSaveDisplacedIsKept() {
-  Saving saving;
-  const QString package = saving.document->packageURL();
-  Brand theirs = saving.document->brand();
-  theirs.updatedAt += std::chrono::hours(1);
-  QVERIFY(writeFile(package + "/.tarnloft-1", *encode(theirs)));  // nothing that we don't have
-  theirs.name = "Theirs";
-  QVERIFY(writeFile(package + "/.tarnloft-2", *encode(theirs)));
-  QVERIFY(writeFile(package + "/.tarnloft-3", encode(theirs)->chopped(9)));
-  QVERIFY(writeFile(package + "/.tarnloft-4", *encode(Brand::create("Another"))));
-  for (int start = 0; start < 2; ++start) {
-    BrandDocument::load(saving.disk.services(), package)->sweep();
-    const auto versions = PackageVersions(saving.store, package).list();
-    QCOMPARE(versions.size(), 1);
-    const auto kept = PackageVersions(saving.store, package).read(versions.first().url);
-    QCOMPARE(kept->brand, asWritten(theirs));
+  void bytesOfANewerProgramAreKept() {
+    const Cases<QByteArray, QByteArray, bool> cases{
+        {"ours", "\"id\"", "\"id\"", false},
+        {"a key of the brand", "{\n  \"c", "{ \"boards\": [1],\n  \"c", true},
+        {"a key of a section", "\"name\" : \"Logos\"", "\"name\" : \"Logos\", \"grid\": 3", true},
+        {"another schema", "\"schemaVersion\" : 1", "\"schemaVersion\" : 2", true}};
+    cases.check([&](const QByteArray& from, const QByteArray& to, bool isKept) {
+      Saving saving;
+      const QByteArray newer = QByteArray(saving.before).replace(from, to);
+      QVERIFY((newer != saving.before) == isKept && writeFile(saving.manifest, newer));
+      for (const char* name : {"Once", "Twice"}) {  // each in a start of its own
+        const auto document =
+            BrandDocument::load(saving.disk.services(), saving.document->packageURL());
+        document->edit([&](Brand& brand) { brand.name = name; });
+        document->saveNow();
+      }
+      const QDir versions(Package::versionsPath(saving.document->packageURL()));
+      const QStringList kept = versions.entryList({"*.newer"});
+      QCOMPARE(kept.size(), isKept ? 1 : 0);
+      if (isKept) QCOMPARE(contentOf(versions.filePath(kept.first())), newer);
+    });
   }
-}
-
-void TestSaving::bytesOfANewerProgramAreKept_data() {
-  QTest::addColumn<QByteArray>("from");
-  QTest::addColumn<QByteArray>("to");
-  QTest::addColumn<bool>("isKept");
-  QTest::newRow("ours") << QByteArray("\"id\"") << QByteArray("\"id\"") << false;
-  QTest::newRow("a key of the brand")
-      << QByteArray("{\n  \"c") << QByteArray("{ \"boards\": [1],\n  \"c") << true;
-  QTest::newRow("a key of a section") << QByteArray("\"name\" : \"Logos\"")
-                                      << QByteArray("\"name\" : \"Logos\", \"grid\": 3") << true;
-  QTest::newRow("another schema") << QByteArray("\"schemaVersion\" : 1")
-                                  << QByteArray("\"schemaVersion\" : 2") << true;
-}
-
-void TestSaving::bytesOfANewerProgramAreKept() {
-  QFETCH(QByteArray, from);
-  QFETCH(QByteArray, to);
-  QFETCH(bool, isKept);
-  Saving saving;
-  const QByteArray newer = QByteArray(saving.before).replace(from, to);
-  QVERIFY((newer != saving.before) == isKept && writeFile(saving.manifest, newer));
-  for (const char* name : {"Once", "Twice"}) {  // each in a start of its own
-    const auto document =
-        BrandDocument::load(saving.disk.services(), saving.document->packageURL());
-    document->edit([&](Brand& brand) { brand.name = name; });
-    document->saveNow();
-  }
-  const QDir versions(Package::versionsPath(saving.document->packageURL()));
-  const QStringList kept = versions.entryList({"*.newer"});
-  QCOMPARE(kept.size(), isKept ? 1 : 0);
-  if (isKept) QCOMPARE(contentOf(versions.filePath(kept.first())), newer);
-}
+};
 
 QTEST_GUILESS_MAIN(TestSaving)
 #include "tst_saving.moc"

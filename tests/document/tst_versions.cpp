@@ -2,6 +2,7 @@
 #include "document/Package.h"
 #include "document/UndoHistory.h"
 #include "model/Json.h"
+#include "testing/Cases.h"
 #include "testing/FaultyStore.h"
 #include "testing/TestServices.h"
 
@@ -9,28 +10,6 @@
 
 using namespace tarnloft;
 using namespace std::chrono_literals;
-
-class TestVersions : public QObject {
-  Q_OBJECT
-
- private slots:
-  void listsNewestFirst();
-  void keepsTheThirtyNewest();
-  void restoresInOneUndoStep();
-  void snapshotsByItselfOnceADay();
-  void leavesDamagedFilesAlone();
-  void writesNothingWhenDeadOrLedOut();
-  void keepsWhatAnotherMachineSaved();
-  void aFailedSaveNeitherForgetsNorRepeats();
-  void keepsAForeignManifestThatDoesNotRead();
-  void takesTheSameContentForItsOwn();
-  void doesNotReplaceWhatItCannotKeep();
-  void doesNotReplaceWhatItCannotOpen_data();
-  void doesNotReplaceWhatItCannotOpen();
-  void countsSyncedCopiesApart();
-  void keepsEachContentOnce();
-  void whatWasJustKeptStays();
-};
 
 namespace {
 
@@ -68,225 +47,226 @@ struct Versioned {
 
 }  // namespace
 
-void TestVersions::listsNewestFirst() {
-  Versioned brand;
-  QVERIFY(brand.document->listVersions().isEmpty());
-  QVERIFY(!QFile::exists(brand.versions));
-  for (const char* label : {"a", "b", "c"}) brand.document->snapshotVersion(QString(label));
-  QCOMPARE(brand.labels(), QStringList({"c", "b", "a"}));
-  QCOMPARE(brand.fileNames(),
-           QStringList({"1772357460123-1.json", "1772357460123-2.json", "1772357460123.json"}));
-  QCOMPARE(brand.document->listVersions().size(), 3);
-  brand.disk.now += 5s;
-  brand.document->snapshotVersion(std::nullopt);
-  brand.disk.now -= 60s;
-  brand.document->snapshotVersion(QString("  "));
-  QCOMPARE(brand.labels().first(), "(none)");
-  QCOMPARE(brand.labels().last(), "  ");
-  brand.document->deleteVersion(brand.document->listVersions().first());
-  QCOMPARE(brand.document->listVersions().size(), 4);
-}
+class TestVersions : public QObject {
+  Q_OBJECT
 
-void TestVersions::keepsTheThirtyNewest() {
-  Versioned brand;
-  for (int i = 0; i < 33; ++i) {
-    brand.disk.now += 1s;
-    brand.document->snapshotVersion(QString::number(i));
+ private slots:
+  void listsNewestFirst() {
+    Versioned brand;
+    QVERIFY(brand.document->listVersions().isEmpty());
+    QVERIFY(!QFile::exists(brand.versions));
+    for (const char* label : {"a", "b", "c"}) brand.document->snapshotVersion(QString(label));
+    QCOMPARE(brand.labels(), QStringList({"c", "b", "a"}));
+    QCOMPARE(brand.fileNames(),
+             QStringList({"1772357460123-1.json", "1772357460123-2.json", "1772357460123.json"}));
+    QCOMPARE(brand.document->listVersions().size(), 3);
+    brand.disk.now += 5s;
+    brand.document->snapshotVersion(std::nullopt);
+    brand.disk.now -= 60s;
+    brand.document->snapshotVersion(QString("  "));
+    QCOMPARE(brand.labels().first(), "(none)");
+    QCOMPARE(brand.labels().last(), "  ");
+    brand.document->deleteVersion(brand.document->listVersions().first());
+    QCOMPARE(brand.document->listVersions().size(), 4);
   }
-  QCOMPARE(brand.fileNames().size(), 30);
-  QCOMPARE(brand.labels().first(), "32");
-  QCOMPARE(brand.labels().last(), "3");
-}
 
-void TestVersions::restoresInOneUndoStep() {
-  Versioned brand;
-  UndoHistory history;
-  brand.rename("Original");
-  brand.document->snapshotVersion(QString("v1"));
-  const BrandVersion version = brand.document->listVersions().first();
-  brand.document->restoreVersion(version, &history);
-  QVERIFY(!history.canUndo() || brand.document->brand().name == "Original");
-  brand.rename("Edited");
-  const Brand edited = brand.document->brand();
-  brand.document->restoreVersion(version, &history);
-  QCOMPARE(brand.document->brand().name, "Original");
-  QCOMPARE(history.undoActionName(), "Restore Version");
-  history.undo();
-  QVERIFY(brand.document->brand() == edited);
-  brand.document->restoreVersion({brand.versions + "/missing.json", {}, {}}, &history);
-  QVERIFY(brand.document->brand() == edited);
-}
-
-void TestVersions::snapshotsByItselfOnceADay() {
-  Versioned brand;
-  brand.document->maybeAutoSnapshot();
-  brand.document->maybeAutoSnapshot();
-  QCOMPARE(brand.labels(), QStringList("Initial"));
-  brand.disk.now += 24h - 2s;
-  brand.document->maybeAutoSnapshot();
-  QCOMPARE(brand.labels().size(), 1);
-  brand.disk.now += 3s;
-  brand.document->maybeAutoSnapshot();
-  QCOMPARE(brand.labels(), QStringList({"Daily", "Initial"}));
-  brand.disk.now += 23h;
-  brand.document->snapshotVersion(QString("mine"));
-  brand.disk.now += 23h;
-  brand.document->maybeAutoSnapshot();
-  QCOMPARE(brand.labels().size(), 3);
-}
-
-void TestVersions::leavesDamagedFilesAlone() {
-  Versioned brand;
-  brand.document->snapshotVersion(QString("good"));
-  QVERIFY(writeFile(brand.versions + "/1.json", "{"));
-  QVERIFY(writeFile(brand.versions + "/notes.txt", "x"));
-  QVERIFY(QDir().mkpath(brand.versions + "/2.json"));
-  QCOMPARE(brand.labels(), QStringList("good"));
-  QVERIFY(brand.fileNames().contains("1.json"));
-}
-
-void TestVersions::writesNothingWhenDeadOrLedOut() {
-  Versioned brand;
-  const QString outside = brand.disk.path("outside");
-  QVERIFY(writeFile(outside + "/1.json", "{}") && QFile::link(outside, brand.versions));
-  brand.document->snapshotVersion(QString("out"));
-  brand.document->deleteVersion({brand.versions + "/1.json", {}, {}});
-  QCOMPARE(QDir(outside).entryList(QDir::Files | QDir::Hidden), QStringList("1.json"));
-  QVERIFY(QFile::remove(brand.versions));
-  brand.document->invalidate();
-  brand.document->snapshotVersion(QString("dead"));
-  QVERIFY(!QFile::exists(brand.versions));
-}
-
-void TestVersions::keepsWhatAnotherMachineSaved() {
-  Versioned brand;
-  brand.saveElsewhere("Theirs");
-  brand.rename("Ours");
-  brand.document->saveNow();
-  QCOMPARE(decode<Brand>(contentOf(brand.manifest))->name, "Ours");
-  QCOMPARE(brand.labels(), QStringList("Synced copy"));
-  brand.document->saveNow();
-  QCOMPARE(brand.labels().size(), 1);
-  brand.document->restoreVersion(brand.document->listVersions().first(), nullptr);
-  QCOMPARE(brand.document->brand().name, "Theirs");
-}
-
-void TestVersions::aFailedSaveNeitherForgetsNorRepeats() {
-  Versioned brand;
-  brand.saveElsewhere("Theirs");
-  brand.rename("Ours");
-  brand.store.fault = FaultyStore::Fault::failStep;
-  brand.store.steps = 0;
-  brand.store.atStep = 9;  // behind the version's own six steps: the manifest's sync
-  brand.document->saveNow();
-  QCOMPARE(decode<Brand>(contentOf(brand.manifest))->name, "Theirs");
-  QCOMPARE(brand.labels(), QStringList("Synced copy"));
-  brand.store.fault = FaultyStore::Fault::none;
-  brand.document->saveNow();
-  QCOMPARE(decode<Brand>(contentOf(brand.manifest))->name, "Ours");
-  QCOMPARE(brand.labels(), QStringList("Synced copy"));
-}
-
-void TestVersions::keepsAForeignManifestThatDoesNotRead() {
-  Versioned brand;
-  QVERIFY(writeFile(brand.manifest, "{ half of a manif"));
-  brand.document->saveNow();
-  QVERIFY(decode<Brand>(contentOf(brand.manifest)));
-  QCOMPARE(brand.fileNames(), QStringList("1772357460123.unreadable"));
-  QCOMPARE(contentOf(brand.versions + "/1772357460123.unreadable"), "{ half of a manif");
-  QVERIFY(brand.document->listVersions().isEmpty());
-}
-
-void TestVersions::takesTheSameContentForItsOwn() {
-  Versioned brand;
-  const QByteArray content = contentOf(brand.manifest);
-  QVERIFY(QFile::remove(brand.manifest) && writeFile(brand.manifest, content));
-  brand.rename("Ours");
-  brand.document->saveNow();
-  QVERIFY(brand.document->listVersions().isEmpty());
-}
-
-void TestVersions::doesNotReplaceWhatItCannotKeep() {
-  Versioned brand;
-  brand.saveElsewhere("Theirs");
-  const QByteArray theirs = contentOf(brand.manifest);
-  brand.rename("Ours");
-  brand.store.fault = FaultyStore::Fault::failStep;
-  brand.store.steps = 0;
-  brand.store.atStep = 4;  // the version's bytes
-  brand.document->saveNow();
-  QCOMPARE(contentOf(brand.manifest), theirs);
-  QCOMPARE(brand.disk.log.lines.size(), 1);
-  brand.store.fault = FaultyStore::Fault::none;
-  brand.document->saveNow();
-  QCOMPARE(brand.labels(), QStringList("Synced copy"));
-}
-
-void TestVersions::doesNotReplaceWhatItCannotOpen_data() {
-  QTest::addColumn<bool>("isTooLarge");
-  QTest::newRow("too large") << true;
-  QTest::newRow("reading fails") << false;
-}
-
-void TestVersions::doesNotReplaceWhatItCannotOpen() {
-  QFETCH(bool, isTooLarge);
-  Versioned brand;
-  brand.saveElsewhere("Theirs");
-  if (isTooLarge) QVERIFY(QFile::resize(brand.manifest, Package::largestJson + 1));
-  const auto identity = brand.disk.files.identity(brand.manifest);
-  if (!isTooLarge) brand.store.fault = FaultyStore::Fault::failReads;
-  brand.rename("Ours");
-  brand.document->saveNow();
-  QVERIFY(*brand.disk.files.identity(brand.manifest) == *identity);
-  QCOMPARE(brand.disk.log.lines.size(), 1);
-  QVERIFY(brand.document->hasUnsavedChanges());
-}
-
-void TestVersions::countsSyncedCopiesApart() {
-  Versioned brand;
-  brand.document->snapshotVersion(QString("Approved by client"));
-  for (int i = 0; i < 31; ++i) {
-    brand.disk.now += 1s;
-    brand.saveElsewhere(QString("Theirs %1").arg(i));
-    brand.rename(QString("Ours %1").arg(i));
-    brand.document->saveNow();
+  void keepsTheThirtyNewest() {
+    Versioned brand;
+    for (int i = 0; i < 33; ++i) {
+      brand.disk.now += 1s;
+      brand.document->snapshotVersion(QString::number(i));
+    }
+    QCOMPARE(brand.fileNames().size(), 30);
+    QCOMPARE(brand.labels().first(), "32");
+    QCOMPARE(brand.labels().last(), "3");
   }
-  QCOMPARE(brand.labels().count("Synced copy"), 30);
-  QCOMPARE(brand.labels().last(), "Approved by client");
-}
 
-void TestVersions::keepsEachContentOnce() {
-  Versioned brand;
-  for (int i = 0; i < 3; ++i) {
-    brand.disk.now += 1s;
+  void restoresInOneUndoStep() {
+    Versioned brand;
+    UndoHistory history;
+    brand.rename("Original");
+    brand.document->snapshotVersion(QString("v1"));
+    const BrandVersion version = brand.document->listVersions().first();
+    brand.document->restoreVersion(version, &history);
+    QVERIFY(!history.canUndo() || brand.document->brand().name == "Original");
+    brand.rename("Edited");
+    const Brand edited = brand.document->brand();
+    brand.document->restoreVersion(version, &history);
+    QCOMPARE(brand.document->brand().name, "Original");
+    QCOMPARE(history.undoActionName(), "Restore Version");
+    history.undo();
+    QVERIFY(brand.document->brand() == edited);
+    brand.document->restoreVersion({brand.versions + "/missing.json", {}, {}}, &history);
+    QVERIFY(brand.document->brand() == edited);
+  }
+
+  void snapshotsByItselfOnceADay() {
+    Versioned brand;
+    brand.document->maybeAutoSnapshot();
+    brand.document->maybeAutoSnapshot();
+    QCOMPARE(brand.labels(), QStringList("Initial"));
+    brand.disk.now += 24h - 2s;
+    brand.document->maybeAutoSnapshot();
+    QCOMPARE(brand.labels().size(), 1);
+    brand.disk.now += 3s;
+    brand.document->maybeAutoSnapshot();
+    QCOMPARE(brand.labels(), QStringList({"Daily", "Initial"}));
+    brand.disk.now += 23h;
+    brand.document->snapshotVersion(QString("mine"));
+    brand.disk.now += 23h;
+    brand.document->maybeAutoSnapshot();
+    QCOMPARE(brand.labels().size(), 3);
+  }
+
+  void leavesDamagedFilesAlone() {
+    Versioned brand;
+    brand.document->snapshotVersion(QString("good"));
+    QVERIFY(writeFile(brand.versions + "/1.json", "{"));
+    QVERIFY(writeFile(brand.versions + "/notes.txt", "x"));
+    QVERIFY(QDir().mkpath(brand.versions + "/2.json"));
+    QCOMPARE(brand.labels(), QStringList("good"));
+    QVERIFY(brand.fileNames().contains("1.json"));
+  }
+
+  void writesNothingWhenDeadOrLedOut() {
+    Versioned brand;
+    const QString outside = brand.disk.path("outside");
+    QVERIFY(writeFile(outside + "/1.json", "{}") && QFile::link(outside, brand.versions));
+    brand.document->snapshotVersion(QString("out"));
+    brand.document->deleteVersion({brand.versions + "/1.json", {}, {}});
+    QCOMPARE(QDir(outside).entryList(QDir::Files | QDir::Hidden), QStringList("1.json"));
+    QVERIFY(QFile::remove(brand.versions));
+    brand.document->invalidate();
+    brand.document->snapshotVersion(QString("dead"));
+    QVERIFY(!QFile::exists(brand.versions));
+  }
+
+  void keepsWhatAnotherMachineSaved() {
+    Versioned brand;
     brand.saveElsewhere("Theirs");
     brand.rename("Ours");
     brand.document->saveNow();
+    QCOMPARE(decode<Brand>(contentOf(brand.manifest))->name, "Ours");
+    QCOMPARE(brand.labels(), QStringList("Synced copy"));
+    brand.document->saveNow();
+    QCOMPARE(brand.labels().size(), 1);
+    brand.document->restoreVersion(brand.document->listVersions().first(), nullptr);
+    QCOMPARE(brand.document->brand().name, "Theirs");
   }
-  QCOMPARE(brand.labels(), QStringList("Synced copy"));
-}
 
-// Another machine's clock may be ahead.
-void TestVersions::whatWasJustKeptStays() {
-  Versioned brand;
-  brand.disk.now += 24h;
-  for (int i = 0; i < 30; ++i) {
-    brand.disk.now += 1s;
-    brand.saveElsewhere(QString("Theirs %1").arg(i));
+  void aFailedSaveNeitherForgetsNorRepeats() {
+    Versioned brand;
+    brand.saveElsewhere("Theirs");
+    brand.rename("Ours");
+    brand.store.fault = FaultyStore::Fault::failStep;
+    brand.store.steps = 0;
+    brand.store.atStep = 9;  // behind the version's own six steps: the manifest's sync
+    brand.document->saveNow();
+    QCOMPARE(decode<Brand>(contentOf(brand.manifest))->name, "Theirs");
+    QCOMPARE(brand.labels(), QStringList("Synced copy"));
+    brand.store.fault = FaultyStore::Fault::none;
+    brand.document->saveNow();
+    QCOMPARE(decode<Brand>(contentOf(brand.manifest))->name, "Ours");
+    QCOMPARE(brand.labels(), QStringList("Synced copy"));
+  }
+
+  void keepsAForeignManifestThatDoesNotRead() {
+    Versioned brand;
+    QVERIFY(writeFile(brand.manifest, "{ half of a manif"));
+    brand.document->saveNow();
+    QVERIFY(decode<Brand>(contentOf(brand.manifest)));
+    QCOMPARE(brand.fileNames(), QStringList("1772357460123.unreadable"));
+    QCOMPARE(contentOf(brand.versions + "/1772357460123.unreadable"), "{ half of a manif");
+    QVERIFY(brand.document->listVersions().isEmpty());
+  }
+
+  void takesTheSameContentForItsOwn() {
+    Versioned brand;
+    const QByteArray content = contentOf(brand.manifest);
+    QVERIFY(QFile::remove(brand.manifest) && writeFile(brand.manifest, content));
     brand.rename("Ours");
     brand.document->saveNow();
+    QVERIFY(brand.document->listVersions().isEmpty());
   }
-  brand.disk.now -= 48h;
-  brand.saveElsewhere("The newest of theirs");
-  brand.rename("Ours");
-  brand.document->saveNow();
-  const auto versions = brand.document->listVersions();
-  QCOMPARE(versions.size(), 30);
-  QCOMPARE(PackageVersions(brand.store, brand.document->packageURL())
-               .read(versions.last().url)
-               ->brand.name,
-           "The newest of theirs");
-}
+
+  void doesNotReplaceWhatItCannotKeep() {
+    Versioned brand;
+    brand.saveElsewhere("Theirs");
+    const QByteArray theirs = contentOf(brand.manifest);
+    brand.rename("Ours");
+    brand.store.fault = FaultyStore::Fault::failStep;
+    brand.store.steps = 0;
+    brand.store.atStep = 4;  // the version's bytes
+    brand.document->saveNow();
+    QCOMPARE(contentOf(brand.manifest), theirs);
+    QCOMPARE(brand.disk.log.lines.size(), 1);
+    brand.store.fault = FaultyStore::Fault::none;
+    brand.document->saveNow();
+    QCOMPARE(brand.labels(), QStringList("Synced copy"));
+  }
+
+  void doesNotReplaceWhatItCannotOpen() {
+    const Cases<bool> cases{{"too large", true}, {"reading fails", false}};
+    cases.check([&](bool isTooLarge) {
+      Versioned brand;
+      brand.saveElsewhere("Theirs");
+      if (isTooLarge) QVERIFY(QFile::resize(brand.manifest, Package::largestJson + 1));
+      const auto identity = brand.disk.files.identity(brand.manifest);
+      if (!isTooLarge) brand.store.fault = FaultyStore::Fault::failReads;
+      brand.rename("Ours");
+      brand.document->saveNow();
+      QVERIFY(*brand.disk.files.identity(brand.manifest) == *identity);
+      QCOMPARE(brand.disk.log.lines.size(), 1);
+      QVERIFY(brand.document->hasUnsavedChanges());
+    });
+  }
+
+  void countsSyncedCopiesApart() {
+    Versioned brand;
+    brand.document->snapshotVersion(QString("Approved by client"));
+    for (int i = 0; i < 31; ++i) {
+      brand.disk.now += 1s;
+      brand.saveElsewhere(QString("Theirs %1").arg(i));
+      brand.rename(QString("Ours %1").arg(i));
+      brand.document->saveNow();
+    }
+    QCOMPARE(brand.labels().count("Synced copy"), 30);
+    QCOMPARE(brand.labels().last(), "Approved by client");
+  }
+
+  void keepsEachContentOnce() {
+    Versioned brand;
+    for (int i = 0; i < 3; ++i) {
+      brand.disk.now += 1s;
+      brand.saveElsewhere("Theirs");
+      brand.rename("Ours");
+      brand.document->saveNow();
+    }
+    QCOMPARE(brand.labels(), QStringList("Synced copy"));
+  }
+
+  // Another machine's clock may be ahead.
+  void whatWasJustKeptStays() {
+    Versioned brand;
+    brand.disk.now += 24h;
+    for (int i = 0; i < 30; ++i) {
+      brand.disk.now += 1s;
+      brand.saveElsewhere(QString("Theirs %1").arg(i));
+      brand.rename("Ours");
+      brand.document->saveNow();
+    }
+    brand.disk.now -= 48h;
+    brand.saveElsewhere("The newest of theirs");
+    brand.rename("Ours");
+    brand.document->saveNow();
+    const auto versions = brand.document->listVersions();
+    QCOMPARE(versions.size(), 30);
+    QCOMPARE(PackageVersions(brand.store, brand.document->packageURL())
+                 .read(versions.last().url)
+                 ->brand.name,
+             "The newest of theirs");
+  }
+};
 
 QTEST_GUILESS_MAIN(TestVersions)
 #include "tst_versions.moc"

@@ -1,22 +1,12 @@
 #include "entry/application/AppDelegate.h"
 #include "platform/desktop/system/IniPreferences.h"
+#include "testing/Cases.h"
 #include "testing/TestServices.h"
 
 #include <QPointer>
 #include <QTest>
 
 using namespace tarnloft;
-
-class TestAppDelegate : public QObject {
-  Q_OBJECT
-
- private slots:
-  void neverHidesWithoutAWayBack_data();
-  void neverHidesWithoutAWayBack();
-  void comesBackWhenTheTrayGoes();
-  void opensAndRaisesTheMainWindow();
-  void installsOneIcon();
-};
 
 namespace {
 
@@ -49,64 +39,63 @@ struct Running {
 
 }  // namespace
 
-void TestAppDelegate::neverHidesWithoutAWayBack_data() {
-  QTest::addColumn<bool>("keepRunning");
-  QTest::addColumn<bool>("tray");
-  QTest::addColumn<int>("ended");
-  QTest::newRow("wanted, tray") << true << true << 0;
-  QTest::newRow("wanted, none") << true << false << 1;
-  QTest::newRow("not wanted, tray") << false << true << 1;
-  QTest::newRow("not wanted, none") << false << false << 1;
-}
+class TestAppDelegate : public QObject {
+  Q_OBJECT
 
-void TestAppDelegate::neverHidesWithoutAWayBack() {
-  QFETCH(bool, keepRunning);
-  Running running;
-  QVERIFY(running.prefs.keepRunning());
-  running.prefs.setKeepRunning(keepRunning);
-  QCOMPARE(MenuBarPrefs(running.preferences).keepRunning(), keepRunning);
-  QFETCH(bool, tray);
-  running.tray.present = tray;
-  running.delegate.lastWindowClosed();
-  QTEST(running.ended, "ended");
-}
+ private slots:
+  void neverHidesWithoutAWayBack() {
+    const Cases<bool, bool, int> cases{{"wanted, tray", true, true, 0},
+                                       {"wanted, none", true, false, 1},
+                                       {"not wanted, tray", false, true, 1},
+                                       {"not wanted, none", false, false, 1}};
+    cases.check([&](bool keepRunning, bool tray, int ended) {
+      Running running;
+      QVERIFY(running.prefs.keepRunning());
+      running.prefs.setKeepRunning(keepRunning);
+      QCOMPARE(MenuBarPrefs(running.preferences).keepRunning(), keepRunning);
+      running.tray.present = tray;
+      running.delegate.lastWindowClosed();
+      QCOMPARE(running.ended, ended);
+    });
+  }
 
-void TestAppDelegate::comesBackWhenTheTrayGoes() {
-  Running running;
-  running.delegate.lastWindowClosed();
-  running.tray.present = false;
-  QTRY_COMPARE_WITH_TIMEOUT(running.opened, 1, 20'000);
-  QCOMPARE(running.ended, 0);
-}
+  void comesBackWhenTheTrayGoes() {
+    Running running;
+    running.delegate.lastWindowClosed();
+    running.tray.present = false;
+    QTRY_COMPARE_WITH_TIMEOUT(running.opened, 1, 20'000);
+    QCOMPARE(running.ended, 0);
+  }
 
-void TestAppDelegate::opensAndRaisesTheMainWindow() {
-  Running running;
-  running.delegate.showMainWindow();
-  QCOMPARE(running.opened, 1);
+  void opensAndRaisesTheMainWindow() {
+    Running running;
+    running.delegate.showMainWindow();
+    QCOMPARE(running.opened, 1);
 
-  auto window = std::make_unique<QWindow>();
-  running.delegate.setMainWindow(window.get());
-  window->showMinimized();
-  running.delegate.applicationShouldHandleReopen();
-  QCOMPARE(running.opened, 1);
-  QVERIFY(window->isVisible() && !(window->windowStates() & Qt::WindowMinimized));
+    auto window = std::make_unique<QWindow>();
+    running.delegate.setMainWindow(window.get());
+    window->showMinimized();
+    running.delegate.applicationShouldHandleReopen();
+    QCOMPARE(running.opened, 1);
+    QVERIFY(window->isVisible() && !(window->windowStates() & Qt::WindowMinimized));
 
-  window.reset();
-  running.delegate.showMainWindow();
-  QCOMPARE(running.opened, 2);
-}
+    window.reset();
+    running.delegate.showMainWindow();
+    QCOMPARE(running.opened, 2);
+  }
 
-void TestAppDelegate::installsOneIcon() {
-  Running running;
-  running.delegate.installMenuBar();
-  running.delegate.installMenuBar();
-  QCOMPARE(running.tray.installed, 1);
-  running.tray.clicked();
-  running.tray.menu.front().run();
-  QCOMPARE(running.opened, 2);
-  running.tray.menu.back().run();
-  QCOMPARE(running.ended, 1);
-}
+  void installsOneIcon() {
+    Running running;
+    running.delegate.installMenuBar();
+    running.delegate.installMenuBar();
+    QCOMPARE(running.tray.installed, 1);
+    running.tray.clicked();
+    running.tray.menu.front().run();
+    QCOMPARE(running.opened, 2);
+    running.tray.menu.back().run();
+    QCOMPARE(running.ended, 1);
+  }
+};
 
 QTEST_MAIN(TestAppDelegate)
 #include "tst_appdelegate.moc"

@@ -1,4 +1,5 @@
 #include "model/Json.h"
+#include "testing/Cases.h"
 #include "testing/TestServices.h"
 
 #include <QProcess>
@@ -8,25 +9,6 @@
 #include <unistd.h>
 
 using namespace tarnloft;
-
-// The program as users run it: another process, without a display.
-class TestProgram : public QObject {
-  Q_OBJECT
-
- private slots:
-  void selfTestPassesAndCleansUp();
-  void failedSelfTestCleansUp_data();
-  void failedSelfTestCleansUp();
-  void selfTestKeepsWhatIsDragged();
-  void takesOverTheOldSupportFolderInEveryMode();
-  void looksOnlyInAbsoluteFolders_data();
-  void looksOnlyInAbsoluteFolders();
-  void takesFoldersThatAreNoText();
-  void refusesNamesThatAreNoText_data();
-  void refusesNamesThatAreNoText();
-  void failsWithoutAWord_data();
-  void failsWithoutAWord();
-};
 
 namespace {
 
@@ -71,11 +53,6 @@ struct Program {
   }
 };
 
-QStringList entries(const QString& folder) {
-  return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System |
-                                QDir::NoDotAndDotDot);
-}
-
 // With one picture.
 bool writePackage(const QString& package) {
   Brand brand = Brand::create("Acme");
@@ -87,153 +64,127 @@ bool writePackage(const QString& package) {
 
 }  // namespace
 
-void TestProgram::selfTestPassesAndCleansUp() {
-  Program program;
-  const Run run = program.run({QStringLiteral("--export-page"), QStringLiteral("a"),
-                               QStringLiteral("b"), QStringLiteral("--selftest")});
-  QCOMPARE(run.status, 0);
-  QCOMPARE(run.errors, QByteArray());
-  QList<QByteArray> lines = run.output.split('\n');
-  QCOMPARE(lines.takeFirst(), QByteArray("Tarn Loft self-test"));
-  QCOMPARE(lines.takeLast(), QByteArray());
-  QCOMPARE(lines.takeLast(), QByteArray::number(lines.size() - 2) + " passed, 0 failed");
-  QCOMPARE(lines.takeLast(), QByteArray());
-  for (const QByteArray& line : lines) QVERIFY2(line.startsWith("  ✔ "), line);
-  QCOMPARE(entries(program.path("tmp")), QStringList());
-}
+// The program as users run it: another process, without a display.
+class TestProgram : public QObject {
+  Q_OBJECT
 
-void TestProgram::failedSelfTestCleansUp_data() {
-  QTest::addColumn<QString>("script");
-  QTest::addColumn<QByteArray>("line");
-  QTest::newRow("a full disk") << "trap '' XFSZ; ulimit -f 0; exec \"$t\" --selftest"
-                               << QByteArray("x package saves + reloads  <-- FAILED");
-  QTest::newRow("a reader that is gone")
-      << "mkfifo f; true < f & exec 3> f; wait; \"$t\" --selftest >&3" << QByteArray();
-  QTest::newRow("no temporary folder")
-      << "TMPDIR=$TMPDIR/not/there \"$t\" --selftest" << QByteArray("0 passed, 1 failed");
-}
-
-void TestProgram::failedSelfTestCleansUp() {
-  QFETCH(QString, script);
-  Program program;
-  const Run run = program.runByShell(script);
-  QCOMPARE(run.status, 1);
-  QFETCH(QByteArray, line);
-  QVERIFY(run.output.contains(line));
-  QCOMPARE(entries(program.path("tmp")), QStringList());
-}
-
-void TestProgram::selfTestKeepsWhatIsDragged() {
-  Program program;
-  QVERIFY(writeFile(program.path("tmp/tarnloft-drag/mine.png"), "x"));
-  QCOMPARE(program.run({"--selftest"}).status, 0);
-  QCOMPARE(contentOf(program.path("tmp/tarnloft-drag/mine.png")), "x");
-}
-
-void TestProgram::takesOverTheOldSupportFolderInEveryMode() {
-  Program program;
-  const QString share = program.home.filePath(QStringLiteral("share"));
-  QVERIFY(writeFile(share + QStringLiteral("/Fenwright/x"), "kept"));
-  const Run run = program.run({QStringLiteral("--seed-logo"), QStringLiteral("missing")});
-  QCOMPARE(run.status, 1);
-  QCOMPARE(contentOf(share + QStringLiteral("/Tarn Loft/x")), QByteArray("kept"));
-  QVERIFY(run.output.isEmpty() && run.errors.isEmpty());
-}
-
-void TestProgram::takesFoldersThatAreNoText() {
-  Program program;
-  QVERIFY(writePackage(program.path("p.tarnloft")));
-  const QString moved = "d=$(printf 'caf\\351'); mkdir $d; mv p.tarnloft $d.tarnloft; ";
-  const Run run = program.runByShell(
-      moved +
-      "\"$t\" --seed-logo $d.tarnloft && \"$t\" --export-page $d.tarnloft $d/page.html && "
-      "cat $d/page.html; rm $d/page.html; ls -A $d $d.tarnloft >&2; rm -r $d*");
-  QCOMPARE(run.status, 0);
-  QVERIFY(run.output.contains("<h1>Acme</h1>") && run.output.contains("Acme Logo"));
-  QCOMPARE(run.errors, "caf\351:\n\ncaf\351.tarnloft:\nassets\nmanifest.json\n");
-}
-
-void TestProgram::refusesNamesThatAreNoText_data() {
-  QTest::addColumn<QString>("arguments");
-  QTest::newRow("page") << "--export-page p.tarnloft $d.html";
-  QTest::newRow("page in no folder") << "--export-page p.tarnloft $d/page.html";
-  QTest::newRow("package") << "--export-page $d.tarnloft page.html";
-  QTest::newRow("seeded package") << "--seed-logo $d.tarnloft";
-}
-
-void TestProgram::refusesNamesThatAreNoText() {
-  QFETCH(QString, arguments);
-  Program program;
-  QVERIFY(writePackage(program.path("p.tarnloft")));
-  const Run run = program.runByShell("d=$(printf 'caf\\351'); exec \"$t\" " + arguments);
-  QCOMPARE(run.status, 1);
-  QVERIFY(run.output.isEmpty() && run.errors.isEmpty());
-  QCOMPARE(entries(program.home.path()), QStringList({"p.tarnloft", "tmp"}));
-}
-
-void TestProgram::looksOnlyInAbsoluteFolders_data() {
-  QTest::addColumn<QString>("home");
-  QTest::addColumn<QString>("data");
-  QTest::addColumn<QString>("found");
-  QTest::newRow("relative data") << "%1"
-                                 << "share"
-                                 << ".local/share";
-  QTest::newRow("relative data with a dot") << "%1"
-                                            << "./share"
-                                            << ".local/share";
-  QTest::newRow("no data") << "%1"
-                           << ""
-                           << ".local/share";
-  QTest::newRow("relative home") << "home"
-                                 << "%1/share"
-                                 << "share";
-  QTest::newRow("nothing absolute") << "home"
-                                    << "share"
-                                    << "";
-}
-
-// The old support folder is taken over where the program looks for its data.
-void TestProgram::looksOnlyInAbsoluteFolders() {
-  QFETCH(QString, home);
-  QFETCH(QString, data);
-  QFETCH(QString, found);
-  const passwd* const user = ::getpwuid(::getuid());
-  if (user && QFile::exists(QFile::decodeName(user->pw_dir) + "/.local/share/Fenwright")) {
-    QSKIP("The user's own folder of that name isn't for tests");
+ private slots:
+  void selfTestPassesAndCleansUp() {
+    Program program;
+    const Run run = program.run({"--export-page", "a", "b", "--selftest"});
+    QCOMPARE(run.status, 0);
+    QCOMPARE(run.errors, QByteArray());
+    QList<QByteArray> lines = run.output.split('\n');
+    QCOMPARE(lines.takeFirst(), QByteArray("Tarn Loft self-test"));
+    QCOMPARE(lines.takeLast(), QByteArray());
+    QCOMPARE(lines.takeLast(), QByteArray::number(lines.size() - 2) + " passed, 0 failed");
+    QCOMPARE(lines.takeLast(), QByteArray());
+    for (const QByteArray& line : lines) QVERIFY2(line.startsWith("  ✔ "), line);
+    QCOMPARE(namesIn(program.path("tmp")), QStringList());
   }
-  Program program;
-  program.set("HOME", home.replace("%1", program.home.path()));
-  program.set("XDG_DATA_HOME", data.replace("%1", program.home.path()));
-  QStringList folders{".local/share", "share", "home/.local/share"};
-  for (const QString& each : folders) QVERIFY(QDir().mkpath(program.path(each + "/Fenwright")));
-  QCOMPARE(program.run({"--seed-logo", "missing"}).status, 1);
-  if (!found.isEmpty()) QVERIFY(QFile::exists(program.path(found + "/Tarn Loft")));
-  folders.removeOne(found);
-  for (const QString& each : folders) QVERIFY(QFile::exists(program.path(each + "/Fenwright")));
-}
 
-void TestProgram::failsWithoutAWord_data() {
-  QTest::addColumn<QStringList>("arguments");
-  QTest::newRow("no package") << QStringList{QStringLiteral("--export-page"), QStringLiteral("x"),
-                                             QStringLiteral("page.html")};
-  QTest::newRow("a name with a line break")
-      << QStringList{QStringLiteral("--seed-logo"), QStringLiteral("a\nb")};
-  QTest::newRow("an empty path") << QStringList{QStringLiteral("--seed-logo"), QString()};
-  QTest::newRow("an empty path to a page") << QStringList{"--export-page", "", "page.html"};
-  QTest::newRow("a page of an empty path") << QStringList{"--export-page", "p.tarnloft", ""};
-  QTest::newRow("the root") << QStringList{QStringLiteral("--export-page"), QStringLiteral("/"),
-                                           QStringLiteral("/")};
-}
+  void failedSelfTestCleansUp() {
+    const Cases<QString, QByteArray> cases{
+        {"a full disk", "trap '' XFSZ; ulimit -f 0; exec \"$t\" --selftest",
+         "x package saves + reloads  <-- FAILED"},
+        {"a reader that is gone", "mkfifo f; true < f & exec 3> f; wait; \"$t\" --selftest >&3",
+         ""},
+        {"no temporary folder", "TMPDIR=$TMPDIR/not/there \"$t\" --selftest",
+         "0 passed, 1 failed"}};
+    cases.check([&](const QString& script, const QByteArray& line) {
+      Program program;
+      const Run run = program.runByShell(script);
+      QCOMPARE(run.status, 1);
+      QVERIFY(run.output.contains(line));
+      QCOMPARE(namesIn(program.path("tmp")), QStringList());
+    });
+  }
 
-void TestProgram::failsWithoutAWord() {
-  QFETCH(QStringList, arguments);
-  Program program;
-  QVERIFY(writePackage(program.path("p.tarnloft")));
-  const Run run = program.run(arguments);
-  QCOMPARE(run.status, 1);
-  QVERIFY(run.output.isEmpty() && run.errors.isEmpty());
-  QVERIFY(!QFile::exists(program.home.filePath(QStringLiteral("page.html"))));
-}
+  void selfTestKeepsWhatIsDragged() {
+    Program program;
+    QVERIFY(writeFile(program.path("tmp/tarnloft-drag/mine.png"), "x"));
+    QCOMPARE(program.run({"--selftest"}).status, 0);
+    QCOMPARE(contentOf(program.path("tmp/tarnloft-drag/mine.png")), "x");
+  }
+
+  void takesOverTheOldSupportFolderInEveryMode() {
+    Program program;
+    const QString share = program.home.filePath("share");
+    QVERIFY(writeFile(share + "/Fenwright/x", "kept"));
+    const Run run = program.run({"--seed-logo", "missing"});
+    QCOMPARE(run.status, 1);
+    QCOMPARE(contentOf(share + "/Tarn Loft/x"), QByteArray("kept"));
+    QVERIFY(run.output.isEmpty() && run.errors.isEmpty());
+  }
+
+  void takesFoldersThatAreNoText() {
+    Program program;
+    QVERIFY(writePackage(program.path("p.tarnloft")));
+    const QString moved = "d=$(printf 'caf\\351'); mkdir $d; mv p.tarnloft $d.tarnloft; ";
+    const Run run = program.runByShell(
+        moved +
+        "\"$t\" --seed-logo $d.tarnloft && \"$t\" --export-page $d.tarnloft $d/page.html && "
+        "cat $d/page.html; rm $d/page.html; ls -A $d $d.tarnloft >&2; rm -r $d*");
+    QCOMPARE(run.status, 0);
+    QVERIFY(run.output.contains("<h1>Acme</h1>") && run.output.contains("Acme Logo"));
+    QCOMPARE(run.errors, "caf\351:\n\ncaf\351.tarnloft:\nassets\nmanifest.json\n");
+  }
+
+  void refusesNamesThatAreNoText() {
+    const Cases<QString> cases{{"page", "--export-page p.tarnloft $d.html"},
+                               {"page in no folder", "--export-page p.tarnloft $d/page.html"},
+                               {"package", "--export-page $d.tarnloft page.html"},
+                               {"seeded package", "--seed-logo $d.tarnloft"}};
+    cases.check([&](const QString& arguments) {
+      Program program;
+      QVERIFY(writePackage(program.path("p.tarnloft")));
+      const Run run = program.runByShell("d=$(printf 'caf\\351'); exec \"$t\" " + arguments);
+      QCOMPARE(run.status, 1);
+      QVERIFY(run.output.isEmpty() && run.errors.isEmpty());
+      QCOMPARE(namesIn(program.home.path()), QStringList({"p.tarnloft", "tmp"}));
+    });
+  }
+
+  // The old support folder is taken over where the program looks for its data.
+  void looksOnlyInAbsoluteFolders() {
+    const Cases<QString, QString, QString> cases{
+        {"relative data", "%1", "share", ".local/share"},
+        {"relative data with a dot", "%1", "./share", ".local/share"},
+        {"no data", "%1", "", ".local/share"},
+        {"relative home", "home", "%1/share", "share"},
+        {"nothing absolute", "home", "share", ""}};
+    cases.check([&](const QString& home, const QString& data, const QString& found) {
+      const passwd* const user = ::getpwuid(::getuid());
+      if (user && QFile::exists(QFile::decodeName(user->pw_dir) + "/.local/share/Fenwright")) {
+        QSKIP("The user's own folder of that name isn't for tests");
+      }
+      Program program;
+      program.set("HOME", QString(home).replace("%1", program.home.path()));
+      program.set("XDG_DATA_HOME", QString(data).replace("%1", program.home.path()));
+      QStringList folders{".local/share", "share", "home/.local/share"};
+      for (const QString& each : folders) QVERIFY(QDir().mkpath(program.path(each + "/Fenwright")));
+      QCOMPARE(program.run({"--seed-logo", "missing"}).status, 1);
+      if (!found.isEmpty()) QVERIFY(QFile::exists(program.path(found + "/Tarn Loft")));
+      folders.removeOne(found);
+      for (const QString& each : folders) QVERIFY(QFile::exists(program.path(each + "/Fenwright")));
+    });
+  }
+
+  void failsWithoutAWord() {
+    for (const QStringList& arguments : {QStringList{"--seed-logo", "a\nb"},
+                                         {"--seed-logo", ""},
+                                         {"--export-page", "", "page.html"},
+                                         {"--export-page", "p.tarnloft", ""},
+                                         {"--export-page", "/", "/"}}) {
+      Program program;
+      QVERIFY(writePackage(program.path("p.tarnloft")));
+      const Run run = program.run(arguments);
+      QCOMPARE(run.status, 1);
+      QVERIFY(run.output.isEmpty() && run.errors.isEmpty());
+      QVERIFY(!QFile::exists(program.path("page.html")));
+    }
+  }
+};
 
 QTEST_GUILESS_MAIN(TestProgram)
 #include "tst_program.moc"

@@ -197,3 +197,25 @@ class Hands:
         for code in reversed(codes):
             self.devices.key(code, 0, modifiers if code == codes[-1] else 0)
         time.sleep(0.02)
+
+
+class ListedWindows(Hands):
+    """A desktop that tells of its windows, the topmost ones last: _all_windows() gives the id, pid,
+    title, active, visible, x and y of each."""
+    brings_back_places = False
+    decoration = (0, 0)  # drawn by the toolkit beside and above its contents
+
+    def visible_window(self, pid, name=""):
+        found = [each for each in self._windows(pid) if each["visible"] and name in each["title"]]
+        return found[-1]["id"] if found else None
+
+    def active_window(self):
+        return next((each["id"] for each in self._all_windows() if each["active"]), None)
+
+    def origin(self, pid):
+        found = self._windows(pid) or [{"x": 0, "y": 0}]
+        return (round(found[-1]["x"]) + self.decoration[0],
+                round(found[-1]["y"]) + self.decoration[1])
+
+    def _windows(self, pid):
+        return [each for each in self._all_windows() if each["pid"] == pid]

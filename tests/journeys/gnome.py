@@ -8,12 +8,11 @@ import tempfile
 import time
 
 from bus import ask, is_there
-from devices import MODIFIERS, Hands
+from devices import MODIFIERS, ListedWindows
 from pictures import GdkPixbuf, colours_of
 from waiting import until
 
 SIZE = (1280, 1024)
-DECORATION = (3, 30)  # drawn by the toolkit beside and above its contents
 WINDOWS = """global.get_window_actors().map(actor => {
   const window = actor.meta_window, frame = window.get_frame_rect();
   return {id: window.get_id(), pid: window.get_pid(), title: window.get_title() || "",
@@ -24,9 +23,9 @@ WINDOWS = """global.get_window_actors().map(actor => {
 REMOTE = "org.gnome.Mutter.RemoteDesktop"
 
 
-class Desktop(Hands):
-    brings_back_places = False
+class Desktop(ListedWindows):
     has_tray = False
+    decoration = (3, 30)
 
     @contextlib.contextmanager
     def running(self, _folder):
@@ -59,17 +58,6 @@ class Desktop(Hands):
                 finally:
                     process.terminate()
 
-    def visible_window(self, pid, name=""):
-        found = [each for each in self._windows(pid) if each["visible"] and name in each["title"]]
-        return found[-1]["id"] if found else None
-
-    def active_window(self):
-        return next((each["id"] for each in self._windows() if each["active"]), None)
-
-    def origin(self, pid):
-        found = self._windows(pid) or [{"x": 0, "y": 0}]
-        return found[-1]["x"] + DECORATION[0], found[-1]["y"] + DECORATION[1]
-
     def place(self, window, at, size=None):
         """Again until it stands there: a new window is placed by the desktop, somewhat later."""
         found = ("global.get_window_actors().map(actor => actor.meta_window)"
@@ -81,7 +69,7 @@ class Desktop(Hands):
         def stands():
             self._evaluate(f"{found}.{what}")
             time.sleep(0.2)
-            return any((each["x"], each["y"]) == tuple(at) for each in self._windows()
+            return any((each["x"], each["y"]) == tuple(at) for each in self._all_windows()
                        if each["id"] == window)
         until(stands, "the window at its place")
 
@@ -97,8 +85,8 @@ class Desktop(Hands):
             self._picture)
         return colours_of(GdkPixbuf.Pixbuf.new_from_file(self._picture))
 
-    def _windows(self, pid=None):
-        return [each for each in self._evaluate(WINDOWS) if pid in (None, each["pid"])]
+    def _all_windows(self):
+        return self._evaluate(WINDOWS)
 
     def _evaluate(self, script):
         worked, answer = ask("org.gnome.Shell", "/org/gnome/Shell", "org.gnome.Shell", "Eval",

@@ -1,9 +1,10 @@
+import os
 import pathlib
 
 import gi
 
 gi.require_version("GdkPixbuf", "2.0")
-from gi.repository import GdkPixbuf
+from gi.repository import GdkPixbuf, GLib
 
 
 def write_pictures(folder, colours):
@@ -16,6 +17,14 @@ def write_pictures(folder, colours):
         paths.append(pathlib.Path(folder / name))
         picture.savev(str(paths[-1]), "png", [], [])
     return paths
+
+
+def write_noise(path, width, height):
+    """A picture that no format makes small."""
+    picture = GdkPixbuf.Pixbuf.new_from_bytes(
+        GLib.Bytes.new(os.urandom(width * height * 3)), GdkPixbuf.Colorspace.RGB, False, 8, width,
+        height, width * 3)
+    picture.savev(str(path), "png", ["compression"], ["0"])
 
 
 def colours_of(picture):

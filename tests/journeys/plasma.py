@@ -9,7 +9,7 @@ import subprocess
 import tempfile
 
 from bus import ask, ask_with_file, is_there
-from devices import FakeInput, Hands
+from devices import FakeInput, ListedWindows
 from waiting import until
 
 SIZE = (1280, 1024)
@@ -26,8 +26,7 @@ PLACE = """workspace.clientList().filter(function(window) {
   return true; }).length"""
 
 
-class Desktop(Hands):
-    brings_back_places = False
+class Desktop(ListedWindows):
     has_tray = True
 
     @contextlib.contextmanager
@@ -70,17 +69,6 @@ class Desktop(Hands):
                       self._log.read_text)
                 yield
 
-    def visible_window(self, pid, name=""):
-        found = [each for each in self._windows(pid) if each["visible"] and name in each["title"]]
-        return found[-1]["id"] if found else None
-
-    def active_window(self):
-        return next((each["id"] for each in self._windows() if each["active"]), None)
-
-    def origin(self, pid):
-        found = self._windows(pid) or [{"x": 0, "y": 0}]
-        return round(found[-1]["x"]), round(found[-1]["y"])
-
     def place(self, window, at, size=(0, 0)):
         assert self._evaluate(PLACE % (window, *at, *size)) == 1
 
@@ -101,8 +89,8 @@ class Desktop(Hands):
                   for y in range(told["height"]) for x in range(told["width"]))
         return {tuple(rows[at:at + 3][::-1]) for at in pixels}
 
-    def _windows(self, pid=None):
-        return [each for each in self._evaluate(WINDOWS) if pid in (None, each["pid"])]
+    def _all_windows(self):
+        return self._evaluate(WINDOWS)
 
     def _evaluate(self, script):
         """KWin runs scripts from files, and what they print goes where it complains."""

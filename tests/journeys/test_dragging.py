@@ -3,9 +3,9 @@ import pathlib
 import unittest
 import urllib.parse
 
-from desktop import Drag, press
+from desktop import Drag, colours_in, press
 from journey import Journey
-from pictures import write_pictures
+from pictures import write_noise, write_pictures
 from program import Home, gtk_partner, qt_source, x_target
 
 LEFT, RIGHT = (100, 860), (700, 860)  # below the window
@@ -36,15 +36,30 @@ class Dragging(Journey):
         picture = self.acme.asset(self.acme.items("Logos")[0])
         self.assertEqual(picture[:8], b"\x89PNG\r\n\x1a\n")
 
-    def test_a_tile_is_a_file_to_others_and_nothing_else(self):
+    def test_a_tile_is_a_file_and_a_picture_to_others_and_nothing_else(self):
         self.fill("Logos", {"Mark.png": (200, 30, 40)})
-        target = self.beside(x_target(RIGHT, ["text/uri-list", "com.quillmoor.tarnloft.item"]))
+        target = self.beside(x_target(
+            RIGHT, ["text/uri-list", "UTF8_STRING", "image/tiff", "com.quillmoor.tarnloft.item"]))
         Drag(self.card("Mark")).over(RIGHT_MIDDLE).drop()
-        uris = bytes.fromhex(target.line("DATA text/uri-list").split()[1]).decode().split("\r\n")
-        path = pathlib.Path(urllib.parse.unquote(urllib.parse.urlsplit(uris[0]).path))
-        self.assertEqual(path.name, "Mark.png")
+        uri, end = data(target, "text/uri-list").decode().split("\r\n")
+        path = pathlib.Path(urllib.parse.unquote(urllib.parse.urlsplit(uri).path))
+        self.assertEqual((path.name, end), ("Mark.png", ""))
         self.assertEqual(path.read_bytes(), self.acme.asset(self.acme.items("Logos")[0]))
+        self.assertEqual(data(target, "UTF8_STRING").decode(), str(path))
+        self.assertIn(data(target, "image/tiff")[:4], (b"II*\0", b"MM\0*"))
         target.line("REFUSED com.quillmoor.tarnloft.item")
+        self.assertNotIn("quillmoor", target.line("TYPES"))
+
+    def test_a_picture_beyond_an_answers_size_is_left_out(self):
+        # The X server would end the program for a longer one.
+        file = self.home.folder / "Noise.png"
+        write_noise(file, 3000, 2400)
+        self.take("Logos", [file])
+        target = self.beside(x_target(RIGHT, ["image/tiff", "text/uri-list"]))
+        Drag(self.card("Noise")).over(RIGHT_MIDDLE).drop()
+        self.assertEqual(target.line("DATA image/tiff"), "0")
+        self.assertTrue(data(target, "text/uri-list"))
+        self.assertFalse(self.tarn.has_ended())
 
     def test_within_the_window_tiles_move_between_sections(self):
         self.fill("Logos", {"Mark.png": (200, 30, 40), "Seal.png": (30, 60, 200)})
@@ -52,6 +67,9 @@ class Dragging(Journey):
         place = (left + 600, top + height - 20)
 
         drag = Drag(self.card("Mark")).over(place)
+        beside = (*place, 140, 110)
+        drag.until(lambda: (200, 30, 40) in colours_in(beside), "the carried picture")
+        self.assertNotIn((0, 0, 0), colours_in(beside), "its window shows around its corners")
         press("Escape")
         drag.drop()
         self.assertEqual(self.names("Logos"), ["Mark", "Seal"])
@@ -75,9 +93,12 @@ class Dragging(Journey):
         self.assertEqual(self.names("Logos"), ["Mark"])
 
     def fill(self, section, colours):
-        partner = gtk_partner(LEFT, write_pictures(self.home.folder / "from", colours))
+        self.take(section, write_pictures(self.home.folder / "from", colours))
+
+    def take(self, section, files):
+        partner = gtk_partner(LEFT, files)
         self.drop_on(self.tarn, section, LEFT_MIDDLE)
-        self.eventually(lambda: len(self.acme.items(section)), len(colours))
+        self.eventually(lambda: len(self.acme.items(section)), len(files))
         partner.kill()
 
     def card(self, name):
@@ -86,6 +107,11 @@ class Dragging(Journey):
 
     def names(self, section):
         return [item["name"] for item in self.acme.items(section)]
+
+
+def data(target, kind):
+    """The first bytes that a target got of a format."""
+    return bytes.fromhex(target.line("DATA " + kind).split()[1])
 
 
 if __name__ == "__main__":

@@ -1,3 +1,4 @@
+#include "testing/Cases.h"
 #include "testing/ForeignZip.h"
 #include "testing/TestLibrary.h"
 
@@ -9,33 +10,6 @@
 #include <sys/stat.h>
 
 using namespace tarnloft;
-
-class TestArchives : public QObject {
-  Q_OBJECT
-
- private slots:
-  void exportsWhatOtherToolsRead_data();
-  void exportsWhatOtherToolsRead();
-  void keepsTimesRightsAndLinks();
-  void readsWhatOtherToolsWrite_data();
-  void readsWhatOtherToolsWrite();
-  void importsBesideItsOriginal();
-  void importsFolders_data();
-  void importsFolders();
-  void keepsABrokenPackage();
-  void refuses_data();
-  void refuses();
-  void findsThePackage_data();
-  void findsThePackage();
-  void refusesABomb_data();
-  void refusesABomb();
-  void unpacksForItsUser();
-  void fillsNothingUpWithAHole();
-  void unpacksNowhereWithoutItsFolder();
-  void refusesACutArchive();
-  void survivesWhatCannotBeWritten();
-  void doesNothingWhenCancelled();
-};
 
 namespace {
 
@@ -77,7 +51,7 @@ struct Import {
 // One brand with a picture, exported by the program.
 void exportAcme(TestLibrary& library, const QString& archive) {
   LibraryStore& store = library.start();
-  BrandDocument* const document = store.createBrand(QStringLiteral("Acmé 北"));
+  BrandDocument* const document = store.createBrand("Acmé 北");
   QVERIFY(document->importImageData(QByteArray(3'000'000, 'p'), "a.png", "png"));
   document->saveNow();
   library.dialogs.answer = archive;
@@ -86,351 +60,278 @@ void exportAcme(TestLibrary& library, const QString& archive) {
 
 }  // namespace
 
-void TestArchives::exportsWhatOtherToolsRead_data() {
-  QTest::addColumn<QString>("program");
-  QTest::addColumn<QStringList>("arguments");
-  QTest::newRow("unzip") << "unzip" << QStringList{"-q", "../a.zip"};
-  QTest::newRow("bsdtar") << "bsdtar" << QStringList{"-xf", "../a.zip"};
-}
+class TestArchives : public QObject {
+  Q_OBJECT
 
-void TestArchives::exportsWhatOtherToolsRead() {
-  QFETCH(QString, program);
-  QFETCH(QStringList, arguments);
-  TestLibrary library;
-  const QString archive = library.disk.path("a.zip"), out = library.disk.path("out");
-  QVERIFY(writeFile(archive, "an older file"));
-  exportAcme(library, archive);
-  QCOMPARE(library.dialogs.suggested, QStringLiteral("Acmé 北.tarnloft.zip"));
-  QCOMPARE(library.dialogs.mimeType, "application/zip");
-  QCOMPARE(library.viewer.revealed, QStringList(archive));
-  QVERIFY(QDir().mkpath(out) && runs(program, arguments, out));
-  const QString package = library.packagePath(QStringLiteral("Acmé 北"));
-  QCOMPARE(QDir(out).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-           QStringList(QFileInfo(package).fileName()));
-  QVERIFY(runs("diff", {"-r", package, out + '/' + QFileInfo(package).fileName()}, out));
-}
-
-void TestArchives::keepsTimesRightsAndLinks() {
-  TestLibrary library;
-  const QString archive = library.disk.path("a.zip");
-  const Brand brand = library.add("Acme");
-  const QString package = library.packagePath("Acme"), asset = package + "/assets/a.png";
-  QVERIFY(writeFile(asset, "a") && writeFile(package + "/.hidden", ""));
-  QVERIFY(QFile::link("a.png", package + "/assets/link"));
-  QCOMPARE(::chmod(QFile::encodeName(asset).constData(), 0604), 0);
-  const timespec times[] = {{1'000'000'000, 0}, {1'000'000'001, 0}};
-  QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(asset).constData(), times, 0), 0);
-  library.dialogs.answer = archive;
-  library.start().exportSelectedBrand();
-  library.store->importBrand();
-  const QString copy = library.packagePath("Acme 2");
-  QCOMPARE(library.store->selection(), copy);
-  QVERIFY(library.store->openDocument()->brand().id != brand.id);
-  struct stat info;
-  QCOMPARE(::stat(QFile::encodeName(copy + "/assets/a.png").constData(), &info), 0);
-  QCOMPARE(info.st_mode & 07777, 0604u);
-  QCOMPARE(info.st_mtime, 1'000'000'001);
-  QVERIFY(QFile::exists(copy + "/.hidden"));
-  QCOMPARE(QFileInfo(copy + "/assets/link").symLinkTarget(), copy + "/assets/a.png");
-}
-
-void TestArchives::readsWhatOtherToolsWrite_data() {
-  QTest::addColumn<QString>("program");
-  QTest::addColumn<QStringList>("arguments");
-  QTest::newRow("zip") << "zip" << QStringList{"-qry", "foreign.zip", "Acmé.tarnloft"};
-  QTest::newRow("bsdtar") << "bsdtar"
-                          << QStringList{"--format", "zip", "-cf", "foreign.zip", "Acmé.tarnloft"};
-  QTest::newRow("stored") << "zip" << QStringList{"-qr0", "foreign.zip", "Acmé.tarnloft"};
-}
-
-void TestArchives::readsWhatOtherToolsWrite() {
-  QFETCH(QString, program);
-  QFETCH(QStringList, arguments);
-  Import import;
-  const QString root = import.library.disk.folder.path();
-  QVERIFY(writeFile(root + QStringLiteral("/Acmé.tarnloft/manifest.json"), manifest("x")));
-  QVERIFY(writeFile(root + QStringLiteral("/Acmé.tarnloft/assets/a.png"), "picture"));
-  QVERIFY(runs(program, arguments, root));
-  QVERIFY(QDir(root + QStringLiteral("/Acmé.tarnloft")).removeRecursively());
-  LibraryStore& store = import.run();
-  QCOMPARE(import.library.dialogs.openTypes, QStringList("application/zip"));
-  QCOMPARE(store.selection(), import.library.packagePath(QStringLiteral("Acmé")));
-  QCOMPARE(store.openDocument()->brand().name, QStringLiteral("Acmé"));
-  QCOMPARE(contentOf(*store.selection() + "/assets/a.png"), "picture");
-  QVERIFY(import.leavesNothing());
-}
-
-void TestArchives::importsBesideItsOriginal() {
-  TestLibrary library;
-  const QString archive = library.disk.path("a.zip");
-  exportAcme(library, archive);
-  const QUuid original = library.store->openDocument()->brand().id;
-  library.store->importBrand();
-  const Brand& copy = library.store->openDocument()->brand();
-  QCOMPARE(copy.name, QStringLiteral("Acmé 北 2"));
-  QVERIFY(copy.id != original);
-  QCOMPARE(library.store->brands().size(), 2);
-}
-
-void TestArchives::importsFolders_data() {
-  QTest::addColumn<QString>("folder");
-  QTest::newRow("present extension") << "Acme.tarnloft";
-  QTest::newRow("former extension") << "Acme.yewstack";
-}
-
-void TestArchives::importsFolders() {
-  QFETCH(QString, folder);
-  Import import;
-  import.archive = import.outside + '/' + folder;
-  QVERIFY(writeFile(import.archive + "/manifest.json", manifest("Other")));
-  LibraryStore& store = import.run();
-  QCOMPARE(store.selection(), import.library.packagePath("Acme"));
-  QCOMPARE(store.openDocument()->brand().name, "Acme");
-  QVERIFY(QFile::exists(import.archive + "/manifest.json"));
-}
-
-void TestArchives::keepsABrokenPackage() {
-  Import import;
-  ForeignZip(import.archive).file("Acme.tarnloft/manifest.json", "{");
-  LibraryStore& store = import.run();
-  QCOMPARE(store.selection(), import.library.packagePath("Acme"));
-  QVERIFY(!store.openDocument());
-  QCOMPARE(import.library.names(), QStringList("Acme"));
-}
-
-using Fill = std::function<void(ForeignZip&)>;
-
-void TestArchives::refuses_data() {
-  QTest::addColumn<Fill>("fill");
-  const auto row = [](const char* name, const Fill& fill) { QTest::newRow(name) << fill; };
-  row("no package", [](ForeignZip& zip) { zip.file("Acme/manifest.json"); });
-  row("nothing", [](ForeignZip&) {});
-  row("only a foreign second tree",
-      [](ForeignZip& zip) { zip.file("__MACOSX/Acme.tarnloft/._manifest.json"); });
-  row("hidden package", [](ForeignZip& zip) { zip.file(".Acme.tarnloft/manifest.json"); });
-  row("other case", [](ForeignZip& zip) { zip.file("Acme.TARNLOFT/manifest.json"); });
-  row("steps upwards", [](ForeignZip& zip) {
-    zip.file("Acme.tarnloft/manifest.json").file("Acme.tarnloft/../../../outside/x");
-  });
-  row("absolute path", [](ForeignZip& zip) { zip.file("/tmp/Acme.tarnloft/manifest.json"); });
-  row("backslashes", [](ForeignZip& zip) { zip.file("a/..\\..\\outside\\x.tarnloft"); });
-  row("absolute link",
-      [](ForeignZip& zip) { zip.folder("Acme.tarnloft/").link("Acme.tarnloft/a", "/etc"); });
-  row("link out", [](ForeignZip& zip) {
-    zip.folder("Acme.tarnloft/").link("Acme.tarnloft/a", "../../../outside");
-  });
-  row("link to beside the package",
-      [](ForeignZip& zip) { zip.folder("Acme.tarnloft/").link("Acme.tarnloft/a", "../x"); });
-  row("link as the package", [](ForeignZip& zip) { zip.link("Acme.tarnloft", "."); });
-  row("link through a link", [](ForeignZip& zip) {
-    zip.folder("Acme.tarnloft/x/y/")
-        .link("Acme.tarnloft/x/y/up", "../..")
-        .link("Acme.tarnloft/out", "x/y/up/../../outside");
-  });
-  row("file through a link", [](ForeignZip& zip) {
-    zip.folder("Acme.tarnloft/in/").link("Acme.tarnloft/a", "in").file("Acme.tarnloft/a/x");
-  });
-  row("file over a link", [](ForeignZip& zip) {
-    zip.file("Acme.tarnloft/b").link("Acme.tarnloft/a", "b").file("Acme.tarnloft/a");
-  });
-  row("twice", [](ForeignZip& zip) {
-    zip.file("Acme.tarnloft/manifest.json", "1").file("Acme.tarnloft/./manifest.json", "2");
-  });
-}
-
-void TestArchives::refuses() {
-  QFETCH(Fill, fill);
-  Import import;
-  {
-    ForeignZip zip(import.archive);
-    fill(zip);
+ private slots:
+  void exportsWhatOtherToolsRead() {
+    TestLibrary library;
+    const QString archive = library.disk.path("a.zip");
+    const QString package = library.packagePath("Acmé 北");
+    QVERIFY(writeFile(archive, "an older file"));
+    exportAcme(library, archive);
+    QCOMPARE(library.dialogs.suggested, "Acmé 北.tarnloft.zip");
+    QCOMPARE(library.dialogs.mimeType, "application/zip");
+    QCOMPARE(library.viewer.revealed, QStringList(archive));
+    for (const QStringList& tool : {QStringList{"unzip", "-q"}, {"bsdtar", "-xf"}}) {
+      const QString out = library.disk.path(tool.first());
+      QVERIFY(QDir().mkpath(out) && runs(tool.first(), {tool.last(), "../a.zip"}, out));
+      QCOMPARE(namesIn(out), QStringList(QFileInfo(package).fileName()));
+      QVERIFY(runs("diff", {"-r", package, out + '/' + QFileInfo(package).fileName()}, out));
+    }
   }
-  LibraryStore& store = import.run();
-  QVERIFY(store.brands().isEmpty() && !store.selection());
-  QVERIFY(import.leavesNothing());
-  QVERIFY(QDir(import.library.folder).isEmpty());
-}
 
-void TestArchives::findsThePackage_data() {
-  QTest::addColumn<Fill>("fill");
-  QTest::addColumn<QString>("name");
-  const auto row = [](const char* title, const Fill& fill, const QString& name) {
-    QTest::newRow(title) << fill << name;
-  };
-  const QByteArray good = manifest("x");
-  row(
-      "with clutter of another system",
-      [=](ForeignZip& zip) {
-        zip.file("__MACOSX/A.tarnloft/._manifest.json")
-            .file("B.tarnloft/manifest.json", good)
-            .file("B.tarnloft/.DS_Store");
-      },
-      "B");
-  row(
-      "the first of two",
-      [=](ForeignZip& zip) {
-        zip.file("B.tarnloft/manifest.json", good).file("A.tarnloft/manifest.json", good);
-      },
-      "A");
-  row(
-      "deep", [=](ForeignZip& zip) { zip.file("x/y/A.yewstack/manifest.json", good); }, "A");
-  row(
-      "a package within a package",
-      [=](ForeignZip& zip) {
-        zip.file("A.tarnloft/0.tarnloft/manifest.json", good)
-            .file("A.tarnloft/manifest.json", good);
-      },
-      "A");
-  row(
-      "names of an old code page",
-      [=](ForeignZip& zip) { zip.file("Müller.tarnloft/manifest.json", good); },
-      QStringLiteral("Müller"));
-  row(
-      "folders that nobody may enter",
-      [=](ForeignZip& zip) {
-        zip.folder("A.tarnloft/", 0).folder("A.tarnloft/assets/", 0);
-        zip.file("A.tarnloft/manifest.json", good, 0);
-      },
-      "A");
-}
-
-void TestArchives::findsThePackage() {
-  QFETCH(Fill, fill);
-  QFETCH(QString, name);
-  Import import;
-  {
-    ForeignZip zip(import.archive, "zip:hdrcharset=CP437");
-    fill(zip);
+  void keepsTimesRightsAndLinks() {
+    TestLibrary library;
+    const QString archive = library.disk.path("a.zip");
+    const Brand brand = library.add("Acme");
+    const QString package = library.packagePath("Acme"), asset = package + "/assets/a.png";
+    QVERIFY(writeFile(asset, "a") && writeFile(package + "/.hidden", ""));
+    QVERIFY(QFile::link("a.png", package + "/assets/link"));
+    QCOMPARE(::chmod(QFile::encodeName(asset).constData(), 0604), 0);
+    const timespec times[] = {{1'000'000'000, 0}, {1'000'000'001, 0}};
+    QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(asset).constData(), times, 0), 0);
+    library.dialogs.answer = archive;
+    library.start().exportSelectedBrand();
+    library.store->importBrand();
+    const QString copy = library.packagePath("Acme 2");
+    QCOMPARE(library.store->selection(), copy);
+    QVERIFY(library.store->openDocument()->brand().id != brand.id);
+    struct stat info;
+    QCOMPARE(::stat(QFile::encodeName(copy + "/assets/a.png").constData(), &info), 0);
+    QCOMPARE(info.st_mode & 07777, 0604u);
+    QCOMPARE(info.st_mtime, 1'000'000'001);
+    QVERIFY(QFile::exists(copy + "/.hidden"));
+    QCOMPARE(QFileInfo(copy + "/assets/link").symLinkTarget(), copy + "/assets/a.png");
   }
-  LibraryStore& store = import.run();
-  QCOMPARE(import.library.names(), QStringList(name));
-  QVERIFY(store.openDocument());
-  QVERIFY(!QFile::exists(*store.selection() + "/.DS_Store"));
-  QVERIFY(import.leavesNothing());
-}
 
-void TestArchives::refusesABomb_data() {
-  QTest::addColumn<UnpackLimits>("limits");
-  QTest::addColumn<bool>("imports");
-  QTest::newRow("within bounds") << UnpackLimits{3'000'000, 0, 12} << true;
-  QTest::newRow("too large") << UnpackLimits{1'900'000, 0, 12} << false;
-  QTest::newRow("too many") << UnpackLimits{3'000'000, 0, 11} << false;
-  QTest::newRow("bound by its own size") << UnpackLimits{0, 10, 12} << false;
-  QTest::newRow("larger with its size") << UnpackLimits{0, 2000, 12} << true;
-}
-
-void TestArchives::refusesABomb() {
-  QFETCH(UnpackLimits, limits);
-  Import import;
-  {
-    ForeignZip zip(import.archive);
-    zip.file("A.tarnloft/manifest.json", manifest("x"))
-        .file("A.tarnloft/big", QByteArray(2'000'000, 0));
-    for (int i = 0; i < 10; ++i) zip.file(qPrintable(QString("A.tarnloft/%1").arg(i)), "");
+  void readsWhatOtherToolsWrite() {
+    const Cases<QString, QStringList> cases{
+        {"zip", "zip", QStringList{"-qry", "foreign.zip", "Acmé.tarnloft"}},
+        {"bsdtar", "bsdtar", QStringList{"--format", "zip", "-cf", "foreign.zip", "Acmé.tarnloft"}},
+        {"stored", "zip", QStringList{"-qr0", "foreign.zip", "Acmé.tarnloft"}}};
+    cases.check([&](const QString& program, const QStringList& arguments) {
+      Import import;
+      const QString root = import.library.disk.folder.path();
+      QVERIFY(writeFile(root + "/Acmé.tarnloft/manifest.json", manifest("x")));
+      QVERIFY(writeFile(root + "/Acmé.tarnloft/assets/a.png", "picture"));
+      QVERIFY(runs(program, arguments, root));
+      QVERIFY(QDir(root + "/Acmé.tarnloft").removeRecursively());
+      LibraryStore& store = import.run();
+      QCOMPARE(import.library.dialogs.openTypes, QStringList("application/zip"));
+      QCOMPARE(store.selection(), import.library.packagePath("Acmé"));
+      QCOMPARE(store.openDocument()->brand().name, "Acmé");
+      QCOMPARE(contentOf(*store.selection() + "/assets/a.png"), "picture");
+      QVERIFY(import.leavesNothing());
+    });
   }
-  ZipArchiver archiver(limits);
-  QVERIFY(QDir().mkpath(import.library.disk.path("out")));
-  QTEST(archiver.extract(import.archive, import.library.disk.path("out")).has_value(), "imports");
-}
 
-void TestArchives::unpacksForItsUser() {
-  Import import;
-  {
-    ForeignZip zip(import.archive);
-    zip.folder("A.tarnloft/", 0500).file("A.tarnloft/a.png", "x", 0040);
+  void importsFolders() {
+    for (const char* name : {"Acme.tarnloft", "Acme.yewstack"}) {
+      Import import;
+      import.archive = import.outside + '/' + name;
+      QVERIFY(writeFile(import.archive + "/manifest.json", manifest("Other")));
+      LibraryStore& store = import.run();
+      QCOMPARE(store.selection(), import.library.packagePath("Acme"));
+      QCOMPARE(store.openDocument()->brand().name, "Acme");
+      QVERIFY(QFile::exists(import.archive + "/manifest.json"));
+    }
   }
-  const QString out = import.library.disk.path("out");
-  QVERIFY(QDir().mkpath(out) && ZipArchiver().extract(import.archive, out));
-  struct stat info;
-  QCOMPARE(::stat(QFile::encodeName(out + "/A.tarnloft/a.png").constData(), &info), 0);
-  QCOMPARE(info.st_mode & 07777, 0640u);
-  QCOMPARE(::stat(QFile::encodeName(out + "/A.tarnloft").constData(), &info), 0);
-  QCOMPARE(info.st_mode & 07777, 0700u);
-}
 
-// A file that claims to be large and isn't.
-void TestArchives::fillsNothingUpWithAHole() {
-  Import import;
-  {
-    ForeignZip zip(import.archive, "zip:compression=store");
-    zip.file("A.tarnloft/a.png", "short");
+  void keepsABrokenPackage() {
+    Import import;
+    ForeignZip(import.archive).file("Acme.tarnloft/manifest.json", "{");
+    LibraryStore& store = import.run();
+    QCOMPARE(store.selection(), import.library.packagePath("Acme"));
+    QVERIFY(!store.openDocument());
+    QCOMPARE(import.library.names(), QStringList("Acme"));
   }
-  QByteArray bytes = contentOf(import.archive);
-  const auto claim = [&](const QByteArray& record, qsizetype sizeAt) {
-    qToLittleEndian(quint32(1) << 30, bytes.data() + bytes.indexOf(record) + sizeAt);
-  };
-  claim("PK\1\2", 24);
-  claim("PK\3\4", 22);
-  QVERIFY(writeFile(import.archive, bytes));
-  const QString out = import.library.disk.path("out");
-  QVERIFY(QDir().mkpath(out));
-  QVERIFY(!ZipArchiver().extract(import.archive, out));
-  QVERIFY(QFileInfo(out + "/A.tarnloft/a.png").size() <= 5);
-}
 
-// Least of all into the root of the file system.
-void TestArchives::unpacksNowhereWithoutItsFolder() {
-  Import import;
-  const QString top = QString("tst-%1.tarnloft").arg(QCoreApplication::applicationPid());
-  {
-    ForeignZip zip(import.archive);
-    zip.file(qPrintable(top + "/manifest.json"), manifest("x"));
+  void refuses() {
+    const Cases<QStringList> cases{
+        {"no package", {"Acme/manifest.json"}},
+        {"nothing", {}},
+        {"only a foreign second tree", {"__MACOSX/Acme.tarnloft/._manifest.json"}},
+        {"hidden package", {".Acme.tarnloft/manifest.json"}},
+        {"other case", {"Acme.TARNLOFT/manifest.json"}},
+        {"steps upwards", {"Acme.tarnloft/manifest.json", "Acme.tarnloft/../../../outside/x"}},
+        {"absolute path", {"/tmp/Acme.tarnloft/manifest.json"}},
+        {"backslashes", {"a/..\\..\\outside\\x.tarnloft"}},
+        {"absolute link", {"Acme.tarnloft/", "Acme.tarnloft/a -> /etc"}},
+        {"link out", {"Acme.tarnloft/", "Acme.tarnloft/a -> ../../../outside"}},
+        {"link to beside the package", {"Acme.tarnloft/", "Acme.tarnloft/a -> ../x"}},
+        {"link as the package", {"Acme.tarnloft -> ."}},
+        {"link through a link",
+         {"Acme.tarnloft/x/y/", "Acme.tarnloft/x/y/up -> ../..",
+          "Acme.tarnloft/out -> x/y/up/../../outside"}},
+        {"file through a link",
+         {"Acme.tarnloft/in/", "Acme.tarnloft/a -> in", "Acme.tarnloft/a/x"}},
+        {"file over a link", {"Acme.tarnloft/b", "Acme.tarnloft/a -> b", "Acme.tarnloft/a"}},
+        {"twice", {"Acme.tarnloft/manifest.json", "Acme.tarnloft/./manifest.json"}}};
+    cases.check([](const QStringList& entries) {
+      Import import;
+      ForeignZip(import.archive).add(entries, manifest("x"));
+      LibraryStore& store = import.run();
+      QVERIFY(store.brands().isEmpty() && !store.selection());
+      QVERIFY(import.leavesNothing());
+      QVERIFY(QDir(import.library.folder).isEmpty());
+    });
   }
-  QVERIFY(!ZipArchiver().extract(import.archive, import.library.disk.path("gone")));
-  QVERIFY(!QFile::exists(import.library.disk.path("gone")));
-  const QDir inRoot("/" + top);
-  const bool isInRoot = inRoot.exists();
-  if (isInRoot) QDir(inRoot).removeRecursively();
-  QVERIFY(!isInRoot);
-}
 
-void TestArchives::refusesACutArchive() {
-  Import import;
-  {
-    ForeignZip zip(import.archive, "zip:encryption=zipcrypt");
-    zip.file("A.tarnloft/manifest.json", manifest("x"));
+  void findsThePackage() {
+    const Cases<QStringList, QString> cases{
+        {"with clutter of another system",
+         {"__MACOSX/A.tarnloft/._manifest.json", "B.tarnloft/manifest.json",
+          "B.tarnloft/.DS_Store"},
+         "B"},
+        {"the first of two", {"B.tarnloft/manifest.json", "A.tarnloft/manifest.json"}, "A"},
+        {"deep", {"x/y/A.yewstack/manifest.json"}, "A"},
+        {"a package within a package",
+         {"A.tarnloft/0.tarnloft/manifest.json", "A.tarnloft/manifest.json"},
+         "A"},
+        {"names of an old code page", {"Müller.tarnloft/manifest.json"}, "Müller"}};
+    cases.check([](const QStringList& entries, const QString& name) {
+      Import import;
+      ForeignZip(import.archive, "zip:hdrcharset=CP437").add(entries, manifest("x"));
+      LibraryStore& store = import.run();
+      QCOMPARE(import.library.names(), QStringList(name));
+      QVERIFY(store.openDocument());
+      QVERIFY(!QFile::exists(*store.selection() + "/.DS_Store"));
+      QVERIFY(import.leavesNothing());
+    });
   }
-  QVERIFY(contentOf(import.archive).contains("manifest.json"));
-  QVERIFY(import.run().brands().isEmpty() && import.leavesNothing());  // encrypted
-  {
-    ForeignZip zip(import.archive);
-    zip.file("A.tarnloft/manifest.json", manifest("x")).file("A.tarnloft/a", QByteArray(999, 'a'));
-  }
-  const QByteArray whole = contentOf(import.archive);
-  for (qsizetype length = 0; length < whole.size(); length += 7) {
-    QVERIFY(writeFile(import.archive, whole.left(length)));
-    import.run();
-    // Cut within the directory at its end, an archive still holds all of its files.
-    if (length < whole.indexOf("PK\x01\x02")) QVERIFY(import.library.store->brands().isEmpty());
-    QVERIFY(import.leavesNothing());
-  }
-}
 
-void TestArchives::survivesWhatCannotBeWritten() {
-  TestLibrary library;
-  library.add("Acme");
-  library.start();
-  library.dialogs.answer = "/dev/full/a.zip";
-  library.store->exportSelectedBrand();
-  QCOMPARE(library.viewer.revealed, QStringList("/dev/full/a.zip"));
-  // A package that vanished leaves no archive, nor half of one.
-  library.dialogs.answer = library.disk.path("a.zip");
-  const BrandSummary row = library.store->brands().first();
-  QVERIFY(QDir(library.packagePath("Acme")).removeRecursively());
-  library.store->exportBrand(row);
-  QVERIFY(!QFile::exists(library.disk.path("a.zip")));
-}
+  void entersFoldersThatNobodyMay() {
+    Import import;
+    ForeignZip(import.archive)
+        .folder("A.tarnloft/", 0)
+        .folder("A.tarnloft/assets/", 0)
+        .file("A.tarnloft/manifest.json", manifest("x"), 0);
+    QVERIFY(import.run().openDocument() && import.leavesNothing());
+  }
 
-void TestArchives::doesNothingWhenCancelled() {
-  TestLibrary library;
-  library.start().exportSelectedBrand();
-  QVERIFY(library.dialogs.suggested.isEmpty());
-  library.store->createBrand("Acme");
-  library.store->exportSelectedBrand();
-  library.store->importBrand();
-  QVERIFY(library.viewer.revealed.isEmpty());
-  QCOMPARE(library.store->brands().size(), 1);
-}
+  void refusesABomb() {
+    const Cases<UnpackLimits, bool> cases{
+        {"within bounds", UnpackLimits{3'000'000, 0, 12}, true},
+        {"too large", UnpackLimits{1'900'000, 0, 12}, false},
+        {"too many", UnpackLimits{3'000'000, 0, 11}, false},
+        {"bound by its own size", UnpackLimits{0, 10, 12}, false},
+        {"larger with its size", UnpackLimits{0, 2000, 12}, true}};
+    cases.check([&](const UnpackLimits& limits, bool imports) {
+      Import import;
+      {
+        ForeignZip zip(import.archive);
+        zip.file("A.tarnloft/manifest.json", manifest("x"))
+            .file("A.tarnloft/big", QByteArray(2'000'000, 0));
+        for (int i = 0; i < 10; ++i) zip.file(qPrintable(QString("A.tarnloft/%1").arg(i)), "");
+      }
+      ZipArchiver archiver(limits);
+      QVERIFY(QDir().mkpath(import.library.disk.path("out")));
+      QCOMPARE(archiver.extract(import.archive, import.library.disk.path("out")).has_value(),
+               imports);
+    });
+  }
+
+  void unpacksForItsUser() {
+    Import import;
+    {
+      ForeignZip zip(import.archive);
+      zip.folder("A.tarnloft/", 0500).file("A.tarnloft/a.png", "x", 0040);
+    }
+    const QString out = import.library.disk.path("out");
+    QVERIFY(QDir().mkpath(out) && ZipArchiver().extract(import.archive, out));
+    struct stat info;
+    QCOMPARE(::stat(QFile::encodeName(out + "/A.tarnloft/a.png").constData(), &info), 0);
+    QCOMPARE(info.st_mode & 07777, 0640u);
+    QCOMPARE(::stat(QFile::encodeName(out + "/A.tarnloft").constData(), &info), 0);
+    QCOMPARE(info.st_mode & 07777, 0700u);
+  }
+
+  // A file that claims to be large and isn't.
+  void fillsNothingUpWithAHole() {
+    Import import;
+    {
+      ForeignZip zip(import.archive, "zip:compression=store");
+      zip.file("A.tarnloft/a.png", "short");
+    }
+    QByteArray bytes = contentOf(import.archive);
+    const auto claim = [&](const QByteArray& record, qsizetype sizeAt) {
+      qToLittleEndian(quint32(1) << 30, bytes.data() + bytes.indexOf(record) + sizeAt);
+    };
+    claim("PK\1\2", 24);
+    claim("PK\3\4", 22);
+    QVERIFY(writeFile(import.archive, bytes));
+    const QString out = import.library.disk.path("out");
+    QVERIFY(QDir().mkpath(out));
+    QVERIFY(!ZipArchiver().extract(import.archive, out));
+    QVERIFY(QFileInfo(out + "/A.tarnloft/a.png").size() <= 5);
+  }
+
+  // Least of all into the root of the file system.
+  void unpacksNowhereWithoutItsFolder() {
+    Import import;
+    const QString top = QString("tst-%1.tarnloft").arg(QCoreApplication::applicationPid());
+    {
+      ForeignZip zip(import.archive);
+      zip.file(qPrintable(top + "/manifest.json"), manifest("x"));
+    }
+    QVERIFY(!ZipArchiver().extract(import.archive, import.library.disk.path("gone")));
+    QVERIFY(!QFile::exists(import.library.disk.path("gone")));
+    const QDir inRoot("/" + top);
+    const bool isInRoot = inRoot.exists();
+    if (isInRoot) QDir(inRoot).removeRecursively();
+    QVERIFY(!isInRoot);
+  }
+
+  void refusesACutArchive() {
+    Import import;
+    {
+      ForeignZip zip(import.archive, "zip:encryption=zipcrypt");
+      zip.file("A.tarnloft/manifest.json", manifest("x"));
+    }
+    QVERIFY(contentOf(import.archive).contains("manifest.json"));
+    QVERIFY(import.run().brands().isEmpty() && import.leavesNothing());  // encrypted
+    {
+      ForeignZip zip(import.archive);
+      zip.file("A.tarnloft/manifest.json", manifest("x"))
+          .file("A.tarnloft/a", QByteArray(999, 'a'));
+    }
+    const QByteArray whole = contentOf(import.archive);
+    for (qsizetype length = 0; length < whole.size(); length += 7) {
+      QVERIFY(writeFile(import.archive, whole.left(length)));
+      import.run();
+      // Cut within the directory at its end, an archive still holds all of its files.
+      if (length < whole.indexOf("PK\x01\x02")) QVERIFY(import.library.store->brands().isEmpty());
+      QVERIFY(import.leavesNothing());
+    }
+  }
+
+  void survivesWhatCannotBeWritten() {
+    TestLibrary library;
+    library.add("Acme");
+    library.start();
+    library.dialogs.answer = "/dev/full/a.zip";
+    library.store->exportSelectedBrand();
+    QCOMPARE(library.viewer.revealed, QStringList("/dev/full/a.zip"));
+    // A package that vanished leaves no archive, nor half of one.
+    library.dialogs.answer = library.disk.path("a.zip");
+    const BrandSummary row = library.store->brands().first();
+    QVERIFY(QDir(library.packagePath("Acme")).removeRecursively());
+    library.store->exportBrand(row);
+    QVERIFY(!QFile::exists(library.disk.path("a.zip")));
+  }
+
+  void doesNothingWhenCancelled() {
+    TestLibrary library;
+    library.start().exportSelectedBrand();
+    QVERIFY(library.dialogs.suggested.isEmpty());
+    library.store->createBrand("Acme");
+    library.store->exportSelectedBrand();
+    library.store->importBrand();
+    QVERIFY(library.viewer.revealed.isEmpty());
+    QCOMPARE(library.store->brands().size(), 1);
+  }
+};
 
 QTEST_GUILESS_MAIN(TestArchives)
 #include "tst_archives.moc"

@@ -1,3 +1,4 @@
+#include "testing/Cases.h"
 #include "testing/FaultyStore.h"
 #include "testing/TestLibrary.h"
 
@@ -10,19 +11,6 @@
 using namespace tarnloft;
 
 using Operation = std::function<void(LibraryStore&)>;
-
-// Library folders that fail: full, read-only, unreadable, huge, changing under the program's hands.
-class TestBadLibraries : public QObject {
-  Q_OBJECT
-
- private slots:
-  void aFullDiskHarmsNoBrand_data();
-  void aFullDiskHarmsNoBrand();
-  void aFolderThatNobodyMayReadOrWrite_data();
-  void aFolderThatNobodyMayReadOrWrite();
-  void tenThousandEntries();
-  void aPackageThatVanishes();
-};
 
 namespace {
 
@@ -73,97 +61,96 @@ QByteArrayList contentsOf(const QString& folder) {
 
 }  // namespace
 
-void TestBadLibraries::aFullDiskHarmsNoBrand_data() {
-  QTest::addColumn<Operation>("operation");
-  const auto row = [](const char* name, const Operation& run) { QTest::newRow(name) << run; };
-  row("create", [](LibraryStore& store) { store.createBrand("New"); });
-  row("rename", [](LibraryStore& store) { store.renameSelectedBrand("Acme renamed"); });
-  row("duplicate",
-      [](LibraryStore& store) { store.duplicateBrand(BrandSummary(store.brands()[0])); });
-  row("import", [](LibraryStore& store) { store.importBrand(); });
-  row("export", [](LibraryStore& store) { store.exportSelectedBrand(); });
-  row("page", [](LibraryStore& store) { store.exportBrandPage(BrandSummary(store.brands()[1])); });
-  row("version", [](LibraryStore& store) {
-    BrandDocument& document = *store.openDocument();
-    document.snapshotVersion(std::nullopt);
-    document.restoreVersion(document.listVersions().last(), nullptr);
-    document.saveNow();
-  });
-}
+// Library folders that fail: full, read-only, unreadable, huge, changing under the program's hands.
+class TestBadLibraries : public QObject {
+  Q_OBJECT
 
-// One step after the other fails; all that was there before is there afterwards.
-void TestBadLibraries::aFullDiskHarmsNoBrand() {
-  QFETCH(Operation, operation);
-  int step = 0;
-  for (bool reached = true; reached;) {
-    Full full;
-    const QByteArrayList before = contentsOf(full.library.folder);
-    full.store.steps = 0;
-    full.store.atStep = ++step;
-    full.store.fault = FaultyStore::Fault::failStep;
-    operation(*full.library.store);
-    reached = full.store.steps >= step;
-    full.store.fault = FaultyStore::Fault::none;
-    const QByteArrayList after = contentsOf(full.library.folder);
-    for (const QByteArray& content : before) {
-      QVERIFY2(after.contains(content), qPrintable(QString("step %1").arg(step)));
-    }
-    QVERIFY(!after.contains("unreadable"));
-    QVERIFY(full.library.start().brands().size() >= 2);
+ private slots:
+  // One step after the other fails; all that was there before is there afterwards.
+  void aFullDiskHarmsNoBrand() {
+    const Cases<Operation> cases{
+        {"create", [](LibraryStore& store) { store.createBrand("New"); }},
+        {"rename", [](LibraryStore& store) { store.renameSelectedBrand("Acme renamed"); }},
+        {"duplicate",
+         [](LibraryStore& store) { store.duplicateBrand(BrandSummary(store.brands()[0])); }},
+        {"import", [](LibraryStore& store) { store.importBrand(); }},
+        {"export", [](LibraryStore& store) { store.exportSelectedBrand(); }},
+        {"page",
+         [](LibraryStore& store) { store.exportBrandPage(BrandSummary(store.brands()[1])); }},
+        {"version", [](LibraryStore& store) {
+           BrandDocument& document = *store.openDocument();
+           document.snapshotVersion(std::nullopt);
+           document.restoreVersion(document.listVersions().last(), nullptr);
+           document.saveNow();
+         }}};
+    cases.check([&](const Operation& operation) {
+      int step = 0;
+      for (bool reached = true; reached;) {
+        Full full;
+        const QByteArrayList before = contentsOf(full.library.folder);
+        full.store.steps = 0;
+        full.store.atStep = ++step;
+        full.store.fault = FaultyStore::Fault::failStep;
+        operation(*full.library.store);
+        reached = full.store.steps >= step;
+        full.store.fault = FaultyStore::Fault::none;
+        const QByteArrayList after = contentsOf(full.library.folder);
+        for (const QByteArray& content : before) {
+          QVERIFY2(after.contains(content), qPrintable(QString("step %1").arg(step)));
+        }
+        QVERIFY(!after.contains("unreadable"));
+        QVERIFY(full.library.start().brands().size() >= 2);
+      }
+      QVERIFY(step > 1);
+    });
   }
-  QVERIFY(step > 1);
-}
 
-void TestBadLibraries::aFolderThatNobodyMayReadOrWrite_data() {
-  QTest::addColumn<int>("rights");
-  QTest::addColumn<int>("rows");
-  QTest::newRow("read-only") << 0555 << 1;
-  QTest::newRow("unreadable") << 0333 << 0;
-}
+  void aFolderThatNobodyMayReadOrWrite() {
+    const Cases<int, int> cases{{"read-only", 0555, 1}, {"unreadable", 0333, 0}};
+    cases.check([&](int rights, int rows) {
+      if (::geteuid() == 0 && ::seteuid(65534) != 0) QSKIP("can't become another user");
+      {
+        TestLibrary library;
+        library.add("Acme");
+        QCOMPARE(::chmod(QFile::encodeName(library.folder).constData(), mode_t(rights)), 0);
+        LibraryStore& store = library.start();
+        QCOMPARE(int(store.brands().size()), rows);
+        if (rights == 0555) QVERIFY(!store.createBrand("New"));
+        store.renameSelectedBrand("Renamed");
+        store.scan();
+        QCOMPARE(int(store.brands().size()), rows);
+        QVERIFY(decode<Brand>(contentOf(Package::manifestPath(library.packagePath("Acme")))));
+        QCOMPARE(::chmod(QFile::encodeName(library.folder).constData(), 0755), 0);
+      }
+      if (::getuid() == 0) QCOMPARE(::seteuid(0), 0);
+    });
+  }
 
-void TestBadLibraries::aFolderThatNobodyMayReadOrWrite() {
-  if (::geteuid() == 0 && ::seteuid(65534) != 0) QSKIP("can't become another user");
-  {
-    QFETCH(int, rights);
+  void tenThousandEntries() {
     TestLibrary library;
+    for (int i = 0; i < 5000; ++i) {
+      QVERIFY(writeFile(library.folder + QString("/%1.txt").arg(i), ""));
+      QVERIFY(QDir().mkpath(library.packagePath(QString::number(i))));
+    }
     library.add("Acme");
-    QCOMPARE(::chmod(QFile::encodeName(library.folder).constData(), mode_t(rights)), 0);
-    LibraryStore& store = library.start();
-    QTEST(int(store.brands().size()), "rows");
-    if (rights == 0555) QVERIFY(!store.createBrand("New"));
-    store.renameSelectedBrand("Renamed");
-    store.scan();
-    QTEST(int(store.brands().size()), "rows");
-    QVERIFY(decode<Brand>(contentOf(Package::manifestPath(library.packagePath("Acme")))));
-    QCOMPARE(::chmod(QFile::encodeName(library.folder).constData(), 0755), 0);
+    library.start();
+    QCOMPARE(library.names().size(), 5001);
+    QCOMPARE(library.store->selection(), library.packagePath("0"));
+    QCOMPARE(library.store->searchAllBrands("logos").size(), 1);
   }
-  if (::getuid() == 0) QCOMPARE(::seteuid(0), 0);
-}
 
-void TestBadLibraries::tenThousandEntries() {
-  TestLibrary library;
-  for (int i = 0; i < 5000; ++i) {
-    QVERIFY(writeFile(library.folder + QString("/%1.txt").arg(i), ""));
-    QVERIFY(QDir().mkpath(library.packagePath(QString::number(i))));
+  void aPackageThatVanishes() {
+    TestLibrary library;
+    VanishingStore store;
+    library.files = &store;
+    library.add("Acme");
+    library.start();
+    QCOMPARE(library.names(), QStringList({"Acme", "Gone"}));
+    library.store->select(library.packagePath("Gone"));
+    QVERIFY(!library.store->openDocument());
+    QCOMPARE(library.store->searchAllBrands("logos").size(), 1);
   }
-  library.add("Acme");
-  library.start();
-  QCOMPARE(library.names().size(), 5001);
-  QCOMPARE(library.store->selection(), library.packagePath("0"));
-  QCOMPARE(library.store->searchAllBrands("logos").size(), 1);
-}
-
-void TestBadLibraries::aPackageThatVanishes() {
-  TestLibrary library;
-  VanishingStore store;
-  library.files = &store;
-  library.add("Acme");
-  library.start();
-  QCOMPARE(library.names(), QStringList({"Acme", "Gone"}));
-  library.store->select(library.packagePath("Gone"));
-  QVERIFY(!library.store->openDocument());
-  QCOMPARE(library.store->searchAllBrands("logos").size(), 1);
-}
+};
 
 QTEST_GUILESS_MAIN(TestBadLibraries)
 #include "tst_badlibraries.moc"

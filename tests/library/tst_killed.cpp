@@ -9,14 +9,6 @@
 
 using namespace tarnloft;
 
-// A process that saves, snapshots and renames as fast as it can, killed at any moment.
-class TestKilled : public QObject {
-  Q_OBJECT
-
- private slots:
-  void leavesTheOldOrTheNew();
-};
-
 namespace {
 
 constexpr int kills = 100;  // about a thousand saves, snapshots and renames
@@ -70,32 +62,39 @@ int lastStepBeforeKill(const QString& folder, const QString& temporaryFolder) {
 
 }  // namespace
 
-void TestKilled::leavesTheOldOrTheNew() {
-  TestLibrary library;
-  Brand brand = library.add("Brand");
-  brand.accentHex = "0";
-  brand.sections = {Section::create("One")};
-  library.save("Brand", brand);
-  int versions = 0;
-  for (int kill = 0; kill < kills; ++kill) {
-    const int told = lastStepBeforeKill(library.folder, library.disk.folder.path());
-    QVERIFY(told > 0);
-    const QStringList packages = QDir(library.folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    QCOMPARE(packages.size(), 1);
-    const QString package = library.folder + '/' + packages.first();
-    const auto read = decode<Brand>(contentOf(Package::manifestPath(package)));
-    QVERIFY(read && isWhole(*read));
-    // A save that returned has happened; the one behind it may have.
-    QVERIFY(stepOf(*read) == told || stepOf(*read) == told + 1);
-    const QDir folder(Package::versionsPath(package));
-    for (const QString& name : folder.entryList(QDir::Files)) {
-      const auto version = decode<VersionEnvelope>(contentOf(folder.filePath(name)));
-      QVERIFY2(version && isWhole(version->brand), qPrintable(name));
-      ++versions;
+// A process that saves, snapshots and renames as fast as it can, killed at any moment.
+class TestKilled : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void leavesTheOldOrTheNew() {
+    TestLibrary library;
+    Brand brand = library.add("Brand");
+    brand.accentHex = "0";
+    brand.sections = {Section::create("One")};
+    library.save("Brand", brand);
+    int versions = 0;
+    for (int kill = 0; kill < kills; ++kill) {
+      const int told = lastStepBeforeKill(library.folder, library.disk.folder.path());
+      QVERIFY(told > 0);
+      const QStringList packages =
+          QDir(library.folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+      QCOMPARE(packages.size(), 1);
+      const QString package = library.folder + '/' + packages.first();
+      const auto read = decode<Brand>(contentOf(Package::manifestPath(package)));
+      QVERIFY(read && isWhole(*read));
+      // A save that returned has happened; the one behind it may have.
+      QVERIFY(stepOf(*read) == told || stepOf(*read) == told + 1);
+      const QDir folder(Package::versionsPath(package));
+      for (const QString& name : folder.entryList(QDir::Files)) {
+        const auto version = decode<VersionEnvelope>(contentOf(folder.filePath(name)));
+        QVERIFY2(version && isWhole(version->brand), qPrintable(name));
+        ++versions;
+      }
     }
+    qInfo("%d steps, %d versions read", stepOf(library.start().openDocument()->brand()), versions);
   }
-  qInfo("%d steps, %d versions read", stepOf(library.start().openDocument()->brand()), versions);
-}
+};
 
 int main(int argc, char** argv) {
   QCoreApplication application(argc, argv);

@@ -1,6 +1,6 @@
 #include "document/UndoHistory.h"
 #include "model/Uuid.h"
-#include "testing/RandomBrand.h"
+#include "testing/Cases.h"
 #include "testing/TestLibrary.h"
 
 #include <QSignalSpy>
@@ -8,326 +8,263 @@
 
 using namespace tarnloft;
 
+namespace {
+
+// All that the preferences in a store tell.
+QString told(Preferences& store) {
+  const LibraryPreferences preferences(store);
+  const auto text = [](std::string_view raw) {
+    return QString::fromLatin1(raw.data(), qsizetype(raw.size()));
+  };
+  const QStringList words{preferences.defaultAccentHex(),
+                          preferences.defaultAccentHexDark().value_or("-"),
+                          text(rawValue(preferences.appearanceMode())),
+                          text(rawValue(preferences.tileSize())),
+                          text(rawValue(preferences.colorCopyFormat())),
+                          text(rawValue(preferences.assetDisplayMode())),
+                          text(rawValue(preferences.lastExportFormat())),
+                          QString::number(preferences.lastExportQuality())};
+  return words.join(' ');
+}
+
+}  // namespace
+
 class TestLibraryStore : public QObject {
   Q_OBJECT
 
  private slots:
-  void aFirstStartMakesAnEmptyLibrary();
-  void listsByNameAndKeepsTheOrder();
-  void newRowsFollowTheOrderedOnes();
-  void ordersLikeTheRulesOverRandomLibraries();
-  void movesRows_data();
-  void movesRows();
-  void listsWhatItCannotRead();
-  void survivesOddFolders();
-  void takesOverLegacyPackages();
-  void selectionHasThreeStates();
-  void forwardsChangesOfTheOpenBrand();
-  void changesTheFolder();
-  void readsPreferences_data();
-  void readsPreferences();
-  void writesPreferences();
-  void gridBoundsAndAccent();
-  void picksColors();
-};
-
-void TestLibraryStore::aFirstStartMakesAnEmptyLibrary() {
-  TestLibrary library;
-  LibraryStore& store = library.start();
-  QCOMPARE(store.libraryURL(), library.folder);
-  QVERIFY(QFileInfo(library.folder).isDir());
-  QVERIFY(store.brands().isEmpty() && !store.selection() && !store.openDocument());
-  QCOMPARE(library.appearance.set, QList{AppearanceOverride::none});
-}
-
-void TestLibraryStore::listsByNameAndKeepsTheOrder() {
-  TestLibrary library;
-  for (const char* name : {"beta", "Alpha", "gamma", "Ärzte"}) library.add(name);
-  library.start();
-  QCOMPARE(library.names(), QStringList({"Alpha", "Ärzte", "beta", "gamma"}));
-  QStringList stored;
-  for (const BrandSummary& row : library.store->brands()) stored << canonicalString(row.brandID);
-  QCOMPARE(library.preferences.texts("brandOrder"), stored);
-  QCOMPARE(library.store->selection(), library.packagePath("Alpha"));
-}
-
-void TestLibraryStore::newRowsFollowTheOrderedOnes() {
-  TestLibrary library;
-  Brand beta = library.add("Beta");
-  library.add("Gamma");
-  library.start();
-  library.add("Aardvark");
-  library.store->scan();
-  QCOMPARE(library.names(), QStringList({"Beta", "Gamma", "Aardvark"}));
-  beta.name = "Zulu";
-  library.save("Beta", beta);
-  library.start();
-  QCOMPARE(library.names(), QStringList({"Zulu", "Gamma", "Aardvark"}));
-}
-
-void TestLibraryStore::ordersLikeTheRulesOverRandomLibraries() {
-  RandomBrand random(17);
-  for (int round = 0; round < 20; ++round) {
+  void aFirstStartMakesAnEmptyLibrary() {
     TestLibrary library;
-    QStringList order, present;
-    for (int i = 0; i < 12; ++i) {
-      const QString name = QChar('a' + random.below(26)) + QString::number(i);
-      const Brand brand = library.add(name);
-      if (random.below(2) == 0) {
-        order << canonicalString(brand.id);
-        present << name;
-      }
-    }
-    library.preferences.setTexts("brandOrder", QStringList("no id") + order);
-    QStringList rest;
-    for (const QString& file : QDir(library.folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-      const QString name = file.chopped(9);
-      if (!present.contains(name)) rest << name;
-    }
-    rest.sort();
-    library.start();
-    QCOMPARE(library.names(), present + rest);
+    LibraryStore& store = library.start();
+    QCOMPARE(store.libraryURL(), library.folder);
+    QVERIFY(QFileInfo(library.folder).isDir());
+    QVERIFY(store.brands().isEmpty() && !store.selection() && !store.openDocument());
+    QCOMPARE(library.appearance.set, QList{AppearanceOverride::none});
   }
-}
 
-void TestLibraryStore::movesRows_data() {
-  QTest::addColumn<QString>("moved");
-  QTest::addColumn<QString>("before");
-  QTest::addColumn<QString>("order");
-  QTest::newRow("to the front") << "c"
-                                << "a"
-                                << "cab";
-  QTest::newRow("down") << "a"
-                        << "c"
-                        << "bac";
-  QTest::newRow("to the end") << "a"
-                              << ""
-                              << "bca";
-  QTest::newRow("before an unknown one") << "a"
-                                         << "?"
-                                         << "bca";
-  QTest::newRow("before itself") << "b"
-                                 << "b"
-                                 << "abc";
-  QTest::newRow("unknown") << "?"
-                           << "a"
-                           << "abc";
-}
-
-void TestLibraryStore::movesRows() {
-  QFETCH(QString, moved);
-  QFETCH(QString, before);
-  TestLibrary library;
-  for (const char* name : {"a", "b", "c"}) library.add(name);
-  library.start();
-  const auto id = [&](const QString& name) {
-    for (const BrandSummary& row : library.store->brands()) {
-      if (row.name == name) return row.brandID;
-    }
-    return QUuid::createUuid();
-  };
-  library.store->moveBrand(id(moved), before.isEmpty() ? std::nullopt : std::optional(id(before)));
-  QTEST(library.names().join(QString()), "order");
-  library.start();
-  QTEST(library.names().join(QString()), "order");
-}
-
-void TestLibraryStore::listsWhatItCannotRead() {
-  TestLibrary library;
-  library.add("Good");
-  for (const QByteArray& bad :
-       {QByteArray("{"), QByteArray(), QByteArray("\xEF\xBB\xBF{}"), QByteArray(100000, '[')}) {
-    QVERIFY(writeFile(Package::manifestPath(library.packagePath("Bad")), bad));
+  void listsByNameAndKeepsTheOrder() {
+    TestLibrary library;
+    for (const char* name : {"beta", "Alpha", "gamma", "Ärzte"}) library.add(name);
     library.start();
-    QCOMPARE(library.names().size(), 2);
-    QVERIFY(library.names().contains("Bad"));
+    QCOMPARE(library.names(), QStringList({"Alpha", "Ärzte", "beta", "gamma"}));
+    QStringList stored;
+    for (const BrandSummary& row : library.store->brands()) stored << canonicalString(row.brandID);
+    QCOMPARE(library.preferences.texts("brandOrder"), stored);
+    QCOMPARE(library.store->selection(), library.packagePath("Alpha"));
   }
-  const auto idOfBad = [&] { return library.store->brands().last().brandID; };
-  const QUuid first = idOfBad();
-  library.store->scan();
-  QVERIFY(idOfBad() != first);
-}
 
-void TestLibraryStore::survivesOddFolders() {
-  TestLibrary library;
-  QVERIFY(writeFile(library.folder, "a file where the folder belongs"));
-  QVERIFY(library.start().brands().isEmpty());
-  QVERIFY(QFile::remove(library.folder));
-  const QStringList names{"  blank ",   "名前", "עברית", "e\u0301", "emoji 👩‍👩‍👧",
-                          "line\nbreak"};
-  for (const QString& name : names) library.add(name);
-  library.add("upper");
-  QVERIFY(QDir(library.folder).rename("upper.tarnloft", "upper.TARNLOFT"));
-  QVERIFY(writeFile(library.folder + "/notes.txt", "x"));
-  library.start();
-  QStringList listed = library.names(), expected = names;
-  listed.sort();
-  expected.sort();
-  QCOMPARE(listed, expected);
-}
+  void newRowsFollowTheOrderedOnes() {
+    TestLibrary library;
+    Brand beta = library.add("Beta");
+    library.add("Gamma");
+    library.start();
+    library.add("Aardvark");
+    library.store->scan();
+    QCOMPARE(library.names(), QStringList({"Beta", "Gamma", "Aardvark"}));
+    beta.name = "Zulu";
+    library.save("Beta", beta);
+    library.start();
+    QCOMPARE(library.names(), QStringList({"Zulu", "Gamma", "Aardvark"}));
+  }
 
-void TestLibraryStore::takesOverLegacyPackages() {
-  TestLibrary library;
-  library.add("Old");
-  library.add("Both");
-  QVERIFY(QDir(library.folder).rename("Old.tarnloft", "Old.yewstack"));
-  QVERIFY(QDir(library.folder).mkdir("Both.yewstack"));
-  library.start();
-  QStringList names = library.names();
-  names.sort();
-  QCOMPARE(names, QStringList({"Both", "Both", "Old"}));
-  QVERIFY(QFileInfo(library.packagePath("Old")).isDir());
-  QVERIFY(QFileInfo(library.folder + "/Both.yewstack").isDir());
-}
+  void movesRows() {
+    const Cases<QString, QString, QString> cases{
+        {"to the front", "c", "a", "cab"},  {"down", "a", "c", "bac"},
+        {"to the end", "a", "", "bca"},     {"before an unknown one", "a", "?", "bca"},
+        {"before itself", "b", "b", "abc"}, {"unknown", "?", "a", "abc"}};
+    cases.check([&](const QString& moved, const QString& before, const QString& order) {
+      TestLibrary library;
+      for (const char* name : {"a", "b", "c"}) library.add(name);
+      library.start();
+      const auto id = [&](const QString& name) {
+        for (const BrandSummary& row : library.store->brands()) {
+          if (row.name == name) return row.brandID;
+        }
+        return QUuid::createUuid();
+      };
+      library.store->moveBrand(id(moved),
+                               before.isEmpty() ? std::nullopt : std::optional(id(before)));
+      QCOMPARE(library.names().join(QString()), order);
+      library.start();
+      QCOMPARE(library.names().join(QString()), order);
+    });
+  }
 
-void TestLibraryStore::selectionHasThreeStates() {
-  TestLibrary library;
-  library.add("Good");
-  QVERIFY(QDir().mkpath(library.packagePath("Bad")));
-  LibraryStore& store = library.start();
-  store.select(library.packagePath("Good"));
-  BrandDocument* const document = store.openDocument();
-  QVERIFY(document && document->brand().name == "Good");
-  store.select(library.packagePath("Good"));
-  QCOMPARE(store.openDocument(), document);
-  store.select(library.packagePath("Bad"));
-  QVERIFY(store.selection() && !store.openDocument());
-  store.select(std::nullopt);
-  QVERIFY(!store.selection() && !store.openDocument());
-}
+  void listsWhatItCannotRead() {
+    TestLibrary library;
+    library.add("Good");
+    for (const QByteArray& bad :
+         {QByteArray("{"), QByteArray(), QByteArray("\xEF\xBB\xBF{}"), QByteArray(100000, '[')}) {
+      QVERIFY(writeFile(Package::manifestPath(library.packagePath("Bad")), bad));
+      library.start();
+      QCOMPARE(library.names().size(), 2);
+      QVERIFY(library.names().contains("Bad"));
+    }
+    const auto idOfBad = [&] { return library.store->brands().last().brandID; };
+    const QUuid first = idOfBad();
+    library.store->scan();
+    QVERIFY(idOfBad() != first);
+  }
 
-void TestLibraryStore::forwardsChangesOfTheOpenBrand() {
-  TestLibrary library;
-  library.add("A");
-  library.add("B");
-  LibraryStore& store = library.start();
-  QSignalSpy changes(&store, &LibraryStore::brandChanged);
-  store.openDocument()->edit([](Brand& brand) { brand.name = "x"; });
-  QCOMPARE(changes.size(), 1);
-  QPointer<BrandDocument> old = store.openDocument();
-  store.select(library.packagePath("B"));
-  QVERIFY(!old);
-  store.openDocument()->edit([](Brand& brand) { brand.name = "y"; });
-  QCOMPARE(changes.size(), 2);
-}
+  void survivesOddFolders() {
+    TestLibrary library;
+    QVERIFY(writeFile(library.folder, "a file where the folder belongs"));
+    QVERIFY(library.start().brands().isEmpty());
+    QVERIFY(QFile::remove(library.folder));
+    const QStringList names{"  blank ",   "名前", "עברית", "e\u0301", "emoji 👩‍👩‍👧",
+                            "line\nbreak"};
+    for (const QString& name : names) library.add(name);
+    library.add("upper");
+    QVERIFY(QDir(library.folder).rename("upper.tarnloft", "upper.TARNLOFT"));
+    QVERIFY(writeFile(library.folder + "/notes.txt", "x"));
+    library.start();
+    QStringList listed = library.names(), expected = names;
+    listed.sort();
+    expected.sort();
+    QCOMPARE(listed, expected);
+  }
 
-void TestLibraryStore::changesTheFolder() {
-  TestLibrary library;
-  library.add("Here");
-  library.start();
-  const QString there = library.disk.path("there");
-  QVERIFY(
-      writeFile(Package::manifestPath(there + "/There.tarnloft"), *encode(Brand::create("There"))));
-  library.store->setLibraryURL(there);
-  QCOMPARE(library.names(), QStringList("There"));
-  QCOMPARE(library.store->selection(), there + "/There.tarnloft");
-  QCOMPARE(library.start().libraryURL(), there);
-}
+  void takesOverLegacyPackages() {
+    TestLibrary library;
+    library.add("Old");
+    library.add("Both");
+    QVERIFY(QDir(library.folder).rename("Old.tarnloft", "Old.yewstack"));
+    QVERIFY(QDir(library.folder).mkdir("Both.yewstack"));
+    library.start();
+    QStringList names = library.names();
+    names.sort();
+    QCOMPARE(names, QStringList({"Both", "Both", "Old"}));
+    QVERIFY(QFileInfo(library.packagePath("Old")).isDir());
+    QVERIFY(QFileInfo(library.folder + "/Both.yewstack").isDir());
+  }
 
-void TestLibraryStore::readsPreferences_data() {
-  QTest::addColumn<QByteArray>("file");
-  QTest::addColumn<QString>("read");
-  QTest::newRow("none") << QByteArray() << "#0A84FF - system medium hex compact png 0.85";
-  QTest::newRow("all") << QByteArray(
-                              "[General]\ndefaultAccentHex=#123456\ndefaultAccentHexDark=#"
-                              "abc\nappearanceMode=dark\ntileSize=large\n"
-                              "colorCopyFormat=hexLower\nassetDisplayMode="
-                              "expanded\nlastExportFormat=heic\nlastExportQuality=0.5\n")
-                       << "#123456 #abc dark large hexLower expanded heic 0.5";
-  QTest::newRow("nonsense") << QByteArray(
-                                   "[General]\nappearanceMode=sepia\ntileSize="
-                                   "huge\ncolorCopyFormat=HEX\nassetDisplayMode=a, b\n"
-                                   "lastExportFormat=\nlastExportQuality=high\n")
-                            << "#0A84FF - system medium hex compact png 0.85";
-}
+  void selectionHasThreeStates() {
+    TestLibrary library;
+    library.add("Good");
+    QVERIFY(QDir().mkpath(library.packagePath("Bad")));
+    LibraryStore& store = library.start();
+    store.select(library.packagePath("Good"));
+    BrandDocument* const document = store.openDocument();
+    QVERIFY(document && document->brand().name == "Good");
+    store.select(library.packagePath("Good"));
+    QCOMPARE(store.openDocument(), document);
+    store.select(library.packagePath("Bad"));
+    QVERIFY(store.selection() && !store.openDocument());
+    store.select(std::nullopt);
+    QVERIFY(!store.selection() && !store.openDocument());
+  }
 
-void TestLibraryStore::readsPreferences() {
-  QFETCH(QByteArray, file);
-  QTemporaryDir folder;
-  QVERIFY(writeFile(folder.filePath("p.ini"), file));
-  IniPreferences ini(folder.filePath("p.ini"));
-  const LibraryPreferences preferences(ini);
-  const auto text = [](std::string_view raw) {
-    return QString::fromLatin1(raw.data(), qsizetype(raw.size()));
-  };
-  QTEST(QStringList(
-            {preferences.defaultAccentHex(), preferences.defaultAccentHexDark().value_or("-"),
-             text(rawValue(preferences.appearanceMode())), text(rawValue(preferences.tileSize())),
-             text(rawValue(preferences.colorCopyFormat())),
-             text(rawValue(preferences.assetDisplayMode())),
-             text(rawValue(preferences.lastExportFormat())),
-             QString::number(preferences.lastExportQuality())})
-            .join(' '),
-        "read");
-}
+  void forwardsChangesOfTheOpenBrand() {
+    TestLibrary library;
+    library.add("A");
+    library.add("B");
+    LibraryStore& store = library.start();
+    QSignalSpy changes(&store, &LibraryStore::brandChanged);
+    store.openDocument()->edit([](Brand& brand) { brand.name = "x"; });
+    QCOMPARE(changes.size(), 1);
+    QPointer<BrandDocument> old = store.openDocument();
+    store.select(library.packagePath("B"));
+    QVERIFY(!old);
+    store.openDocument()->edit([](Brand& brand) { brand.name = "y"; });
+    QCOMPARE(changes.size(), 2);
+  }
 
-void TestLibraryStore::writesPreferences() {
-  TestLibrary library;
-  LibraryPreferences& preferences = library.start().preferences();
-  QSignalSpy sizes(&preferences, &LibraryPreferences::tileSizeChanged);
-  preferences.setDefaultAccentHex("#111111");
-  preferences.setDefaultAccentHexDark(QString("#222222"));
-  preferences.setAppearanceMode(AppearanceMode::dark);
-  preferences.setTileSize(TileSize::small);
-  preferences.setColorCopyFormat(ColorCopyFormat::cmyk);
-  preferences.setAssetDisplayMode(AssetDisplayMode::expanded);
-  preferences.setLastExportFormat(ExportFormat::tiff);
-  preferences.setLastExportQuality(0.4);
-  QCOMPARE(sizes.size(), 1);
-  QCOMPARE(library.appearance.set.last(), AppearanceOverride::dark);
-  const LibraryPreferences anew(library.preferences);
-  QCOMPARE(anew.defaultAccentHexDark(), QString("#222222"));
-  QCOMPARE(anew.colorCopyFormat(), ColorCopyFormat::cmyk);
-  QCOMPARE(anew.lastExportQuality(), 0.4);
-  preferences.setDefaultAccentHexDark(std::nullopt);
-  QVERIFY(!LibraryPreferences(library.preferences).defaultAccentHexDark());
-}
+  void changesTheFolder() {
+    TestLibrary library;
+    library.add("Here");
+    library.start();
+    const QString there = library.disk.path("there");
+    QVERIFY(writeFile(Package::manifestPath(there + "/There.tarnloft"),
+                      *encode(Brand::create("There"))));
+    library.store->setLibraryURL(there);
+    QCOMPARE(library.names(), QStringList("There"));
+    QCOMPARE(library.store->selection(), there + "/There.tarnloft");
+    QCOMPARE(library.start().libraryURL(), there);
+  }
 
-void TestLibraryStore::gridBoundsAndAccent() {
-  TestLibrary library;
-  Brand brand = library.add("A");
-  LibraryStore& store = library.start();
-  store.preferences().setTileSize(TileSize::large);
-  QCOMPARE(store.gridMinWidth(), 176.0);
-  QCOMPARE(store.gridMaxWidth(), 240.0);
-  store.preferences().setAssetDisplayMode(AssetDisplayMode::expanded);
-  QCOMPARE(store.gridMinWidth(), 250.0);
-  QCOMPARE(store.effectiveAccentHex(ColorUtil::Appearance::light), "#0A84FF");
-  store.openDocument()->edit([](Brand& open) { open.accentHex = "#123456"; });
-  QCOMPARE(store.effectiveAccentHex(ColorUtil::Appearance::dark), "#123456");
-  store.select(std::nullopt);
-  QCOMPARE(store.effectiveAccentHex(ColorUtil::Appearance::dark), "#0A84FF");
-}
+  void readsPreferences() {
+    const Cases<QByteArray, QString> cases{
+        {"none", "", "#0A84FF - system medium hex compact png 0.85"},
+        {"all",
+         "[General]\ndefaultAccentHex=#123456\ndefaultAccentHexDark=#abc\nappearanceMode=dark\n"
+         "tileSize=large\ncolorCopyFormat=hexLower\nassetDisplayMode=expanded\n"
+         "lastExportFormat=heic\nlastExportQuality=0.5\n",
+         "#123456 #abc dark large hexLower expanded heic 0.5"},
+        {"nonsense",
+         "[General]\nappearanceMode=sepia\ntileSize=huge\ncolorCopyFormat=HEX\n"
+         "assetDisplayMode=a, b\nlastExportFormat=\nlastExportQuality=high\n",
+         "#0A84FF - system medium hex compact png 0.85"}};
+    cases.check([&](const QByteArray& file, const QString& read) {
+      QTemporaryDir folder;
+      QVERIFY(writeFile(folder.filePath("p.ini"), file));
+      IniPreferences ini(folder.filePath("p.ini"));
+      QCOMPARE(told(ini), read);
+    });
+  }
 
-void TestLibraryStore::picksColors() {
-  TestLibrary library;
-  LibraryStore& store = library.start();
-  store.pickColorFromScreen();
-  QCOMPARE(library.beep.count, 1);
-  library.add("A", {Section::create("Logos")});
-  store.scan();
-  store.select(library.packagePath("A"));
-  UndoHistory history;
-  store.setHostUndoManager(&history);
-  store.pickColorFromScreen();
-  library.pendingPick(std::nullopt);
-  QVERIFY(!history.canUndo());
-  store.pickColorFromScreen();
-  library.pendingPick(SampledColor{1, 0.5, 0.2});
-  store.openDocument()->edit([](Brand& brand) { brand.sections << Section::create("Palette"); });
-  store.pickColorFromScreen();
-  library.pendingPick(SampledColor{0, 0, 0});
-  const QList<Section>& sections = store.openDocument()->brand().sections;
-  QCOMPARE(sections.size(), 3);
-  QCOMPARE(sections.at(1).name, "Colors");
-  QCOMPARE(sections.at(1).items.size(), 2);
-  QCOMPARE(std::get<ColorPayload>(sections.at(1).items.at(0).payload).value.hex, "#FF8033");
-  QCOMPARE(history.undoActionName(), "Pick Color");
-  store.pickColorFromScreen();
-  store.select(std::nullopt);
-  library.pendingPick(SampledColor{0, 0, 0});
-  QCoreApplication::processEvents();
-}
+  void writesPreferences() {
+    TestLibrary library;
+    LibraryPreferences& preferences = library.start().preferences();
+    preferences.setDefaultAccentHex("#111111");
+    preferences.setDefaultAccentHexDark(QString("#222222"));
+    preferences.setAppearanceMode(AppearanceMode::dark);
+    preferences.setTileSize(TileSize::small);
+    preferences.setColorCopyFormat(ColorCopyFormat::cmyk);
+    preferences.setAssetDisplayMode(AssetDisplayMode::expanded);
+    preferences.setLastExportFormat(ExportFormat::tiff);
+    preferences.setLastExportQuality(0.4);
+    QCOMPARE(library.appearance.set.last(), AppearanceOverride::dark);
+    QCOMPARE(told(library.preferences), "#111111 #222222 dark small cmyk expanded tiff 0.4");
+    preferences.setDefaultAccentHexDark(std::nullopt);
+    QVERIFY(!LibraryPreferences(library.preferences).defaultAccentHexDark());
+  }
+
+  void gridBoundsAndAccent() {
+    TestLibrary library;
+    Brand brand = library.add("A");
+    LibraryStore& store = library.start();
+    store.preferences().setTileSize(TileSize::large);
+    QCOMPARE(store.gridMinWidth(), 176.0);
+    QCOMPARE(store.gridMaxWidth(), 240.0);
+    store.preferences().setAssetDisplayMode(AssetDisplayMode::expanded);
+    QCOMPARE(store.gridMinWidth(), 250.0);
+    QCOMPARE(store.effectiveAccentHex(ColorUtil::Appearance::light), "#0A84FF");
+    store.openDocument()->edit([](Brand& open) { open.accentHex = "#123456"; });
+    QCOMPARE(store.effectiveAccentHex(ColorUtil::Appearance::dark), "#123456");
+    store.select(std::nullopt);
+    QCOMPARE(store.effectiveAccentHex(ColorUtil::Appearance::dark), "#0A84FF");
+  }
+
+  void picksColors() {
+    TestLibrary library;
+    LibraryStore& store = library.start();
+    store.pickColorFromScreen();
+    QCOMPARE(library.beep.count, 1);
+    library.add("A", {Section::create("Logos")});
+    store.scan();
+    store.select(library.packagePath("A"));
+    UndoHistory history;
+    store.setHostUndoManager(&history);
+    store.pickColorFromScreen();
+    library.pendingPick(std::nullopt);
+    QVERIFY(!history.canUndo());
+    store.pickColorFromScreen();
+    library.pendingPick(SampledColor{1, 0.5, 0.2});
+    store.openDocument()->edit([](Brand& brand) { brand.sections << Section::create("Palette"); });
+    store.pickColorFromScreen();
+    library.pendingPick(SampledColor{0, 0, 0});
+    const QList<Section>& sections = store.openDocument()->brand().sections;
+    QCOMPARE(sections.size(), 3);
+    QCOMPARE(sections.at(1).name, "Colors");
+    QCOMPARE(sections.at(1).items.size(), 2);
+    QCOMPARE(std::get<ColorPayload>(sections.at(1).items.at(0).payload).value.hex, "#FF8033");
+    QCOMPARE(history.undoActionName(), "Pick Color");
+    store.pickColorFromScreen();
+    store.select(std::nullopt);
+    library.pendingPick(SampledColor{0, 0, 0});
+    QCoreApplication::processEvents();
+  }
+};
 
 QTEST_GUILESS_MAIN(TestLibraryStore)
 #include "tst_librarystore.moc"

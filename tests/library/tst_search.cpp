@@ -1,3 +1,4 @@
+#include "testing/Cases.h"
 #include "testing/RandomBrand.h"
 #include "testing/TestLibrary.h"
 
@@ -5,21 +6,6 @@
 #include <QTest>
 
 using namespace tarnloft;
-
-class TestSearch : public QObject {
-  Q_OBJECT
-
- private slots:
-  void findsWhatTheRulesTell_data();
-  void findsWhatTheRulesTell();
-  void agreesWithEachItemOverRandomBrands();
-  void findsTheSameInAManifestAsInItsBrand();
-  void findsInALibraryWhatItsBrandsHold();
-  void findsInStoredOrder();
-  void searchesUnsavedEditsAndWhatChangedOnDisk();
-  void holdsLessThanTheManifests();
-  void revealsASection();
-};
 
 namespace {
 
@@ -44,162 +30,152 @@ QList<BrandAtURL> twoBrands() {
 
 }  // namespace
 
-void TestSearch::findsWhatTheRulesTell_data() {
-  QTest::addColumn<QString>("query");
-  QTest::addColumn<QStringList>("titles");
-  QTest::newRow("section first") << "logo" << QStringList{"Logos", "Primary Logo", "Set"};
-  QTest::newRow("both brands") << "brand" << QStringList{"Brand Blue", "Brand Colors"};
-  QTest::newRow("any case, trimmed") << "  PRIMARY\n" << QStringList{"Primary Logo"};
-  QTest::newRow("blanks") << "   " << QStringList{};
-  QTest::newRow("none") << "zzznope" << QStringList{};
-  QTest::newRow("type") << "color" << QStringList{"Brand Blue", "Brand Colors"};
-  QTest::newRow("part of a hex") << "#1234" << QStringList{"Brand Blue"};
-  QTest::newRow("spot") << "pms 021" << QStringList{"Brand Blue"};
-  QTest::newRow("role") << "wordmark" << QStringList{"Set"};
-  QTest::newRow("no label of a nameless section") << "untitled" << QStringList{};
-  QTest::newRow("beyond ASCII") << "ÜBER" << QStringList{"überblau"};
-  QTest::newRow("not across tokens") << "LogoImage" << QStringList{};
-}
+class TestSearch : public QObject {
+  Q_OBJECT
 
-void TestSearch::findsWhatTheRulesTell() {
-  QFETCH(QString, query);
-  QStringList titles;
-  for (const SearchHit& hit : searchHits(twoBrands(), query)) titles << hit.title;
-  QTEST(titles, "titles");
-}
+ private slots:
+  void findsWhatTheRulesTell() {
+    const Cases<QString, QStringList> cases{
+        {"section first", "logo", QStringList{"Logos", "Primary Logo", "Set"}},
+        {"both brands", "brand", QStringList{"Brand Blue", "Brand Colors"}},
+        {"any case, trimmed", "  PRIMARY\n", QStringList{"Primary Logo"}},
+        {"blanks", "   ", QStringList{}},
+        {"none", "zzznope", QStringList{}},
+        {"type", "color", QStringList{"Brand Blue", "Brand Colors"}},
+        {"part of a hex", "#1234", QStringList{"Brand Blue"}},
+        {"spot", "pms 021", QStringList{"Brand Blue"}},
+        {"role", "wordmark", QStringList{"Set"}},
+        {"no label of a nameless section", "untitled", QStringList{}},
+        {"beyond ASCII", "ÜBER", QStringList{"überblau"}},
+        {"not across tokens", "LogoImage", QStringList{}}};
+    cases.check([&](const QString& query, const QStringList& titles) {
+      QStringList found;
+      for (const SearchHit& hit : searchHits(twoBrands(), query)) found << hit.title;
+      QCOMPARE(found, titles);
+    });
+  }
 
-void TestSearch::agreesWithEachItemOverRandomBrands() {
-  RandomBrand random(31);
-  for (int round = 0; round < 10; ++round) {
-    QList<BrandAtURL> brands;
-    for (int i = 0; i < 3; ++i) brands << BrandAtURL{QString::number(i), random.brand(3, 40)};
-    for (const QString& query :
-         QStringList{"harbour", "MARK 1", "7", "ü", "logo", "\"", "<co>", "#F"}) {
-      QStringList expected;
-      for (const auto& [url, brand] : brands) {
-        for (const Section& part : brand.sections) {
-          const QString prefix = url + '|' + part.id.toString(QUuid::WithoutBraces).toUpper() + '|';
-          if (part.name.contains(query, Qt::CaseInsensitive)) expected << prefix + "section";
-          for (const Item& item : part.items) {
-            if (item.matchesSearch(query))
-              expected << prefix + item.id.toString(QUuid::WithoutBraces).toUpper();
+  void agreesWithEachItemOverRandomBrands() {
+    RandomBrand random(31);
+    for (int round = 0; round < 10; ++round) {
+      QList<BrandAtURL> brands;
+      for (int i = 0; i < 3; ++i) brands << BrandAtURL{QString::number(i), random.brand(3, 40)};
+      for (const QString& query :
+           QStringList{"harbour", "MARK 1", "7", "ü", "logo", "\"", "<co>", "#F"}) {
+        QStringList expected;
+        for (const auto& [url, brand] : brands) {
+          for (const Section& part : brand.sections) {
+            const QString prefix =
+                url + '|' + part.id.toString(QUuid::WithoutBraces).toUpper() + '|';
+            if (part.name.contains(query, Qt::CaseInsensitive)) expected << prefix + "section";
+            for (const Item& item : part.items) {
+              if (item.matchesSearch(query))
+                expected << prefix + item.id.toString(QUuid::WithoutBraces).toUpper();
+            }
           }
         }
-      }
-      QStringList found;
-      for (const SearchHit& hit : searchHits(brands, query)) found << hit.id();
-      QCOMPARE(found, expected);
-    }
-  }
-}
-
-void TestSearch::findsTheSameInAManifestAsInItsBrand() {
-  RandomBrand random(32);
-  QHash<QUuid, QString> titles;
-  for (const char* query : {"a", "mark", "color", "ü", "\xEF\xBB\xBF", ".", "harbour 1"}) {
-    QList<SearchHit> inManifests, inBrands;
-    for (int round = 0; round < 5; ++round) {
-      const Brand brand = random.brand(3, 40);
-      const auto read = SearchableBrand::read(*encode(brand));
-      QVERIFY(read);
-      read->appendHits("x", query, inManifests);
-      SearchableBrand(brand).appendHits("x", query, inBrands);
-      for (const Section& part : brand.sections) {
-        for (const Item& item : part.items) titles[item.id] = item.displayName();
+        QStringList found;
+        for (const SearchHit& hit : searchHits(brands, query)) found << hit.id();
+        QCOMPARE(found, expected);
       }
     }
-    QVERIFY(!inBrands.isEmpty());
-    QCOMPARE(inManifests, inBrands);
-    for (const SearchHit& hit : inManifests) {
-      if (!hit.isSection()) QCOMPARE(hit.title, titles.value(*hit.itemID));
+  }
+
+  void findsTheSameInAManifestAsInItsBrand() {
+    RandomBrand random(32);
+    QHash<QUuid, QString> titles;
+    for (const char* query : {"a", "mark", "color", "ü", "\xEF\xBB\xBF", ".", "harbour 1"}) {
+      QList<SearchHit> inManifests, inBrands;
+      for (int round = 0; round < 5; ++round) {
+        const Brand brand = random.brand(3, 40);
+        const auto read = SearchableBrand::read(*encode(brand));
+        QVERIFY(read);
+        read->appendHits("x", query, inManifests);
+        SearchableBrand(brand).appendHits("x", query, inBrands);
+        for (const Section& part : brand.sections) {
+          for (const Item& item : part.items) titles[item.id] = item.displayName();
+        }
+      }
+      QVERIFY(!inBrands.isEmpty());
+      QCOMPARE(inManifests, inBrands);
+      for (const SearchHit& hit : inManifests) {
+        if (!hit.isSection()) QCOMPARE(hit.title, titles.value(*hit.itemID));
+      }
+    }
+    QVERIFY(!SearchableBrand::read("{\"name\":\"x\"}"));
+  }
+
+  // Enough packages for several threads, some of which can't be read.
+  void findsInALibraryWhatItsBrandsHold() {
+    TestLibrary library;
+    QHash<QString, Brand> brands;
+    for (int i = 0; i < 50; ++i) {
+      const QString name = QString::number(i);
+      brands[library.packagePath(name)] =
+          library.add(name, RandomBrand(quint32(i)).brand(2, 9).sections);
+      if (i % 7) continue;
+      brands.remove(library.packagePath(name));
+      QVERIFY(writeFile(Package::manifestPath(library.packagePath(name)),
+                        "{\"name\":\"" + name.toUtf8() + "\"}"));
+    }
+    LibraryStore& store = library.start();
+    QCOMPARE(store.brands().size(), 50);
+    store.select(library.packagePath("0"));
+    QList<BrandAtURL> inOrder;
+    for (const BrandSummary& row : store.brands()) {
+      QCOMPARE(row.name, QFileInfo(row.packageURL).completeBaseName());
+      const auto brand = brands.constFind(row.packageURL);
+      QCOMPARE(row.brandID == brands.value(row.packageURL).id, brand != brands.cend());
+      if (brand != brands.cend()) inOrder << BrandAtURL{row.packageURL, *brand};
+    }
+    for (const QString& query : QStringList{"mark 1", "lane", "color"}) {
+      QVERIFY(!searchHits(inOrder, query).isEmpty());
+      QCOMPARE(store.searchAllBrands(query), searchHits(inOrder, query));
+      QCOMPARE(store.searchAllBrands(query), searchHits(inOrder, query));
     }
   }
-  QVERIFY(!SearchableBrand::read("{\"name\":\"x\"}"));
-}
 
-// Enough packages for several threads, some of which can't be read.
-void TestSearch::findsInALibraryWhatItsBrandsHold() {
-  TestLibrary library;
-  QHash<QString, Brand> brands;
-  for (int i = 0; i < 50; ++i) {
-    const QString name = QString::number(i);
-    brands[library.packagePath(name)] =
-        library.add(name, RandomBrand(quint32(i)).brand(2, 9).sections);
-    if (i % 7) continue;
-    brands.remove(library.packagePath(name));
-    QVERIFY(writeFile(Package::manifestPath(library.packagePath(name)),
-                      "{\"name\":\"" + name.toUtf8() + "\"}"));
+  void searchesUnsavedEditsAndWhatChangedOnDisk() {
+    TestLibrary library;
+    library.add("A");
+    Brand b = library.add("B");
+    QVERIFY(QDir().mkpath(library.packagePath("Bad")));
+    LibraryStore& store = library.start();
+    const auto count = [&](const QString& query) { return store.searchAllBrands(query).size(); };
+    QCOMPARE(count("logos"), 2);
+    store.openDocument()->edit([](Brand& brand) { brand.sections[1].name = "Marks"; });
+    QCOMPARE(count("logos"), 1);
+    QCOMPARE(count("marks"), 1);
+    b.sections[0].name = "Marks";
+    library.save("B", b);
+    QCOMPARE(count("marks"), 2);
+    QVERIFY(writeFile(Package::manifestPath(library.packagePath("B")), "{"));
+    QCOMPARE(count("marks"), 1);
+    library.save("Bad", b);
+    QCOMPARE(count("marks"), 2);
+    QVERIFY(QDir(library.packagePath("Bad")).removeRecursively());
+    QCOMPARE(count("marks"), 1);
   }
-  LibraryStore& store = library.start();
-  QCOMPARE(store.brands().size(), 50);
-  store.select(library.packagePath("0"));
-  QList<BrandAtURL> inOrder;
-  for (const BrandSummary& row : store.brands()) {
-    QCOMPARE(row.name, QFileInfo(row.packageURL).completeBaseName());
-    const auto brand = brands.constFind(row.packageURL);
-    QCOMPARE(row.brandID == brands.value(row.packageURL).id, brand != brands.cend());
-    if (brand != brands.cend()) inOrder << BrandAtURL{row.packageURL, *brand};
+
+  void holdsLessThanTheManifests() {
+    RandomBrand random(2);
+    const Brand brand = random.brand(5, 60);
+    QVERIFY(SearchableBrand(brand).memory() < encode(brand)->size());
   }
-  for (const QString& query : QStringList{"mark 1", "lane", "color"}) {
-    QVERIFY(!searchHits(inOrder, query).isEmpty());
-    QCOMPARE(store.searchAllBrands(query), searchHits(inOrder, query));
-    QCOMPARE(store.searchAllBrands(query), searchHits(inOrder, query));
+
+  void revealsASection() {
+    TestLibrary library;
+    library.add("A");
+    library.add("B");
+    LibraryStore& store = library.start();
+    const SearchHit hit = store.searchAllBrands("logos").last();
+    store.reveal(hit);
+    QCOMPARE(store.selection(), library.packagePath("B"));
+    QVERIFY(!store.scrollToSection());
+    QCoreApplication::processEvents();
+    QCOMPARE(store.scrollToSection(), hit.sectionID);
   }
-}
-
-void TestSearch::findsInStoredOrder() {
-  const QList<BrandAtURL> brands = twoBrands();
-  const auto hits = searchHits(brands, "e");
-  QVERIFY(hits.size() > 3);
-  QCOMPARE(hits.first().brandName, "Acme");
-  QCOMPARE(hits.last().brandURL, "/tmp/B.tarnloft");
-  for (const SearchHit& hit : hits) {
-    QCOMPARE(hit.isSection(), hit.typeLabel == "Section");
-    QVERIFY(!hit.sectionName.isEmpty());
-  }
-  QVERIFY(searchHits(brands, "e") == hits);
-}
-
-void TestSearch::searchesUnsavedEditsAndWhatChangedOnDisk() {
-  TestLibrary library;
-  library.add("A");
-  Brand b = library.add("B");
-  QVERIFY(QDir().mkpath(library.packagePath("Bad")));
-  LibraryStore& store = library.start();
-  const auto count = [&](const QString& query) { return store.searchAllBrands(query).size(); };
-  QCOMPARE(count("logos"), 2);
-  store.openDocument()->edit([](Brand& brand) { brand.sections[1].name = "Marks"; });
-  QCOMPARE(count("logos"), 1);
-  QCOMPARE(count("marks"), 1);
-  b.sections[0].name = "Marks";
-  library.save("B", b);
-  QCOMPARE(count("marks"), 2);
-  QVERIFY(writeFile(Package::manifestPath(library.packagePath("B")), "{"));
-  QCOMPARE(count("marks"), 1);
-  library.save("Bad", b);
-  QCOMPARE(count("marks"), 2);
-  QVERIFY(QDir(library.packagePath("Bad")).removeRecursively());
-  QCOMPARE(count("marks"), 1);
-}
-
-void TestSearch::holdsLessThanTheManifests() {
-  RandomBrand random(2);
-  const Brand brand = random.brand(5, 60);
-  QVERIFY(SearchableBrand(brand).memory() < encode(brand)->size());
-}
-
-void TestSearch::revealsASection() {
-  TestLibrary library;
-  library.add("A");
-  library.add("B");
-  LibraryStore& store = library.start();
-  const SearchHit hit = store.searchAllBrands("logos").last();
-  store.reveal(hit);
-  QCOMPARE(store.selection(), library.packagePath("B"));
-  QVERIFY(!store.scrollToSection());
-  QCoreApplication::processEvents();
-  QCOMPARE(store.scrollToSection(), hit.sectionID);
-}
+};
 
 QTEST_GUILESS_MAIN(TestSearch)
 #include "tst_search.moc"

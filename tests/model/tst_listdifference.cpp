@@ -1,4 +1,5 @@
 #include "model/ListDifference.h"
+#include "testing/Cases.h"
 #include "testing/RandomBrand.h"
 
 #include <QAbstractItemModelTester>
@@ -9,17 +10,6 @@
 #include <algorithm>
 
 using namespace tarnloft;
-
-class TestListDifference : public QObject {
-  Q_OBJECT
-
- private slots:
-  void fewestSteps_data();
-  void fewestSteps();
-  void aModelFollowsRandomEdits();
-  void movesAreAsFewAsCanBe();
-  void repeatedIdsReplaceTheList();
-};
 
 namespace {
 
@@ -90,107 +80,85 @@ class ItemModel : public QAbstractListModel {
 
 }  // namespace
 
-void TestListDifference::fewestSteps_data() {
-  QTest::addColumn<QString>("before");
-  QTest::addColumn<QString>("after");
-  QTest::addColumn<QString>("steps");
-  QTest::newRow("same") << "abc"
-                        << "abc"
-                        << "";
-  QTest::newRow("from nothing") << ""
-                                << "abc"
-                                << "+0x3";
-  QTest::newRow("to nothing") << "abc"
-                              << ""
-                              << "-0x3";
-  QTest::newRow("one moved forwards") << "abcde"
-                                      << "bcade"
-                                      << "0>2";
-  QTest::newRow("one moved backwards") << "abcde"
-                                       << "aebcd"
-                                       << "4>1";
-  QTest::newRow("removals from the back") << "abcdef"
-                                          << "acf"
-                                          << "-3x2 -1x1";
-  QTest::newRow("insertions") << "ad"
-                              << "abcde"
-                              << "+1x2 +4x1";
-  QTest::newRow("changed") << "abc"
-                           << "aBc"
-                           << "!1";
-  QTest::newRow("moved and changed") << "abc"
-                                     << "bcA"
-                                     << "0>2 !2";
-  QTest::newRow("replaced") << "ab"
-                            << "cd"
-                            << "-0x2 +0x2";
-  QTest::newRow("all together") << "abcde"
-                                << "fdaB"
-                                << "-4x1 -2x1 +0x1 3>1 !3";
-}
+class TestListDifference : public QObject {
+  Q_OBJECT
 
-void TestListDifference::fewestSteps() {
-  QFETCH(QString, before);
-  QFETCH(QString, after);
-  QTEST(shown(difference(before, after)), "steps");
-}
-
-void TestListDifference::aModelFollowsRandomEdits() {
-  RandomBrand random(23);
-  ItemModel model;
-  const QAbstractItemModelTester tester(&model,
-                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
-  SharedList<Item> list;
-  for (int round = 0; round < 400; ++round) {
-    for (int edits = random.below(6); edits >= 0; --edits) {
-      const int size = int(list.size());
-      const int what = random.below(4);
-      if (size == 0 || what == 0) {
-        list.insert(random.below(size + 1), random.item());
-      } else if (what == 1) {
-        list.takeAt(random.below(size));
-      } else if (what == 2) {
-        const Item moved = list.takeAt(random.below(size));
-        list.insert(random.below(size), moved);
-      } else {
-        list[random.below(size)].payload = TextPayload{QString::number(round)};
-      }
-    }
-    model.follow(list);
-    QVERIFY(model.items == list);
+ private slots:
+  void fewestSteps() {
+    const Cases<QString, QString, QString> cases{
+        {"same", "abc", "abc", ""},
+        {"from nothing", "", "abc", "+0x3"},
+        {"to nothing", "abc", "", "-0x3"},
+        {"one moved forwards", "abcde", "bcade", "0>2"},
+        {"one moved backwards", "abcde", "aebcd", "4>1"},
+        {"removals from the back", "abcdef", "acf", "-3x2 -1x1"},
+        {"insertions", "ad", "abcde", "+1x2 +4x1"},
+        {"changed", "abc", "aBc", "!1"},
+        {"moved and changed", "abc", "bcA", "0>2 !2"},
+        {"replaced", "ab", "cd", "-0x2 +0x2"},
+        {"all together", "abcde", "fdaB", "-4x1 -2x1 +0x1 3>1 !3"}};
+    cases.check([&](const QString& before, const QString& after, const QString& steps) {
+      QCOMPARE(shown(difference(before, after)), steps);
+    });
   }
-}
 
-void TestListDifference::movesAreAsFewAsCanBe() {
-  RandomBrand random(29);
-  for (int round = 0; round < 300; ++round) {
-    QString before = QString("abcdefgh").left(random.below(9)), after = before;
-    for (qsizetype i = after.size() - 1; i > 0; --i) {
-      const qsizetype other = random.below(int(i) + 1);
-      const QChar c = after[i];
-      after[i] = after[other];
-      after[other] = c;
-    }
-    // By trying all subsets: the longest that stands in the same order in both need not move.
-    int longest = 0;
-    for (int subset = 0; subset < 1 << before.size(); ++subset) {
-      QString a, b;
-      for (qsizetype i = 0; i < before.size(); ++i) {
-        if (subset >> i & 1) a += before[i];
+  void aModelFollowsRandomEdits() {
+    RandomBrand random(23);
+    ItemModel model;
+    const QAbstractItemModelTester tester(&model,
+                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
+    SharedList<Item> list;
+    for (int round = 0; round < 400; ++round) {
+      for (int edits = random.below(6); edits >= 0; --edits) {
+        const int size = int(list.size());
+        const int what = random.below(4);
+        if (size == 0 || what == 0) {
+          list.insert(random.below(size + 1), random.item());
+        } else if (what == 1) {
+          list.takeAt(random.below(size));
+        } else if (what == 2) {
+          const Item moved = list.takeAt(random.below(size));
+          list.insert(random.below(size), moved);
+        } else {
+          list[random.below(size)].payload = TextPayload{QString::number(round)};
+        }
       }
-      for (const QChar c : after) {
-        if (a.contains(c)) b += c;
-      }
-      if (a == b) longest = std::max(longest, int(a.size()));
+      model.follow(list);
+      QVERIFY(model.items == list);
     }
-    QCOMPARE(difference(before, after).size(), before.size() - longest);
   }
-}
 
-void TestListDifference::repeatedIdsReplaceTheList() {
-  QCOMPARE(shown(difference("aab", "ba")), "-0x3 +0x2");
-  QCOMPARE(shown(difference("abc", "cbba")), "-0x3 +0x4");
-}
+  void movesAreAsFewAsCanBe() {
+    RandomBrand random(29);
+    for (int round = 0; round < 300; ++round) {
+      QString before = QString("abcdefgh").left(random.below(9)), after = before;
+      for (qsizetype i = after.size() - 1; i > 0; --i) {
+        const qsizetype other = random.below(int(i) + 1);
+        const QChar c = after[i];
+        after[i] = after[other];
+        after[other] = c;
+      }
+      // By trying all subsets: the longest that stands in the same order in both need not move.
+      int longest = 0;
+      for (int subset = 0; subset < 1 << before.size(); ++subset) {
+        QString a, b;
+        for (qsizetype i = 0; i < before.size(); ++i) {
+          if (subset >> i & 1) a += before[i];
+        }
+        for (const QChar c : after) {
+          if (a.contains(c)) b += c;
+        }
+        if (a == b) longest = std::max(longest, int(a.size()));
+      }
+      QCOMPARE(difference(before, after).size(), before.size() - longest);
+    }
+  }
+
+  void repeatedIdsReplaceTheList() {
+    QCOMPARE(shown(difference("aab", "ba")), "-0x3 +0x2");
+    QCOMPARE(shown(difference("abc", "cbba")), "-0x3 +0x4");
+  }
+};
 
 QTEST_GUILESS_MAIN(TestListDifference)
 #include "tst_listdifference.moc"

@@ -1,30 +1,12 @@
 #include "model/FileName.h"
 #include "model/RecordHash.h"
 #include "model/SearchText.h"
+#include "testing/Cases.h"
 #include "testing/RandomBrand.h"
 
 #include <QTest>
 
 using namespace tarnloft;
-
-class TestRecords : public QObject {
-  Q_OBJECT
-
- private slots:
-  void showsNames_data();
-  void showsNames();
-  void findsItems_data();
-  void findsItems();
-  void foldsTextsInTheUsersLanguage_data();
-  void foldsTextsInTheUsersLanguage();
-  void handsOutTheRightFile();
-  void keepsNoEmptyNotes();
-  void ungroupsLogoSets();
-  void writesGradientsAsCss();
-  void splitsExtensions_data();
-  void splitsExtensions();
-  void hashesAgreeWithEquality();
-};
 
 namespace {
 
@@ -43,181 +25,137 @@ Item logo(const QList<LogoVariant>& variants) {
 
 }  // namespace
 
-void TestRecords::showsNames_data() {
-  QTest::addColumn<Item>("item");
-  QTest::addColumn<QString>("name");
-  QTest::addColumn<QString>("type");
-  QTest::newRow("header") << Item::create(HeaderPayload{str("Basics"), 2}) << "Basics"
-                          << "Header";
-  QTest::newRow("text") << Item::create(TextPayload{str("a\nb")}) << "a\nb"
-                        << "Text";
-  QTest::newRow("colour by hex") << color("#123") << "#123"
-                                 << "Color";
-  QTest::newRow("empty name is a name") << color("#123", str("")) << ""
-                                        << "Color";
-  QTest::newRow("gradient") << Item::create(GradientPayload{}) << "Gradient"
-                            << "Gradient";
-  QTest::newRow("image by file") << Item::create(ImagePayload{file("a.b.png"), {}}) << "a.b"
-                                 << "Image";
-  QTest::newRow("image without any") << Item::create(ImagePayload{file(""), {}}) << "Image"
-                                     << "Image";
-  QTest::newRow("video") << Item::create(VideoPayload{file(""), {}}) << "Video"
-                         << "Video";
-  QTest::newRow("font") << Item::create(FontPayload{{str("Inter"), {}, {}, {}, {}}}) << "Inter"
-                        << "Type";
-  QTest::newRow("code") << Item::create(CodePayload{{str("css"), {}, {}}}) << "css"
-                        << "Code";
-  QTest::newRow("logo") << logo({}) << "Set"
-                        << "Logo";
-}
+class TestRecords : public QObject {
+  Q_OBJECT
 
-void TestRecords::showsNames() {
-  QFETCH(Item, item);
-  QTEST(item.displayName(), "name");
-  QTEST(item.typeLabel(), "type");
-}
-
-void TestRecords::findsItems_data() {
-  QTest::addColumn<QString>("query");
-  QTest::addColumn<bool>("found");
-  QTest::newRow("part of the hex") << "#1234" << true;
-  QTest::newRow("type, any case") << "cOLOR" << true;
-  QTest::newRow("spot") << "pms 021" << true;
-  QTest::newRow("name, beyond ASCII") << "ÜBER" << true;
-  QTest::newRow("composed and decomposed") << "u\u0308berbl" << true;
-  QTest::newRow("blanks count") << " 123456" << false;
-  QTest::newRow("nothing finds nothing") << "" << false;
-}
-
-void TestRecords::findsItems() {
-  QFETCH(QString, query);
-  QTEST(color("#123456", str("Überblau"), str("PMS 021 C")).matchesSearch(query), "found");
-  QVERIFY(!logo({variant("m.svg", LogoRole::mono)}).matchesSearch(str("wordmark")));
-  QVERIFY(logo({variant("m.svg", LogoRole::mono)}).matchesSearch(str("monochrome")));
-}
-
-void TestRecords::foldsTextsInTheUsersLanguage_data() {
-  QTest::addColumn<QString>("text");
-  QTest::addColumn<QString>("english");
-  QTest::addColumn<QString>("turkish");
-  QTest::newRow("nothing") << ""
-                           << ""
-                           << "";
-  QTest::newRow("ASCII") << "AZ az @[`{ 09"
-                         << "az az @[`{ 09"
-                         << "az az @[`{ 09";
-  QTest::newRow("letter I") << "ICON"
-                            << "icon"
-                            << "ıcon";
-  QTest::newRow("beyond ASCII") << "Straße ÜBER"
-                                << "straße über"
-                                << "straße über";
-  QTest::newRow("decomposed") << "U\u0308"
-                              << "ü"
-                              << "ü";
-  QTest::newRow("U+FEFF in front") << "\uFEFFX"
-                                   << "\uFEFFx"
-                                   << "\uFEFFx";
-}
-
-void TestRecords::foldsTextsInTheUsersLanguage() {
-  QFETCH(QString, text);
-  for (const auto& [language, column] :
-       {std::pair(QLocale::English, "english"), std::pair(QLocale::Turkish, "turkish")}) {
-    QLocale::setDefault(QLocale(language));
-    const SearchFolding folding;
-    QLocale::setDefault(QLocale::system());
-    std::string ofText, ofUtf8;
-    folding.append(text, ofText);
-    folding.append(text.toStdString(), ofUtf8);
-    QTEST(folding.folded(text), column);
-    QCOMPARE(ofText, folding.folded(text).toStdString());
-    QCOMPARE(ofUtf8, ofText);
+ private slots:
+  void showsNames() {
+    const Cases<Item, QString, QString> cases{
+        {"header", Item::create(HeaderPayload{str("Basics"), 2}), "Basics", "Header"},
+        {"text", Item::create(TextPayload{str("a\nb")}), "a\nb", "Text"},
+        {"colour by hex", color("#123"), "#123", "Color"},
+        {"empty name is a name", color("#123", str("")), "", "Color"},
+        {"gradient", Item::create(GradientPayload{}), "Gradient", "Gradient"},
+        {"image by file", Item::create(ImagePayload{file("a.b.png"), {}}), "a.b", "Image"},
+        {"image without any", Item::create(ImagePayload{file(""), {}}), "Image", "Image"},
+        {"video", Item::create(VideoPayload{file(""), {}}), "Video", "Video"},
+        {"font", Item::create(FontPayload{{str("Inter"), {}, {}, {}, {}}}), "Inter", "Type"},
+        {"code", Item::create(CodePayload{{str("css"), {}, {}}}), "css", "Code"},
+        {"logo", logo({}), "Set", "Logo"}};
+    cases.check([&](const Item& item, const QString& name, const QString& type) {
+      QCOMPARE(item.displayName(), name);
+      QCOMPARE(item.typeLabel(), type);
+    });
   }
-}
 
-void TestRecords::handsOutTheRightFile() {
-  const LogoVariant mono = variant("m.svg", LogoRole::mono);
-  const LogoVariant primary = variant("p.svg", LogoRole::primary);
-  QCOMPARE(logo({mono, primary}).exportableAsset(), primary.asset);
-  QCOMPARE(logo({mono}).exportableAsset(), mono.asset);
-  QVERIFY(!logo({}).isExportable());
-  QVERIFY(!Item::create(FontPayload{}).isExportable());
-  QVERIFY(!color("#123").isExportable());
-}
-
-void TestRecords::keepsNoEmptyNotes() {
-  Item item = color("#123");
-  QVERIFY(item.usageNotes().isEmpty());
-  item.setUsageNotes({UsageNote{}, UsageNote{}});
-  QCOMPARE(item.notes->size(), 2);
-  item.setUsageNotes({});
-  QVERIFY(!item.notes);
-}
-
-void TestRecords::ungroupsLogoSets() {
-  const LogoVariant first = variant("Image.png", LogoRole::primary, ImageBackground::white);
-  const LogoVariant second = variant("Image.png", LogoRole::icon);
-  const QList<Item> items = LogoValue{str("Set"), {first, second}}.ungroupedImageItems();
-  QCOMPARE(items.size(), 2);
-  QCOMPARE(items.at(0).displayName(), str("Image · Primary"));
-  QCOMPARE(items.at(1).displayName(), str("Image · Icon / Favicon"));
-  QCOMPARE(items.at(0).imageBackground, first.background);
-  QCOMPARE(items.at(1).exportableAsset(), second.asset);
-  QVERIFY(items.at(0).id != items.at(1).id);
-  const QList<Item> single = LogoValue{str("Set"), {first}}.ungroupedImageItems();
-  QCOMPARE(single.at(0).displayName(), str("Image"));
-}
-
-void TestRecords::writesGradientsAsCss() {
-  const auto stop = [](const char* hex, double at) { return GradientStop{{}, str(hex), at}; };
-  const GradientValue value{
-      {stop("#00ff00", 0.505), stop("#ff0000", 0), stop("#0000ff", 0.505)}, -0.5, {}};
-  QCOMPARE(value.cssString(), str("linear-gradient(-1deg, #FF0000 0%, #00FF00 51%, #0000FF 51%)"));
-  QCOMPARE(value.stops.first().hex, str("#00ff00"));
-}
-
-void TestRecords::splitsExtensions_data() {
-  QTest::addColumn<QString>("path");
-  QTest::addColumn<QString>("base");
-  QTest::addColumn<QString>("extension");
-  QTest::newRow("plain") << "Mark.PNG"
-                         << "Mark"
-                         << "PNG";
-  QTest::newRow("two") << "a.tar.gz"
-                       << "a.tar"
-                       << "gz";
-  QTest::newRow("hidden") << ".png"
-                          << ".png"
-                          << "";
-  QTest::newRow("dot at the end") << "Mark."
-                                  << "Mark."
-                                  << "";
-  QTest::newRow("dot in a folder") << "a.b/c"
-                                   << "a.b/c"
-                                   << "";
-}
-
-void TestRecords::splitsExtensions() {
-  QFETCH(QString, path);
-  QTEST(withoutPathExtension(path), "base");
-  QTEST(pathExtension(path), "extension");
-  const std::string utf8 = path.toStdString();
-  QTEST(QString::fromStdString(std::string(withoutPathExtension(utf8))), "base");
-}
-
-void TestRecords::hashesAgreeWithEquality() {
-  RandomBrand random(11);
-  for (int i = 0; i < 50; ++i) {
-    const Brand brand = random.brand(3, 20);
-    Brand copy = brand;
-    QCOMPARE(qHash(copy), qHash(brand));
-    Item& item = copy.sections[random.below(3)].items[random.below(20)];
-    item.setUsageNotes(item.usageNotes() << UsageNote{{}, UsageKind::note, str("new")});
-    QVERIFY(!(copy == brand));
-    QVERIFY(qHash(copy) != qHash(brand));
+  void findsItems() {
+    const Cases<QString, bool> cases{{"part of the hex", "#1234", true},
+                                     {"type, any case", "cOLOR", true},
+                                     {"spot", "pms 021", true},
+                                     {"name, beyond ASCII", "ÜBER", true},
+                                     {"composed and decomposed", "u\u0308berbl", true},
+                                     {"blanks count", " 123456", false},
+                                     {"nothing finds nothing", "", false}};
+    cases.check([&](const QString& query, bool found) {
+      QCOMPARE(color("#123456", str("Überblau"), str("PMS 021 C")).matchesSearch(query), found);
+      QVERIFY(!logo({variant("m.svg", LogoRole::mono)}).matchesSearch(str("wordmark")));
+      QVERIFY(logo({variant("m.svg", LogoRole::mono)}).matchesSearch(str("monochrome")));
+    });
   }
-}
+
+  void foldsTextsInTheUsersLanguage() {
+    const Cases<QString, QString, QString> cases{
+        {"nothing", "", "", ""},
+        {"ASCII", "AZ az @[`{ 09", "az az @[`{ 09", "az az @[`{ 09"},
+        {"letter I", "ICON", "icon", "ıcon"},
+        {"beyond ASCII", "Straße ÜBER", "straße über", "straße über"},
+        {"decomposed", "U\u0308", "ü", "ü"},
+        {"U+FEFF in front", "\uFEFFX", "\uFEFFx", "\uFEFFx"}};
+    cases.check([](const QString& text, const QString& english, const QString& turkish) {
+      for (const auto& [language, expected] :
+           {std::pair(QLocale::English, english), std::pair(QLocale::Turkish, turkish)}) {
+        QLocale::setDefault(QLocale(language));
+        const SearchFolding folding;
+        QLocale::setDefault(QLocale::system());
+        std::string ofText, ofUtf8;
+        folding.append(text, ofText);
+        folding.append(text.toStdString(), ofUtf8);
+        QCOMPARE(folding.folded(text), expected);
+        QCOMPARE(ofText, expected.toStdString());
+        QCOMPARE(ofUtf8, ofText);
+      }
+    });
+  }
+
+  void handsOutTheRightFile() {
+    const LogoVariant mono = variant("m.svg", LogoRole::mono);
+    const LogoVariant primary = variant("p.svg", LogoRole::primary);
+    QCOMPARE(logo({mono, primary}).exportableAsset(), primary.asset);
+    QCOMPARE(logo({mono}).exportableAsset(), mono.asset);
+    QVERIFY(!logo({}).isExportable());
+    QVERIFY(!Item::create(FontPayload{}).isExportable());
+    QVERIFY(!color("#123").isExportable());
+  }
+
+  void keepsNoEmptyNotes() {
+    Item item = color("#123");
+    QVERIFY(item.usageNotes().isEmpty());
+    item.setUsageNotes({UsageNote{}, UsageNote{}});
+    QCOMPARE(item.notes->size(), 2);
+    item.setUsageNotes({});
+    QVERIFY(!item.notes);
+  }
+
+  void ungroupsLogoSets() {
+    const LogoVariant first = variant("Image.png", LogoRole::primary, ImageBackground::white);
+    const LogoVariant second = variant("Image.png", LogoRole::icon);
+    const QList<Item> items = LogoValue{str("Set"), {first, second}}.ungroupedImageItems();
+    QCOMPARE(items.size(), 2);
+    QCOMPARE(items.at(0).displayName(), str("Image · Primary"));
+    QCOMPARE(items.at(1).displayName(), str("Image · Icon / Favicon"));
+    QCOMPARE(items.at(0).imageBackground, first.background);
+    QCOMPARE(items.at(1).exportableAsset(), second.asset);
+    QVERIFY(items.at(0).id != items.at(1).id);
+    const QList<Item> single = LogoValue{str("Set"), {first}}.ungroupedImageItems();
+    QCOMPARE(single.at(0).displayName(), str("Image"));
+  }
+
+  void writesGradientsAsCss() {
+    const auto stop = [](const char* hex, double at) { return GradientStop{{}, str(hex), at}; };
+    const GradientValue value{
+        {stop("#00ff00", 0.505), stop("#ff0000", 0), stop("#0000ff", 0.505)}, -0.5, {}};
+    QCOMPARE(value.cssString(),
+             str("linear-gradient(-1deg, #FF0000 0%, #00FF00 51%, #0000FF 51%)"));
+    QCOMPARE(value.stops.first().hex, str("#00ff00"));
+  }
+
+  void splitsExtensions() {
+    const Cases<QString, QString, QString> cases{{"plain", "Mark.PNG", "Mark", "PNG"},
+                                                 {"two", "a.tar.gz", "a.tar", "gz"},
+                                                 {"hidden", ".png", ".png", ""},
+                                                 {"dot at the end", "Mark.", "Mark.", ""},
+                                                 {"dot in a folder", "a.b/c", "a.b/c", ""}};
+    cases.check([&](const QString& path, const QString& base, const QString& extension) {
+      QCOMPARE(withoutPathExtension(path), base);
+      QCOMPARE(pathExtension(path), extension);
+      const std::string utf8 = path.toStdString();
+      QCOMPARE(QString::fromStdString(std::string(withoutPathExtension(utf8))), base);
+    });
+  }
+
+  void hashesAgreeWithEquality() {
+    RandomBrand random(11);
+    for (int i = 0; i < 50; ++i) {
+      const Brand brand = random.brand(3, 20);
+      Brand copy = brand;
+      QCOMPARE(qHash(copy), qHash(brand));
+      Item& item = copy.sections[random.below(3)].items[random.below(20)];
+      item.setUsageNotes(item.usageNotes() << UsageNote{{}, UsageKind::note, str("new")});
+      QVERIFY(!(copy == brand));
+      QVERIFY(qHash(copy) != qHash(brand));
+    }
+  }
+};
 
 QTEST_APPLESS_MAIN(TestRecords)
 #include "tst_records.moc"

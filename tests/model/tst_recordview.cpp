@@ -1,20 +1,12 @@
 #include "model/Json.h"
 #include "model/RecordView.h"
 #include "model/Utf8.h"
+#include "testing/Cases.h"
 #include "testing/RandomBrand.h"
 
 #include <QTest>
 
 using namespace tarnloft;
-
-class TestRecordView : public QObject {
-  Q_OBJECT
-
- private slots:
-  void refusesWhatDecodingRefuses_data();
-  void refusesWhatDecodingRefuses();
-  void agreesWithDecodingOverMutatedManifests();
-};
 
 namespace {
 
@@ -144,48 +136,47 @@ class Mutator {
 
 }  // namespace
 
-void TestRecordView::refusesWhatDecodingRefuses_data() {
-  QTest::addColumn<QByteArray>("from");
-  QTest::addColumn<QByteArray>("to");
-  QTest::newRow("nothing changed") << QByteArray() << QByteArray();
-  QTest::newRow("missing key") << QByteArray("\"updatedAt\"") << QByteArray("\"touchedAt\"");
-  QTest::newRow("fractional seconds") << QByteArray("00Z\"") << QByteArray("00.5Z\"");
-  QTest::newRow("wrong type deep inside") << QByteArray("\"#123456\"") << QByteArray("123456");
-  QTest::newRow("fractional integer")
-      << QByteArray("\"schemaVersion\" : 1") << QByteArray("\"schemaVersion\" : 1.5");
-  QTest::newRow("two kinds") << QByteArray("\"color\"") << QByteArray("\"text\" : {}, \"color\"");
-  QTest::newRow("null entry") << QByteArray("\"items\" : [") << QByteArray("\"items\" : [null, ");
-  QTest::newRow("an earlier bad one of a repeated key")
-      << QByteArray("\"hex\"") << QByteArray("\"hex\" : 1, \"hex\"");
-}
+class TestRecordView : public QObject {
+  Q_OBJECT
 
-void TestRecordView::refusesWhatDecodingRefuses() {
-  Brand brand = Brand::create(QStringLiteral("Acme"), [] { return Timestamp(); });
-  brand.sections[0].items.append(Item::create(ColorPayload{{QStringLiteral("#123456"), {}, {}}}));
-  QByteArray json = *encode(brand);
-  QFETCH(QByteArray, from);
-  QFETCH(QByteArray, to);
-  if (!from.isEmpty()) json.replace(from, to);
-  QCOMPARE(verdictOf(json), from.isEmpty() ? Verdict::accepted : Verdict::refused);
-}
-
-void TestRecordView::agreesWithDecodingOverMutatedManifests() {
-  int accepted = 0, refused = 0;
-  for (quint32 seed = 0; seed < 40; ++seed) {
-    RandomBrand random(seed);
-    const QByteArray json = *encode(random.brand(2, 6));
-    QCOMPARE(verdictOf(json), Verdict::accepted);
-    Mutator mutator(seed);
-    for (int i = 0; i < 200; ++i) {
-      const QByteArray mutated = mutator.mutated(json);
-      const Verdict verdict = verdictOf(mutated);
-      QVERIFY2(verdict != Verdict::differ, mutated);
-      ++(verdict == Verdict::accepted ? accepted : refused);
-    }
+ private slots:
+  void refusesWhatDecodingRefuses() {
+    const Cases<QByteArray, QByteArray> cases{
+        {"nothing changed", "", ""},
+        {"missing key", "\"updatedAt\"", "\"touchedAt\""},
+        {"fractional seconds", "00Z\"", "00.5Z\""},
+        {"wrong type deep inside", "\"#123456\"", "123456"},
+        {"fractional integer", "\"schemaVersion\" : 1", "\"schemaVersion\" : 1.5"},
+        {"two kinds", "\"color\"", "\"text\" : {}, \"color\""},
+        {"null entry", "\"items\" : [", "\"items\" : [null, "},
+        {"an earlier bad one of a repeated key", "\"hex\"", "\"hex\" : 1, \"hex\""}};
+    cases.check([&](const QByteArray& from, const QByteArray& to) {
+      Brand brand = Brand::create("Acme", [] { return Timestamp(); });
+      brand.sections[0].items.append(Item::create(ColorPayload{{"#123456", {}, {}}}));
+      QByteArray json = *encode(brand);
+      if (!from.isEmpty()) json.replace(from, to);
+      QCOMPARE(verdictOf(json), from.isEmpty() ? Verdict::accepted : Verdict::refused);
+    });
   }
-  QVERIFY(accepted > 1000);
-  QVERIFY(refused > 1000);
-}
+
+  void agreesWithDecodingOverMutatedManifests() {
+    int accepted = 0, refused = 0;
+    for (quint32 seed = 0; seed < 40; ++seed) {
+      RandomBrand random(seed);
+      const QByteArray json = *encode(random.brand(2, 6));
+      QCOMPARE(verdictOf(json), Verdict::accepted);
+      Mutator mutator(seed);
+      for (int i = 0; i < 200; ++i) {
+        const QByteArray mutated = mutator.mutated(json);
+        const Verdict verdict = verdictOf(mutated);
+        QVERIFY2(verdict != Verdict::differ, mutated);
+        ++(verdict == Verdict::accepted ? accepted : refused);
+      }
+    }
+    QVERIFY(accepted > 1000);
+    QVERIFY(refused > 1000);
+  }
+};
 
 QTEST_APPLESS_MAIN(TestRecordView)
 #include "tst_recordview.moc"

@@ -10,7 +10,7 @@ import { join, resolve } from 'node:path';
 import { GOOD, badManifests } from './bad.mjs';
 import { isOfNewerProgram, parseBrand } from './manifest.mjs';
 import { randomFrom, writePackage } from './package.mjs';
-import { pageText } from './page.mjs';
+import { pageText, sharedParts } from './page.mjs';
 import { fillBlanks, seededText } from './seed.mjs';
 
 const usage = 'usage: node run.mjs <path to tarnloft> [count=300] [seed]';
@@ -18,7 +18,7 @@ const [program, count, firstSeed] = readArguments(process.argv.slice(2));
 const root = realpathSync(mkdtempSync(join(tmpdir(), 'tarnloft-oracle-')));
 const home = join(root, 'home');
 const temporary = join(root, 'tmp');
-let homePage = null;
+let shared = null;  // what all pages have
 
 class Mismatch extends Error {}
 
@@ -103,11 +103,11 @@ function calledPaths(folder, name, rng) {
   ]);
 }
 
-function noteHomePage(page) {
-  const [, address] = /<footer>Made with <a href="([^"<>]*)" target="_blank"/.exec(page) ?? [];
-  demand(/^https?:\/\/[^\s/]+\S*$/.test(address ?? ''), `the footer's address is ${JSON.stringify(address)}`);
-  homePage ??= address;
-  demand(address === homePage, `the footer's address was ${homePage} and is ${address}`);
+function noteShared(page) {
+  const parts = sharedParts(page);
+  demand(parts, 'the style sheet, the home page or the end of the page is another one');
+  shared ??= parts;
+  demand(parts.homePage === shared.homePage, `the footer's address was ${shared.homePage} and is ${parts.homePage}`);
 }
 
 async function checkExport(folder, name, { path, page }, options, replaces) {
@@ -118,8 +118,8 @@ async function checkExport(folder, name, { path, page }, options, replaces) {
   await runQuietly(['--export-page', path, page], 0, options);
   demand(readdirSync(out).join() === 'page.html', `the page's folder holds ${JSON.stringify(readdirSync(out))}`);
   const actual = readFileSync(join(out, 'page.html'));
-  noteHomePage(actual.toString('utf8'));
-  const expected = pageText(join(folder, name), homePage);
+  noteShared(actual.toString('utf8'));
+  const expected = pageText(join(folder, name), shared);
   writeFileSync(join(folder, 'expected.html'), expected);
   demandSameBytes(actual, expected, 'the page');
   demandSameTree(snapshot(join(folder, name)), before, 'exporting changed the package');

@@ -16,10 +16,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
-const QString name = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
-const QString group = QStringLiteral("org.freedesktop.appearance");
-const QString scheme = QStringLiteral("color-scheme");
+const QString name = "org.freedesktop.portal.Desktop";
+const QString path = "/org/freedesktop/portal/desktop";
+const QString group = "org.freedesktop.appearance";
+const QString scheme = "color-scheme";
 
 // The desktop's settings, on a connection of its own.
 class FakeSettings : public QObject, protected QDBusContext {
@@ -39,8 +39,8 @@ class FakeSettings : public QObject, protected QDBusContext {
   }
 
   void change(const QString& ofGroup, const QString& ofKey, const QVariant& value) {
-    auto signal = QDBusMessage::createSignal(
-        path, QStringLiteral("org.freedesktop.portal.Settings"), QStringLiteral("SettingChanged"));
+    auto signal =
+        QDBusMessage::createSignal(path, "org.freedesktop.portal.Settings", "SettingChanged");
     signal << ofGroup << ofKey << QVariant::fromValue(QDBusVariant(value));
     m_bus.send(signal);
   }
@@ -52,15 +52,13 @@ class FakeSettings : public QObject, protected QDBusContext {
   QDBusVariant Read(const QString& ofGroup, const QString& ofKey) {
     ++asked;
     const QVariant value = m_values.value(ofGroup + ofKey);
-    if (!value.isValid())
-      sendErrorReply(QStringLiteral("org.freedesktop.portal.Error.NotFound"), ofKey);
+    if (!value.isValid()) sendErrorReply("org.freedesktop.portal.Error.NotFound", ofKey);
     return QDBusVariant(QVariant::fromValue(QDBusVariant(value)));  // wrapped twice, as told
   }
 
  private:
   QMap<QString, QVariant> m_values;
-  QDBusConnection m_bus =
-      QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("settings"));
+  QDBusConnection m_bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "settings");
 };
 
 void colorDesktop(const QColor& window, const QColor& text) {
@@ -80,150 +78,140 @@ class TestAppearance : public QObject {
 
  private slots:
   void init() { colorDesktop(Qt::white, Qt::black); }
-  void followsAPortalThatComesLater();  // first: as in the program, nothing is registered yet
-  void followsThePaletteWithoutAPortal();
-  void asksThePortalOnce_data();
-  void asksThePortalOnce();
-  void followsThePortalsChanges();
-  void isKnownBeforeTheFirstFrame();
-  void theToolkitsColorsFollow();
-  void theUsersWishWins();
-  void thingsMoveWithoutAPortal();
-  void desktopsAskForLessMovement_data();
-  void desktopsAskForLessMovement();
+
+  // first: as in the program, nothing is registered yet
+  void followsAPortalThatComesLater() {
+    const DesktopAppearance appearance;
+    QTest::qWait(50);  // until nobody has answered
+    FakeSettings settings(1);
+    QTRY_VERIFY(appearance.isDark());
+    settings.change(2);
+    QTRY_VERIFY(!appearance.isDark());
+  }
+
+  void followsThePaletteWithoutAPortal() {
+    DesktopAppearance appearance;
+    QVERIFY(!appearance.isDark());
+    const QSignalSpy changes(&appearance, &DesktopAppearance::darkChanged);
+    colorDesktop(Qt::black, Qt::white);
+    QTRY_VERIFY(appearance.isDark());
+    QCOMPARE(changes.count(), 1);
+  }
+
+  void asksThePortalOnce_data() {
+    QTest::addColumn<uint>("scheme");
+    QTest::addColumn<bool>("paletteDark");
+    QTest::addColumn<bool>("dark");
+    QTest::newRow("dark on a light palette") << 1U << false << true;
+    QTest::newRow("light on a dark palette") << 2U << true << false;
+    QTest::newRow("no preference, light palette") << 0U << false << false;
+    QTest::newRow("no preference, dark palette") << 0U << true << true;
+  }
+
+  void asksThePortalOnce() {
+    QFETCH(uint, scheme);
+    QFETCH(bool, paletteDark);
+    QFETCH(bool, dark);
+    if (paletteDark) colorDesktop(Qt::black, Qt::white);
+    const FakeSettings settings(scheme);
+    const DesktopAppearance appearance;
+    QTRY_COMPARE(settings.asked, 1);
+    QTRY_COMPARE(appearance.isDark(), dark);
+  }
+
+  void followsThePortalsChanges() {
+    FakeSettings settings(2);
+    const DesktopAppearance appearance;
+    QTRY_COMPARE(settings.asked, 1);
+    settings.change(1);
+    QTRY_VERIFY(appearance.isDark());
+    settings.change("some.other.group", scheme, 2U);
+    settings.change(0);  // no preference: the palette, which is light
+    QTRY_VERIFY(!appearance.isDark());
+  }
+
+  // Without a turn of the event loop.
+  void isKnownBeforeTheFirstFrame() {
+    QThread desktop;
+    FakeSettings settings(1);
+    settings.moveToThread(&desktop);
+    desktop.start();
+    DesktopAppearance appearance;
+    appearance.settle(10s);
+    QVERIFY(appearance.isDark());
+    desktop.quit();
+    desktop.wait();
+  }
+
+  void theToolkitsColorsFollow() {
+    DesktopAppearance appearance;
+    const auto window = [] { return QGuiApplication::palette().color(QPalette::Window); };
+    const auto follow = [&] {
+      appearance.setColors(QPalette(appearance.isDark() ? QColor(0x202020) : QColor(0xe0e0e0)));
+    };
+    connect(&appearance, &DesktopAppearance::darkChanged, this, follow);
+    follow();
+    QCOMPARE(window(), QColor(Qt::white));  // the desktop's own
+    appearance.setOverride(AppearanceOverride::dark);
+    QCOMPARE(window(), QColor(0x202020));
+    appearance.setOverride(AppearanceOverride::none);
+    QVERIFY(!appearance.isDark());
+  }
+
+  void theUsersWishWins() {
+    FakeSettings settings(1);
+    DesktopAppearance appearance;
+    QTRY_VERIFY(appearance.isDark());
+    appearance.setOverride(AppearanceOverride::light);
+    QVERIFY(!appearance.isDark());
+    const QSignalSpy changes(&appearance, &DesktopAppearance::darkChanged);
+    settings.change(2);
+    settings.change(1);
+    colorDesktop(Qt::black, Qt::white);
+    appearance.setOverride(AppearanceOverride::dark);
+    appearance.setOverride(AppearanceOverride::none);
+    QVERIFY(appearance.isDark());
+    QCOMPARE(changes.count(), 1);
+  }
+
+  void thingsMoveWithoutAPortal() {
+    DesktopMotion motion;
+    QList<bool> told;
+    motion.follow([&told](bool reduced) { told << reduced; });
+    QCOMPARE(told, QList<bool>{false});
+  }
+
+  void desktopsAskForLessMovement_data() {
+    QTest::addColumn<QString>("ofGroup");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QVariant>("still");
+    QTest::addColumn<QVariant>("moving");
+    QTest::newRow("common") << group << "reduced-motion" << QVariant(1U) << QVariant(0U);
+    QTest::newRow("GNOME") << "org.gnome.desktop.interface"
+                           << "enable-animations" << QVariant(false) << QVariant(true);
+    QTest::newRow("Plasma") << "org.kde.kdeglobals.KDE"
+                            << "AnimationDurationFactor" << QVariant("0") << QVariant("0.5");
+  }
+
+  void desktopsAskForLessMovement() {
+    QFETCH(QString, ofGroup);
+    QFETCH(QString, key);
+    QFETCH(QVariant, still);
+    QFETCH(QVariant, moving);
+    FakeSettings settings(ofGroup, key, still);
+    DesktopMotion motion;
+    QList<bool> told;
+    motion.follow([&told](bool reduced) { told << reduced; });
+    QCOMPARE(told, QList<bool>{false});  // at once, without waiting for an answer
+    QTRY_COMPARE(told, (QList<bool>{false, true}));
+    settings.change(ofGroup, key, moving);
+    QTRY_COMPARE(told, (QList<bool>{false, true, false}));
+    settings.change("some.other.group", key, still);
+    settings.change(ofGroup, key, moving);
+    settings.change(ofGroup, key, still);
+    QTRY_COMPARE(told, (QList<bool>{false, true, false, true}));
+  }
 };
-
-void TestAppearance::followsAPortalThatComesLater() {
-  const DesktopAppearance appearance;
-  QTest::qWait(50);  // until nobody has answered
-  FakeSettings settings(1);
-  QTRY_VERIFY(appearance.isDark());
-  settings.change(2);
-  QTRY_VERIFY(!appearance.isDark());
-}
-
-void TestAppearance::followsThePaletteWithoutAPortal() {
-  DesktopAppearance appearance;
-  QVERIFY(!appearance.isDark());
-  const QSignalSpy changes(&appearance, &DesktopAppearance::darkChanged);
-  colorDesktop(Qt::black, Qt::white);
-  QTRY_VERIFY(appearance.isDark());
-  QCOMPARE(changes.count(), 1);
-}
-
-void TestAppearance::asksThePortalOnce_data() {
-  QTest::addColumn<uint>("scheme");
-  QTest::addColumn<bool>("paletteDark");
-  QTest::addColumn<bool>("dark");
-  QTest::newRow("dark on a light palette") << 1U << false << true;
-  QTest::newRow("light on a dark palette") << 2U << true << false;
-  QTest::newRow("no preference, light palette") << 0U << false << false;
-  QTest::newRow("no preference, dark palette") << 0U << true << true;
-}
-
-void TestAppearance::asksThePortalOnce() {
-  QFETCH(uint, scheme);
-  QFETCH(bool, paletteDark);
-  QFETCH(bool, dark);
-  if (paletteDark) colorDesktop(Qt::black, Qt::white);
-  const FakeSettings settings(scheme);
-  const DesktopAppearance appearance;
-  QTRY_COMPARE(settings.asked, 1);
-  QTRY_COMPARE(appearance.isDark(), dark);
-}
-
-void TestAppearance::followsThePortalsChanges() {
-  FakeSettings settings(2);
-  const DesktopAppearance appearance;
-  QTRY_COMPARE(settings.asked, 1);
-  settings.change(1);
-  QTRY_VERIFY(appearance.isDark());
-  settings.change(QStringLiteral("some.other.group"), scheme, 2U);
-  settings.change(0);  // no preference: the palette, which is light
-  QTRY_VERIFY(!appearance.isDark());
-}
-
-// Without a turn of the event loop.
-void TestAppearance::isKnownBeforeTheFirstFrame() {
-  QThread desktop;
-  FakeSettings settings(1);
-  settings.moveToThread(&desktop);
-  desktop.start();
-  DesktopAppearance appearance;
-  appearance.settle(10s);
-  QVERIFY(appearance.isDark());
-  desktop.quit();
-  desktop.wait();
-}
-
-void TestAppearance::theToolkitsColorsFollow() {
-  DesktopAppearance appearance;
-  const auto window = [] { return QGuiApplication::palette().color(QPalette::Window); };
-  const auto follow = [&] {
-    appearance.setColors(QPalette(appearance.isDark() ? QColor(0x202020) : QColor(0xe0e0e0)));
-  };
-  connect(&appearance, &DesktopAppearance::darkChanged, this, follow);
-  follow();
-  QCOMPARE(window(), QColor(Qt::white));  // the desktop's own
-  appearance.setOverride(AppearanceOverride::dark);
-  QCOMPARE(window(), QColor(0x202020));
-  appearance.setOverride(AppearanceOverride::none);
-  QVERIFY(!appearance.isDark());
-}
-
-void TestAppearance::theUsersWishWins() {
-  FakeSettings settings(1);
-  DesktopAppearance appearance;
-  QTRY_VERIFY(appearance.isDark());
-  appearance.setOverride(AppearanceOverride::light);
-  QVERIFY(!appearance.isDark());
-  const QSignalSpy changes(&appearance, &DesktopAppearance::darkChanged);
-  settings.change(2);
-  settings.change(1);
-  colorDesktop(Qt::black, Qt::white);
-  appearance.setOverride(AppearanceOverride::dark);
-  appearance.setOverride(AppearanceOverride::none);
-  QVERIFY(appearance.isDark());
-  QCOMPARE(changes.count(), 1);
-}
-
-void TestAppearance::thingsMoveWithoutAPortal() {
-  DesktopMotion motion;
-  QList<bool> told;
-  motion.follow([&told](bool reduced) { told << reduced; });
-  QCOMPARE(told, QList<bool>{false});
-}
-
-void TestAppearance::desktopsAskForLessMovement_data() {
-  QTest::addColumn<QString>("ofGroup");
-  QTest::addColumn<QString>("key");
-  QTest::addColumn<QVariant>("still");
-  QTest::addColumn<QVariant>("moving");
-  QTest::newRow("common") << group << "reduced-motion" << QVariant(1U) << QVariant(0U);
-  QTest::newRow("GNOME") << "org.gnome.desktop.interface"
-                         << "enable-animations" << QVariant(false) << QVariant(true);
-  QTest::newRow("Plasma") << "org.kde.kdeglobals.KDE"
-                          << "AnimationDurationFactor" << QVariant("0") << QVariant("0.5");
-}
-
-void TestAppearance::desktopsAskForLessMovement() {
-  QFETCH(QString, ofGroup);
-  QFETCH(QString, key);
-  QFETCH(QVariant, still);
-  QFETCH(QVariant, moving);
-  FakeSettings settings(ofGroup, key, still);
-  DesktopMotion motion;
-  QList<bool> told;
-  motion.follow([&told](bool reduced) { told << reduced; });
-  QCOMPARE(told, QList<bool>{false});  // at once, without waiting for an answer
-  QTRY_COMPARE(told, (QList<bool>{false, true}));
-  settings.change(ofGroup, key, moving);
-  QTRY_COMPARE(told, (QList<bool>{false, true, false}));
-  settings.change(QStringLiteral("some.other.group"), key, still);
-  settings.change(ofGroup, key, moving);
-  settings.change(ofGroup, key, still);
-  QTRY_COMPARE(told, (QList<bool>{false, true, false, true}));
-}
 
 QTEST_MAIN(TestAppearance)
 #include "tst_appearance.moc"

@@ -69,21 +69,161 @@ class TestBadImages : public QObject {
   Q_OBJECT
 
  private slots:
-  void givesNothingForWhatIsNoPicture_data();
-  void givesNothingForWhatIsNoPicture();
-  void neverShowsACutPictureAsAnother_data();
-  void neverShowsACutPictureAsAnother();
-  void survivesDamage_data();
-  void survivesDamage();
-  void refusesPicturesThatClaimTooMuch_data();
-  void refusesPicturesThatClaimTooMuch();
-  void streamsLargePictures();
-  void readsNothingOutsideOfADrawing_data();
-  void readsNothingOutsideOfADrawing();
-  void endsDrawingsThatNeverEnd_data();
-  void endsDrawingsThatNeverEnd();
-  void drawsNothingWithoutTheProgram();
-  void neverWaitsOnAPipe();
+  void givesNothingForWhatIsNoPicture_data() {
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("zero bytes") << QByteArray();
+    QTest::newRow("text") << QByteArray("Dear client,\nhere are the logos.\n");
+    QTest::newRow("numbers") << QByteArray("2 2\n1 2\n3 4\n");
+    QTest::newRow("a page") << QByteArray("<!DOCTYPE html><html><body>Hi</body></html>");
+    QTest::newRow("a netpbm, whose reader is off") << QByteArray("P6 1 1 255\n\0\0\0", 14);
+    QTest::newRow("PostScript") << QByteArray("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 9 9\n");
+    QTest::newRow("a beginning alone") << QByteArray("\x89PNG\r\n\x1A\n");
+    QTest::newRow("a film") << QByteArray(
+        "\0\0\0\x18"
+        "ftypisom\0\0\0\0isommp42",
+        24);
+    QTest::newRow("a drawing of no size") << svg("", "width='0' height='-3'");
+  }
+
+  void givesNothingForWhatIsNoPicture() {
+    QFETCH(QByteArray, content);
+    for (const char* name : {"bad.png", "bad.svg", "bad.jpg"}) {
+      const QString path = written(content, QString::fromLatin1(name));
+      QVERIFY(!images_.properties(path));
+      QVERIFY(!images_.vectorSize(path));
+      QVERIFY(isAbsent(path));
+    }
+    QVERIFY(isAbsent(disk_.path("missing.png")));
+    QVERIFY(isAbsent(disk_.folder.path()));
+  }
+
+  void neverShowsACutPictureAsAnother_data() {
+    QTest::addColumn<QByteArray>("content");
+    for (const QString& name : QDir(QStringLiteral(PICTURE_FIXTURES)).entryList(QDir::Files)) {
+      QTest::newRow(qPrintable(name)) << contentOf(QStringLiteral(PICTURE_FIXTURES "/") + name);
+    }
+    for (const char* format : {"bmp", "png", "ico"}) {
+      QByteArray content;
+      QBuffer buffer(&content);
+      Chart::image().save(&buffer, format);
+      QTest::newRow(format) << content;
+    }
+  }
+
+  // A file that has lost its end shows nothing, or all that the whole one shows, since some hold
+  // nothing at their end that counts.
+  void neverShowsACutPictureAsAnother() {
+    QFETCH(QByteArray, content);
+    const auto whole = images_.thumbnail(written(content, "whole"), 64);
+    for (const int percent : {1, 5, 20, 40, 60, 80, 95, 99}) {
+      const QByteArray cut = content.first(content.size() * percent / 100);
+      const QString path = written(cut, "cut");
+      const auto thumbnail = images_.thumbnail(path, 64);
+      QVERIFY2(!thumbnail || thumbnail == whole, qPrintable(QString::number(percent)));
+      images_.convert(path, ExportFormat::jpeg, {20, 20}, 0.5);
+    }
+    QVERIFY(!images_.thumbnail(written(content.first(content.size() / 2), "half"), 64));
+  }
+
+  void survivesDamage_data() { neverShowsACutPictureAsAnother_data(); }
+
+  void survivesDamage() {
+    QFETCH(QByteArray, content);
+    QRandomGenerator random(7);
+    for (int round = 0; round < 12; ++round) {
+      QByteArray damaged = content;
+      for (int i = 0; i < 4; ++i) {
+        damaged[random.bounded(damaged.size())] = char(random.bounded(256));
+      }
+      const QString path = written(damaged, "damaged");
+      images_.properties(path);
+      const auto thumbnail = images_.thumbnail(path, 64);
+      QVERIFY(!thumbnail || (thumbnail->width() <= 64 && thumbnail->height() <= 64));
+    }
+  }
+
+  void refusesPicturesThatClaimTooMuch_data() {
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("png") << pngOf(60'000, 60'000, 8, 2, 0, 1000);
+    QTest::newRow("png, one bit") << pngOf(60'000, 60'000, 1, 0, 0, 60'000);
+    QTest::newRow("png, interlaced") << pngOf(25'000, 25'000, 8, 2, 1, 1000);
+    QTest::newRow("gif") << gifOf(60'000);
+    QTest::newRow("bmp") << bmpOf(60'000);
+  }
+
+  void refusesPicturesThatClaimTooMuch() {
+    QFETCH(QByteArray, content);
+    const QString path = written(content, "claim.png");
+    const qint64 before = peakMegabytes();
+    QVERIFY(isAbsent(path));
+    QVERIFY(peakMegabytes() - before < 100);
+  }
+
+  void streamsLargePictures() {
+    const QString path = written(pngOf(20'000, 20'000, 1, 0, 0, 2501 * 20'000), "large.png");
+    const qint64 before = peakMegabytes();
+    const auto thumbnail = images_.thumbnail(path, 128);
+    QVERIFY(thumbnail);
+    QCOMPARE(thumbnail->size(), QSize(128, 128));
+    QVERIFY2(peakMegabytes() - before < 200, "of 400 MB of pixels");
+  }
+
+  void readsNothingOutsideOfADrawing_data() {
+    QTest::addColumn<QByteArray>("source");
+    QTest::addColumn<bool>("shows");
+    QByteArray red;
+    QBuffer buffer(&red);
+    QImage pixel(8, 8, QImage::Format_RGB32);
+    pixel.fill(Qt::red);
+    pixel.save(&buffer, "png");
+    writeFile(disk_.path("red.png"), red);
+    QTest::newRow("inside") << QByteArray("data:image/png;base64," + red.toBase64()) << true;
+    QTest::newRow("beside") << QByteArray("red.png") << false;
+    QTest::newRow("path") << QFile::encodeName(disk_.path("red.png")) << false;
+    QTest::newRow("address") << QByteArray("file://" + QFile::encodeName(disk_.path("red.png")))
+                             << false;
+  }
+
+  void readsNothingOutsideOfADrawing() {
+    QFETCH(QByteArray, source);
+    QFETCH(bool, shows);
+    const QByteArray drawing = svg("<image width='100' height='100' xlink:href='" + source + "'/>");
+    const auto thumbnail = images_.thumbnail(written(drawing, "outside.svg"), 64);
+    QCOMPARE(thumbnail && qAlpha(thumbnail->pixel(32, 32)) != 0, shows);
+    const QByteArray entity = "<?xml version='1.0'?><!DOCTYPE svg [<!ENTITY x SYSTEM '" + source +
+                              "'>]>" + svg("<text y='50'>&x;</text>");
+    QVERIFY(!images_.thumbnail(written(entity, "entity.svg"), 64));
+  }
+
+  void endsDrawingsThatNeverEnd_data() {
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("a filter without end") << svg(endlessFilter);
+    QTest::newRow("uses of uses") << multiplyingSvg();
+    QTest::newRow("entities of entities") << multiplyingEntities();
+    QTest::newRow("nested deeply") << svg(QByteArray("<g>").repeated(200'000));
+  }
+
+  void endsDrawingsThatNeverEnd() {
+    QFETCH(QByteArray, content);
+    QVERIFY(!images_.thumbnail(written(content, "endless.svg"), 64));
+    QVERIFY(images_.thumbnail(pictureFixture("mark.svg"), 64));  // by a program that still serves
+    const auto own =
+        images_.thumbnail(written(svg("<g id='a'><use xlink:href='#a'/></g>"), "own.svg"), 64);
+    QVERIFY(!own || own->size() == QSize(64, 64));
+  }
+
+  void drawsNothingWithoutTheProgram() {
+    VipsImages images(disk_.path("no-such-program"));
+    QVERIFY(!images.thumbnail(pictureFixture("mark.svg"), 64));
+    QVERIFY(images.thumbnail(pictureFixture("chart.tif"), 64));
+  }
+
+  void neverWaitsOnAPipe() {
+    const QString path = disk_.path("pipe.png");
+    QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    QVERIFY(isAbsent(path));
+    QVERIFY(isAbsent("/dev/zero"));
+  }
 
  private:
   QString written(const QByteArray& content, const QString& name) {
@@ -98,165 +238,6 @@ class TestBadImages : public QObject {
   TestServices disk_;
   VipsImages images_{QStringLiteral(VECTOR_PROGRAM)};
 };
-
-void TestBadImages::givesNothingForWhatIsNoPicture_data() {
-  QTest::addColumn<QByteArray>("content");
-  QTest::newRow("zero bytes") << QByteArray();
-  QTest::newRow("text") << QByteArray("Dear client,\nhere are the logos.\n");
-  QTest::newRow("numbers") << QByteArray("2 2\n1 2\n3 4\n");
-  QTest::newRow("a page") << QByteArray("<!DOCTYPE html><html><body>Hi</body></html>");
-  QTest::newRow("a netpbm, whose reader is off") << QByteArray("P6 1 1 255\n\0\0\0", 14);
-  QTest::newRow("PostScript") << QByteArray("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 9 9\n");
-  QTest::newRow("a beginning alone") << QByteArray("\x89PNG\r\n\x1A\n");
-  QTest::newRow("a film") << QByteArray(
-      "\0\0\0\x18"
-      "ftypisom\0\0\0\0isommp42",
-      24);
-  QTest::newRow("a drawing of no size") << svg("", "width='0' height='-3'");
-}
-
-void TestBadImages::givesNothingForWhatIsNoPicture() {
-  QFETCH(QByteArray, content);
-  for (const char* name : {"bad.png", "bad.svg", "bad.jpg"}) {
-    const QString path = written(content, QString::fromLatin1(name));
-    QVERIFY(!images_.properties(path));
-    QVERIFY(!images_.vectorSize(path));
-    QVERIFY(isAbsent(path));
-  }
-  QVERIFY(isAbsent(disk_.path(QStringLiteral("missing.png"))));
-  QVERIFY(isAbsent(disk_.folder.path()));
-}
-
-void TestBadImages::neverShowsACutPictureAsAnother_data() {
-  QTest::addColumn<QByteArray>("content");
-  for (const QString& name : QDir(QStringLiteral(PICTURE_FIXTURES)).entryList(QDir::Files)) {
-    QTest::newRow(qPrintable(name)) << contentOf(QStringLiteral(PICTURE_FIXTURES "/") + name);
-  }
-  for (const char* format : {"bmp", "png", "ico"}) {
-    QByteArray content;
-    QBuffer buffer(&content);
-    Chart::image().save(&buffer, format);
-    QTest::newRow(format) << content;
-  }
-}
-
-// A file that has lost its end shows nothing, or all that the whole one shows, since some hold
-// nothing at their end that counts.
-void TestBadImages::neverShowsACutPictureAsAnother() {
-  QFETCH(QByteArray, content);
-  const auto whole = images_.thumbnail(written(content, QStringLiteral("whole")), 64);
-  for (const int percent : {1, 5, 20, 40, 60, 80, 95, 99}) {
-    const QByteArray cut = content.first(content.size() * percent / 100);
-    const QString path = written(cut, QStringLiteral("cut"));
-    const auto thumbnail = images_.thumbnail(path, 64);
-    QVERIFY2(!thumbnail || thumbnail == whole, qPrintable(QString::number(percent)));
-    images_.convert(path, ExportFormat::jpeg, {20, 20}, 0.5);
-  }
-  QVERIFY(
-      !images_.thumbnail(written(content.first(content.size() / 2), QStringLiteral("half")), 64));
-}
-
-void TestBadImages::survivesDamage_data() { neverShowsACutPictureAsAnother_data(); }
-
-void TestBadImages::survivesDamage() {
-  QFETCH(QByteArray, content);
-  QRandomGenerator random(7);
-  for (int round = 0; round < 12; ++round) {
-    QByteArray damaged = content;
-    for (int i = 0; i < 4; ++i) {
-      damaged[random.bounded(damaged.size())] = char(random.bounded(256));
-    }
-    const QString path = written(damaged, QStringLiteral("damaged"));
-    images_.properties(path);
-    const auto thumbnail = images_.thumbnail(path, 64);
-    QVERIFY(!thumbnail || (thumbnail->width() <= 64 && thumbnail->height() <= 64));
-  }
-}
-
-void TestBadImages::refusesPicturesThatClaimTooMuch_data() {
-  QTest::addColumn<QByteArray>("content");
-  QTest::newRow("png") << pngOf(60'000, 60'000, 8, 2, 0, 1000);
-  QTest::newRow("png, one bit") << pngOf(60'000, 60'000, 1, 0, 0, 60'000);
-  QTest::newRow("png, interlaced") << pngOf(25'000, 25'000, 8, 2, 1, 1000);
-  QTest::newRow("gif") << gifOf(60'000);
-  QTest::newRow("bmp") << bmpOf(60'000);
-}
-
-void TestBadImages::refusesPicturesThatClaimTooMuch() {
-  QFETCH(QByteArray, content);
-  const QString path = written(content, QStringLiteral("claim.png"));
-  const qint64 before = peakMegabytes();
-  QVERIFY(isAbsent(path));
-  QVERIFY(peakMegabytes() - before < 100);
-}
-
-void TestBadImages::streamsLargePictures() {
-  const QString path =
-      written(pngOf(20'000, 20'000, 1, 0, 0, 2501 * 20'000), QStringLiteral("large.png"));
-  const qint64 before = peakMegabytes();
-  const auto thumbnail = images_.thumbnail(path, 128);
-  QVERIFY(thumbnail);
-  QCOMPARE(thumbnail->size(), QSize(128, 128));
-  QVERIFY2(peakMegabytes() - before < 200, "of 400 MB of pixels");
-}
-
-void TestBadImages::readsNothingOutsideOfADrawing_data() {
-  QTest::addColumn<QByteArray>("source");
-  QTest::addColumn<bool>("shows");
-  QByteArray red;
-  QBuffer buffer(&red);
-  QImage pixel(8, 8, QImage::Format_RGB32);
-  pixel.fill(Qt::red);
-  pixel.save(&buffer, "png");
-  writeFile(disk_.path(QStringLiteral("red.png")), red);
-  QTest::newRow("inside") << QByteArray("data:image/png;base64," + red.toBase64()) << true;
-  QTest::newRow("beside") << QByteArray("red.png") << false;
-  QTest::newRow("path") << QFile::encodeName(disk_.path(QStringLiteral("red.png"))) << false;
-  QTest::newRow("address") << QByteArray("file://" +
-                                         QFile::encodeName(disk_.path(QStringLiteral("red.png"))))
-                           << false;
-}
-
-void TestBadImages::readsNothingOutsideOfADrawing() {
-  QFETCH(QByteArray, source);
-  QFETCH(bool, shows);
-  const QByteArray drawing = svg("<image width='100' height='100' xlink:href='" + source + "'/>");
-  const auto thumbnail = images_.thumbnail(written(drawing, QStringLiteral("outside.svg")), 64);
-  QCOMPARE(thumbnail && qAlpha(thumbnail->pixel(32, 32)) != 0, shows);
-  const QByteArray entity = "<?xml version='1.0'?><!DOCTYPE svg [<!ENTITY x SYSTEM '" + source +
-                            "'>]>" + svg("<text y='50'>&x;</text>");
-  QVERIFY(!images_.thumbnail(written(entity, QStringLiteral("entity.svg")), 64));
-}
-
-void TestBadImages::endsDrawingsThatNeverEnd_data() {
-  QTest::addColumn<QByteArray>("content");
-  QTest::newRow("a filter without end") << svg(endlessFilter);
-  QTest::newRow("uses of uses") << multiplyingSvg();
-  QTest::newRow("entities of entities") << multiplyingEntities();
-  QTest::newRow("nested deeply") << svg(QByteArray("<g>").repeated(200'000));
-}
-
-void TestBadImages::endsDrawingsThatNeverEnd() {
-  QFETCH(QByteArray, content);
-  QVERIFY(!images_.thumbnail(written(content, QStringLiteral("endless.svg")), 64));
-  QVERIFY(images_.thumbnail(pictureFixture("mark.svg"), 64));  // by a program that still serves
-  const auto own = images_.thumbnail(
-      written(svg("<g id='a'><use xlink:href='#a'/></g>"), QStringLiteral("own.svg")), 64);
-  QVERIFY(!own || own->size() == QSize(64, 64));
-}
-
-void TestBadImages::drawsNothingWithoutTheProgram() {
-  VipsImages images(disk_.path(QStringLiteral("no-such-program")));
-  QVERIFY(!images.thumbnail(pictureFixture("mark.svg"), 64));
-  QVERIFY(images.thumbnail(pictureFixture("chart.tif"), 64));
-}
-
-void TestBadImages::neverWaitsOnAPipe() {
-  const QString path = disk_.path(QStringLiteral("pipe.png"));
-  QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
-  QVERIFY(isAbsent(path));
-  QVERIFY(isAbsent(QStringLiteral("/dev/zero")));
-}
 
 QTEST_GUILESS_MAIN(TestBadImages)
 #include "tst_badimages.moc"

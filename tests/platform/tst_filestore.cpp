@@ -1,3 +1,4 @@
+#include "testing/Cases.h"
 #include "testing/TestServices.h"
 
 #include <QTest>
@@ -7,45 +8,24 @@
 
 using namespace tarnloft;
 
-class TestFileStore : public QObject {
-  Q_OBJECT
-
- private slots:
-  void opensOnlyWhatStandsInside_data();
-  void opensOnlyWhatStandsInside();
-  void tellsWhatIsntThereFromWhatFails_data();
-  void tellsWhatIsntThereFromWhatFails();
-  void listsHiddenNamesWhenAsked();
-  void neverWaitsOnAPipe();
-  void refusesToReplaceWhatIsNoFile();
-  void keepsTheRightsOfAReplacedFile();
-  void takesBackAndRepeats();
-  void leavesNothingOfAFileThatFoundNoPlace();
-  void makesParents();
-  void temporaryFoldersAreTheUsersOwn_data();
-  void temporaryFoldersAreTheUsersOwn();
-  void movesOnlyToAFreePlace();
-  void followsLinksForPages();
-};
-
 namespace {
 
 struct Tree {
   TestServices disk;
-  QString root = disk.path(QStringLiteral("p.tarnloft"));
+  QString root = disk.path("p.tarnloft");
 
   Tree() {
-    writeFile(disk.path(QStringLiteral("secret")), "secret");
-    writeFile(disk.path(QStringLiteral("p.tarnloft-other/x")), "other");
-    writeFile(root + QStringLiteral("/assets/a.png"), "a");
+    writeFile(disk.path("secret"), "secret");
+    writeFile(disk.path("p.tarnloft-other/x"), "other");
+    writeFile(root + "/assets/a.png", "a");
     link("../../secret", "/assets/out");
     link("a.png", "/assets/in");
     link("in", "/assets/twice");
     link("../../p.tarnloft-other/x", "/assets/sibling");
     link("nowhere", "/assets/dangling");
     link("loop", "/assets/loop");
-    ::symlink(QFile::encodeName(root + QStringLiteral("/assets/a.png")).constData(),
-              QFile::encodeName(root + QStringLiteral("/assets/absolute")).constData());
+    ::symlink(QFile::encodeName(root + "/assets/a.png").constData(),
+              QFile::encodeName(root + "/assets/absolute").constData());
   }
   void link(const char* target, const char* name) const {
     ::symlink(target, QFile::encodeName(root + QLatin1String(name)).constData());
@@ -59,211 +39,190 @@ Result<void> replaced(FileStore& files, const QString& path, const QByteArray& c
   return files.replace(**file, path);
 }
 
-QStringList entries(const TestServices& disk) {
-  return QDir(disk.folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-}
-
 }  // namespace
 
-void TestFileStore::opensOnlyWhatStandsInside_data() {
-  QTest::addColumn<QString>("name");
-  QTest::addColumn<bool>("opens");
-  for (const char* good : {"a.png", "in", "twice", "absolute", "../assets/a.png"}) {
-    QTest::newRow(good) << QString::fromLatin1(good) << true;
+class TestFileStore : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void opensOnlyWhatStandsInside() {
+    const Tree tree;
+    const auto opens = [&](const QString& name) {
+      return tree.disk.files.open(tree.root + "/assets/" + name, tree.root).has_value();
+    };
+    for (const char* good : {"a.png", "in", "twice", "absolute", "../assets/a.png"}) {
+      QVERIFY2(opens(good), good);
+    }
+    for (const char* bad :
+         {"out", "sibling", "dangling", "loop", "missing", "../../secret", "", "."}) {
+      QVERIFY2(!opens(bad), bad);
+    }
+    QVERIFY(!opens(QString("a.png") + QChar(u'\0')));
+    QVERIFY(!tree.disk.files.open(tree.root + "/assets/a.png", QString()));  // inside of nothing
   }
-  for (const char* bad :
-       {"out", "sibling", "dangling", "loop", "missing", "../../secret", "", "."}) {
-    QTest::newRow(bad) << QString::fromLatin1(bad) << false;
+
+  void tellsWhatIsntThereFromWhatFails() {
+    using enum ErrorKind;
+    using Kind = std::optional<ErrorKind>;
+    const Tree tree;
+    tree.link("/nowhere/at/all", "/assets/lost");
+    const Cases<QString, Kind, Kind> cases{
+        {"there", "a.png", {}, {}},
+        {"missing", "missing", notFound, notFound},
+        {"in a missing folder", "missing/file", notFound, notFound},
+        {"in a file", "a.png/file", notFound, io},
+        {"dangling", "dangling", {}, notFound},
+        {"dangling, absolute", "lost", {}, notFound},
+        {"a loop", "loop", {}, io},
+        {"in a loop", "loop/file", io, io},
+        {"outside", "out", {}, refused},
+        {"too long", QString(300, 'x'), io, io}};
+    const auto kindOf = [](const auto& result) {
+      return result ? std::nullopt : Kind(result.error().kind);
+    };
+    cases.check([&](const QString& name, Kind identity, Kind open) {
+      const QString path = tree.root + "/assets/" + name;
+      QCOMPARE(kindOf(tree.disk.files.identity(path)), identity);
+      QCOMPARE(kindOf(tree.disk.files.open(path, tree.root)), open);
+    });
   }
-  QTest::newRow("NUL") << QStringLiteral("a.png") + QChar(u'\0') << false;
-}
 
-void TestFileStore::opensOnlyWhatStandsInside() {
-  QFETCH(QString, name);
-  const Tree tree;
-  QVERIFY(!tree.disk.files.open(tree.root + "/assets/a.png", QString()));  // inside of nothing
-  const auto file = tree.disk.files.open(tree.root + QStringLiteral("/assets/") + name, tree.root);
-  QTEST(file.has_value(), "opens");
-}
-
-void TestFileStore::tellsWhatIsntThereFromWhatFails_data() {
-  QTest::addColumn<QString>("name");
-  QTest::addColumn<std::optional<ErrorKind>>("identity");
-  QTest::addColumn<std::optional<ErrorKind>>("open");
-  using enum ErrorKind;
-  const auto row = [](const QString& name, std::optional<ErrorKind> identity,
-                      std::optional<ErrorKind> open) {
-    QTest::newRow(name.left(20).toUtf8().constData()) << name << identity << open;
-  };
-  row("a.png", {}, {});
-  row("missing", notFound, notFound);
-  row("missing/file", notFound, notFound);
-  row("a.png/file", notFound, io);
-  row("dangling", {}, notFound);
-  row("lost", {}, notFound);  // by an absolute path
-  row("loop", {}, io);
-  row("loop/file", io, io);
-  row("out", {}, refused);
-  row(QString(300, 'x'), io, io);
-}
-
-void TestFileStore::tellsWhatIsntThereFromWhatFails() {
-  QFETCH(QString, name);
-  const Tree tree;
-  tree.link("/nowhere/at/all", "/assets/lost");
-  const QString path = tree.root + "/assets/" + name;
-  const auto kindOf = [](const auto& result) {
-    return result ? std::nullopt : std::optional(result.error().kind);
-  };
-  QTEST(kindOf(tree.disk.files.identity(path)), "identity");
-  QTEST(kindOf(tree.disk.files.open(path, tree.root)), "open");
-}
-
-void TestFileStore::listsHiddenNamesWhenAsked() {
-  TestServices disk;
-  for (const char* name : {"b", ".hidden", "..", "a/x", "...", "Z"}) {
-    writeFile(disk.path(name), "x");
+  void listsHiddenNamesWhenAsked() {
+    TestServices disk;
+    for (const char* name : {"b", ".hidden", "..", "a/x", "...", "Z"}) {
+      writeFile(disk.path(name), "x");
+    }
+    QCOMPARE(*disk.files.list(disk.folder.path()), QStringList({"Z", "a", "b"}));
+    QCOMPARE(*disk.files.listAll(disk.folder.path()),
+             QStringList({"...", ".hidden", "Z", "a", "b"}));
+    QVERIFY(!disk.files.list(disk.path("missing")) && !disk.files.listAll(disk.path("b")));
   }
-  QCOMPARE(*disk.files.list(disk.folder.path()), QStringList({"Z", "a", "b"}));
-  QCOMPARE(*disk.files.listAll(disk.folder.path()), QStringList({"...", ".hidden", "Z", "a", "b"}));
-  QVERIFY(!disk.files.list(disk.path("missing")) && !disk.files.listAll(disk.path("b")));
-}
 
-void TestFileStore::neverWaitsOnAPipe() {
-  const Tree tree;
-  const QString pipe = tree.root + QStringLiteral("/assets/pipe");
-  QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-  const auto file = tree.disk.files.open(pipe, tree.root);
-  QVERIFY(!file);
-  QCOMPARE(file.error().kind, ErrorKind::refused);
-}
-
-void TestFileStore::refusesToReplaceWhatIsNoFile() {
-  Tree tree;
-  const QString pipe = tree.disk.path(QStringLiteral("pipe"));
-  QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-  for (const QString& path : {pipe, tree.root}) {
-    QVERIFY(!replaced(tree.disk.files, path, "x"));
-    QVERIFY(!QFileInfo(path).isFile());
+  void neverWaitsOnAPipe() {
+    const Tree tree;
+    const QString pipe = tree.root + "/assets/pipe";
+    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    const auto file = tree.disk.files.open(pipe, tree.root);
+    QVERIFY(!file);
+    QCOMPARE(file.error().kind, ErrorKind::refused);
   }
-  QVERIFY(QDir(tree.disk.folder.path())
-              .entryList({QStringLiteral(".tarnloft-*")}, QDir::Hidden | QDir::Files)
-              .isEmpty());
-}
 
-void TestFileStore::keepsTheRightsOfAReplacedFile() {
-  TestServices disk;
-  const QString path = disk.path(QStringLiteral("file"));
-  QVERIFY(writeFile(path, "old"));
-  QCOMPARE(::chmod(QFile::encodeName(path).constData(), 06640), 0);
-  QVERIFY(replaced(disk.files, path, "new"));
-  QCOMPARE(contentOf(path), QByteArray("new"));
-  struct stat info;
-  QCOMPARE(::stat(QFile::encodeName(path).constData(), &info), 0);
-  QCOMPARE(info.st_mode & 07777, 0640u);
-}
-
-void TestFileStore::takesBackAndRepeats() {
-  TestServices disk;
-  auto file = disk.files.createTemporary(disk.path(QStringLiteral("x")));
-  QVERIFY(file);
-  QVERIFY((*file)->write("abcdef"));
-  QVERIFY((*file)->truncate(4));
-  QVERIFY((*file)->repeat(1, 3));
-  QVERIFY((*file)->write("!"));
-  QVERIFY(!(*file)->repeat(20, 5));  // stands beyond the end
-  QVERIFY(disk.files.replace(**file, disk.path("x")));
-  QCOMPARE(contentOf(disk.path("x")), QByteArray("abcdbcd!"));
-}
-
-void TestFileStore::leavesNothingOfAFileThatFoundNoPlace() {
-  TestServices disk;
-  {
-    auto file = disk.files.createTemporary(disk.path("x"));
-    QVERIFY(file && (*file)->write("abc"));
-    // Without a name from the start: not even a killed process leaves it behind.
-    QCOMPARE(entries(disk), QStringList());
+  void refusesToReplaceWhatIsNoFile() {
+    Tree tree;
+    const QString pipe = tree.disk.path("pipe");
+    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    for (const QString& path : {pipe, tree.root}) {
+      QVERIFY(!replaced(tree.disk.files, path, "x"));
+      QVERIFY(!QFileInfo(path).isFile());
+    }
+    QVERIFY(QDir(tree.disk.folder.path())
+                .entryList({".tarnloft-*"}, QDir::Hidden | QDir::Files)
+                .isEmpty());
   }
-  QCOMPARE(entries(disk), QStringList());
-}
 
-void TestFileStore::makesParents() {
-  TestServices disk;
-  const QString deep = disk.path(QStringLiteral("a/b/c"));
-  QVERIFY(disk.files.makeFolder(deep));
-  QVERIFY(disk.files.makeFolder(deep));
-  QVERIFY(disk.files.makeFolder(disk.path(QStringLiteral("d/e/"))));
-  QVERIFY(QFileInfo(deep).isDir());
-  QVERIFY(writeFile(disk.path(QStringLiteral("file")), "x"));
-  QVERIFY(!disk.files.makeFolder(disk.path(QStringLiteral("file"))));
-  QVERIFY(!disk.files.makeFolder(disk.path(QStringLiteral("file/inside"))));
-}
-
-void TestFileStore::temporaryFoldersAreTheUsersOwn_data() {
-  QTest::addColumn<QString>("inPlace");
-  QTest::addColumn<bool>("takesIt");
-  QTest::newRow("nothing") << QString() << true;
-  QTest::newRow("the user's") << QStringLiteral("folder") << true;
-  QTest::newRow("a file") << QStringLiteral("file") << false;
-  QTest::newRow("a link to a folder") << QStringLiteral("link") << false;
-  if (::geteuid() == 0) QTest::newRow("another user's") << QStringLiteral("foreign") << false;
-}
-
-void TestFileStore::temporaryFoldersAreTheUsersOwn() {
-  QFETCH(QString, inPlace);
-  QFETCH(bool, takesIt);
-  TestServices disk;
-  qputenv("TMPDIR", QFile::encodeName(disk.folder.path()));
-  const QString path = disk.path("drags");
-  if (inPlace == "file") QVERIFY(writeFile(path, "x"));
-  if (inPlace == "link") QVERIFY(QFile::link(disk.folder.path(), path));
-  if (inPlace == "folder" || inPlace == "foreign") {
-    QCOMPARE(::mkdir(QFile::encodeName(path).constData(), 0777), 0);
-  }
-  if (inPlace == "foreign") QCOMPARE(::chown(QFile::encodeName(path).constData(), 12345, 0), 0);
-  for (int again = 0; again < 2; ++again) {
-    const auto folder = disk.files.makeTemporaryFolder("drags");
-    QVERIFY(folder);
-    QCOMPARE(*folder, takesIt ? path : path + '-' + QString::number(::geteuid()));
+  void keepsTheRightsOfAReplacedFile() {
+    TestServices disk;
+    const QString path = disk.path("file");
+    QVERIFY(writeFile(path, "old"));
+    QCOMPARE(::chmod(QFile::encodeName(path).constData(), 06640), 0);
+    QVERIFY(replaced(disk.files, path, "new"));
+    QCOMPARE(contentOf(path), QByteArray("new"));
     struct stat info;
-    QCOMPARE(::lstat(QFile::encodeName(*folder).constData(), &info), 0);
-    QVERIFY(S_ISDIR(info.st_mode) && info.st_uid == ::geteuid());
-    QCOMPARE(info.st_mode & 07777, 0700u);
+    QCOMPARE(::stat(QFile::encodeName(path).constData(), &info), 0);
+    QCOMPARE(info.st_mode & 07777, 0640u);
   }
-  qputenv("TMPDIR", QFile::encodeName(disk.path("missing")));
-  QVERIFY(!disk.files.makeTemporaryFolder("drags"));
-  qunsetenv("TMPDIR");
-}
 
-void TestFileStore::movesOnlyToAFreePlace() {
-  TestServices disk;
-  QVERIFY(writeFile(disk.path(QStringLiteral("old/kept")), "x"));
-  QVERIFY(QDir().mkpath(disk.path(QStringLiteral("taken"))));
-  QVERIFY(
-      !disk.files.moveFolder(disk.path(QStringLiteral("old")), disk.path(QStringLiteral("taken"))));
-  QVERIFY(
-      disk.files.moveFolder(disk.path(QStringLiteral("old")), disk.path(QStringLiteral("new"))));
-  QCOMPARE(contentOf(disk.path(QStringLiteral("new/kept"))), QByteArray("x"));
-  QVERIFY(!disk.files.exists(disk.path(QStringLiteral("old"))));
-}
+  void takesBackAndRepeats() {
+    TestServices disk;
+    auto file = disk.files.createTemporary(disk.path("x"));
+    QVERIFY(file);
+    QVERIFY((*file)->write("abcdef"));
+    QVERIFY((*file)->truncate(4));
+    QVERIFY((*file)->repeat(1, 3));
+    QVERIFY((*file)->write("!"));
+    QVERIFY(!(*file)->repeat(20, 5));  // stands beyond the end
+    QVERIFY(disk.files.replace(**file, disk.path("x")));
+    QCOMPARE(contentOf(disk.path("x")), QByteArray("abcdbcd!"));
+  }
 
-void TestFileStore::followsLinksForPages() {
-  const Tree tree;
-  const QString assets = tree.root + QStringLiteral("/assets/");
-  QCOMPARE(*tree.disk.files.resolved(assets + QStringLiteral("twice")),
-           QFileInfo(assets + QStringLiteral("a.png")).canonicalFilePath());
-  QCOMPARE(*tree.disk.files.resolved(assets + QStringLiteral("new")),
-           assets + QStringLiteral("new"));
-  QVERIFY(!tree.disk.files.resolved(assets + QStringLiteral("dangling")));
-  // As text it would be another file's path.
-  QVERIFY(writeFile(assets + "caf\ufffd", "x"));
-  const QByteArray raw = QFile::encodeName(assets) + "caf\xe9";
-  QCOMPARE(::rename(QFile::encodeName(assets + "a.png").constData(), raw.constData()), 0);
-  QCOMPARE(::symlink("caf\xe9", QFile::encodeName(assets + "raw").constData()), 0);
-  QVERIFY(!tree.disk.files.resolved(assets + "raw"));
-  QVERIFY(tree.disk.files.open(assets + "raw", tree.root));
-  QCOMPARE(::unlink(raw.constData()), 0);  // the toolkit couldn't
-}
+  void leavesNothingOfAFileThatFoundNoPlace() {
+    TestServices disk;
+    {
+      auto file = disk.files.createTemporary(disk.path("x"));
+      QVERIFY(file && (*file)->write("abc"));
+      // Without a name from the start: not even a killed process leaves it behind.
+      QCOMPARE(namesIn(disk.folder.path()), QStringList());
+    }
+    QCOMPARE(namesIn(disk.folder.path()), QStringList());
+  }
+
+  void makesParents() {
+    TestServices disk;
+    const QString deep = disk.path("a/b/c");
+    QVERIFY(disk.files.makeFolder(deep));
+    QVERIFY(disk.files.makeFolder(deep));
+    QVERIFY(disk.files.makeFolder(disk.path("d/e/")));
+    QVERIFY(QFileInfo(deep).isDir());
+    QVERIFY(writeFile(disk.path("file"), "x"));
+    QVERIFY(!disk.files.makeFolder(disk.path("file")));
+    QVERIFY(!disk.files.makeFolder(disk.path("file/inside")));
+  }
+
+  void temporaryFoldersAreTheUsersOwn() {
+    for (const QString inPlace : {"nothing", "folder", "file", "link", "foreign"}) {
+      if (inPlace == "foreign" && ::geteuid() != 0) continue;
+      TestServices disk;
+      qputenv("TMPDIR", QFile::encodeName(disk.folder.path()));
+      const QString path = disk.path("drags");
+      if (inPlace == "file") QVERIFY(writeFile(path, "x"));
+      if (inPlace == "link") QVERIFY(QFile::link(disk.folder.path(), path));
+      if (inPlace == "folder" || inPlace == "foreign") {
+        QCOMPARE(::mkdir(QFile::encodeName(path).constData(), 0777), 0);
+      }
+      if (inPlace == "foreign") QCOMPARE(::chown(QFile::encodeName(path).constData(), 12345, 0), 0);
+      const bool isTaken = inPlace == "nothing" || inPlace == "folder";
+      for (int again = 0; again < 2; ++again) {
+        const auto folder = disk.files.makeTemporaryFolder("drags");
+        QVERIFY2(folder, qPrintable(inPlace));
+        QCOMPARE(*folder, isTaken ? path : path + '-' + QString::number(::geteuid()));
+        struct stat info;
+        QCOMPARE(::lstat(QFile::encodeName(*folder).constData(), &info), 0);
+        QVERIFY(S_ISDIR(info.st_mode) && info.st_uid == ::geteuid());
+        QCOMPARE(info.st_mode & 07777, 0700u);
+      }
+      qputenv("TMPDIR", QFile::encodeName(disk.path("missing")));
+      QVERIFY(!disk.files.makeTemporaryFolder("drags"));
+      qunsetenv("TMPDIR");
+    }
+  }
+
+  void movesOnlyToAFreePlace() {
+    TestServices disk;
+    QVERIFY(writeFile(disk.path("old/kept"), "x"));
+    QVERIFY(QDir().mkpath(disk.path("taken")));
+    QVERIFY(!disk.files.moveFolder(disk.path("old"), disk.path("taken")));
+    QVERIFY(disk.files.moveFolder(disk.path("old"), disk.path("new")));
+    QCOMPARE(contentOf(disk.path("new/kept")), QByteArray("x"));
+    QVERIFY(!disk.files.exists(disk.path("old")));
+  }
+
+  void followsLinksForPages() {
+    const Tree tree;
+    const QString assets = tree.root + "/assets/";
+    QCOMPARE(*tree.disk.files.resolved(assets + "twice"),
+             QFileInfo(assets + "a.png").canonicalFilePath());
+    QCOMPARE(*tree.disk.files.resolved(assets + "new"), assets + "new");
+    QVERIFY(!tree.disk.files.resolved(assets + "dangling"));
+    // As text it would be another file's path.
+    QVERIFY(writeFile(assets + "caf\ufffd", "x"));
+    const QByteArray raw = QFile::encodeName(assets) + "caf\xe9";
+    QCOMPARE(::rename(QFile::encodeName(assets + "a.png").constData(), raw.constData()), 0);
+    QCOMPARE(::symlink("caf\xe9", QFile::encodeName(assets + "raw").constData()), 0);
+    QVERIFY(!tree.disk.files.resolved(assets + "raw"));
+    QVERIFY(tree.disk.files.open(assets + "raw", tree.root));
+    QCOMPARE(::unlink(raw.constData()), 0);  // the toolkit couldn't
+  }
+};
 
 QTEST_APPLESS_MAIN(TestFileStore)
 #include "tst_filestore.moc"

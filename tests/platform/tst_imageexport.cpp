@@ -1,4 +1,5 @@
 #include "platform/desktop/images/VipsImages.h"
+#include "testing/Cases.h"
 #include "testing/Pictures.h"
 
 #include <QBuffer>
@@ -18,20 +19,123 @@ class TestImageExport : public QObject {
   Q_OBJECT
 
  private slots:
-  void writesEachFormat_data();
-  void writesEachFormat();
-  void hitsAnySizeExactly_data();
-  void hitsAnySizeExactly();
-  void stretchesToTheSize();
-  void putsWhiteUnderTransparencyForJpeg();
-  void keepsTransparencyElsewhere();
-  void doesNotTurn();
-  void tagsItsColours_data();
-  void tagsItsColours();
-  void leavesTheSourcesMetadataBehind();
-  void qualityCountsWhereColoursAreLost();
-  void drawsVectorsSharply();
-  void refusesSizesBeyondAnyPicture();
+  void writesEachFormat() {
+    const Cases<int, QByteArray, int> cases{
+        {"png", int(ExportFormat::png), "\x89PNG\r\n\x1A\n", 0},
+        {"jpeg", int(ExportFormat::jpeg), "\xFF\xD8\xFF", 6},
+        {"heic", int(ExportFormat::heic),
+         QByteArray::fromRawData("\0\0\0\x1C"
+                                 "ftypheic",
+                                 12),
+         12},
+        {"tiff", int(ExportFormat::tiff), QByteArray::fromRawData("II*\0", 4), 0}};
+    cases.check([&](int format, const QByteArray& beginning, int tolerance) {
+      const QByteArray bytes = converted("chart.tif", ExportFormat(format), Chart::size);
+      QCOMPARE(bytes.first(beginning.size()), beginning);
+      QVERIFY(differenceAtCells(seen(bytes, ExportFormat(format)), Chart::image()) <= tolerance);
+    });
+  }
+
+  void hitsAnySizeExactly() {
+    QList<QSize> sizes{{1, 1}, {1, 700}, {700, 1}, {64, 48}, {65, 48}, {63, 48}, {64, 1000}};
+    auto* random = QRandomGenerator::global();
+    while (sizes.size() < 37) sizes << QSize(random->bounded(1, 900), random->bounded(1, 900));
+    for (const QSize size : sizes) {
+      for (const char* fixture : {"chart.tif", "progressive.jpg", "clear.webp", "mark.svg"}) {
+        QByteArray bytes = converted(fixture, ExportFormat::png, size);
+        QBuffer buffer(&bytes);
+        QCOMPARE(QImageReader(&buffer, "png").size(), size);
+      }
+    }
+  }
+
+  void stretchesToTheSize() {
+    const QByteArray bytes = converted("chart.tif", ExportFormat::png, {400, 30});
+    const QImage expected = Chart::image().scaled(400, 30);
+    QVERIFY(differenceAtCells(QImage::fromData(bytes), expected) <= 2);
+  }
+
+  void putsWhiteUnderTransparencyForJpeg() {
+    const QImage jpeg = QImage::fromData(converted("mark.svg", ExportFormat::jpeg, {80, 40}));
+    QVERIFY(qGreen(jpeg.pixel(60, 20)) >= 253 && qBlue(jpeg.pixel(60, 20)) >= 253);
+    QVERIFY(qRed(jpeg.pixel(20, 20)) >= 250 && qGreen(jpeg.pixel(20, 20)) <= 5);
+    const QImage fading =
+        QImage::fromData(converted("clear.webp", ExportFormat::jpeg, Chart::size));
+    const QRgb blackCell = fading.pixel(3 * 16 + 8, 16 + 8);  // three quarters and a bit there
+    QVERIFY(qAbs(qRed(blackCell) - 255 * 8 / 64) <= 12);
+  }
+
+  void keepsTransparencyElsewhere() {
+    for (const ExportFormat format : {ExportFormat::png, ExportFormat::heic, ExportFormat::tiff}) {
+      const QImage image = seen(converted("mark.svg", format, {80, 40}), format);
+      QCOMPARE(qAlpha(image.pixel(60, 20)), 0);
+      QVERIFY(qAlpha(image.pixel(20, 20)) >= 253);
+    }
+  }
+
+  void doesNotTurn() {
+    const QString path = disk_.path("turned.jpg");
+    writeFile(path, turnedJpeg(Chart::image(2), 6));
+    QCOMPARE(images_.thumbnail(path, 512)->size(), (Chart::size * 2).transposed());
+    QByteArray bytes = *images_.convert(path, ExportFormat::jpeg, Chart::size * 2, 1);
+    QBuffer result(&bytes);
+    QImageReader reader(&result);
+    reader.setAutoTransform(true);
+    QVERIFY(differenceAtCells(reader.read(), Chart::image(2)) <= 12);
+  }
+
+  void tagsItsColours() {
+    const Cases<int> cases{{"png", int(ExportFormat::png)}, {"jpeg", int(ExportFormat::jpeg)}};
+    cases.check([&](int format) {
+      QImage chart = Chart::image();
+      chart.setColorSpace(QColorSpace::SRgb);
+      chart.convertToColorSpace(QColorSpace::AdobeRgb);
+      const QString path = disk_.path("wide.png");
+      QVERIFY(chart.save(path));
+      const auto bytes = images_.convert(path, ExportFormat(format), Chart::size, 1);
+      QVERIFY(bytes);
+      const QImage image = QImage::fromData(*bytes);
+      QCOMPARE(image.colorSpace().primaries(), QColorSpace::Primaries::SRgb);
+      QVERIFY(differenceAtCells(image, Chart::image()) <= 8);
+    });
+  }
+
+  void leavesTheSourcesMetadataBehind() {
+    QImage chart = Chart::image();
+    chart.setText("Author", "Somebody");
+    const QString path = disk_.path("author.png");
+    QVERIFY(chart.save(path));
+    QVERIFY(contentOf(path).contains("Somebody"));
+    for (const ExportFormat format : allCases<ExportFormat>()) {
+      QVERIFY(!images_.convert(path, format, Chart::size, 1)->contains("Somebody"));
+    }
+  }
+
+  void qualityCountsWhereColoursAreLost() {
+    for (const ExportFormat format : allCases<ExportFormat>()) {
+      const qsizetype coarse = converted("chart.webp", format, {640, 480}, 0.3).size();
+      const qsizetype fine = converted("chart.webp", format, {640, 480}, 1).size();
+      const bool counts = format == ExportFormat::jpeg || format == ExportFormat::heic;
+      QVERIFY(counts ? coarse < fine : coarse == fine);
+    }
+  }
+
+  void drawsVectorsSharply() {
+    for (const char* fixture : {"mark.svg", "mark.pdf"}) {
+      const QImage image = QImage::fromData(converted(fixture, ExportFormat::png, {1600, 800}));
+      QCOMPARE(qAlpha(image.pixel(798, 400)), 255);
+      QCOMPARE(qAlpha(image.pixel(801, 400)), 0);
+    }
+  }
+
+  void refusesSizesBeyondAnyPicture() {
+    for (const char* fixture : {"chart.tif", "mark.svg"}) {
+      for (const QSize size :
+           {QSize(0, 10), QSize(-1, 10), QSize(100'000, 100'000), QSize(2'000'000'000, 1)}) {
+        QVERIFY(converted(fixture, ExportFormat::jpeg, size).isEmpty());
+      }
+    }
+  }
 
  private:
   QByteArray converted(const char* fixture, ExportFormat format, QSize size, double quality = 1) {
@@ -40,7 +144,7 @@ class TestImageExport : public QObject {
   // As another reader sees the bytes: the toolkit, or for what it doesn't read the library anew.
   QImage seen(const QByteArray& bytes, ExportFormat format) {
     if (format == ExportFormat::png || format == ExportFormat::jpeg) return QImage::fromData(bytes);
-    const QString path = disk_.path(QStringLiteral("seen"));
+    const QString path = disk_.path("seen");
     writeFile(path, bytes);
     return images_.thumbnail(path, 4096).value_or(QImage());
   }
@@ -48,150 +152,6 @@ class TestImageExport : public QObject {
   TestServices disk_;
   VipsImages images_{QStringLiteral(VECTOR_PROGRAM)};
 };
-
-void TestImageExport::writesEachFormat_data() {
-  QTest::addColumn<int>("format");
-  QTest::addColumn<QByteArray>("beginning");
-  QTest::addColumn<int>("tolerance");
-  QTest::newRow("png") << int(ExportFormat::png) << QByteArray("\x89PNG\r\n\x1A\n") << 0;
-  QTest::newRow("jpeg") << int(ExportFormat::jpeg) << QByteArray("\xFF\xD8\xFF") << 6;
-  QTest::newRow("heic") << int(ExportFormat::heic)
-                        << QByteArray::fromRawData(
-                               "\0\0\0\x1C"
-                               "ftypheic",
-                               12)
-                        << 12;
-  QTest::newRow("tiff") << int(ExportFormat::tiff) << QByteArray::fromRawData("II*\0", 4) << 0;
-}
-
-void TestImageExport::writesEachFormat() {
-  QFETCH(int, format);
-  QFETCH(QByteArray, beginning);
-  QFETCH(int, tolerance);
-  const QByteArray bytes = converted("chart.tif", ExportFormat(format), Chart::size);
-  QCOMPARE(bytes.first(beginning.size()), beginning);
-  QVERIFY(differenceAtCells(seen(bytes, ExportFormat(format)), Chart::image()) <= tolerance);
-}
-
-void TestImageExport::hitsAnySizeExactly_data() {
-  QTest::addColumn<QSize>("size");
-  auto* random = QRandomGenerator::global();
-  for (const QSize size : {QSize(1, 1), QSize(1, 700), QSize(700, 1), QSize(64, 48), QSize(65, 48),
-                           QSize(63, 48), QSize(64, 1000)}) {
-    QTest::addRow("%dx%d", size.width(), size.height()) << size;
-  }
-  for (int i = 0; i < 30; ++i) {
-    const QSize size(random->bounded(1, 900), random->bounded(1, 900));
-    QTest::addRow("%dx%d", size.width(), size.height()) << size;
-  }
-}
-
-void TestImageExport::hitsAnySizeExactly() {
-  QFETCH(QSize, size);
-  for (const char* fixture : {"chart.tif", "progressive.jpg", "clear.webp", "mark.svg"}) {
-    QByteArray bytes = converted(fixture, ExportFormat::png, size);
-    QBuffer buffer(&bytes);
-    QCOMPARE(QImageReader(&buffer, "png").size(), size);
-  }
-}
-
-void TestImageExport::stretchesToTheSize() {
-  const QByteArray bytes = converted("chart.tif", ExportFormat::png, {400, 30});
-  const QImage expected = Chart::image().scaled(400, 30);
-  QVERIFY(differenceAtCells(QImage::fromData(bytes), expected) <= 2);
-}
-
-void TestImageExport::putsWhiteUnderTransparencyForJpeg() {
-  const QImage jpeg = QImage::fromData(converted("mark.svg", ExportFormat::jpeg, {80, 40}));
-  QVERIFY(qGreen(jpeg.pixel(60, 20)) >= 253 && qBlue(jpeg.pixel(60, 20)) >= 253);
-  QVERIFY(qRed(jpeg.pixel(20, 20)) >= 250 && qGreen(jpeg.pixel(20, 20)) <= 5);
-  const QImage fading = QImage::fromData(converted("clear.webp", ExportFormat::jpeg, Chart::size));
-  const QRgb blackCell = fading.pixel(3 * 16 + 8, 16 + 8);  // three quarters and a bit there
-  QVERIFY(qAbs(qRed(blackCell) - 255 * 8 / 64) <= 12);
-}
-
-void TestImageExport::keepsTransparencyElsewhere() {
-  for (const ExportFormat format : {ExportFormat::png, ExportFormat::heic, ExportFormat::tiff}) {
-    const QImage image = seen(converted("mark.svg", format, {80, 40}), format);
-    QCOMPARE(qAlpha(image.pixel(60, 20)), 0);
-    QVERIFY(qAlpha(image.pixel(20, 20)) >= 253);
-  }
-}
-
-void TestImageExport::doesNotTurn() {
-  QByteArray jpeg;
-  QBuffer buffer(&jpeg);
-  QVERIFY(Chart::image(2).save(&buffer, "jpeg", 100));
-  jpeg.insert(2, QByteArray("\xFF\xE1\x00\x22"
-                            "Exif\0\0II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01"
-                            "\0\0\0\x06\0\0\0\0\0\0\0",
-                            36));
-  const QString path = disk_.path(QStringLiteral("turned.jpg"));
-  writeFile(path, jpeg);
-  QCOMPARE(images_.thumbnail(path, 512)->size(), (Chart::size * 2).transposed());
-  QByteArray bytes = *images_.convert(path, ExportFormat::jpeg, Chart::size * 2, 1);
-  QBuffer result(&bytes);
-  QImageReader reader(&result);
-  reader.setAutoTransform(true);
-  QVERIFY(differenceAtCells(reader.read(), Chart::image(2)) <= 12);
-}
-
-void TestImageExport::tagsItsColours_data() {
-  QTest::addColumn<int>("format");
-  QTest::newRow("png") << int(ExportFormat::png);
-  QTest::newRow("jpeg") << int(ExportFormat::jpeg);
-}
-
-void TestImageExport::tagsItsColours() {
-  QFETCH(int, format);
-  QImage chart = Chart::image();
-  chart.setColorSpace(QColorSpace::SRgb);
-  chart.convertToColorSpace(QColorSpace::AdobeRgb);
-  const QString path = disk_.path(QStringLiteral("wide.png"));
-  QVERIFY(chart.save(path));
-  const auto bytes = images_.convert(path, ExportFormat(format), Chart::size, 1);
-  QVERIFY(bytes);
-  const QImage image = QImage::fromData(*bytes);
-  QCOMPARE(image.colorSpace().primaries(), QColorSpace::Primaries::SRgb);
-  QVERIFY(differenceAtCells(image, Chart::image()) <= 8);
-}
-
-void TestImageExport::leavesTheSourcesMetadataBehind() {
-  QImage chart = Chart::image();
-  chart.setText(QStringLiteral("Author"), QStringLiteral("Somebody"));
-  const QString path = disk_.path(QStringLiteral("author.png"));
-  QVERIFY(chart.save(path));
-  QVERIFY(contentOf(path).contains("Somebody"));
-  for (const ExportFormat format : allCases<ExportFormat>()) {
-    QVERIFY(!images_.convert(path, format, Chart::size, 1)->contains("Somebody"));
-  }
-}
-
-void TestImageExport::qualityCountsWhereColoursAreLost() {
-  for (const ExportFormat format : allCases<ExportFormat>()) {
-    const qsizetype coarse = converted("chart.webp", format, {640, 480}, 0.3).size();
-    const qsizetype fine = converted("chart.webp", format, {640, 480}, 1).size();
-    const bool counts = format == ExportFormat::jpeg || format == ExportFormat::heic;
-    QVERIFY(counts ? coarse < fine : coarse == fine);
-  }
-}
-
-void TestImageExport::drawsVectorsSharply() {
-  for (const char* fixture : {"mark.svg", "mark.pdf"}) {
-    const QImage image = QImage::fromData(converted(fixture, ExportFormat::png, {1600, 800}));
-    QCOMPARE(qAlpha(image.pixel(798, 400)), 255);
-    QCOMPARE(qAlpha(image.pixel(801, 400)), 0);
-  }
-}
-
-void TestImageExport::refusesSizesBeyondAnyPicture() {
-  for (const char* fixture : {"chart.tif", "mark.svg"}) {
-    for (const QSize size :
-         {QSize(0, 10), QSize(-1, 10), QSize(100'000, 100'000), QSize(2'000'000'000, 1)}) {
-      QVERIFY(converted(fixture, ExportFormat::jpeg, size).isEmpty());
-    }
-  }
-}
 
 QTEST_GUILESS_MAIN(TestImageExport)
 #include "tst_imageexport.moc"

@@ -1,3 +1,4 @@
+#include "testing/Cases.h"
 #include "testing/TestServices.h"
 
 #include <QTest>
@@ -5,18 +6,6 @@
 #include <sys/stat.h>
 
 using namespace tarnloft;
-
-class TestOpenFolder : public QObject {
-  Q_OBJECT
-
- private slots:
-  void takesFilesInWhereverItIsMoved();
-  void takesNothingInOnceDeleted();
-  void isOpenedOnlyInside_data();
-  void isOpenedOnlyInside();
-  void refusesNames_data();
-  void refusesNames();
-};
 
 namespace {
 
@@ -34,89 +23,81 @@ struct Package {
   }
 };
 
-QStringList entries(const QString& folder) {
-  return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-}
-
 }  // namespace
 
-void TestOpenFolder::takesFilesInWhereverItIsMoved() {
-  Package package;
-  const auto folder = package.open();
-  QVERIFY(folder);
-  QCOMPARE(*folder->path(), QFileInfo(package.root + "/assets").canonicalFilePath());
-  for (const char* name : {"a (deleted)", "b"}) {
-    const QString moved = package.disk.path(name);
-    QVERIFY(QDir().rename(package.root, moved));
-    QVERIFY(folder->copyIn(package.source, QString("copied to ") + name));
-    QVERIFY(folder->writeIn("written", QString("written to ") + name));
-    QCOMPARE(*folder->path(), QFileInfo(moved + "/assets").canonicalFilePath());
-    QCOMPARE(contentOf(moved + "/assets/copied to " + name), "content");
-    QCOMPARE(contentOf(moved + "/assets/written to " + name), "written");
-    package.root = moved;
+class TestOpenFolder : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void takesFilesInWhereverItIsMoved() {
+    Package package;
+    const auto folder = package.open();
+    QVERIFY(folder);
+    QCOMPARE(*folder->path(), QFileInfo(package.root + "/assets").canonicalFilePath());
+    for (const char* name : {"a (deleted)", "b"}) {
+      const QString moved = package.disk.path(name);
+      QVERIFY(QDir().rename(package.root, moved));
+      QVERIFY(folder->copyIn(package.source, QString("copied to ") + name));
+      QVERIFY(folder->writeIn("written", QString("written to ") + name));
+      QCOMPARE(*folder->path(), QFileInfo(moved + "/assets").canonicalFilePath());
+      QCOMPARE(contentOf(moved + "/assets/copied to " + name), "content");
+      QCOMPARE(contentOf(moved + "/assets/written to " + name), "written");
+      package.root = moved;
+    }
+    QCOMPARE(namesIn(package.root + "/assets").size(), 4);
   }
-  QCOMPARE(entries(package.root + "/assets").size(), 4);
-}
 
-void TestOpenFolder::takesNothingInOnceDeleted() {
-  Package package;
-  const auto folder = package.open();
-  QVERIFY(folder && QDir(package.root).removeRecursively());
-  for (int again = 0; again < 2; ++again) {
-    QVERIFY(!folder->copyIn(package.source, "copied"));
-    QVERIFY(!folder->writeIn("written", "written"));
-    QVERIFY(!folder->path());
-    QVERIFY(QDir().mkpath(package.root + "/assets"));  // another one in its place
+  void takesNothingInOnceDeleted() {
+    Package package;
+    const auto folder = package.open();
+    QVERIFY(folder && QDir(package.root).removeRecursively());
+    for (int again = 0; again < 2; ++again) {
+      QVERIFY(!folder->copyIn(package.source, "copied"));
+      QVERIFY(!folder->writeIn("written", "written"));
+      QVERIFY(!folder->path());
+      QVERIFY(QDir().mkpath(package.root + "/assets"));  // another one in its place
+    }
+    QCOMPARE(namesIn(package.root + "/assets"), QStringList());
   }
-  QCOMPARE(entries(package.root + "/assets"), QStringList());
-}
 
-void TestOpenFolder::isOpenedOnlyInside_data() {
-  QTest::addColumn<QString>("path");
-  QTest::addColumn<bool>("opens");
-  QTest::newRow("inside") << "p/assets" << true;
-  QTest::newRow("the root") << "p" << true;
-  QTest::newRow("a link to the inside") << "p/in" << true;
-  QTest::newRow("an absolute link to the inside") << "p/absolute" << true;
-  QTest::newRow("the root by another way") << "link" << true;
-  QTest::newRow("a link to the outside") << "p/out" << false;
-  QTest::newRow("beside") << "p2" << false;
-  QTest::newRow("above") << "p/.." << false;
-  QTest::newRow("a file") << "p/assets/file" << false;
-  QTest::newRow("nothing") << "p/missing" << false;
-}
-
-void TestOpenFolder::isOpenedOnlyInside() {
-  QFETCH(QString, path);
-  TestServices disk;
-  QVERIFY(writeFile(disk.path("p/assets/file"), "x") && QDir().mkpath(disk.path("p2")));
-  QVERIFY(QFile::link("assets", disk.path("p/in")) && QFile::link("../p2", disk.path("p/out")));
-  QVERIFY(QFile::link(disk.path("p/assets"), disk.path("p/absolute")));
-  QVERIFY(QFile::link("p", disk.path("link")));
-  QTEST(disk.files.openFolder(disk.path(path), disk.path("p")).has_value(), "opens");
-}
-
-void TestOpenFolder::refusesNames_data() {
-  QTest::addColumn<QString>("name");
-  for (const char* name : {"", ".", "..", "../out", "sub/file", "taken", "folder"}) {
-    QTest::newRow(name) << name;
+  void isOpenedOnlyInside() {
+    const Cases<QString, bool> cases{{"inside", "p/assets", true},
+                                     {"the root", "p", true},
+                                     {"a link to the inside", "p/in", true},
+                                     {"an absolute link to the inside", "p/absolute", true},
+                                     {"the root by another way", "link", true},
+                                     {"a link to the outside", "p/out", false},
+                                     {"beside", "p2", false},
+                                     {"above", "p/..", false},
+                                     {"a file", "p/assets/file", false},
+                                     {"nothing", "p/missing", false}};
+    cases.check([&](const QString& path, bool opens) {
+      TestServices disk;
+      QVERIFY(writeFile(disk.path("p/assets/file"), "x") && QDir().mkpath(disk.path("p2")));
+      QVERIFY(QFile::link("assets", disk.path("p/in")) && QFile::link("../p2", disk.path("p/out")));
+      QVERIFY(QFile::link(disk.path("p/assets"), disk.path("p/absolute")));
+      QVERIFY(QFile::link("p", disk.path("link")));
+      QCOMPARE(disk.files.openFolder(disk.path(path), disk.path("p")).has_value(), opens);
+    });
   }
-  QTest::newRow("too long") << QString(300, 'x');
-}
 
-void TestOpenFolder::refusesNames() {
-  QFETCH(QString, name);
-  Package package;
-  const QString assets = package.root + "/assets";
-  QVERIFY(writeFile(assets + "/taken", "old") && QDir().mkpath(assets + "/folder"));
-  QVERIFY(QDir().mkpath(assets + "/sub"));
-  const auto folder = package.open();
-  QVERIFY(folder);
-  QVERIFY(!folder->copyIn(package.source, name) && !folder->writeIn("new", name));
-  QVERIFY(!folder->copyIn(package.root, "a folder") && !folder->copyIn("missing", "x"));
-  QCOMPARE(entries(assets), QStringList({"folder", "sub", "taken"}));
-  QCOMPARE(contentOf(assets + "/taken"), "old");
-}
+  void refusesNames() {
+    Package package;
+    const QString assets = package.root + "/assets";
+    QVERIFY(writeFile(assets + "/taken", "old") && QDir().mkpath(assets + "/folder"));
+    QVERIFY(QDir().mkpath(assets + "/sub"));
+    const auto folder = package.open();
+    QVERIFY(folder);
+    for (const QString& name :
+         QStringList{"", ".", "..", "../out", "sub/file", "taken", "folder", QString(300, 'x')}) {
+      QVERIFY2(!folder->copyIn(package.source, name), qPrintable(name));
+      QVERIFY2(!folder->writeIn("new", name), qPrintable(name));
+    }
+    QVERIFY(!folder->copyIn(package.root, "a folder") && !folder->copyIn("missing", "x"));
+    QCOMPARE(namesIn(assets), QStringList({"folder", "sub", "taken"}));
+    QCOMPARE(contentOf(assets + "/taken"), "old");
+  }
+};
 
 QTEST_APPLESS_MAIN(TestOpenFolder)
 #include "tst_openfolder.moc"

@@ -11,16 +11,6 @@
 
 using namespace tarnloft;
 
-class TestTrash : public QObject {
-  Q_OBJECT
-
- private slots:
-  void anotherProgramCanRestore();
-  void aFileSystemMayHaveNone();
-  void whatItCantTakeStaysWhole_data();
-  void whatItCantTakeStaysWhole();
-};
-
 namespace {
 
 constexpr uid_t ordinaryUser = 65534;
@@ -58,7 +48,7 @@ const QHash<QString, std::function<void(const QString& home)>> faults{
 // The user's folders, with a package, an empty trash, and a working directory that stays empty.
 struct Home {
   const QTemporaryDir folder;
-  const QString package = folder.filePath(QStringLiteral("library/Acmé 北.tarnloft"));
+  const QString package = folder.filePath("library/Acmé 北.tarnloft");
 
   Home() {
     for (const char* name : {"share/Trash/info", "share/Trash/files", "work"}) {
@@ -75,10 +65,7 @@ struct Home {
   }
   Q_DISABLE_COPY_MOVE(Home)
 
-  QStringList entries(const char* name) const {
-    return QDir(folder.filePath(name))
-        .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-  }
+  QStringList entries(const char* name) const { return namesIn(folder.filePath(name)); }
 };
 
 // In a process of its own: the library looks at the user's folders once. As an ordinary user, from
@@ -99,53 +86,54 @@ bool throwsAway(const Home& home, const QString& path, bool isDiskFull = false) 
 
 }  // namespace
 
-void TestTrash::anotherProgramCanRestore() {
-  const Home home;
-  QVERIFY(throwsAway(home, home.package));
-  QVERIFY(!QFile::exists(home.package));
-  QCOMPARE(home.entries("share/Trash/files"), QStringList("Acmé 北.tarnloft"));
-  QCOMPARE(home.entries("work"), QStringList());
-  QProcess restore;
-  restore.start("trash-restore", {home.package});
-  restore.write("0\n");
-  restore.closeWriteChannel();
-  QVERIFY(restore.waitForFinished());
-  QCOMPARE(contentOf(home.package + "/manifest.json"), "x");
-  QCOMPARE(home.entries("share/Trash/files"), QStringList());
-}
+class TestTrash : public QObject {
+  Q_OBJECT
 
-void TestTrash::aFileSystemMayHaveNone() {
-  const Home home;
-  const QTemporaryDir other("/dev/shm/tst_trash-XXXXXX");
-  struct stat here {
-  }, there{};
-  ::stat(QFile::encodeName(home.folder.path()).constData(), &here);
-  if (::stat(QFile::encodeName(other.path()).constData(), &there) != 0) QSKIP("No shared memory");
-  if (here.st_dev == there.st_dev) QSKIP("There is one file system only");
-  QVERIFY(writeFile(other.filePath("a.tarnloft/manifest.json"), "x"));
-  QFile::setPermissions(other.path(), QFile::Permissions(0x7777));
-  QVERIFY(!throwsAway(home, other.filePath("a.tarnloft")));
-  QCOMPARE(contentOf(other.filePath("a.tarnloft/manifest.json")), "x");
-  QVERIFY(!QFile::exists(QString("/dev/shm/.Trash-%1").arg(ordinaryUser)));
-  QCOMPARE(home.entries("work"), QStringList());
-}
-
-void TestTrash::whatItCantTakeStaysWhole_data() {
-  QTest::addColumn<QString>("fault");
-  for (const QString& fault : faults.keys()) QTest::newRow(fault.toUtf8().constData()) << fault;
-}
-
-void TestTrash::whatItCantTakeStaysWhole() {
-  QFETCH(QString, fault);
-  const Home home;
-  QVERIFY(!throwsAway(home, home.folder.filePath("missing")) && !throwsAway(home, QString()));
-  faults.value(fault)(home.folder.path());
-  QVERIFY(!throwsAway(home, home.package, fault == "a full disk"));
-  QCOMPARE(contentOf(home.package + "/manifest.json"), "x");
-  for (const char* name : {"share/Trash/info", "share/Trash/files", "work"}) {
-    QCOMPARE(home.entries(name), QStringList());
+ private slots:
+  void anotherProgramCanRestore() {
+    const Home home;
+    QVERIFY(throwsAway(home, home.package));
+    QVERIFY(!QFile::exists(home.package));
+    QCOMPARE(home.entries("share/Trash/files"), QStringList("Acmé 北.tarnloft"));
+    QCOMPARE(home.entries("work"), QStringList());
+    QProcess restore;
+    restore.start("trash-restore", {home.package});
+    restore.write("0\n");
+    restore.closeWriteChannel();
+    QVERIFY(restore.waitForFinished());
+    QCOMPARE(contentOf(home.package + "/manifest.json"), "x");
+    QCOMPARE(home.entries("share/Trash/files"), QStringList());
   }
-}
+
+  void aFileSystemMayHaveNone() {
+    const Home home;
+    const QTemporaryDir other("/dev/shm/tst_trash-XXXXXX");
+    struct stat here {
+    }, there{};
+    ::stat(QFile::encodeName(home.folder.path()).constData(), &here);
+    if (::stat(QFile::encodeName(other.path()).constData(), &there) != 0) QSKIP("No shared memory");
+    if (here.st_dev == there.st_dev) QSKIP("There is one file system only");
+    QVERIFY(writeFile(other.filePath("a.tarnloft/manifest.json"), "x"));
+    QFile::setPermissions(other.path(), QFile::Permissions(0x7777));
+    QVERIFY(!throwsAway(home, other.filePath("a.tarnloft")));
+    QCOMPARE(contentOf(other.filePath("a.tarnloft/manifest.json")), "x");
+    QVERIFY(!QFile::exists(QString("/dev/shm/.Trash-%1").arg(ordinaryUser)));
+    QCOMPARE(home.entries("work"), QStringList());
+  }
+
+  void whatItCantTakeStaysWhole() {
+    for (const QString& fault : faults.keys()) {
+      const Home home;
+      QVERIFY(!throwsAway(home, home.folder.filePath("missing")) && !throwsAway(home, QString()));
+      faults.value(fault)(home.folder.path());
+      QVERIFY2(!throwsAway(home, home.package, fault == "a full disk"), qPrintable(fault));
+      QCOMPARE(contentOf(home.package + "/manifest.json"), "x");
+      for (const char* name : {"share/Trash/info", "share/Trash/files", "work"}) {
+        QCOMPARE(home.entries(name), QStringList());
+      }
+    }
+  }
+};
 
 QTEST_APPLESS_MAIN(TestTrash)
 #include "tst_trash.moc"

@@ -1,4 +1,5 @@
 #include "platform/desktop/clips/LibavVideos.h"
+#include "testing/Cases.h"
 #include "testing/TestServices.h"
 
 #include <QRandomGenerator>
@@ -12,29 +13,6 @@
 #include <sys/stat.h>
 
 using namespace tarnloft;
-
-class TestVideos : public QObject {
-  Q_OBJECT
-
- private slots:
-  void tellsWhatAProbeTells_data();
-  void tellsWhatAProbeTells();
-  void showsAPosterUpright_data();
-  void showsAPosterUpright();
-  void showsColorsAsAScreenDoes_data();
-  void showsColorsAsAScreenDoes();
-  void showsTheMomentAskedFor_data();
-  void showsTheMomentAskedFor();
-  void neverEnlarges_data();
-  void neverEnlarges();
-  void hasNothingOfWhatIsNoClip_data();
-  void hasNothingOfWhatIsNoClip();
-  void readsNoOtherFile_data();
-  void readsNoOtherFile();
-  void tellsWhatIsLeftOfABrokenClip();
-  void anIndexOfBillionsTakesLittleMemory();
-  void survivesDamage();
-};
 
 namespace {
 
@@ -80,254 +58,214 @@ qint64 peakMemory() {
 
 }  // namespace
 
-// As `ffprobe -show_entries stream=width,height:format=duration` tells them.
-void TestVideos::tellsWhatAProbeTells_data() {
-  QTest::addColumn<QString>("file");
-  QTest::addColumn<QSize>("size");
-  QTest::addColumn<double>("duration");  // negative for none
-  const auto row = [](const char* file, QSize size, double duration) {
-    QTest::newRow(file) << QString::fromLatin1(file) << size << duration;
-  };
-  const QSize size(64, 48), none;
-  for (const char* file :
-       {"av1.mp4", "bt709.mp4", "full-range.mp4", "h264.mkv", "h264.mp4", "h264.ts", "hevc10.mov",
-        "animation.mov", "mirrored.mp4", "turned90.mp4", "mjpeg.avi", "mpeg4.3gp", "narrow.mp4",
-        "wide.mp4", "theora.ogv", "vp8.webm", "vp9.webm", "wmv2.wmv", "cover-and-clip.mkv"}) {
-    row(file, size, 0.4);
+class TestVideos : public QObject {
+  Q_OBJECT
+
+ private slots:
+  // Sizes and durations as `ffprobe -show_entries stream=width,height:format=duration` tells them;
+  // the poster stands upright, in the proportions of its pixels.
+  void tellsAndShowsWhatIsInAFile() {
+    using Quarters = QList<QRgb>;
+    const QSize size(64, 48), tall(48, 64);
+    const QRgb grey = greyOf(1);
+    const Quarters upright{red, green, blue, grey}, atOnce{red, green, blue, greyOf(0)};
+    // size, duration, the poster's size and quarters; negative and empty for none
+    const Cases<QSize, double, QSize, Quarters> cases{
+        {"av1.mp4", size, 0.4, size, upright},
+        {"bt709.mp4", size, 0.4, size, upright},
+        {"full-range.mp4", size, 0.4, size, upright},
+        {"h264.mkv", size, 0.4, size, upright},
+        {"h264.mp4", size, 0.4, size, upright},
+        {"h264.ts", size, 0.4, size, upright},
+        {"h264.flv", size, 0.6, size, upright},
+        {"hevc10.mov", size, 0.4, size, upright},
+        {"animation.mov", size, 0.4, size, upright},
+        {"mjpeg.avi", size, 0.4, size, upright},
+        {"mpeg4.3gp", size, 0.4, size, upright},
+        {"mpeg2.mpg", size, 0.04, size, upright},
+        {"theora.ogv", size, 0.4, size, upright},
+        {"vp8.webm", size, 0.4, size, upright},
+        {"vp9.webm", size, 0.4, size, upright},
+        {"wmv2.wmv", size, 0.4, size, upright},
+        {"prores.mov", size, 0.2, size, upright},
+        {"cover-and-clip.mkv", size, 0.4, size, upright},
+        {"no-duration.webm", size, -1, size, upright},
+        {"odd.mp4", {63, 47}, 0.4, {63, 47}, upright},
+        {"wide.mp4", size, 0.4, {128, 48}, upright},
+        {"narrow.mp4", size, 0.4, {32, 48}, upright},
+        {"turned90.mp4", size, 0.4, tall, {blue, red, grey, green}},
+        {"turned180.mp4", size, 0.4, size, {grey, blue, green, red}},
+        {"turned270.mp4", size, 0.4, tall, {green, grey, red, blue}},
+        {"mirrored.mp4", size, 0.4, size, {green, red, grey, blue}},
+        {"mirrored-turned.mp4", size, 0.4, tall, {red, blue, green, grey}},
+        {"one-frame.mp4", size, 0.1, size, atOnce},
+        {"late-picture.mp4", size, 1.4, size, atOnce},
+        {"sound.m4a", {}, 0.5, {}, {}},
+        // A probe calls the cover a track; a player doesn't.
+        {"sound-with-cover.m4a", {}, 0.5, {}, {}}};
+    cases.check([](const QString& file, QSize told, double duration, QSize shown,
+                   const Quarters& quarters) {
+      const auto properties = LibavVideos().properties(fixtures + file);
+      QVERIFY(properties);
+      QCOMPARE(properties->size.value_or(QSize()), told);
+      QVERIFY(std::abs(properties->duration.value_or(-1) - duration) < 0.001);
+      const auto poster = LibavVideos().frame(fixtures + file, 0.1, 512);
+      QCOMPARE(poster.has_value(), shown.isValid());
+      if (!poster) return;
+      QCOMPARE(poster->size(), shown);
+      QVERIFY(areNear(quartersOf(*poster), quarters));
+    });
   }
-  row("h264.flv", size, 0.6);
-  row("mpeg2.mpg", size, 0.04);
-  row("odd.mp4", QSize(63, 47), 0.4);
-  row("one-frame.mp4", size, 0.1);
-  row("prores.mov", size, 0.2);
-  row("late-picture.mp4", size, 1.4);
-  row("no-duration.webm", size, -1);
-  row("sound.m4a", none, 0.5);
-  row("sound-with-cover.m4a", none, 0.5);  // a probe calls the cover a track; a player doesn't
-}
 
-void TestVideos::tellsWhatAProbeTells() {
-  QFETCH(QString, file);
-  QFETCH(QSize, size);
-  QFETCH(double, duration);
-  const auto properties = LibavVideos().properties(fixtures + file);
-  QVERIFY(properties);
-  QCOMPARE(properties->size.value_or(QSize()), size);
-  QVERIFY(std::abs(properties->duration.value_or(-1) - duration) < 0.001);
-  QCOMPARE(LibavVideos().frame(fixtures + file, 0.1, 512).has_value(), !size.isEmpty());
-}
-
-void TestVideos::showsAPosterUpright_data() {
-  QTest::addColumn<QString>("file");
-  QTest::addColumn<QSize>("size");
-  QTest::addColumn<QList<QRgb>>("quarters");
-  const QRgb grey = greyOf(1);
-  const QList<QRgb> upright{red, green, blue, grey};
-  const auto row = [](const char* file, QSize size, const QList<QRgb>& quarters) {
-    QTest::newRow(file) << QString::fromLatin1(file) << size << quarters;
-  };
-  for (const char* file : {"av1.mp4", "bt709.mp4", "full-range.mp4", "h264.flv", "h264.mkv",
-                           "h264.mp4", "h264.ts", "hevc10.mov", "animation.mov", "mjpeg.avi",
-                           "mpeg4.3gp", "mpeg2.mpg", "theora.ogv", "vp8.webm", "vp9.webm",
-                           "wmv2.wmv", "prores.mov", "no-duration.webm", "cover-and-clip.mkv"}) {
-    row(file, QSize(64, 48), upright);
+  // Flat colours; what they are in sRGB is computed by hand from the standards that the clips name.
+  void showsColorsAsAScreenDoes() {
+    const Cases<QString, QRgb> cases{
+        {"of a wide range", "wide-colors.mp4", qRgb(241, 76, 29)},
+        {"of high range, ST 2084", "perceptual.mp4", qRgb(107, 107, 107)},
+        {"of high range, B67", "hybrid.mp4", qRgb(168, 168, 168)},
+        {"half transparent", "glass.mov", qRgba(220, 40, 40, 128)}};
+    cases.check([&](const QString& file, QRgb color) {
+      const auto poster = LibavVideos().frame(fixtures + file, 0.1, 512);
+      QVERIFY(poster);
+      QVERIFY(areNear(quartersOf(*poster), {color, color, color, color}));
+    });
   }
-  row("odd.mp4", QSize(63, 47), upright);
-  row("wide.mp4", QSize(128, 48), upright);
-  row("narrow.mp4", QSize(32, 48), upright);
-  row("turned90.mp4", QSize(48, 64), {blue, red, grey, green});
-  row("turned180.mp4", QSize(64, 48), {grey, blue, green, red});
-  row("turned270.mp4", QSize(48, 64), {green, grey, red, blue});
-  row("mirrored.mp4", QSize(64, 48), {green, red, grey, blue});
-  row("mirrored-turned.mp4", QSize(48, 64), {red, blue, green, grey});
-  row("one-frame.mp4", QSize(64, 48), {red, green, blue, greyOf(0)});
-  row("late-picture.mp4", QSize(64, 48), {red, green, blue, greyOf(0)});
-}
 
-void TestVideos::showsAPosterUpright() {
-  QFETCH(QString, file);
-  QFETCH(QSize, size);
-  QFETCH(QList<QRgb>, quarters);
-  const auto poster = LibavVideos().frame(fixtures + file, 0.1, 512);
-  QVERIFY(poster);
-  QCOMPARE(poster->size(), size);
-  QVERIFY(areNear(quartersOf(*poster), quarters));
-}
-
-// Flat colours; what they are in sRGB is computed by hand from the standards that the clips name.
-void TestVideos::showsColorsAsAScreenDoes_data() {
-  QTest::addColumn<QString>("file");
-  QTest::addColumn<QRgb>("color");
-  QTest::newRow("of a wide range") << "wide-colors.mp4" << qRgb(241, 76, 29);
-  QTest::newRow("of high range, ST 2084") << "perceptual.mp4" << qRgb(107, 107, 107);
-  QTest::newRow("of high range, B67") << "hybrid.mp4" << qRgb(168, 168, 168);
-  QTest::newRow("half transparent") << "glass.mov" << qRgba(220, 40, 40, 128);
-}
-
-void TestVideos::showsColorsAsAScreenDoes() {
-  QFETCH(QString, file);
-  QFETCH(QRgb, color);
-  const auto poster = LibavVideos().frame(fixtures + file, 0.1, 512);
-  QVERIFY(poster);
-  QVERIFY(areNear(quartersOf(*poster), {color, color, color, color}));
-}
-
-void TestVideos::showsTheMomentAskedFor_data() {
-  QTest::addColumn<QString>("file");
-  for (const char* file : {"h264.mp4", "h264.mkv", "h264.ts", "vp9.webm", "hevc10.mov"}) {
-    QTest::newRow(file) << QString::fromLatin1(file);
-  }
-}
-
-void TestVideos::showsTheMomentAskedFor() {
-  QFETCH(QString, file);
-  const std::pair<double, int> frames[] = {{-1, 0},   {0, 0},    {0.09, 0}, {0.11, 1},
-                                           {0.25, 2}, {0.35, 3}, {3, 3},    {1e30, 3}};
-  for (const auto& [seconds, frame] : frames) {
-    const auto picture = LibavVideos().frame(fixtures + file, seconds, 512);
-    QVERIFY2(picture && isNear(colorAt(*picture, .75, .75), greyOf(frame)),
-             qPrintable(QString::number(seconds)));
-  }
-}
-
-void TestVideos::neverEnlarges_data() {
-  QTest::addColumn<QString>("file");
-  QTest::addColumn<int>("maxPixel");
-  QTest::addColumn<QSize>("size");
-  QTest::newRow("smaller") << "h264.mp4" << 32 << QSize(32, 24);
-  QTest::newRow("as it is") << "h264.mp4" << 64 << QSize(64, 48);
-  QTest::newRow("larger") << "h264.mp4" << 4096 << QSize(64, 48);
-  QTest::newRow("turned") << "turned90.mp4" << 32 << QSize(24, 32);
-  QTest::newRow("wide") << "wide.mp4" << 64 << QSize(64, 24);
-  QTest::newRow("odd") << "odd.mp4" << 21 << QSize(21, 16);
-  QTest::newRow("one pixel") << "h264.mp4" << 1 << QSize(1, 1);
-}
-
-void TestVideos::neverEnlarges() {
-  QFETCH(QString, file);
-  QFETCH(int, maxPixel);
-  QFETCH(QSize, size);
-  const auto picture = LibavVideos().frame(fixtures + file, 0.1, maxPixel);
-  QVERIFY(picture);
-  QCOMPARE(picture->size(), size);
-}
-
-void TestVideos::hasNothingOfWhatIsNoClip_data() {
-  QTest::addColumn<QByteArray>("content");
-  QImage picture(8, 8, QImage::Format_RGB32);
-  picture.fill(Qt::red);
-  QByteArray noise(100'000, '\0');
-  QRandomGenerator(1).fillRange(reinterpret_cast<quint32*>(noise.data()), noise.size() / 4);
-  QTest::newRow("nothing") << QByteArray();
-  QTest::newRow("text") << QByteArray("The quick brown fox\n").repeated(100);
-  QTest::newRow("zeros") << QByteArray(100'000, '\0');
-  QTest::newRow("noise") << noise;
-  QTest::newRow("only a beginning") << clip("h264.mp4").left(900);
-  QTest::newRow("a page") << QByteArray("<html><video src='h264.mp4'></video></html>");
-}
-
-void TestVideos::hasNothingOfWhatIsNoClip() {
-  QFETCH(QByteArray, content);
-  TestServices disk;
-  for (const char* name : {"a.mp4", "a.webm", "a.ts", "a"}) {
-    const QString path = disk.path(QString::fromLatin1(name));
-    QVERIFY(writeFile(path, content));
-    QVERIFY(!LibavVideos().properties(path));
-    QVERIFY(!LibavVideos().frame(path, 0.1, 512));
-  }
-  const QString pipe = disk.path(QStringLiteral("pipe.mp4"));
-  QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-  for (const QString& path : {pipe, disk.folder.path(), disk.path("missing.mp4"), QString()}) {
-    QVERIFY(!LibavVideos().properties(path));
-  }
-}
-
-// Files that name a good clip beside them, in ways that the library knows.
-void TestVideos::readsNoOtherFile_data() {
-  QTest::addColumn<QByteArray>("content");
-  QTest::newRow("playlist") << QByteArray(
-      "#EXTM3U\n#EXT-X-TARGETDURATION:1\n#EXTINF:0.4,\nclip.ts\n#EXT-X-ENDLIST\n");
-  QTest::newRow("script") << QByteArray("ffconcat version 1.0\nfile 'clip.ts'\n");
-  QTest::newRow("session") << QByteArray(
-      "v=0\no=- 0 0 IN IP4 127.0.0.1\ns=x\nc=IN IP4 127.0.0.1\nt=0 0\nm=video 5004 RTP/AVP 96\n"
-      "a=rtpmap:96 H264/90000\n");
-  QTest::newRow("manifest") << QByteArray(
-      "<?xml version='1.0'?>\n<MPD xmlns='urn:mpeg:dash:schema:mpd:2011' type='static'><Period>"
-      "<AdaptationSet mimeType='video/mp4'><Representation id='1' bandwidth='1'><BaseURL>clip.ts"
-      "</BaseURL></Representation></AdaptationSet></Period></MPD>");
-}
-
-void TestVideos::readsNoOtherFile() {
-  QFETCH(QByteArray, content);
-  TestServices disk;
-  QVERIFY(writeFile(disk.path("clip.ts"), clip("h264.ts")));
-  const QString before = QDir::currentPath();
-  const auto restore = qScopeGuard([&] { QDir::setCurrent(before); });
-  QVERIFY(QDir::setCurrent(disk.folder.path()));
-  for (const char* name : {"a.mp4", "a.m3u8", "a.mpd", "a.sdp"}) {
-    QVERIFY(writeFile(disk.path(QString::fromLatin1(name)), content));
-    QVERIFY(!LibavVideos().properties(disk.path(QString::fromLatin1(name))));
-  }
-}
-
-void TestVideos::tellsWhatIsLeftOfABrokenClip() {
-  TestServices disk;
-  const QString path = disk.path("a.mp4");
-  QByteArray brokenIndex = clip("h264.mp4");
-  patch(brokenIndex, "stco", 12, 0x7fffffff);
-  QVERIFY(writeFile(path, brokenIndex));
-  QCOMPARE(LibavVideos().properties(path)->size, QSize(64, 48));
-  QVERIFY(!LibavVideos().frame(path, 0.1, 512));
-
-  QByteArray endless = clip("h264.mp4");
-  for (const auto& [atom, offset] : {std::pair("mvhd", 20), {"mdhd", 20}, {"tkhd", 24}}) {
-    patch(endless, atom, offset, 0);
-  }
-  QVERIFY(writeFile(path, endless));
-  QCOMPARE(LibavVideos().properties(path)->duration, 0.0);
-  QVERIFY(LibavVideos().frame(path, 0.1, 512));
-
-  QVERIFY(writeFile(path, clip("h264.mkv").left(1300)));
-  QCOMPARE(LibavVideos().properties(path)->size, QSize(64, 48));
-  QVERIFY(LibavVideos().frame(path, 0.1, 512));
-}
-
-// A table of constant sizes needs no bytes for its entries.
-void TestVideos::anIndexOfBillionsTakesLittleMemory() {
-  TestServices disk;
-  const QString path = disk.path("a.mp4");
-  QByteArray file = clip("h264.mp4");
-  constexpr quint32 many = 80'000'000;
-  patch(file, "stsz", 8, 1);
-  patch(file, "stsz", 12, many);
-  patch(file, "stsc", 16, many);
-  QVERIFY(writeFile(path, file));
-  const qint64 before = peakMemory();
-  QCOMPARE(LibavVideos().properties(path)->size, QSize(64, 48));
-  QVERIFY(!LibavVideos().frame(path, 0.1, 512));
-  QVERIFY(peakMemory() - before < 500'000);  // it would be four million
-}
-
-void TestVideos::survivesDamage() {
-  TestServices disk;
-  const QString path = disk.path("a");
-  QRandomGenerator random(7);
-  for (const QString& name : QDir(fixtures).entryList({"*.m*", "*.webm", "*.ts", "*.[fowa3]*"})) {
-    const QByteArray whole = contentOf(fixtures + name);
-    for (int round = 0; round < 20; ++round) {
-      QByteArray damaged = whole;
-      for (int count = random.bounded(1, 12); count > 0; --count) {
-        damaged[random.bounded(int(damaged.size()))] = char(random.bounded(256));
+  void showsTheMomentAskedFor() {
+    const std::pair<double, int> frames[] = {{-1, 0},   {0, 0},    {0.09, 0}, {0.11, 1},
+                                             {0.25, 2}, {0.35, 3}, {3, 3},    {1e30, 3}};
+    for (const char* file : {"h264.mp4", "h264.mkv", "h264.ts", "vp9.webm", "hevc10.mov"}) {
+      for (const auto& [seconds, frame] : frames) {
+        const auto picture = LibavVideos().frame(fixtures + file, seconds, 512);
+        QVERIFY2(picture && isNear(colorAt(*picture, .75, .75), greyOf(frame)), file);
       }
-      if (round % 4 == 0) damaged.truncate(random.bounded(int(damaged.size())));
-      QVERIFY(writeFile(path, damaged));
-      const auto properties = LibavVideos().properties(path);
-      const auto picture = LibavVideos().frame(path, 0.1, 32);
-      if (properties && properties->duration) QVERIFY(*properties->duration >= 0);
-      if (picture) QVERIFY(picture->width() <= 32 && picture->height() <= 32);
     }
   }
-}
+
+  void neverEnlarges() {
+    const Cases<QString, int, QSize> cases{
+        {"smaller", "h264.mp4", 32, QSize(32, 24)},  {"as it is", "h264.mp4", 64, QSize(64, 48)},
+        {"larger", "h264.mp4", 4096, QSize(64, 48)}, {"turned", "turned90.mp4", 32, QSize(24, 32)},
+        {"wide", "wide.mp4", 64, QSize(64, 24)},     {"odd", "odd.mp4", 21, QSize(21, 16)},
+        {"one pixel", "h264.mp4", 1, QSize(1, 1)}};
+    cases.check([&](const QString& file, int maxPixel, const QSize& size) {
+      const auto picture = LibavVideos().frame(fixtures + file, 0.1, maxPixel);
+      QVERIFY(picture);
+      QCOMPARE(picture->size(), size);
+    });
+  }
+
+  void hasNothingOfWhatIsNoClip() {
+    QImage picture(8, 8, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    QByteArray noise(100'000, '\0');
+    QRandomGenerator(1).fillRange(reinterpret_cast<quint32*>(noise.data()), noise.size() / 4);
+    const Cases<QByteArray> cases{{"nothing", ""},
+                                  {"text", QByteArray("The quick brown fox\n").repeated(100)},
+                                  {"zeros", QByteArray(100'000, '\0')},
+                                  {"noise", noise},
+                                  {"only a beginning", clip("h264.mp4").left(900)},
+                                  {"a page", "<html><video src='h264.mp4'></video></html>"}};
+    cases.check([&](const QByteArray& content) {
+      TestServices disk;
+      for (const char* name : {"a.mp4", "a.webm", "a.ts", "a"}) {
+        const QString path = disk.path(QString::fromLatin1(name));
+        QVERIFY(writeFile(path, content));
+        QVERIFY(!LibavVideos().properties(path));
+        QVERIFY(!LibavVideos().frame(path, 0.1, 512));
+      }
+      const QString pipe = disk.path("pipe.mp4");
+      QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+      for (const QString& path : {pipe, disk.folder.path(), disk.path("missing.mp4"), QString()}) {
+        QVERIFY(!LibavVideos().properties(path));
+      }
+    });
+  }
+
+  // Files that name a good clip beside them, in ways that the library knows.
+  void readsNoOtherFile() {
+    const Cases<QByteArray> cases{
+        {"playlist", "#EXTM3U\n#EXT-X-TARGETDURATION:1\n#EXTINF:0.4,\nclip.ts\n#EXT-X-ENDLIST\n"},
+        {"script", "ffconcat version 1.0\nfile 'clip.ts'\n"},
+        {"session",
+         "v=0\no=- 0 0 IN IP4 127.0.0.1\ns=x\nc=IN IP4 127.0.0.1\nt=0 0\nm=video 5004 RTP/AVP 96\n"
+         "a=rtpmap:96 H264/90000\n"},
+        {"manifest",
+         "<?xml version='1.0'?>\n<MPD xmlns='urn:mpeg:dash:schema:mpd:2011' type='static'><Period>"
+         "<AdaptationSet mimeType='video/mp4'><Representation id='1' bandwidth='1'><BaseURL>clip.ts"
+         "</BaseURL></Representation></AdaptationSet></Period></MPD>"}};
+    cases.check([&](const QByteArray& content) {
+      TestServices disk;
+      QVERIFY(writeFile(disk.path("clip.ts"), clip("h264.ts")));
+      const QString before = QDir::currentPath();
+      const auto restore = qScopeGuard([&] { QDir::setCurrent(before); });
+      QVERIFY(QDir::setCurrent(disk.folder.path()));
+      for (const char* name : {"a.mp4", "a.m3u8", "a.mpd", "a.sdp"}) {
+        QVERIFY(writeFile(disk.path(QString::fromLatin1(name)), content));
+        QVERIFY(!LibavVideos().properties(disk.path(QString::fromLatin1(name))));
+      }
+    });
+  }
+
+  void tellsWhatIsLeftOfABrokenClip() {
+    TestServices disk;
+    const QString path = disk.path("a.mp4");
+    QByteArray brokenIndex = clip("h264.mp4");
+    patch(brokenIndex, "stco", 12, 0x7fffffff);
+    QVERIFY(writeFile(path, brokenIndex));
+    QCOMPARE(LibavVideos().properties(path)->size, QSize(64, 48));
+    QVERIFY(!LibavVideos().frame(path, 0.1, 512));
+
+    QByteArray endless = clip("h264.mp4");
+    for (const auto& [atom, offset] : {std::pair("mvhd", 20), {"mdhd", 20}, {"tkhd", 24}}) {
+      patch(endless, atom, offset, 0);
+    }
+    QVERIFY(writeFile(path, endless));
+    QCOMPARE(LibavVideos().properties(path)->duration, 0.0);
+    QVERIFY(LibavVideos().frame(path, 0.1, 512));
+
+    QVERIFY(writeFile(path, clip("h264.mkv").left(1300)));
+    QCOMPARE(LibavVideos().properties(path)->size, QSize(64, 48));
+    QVERIFY(LibavVideos().frame(path, 0.1, 512));
+  }
+
+  // A table of constant sizes needs no bytes for its entries.
+  void anIndexOfBillionsTakesLittleMemory() {
+    TestServices disk;
+    const QString path = disk.path("a.mp4");
+    QByteArray file = clip("h264.mp4");
+    constexpr quint32 many = 80'000'000;
+    patch(file, "stsz", 8, 1);
+    patch(file, "stsz", 12, many);
+    patch(file, "stsc", 16, many);
+    QVERIFY(writeFile(path, file));
+    const qint64 before = peakMemory();
+    QCOMPARE(LibavVideos().properties(path)->size, QSize(64, 48));
+    QVERIFY(!LibavVideos().frame(path, 0.1, 512));
+    QVERIFY(peakMemory() - before < 500'000);  // it would be four million
+  }
+
+  void survivesDamage() {
+    TestServices disk;
+    const QString path = disk.path("a");
+    QRandomGenerator random(7);
+    for (const QString& name : QDir(fixtures).entryList({"*.m*", "*.webm", "*.ts", "*.[fowa3]*"})) {
+      const QByteArray whole = contentOf(fixtures + name);
+      for (int round = 0; round < 20; ++round) {
+        QByteArray damaged = whole;
+        for (int count = random.bounded(1, 12); count > 0; --count) {
+          damaged[random.bounded(int(damaged.size()))] = char(random.bounded(256));
+        }
+        if (round % 4 == 0) damaged.truncate(random.bounded(int(damaged.size())));
+        QVERIFY(writeFile(path, damaged));
+        const auto properties = LibavVideos().properties(path);
+        const auto picture = LibavVideos().frame(path, 0.1, 32);
+        if (properties && properties->duration) QVERIFY(*properties->duration >= 0);
+        if (picture) QVERIFY(picture->width() <= 32 && picture->height() <= 32);
+      }
+    }
+  }
+};
 
 QTEST_GUILESS_MAIN(TestVideos)
 #include "tst_videos.moc"

@@ -2,6 +2,7 @@
 #include "platform/desktop/window/DesktopColorSampler.h"
 #include "platform/desktop/window/DesktopFileDialogs.h"
 #include "platform/desktop/window/DesktopFileViewer.h"
+#include "testing/Cases.h"
 
 #include <QApplication>
 #include <QDBusArgument>
@@ -22,22 +23,6 @@
 
 using namespace tarnloft;
 
-// The desktop's services against a session bus and a screen of the test's own.
-class TestWindow : public QObject {
-  Q_OBJECT
-
- private slots:
-  void revealsByTheFileManager();
-  void opensTheFolderWithoutAFileManager();
-  void picksByThePortal_data();
-  void picksByThePortal();
-  void picksFromTheScreen_data();
-  void picksFromTheScreen();
-  void asksByThePortal();
-  void choosesFilesAndPackages_data();
-  void choosesFilesAndPackages();
-};
-
 // --- The other side of the bus
 
 class FakeFileManager : public QObject {
@@ -51,7 +36,19 @@ class FakeFileManager : public QObject {
   void ShowItems(const QStringList& urls, const QString& /*startup*/) { shown << urls; }
 };
 
-class FakePortal : public QObject, protected QDBusContext {
+// A portal's answer to the call that is being served, in the next turn; gives the request's path.
+QDBusObjectPath answered(const QDBusContext& call, const QVariantMap& options, uint response,
+                         const QVariantMap& results) {
+  QString sender = call.message().service().mid(1);
+  const QString path = "/org/freedesktop/portal/desktop/request/" + sender.replace('.', '_') + '/' +
+                       options.value("handle_token").toString();
+  auto signal = QDBusMessage::createSignal(path, "org.freedesktop.portal.Request", "Response");
+  signal << response << results;
+  QTimer::singleShot(0, [bus = call.connection(), signal] { bus.send(signal); });
+  return QDBusObjectPath(path);
+}
+
+class FakePortal : public QObject, public QDBusContext {
   Q_OBJECT
   Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Screenshot")
 
@@ -60,29 +57,16 @@ class FakePortal : public QObject, protected QDBusContext {
 
  public slots:
   QDBusObjectPath PickColor(const QString& /*window*/, const QVariantMap& options) {
-    QString sender = message().service().mid(1);
-    const QString path = "/org/freedesktop/portal/desktop/request/" + sender.replace('.', '_') +
-                         '/' + options.value("handle_token").toString();
-    const QDBusConnection bus = connection();
-    QTimer::singleShot(0, this, [this, path, bus] { answer(path, bus); });
-    return QDBusObjectPath(path);
-  }
-
- private:
-  void answer(const QString& path, const QDBusConnection& bus) const {
     QDBusArgument color;
     color.beginStructure();
     color << 1.0 << 0.5 << 0.25;
     color.endStructure();
-    QDBusMessage signal =
-        QDBusMessage::createSignal(path, "org.freedesktop.portal.Request", "Response");
-    signal << response << QVariantMap{{"color", QVariant::fromValue(color)}};
-    bus.send(signal);
+    return answered(*this, options, response, {{"color", QVariant::fromValue(color)}});
   }
 };
 
 // A desktop's file dialogs, with a user who answers at once.
-class FakeFileChooser : public QObject, protected QDBusContext {
+class FakeFileChooser : public QObject, public QDBusContext {
   Q_OBJECT
   Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.FileChooser")
 
@@ -93,25 +77,14 @@ class FakeFileChooser : public QObject, protected QDBusContext {
  public slots:
   QDBusObjectPath OpenFile(const QString& parent, const QString& title,
                            const QVariantMap& options) {
-    return ask(parent, title, options);
+    asked << parent + ' ' + title + ' ' + options.value("current_name").toString() +
+                 options.value("current_folder").toByteArray();
+    const QStringList chosen = answers.takeFirst();
+    return answered(*this, options, chosen.isEmpty() ? 1 : 0, {{"uris", chosen}});
   }
   QDBusObjectPath SaveFile(const QString& parent, const QString& title,
                            const QVariantMap& options) {
-    return ask(parent, title, options);
-  }
-
- private:
-  QDBusObjectPath ask(const QString& parent, const QString& title, const QVariantMap& options) {
-    asked << parent + ' ' + title + ' ' + options.value("current_name").toString() +
-                 options.value("current_folder").toByteArray();
-    QString sender = message().service().mid(1);
-    const QString path = "/org/freedesktop/portal/desktop/request/" + sender.replace('.', '_') +
-                         '/' + options.value("handle_token").toString();
-    auto signal = QDBusMessage::createSignal(path, "org.freedesktop.portal.Request", "Response");
-    const QStringList chosen = answers.takeFirst();
-    signal << uint(chosen.isEmpty() ? 1 : 0) << QVariantMap{{"uris", chosen}};
-    QTimer::singleShot(0, this, [bus = connection(), signal] { bus.send(signal); });
-    return QDBusObjectPath(path);
+    return OpenFile(parent, title, options);
   }
 };
 
@@ -164,141 +137,136 @@ struct Pick {
 
 }  // namespace
 
-void TestWindow::revealsByTheFileManager() {
-  FakeFileManager manager;
-  const Service service("org.freedesktop.FileManager1", "/org/freedesktop/FileManager1", &manager);
-  const QTemporaryDir folder;
-  QFile file(folder.filePath(QStringLiteral("Acmé & 北.zip")));
-  QVERIFY(file.open(QIODevice::WriteOnly));
-  FolderListingViewer viewer;
-  viewer.reveal(file.fileName());
-  viewer.reveal(folder.filePath("missing"));
-  QTRY_COMPARE(manager.shown.size(), 1);
-  QCOMPARE(QUrl::fromEncoded(manager.shown.first().toLatin1()).toLocalFile(), file.fileName());
-  QVERIFY(viewer.opened.isEmpty());
-}
+// The desktop's services against a session bus and a screen of the test's own.
+class TestWindow : public QObject {
+  Q_OBJECT
 
-void TestWindow::opensTheFolderWithoutAFileManager() {
-  const QTemporaryDir folder;
-  FolderListingViewer viewer;
-  viewer.reveal(folder.path());
-  QTRY_COMPARE(viewer.opened, QStringList(QFileInfo(folder.path()).path()));
-}
+ private slots:
+  void revealsByTheFileManager() {
+    FakeFileManager manager;
+    const Service service("org.freedesktop.FileManager1", "/org/freedesktop/FileManager1",
+                          &manager);
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("Acmé & 北.zip"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    FolderListingViewer viewer;
+    viewer.reveal(file.fileName());
+    viewer.reveal(folder.filePath("missing"));
+    QTRY_COMPARE(manager.shown.size(), 1);
+    QCOMPARE(QUrl::fromEncoded(manager.shown.first().toLatin1()).toLocalFile(), file.fileName());
+    QVERIFY(viewer.opened.isEmpty());
+  }
 
-void TestWindow::picksByThePortal_data() {
-  QTest::addColumn<uint>("response");
-  QTest::addColumn<bool>("picked");
-  QTest::newRow("picked") << 0u << true;
-  QTest::newRow("cancelled") << 1u << false;
-}
+  void opensTheFolderWithoutAFileManager() {
+    const QTemporaryDir folder;
+    FolderListingViewer viewer;
+    viewer.reveal(folder.path());
+    QTRY_COMPARE(viewer.opened, QStringList(QFileInfo(folder.path()).path()));
+  }
 
-void TestWindow::picksByThePortal() {
-  FakePortal portal;
-  QFETCH(uint, response);
-  portal.response = response;
-  const Service service("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
-                        &portal);
-  Pick pick;
-  pick.start();
-  QTRY_COMPARE(pick.calls, 1);
-  QTEST(pick.color.has_value(), "picked");
-  if (!pick.color) return;
-  QCOMPARE(pick.color->red, 1.0);
-  QCOMPARE(pick.color->green, 0.5);
-  QCOMPARE(pick.color->blue, 0.25);
-}
+  void picksByThePortal() {
+    const Cases<uint, bool> cases{{"picked", 0u, true}, {"cancelled", 1u, false}};
+    cases.check([&](uint response, bool picked) {
+      FakePortal portal;
+      portal.response = response;
+      const Service service("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
+                            &portal);
+      Pick pick;
+      pick.start();
+      QTRY_COMPARE(pick.calls, 1);
+      QCOMPARE(pick.color.has_value(), picked);
+      if (!pick.color) return;
+      QCOMPARE(pick.color->red, 1.0);
+      QCOMPARE(pick.color->green, 0.5);
+      QCOMPARE(pick.color->blue, 0.25);
+    });
+  }
 
-void TestWindow::picksFromTheScreen_data() {
-  QTest::addColumn<QStringList>("gesture");
-  QTest::addColumn<bool>("picked");
-  QTest::newRow("click") << QStringList{"click", "1"} << true;
-  QTest::newRow("Esc") << QStringList{"key", "Escape"} << false;
-  QTest::newRow("other button") << QStringList{"click", "3"} << false;
-}
+  void picksFromTheScreen() {
+    const Cases<QStringList, bool> cases{{"click", QStringList{"click", "1"}, true},
+                                         {"Esc", QStringList{"key", "Escape"}, false},
+                                         {"other button", QStringList{"click", "3"}, false}};
+    cases.check([&](const QStringList& gesture, bool picked) {
+      Plain window;
+      window.setGeometry(100, 100, 200, 200);
+      window.show();
+      QVERIFY(QTest::qWaitForWindowExposed(&window));
+      QTest::qWait(100);
+      const qsizetype before = QGuiApplication::allWindows().size();
+      Pick pick;
+      pick.start();
+      QTRY_VERIFY(QGuiApplication::allWindows().size() > before);
+      QTest::qWait(200);
+      QVERIFY(xdotool(QStringList{"mousemove", "150", "160"} + gesture));
+      QTRY_COMPARE(pick.calls, 1);
+      QCOMPARE(pick.color.has_value(), picked);
+      if (!pick.color) return;
+      QCOMPARE(qRound(pick.color->red * 255), 0xcc);
+      QCOMPARE(qRound(pick.color->green * 255), 0x33);
+      QCOMPARE(qRound(pick.color->blue * 255), 0x11);
+    });
+  }
 
-void TestWindow::picksFromTheScreen() {
-  QFETCH(QStringList, gesture);
-  Plain window;
-  window.setGeometry(100, 100, 200, 200);
-  window.show();
-  QVERIFY(QTest::qWaitForWindowExposed(&window));
-  QTest::qWait(100);
-  const qsizetype before = QGuiApplication::allWindows().size();
-  Pick pick;
-  pick.start();
-  QTRY_VERIFY(QGuiApplication::allWindows().size() > before);
-  QTest::qWait(200);
-  QVERIFY(xdotool(QStringList{"mousemove", "150", "160"} + gesture));
-  QTRY_COMPARE(pick.calls, 1);
-  QTEST(pick.color.has_value(), "picked");
-  if (!pick.color) return;
-  QCOMPARE(qRound(pick.color->red * 255), 0xcc);
-  QCOMPARE(qRound(pick.color->green * 255), 0x33);
-  QCOMPARE(qRound(pick.color->blue * 255), 0x11);
-}
+  void asksByThePortal() {
+    FakeFileChooser chooser;
+    const Service service("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
+                          &chooser);
+    const QTemporaryDir folder;
+    const QString base = "file://" + folder.path();
+    QFile there(folder.filePath("b c.html"));
+    QVERIFY(there.open(QIODevice::WriteOnly));
+    Plain window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    IniPreferences state(folder.filePath("state.ini"));
+    DesktopFileDialogs dialogs(state);
+    const QString parent = "x11:" + QString::number(window.winId(), 16);
 
-void TestWindow::asksByThePortal() {
-  FakeFileChooser chooser;
-  const Service service("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
-                        &chooser);
-  const QTemporaryDir folder;
-  const QString base = "file://" + folder.path();
-  QFile there(folder.filePath("b c.html"));
-  QVERIFY(there.open(QIODevice::WriteOnly));
-  Plain window;
-  window.show();
-  QVERIFY(QTest::qWaitForWindowExposed(&window));
-  IniPreferences state(folder.filePath("state.ini"));
-  DesktopFileDialogs dialogs(state);
-  const QString parent = "x11:" + QString::number(window.winId(), 16);
+    // Without its extension the name is another file's, of which the dialog asks.
+    chooser.answers = {{base + "/b%20c"}, {base + "/new"}};
+    QCOMPARE(dialogs.savePath("A/B", "text/html"), folder.filePath("new.html"));
+    QCOMPARE(chooser.asked, QStringList({parent + " Save A-B", parent + " Save b c.html" +
+                                                                   folder.path() + QChar(u'\0')}));
+    chooser.answers = {{base + "/1.png", base + "/%23.png"}, {}, {base}};
+    QCOMPARE(dialogs.openFiles({"image/*"}),
+             QStringList({folder.filePath("1.png"), folder.filePath("#.png")}));
+    QCOMPARE(dialogs.openFiles({"image/*"}), QStringList());
+    QCOMPARE(dialogs.chooseFolder(), folder.path());
+  }
 
-  // Without its extension the name is another file's, of which the dialog asks.
-  chooser.answers = {{base + "/b%20c"}, {base + "/new"}};
-  QCOMPARE(dialogs.savePath("A/B", "text/html"), folder.filePath("new.html"));
-  QCOMPARE(chooser.asked, QStringList({parent + " Save A-B",
-                                       parent + " Save b c.html" + folder.path() + QChar(u'\0')}));
-  chooser.answers = {{base + "/1.png", base + "/%23.png"}, {}, {base}};
-  QCOMPARE(dialogs.openFiles({"image/*"}),
-           QStringList({folder.filePath("1.png"), folder.filePath("#.png")}));
-  QCOMPARE(dialogs.openFiles({"image/*"}), QStringList());
-  QCOMPARE(dialogs.chooseFolder(), folder.path());
-}
-
-void TestWindow::choosesFilesAndPackages_data() {
-  QTest::addColumn<QString>("name");
-  QTest::addColumn<bool>("chosen");
-  QTest::newRow("archive") << "a.zip" << true;
-  QTest::newRow("package") << "A.tarnloft" << true;
-  QTest::newRow("other folder") << "plain" << false;
-}
-
-void TestWindow::choosesFilesAndPackages() {
-  QFETCH(QString, name);
-  const QTemporaryDir folder;
-  QVERIFY(QDir(folder.path()).mkpath("A.tarnloft") && QDir(folder.path()).mkpath("plain"));
-  QFile file(folder.filePath("a.zip"));
-  QVERIFY(file.open(QIODevice::WriteOnly));
-  Plain window;
-  window.show();
-  QVERIFY(QTest::qWaitForWindowExposed(&window));
-  IniPreferences state(folder.filePath("state.ini"));
-  state.setText("importDialogFolder", folder.path());
-  QTimer user;
-  user.callOnTimeout([&] {
-    auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    if (!dialog) return;
-    user.stop();
-    QCOMPARE(dialog->windowHandle()->transientParent(), &window);
-    QCOMPARE(dialog->directory(), QDir(folder.path()));
-    dialog->findChild<QLineEdit*>()->setText(folder.filePath(name));
-    QTest::keyClick(dialog->findChild<QLineEdit*>(), Qt::Key_Return);
-    QTimer::singleShot(200, dialog, &QDialog::reject);  // one that is still there
-  });
-  user.start(50);
-  const auto path = DesktopFileDialogs(state).openFileOrFolder({"application/zip"}, {"tarnloft"});
-  QTEST(path.has_value(), "chosen");
-  if (path) QCOMPARE(*path, folder.filePath(name));
-}
+  void choosesFilesAndPackages() {
+    const Cases<QString, bool> cases{{"archive", "a.zip", true},
+                                     {"package", "A.tarnloft", true},
+                                     {"other folder", "plain", false}};
+    cases.check([&](const QString& name, bool chosen) {
+      const QTemporaryDir folder;
+      QVERIFY(QDir(folder.path()).mkpath("A.tarnloft") && QDir(folder.path()).mkpath("plain"));
+      QFile file(folder.filePath("a.zip"));
+      QVERIFY(file.open(QIODevice::WriteOnly));
+      Plain window;
+      window.show();
+      QVERIFY(QTest::qWaitForWindowExposed(&window));
+      IniPreferences state(folder.filePath("state.ini"));
+      state.setText("importDialogFolder", folder.path());
+      QTimer user;
+      user.callOnTimeout([&] {
+        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (!dialog) return;
+        user.stop();
+        QCOMPARE(dialog->windowHandle()->transientParent(), &window);
+        QCOMPARE(dialog->directory(), QDir(folder.path()));
+        dialog->findChild<QLineEdit*>()->setText(folder.filePath(name));
+        QTest::keyClick(dialog->findChild<QLineEdit*>(), Qt::Key_Return);
+        QTimer::singleShot(200, dialog, &QDialog::reject);  // one that is still there
+      });
+      user.start(50);
+      const auto path =
+          DesktopFileDialogs(state).openFileOrFolder({"application/zip"}, {"tarnloft"});
+      QCOMPARE(path.has_value(), chosen);
+      if (path) QCOMPARE(*path, folder.filePath(name));
+    });
+  }
+};
 
 QTEST_MAIN(TestWindow)
 #include "tst_window.moc"

@@ -1,6 +1,7 @@
 #include "document/Package.h"
 #include "publish/BrandPageExporter.h"
 #include "publish/PageMarkup.h"
+#include "testing/Cases.h"
 #include "testing/FakeDialogs.h"
 #include "testing/FaultyStore.h"
 #include "testing/RandomBrand.h"
@@ -10,23 +11,6 @@
 
 using namespace tarnloft;
 
-// The page's exact bytes are checked by the independent reading in tests/oracle.
-class TestPage : public QObject {
-  Q_OBJECT
-
- private slots:
-  void theFileHoldsTheSameAsTheText();
-  void dataURLsHoldTheFile_data();
-  void dataURLsHoldTheFile();
-  void anAssetThatFailsMidwayDegradesItsFragment();
-  void aFailedWriteLeavesTheOldPage();
-  void refusesAGradientWithoutCss();
-  void suggestsAFileName_data();
-  void suggestsAFileName();
-  void exportsThroughTheDialog();
-  void mimeTypes();
-};
-
 namespace {
 
 QString str(const char* text) { return QString::fromUtf8(text); }
@@ -35,7 +19,7 @@ struct Page {
   TestServices disk;
   FaultyStore store;
   std::unique_ptr<BrandDocument> document;
-  QString path = disk.path(QStringLiteral("page.html"));
+  QString path = disk.path("page.html");
 
   Page() {
     const DocumentServices services{store, disk.log, [this] { return disk.now; }};
@@ -52,7 +36,7 @@ struct Page {
   }
 };
 
-const AssetRef picture{QStringLiteral("a.PNG"), QStringLiteral("Mark.png")};
+const AssetRef picture{"a.PNG", "Mark.png"};
 
 SharedList<Item> everyUseOfAFile() {
   Item image = Item::create(ImagePayload{picture, {}});
@@ -64,120 +48,113 @@ SharedList<Item> everyUseOfAFile() {
 
 }  // namespace
 
-void TestPage::theFileHoldsTheSameAsTheText() {
-  Page page;
-  RandomBrand random(21);
-  page.addAsset(picture, QByteArray(1'000'000, 'x'));
-  page.document->setBrand(random.brand(3, 40));
-  page.setItems(everyUseOfAFile());
-  QVERIFY(BrandPageExporter::writeFile(*page.document, page.store, page.path));
-  QCOMPARE(contentOf(page.path), BrandPageExporter::html(*page.document).toUtf8());
-  QVERIFY(page.strays().isEmpty());
-}
+// The page's exact bytes are checked by the independent reading in tests/oracle.
+class TestPage : public QObject {
+  Q_OBJECT
 
-void TestPage::dataURLsHoldTheFile_data() {
-  QTest::addColumn<int>("size");
-  for (const int size : {0, 1, 2, 3, 4, 393215, 393216, 393217, 2 * 393216, 1'000'001}) {
-    QTest::addRow("%d", size) << size;
-  }
-}
-
-void TestPage::dataURLsHoldTheFile() {
-  QFETCH(int, size);
-  QByteArray content(size, Qt::Uninitialized);
-  QRandomGenerator random(1);
-  for (char& c : content) c = char(random.generate());
-  Page page;
-  page.addAsset(picture, content);
-  MemorySink sink;
-  QVERIFY(writeDataURL(picture, *page.document, sink));
-  QCOMPARE(sink.bytes(), "data:image/png;base64," + content.toBase64());
-}
-
-void TestPage::anAssetThatFailsMidwayDegradesItsFragment() {
-  Page page;
-  page.setItems(everyUseOfAFile());
-  const QString missing = BrandPageExporter::html(*page.document);
-  QVERIFY(missing.contains(str("<div class=\"asset\"><div class=\"frame\">Reel</div></div>")));
-  QVERIFY(!missing.contains(str("seen")) && !missing.contains(str("Download")));
-  page.addAsset(picture, QByteArray(1000, 'x'));
-  QVERIFY(BrandPageExporter::html(*page.document).contains(str("Download font")));
-  page.store.fault = FaultyStore::Fault::failReads;
-  QCOMPARE(BrandPageExporter::html(*page.document), missing);
-  QVERIFY(BrandPageExporter::writeFile(*page.document, page.store, page.path));
-  QCOMPARE(contentOf(page.path), missing.toUtf8());
-}
-
-void TestPage::aFailedWriteLeavesTheOldPage() {
-  Page page;
-  page.addAsset(picture, QByteArray(3'000'000, 'x'));
-  page.setItems(everyUseOfAFile());
-  page.store.steps = 0;
-  QVERIFY(BrandPageExporter::writeFile(*page.document, page.store, page.path));
-  const int steps = page.store.steps;
-  QVERIFY(writeFile(page.path, "old"));
-  for (int step = 1; step <= steps; ++step) {
-    page.store.fault = FaultyStore::Fault::failStep;
-    page.store.atStep = step;
-    page.store.steps = 0;
-    QVERIFY(!BrandPageExporter::writeFile(*page.document, page.store, page.path));
-    QCOMPARE(contentOf(page.path), QByteArray("old"));
+ private slots:
+  void theFileHoldsTheSameAsTheText() {
+    Page page;
+    RandomBrand random(21);
+    page.addAsset(picture, QByteArray(1'000'000, 'x'));
+    page.document->setBrand(random.brand(3, 40));
+    page.setItems(everyUseOfAFile());
+    QVERIFY(BrandPageExporter::writeFile(*page.document, page.store, page.path));
+    QCOMPARE(contentOf(page.path), BrandPageExporter::html(*page.document).toUtf8());
     QVERIFY(page.strays().isEmpty());
   }
-}
 
-void TestPage::refusesAGradientWithoutCss() {
-  Page page;
-  page.setItems({Item::create(GradientPayload{{{}, 1e300, {}}})});
-  QVERIFY(!BrandPageExporter::writeFile(*page.document, page.store, page.path));
-  page.setItems({Item::create(GradientPayload{{{GradientStop{{}, "#000", -9.3e16}}, 0, {}}})});
-  QVERIFY(!BrandPageExporter::canPublish(page.document->brand()));
-  QVERIFY(!QFile::exists(page.path) && page.strays().isEmpty());
-}
+  void dataURLsHoldTheFile() {
+    QRandomGenerator random(1);
+    for (const int size : {0, 1, 2, 3, 4, 393215, 393216, 393217, 2 * 393216, 1'000'001}) {
+      QByteArray content(size, Qt::Uninitialized);
+      for (char& c : content) c = char(random.generate());
+      Page page;
+      page.addAsset(picture, content);
+      MemorySink sink;
+      QVERIFY(writeDataURL(picture, *page.document, sink));
+      QCOMPARE(sink.bytes(), "data:image/png;base64," + content.toBase64());
+    }
+  }
 
-void TestPage::suggestsAFileName_data() {
-  QTest::addColumn<QString>("name");
-  QTest::addColumn<QString>("file");
-  QTest::newRow("plain") << " Acme\n"
-                         << "Acme Brand Page.html";
-  QTest::newRow("separators") << "a/b:c"
-                              << "a-b-c Brand Page.html";
-  QTest::newRow("blank") << "  "
-                         << "Untitled Brand Brand Page.html";
-}
+  void anAssetThatFailsMidwayDegradesItsFragment() {
+    Page page;
+    page.setItems(everyUseOfAFile());
+    const QString missing = BrandPageExporter::html(*page.document);
+    QVERIFY(missing.contains(str("<div class=\"asset\"><div class=\"frame\">Reel</div></div>")));
+    QVERIFY(!missing.contains(str("seen")) && !missing.contains(str("Download")));
+    page.addAsset(picture, QByteArray(1000, 'x'));
+    QVERIFY(BrandPageExporter::html(*page.document).contains(str("Download font")));
+    page.store.fault = FaultyStore::Fault::failReads;
+    QCOMPARE(BrandPageExporter::html(*page.document), missing);
+    QVERIFY(BrandPageExporter::writeFile(*page.document, page.store, page.path));
+    QCOMPARE(contentOf(page.path), missing.toUtf8());
+  }
 
-void TestPage::suggestsAFileName() {
-  QFETCH(QString, name);
-  QTEST(BrandPageExporter::suggestedFileName(name), "file");
-}
+  void aFailedWriteLeavesTheOldPage() {
+    Page page;
+    page.addAsset(picture, QByteArray(3'000'000, 'x'));
+    page.setItems(everyUseOfAFile());
+    page.store.steps = 0;
+    QVERIFY(BrandPageExporter::writeFile(*page.document, page.store, page.path));
+    const int steps = page.store.steps;
+    QVERIFY(writeFile(page.path, "old"));
+    for (int step = 1; step <= steps; ++step) {
+      page.store.fault = FaultyStore::Fault::failStep;
+      page.store.atStep = step;
+      page.store.steps = 0;
+      QVERIFY(!BrandPageExporter::writeFile(*page.document, page.store, page.path));
+      QCOMPARE(contentOf(page.path), QByteArray("old"));
+      QVERIFY(page.strays().isEmpty());
+    }
+  }
 
-void TestPage::exportsThroughTheDialog() {
-  Page page;
-  ScriptedDialogs dialogs;
-  ListedViewer viewer;
-  const auto exportPage = [&] {
-    bool hasFailed = false;
-    BrandPageExporter::exportPage(*page.document, page.store, dialogs, viewer, immediateDisk(),
-                                  [&](const Error&) { hasFailed = true; });
-    return !hasFailed;
-  };
-  QVERIFY(exportPage());
-  QCOMPARE(dialogs.suggested, str("Acme Brand Page.html"));
-  QCOMPARE(dialogs.mimeType, str("text/html"));
-  QVERIFY(viewer.revealed.isEmpty());
-  dialogs.answer = page.path;
-  QVERIFY(exportPage());
-  QVERIFY(contentOf(page.path).startsWith("<!DOCTYPE html>"));
-  dialogs.answer = page.disk.path(str("no/such/folder.html"));
-  QVERIFY(!exportPage());
-  QCOMPARE(viewer.revealed, QStringList({page.path, *dialogs.answer}));
-}
+  void refusesAGradientWithoutCss() {
+    Page page;
+    page.setItems({Item::create(GradientPayload{{{}, 1e300, {}}})});
+    QVERIFY(!BrandPageExporter::writeFile(*page.document, page.store, page.path));
+    page.setItems({Item::create(GradientPayload{{{GradientStop{{}, "#000", -9.3e16}}, 0, {}}})});
+    QVERIFY(!BrandPageExporter::canPublish(page.document->brand()));
+    QVERIFY(!QFile::exists(page.path) && page.strays().isEmpty());
+  }
 
-void TestPage::mimeTypes() {
-  QCOMPARE(mimeType(str("webm")), QByteArrayView("video/webm"));
-  QCOMPARE(mimeType(str("jpeg")), QByteArrayView("image/jpeg"));
-  QCOMPARE(mimeType(str("PNG")), QByteArrayView("application/octet-stream"));
-}
+  void suggestsAFileName() {
+    const Cases<QString, QString> cases{{"plain", " Acme\n", "Acme Brand Page.html"},
+                                        {"separators", "a/b:c", "a-b-c Brand Page.html"},
+                                        {"blank", "  ", "Untitled Brand Brand Page.html"}};
+    cases.check([&](const QString& name, const QString& file) {
+      QCOMPARE(BrandPageExporter::suggestedFileName(name), file);
+    });
+  }
+
+  void exportsThroughTheDialog() {
+    Page page;
+    ScriptedDialogs dialogs;
+    ListedViewer viewer;
+    const auto exportPage = [&] {
+      bool hasFailed = false;
+      BrandPageExporter::exportPage(*page.document, page.store, dialogs, viewer, immediateDisk(),
+                                    [&](const Error&) { hasFailed = true; });
+      return !hasFailed;
+    };
+    QVERIFY(exportPage());
+    QCOMPARE(dialogs.suggested, str("Acme Brand Page.html"));
+    QCOMPARE(dialogs.mimeType, str("text/html"));
+    QVERIFY(viewer.revealed.isEmpty());
+    dialogs.answer = page.path;
+    QVERIFY(exportPage());
+    QVERIFY(contentOf(page.path).startsWith("<!DOCTYPE html>"));
+    dialogs.answer = page.disk.path(str("no/such/folder.html"));
+    QVERIFY(!exportPage());
+    QCOMPARE(viewer.revealed, QStringList({page.path, *dialogs.answer}));
+  }
+
+  void mimeTypes() {
+    QCOMPARE(mimeType(str("webm")), QByteArrayView("video/webm"));
+    QCOMPARE(mimeType(str("jpeg")), QByteArrayView("image/jpeg"));
+    QCOMPARE(mimeType(str("PNG")), QByteArrayView("application/octet-stream"));
+  }
+};
 
 QTEST_GUILESS_MAIN(TestPage)
 #include "tst_page.moc"

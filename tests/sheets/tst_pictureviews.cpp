@@ -3,15 +3,15 @@
 #include "controls/theme/Theme.h"
 #include "pictures/EmblemView.h"
 #include "pictures/ThumbnailView.h"
+#include "testing/Cases.h"
+#include "testing/FakeMedia.h"
 
 #include <QGuiApplication>
-#include <QMutex>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickView>
 #include <QSignalSpy>
 #include <QTest>
-#include <QWaitCondition>
 #include <QtQml/qqmlextensionplugin.h>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
@@ -19,62 +19,10 @@ Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
 
 using namespace tarnloft;
 
-class TestPictureViews : public QObject {
-  Q_OBJECT
-
- private slots:
-  void init() { QTest::failOnWarning(QRegularExpression(".")); }
-  void asksForThePixelsOfTheScreen_data();
-  void asksForThePixelsOfTheScreen();
-  void showsWhatIsKeptAtOnce();
-  void keepsThePictureWhileAnotherSizeIsMade();
-  void anotherFileShowsNothingOfTheFormer();
-  void aBrokenFileFails();
-  void aViewThatGoesWithdrawsItsRequest();
-  void fitsOrFillsAndCutsCorners();
-  void standsOnWholePixels();
-  void anEmblemsMarkStandsInTheMiddle_data();
-  void anEmblemsMarkStandsInTheMiddle();
-  void anEmblemOfTheGroundsColourHasARim();
-  void anEmblemShowsItsPicture();
-  void aLazyItemExistsWhileItIsWanted();
-};
-
 namespace {
 
-// Pictures of one colour, twice as wide as high; a gate holds them back.
-class GatedImages : public Images {
- public:
-  QList<int> asked;
-  bool isOpen = true;
-
-  std::optional<ImageProperties> properties(const QString&) override { return std::nullopt; }
-  std::optional<QSizeF> vectorSize(const QString&) override { return std::nullopt; }
-  std::optional<QByteArray> convert(const QString&, ExportFormat, QSize, double) override {
-    return std::nullopt;
-  }
-  std::optional<QImage> thumbnail(const QString& path, int maxPixel) override {
-    QMutexLocker lock(&mutex_);
-    asked << maxPixel;
-    while (!isOpen) opened_.wait(&mutex_);
-    if (path == "broken") return std::nullopt;
-    QImage image(maxPixel, maxPixel / 2, QImage::Format_ARGB32_Premultiplied);
-    image.fill(QColor(path));
-    return image;
-  }
-  void open() {
-    const QMutexLocker lock(&mutex_);
-    isOpen = true;
-    opened_.wakeAll();
-  }
-
- private:
-  QMutex mutex_;
-  QWaitCondition opened_;
-};
-
 struct Window {
-  GatedImages images;
+  FakeImages images;
   BackgroundWork work{1};
   ThumbnailLoader loader{images, work};
   Thumbnails thumbnails{loader};
@@ -113,126 +61,6 @@ struct Window {
   QColor shown(int x, int y) { return window.grabWindow().pixelColor(x, y); }
 };
 
-}  // namespace
-
-void TestPictureViews::asksForThePixelsOfTheScreen_data() {
-  QTest::addColumn<QSizeF>("size");
-  QTest::addColumn<int>("pixels");
-  QTest::newRow("in steps of 64") << QSizeF(100, 60) << 128;
-  QTest::newRow("by the longer side") << QSizeF(30, 150) << 192;
-  QTest::newRow("just one") << QSizeF(64, 64) << 64;
-  QTest::newRow("no more than told") << QSizeF(900, 900) << 512;
-}
-
-void TestPictureViews::asksForThePixelsOfTheScreen() {
-  Window test;
-  QFETCH(QSizeF, size);
-  QFETCH(int, pixels);
-  const ThumbnailView* view = test.view("red", size);
-  (void)test.window.grabWindow();
-  QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
-  QCOMPARE(test.images.asked, QList<int>{pixels});
-}
-
-void TestPictureViews::showsWhatIsKeptAtOnce() {
-  Window test;
-  const ThumbnailView* first = test.view("red");
-  (void)test.window.grabWindow();
-  QTRY_COMPARE(first->loadState(), ThumbnailView::LoadState::Loaded);
-  delete first;
-  const ThumbnailView* second = test.view("red");
-  QCOMPARE(test.shown(50, 30), QColor(Qt::red));  // in its first frame
-  QCOMPARE(second->loadState(), ThumbnailView::LoadState::Loaded);
-  QCOMPARE(test.images.asked.size(), 1);
-}
-
-void TestPictureViews::keepsThePictureWhileAnotherSizeIsMade() {
-  Window test;
-  ThumbnailView* view = test.view("red");
-  (void)test.window.grabWindow();
-  QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
-  test.images.isOpen = false;
-  view->setSize({300, 200});
-  QCOMPARE(test.shown(150, 100), QColor(Qt::red));
-  QCOMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
-  QTRY_COMPARE(test.images.asked, (QList<int>{128, 320}));
-}
-
-void TestPictureViews::anotherFileShowsNothingOfTheFormer() {
-  Window test;
-  ThumbnailView* view = test.view("red");
-  (void)test.window.grabWindow();
-  QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
-  test.images.isOpen = false;
-  view->setPath("blue");
-  QCOMPARE(test.shown(50, 30), QColor(Qt::white));
-  QCOMPARE(view->loadState(), ThumbnailView::LoadState::Loading);
-  test.images.open();
-  QTRY_COMPARE(test.shown(50, 30), QColor(Qt::blue));
-}
-
-void TestPictureViews::aBrokenFileFails() {
-  Window test;
-  ThumbnailView* view = test.view("broken");
-  QSignalSpy states(view, &ThumbnailView::loadStateChanged);
-  (void)test.window.grabWindow();
-  QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Failed);
-  view->setPath("red");
-  (void)test.window.grabWindow();
-  QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
-  QCOMPARE(states.count(), 3);
-}
-
-void TestPictureViews::aViewThatGoesWithdrawsItsRequest() {
-  Window test;
-  test.images.isOpen = false;
-  const ThumbnailView* running = test.view("red");
-  const ThumbnailView* waiting = test.view("blue");
-  (void)test.window.grabWindow();
-  QTRY_COMPARE(test.images.asked.size(), 1);
-  delete running;
-  delete waiting;
-  test.images.open();
-  QTest::qWait(50);
-  QCOMPARE(test.images.asked.size(), 1);  // the one that hadn't begun never will
-}
-
-void TestPictureViews::fitsOrFillsAndCutsCorners() {
-  Window test;
-  ThumbnailView* view = test.view("red", {80, 80});
-  (void)test.window.grabWindow();
-  QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
-  QCOMPARE(test.shown(40, 10), QColor(Qt::white));  // twice as wide as high, so it stands between
-  QCOMPARE(test.shown(40, 40), QColor(Qt::red));
-  view->setFillMode(PictureView::Fill);
-  QCOMPARE(test.shown(40, 2), QColor(Qt::red));
-  QCOMPARE(test.shown(1, 1), QColor(Qt::red));
-  view->setRadius(40);
-  QCOMPARE(test.shown(1, 1), QColor(Qt::white));
-  QCOMPARE(test.shown(40, 2), QColor(Qt::red));
-}
-
-void TestPictureViews::standsOnWholePixels() {
-  Window test;
-  ThumbnailView* view = test.view("red");
-  (void)test.window.grabWindow();
-  QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
-  for (const double y : {0.0, 7.4, 7.5, 7.8}) {  // as items do at a scale of 1.25
-    view->setPosition({3.3, y});
-    const QImage shown = test.window.grabWindow();
-    int red = 0, white = 0;
-    for (int row = 0; row < 100; ++row) {
-      const QColor color = shown.pixelColor(50, row);
-      red += color == QColor(Qt::red);
-      white += color == QColor(Qt::white);
-    }
-    QCOMPARE(red, 50);
-    QCOMPARE(white, 50);
-  }
-}
-
-namespace {
-
 // Around the pixels of a 64 by 64 picture that are nearly of that colour.
 QRect boundsOf(const QImage& image, const QColor& color) {
   QRect bounds;
@@ -248,68 +76,182 @@ QRect boundsOf(const QImage& image, const QColor& color) {
 
 }  // namespace
 
-void TestPictureViews::anEmblemsMarkStandsInTheMiddle_data() {
-  QTest::addColumn<EmblemLook>("look");
-  QTest::addColumn<int>("least");  // points that the mark is wide and high
-  using enum EmblemStyle::Ground;
-  using enum EmblemStyle::Mark;
-  using EmblemStyle::Ink;
-  QTest::newRow("letter") << EmblemLook{Filled, Qt::blue, Monogram, "H", Ink::White} << 16;
-  QTest::newRow("symbol") << EmblemLook{Filled, Qt::blue, Symbol, "plus", Ink::White} << 20;
-  QTest::newRow("bare symbol") << EmblemLook{Filled, Qt::blue, Bare, "plus", Ink::White} << 30;
-  QTest::newRow("emoji") << EmblemLook{Filled, Qt::blue, Emoji, "🟥", Ink::Primary} << 24;
-}
+class TestPictureViews : public QObject {
+  Q_OBJECT
 
-void TestPictureViews::anEmblemsMarkStandsInTheMiddle() {
-  Window test;
-  QFETCH(EmblemLook, look);
-  QFETCH(int, least);
-  (void)test.emblem(look);
-  const QImage shown = test.window.grabWindow();
-  QCOMPARE(shown.pixelColor(1, 1), QColor(Qt::white));
-  QCOMPARE(shown.pixelColor(32, 1), QColor(Qt::blue));
-  QCOMPARE(boundsOf(shown, Qt::blue), QRect(0, 0, 64, 64));
-  QImage mark = shown.copy(10, 10, 44, 44);  // without the window around the circle
-  mark = mark.copy(-10, -10, 64, 64);
-  const QRect bounds = boundsOf(mark, shown.pixelColor(32, 32));
-  QVERIFY(bounds.width() >= least && bounds.height() >= least);
-  QVERIFY(bounds.width() < 44 && bounds.height() < 44);
-  const QPointF off = QRectF(bounds).center() - QPointF(32, 32);
-  QVERIFY2(std::abs(off.x()) <= 1.5 && std::abs(off.y()) <= 2.5,
-           qPrintable(QStringLiteral("%1, %2").arg(off.x()).arg(off.y())));
-}
+ private slots:
+  void init() { QTest::failOnWarning(QRegularExpression(".")); }
 
-void TestPictureViews::anEmblemOfTheGroundsColourHasARim() {
-  for (const bool dark : {false, true}) {
+  void asksForThePixelsOfTheScreen() {
+    const Cases<QSizeF, int> cases{{"in steps of 64", QSizeF(100, 60), 128},
+                                   {"by the longer side", QSizeF(30, 150), 192},
+                                   {"just one", QSizeF(64, 64), 64},
+                                   {"no more than told", QSizeF(900, 900), 512}};
+    cases.check([&](const QSizeF& size, int pixels) {
+      Window test;
+      const ThumbnailView* view = test.view("red", size);
+      (void)test.window.grabWindow();
+      QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
+      QCOMPARE(test.images.begun(), QStringList(QString("red %1").arg(pixels)));
+    });
+  }
+
+  void showsWhatIsKeptAtOnce() {
     Window test;
-    Theme& theme = Theme::of(*test.window.engine());
-    theme.setDark(dark);
+    const ThumbnailView* first = test.view("red");
+    (void)test.window.grabWindow();
+    QTRY_COMPARE(first->loadState(), ThumbnailView::LoadState::Loaded);
+    delete first;
+    const ThumbnailView* second = test.view("red");
+    QCOMPARE(test.shown(50, 30), QColor(Qt::red));  // in its first frame
+    QCOMPARE(second->loadState(), ThumbnailView::LoadState::Loaded);
+    QCOMPARE(test.images.begun().size(), 1);
+  }
+
+  void keepsThePictureWhileAnotherSizeIsMade() {
+    Window test;
+    ThumbnailView* view = test.view("red");
+    (void)test.window.grabWindow();
+    QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
+    test.images.close();
+    view->setSize({300, 200});
+    QCOMPARE(test.shown(150, 100), QColor(Qt::red));
+    QCOMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
+    QTRY_COMPARE(test.images.begun(), QStringList({"red 128", "red 320"}));
+  }
+
+  void anotherFileShowsNothingOfTheFormer() {
+    Window test;
+    ThumbnailView* view = test.view("red");
+    (void)test.window.grabWindow();
+    QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
+    test.images.close();
+    view->setPath("blue");
+    QCOMPARE(test.shown(50, 30), QColor(Qt::white));
+    QCOMPARE(view->loadState(), ThumbnailView::LoadState::Loading);
+    test.images.open();
+    QTRY_COMPARE(test.shown(50, 30), QColor(Qt::blue));
+  }
+
+  void aBrokenFileFails() {
+    Window test;
+    ThumbnailView* view = test.view("broken");
+    QSignalSpy states(view, &ThumbnailView::loadStateChanged);
+    (void)test.window.grabWindow();
+    QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Failed);
+    view->setPath("red");
+    (void)test.window.grabWindow();
+    QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
+    QCOMPARE(states.count(), 3);
+  }
+
+  void aViewThatGoesWithdrawsItsRequest() {
+    Window test;
+    test.images.close();
+    const ThumbnailView* running = test.view("red");
+    const ThumbnailView* waiting = test.view("blue");
+    (void)test.window.grabWindow();
+    QTRY_COMPARE(test.images.begun().size(), 1);
+    delete running;
+    delete waiting;
+    test.images.open();
+    QTest::qWait(50);
+    QCOMPARE(test.images.begun().size(), 1);  // the one that hadn't begun never will
+  }
+
+  void fitsOrFillsAndCutsCorners() {
+    Window test;
+    ThumbnailView* view = test.view("red", {80, 80});
+    (void)test.window.grabWindow();
+    QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
+    QCOMPARE(test.shown(40, 10), QColor(Qt::white));  // twice as wide as high, so it stands between
+    QCOMPARE(test.shown(40, 40), QColor(Qt::red));
+    view->setFillMode(PictureView::Fill);
+    QCOMPARE(test.shown(40, 2), QColor(Qt::red));
+    QCOMPARE(test.shown(1, 1), QColor(Qt::red));
+    view->setRadius(40);
+    QCOMPARE(test.shown(1, 1), QColor(Qt::white));
+    QCOMPARE(test.shown(40, 2), QColor(Qt::red));
+  }
+
+  void standsOnWholePixels() {
+    Window test;
+    ThumbnailView* view = test.view("red");
+    (void)test.window.grabWindow();
+    QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
+    for (const double y : {0.0, 7.4, 7.5, 7.8}) {  // as items do at a scale of 1.25
+      view->setPosition({3.3, y});
+      const QImage shown = test.window.grabWindow();
+      int red = 0, white = 0;
+      for (int row = 0; row < 100; ++row) {
+        const QColor color = shown.pixelColor(50, row);
+        red += color == QColor(Qt::red);
+        white += color == QColor(Qt::white);
+      }
+      QCOMPARE(red, 50);
+      QCOMPARE(white, 50);
+    }
+  }
+
+  void anEmblemsMarkStandsInTheMiddle() {
     using enum EmblemStyle::Ground;
     using enum EmblemStyle::Mark;
-    const QColor ground = theme.palette().windowBackground;
-    (void)test.emblem({Filled, ground, NoMark, {}, {}});
-    QCOMPARE(test.shown(32, 32), ground);
-    QVERIFY(contrastRatio(test.shown(32, 0), ground) > 1.3);
+    using EmblemStyle::Ink;
+    // points that the mark is wide and high: least
+    const Cases<EmblemLook, int> cases{
+        {"letter", EmblemLook{Filled, Qt::blue, Monogram, "H", Ink::White}, 16},
+        {"symbol", EmblemLook{Filled, Qt::blue, Symbol, "plus", Ink::White}, 20},
+        {"bare symbol", EmblemLook{Filled, Qt::blue, Bare, "plus", Ink::White}, 30},
+        {"emoji", EmblemLook{Filled, Qt::blue, Emoji, "🟥", Ink::Primary}, 24}};
+    cases.check([&](const EmblemLook& look, int least) {
+      Window test;
+      (void)test.emblem(look);
+      const QImage shown = test.window.grabWindow();
+      QCOMPARE(shown.pixelColor(1, 1), QColor(Qt::white));
+      QCOMPARE(shown.pixelColor(32, 1), QColor(Qt::blue));
+      QCOMPARE(boundsOf(shown, Qt::blue), QRect(0, 0, 64, 64));
+      QImage mark = shown.copy(10, 10, 44, 44);  // without the window around the circle
+      mark = mark.copy(-10, -10, 64, 64);
+      const QRect bounds = boundsOf(mark, shown.pixelColor(32, 32));
+      QVERIFY(bounds.width() >= least && bounds.height() >= least);
+      QVERIFY(bounds.width() < 44 && bounds.height() < 44);
+      const QPointF off = QRectF(bounds).center() - QPointF(32, 32);
+      QVERIFY2(std::abs(off.x()) <= 1.5 && std::abs(off.y()) <= 2.5,
+               qPrintable(QString("%1, %2").arg(off.x()).arg(off.y())));
+    });
   }
-}
 
-void TestPictureViews::anEmblemShowsItsPicture() {
-  Window test;
-  using enum EmblemStyle::Ground;
-  using enum EmblemStyle::Mark;
-  EmblemView* emblem = test.emblem({Filled, Qt::blue, Picture, "red", {}});
-  QCOMPARE(test.shown(32, 32), QColor(Qt::blue));
-  QTRY_COMPARE(test.shown(32, 32), QColor(Qt::red));
-  QCOMPARE(test.shown(2, 2), QColor(Qt::white));
-  QCOMPARE(test.images.asked, QList<int>{64});
-  emblem->setLook({Filled, Qt::green, NoMark, {}, {}});
-  QCOMPARE(test.shown(32, 32), QColor(Qt::green));
-}
+  void anEmblemOfTheGroundsColourHasARim() {
+    for (const bool dark : {false, true}) {
+      Window test;
+      Theme& theme = Theme::of(*test.window.engine());
+      theme.setDark(dark);
+      using enum EmblemStyle::Ground;
+      using enum EmblemStyle::Mark;
+      const QColor ground = theme.palette().windowBackground;
+      (void)test.emblem({Filled, ground, NoMark, {}, {}});
+      QCOMPARE(test.shown(32, 32), ground);
+      QVERIFY(contrastRatio(test.shown(32, 0), ground) > 1.3);
+    }
+  }
 
-void TestPictureViews::aLazyItemExistsWhileItIsWanted() {
-  QQmlEngine engine;
-  QQmlComponent component(&engine);
-  component.setData(R"(
+  void anEmblemShowsItsPicture() {
+    Window test;
+    using enum EmblemStyle::Ground;
+    using enum EmblemStyle::Mark;
+    EmblemView* emblem = test.emblem({Filled, Qt::blue, Picture, "red", {}});
+    QCOMPARE(test.shown(32, 32), QColor(Qt::blue));
+    QTRY_COMPARE(test.shown(32, 32), QColor(Qt::red));
+    QCOMPARE(test.shown(2, 2), QColor(Qt::white));
+    QCOMPARE(test.images.begun(), QStringList("red 64"));
+    emblem->setLook({Filled, Qt::green, NoMark, {}, {}});
+    QCOMPARE(test.shown(32, 32), QColor(Qt::green));
+  }
+
+  void aLazyItemExistsWhileItIsWanted() {
+    QQmlEngine engine;
+    QQmlComponent component(&engine);
+    component.setData(R"(
     pragma ComponentBehavior: Bound
     import QtQuick
     import TarnLoft.Controls
@@ -324,22 +266,23 @@ void TestPictureViews::aLazyItemExistsWhileItIsWanted() {
       LazyItem { id: held; active: root.wanted; width: 90; height: 70
                  sourceComponent: Rectangle { width: 30; height: 20 } }
     })",
-                    QUrl("qrc:/test.qml"));
-  const std::unique_ptr<QObject> root(component.create());
-  QVERIFY2(root, qPrintable(component.errorString()));
-  const auto* free = root->property("free").value<LazyItem*>();
-  const auto* held = root->property("held").value<LazyItem*>();
-  QVERIFY(!free->item() && !held->item());
-  root->setProperty("wanted", true);
-  QCOMPARE(free->size(), QSizeF(30, 20));
-  QCOMPARE(held->item()->size(), QSizeF(90, 70));
-  QCOMPARE(free->item()->property("color").value<QColor>(), QColor(Qt::red));
-  const QPointer<QQuickItem> item = free->item();
-  root->setProperty("wanted", false);
-  QVERIFY(!free->item());
-  QCOMPARE(free->size(), QSizeF(0, 0));
-  QTRY_VERIFY(!item);
-}
+                      QUrl("qrc:/test.qml"));
+    const std::unique_ptr<QObject> root(component.create());
+    QVERIFY2(root, qPrintable(component.errorString()));
+    const auto* free = root->property("free").value<LazyItem*>();
+    const auto* held = root->property("held").value<LazyItem*>();
+    QVERIFY(!free->item() && !held->item());
+    root->setProperty("wanted", true);
+    QCOMPARE(free->size(), QSizeF(30, 20));
+    QCOMPARE(held->item()->size(), QSizeF(90, 70));
+    QCOMPARE(free->item()->property("color").value<QColor>(), QColor(Qt::red));
+    const QPointer<QQuickItem> item = free->item();
+    root->setProperty("wanted", false);
+    QVERIFY(!free->item());
+    QCOMPARE(free->size(), QSizeF(0, 0));
+    QTRY_VERIFY(!item);
+  }
+};
 
 int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -347,4 +290,5 @@ int main(int argc, char** argv) {
   TestPictureViews test;
   return QTest::qExec(&test, argc, argv);
 }
+
 #include "tst_pictureviews.moc"

@@ -1,5 +1,6 @@
 #include "controls/theme/Typography.h"
 #include "shell/TestViews.h"
+#include "testing/Cases.h"
 
 #include <QRegularExpression>
 #include <QSignalSpy>
@@ -12,30 +13,10 @@ Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 using namespace tarnloft;
 
-// What the window tells and asks when something has failed.
-class TestAlerts : public QObject {
-  Q_OBJECT
-
- private slots:
-  void initTestCase();
-  void init() { QTest::failOnWarning(QRegularExpression("qrc:|QML|Binding")); }
-  void aBarTellsOfUnsavedChanges();
-  void aBarTellsOfALibraryThatHasGone();
-  void aLibraryThatCannotBeReadIsNotEmpty();
-  void aSlowDiskIsNoEmptyLibrary();
-  void noticesFollowEachOther();
-  void aFailedPageExportIsTold();
-  void asksWhatToDoWithoutATrash_data();
-  void asksWhatToDoWithoutATrash();
-  void asksBeforeItQuits_data();
-  void asksBeforeItQuits();
-  void theQuestionGoesWithItsReason();
-};
-
 namespace {
 
 struct Alarmed : Views {
-  const QString reason = QStringLiteral("Something other than a file is there");
+  const QString reason = "Something other than a file is there";
   const QString manifest = Package::manifestPath(library.packagePath("Acme"));
 
   void start() {
@@ -63,7 +44,7 @@ struct Alarmed : Views {
   QString rowDescription(const QString& brand) const {
     QQuickItem* const row = item(QAccessible::ListItem, brand);
     QAccessibleInterface* const known = QAccessible::queryAccessibleInterface(row);
-    return known ? known->text(QAccessible::Description) : QStringLiteral("no row");
+    return known ? known->text(QAccessible::Description) : "no row";
   }
   bool shows(const QString& text) const { return item(QAccessible::StaticText, text); }
   // Gives an answer to the dialog of that title.
@@ -101,172 +82,168 @@ constexpr auto alert = QAccessible::AlertMessage;
 
 }  // namespace
 
-void TestAlerts::initTestCase() {
-  prepareTypography();
-  QAccessible::setActive(true);
-}
+// What the window tells and asks when something has failed.
+class TestAlerts : public QObject {
+  Q_OBJECT
 
-void TestAlerts::aBarTellsOfUnsavedChanges() {
-  Alarmed views;
-  views.start();
-  QCOMPARE(views.rowDescription("Acme"), QString());
-  views.failToSave();
-  const QString text = "Changes aren't saved: " + views.reason;
-  QTRY_VERIFY(views.item(alert, text));
-  QTRY_COMPARE(views.rowDescription("Acme"), QStringLiteral("Changes aren't saved"));
+ private slots:
+  void init() { QTest::failOnWarning(QRegularExpression("qrc:|QML|Binding")); }
 
-  // Its buttons come before the page's.
-  views.item(button, "New Brand")->forceActiveFocus(Qt::TabFocusReason);
-  for (const char* name : {"Try Again", "Save a Copy…", "Section name"}) {
-    views.press(Qt::Key_Tab);
-    QCOMPARE(views.focused(), QString(name));
+  void initTestCase() {
+    prepareTypography();
+    QAccessible::setActive(true);
   }
-  views.press(Qt::Key_Tab, Qt::ShiftModifier);
-  views.press(Qt::Key_Tab, Qt::ShiftModifier);
-  views.press(Qt::Key_Space);
-  QVERIFY(views.item(alert, text));
 
-  views.unblock();
-  views.press(Qt::Key_Space);
-  QTRY_VERIFY(!views.item(alert, text));
-  QTRY_VERIFY(!views.item(button, "Try Again"));
-  QCOMPARE(views.focused(), QStringLiteral("Section name"));
-  QTRY_COMPARE(views.rowDescription("Birch"), QString());
-  QVERIFY(contentOf(views.manifest).contains("Birch"));
-}
+  void aBarTellsOfUnsavedChanges() {
+    Alarmed views;
+    views.start();
+    QCOMPARE(views.rowDescription("Acme"), QString());
+    views.failToSave();
+    const QString text = "Changes aren't saved: " + views.reason;
+    QTRY_VERIFY(views.item(alert, text));
+    QTRY_COMPARE(views.rowDescription("Acme"), "Changes aren't saved");
 
-void TestAlerts::aBarTellsOfALibraryThatHasGone() {
-  Alarmed views;
-  views.start();
-  const QString& folder = views.library.folder;
-  QVERIFY(QDir().rename(folder, folder + " away"));
-  views.library.store->scan();
-  const QString text = QStringLiteral("“%1” isn't there just now.").arg(folder);
-  QTRY_VERIFY(views.item(alert, text));
-  QVERIFY(views.item(row, "Acme"));
-  QVERIFY(QDir().rename(folder + " away", folder));
-  QTRY_VERIFY(views.item(button, "Try Again"));
-  views.click(views.item(button, "Try Again"));
-  QTRY_VERIFY(!views.item(alert, text));
-}
+    // Its buttons come before the page's.
+    views.item(button, "New Brand")->forceActiveFocus(Qt::TabFocusReason);
+    for (const char* name : {"Try Again", "Save a Copy…", "Section name"}) {
+      views.press(Qt::Key_Tab);
+      QCOMPARE(views.focused(), QString(name));
+    }
+    views.press(Qt::Key_Tab, Qt::ShiftModifier);
+    views.press(Qt::Key_Tab, Qt::ShiftModifier);
+    views.press(Qt::Key_Space);
+    QVERIFY(views.item(alert, text));
 
-void TestAlerts::aLibraryThatCannotBeReadIsNotEmpty() {
-  Views views;
-  writeFile(views.library.folder, "a file");
-  views.start();
-  QTRY_VERIFY(views.item(QAccessible::StaticText, "The library can't be opened"));
-  QVERIFY(!views.item(QAccessible::StaticText, "Welcome to Tarn Loft"));
-  QFile::remove(views.library.folder);
-  views.library.add("Acme");
-  views.click(views.item(button, "Try Again"));
-  QTRY_VERIFY(views.item(row, "Acme"));
-  QTRY_VERIFY(!views.item(QAccessible::StaticText, "The library can't be opened"));
-}
-
-void TestAlerts::aSlowDiskIsNoEmptyLibrary() {
-  HeldDisk disk;
-  Alarmed views;
-  views.library.add("Beta");
-  views.library.work = &disk;
-  views.start();
-  QVERIFY(!views.shows("Welcome to Tarn Loft"));
-  QTRY_VERIFY(views.shows("The library can't be opened"));  // after a while
-  disk.release();
-  QTRY_VERIFY(views.item(row, "Acme"));
-  QTRY_VERIFY(!views.shows("The library can't be opened"));
-
-  disk.isHeld = true;
-  views.click(views.item(row, "Beta"));
-  QTRY_VERIFY(views.shows("Opening…"));
-  QVERIFY(!views.item(QAccessible::Heading, "Acme"));
-  disk.release();
-  QTRY_VERIFY(views.item(QAccessible::Heading, "Beta"));
-  QTRY_VERIFY(!views.shows("Opening…"));
-}
-
-void TestAlerts::noticesFollowEachOther() {
-  Alarmed views;
-  views.start();
-  views.library.store->tell("One", "the reason");
-  views.library.store->tell("Two", "The reason.");
-  QTRY_VERIFY(views.shows("the reason."));
-  views.answer("One", "Return");
-  QTRY_VERIFY(views.shows("The reason."));
-  QVERIFY(!views.item(dialog, "One"));
-  views.answer("Two", "OK");
-  QTRY_VERIFY(!views.item(dialog, "Two"));
-}
-
-void TestAlerts::aFailedPageExportIsTold() {
-  Alarmed views;
-  views.start();
-  views.library.dialogs.answer = views.library.disk.path("no/such/folder.html");
-  views.library.store->exportOpenBrandPage();
-  QTRY_VERIFY(views.item(dialog, "The brand page couldn't be exported"));
-  QVERIFY(views.shows("No such file or directory."));
-}
-
-void TestAlerts::asksWhatToDoWithoutATrash_data() {
-  QTest::addColumn<QStringList>("answers");
-  QTest::addColumn<qsizetype>("left");
-  QTest::newRow("kept") << QStringList{"Cancel"} << qsizetype(1);
-  QTest::newRow("kept after all") << QStringList{"Delete Immediately…", "Cancel"} << qsizetype(1);
-  QTest::newRow("return alone") << QStringList{"Return", "Return"} << qsizetype(1);
-  QTest::newRow("deleted") << QStringList{"Delete Immediately…", "Delete"} << qsizetype(0);
-}
-
-void TestAlerts::asksWhatToDoWithoutATrash() {
-  QFETCH(QStringList, answers);
-  Alarmed views;
-  views.library.trash.works = false;
-  views.start();
-  views.click(views.item(row, "Acme"));
-  views.press(Qt::Key_Delete);
-  views.answer("Move “Acme” to the Trash?", "Return");
-  QTRY_VERIFY(views.shows("no trash. The brand stays in the library."));
-  views.answer("“Acme” can't be moved to the Trash", answers.takeFirst());
-  if (!answers.isEmpty()) views.answer("Delete “Acme” immediately?", answers.takeFirst());
-  QTRY_VERIFY(!views.item(dialog, "Delete “Acme” immediately?"));
-  QTRY_VERIFY(!views.item(dialog, "“Acme” can't be moved to the Trash"));
-  QTEST(views.library.names().size(), "left");
-  QCOMPARE(QFile::exists(views.manifest), !views.library.names().isEmpty());
-}
-
-void TestAlerts::asksBeforeItQuits_data() {
-  QTest::addColumn<QString>("answer");
-  QTest::addColumn<int>("quits");
-  QTest::newRow("return") << "Return" << 0;
-  QTest::newRow("cancelled") << "Cancel" << 0;
-  QTest::newRow("tried again") << "Try Again" << 0;
-  QTest::newRow("quit") << "Quit Anyway" << 1;
-}
-
-void TestAlerts::asksBeforeItQuits() {
-  QFETCH(QString, answer);
-  Alarmed views;
-  views.start();
-  views.failToSave();
-  QSignalSpy quits(views.main->alerts(), &Alerts::quitConfirmed);
-  const QString title = "Changes to “Birch” aren't saved";
-  for (const int times : {1, 2}) {
-    views.main->alerts()->askToQuit();
-    views.answer(title, answer);
-    QTRY_VERIFY(!views.item(dialog, title));
-    QTEST(int(quits.size()) / times, "quits");
+    views.unblock();
+    views.press(Qt::Key_Space);
+    QTRY_VERIFY(!views.item(alert, text));
+    QTRY_VERIFY(!views.item(button, "Try Again"));
+    QCOMPARE(views.focused(), "Section name");
+    QTRY_COMPARE(views.rowDescription("Birch"), QString());
+    QVERIFY(contentOf(views.manifest).contains("Birch"));
   }
-}
 
-void TestAlerts::theQuestionGoesWithItsReason() {
-  Alarmed views;
-  views.start();
-  views.failToSave();
-  views.main->alerts()->askToQuit();
-  const QString title = "Changes to “Birch” aren't saved";
-  QTRY_VERIFY(views.item(dialog, title));
-  views.unblock();
-  views.library.store->retrySaves();
-  QTRY_VERIFY(!views.item(dialog, title));
-}
+  void aBarTellsOfALibraryThatHasGone() {
+    Alarmed views;
+    views.start();
+    const QString& folder = views.library.folder;
+    QVERIFY(QDir().rename(folder, folder + " away"));
+    views.library.store->scan();
+    const QString text = QString("“%1” isn't there just now.").arg(folder);
+    QTRY_VERIFY(views.item(alert, text));
+    QVERIFY(views.item(row, "Acme"));
+    QVERIFY(QDir().rename(folder + " away", folder));
+    QTRY_VERIFY(views.item(button, "Try Again"));
+    views.click(views.item(button, "Try Again"));
+    QTRY_VERIFY(!views.item(alert, text));
+  }
+
+  void aLibraryThatCannotBeReadIsNotEmpty() {
+    Views views;
+    writeFile(views.library.folder, "a file");
+    views.start();
+    QTRY_VERIFY(views.item(QAccessible::StaticText, "The library can't be opened"));
+    QVERIFY(!views.item(QAccessible::StaticText, "Welcome to Tarn Loft"));
+    QFile::remove(views.library.folder);
+    views.library.add("Acme");
+    views.click(views.item(button, "Try Again"));
+    QTRY_VERIFY(views.item(row, "Acme"));
+    QTRY_VERIFY(!views.item(QAccessible::StaticText, "The library can't be opened"));
+  }
+
+  void aSlowDiskIsNoEmptyLibrary() {
+    HeldDisk disk;
+    Alarmed views;
+    views.library.add("Beta");
+    views.library.work = &disk;
+    views.start();
+    QVERIFY(!views.shows("Welcome to Tarn Loft"));
+    QTRY_VERIFY(views.shows("The library can't be opened"));  // after a while
+    disk.release();
+    QTRY_VERIFY(views.item(row, "Acme"));
+    QTRY_VERIFY(!views.shows("The library can't be opened"));
+
+    disk.isHeld = true;
+    views.click(views.item(row, "Beta"));
+    QTRY_VERIFY(views.shows("Opening…"));
+    QVERIFY(!views.item(QAccessible::Heading, "Acme"));
+    disk.release();
+    QTRY_VERIFY(views.item(QAccessible::Heading, "Beta"));
+    QTRY_VERIFY(!views.shows("Opening…"));
+  }
+
+  void noticesFollowEachOther() {
+    Alarmed views;
+    views.start();
+    views.library.store->tell("One", "the reason");
+    views.library.store->tell("Two", "The reason.");
+    QTRY_VERIFY(views.shows("the reason."));
+    views.answer("One", "Return");
+    QTRY_VERIFY(views.shows("The reason."));
+    QVERIFY(!views.item(dialog, "One"));
+    views.answer("Two", "OK");
+    QTRY_VERIFY(!views.item(dialog, "Two"));
+  }
+
+  void aFailedPageExportIsTold() {
+    Alarmed views;
+    views.start();
+    views.library.dialogs.answer = views.library.disk.path("no/such/folder.html");
+    views.library.store->exportOpenBrandPage();
+    QTRY_VERIFY(views.item(dialog, "The brand page couldn't be exported"));
+    QVERIFY(views.shows("No such file or directory."));
+  }
+
+  void asksWhatToDoWithoutATrash() {
+    const Cases<QStringList, qsizetype> cases{
+        {"kept", QStringList{"Cancel"}, qsizetype(1)},
+        {"kept after all", QStringList{"Delete Immediately…", "Cancel"}, qsizetype(1)},
+        {"return alone", QStringList{"Return", "Return"}, qsizetype(1)},
+        {"deleted", QStringList{"Delete Immediately…", "Delete"}, qsizetype(0)}};
+    cases.check([&](const QStringList& answers, qsizetype left) {
+      Alarmed views;
+      views.library.trash.works = false;
+      views.start();
+      views.click(views.item(row, "Acme"));
+      views.press(Qt::Key_Delete);
+      views.answer("Move “Acme” to the Trash?", "Return");
+      QTRY_VERIFY(views.shows("no trash. The brand stays in the library."));
+      views.answer("“Acme” can't be moved to the Trash", answers.takeFirst());
+      if (!answers.isEmpty()) views.answer("Delete “Acme” immediately?", answers.takeFirst());
+      QTRY_VERIFY(!views.item(dialog, "Delete “Acme” immediately?"));
+      QTRY_VERIFY(!views.item(dialog, "“Acme” can't be moved to the Trash"));
+      QCOMPARE(views.library.names().size(), left);
+      QCOMPARE(QFile::exists(views.manifest), !views.library.names().isEmpty());
+    });
+  }
+
+  void asksBeforeItQuits() {
+    const Cases<QString, int> cases{{"return", "Return", 0},
+                                    {"cancelled", "Cancel", 0},
+                                    {"tried again", "Try Again", 0},
+                                    {"quit", "Quit Anyway", 1}};
+    cases.check([&](const QString& reply, int quitsEach) {
+      Alarmed views;
+      views.start();
+      views.failToSave();
+      QSignalSpy quits(views.main->alerts(), &Alerts::quitConfirmed);
+      const QString title = "Changes to “Birch” aren't saved";
+      for (const int times : {1, 2}) {
+        views.main->alerts()->askToQuit();
+        views.answer(title, reply);
+        QTRY_VERIFY(!views.item(dialog, title));
+        QCOMPARE(int(quits.size()), times * quitsEach);
+      }
+      if (quitsEach > 0) return;
+      // The question goes with its reason.
+      views.main->alerts()->askToQuit();
+      QTRY_VERIFY(views.item(dialog, title));
+      views.unblock();
+      views.library.store->retrySaves();
+      QTRY_VERIFY(!views.item(dialog, title));
+    });
+  }
+};
 
 QTEST_MAIN(TestAlerts)
 #include "tst_alerts.moc"

@@ -8,24 +8,6 @@
 
 using namespace tarnloft;
 
-class TestContent : public QObject {
-  Q_OBJECT
-
- private slots:
-  void showsWhatTheLibraryHolds();
-  void answersTheRequestForANewBrand();
-  void keepsTheTextOfTheNewBrandSheet();
-  void eachDocumentGetsOneWorkspace();
-  void registersFontsAndKeepsAFirstVersion();
-  void answersARequestToScroll();
-  void tellsToastsInTheDesktopsWords();
-  void aNewBrandClearsTheTilesSelection();
-  void undoneStepsGoWithTheirDocument();
-  void picksColorsUndoably();
-  void exportsTheOpenBrandsPage();
-  void tintsWithTheAccentInForce();
-};
-
 namespace {
 
 struct ContentTest : TestShell {
@@ -41,177 +23,161 @@ struct ContentTest : TestShell {
 
 }  // namespace
 
-void TestContent::showsWhatTheLibraryHolds() {
-  ContentTest test;
-  ContentModel& content = test.start();
-  QCOMPARE(content.detail(), ContentModel::Detail::welcome);
-  QCOMPARE(content.title(), QStringLiteral("Tarn Loft"));
-  QVERIFY(!content.commands()->hasSelection());
+class TestContent : public QObject {
+  Q_OBJECT
 
-  QSignalSpy detail(&content, &ContentModel::detailChanged);
-  QSignalSpy selection(content.commands(), &ShellCommands::hasSelectionChanged);
-  content.createBrand("Acme");
-  QVERIFY(!detail.isEmpty());
-  QVERIFY(!selection.isEmpty());
-  QCOMPARE(content.detail(), ContentModel::Detail::brand);
-  QCOMPARE(content.title(), QStringLiteral("Acme — Tarn Loft"));
-  QVERIFY(content.commands()->hasSelection());
+ private slots:
+  void showsWhatTheLibraryHolds() {
+    ContentTest test;
+    ContentModel& content = test.start();
+    QCOMPARE(content.detail(), ContentModel::Detail::welcome);
+    QCOMPARE(content.title(), "Tarn Loft");
+    QVERIFY(!content.commands()->hasSelection());
 
-  // Selected, but it can't be read.
-  writeFile(test.library.packagePath("Broken") + "/manifest.json", "{");
-  test.library.store->scan();
-  test.library.store->select(test.library.packagePath("Broken"));
-  QCOMPARE(content.detail(), ContentModel::Detail::noSelection);
-  QVERIFY(content.commands()->hasSelection());
-}
+    QSignalSpy detail(&content, &ContentModel::detailChanged);
+    QSignalSpy selection(content.commands(), &ShellCommands::hasSelectionChanged);
+    content.createBrand("Acme");
+    QVERIFY(!detail.isEmpty());
+    QVERIFY(!selection.isEmpty());
+    QCOMPARE(content.detail(), ContentModel::Detail::brand);
+    QCOMPARE(content.title(), "Acme — Tarn Loft");
+    QVERIFY(content.commands()->hasSelection());
 
-void TestContent::answersTheRequestForANewBrand() {
-  ContentTest test;
-  ContentModel& content = test.start();
-  QVERIFY(!content.showsNewBrand());
-  content.commands()->newBrand();
-  QVERIFY(content.showsNewBrand());
-  QVERIFY(!test.library.store->newBrandRequested());
+    // Selected, but it can't be read.
+    writeFile(test.library.packagePath("Broken") + "/manifest.json", "{");
+    test.library.store->scan();
+    test.library.store->select(test.library.packagePath("Broken"));
+    QCOMPARE(content.detail(), ContentModel::Detail::noSelection);
+    QVERIFY(content.commands()->hasSelection());
+  }
 
-  // One that was made while no window was open.
-  test.content.reset();
-  test.library.store->setNewBrandRequested(true);
-  QVERIFY(test.makeContent()->showsNewBrand());
-  QVERIFY(!test.library.store->newBrandRequested());
-}
+  void answersTheRequestForANewBrand() {
+    ContentTest test;
+    ContentModel& content = test.start();
+    QVERIFY(!content.showsNewBrand());
+    content.commands()->newBrand();
+    QVERIFY(content.showsNewBrand());
+    QVERIFY(!test.library.store->newBrandRequested());
 
-void TestContent::keepsTheTextOfTheNewBrandSheet() {
-  ContentTest test;
-  ContentModel& content = test.start();
-  content.setNewBrandName("Ac");
-  content.setShowNewBrand(true);
-  content.setShowNewBrand(false);
-  QCOMPARE(content.newBrandName(), QStringLiteral("Ac"));
-}
+    // One that was made while no window was open.
+    test.content.reset();
+    test.library.store->setNewBrandRequested(true);
+    QVERIFY(test.makeContent()->showsNewBrand());
+    QVERIFY(!test.library.store->newBrandRequested());
+  }
 
-void TestContent::eachDocumentGetsOneWorkspace() {
-  ContentTest test;
-  ContentModel& content = test.start();
-  QVERIFY(!content.workspace());
-  QSignalSpy changed(&content, &ContentModel::workspaceChanged);
-  content.createBrand("Acme");
-  QTRY_VERIFY(content.workspace());
-  QCOMPARE(changed.size(), 1);  // for two documents, the read one and the made one
-  QCOMPARE(content.workspace()->document(), test.library.store->openDocument());
+  void eachDocumentGetsOneWorkspace() {
+    ContentTest test;
+    ContentModel& content = test.start();
+    QVERIFY(!content.workspace());
+    QSignalSpy changed(&content, &ContentModel::workspaceChanged);
+    content.createBrand("Acme");
+    QTRY_VERIFY(content.workspace());
+    QCOMPARE(changed.size(), 1);  // for two documents, the read one and the made one
+    QCOMPARE(content.workspace()->document(), test.library.store->openDocument());
 
-  test.library.store->select(test.library.packagePath("Acme"));
-  QCoreApplication::processEvents();
-  QCOMPARE(changed.size(), 1);
+    test.library.store->select(test.library.packagePath("Acme"));
+    QCoreApplication::processEvents();
+    QCOMPARE(changed.size(), 1);
 
-  QPointer<BrandWorkspace> old = content.workspace();
-  test.library.store->deleteBrand(BrandSummary(test.library.store->brands().first()));
-  QTRY_VERIFY(!content.workspace());
-  QTRY_VERIFY(!old);
-}
+    QPointer<BrandWorkspace> old = content.workspace();
+    test.library.store->deleteBrand(BrandSummary(test.library.store->brands().first()));
+    QTRY_VERIFY(!content.workspace());
+    QTRY_VERIFY(!old);
+  }
 
-void TestContent::registersFontsAndKeepsAFirstVersion() {
-  ContentTest test;
-  Section fonts = Section::create("Type");
-  const AssetRef file{"a.otf", "A.otf"};
-  fonts.items = {Item::create(FontPayload{{"Display", {}, {}, file, {}}})};
-  test.library.add("Acme", {fonts});
-  test.start();
-  QCOMPARE(test.fonts.registered.size(), 1);
-  QTRY_COMPARE(test.library.store->openDocument()->listVersions().size(), 1);
-}
+  void registersFontsAndKeepsAFirstVersion() {
+    ContentTest test;
+    Section fonts = Section::create("Type");
+    const AssetRef file{"a.otf", "A.otf"};
+    fonts.items = {Item::create(FontPayload{{"Display", {}, {}, file, {}}})};
+    test.library.add("Acme", {fonts});
+    test.start();
+    QCOMPARE(test.fonts.registered.size(), 1);
+    QTRY_COMPARE(test.library.store->openDocument()->listVersions().size(), 1);
+  }
 
-void TestContent::answersARequestToScroll() {
-  ContentTest test;
-  test.library.add("Acme", {Section::create("A"), Section::create("B")});
-  ContentModel& content = test.start();
-  QSignalSpy requested(&content, &ContentModel::sectionRequested);
-  LibraryStore& store = *test.library.store;
-  store.setScrollToSection(store.openDocument()->brand().sections.at(1).id);
-  QTRY_COMPARE(requested, QList<QVariantList>({{1}}));
-  QVERIFY(!store.scrollToSection());
-  store.setScrollToSection(QUuid::createUuid());
-  QTRY_VERIFY(!store.scrollToSection());
-  QCOMPARE(requested.size(), 1);
-}
+  void answersARequestToScroll() {
+    ContentTest test;
+    test.library.add("Acme", {Section::create("A"), Section::create("B")});
+    ContentModel& content = test.start();
+    QSignalSpy requested(&content, &ContentModel::sectionRequested);
+    LibraryStore& store = *test.library.store;
+    store.setScrollToSection(store.openDocument()->brand().sections.at(1).id);
+    QTRY_COMPARE(requested, QList<QVariantList>({{1}}));
+    QVERIFY(!store.scrollToSection());
+    store.setScrollToSection(QUuid::createUuid());
+    QTRY_VERIFY(!store.scrollToSection());
+    QCOMPARE(requested.size(), 1);
+  }
 
-void TestContent::tellsToastsInTheDesktopsWords() {
-  ContentTest test;
-  ContentModel& content = test.start();
-  content.toasts()->show("Deleted 2 items · ⌘Z to undo");
-  QCOMPARE(content.toast(), QStringLiteral("Deleted 2 items · Ctrl+Z to undo"));
-}
+  void tellsToastsInTheDesktopsWords() {
+    ContentTest test;
+    ContentModel& content = test.start();
+    content.toasts()->show("Deleted 2 items · ⌘Z to undo");
+    QCOMPARE(content.toast(), "Deleted 2 items · Ctrl+Z to undo");
+  }
 
-void TestContent::aNewBrandClearsTheTilesSelection() {
-  ContentTest test;
-  test.library.add("Acme");
-  test.library.add("Birch");
-  ContentModel& content = test.start();
-  content.selection()->toggle(QUuid::createUuid(), QUuid::createUuid());
-  test.library.store->select(test.library.packagePath("Acme"));  // the same
-  QCOMPARE(content.selection()->count(), 1);
-  test.library.store->select(test.library.packagePath("Birch"));
-  QCOMPARE(content.selection()->count(), 0);
-}
+  void aNewBrandClearsTheTilesSelection() {
+    ContentTest test;
+    test.library.add("Acme");
+    test.library.add("Birch");
+    ContentModel& content = test.start();
+    content.selection()->toggle(QUuid::createUuid(), QUuid::createUuid());
+    test.library.store->select(test.library.packagePath("Acme"));  // the same
+    QCOMPARE(content.selection()->count(), 1);
+    test.library.store->select(test.library.packagePath("Birch"));
+    QCOMPARE(content.selection()->count(), 0);
+  }
 
-void TestContent::undoneStepsGoWithTheirDocument() {
-  ContentTest test;
-  test.library.add("Acme");
-  test.library.add("Birch");
-  ContentModel& content = test.start();
-  BrandDocument& document = *test.library.store->openDocument();
-  document.mutate("Delete", content.undo(), [](Brand& brand) { brand.name = "Changed"; });
-  QCOMPARE(content.undo()->undoText(), QStringLiteral("Undo Delete"));
-  content.undo()->undo();
-  QCOMPARE(document.brand().name, QStringLiteral("Acme"));
-  content.undo()->redo();
-  QCOMPARE(document.brand().name, QStringLiteral("Changed"));
-  test.library.store->select(test.library.packagePath("Birch"));
-  QVERIFY(!content.undo()->canUndo());
-}
+  void undoneStepsGoWithTheirDocument() {
+    ContentTest test;
+    test.library.add("Acme");
+    test.library.add("Birch");
+    ContentModel& content = test.start();
+    BrandDocument& document = *test.library.store->openDocument();
+    document.mutate("Delete", content.undo(), [](Brand& brand) { brand.name = "Changed"; });
+    QCOMPARE(content.undo()->undoText(), "Undo Delete");
+    content.undo()->undo();
+    QCOMPARE(document.brand().name, "Acme");
+    content.undo()->redo();
+    QCOMPARE(document.brand().name, "Changed");
+    test.library.store->select(test.library.packagePath("Birch"));
+    QVERIFY(!content.undo()->canUndo());
+  }
 
-void TestContent::picksColorsUndoably() {
-  ContentTest test;
-  test.library.add("Acme");
-  ContentModel& content = test.start();
-  content.commands()->pickColorFromScreen();
-  test.library.pendingPick(SampledColor{1, 0, 0});
-  QCOMPARE(content.undo()->undoText(), QStringLiteral("Undo Pick Color"));
-  // The next window's undo, or none, takes its place.
-  test.content.reset();
-  test.library.store->pickColorFromScreen();
-  test.library.pendingPick(SampledColor{0, 1, 0});
-}
+  void picksColorsUndoably() {
+    ContentTest test;
+    test.library.add("Acme");
+    ContentModel& content = test.start();
+    content.commands()->pickColorFromScreen();
+    test.library.pendingPick(SampledColor{1, 0, 0});
+    QCOMPARE(content.undo()->undoText(), "Undo Pick Color");
+    // The next window's undo, or none, takes its place.
+    test.content.reset();
+    test.library.store->pickColorFromScreen();
+    test.library.pendingPick(SampledColor{0, 1, 0});
+  }
 
-void TestContent::exportsTheOpenBrandsPage() {
-  ContentTest test;
-  ContentModel& content = test.start();
-  content.commands()->exportBrandPage();
-  QCOMPARE(test.library.dialogs.suggested, QString());
-  content.createBrand("Acme");
-  test.library.dialogs.answer = test.library.disk.path("page.html");
-  content.commands()->exportBrandPage();
-  QCOMPARE(test.library.dialogs.suggested, QStringLiteral("Acme Brand Page.html"));
-  QVERIFY(contentOf(test.library.disk.path("page.html")).contains("Acme"));
-}
-
-void TestContent::tintsWithTheAccentInForce() {
-  TestLibrary library;
-  LibraryStore& store = library.start();
-  QQmlEngine engine;
-  Theme& theme = Theme::of(engine);
-  const AccentTint tint(store, theme);
-  QCOMPARE(theme.accent(), QColor("#0A84FF"));
-  store.preferences().setDefaultAccentHexDark("#00FF00");
-  QCOMPARE(theme.accent(), QColor("#0A84FF"));
-  theme.setDark(true);
-  QCOMPARE(theme.accent(), QColor("#00FF00"));
-  store.createBrand("Acme")->edit([](Brand& brand) { brand.accentHex = "#FF0000"; });
-  QCOMPARE(theme.accent(), QColor("#FF0000"));
-  store.openDocument()->edit([](Brand& brand) { brand.accentHex = "no colour"; });
-  QCOMPARE(theme.accent(), QColor(0x8e8e93));
-  store.select(std::nullopt);
-  QCOMPARE(theme.accent(), QColor("#00FF00"));
-}
+  void tintsWithTheAccentInForce() {
+    TestLibrary library;
+    LibraryStore& store = library.start();
+    QQmlEngine engine;
+    Theme& theme = Theme::of(engine);
+    const AccentTint tint(store, theme);
+    QCOMPARE(theme.accent(), QColor("#0A84FF"));
+    store.preferences().setDefaultAccentHexDark("#00FF00");
+    QCOMPARE(theme.accent(), QColor("#0A84FF"));
+    theme.setDark(true);
+    QCOMPARE(theme.accent(), QColor("#00FF00"));
+    store.createBrand("Acme")->edit([](Brand& brand) { brand.accentHex = "#FF0000"; });
+    QCOMPARE(theme.accent(), QColor("#FF0000"));
+    store.openDocument()->edit([](Brand& brand) { brand.accentHex = "no colour"; });
+    QCOMPARE(theme.accent(), QColor(0x8e8e93));
+    store.select(std::nullopt);
+    QCOMPARE(theme.accent(), QColor("#00FF00"));
+  }
+};
 
 QTEST_MAIN(TestContent)
 #include "tst_content.moc"

@@ -1,3 +1,5 @@
+#include "testing/Cases.h"
+
 #include <QDir>
 #include <QFile>
 #include <QLocalSocket>
@@ -8,22 +10,6 @@
 
 #include <algorithm>
 #include <csignal>
-
-// One running program a user, tried with real processes.
-class TestInstance : public QObject {
-  Q_OBJECT
-
- private slots:
-  void theSecondStartAsksTheFirst();
-  void aCrashLeavesNothingBehind();
-  void startsAtTheSameMomentAgreeOnOne();
-  void aStrangerOnTheSocketDoesNoHarm();
-  void givesUpOnOneThatDoesNotAnswer();
-  void asksOnUntilItAnswers();
-  void endsOneThatDoesNotAnswer_data();
-  void endsOneThatDoesNotAnswer();
-  void endsNoOtherProgram();
-};
 
 namespace {
 
@@ -52,7 +38,7 @@ class Starts {
 // The next line that it says, without its end.
 QByteArray line(QProcess& process) {
   while (!process.canReadLine()) {
-    if (!process.waitForReadyRead(20000)) return QByteArrayLiteral("(nothing)");
+    if (!process.waitForReadyRead(20000)) return "(nothing)";
   }
   return process.readLine().trimmed();
 }
@@ -61,122 +47,113 @@ int exitCode(QProcess& process) { return process.waitForFinished(20000) ? proces
 
 }  // namespace
 
-void TestInstance::theSecondStartAsksTheFirst() {
-  Starts starts;
-  QProcess& first = starts.start();
-  QCOMPARE(line(first), QByteArray("first"));
-  for (int i = 0; i < 3; ++i) {
-    QProcess& second = starts.start();
-    QCOMPARE(line(second), QByteArray("shown"));
-    QCOMPARE(exitCode(second), 0);
-    QCOMPARE(line(first), QByteArray("asked"));
-  }
-  QCOMPARE(first.state(), QProcess::Running);
-}
+// One running program a user, tried with real processes.
+class TestInstance : public QObject {
+  Q_OBJECT
 
-void TestInstance::aCrashLeavesNothingBehind() {
-  Starts starts;
-  QProcess& first = starts.start();
-  QCOMPARE(line(first), QByteArray("first"));
-  first.kill();
-  first.waitForFinished();
-  QVERIFY(QDir(starts.folder.path()).entryList(QDir::System).contains("tarnloft.socket"));
-  QProcess& next = starts.start();
-  QCOMPARE(line(next), QByteArray("first"));
-  QCOMPARE(line(starts.start()), QByteArray("shown"));
-}
-
-void TestInstance::startsAtTheSameMomentAgreeOnOne() {
-  for (int round = 0; round < 5; ++round) {
+ private slots:
+  void theSecondStartAsksTheFirst() {
     Starts starts;
-    QList<QProcess*> all;
-    for (int i = 0; i < 4; ++i) all << &starts.start();
-    QList<QByteArray> lines;
-    QProcess* first = nullptr;
-    for (QProcess* process : all) {
-      lines << line(*process);
-      if (lines.last() == "first") first = process;
+    QProcess& first = starts.start();
+    QCOMPARE(line(first), "first");
+    for (int i = 0; i < 3; ++i) {
+      QProcess& second = starts.start();
+      QCOMPARE(line(second), "shown");
+      QCOMPARE(exitCode(second), 0);
+      QCOMPARE(line(first), "asked");
     }
-    std::ranges::sort(lines);
-    QCOMPARE(lines, QList<QByteArray>({"first", "shown", "shown", "shown"}));
-    for (int i = 0; i < 3; ++i) QCOMPARE(line(*first), QByteArray("asked"));
+    QCOMPARE(first.state(), QProcess::Running);
   }
-}
 
-void TestInstance::aStrangerOnTheSocketDoesNoHarm() {
-  Starts starts;
-  QProcess& first = starts.start();
-  QCOMPARE(line(first), QByteArray("first"));
-  QLocalSocket stranger;
-  stranger.connectToServer(starts.folder.filePath("tarnloft.socket"));
-  QVERIFY(stranger.waitForConnected());
-  stranger.write("anything else\n");
-  stranger.flush();
-  QVERIFY(stranger.waitForDisconnected(20000));
-  QCOMPARE(line(starts.start()), QByteArray("shown"));
-  QCOMPARE(line(first), QByteArray("asked"));
-}
+  void aCrashLeavesNothingBehind() {
+    Starts starts;
+    QProcess& first = starts.start();
+    QCOMPARE(line(first), "first");
+    first.kill();
+    first.waitForFinished();
+    QVERIFY(QDir(starts.folder.path()).entryList(QDir::System).contains("tarnloft.socket"));
+    QProcess& next = starts.start();
+    QCOMPARE(line(next), "first");
+    QCOMPARE(line(starts.start()), "shown");
+  }
 
-void TestInstance::givesUpOnOneThatDoesNotAnswer() {
-  Starts starts;
-  QProcess& first = starts.start();
-  QCOMPARE(line(first), QByteArray("first"));
-  ::kill(pid_t(first.processId()), SIGSTOP);
-  QProcess& second = starts.start({"300"});
-  QCOMPARE(line(second), QByteArray("no answer"));
-  QCOMPARE(exitCode(second), 1);
-  ::kill(pid_t(first.processId()), SIGCONT);
-  QCOMPARE(line(starts.start()), QByteArray("shown"));
-}
+  void startsAtTheSameMomentAgreeOnOne() {
+    for (int round = 0; round < 5; ++round) {
+      Starts starts;
+      QList<QProcess*> all;
+      for (int i = 0; i < 4; ++i) all << &starts.start();
+      QList<QByteArray> lines;
+      QProcess* first = nullptr;
+      for (QProcess* process : all) {
+        lines << line(*process);
+        if (lines.last() == "first") first = process;
+      }
+      std::ranges::sort(lines);
+      QCOMPARE(lines, QList<QByteArray>({"first", "shown", "shown", "shown"}));
+      for (int i = 0; i < 3; ++i) QCOMPARE(line(*first), "asked");
+    }
+  }
 
-void TestInstance::asksOnUntilItAnswers() {
-  Starts starts;
-  QProcess& first = starts.start();
-  QCOMPARE(line(first), QByteArray("first"));
-  ::kill(pid_t(first.processId()), SIGSTOP);
-  QProcess& second = starts.start({"200", "ask"});
-  QCOMPARE(line(second), QByteArray("no answer"));
-  ::kill(pid_t(first.processId()), SIGCONT);
-  QCOMPARE(line(second), QByteArray("shown"));
-  QCOMPARE(exitCode(second), 0);
-  QCOMPARE(line(first), QByteArray("asked"));
-  QCOMPARE(first.state(), QProcess::Running);
-}
+  void aStrangerOnTheSocketDoesNoHarm() {
+    Starts starts;
+    QProcess& first = starts.start();
+    QCOMPARE(line(first), "first");
+    QLocalSocket stranger;
+    stranger.connectToServer(starts.folder.filePath("tarnloft.socket"));
+    QVERIFY(stranger.waitForConnected());
+    stranger.write("anything else\n");
+    stranger.flush();
+    QVERIFY(stranger.waitForDisconnected(20000));
+    QCOMPARE(line(starts.start()), "shown");
+    QCOMPARE(line(first), "asked");
+  }
 
-void TestInstance::endsOneThatDoesNotAnswer_data() {
-  QTest::addColumn<QStringList>("words");
-  QTest::addColumn<int>("signal");
-  QTest::newRow("as it is asked to") << QStringList() << SIGTERM;
-  QTest::newRow("by force") << QStringList({"10000", "deaf"}) << SIGKILL;
-}
+  void asksOnUntilItAnswers() {
+    Starts starts;
+    QProcess& first = starts.start();
+    QCOMPARE(line(first), "first");
+    ::kill(pid_t(first.processId()), SIGSTOP);
+    QProcess &impatient = starts.start({"300"}), &second = starts.start({"200", "ask"});
+    QCOMPARE(line(impatient), "no answer");
+    QCOMPARE(exitCode(impatient), 1);
+    QCOMPARE(line(second), "no answer");
+    ::kill(pid_t(first.processId()), SIGCONT);
+    QCOMPARE(line(second), "shown");
+    QCOMPARE(exitCode(second), 0);
+    QCOMPARE(line(first), "asked");
+    QCOMPARE(first.state(), QProcess::Running);
+  }
 
-// It goes on as soon as it is asked to end, and its answers don't count any more.
-void TestInstance::endsOneThatDoesNotAnswer() {
-  QFETCH(QStringList, words);
-  QFETCH(int, signal);
-  Starts starts;
-  QProcess& first = starts.start(words);
-  QCOMPARE(line(first), QByteArray("first"));
-  ::kill(pid_t(first.processId()), SIGSTOP);
-  QProcess& second = starts.start({"200", "end"});
-  QCOMPARE(line(second), QByteArray("no answer"));
-  QCOMPARE(line(second), QByteArray("first"));
-  QVERIFY(first.waitForFinished(20000));
-  QCOMPARE(first.exitStatus(), QProcess::CrashExit);
-  QCOMPARE(first.exitCode(), signal);
-  QCOMPARE(line(starts.start()), QByteArray("shown"));
-  QCOMPARE(line(second), QByteArray("asked"));
-}
+  // It goes on as soon as it is asked to end, and its answers don't count any more.
+  void endsOneThatDoesNotAnswer() {
+    const Cases<QStringList, int> cases{{"as it is asked to", QStringList(), SIGTERM},
+                                        {"by force", QStringList({"10000", "deaf"}), SIGKILL}};
+    cases.check([&](const QStringList& words, int signal) {
+      Starts starts;
+      QProcess& first = starts.start(words);
+      QCOMPARE(line(first), "first");
+      ::kill(pid_t(first.processId()), SIGSTOP);
+      QProcess& second = starts.start({"200", "end"});
+      QCOMPARE(line(second), "no answer");
+      QCOMPARE(line(second), "first");
+      QVERIFY(first.waitForFinished(20000));
+      QCOMPARE(first.exitStatus(), QProcess::CrashExit);
+      QCOMPARE(first.exitCode(), signal);
+      QCOMPARE(line(starts.start()), "shown");
+      QCOMPARE(line(second), "asked");
+    });
+  }
 
-void TestInstance::endsNoOtherProgram() {
-  Starts starts;
-  QLockFile lock(starts.folder.filePath("tarnloft.lock"));
-  QVERIFY(lock.lock());
-  QProcess& second = starts.start({"200", "end"});
-  QCOMPARE(line(second), QByteArray("no answer"));
-  QCOMPARE(line(second), QByteArray("failed"));
-  QCOMPARE(exitCode(second), 1);
-}
+  void endsNoOtherProgram() {
+    Starts starts;
+    QLockFile lock(starts.folder.filePath("tarnloft.lock"));
+    QVERIFY(lock.lock());
+    QProcess& second = starts.start({"200", "end"});
+    QCOMPARE(line(second), "no answer");
+    QCOMPARE(line(second), "failed");
+    QCOMPARE(exitCode(second), 1);
+  }
+};
 
 QTEST_GUILESS_MAIN(TestInstance)
 #include "tst_instance.moc"

@@ -1,6 +1,7 @@
 #include "controls/theme/Theme.h"
 #include "shell/TestShell.h"
 #include "shell/window/MainWindow.h"
+#include "testing/Cases.h"
 
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -19,138 +20,6 @@ Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 using namespace tarnloft;
 
-class TestMainWindow : public QObject {
-  Q_OBJECT
-
- private slots:
-  void keepsItsState_data();
-  void keepsItsState();
-  void fitsTheScreens_data();
-  void fitsTheScreens();
-  void rightSizesOnce();
-  void itsViewsGoWithIt();
-  void opensAndClosesAndOpensAnew();
-  void takesItsViewsAlong_data();
-  void takesItsViewsAlong();
-};
-
-void TestMainWindow::keepsItsState_data() {
-  QTest::addColumn<WindowState>("state");
-  QTest::newRow("default") << WindowState{};
-  QTest::newRow("maximised") << WindowState{QPoint(-5, 7), {900, 600}, Maximized::yes, 200};
-  QTest::newRow("placed") << WindowState{QPoint(0, 0), {2000, 1000}, Maximized::no, 333};
-}
-
-void TestMainWindow::keepsItsState() {
-  QFETCH(WindowState, state);
-  const TestServices disk;
-  const QString path = disk.path("new folder/state.ini");
-  {
-    IniPreferences store(path);
-    WindowState{QPoint(1, 1), {1000, 700}, Maximized::yes, 250}.write(store);
-    if (!state.position) store.remove("windowX");
-    state.write(store);
-  }
-  QVERIFY(WindowState::read(IniPreferences(path)) == state);
-}
-
-void TestMainWindow::fitsTheScreens_data() {
-  QTest::addColumn<WindowState>("state");
-  QTest::addColumn<WindowState>("fitted");
-  const auto state = [](std::optional<QPoint> position, QSize size) {
-    return WindowState{position, size, Maximized::no, 240};
-  };
-  const QSize usual(1160, 760);
-  QTest::newRow("on it") << state(QPoint(10, 10), usual) << state(QPoint(10, 10), usual);
-  QTest::newRow("on the second") << state(QPoint(1500, 10), usual)
-                                 << state(QPoint(1500, 10), usual);
-  QTest::newRow("a bit aside") << state(QPoint(-900, 10), usual) << state(QPoint(-900, 10), usual);
-  QTest::newRow("far aside") << state(QPoint(-1100, 10), usual) << state(std::nullopt, usual);
-  QTest::newRow("above") << state(QPoint(10, -20), usual) << state(std::nullopt, usual);
-  QTest::newRow("screen has gone") << state(QPoint(5000, 10), usual) << state(std::nullopt, usual);
-  QTest::newRow("too large") << state(QPoint(10, 10), {3000, 2000})
-                             << state(QPoint(10, 10), {1280, 1024});
-  QTest::newRow("anywhere") << state(std::nullopt, usual) << state(std::nullopt, usual);
-}
-
-void TestMainWindow::fitsTheScreens() {
-  QFETCH(WindowState, state);
-  QFETCH(WindowState, fitted);
-  const QList<QRect> screens{{0, 0, 1280, 1024}, {1280, 0, 1920, 1080}};
-  QVERIFY(state.fitting(screens) == fitted);
-}
-
-void TestMainWindow::rightSizesOnce() {
-  const TestServices disk;
-  IniPreferences preferences(disk.path("preferences.ini"));
-  QWindow window;
-  window.resize(990, 700);
-  rightSizeWindow(&window, preferences);
-  QCOMPARE(window.size(), WindowState::defaultSize);
-  window.resize(900, 700);
-  rightSizeWindow(&window, preferences);
-  QCOMPARE(window.size(), QSize(900, 700));
-
-  IniPreferences others(disk.path("others.ini"));
-  rightSizeWindow(nullptr, others);
-  rightSizeWindow(&window, others);
-  QCOMPARE(window.size(), QSize(900, 700));
-
-  IniPreferences third(disk.path("third.ini"));
-  window.resize(1000, 600);
-  rightSizeWindow(&window, third);
-  QCOMPARE(window.size(), QSize(1000, 600));
-}
-
-void TestMainWindow::itsViewsGoWithIt() {
-  TestShell test;
-  test.library.add("Acme", {Section::create("Logos")});
-  test.library.start();
-  IniPreferences state(test.library.disk.path("state.ini"));
-  QQmlEngine engine;
-  auto main = std::make_unique<MainWindow>(engine, test.library.services(), test.services(), state);
-  QVERIFY(main->open());
-  QTRY_VERIFY(main->window()->property("late").value<QObject*>());
-  QList<QPointer<QQuickItem>> views{main->window()->contentItem()};
-  for (qsizetype i = 0; i < views.size(); ++i) {
-    for (QQuickItem* const view : views.at(i)->childItems()) views << view;
-  }
-  main.reset();
-  QVERIFY(std::ranges::all_of(views, &QPointer<QQuickItem>::isNull));
-}
-
-void TestMainWindow::opensAndClosesAndOpensAnew() {
-  TestShell test;
-  TestLibrary& library = test.library;
-  library.add("Acme");
-  library.start();
-  IniPreferences state(library.disk.path("state.ini"));
-  QQmlEngine engine;
-  Theme::of(engine);
-  MainWindow main(engine, library.services(), test.services(), state);
-  QSignalSpy closed(&main, &MainWindow::closed);
-  QVERIFY(main.open());
-  QPointer<QQuickWindow> window = main.window();
-  QVERIFY(QTest::qWaitForWindowExposed(window));
-  const QRect screen = window->screen()->availableGeometry();
-  QCOMPARE(window->size(), WindowState().fitting({screen}).size);
-  QCOMPARE(window->minimumSize(), WindowState::minimumSize);
-  QCOMPARE(window->title(), QStringLiteral("Acme — Tarn Loft"));
-  QVERIFY(main.open());
-  QCOMPARE(main.window(), window.data());
-
-  window->resize(860, 600);
-  window->close();
-  QTRY_COMPARE(closed.size(), 1);
-  QVERIFY(!window);
-  QVERIFY(!main.window());
-  library.store->createBrand("While closed");
-
-  QVERIFY(main.open());
-  QCOMPARE(main.window()->size(), QSize(860, 600));
-  QCOMPARE(main.window()->title(), QStringLiteral("While closed — Tarn Loft"));
-}
-
 namespace {
 
 // The brand's page, or null.
@@ -164,36 +33,131 @@ QQuickItem* pageIn(QQuickItem* item) {
 
 }  // namespace
 
-void TestMainWindow::takesItsViewsAlong_data() {
-  QTest::addColumn<bool>("closed");
-  QTest::newRow("open") << false;
-  QTest::newRow("just closed") << true;
-}
+class TestMainWindow : public QObject {
+  Q_OBJECT
 
-// The toolkit leaves a list's views to the event loop's next turn, which the end hasn't got.
-void TestMainWindow::takesItsViewsAlong() {
-  QFETCH(bool, closed);
-  TestShell test;
-  test.library.add("Acme", {Section::create("S")});
-  test.library.start();
-  IniPreferences state(test.library.disk.path("state.ini"));
-  QQmlEngine engine;
-  Theme::of(engine);
-  auto main = std::make_unique<MainWindow>(engine, test.library.services(), test.services(), state);
-  QVERIFY(main->open());
-  QTRY_VERIFY(pageIn(main->window()->contentItem()));
-  const QPointer<QQuickItem> page = pageIn(main->window()->contentItem());
-  const QPointer<QObject> workspace = page->property("workspace").value<QObject*>();
-  QVERIFY(workspace);
-  if (closed) {
-    main->window()->close();
-    QCoreApplication::sendPostedEvents(main.get(), QEvent::MetaCall);
-    QVERIFY(!main->window());
+ private slots:
+  void keepsItsState() {
+    const Cases<WindowState> cases{
+        {"default", WindowState{}},
+        {"maximised", WindowState{QPoint(-5, 7), {900, 600}, Maximized::yes, 200}},
+        {"placed", WindowState{QPoint(0, 0), {2000, 1000}, Maximized::no, 333}}};
+    cases.check([&](const WindowState& state) {
+      const TestServices disk;
+      const QString path = disk.path("new folder/state.ini");
+      {
+        IniPreferences store(path);
+        WindowState{QPoint(1, 1), {1000, 700}, Maximized::yes, 250}.write(store);
+        if (!state.position) store.remove("windowX");
+        state.write(store);
+      }
+      QVERIFY(WindowState::read(IniPreferences(path)) == state);
+    });
   }
-  main.reset();
-  QVERIFY(!page);
-  QVERIFY(!workspace);
-}
+
+  void fitsTheScreens() {
+    const auto state = [](std::optional<QPoint> position, QSize size) {
+      return WindowState{position, size, Maximized::no, 240};
+    };
+    const QSize usual(1160, 760);
+    const Cases<WindowState, WindowState> cases{
+        {"on it", state(QPoint(10, 10), usual), state(QPoint(10, 10), usual)},
+        {"on the second", state(QPoint(1500, 10), usual), state(QPoint(1500, 10), usual)},
+        {"a bit aside", state(QPoint(-900, 10), usual), state(QPoint(-900, 10), usual)},
+        {"far aside", state(QPoint(-1100, 10), usual), state(std::nullopt, usual)},
+        {"above", state(QPoint(10, -20), usual), state(std::nullopt, usual)},
+        {"screen has gone", state(QPoint(5000, 10), usual), state(std::nullopt, usual)},
+        {"too large", state(QPoint(10, 10), {3000, 2000}), state(QPoint(10, 10), {1280, 1024})},
+        {"anywhere", state(std::nullopt, usual), state(std::nullopt, usual)}};
+    cases.check([&](const WindowState& state, const WindowState& fitted) {
+      const QList<QRect> screens{{0, 0, 1280, 1024}, {1280, 0, 1920, 1080}};
+      QVERIFY(state.fitting(screens) == fitted);
+    });
+  }
+
+  void rightSizesOnce() {
+    const TestServices disk;
+    IniPreferences preferences(disk.path("preferences.ini"));
+    QWindow window;
+    window.resize(990, 700);
+    rightSizeWindow(&window, preferences);
+    QCOMPARE(window.size(), WindowState::defaultSize);
+    window.resize(900, 700);
+    rightSizeWindow(&window, preferences);
+    QCOMPARE(window.size(), QSize(900, 700));
+
+    IniPreferences others(disk.path("others.ini"));
+    rightSizeWindow(nullptr, others);
+    rightSizeWindow(&window, others);
+    QCOMPARE(window.size(), QSize(900, 700));
+
+    IniPreferences third(disk.path("third.ini"));
+    window.resize(1000, 600);
+    rightSizeWindow(&window, third);
+    QCOMPARE(window.size(), QSize(1000, 600));
+  }
+
+  void opensAndClosesAndOpensAnew() {
+    TestShell test;
+    TestLibrary& library = test.library;
+    library.add("Acme");
+    library.start();
+    IniPreferences state(library.disk.path("state.ini"));
+    QQmlEngine engine;
+    Theme::of(engine);
+    MainWindow main(engine, library.services(), test.services(), state);
+    QSignalSpy closed(&main, &MainWindow::closed);
+    QVERIFY(main.open());
+    QPointer<QQuickWindow> window = main.window();
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+    const QRect screen = window->screen()->availableGeometry();
+    QCOMPARE(window->size(), WindowState().fitting({screen}).size);
+    QCOMPARE(window->minimumSize(), WindowState::minimumSize);
+    QCOMPARE(window->title(), "Acme — Tarn Loft");
+    QVERIFY(main.open());
+    QCOMPARE(main.window(), window.data());
+
+    window->resize(860, 600);
+    window->close();
+    QTRY_COMPARE(closed.size(), 1);
+    QVERIFY(!window);
+    QVERIFY(!main.window());
+    library.store->createBrand("While closed");
+
+    QVERIFY(main.open());
+    QCOMPARE(main.window()->size(), QSize(860, 600));
+    QCOMPARE(main.window()->title(), "While closed — Tarn Loft");
+  }
+
+  // The toolkit leaves a list's views to the event loop's next turn, which the end hasn't got.
+  void takesItsViewsAlong() {
+    for (const bool closed : {false, true}) {
+      TestShell test;
+      test.library.add("Acme", {Section::create("S")});
+      test.library.start();
+      IniPreferences state(test.library.disk.path("state.ini"));
+      QQmlEngine engine;
+      Theme::of(engine);
+      auto main =
+          std::make_unique<MainWindow>(engine, test.library.services(), test.services(), state);
+      QVERIFY(main->open());
+      QTRY_VERIFY(pageIn(main->window()->contentItem()));
+      QList<QPointer<QQuickItem>> views{main->window()->contentItem()};
+      for (qsizetype i = 0; i < views.size(); ++i) {
+        for (QQuickItem* const view : views.at(i)->childItems()) views << view;
+      }
+      const QPointer<QObject> workspace =
+          pageIn(views.first())->property("workspace").value<QObject*>();
+      if (closed) {
+        main->window()->close();
+        QCoreApplication::sendPostedEvents(main.get(), QEvent::MetaCall);
+        QVERIFY(!main->window());
+      }
+      main.reset();
+      QVERIFY(!workspace && std::ranges::all_of(views, &QPointer<QQuickItem>::isNull));
+    }
+  }
+};
 
 QTEST_MAIN(TestMainWindow)
 #include "tst_mainwindow.moc"

@@ -1,6 +1,7 @@
 #include "controls/motion/Motion.h"
 #include "controls/theme/Typography.h"
 #include "shell/TestViews.h"
+#include "testing/Cases.h"
 #include "workspace/Items.h"
 
 #include <QRegularExpression>
@@ -15,31 +16,6 @@ Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 using namespace tarnloft;
 
-// The main window's views, driven by keys and the pointer as a user would.
-class TestShellViews : public QObject {
-  Q_OBJECT
-
- private slots:
-  void initTestCase();
-  void init() { QTest::failOnWarning(QRegularExpression("qrc:|QML|Binding")); }
-  void createsABrandFromTheKeyboard();
-  void aNameOfBlanksCannotBeCreated();
-  void selectsByClickAndByKeyboard();
-  void renamesFromTheKeyboard();
-  void deletesWhenConfirmed_data();
-  void deletesWhenConfirmed();
-  void dragsARowByItsMark();
-  void assistiveTechnologyHearsRowsInTheirOrder();
-  void theKeyboardGoesOnAtTheSelectedBrand();
-  void aRowWithAnOpenMenuStaysLit();
-  void aRowSpringsToItsPlace();
-  void opensMenusFromTheKeyboard();
-  void theMenuOfABrandHasItsEntries();
-  void shortcutsWaitBehindASheet();
-  void aNarrowWindowFoldsItsSidebar();
-  void aFoldedSidebarHasTheMenus();
-};
-
 namespace {
 
 constexpr auto row = QAccessible::ListItem;
@@ -49,327 +25,243 @@ constexpr auto dialog = QAccessible::Dialog;
 
 }  // namespace
 
-void TestShellViews::initTestCase() {
-  prepareTypography();
-  QAccessible::setActive(true);
-}
+// The main window's views, driven by keys and the pointer as a user would.
+class TestShellViews : public QObject {
+  Q_OBJECT
 
-void TestShellViews::createsABrandFromTheKeyboard() {
-  Views views;
-  views.start();
-  QVERIFY(views.item(QAccessible::StaticText, "Welcome to Tarn Loft"));
-  views.press(Qt::Key_N, Qt::ControlModifier);
-  QTRY_VERIFY(views.item(dialog, "New Brand"));
-  views.type("  Acme ");
-  views.press(Qt::Key_Return);
-  QTRY_COMPARE(views.library.names(), QStringList("Acme"));
-  QTRY_VERIFY(!views.item(dialog, "New Brand"));
-  QVERIFY(views.item(row, "Acme"));
-  QVERIFY(!views.item(QAccessible::StaticText, "Welcome to Tarn Loft"));
-  // The sheet keeps its text for the next time.
-  views.click(views.item(button, "New Brand"));
-  QTRY_VERIFY(views.item(QAccessible::EditableText, "Brand name"));
-  QCOMPARE(views.item(QAccessible::EditableText, "Brand name")->property("text"), "  Acme ");
-  views.press(Qt::Key_Escape);
-  QTRY_VERIFY(!views.item(dialog, "New Brand"));
-  QCOMPARE(views.library.names(), QStringList("Acme"));
-}
+ private slots:
+  void init() { QTest::failOnWarning(QRegularExpression("qrc:|QML|Binding")); }
 
-void TestShellViews::aNameOfBlanksCannotBeCreated() {
-  Views views;
-  views.start();
-  views.click(views.item(button, "Create your first brand"));
-  QTRY_VERIFY(views.item(dialog, "New Brand"));
-  views.type("   ");
-  QVERIFY(!views.item(button, "Create")->isEnabled());
-  views.press(Qt::Key_Return);
-  QVERIFY(views.item(dialog, "New Brand"));
-  QVERIFY(views.library.names().isEmpty());
-}
-
-void TestShellViews::selectsByClickAndByKeyboard() {
-  Views views;
-  for (const char* name : {"Acme", "Birch", "Cedar"}) {
-    views.library.add(name, {Section::create(QString("Logos of ") + name)});
+  void initTestCase() {
+    prepareTypography();
+    QAccessible::setActive(true);
   }
-  views.start();
-  views.click(views.item(row, "Birch"));
-  QCOMPARE(views.library.store->selection(), views.library.packagePath("Birch"));
-  QTRY_VERIFY(views.item(row, "Logos of Birch"));
-  views.press(Qt::Key_Down);
-  views.press(Qt::Key_Down);
-  views.press(Qt::Key_Return);
-  QCOMPARE(views.library.store->selection(), views.library.packagePath("Cedar"));
-  QTRY_VERIFY(views.item(row, "Logos of Cedar"));
-  QList<std::optional<QUuid>> asked;
-  LibraryStore& store = *views.library.store;
-  connect(&store, &LibraryStore::scrollToSectionChanged, this,
-          [&] { asked << store.scrollToSection(); });
-  views.press(Qt::Key_Down);
-  views.press(Qt::Key_Space);
-  QTRY_COMPARE(asked.size(), 2);  // asked for, and answered
-  QCOMPARE(asked.first(), store.openDocument()->brand().sections.first().id);
-}
 
-void TestShellViews::renamesFromTheKeyboard() {
-  Views views;
-  views.library.add("Acme");
-  views.start();
-  views.click(views.item(row, "Acme"));
-  views.press(Qt::Key_F2);
-  QTRY_VERIFY(views.item(dialog, "Rename Brand"));
-  views.type("Birch");  // over the old name, which is selected
-  views.press(Qt::Key_Return);
-  QTRY_COMPARE(views.library.names(), QStringList("Birch"));
-  QTRY_VERIFY(!views.item(dialog, "Rename Brand"));
-}
-
-void TestShellViews::deletesWhenConfirmed_data() {
-  QTest::addColumn<QString>("answer");
-  QTest::addColumn<qsizetype>("left");
-  QTest::newRow("confirmed") << "Move to Trash" << qsizetype(0);
-  QTest::newRow("cancelled") << "Cancel" << qsizetype(1);
-}
-
-void TestShellViews::deletesWhenConfirmed() {
-  QFETCH(QString, answer);
-  Views views;
-  views.library.add("Acme");
-  views.start();
-  views.click(views.item(row, "Acme"));
-  views.press(Qt::Key_Delete);
-  const QString title = "Move “Acme” to the Trash?";
-  QTRY_VERIFY(views.item(dialog, title));
-  QTRY_VERIFY(views.item(button, answer));
-  views.click(views.item(button, answer));
-  QTRY_VERIFY(!views.item(dialog, title));
-  QTEST(views.library.names().size(), "left");
-}
-
-void TestShellViews::dragsARowByItsMark() {
-  Views views;
-  for (const char* name : {"Acme", "Birch", "Cedar"}) {
-    views.library.add(name, {Section::create("Logos")});
+  void aNewBrandsSheetKeepsItsText() {
+    Views views;
+    views.start();
+    views.press(Qt::Key_N, Qt::ControlModifier);
+    QTRY_VERIFY(views.item(dialog, "New Brand"));
+    views.type("  Acme ");
+    views.press(Qt::Key_Return);
+    QTRY_COMPARE(views.library.names(), QStringList("Acme"));
+    QTRY_VERIFY(!views.item(dialog, "New Brand"));
+    views.click(views.item(button, "New Brand"));
+    QTRY_VERIFY(views.item(QAccessible::EditableText, "Brand name"));
+    QCOMPARE(views.item(QAccessible::EditableText, "Brand name")->property("text"), "  Acme ");
+    views.press(Qt::Key_Escape);
+    QTRY_VERIFY(!views.item(dialog, "New Brand"));
   }
-  views.start();
-  const QQuickItem* const cedar = views.item(row, "Cedar");
-  const QPoint mark = cedar->mapToScene({24, cedar->height() / 2}).toPoint();
-  const QPoint target = Views::centerOf(views.item(row, "Acme"));
-  QTest::mousePress(&views.window(), Qt::LeftButton, {}, mark);
-  for (int step = 1; step <= 10; ++step) {
-    QTest::mouseMove(&views.window(), mark + (QPoint(mark.x(), target.y()) - mark) * step / 10);
-  }
-  QTRY_COMPARE(views.library.names(), QStringList({"Cedar", "Acme", "Birch"}));
-  QTest::mouseRelease(&views.window(), Qt::LeftButton, {}, QPoint(mark.x(), target.y()));
-  QCOMPARE(views.library.names(), QStringList({"Cedar", "Acme", "Birch"}));
-  // The name is no handle.
-  const QPoint name = Views::centerOf(views.item(row, "Birch"));
-  QTest::mousePress(&views.window(), Qt::LeftButton, {}, name);
-  for (int step = 1; step <= 10; ++step) {
-    QTest::mouseMove(&views.window(), name + (target - name) * step / 10);
-  }
-  QTest::mouseRelease(&views.window(), Qt::LeftButton, {}, target);
-  QCOMPARE(views.library.names(), QStringList({"Cedar", "Acme", "Birch"}));
-}
 
-void TestShellViews::assistiveTechnologyHearsRowsInTheirOrder() {
-  Views views;
-  for (const char* name : {"Acme", "Birch", "Cedar"}) {
-    views.library.add(name, {Section::create(QString("Logos of ") + name)});
+  void aNameOfBlanksCannotBeCreated() {
+    Views views;
+    views.start();
+    views.click(views.item(button, "Create your first brand"));
+    QTRY_VERIFY(views.item(dialog, "New Brand"));
+    views.type("   ");
+    QVERIFY(!views.item(button, "Create")->isEnabled());
+    views.press(Qt::Key_Return);
+    QVERIFY(views.item(dialog, "New Brand"));
+    QVERIFY(views.library.names().isEmpty());
   }
-  views.start();
-  const auto heard = [&] {
-    QStringList names;
-    const QAccessibleInterface* list =
-        QAccessible::queryAccessibleInterface(views.item(QAccessible::List, "Brands"));
-    for (int i = 0; i < list->childCount(); ++i) {
-      const QAccessibleInterface* child = list->child(i);
-      if (child->role() == row && !child->state().invisible)
-        names << child->text(QAccessible::Name);
+
+  void assistiveTechnologyHearsRowsInTheirOrder() {
+    Views views;
+    for (const char* name : {"Acme", "Birch", "Cedar"}) {
+      views.library.add(name, {Section::create(QString("Logos of ") + name)});
     }
-    return names;
-  };
-  QTRY_COMPARE(heard(), QStringList({"Acme", "Logos of Acme", "Birch", "Cedar"}));
-  views.click(views.item(row, "Birch"));
-  QTRY_COMPARE(heard(), QStringList({"Acme", "Birch", "Logos of Birch", "Cedar"}));
-  views.press(Qt::Key_Up, Qt::AltModifier);
-  QTRY_COMPARE(heard(), QStringList({"Birch", "Logos of Birch", "Acme", "Cedar"}));
-}
-
-void TestShellViews::theKeyboardGoesOnAtTheSelectedBrand() {
-  Views views;
-  for (const char* name : {"Acme", "Birch", "Cedar"}) {
-    views.library.add(name, {Section::create(QString("Logos of ") + name)});
+    views.start();
+    const auto heard = [&] {
+      QStringList names;
+      const QAccessibleInterface* list =
+          QAccessible::queryAccessibleInterface(views.item(QAccessible::List, "Brands"));
+      for (int i = 0; i < list->childCount(); ++i) {
+        const QAccessibleInterface* child = list->child(i);
+        if (child->role() == row && !child->state().invisible)
+          names << child->text(QAccessible::Name);
+      }
+      return names;
+    };
+    QTRY_COMPARE(heard(), QStringList({"Acme", "Logos of Acme", "Birch", "Cedar"}));
+    views.click(views.item(row, "Birch"));
+    QTRY_COMPARE(heard(), QStringList({"Acme", "Birch", "Logos of Birch", "Cedar"}));
+    views.press(Qt::Key_Up, Qt::AltModifier);
+    QTRY_COMPARE(heard(), QStringList({"Birch", "Logos of Birch", "Acme", "Cedar"}));
   }
-  views.start();
-  views.click(views.item(row, "Cedar"));
-  QTRY_VERIFY(views.item(row, "Logos of Cedar"));
-  views.press(Qt::Key_Delete);
-  QTRY_VERIFY(views.item(button, "Move to Trash"));
-  views.click(views.item(button, "Move to Trash"));
-  QTRY_VERIFY(views.item(row, "Logos of Acme"));
-  QCOMPARE(views.library.store->selection(), views.library.packagePath("Acme"));
-  const QQuickItem* list = views.item(QAccessible::List, "Brands");
-  QTRY_COMPARE(list->property("currentItem").value<QQuickItem*>(), views.item(row, "Acme"));
-}
 
-void TestShellViews::aRowWithAnOpenMenuStaysLit() {
-  Views views;
-  views.library.add("Acme");
-  views.library.add("Birch");
-  views.start();
-  const auto ground = [&] {
-    const QQuickItem* birch = views.item(row, "Birch");
-    return views.window().grabWindow().pixelColor(
-        birch->mapToScene({birch->width() - 20, 15}).toPoint());
-  };
-  const QColor resting = ground();
-  views.click(views.item(row, "Birch"), Qt::RightButton);
-  QTRY_VERIFY(views.item(entry, "Duplicate"));
-  QTest::mouseMove(&views.window(), {700, 500});
-  QVERIFY(ground() != resting);
-  views.press(Qt::Key_Escape);
-  QTRY_COMPARE(ground(), resting);
-}
-
-void TestShellViews::aRowSpringsToItsPlace() {
-  QQmlEngine engine;
-  QQmlComponent component(&engine);
-  component.setData("import TarnLoft.Shell\nSettlingOffset { y: 0; active: true }",
-                    QUrl("qrc:/test.qml"));
-  const std::unique_ptr<QObject> slide(component.create());
-  const auto offset = [&] { return slide->property("offset").toDouble(); };
-  slide->setProperty("y", 300);  // its first layout
-  QCoreApplication::processEvents();
-  QCOMPARE(offset(), 0.0);
-  slide->setProperty("y", 330);
-  QTRY_COMPARE_GT(offset(), -30.0);
-  QVERIFY(offset() < 0);
-  QTRY_COMPARE(offset(), 0.0);
-  slide->setProperty("active", false);
-  slide->setProperty("y", 0);
-  QTest::qWait(50);
-  QCOMPARE(offset(), 0.0);
-}
-
-void TestShellViews::opensMenusFromTheKeyboard() {
-  Views views;
-  views.start();
-  views.press(Qt::Key_F10);
-  QTRY_VERIFY(views.item(entry, "Import Brand…"));
-  QVERIFY(views.item(entry, "Import Brand…")->isEnabled());
-  QVERIFY(!views.item(entry, "Export Brand…")->isEnabled());
-  QVERIFY(!views.item(entry, "Export Brand Page…")->isEnabled());
-  views.press(Qt::Key_Right);
-  QTRY_VERIFY(views.item(entry, "Undo"));
-  views.press(Qt::Key_Right);
-  QTRY_VERIFY(views.item(entry, "Pick Color from Screen"));
-  QVERIFY(!views.item(entry, "Pick Color from Screen")->isEnabled());
-  views.press(Qt::Key_Escape);
-  QTRY_VERIFY(!views.item(entry, "Pick Color from Screen"));
-}
-
-void TestShellViews::theMenuOfABrandHasItsEntries() {
-  Views views;
-  views.library.add("Acme");
-  views.start();
-  views.click(views.item(row, "Acme"), Qt::RightButton);
-  for (const char* text : {"Rename…", "Duplicate", "Export Brand Page…", "Export Brand File…",
-                           "Show in File Manager", "Move to Trash"}) {
-    QTRY_VERIFY2(views.item(entry, text), text);
+  void theKeyboardGoesOnAtTheSelectedBrand() {
+    Views views;
+    for (const char* name : {"Acme", "Birch", "Cedar"}) {
+      views.library.add(name, {Section::create(QString("Logos of ") + name)});
+    }
+    views.start();
+    views.click(views.item(row, "Cedar"));
+    QTRY_VERIFY(views.item(row, "Logos of Cedar"));
+    views.press(Qt::Key_Delete);
+    QTRY_VERIFY(views.item(button, "Move to Trash"));
+    views.click(views.item(button, "Move to Trash"));
+    QTRY_VERIFY(views.item(row, "Logos of Acme"));
+    QCOMPARE(views.library.store->selection(), views.library.packagePath("Acme"));
+    const QQuickItem* list = views.item(QAccessible::List, "Brands");
+    QTRY_COMPARE(list->property("currentItem").value<QQuickItem*>(), views.item(row, "Acme"));
   }
-  views.click(views.item(entry, "Show in File Manager"));
-  QTRY_COMPARE(views.library.viewer.revealed, QStringList(views.library.packagePath("Acme")));
-  views.click(views.item(row, "Acme"));
-  views.press(Qt::Key_Menu);
-  QTRY_VERIFY(views.item(entry, "Duplicate"));
 
-  // It has gone by the time that a dialog opens, also where nothing moves.
-  Motion::of(views.engine).setReduced(true);
-  std::optional<bool> isOpen;
-  views.library.dialogs.whileSaving = [&] {
-    QTest::qWait(200);
-    isOpen = views.item(entry, "Duplicate");
-  };
-  views.click(views.item(entry, "Export Brand Page…"));
-  QTRY_VERIFY(isOpen);
-  QVERIFY(!*isOpen);
-}
+  void aRowWithAnOpenMenuStaysLit() {
+    Views views;
+    views.library.add("Acme");
+    views.library.add("Birch");
+    views.start();
+    const auto ground = [&] {
+      const QQuickItem* birch = views.item(row, "Birch");
+      return views.window().grabWindow().pixelColor(
+          birch->mapToScene({birch->width() - 20, 15}).toPoint());
+    };
+    const QColor resting = ground();
+    views.click(views.item(row, "Birch"), Qt::RightButton);
+    QTRY_VERIFY(views.item(entry, "Duplicate"));
+    QTest::mouseMove(&views.window(), {700, 500});
+    QVERIFY(ground() != resting);
+    views.press(Qt::Key_Escape);
+    QTRY_COMPARE(ground(), resting);
+  }
 
-void TestShellViews::shortcutsWaitBehindASheet() {
-  Views views;
-  views.library.add("Acme");
-  views.start();
-  views.press(Qt::Key_N, Qt::ControlModifier);
-  QTRY_VERIFY(views.item(dialog, "New Brand"));
-  views.press(Qt::Key_I, Qt::ControlModifier | Qt::ShiftModifier);
-  QVERIFY(views.library.dialogs.openTypes.isEmpty());
-  views.press(Qt::Key_Escape);
-  QTRY_VERIFY(!views.item(dialog, "New Brand"));
-  views.press(Qt::Key_I, Qt::ControlModifier | Qt::ShiftModifier);
-  QVERIFY(!views.library.dialogs.openTypes.isEmpty());
-}
+  void aRowSpringsToItsPlace() {
+    QQmlEngine engine;
+    QQmlComponent component(&engine);
+    component.setData("import TarnLoft.Shell\nSettlingOffset { y: 0; active: true }",
+                      QUrl("qrc:/test.qml"));
+    const std::unique_ptr<QObject> slide(component.create());
+    const auto offset = [&] { return slide->property("offset").toDouble(); };
+    slide->setProperty("y", 300);  // its first layout
+    QCoreApplication::processEvents();
+    QCOMPARE(offset(), 0.0);
+    slide->setProperty("y", 330);
+    QTRY_COMPARE_GT(offset(), -30.0);
+    QVERIFY(offset() < 0);
+    QTRY_COMPARE(offset(), 0.0);
+    slide->setProperty("active", false);
+    slide->setProperty("y", 0);
+    QTest::qWait(50);
+    QCOMPARE(offset(), 0.0);
+  }
 
-void TestShellViews::aNarrowWindowFoldsItsSidebar() {
-  Views views;
-  views.library.add("Acme", {sectionOf("Colors", {colorItem("Sea")})});
-  views.library.add("Birch");
-  views.start();
-  const double width = views.window().property("sidebarWidth").toDouble();
-  QVERIFY(!views.item(button, "Show Sidebar"));
-  views.narrow();
-  QTRY_VERIFY(views.item(button, "Show Sidebar"));
-  QVERIFY(!views.item(row, "Acme"));
-  QCOMPARE(views.window().property("sidebarWidth").toDouble(), width);  // which is kept
-  const auto tabTo = [&](const QQuickItem* item) {
-    for (int tabs = 0; tabs < 20 && !item->hasActiveFocus(); ++tabs) views.press(Qt::Key_Tab);
-  };
-  tabTo(views.item(button, "Show Sidebar"));
-  views.press(Qt::Key_Space);
-  QTRY_VERIFY(views.item(row, "Acme"));
-  views.press(Qt::Key_A, Qt::ControlModifier);
-  QCOMPARE(views.window().property("content").value<ContentModel*>()->selection()->count(), 1);
-  views.press(Qt::Key_Escape);
-  QTRY_VERIFY(!views.item(row, "Acme"));
-  QVERIFY(views.item(button, "Show Sidebar")->hasActiveFocus());
-  // A choice, a press beside it and the Tab key's way back to the page each end it.
-  const auto open = [&] {
-    views.click(views.item(button, "Show Sidebar"));
-    QTRY_COMPARE(Views::left(views.item(row, "Birch")), 0);
-  };
-  open();
-  views.click(views.item(row, "Birch"));
-  QTRY_VERIFY(!views.item(row, "Birch"));
-  QCOMPARE(views.library.store->selection(), views.library.packagePath("Birch"));
-  open();
-  QTest::mouseClick(&views.window(), Qt::LeftButton, {}, {450, 300});
-  QTRY_VERIFY(!views.item(row, "Birch"));
-  open();
-  tabTo(views.item(button, "Show Sidebar"));
-  QTRY_VERIFY(!views.item(row, "Birch"));
-  open();
-  views.window().resize(900, 600);
-  QTRY_VERIFY(!views.item(button, "Show Sidebar"));
-  QCOMPARE(Views::left(views.item(row, "Birch")), 0);
-  QCOMPARE(views.window().property("sidebarWidth").toDouble(), width);
-}
+  void theMenusOfferWhatCanBeDone() {
+    Views views;
+    views.start();
+    views.press(Qt::Key_F10);
+    QTRY_VERIFY(views.item(entry, "Import Brand…"));
+    QVERIFY(views.item(entry, "Import Brand…")->isEnabled());
+    QVERIFY(!views.item(entry, "Export Brand…")->isEnabled());
+    QVERIFY(!views.item(entry, "Export Brand Page…")->isEnabled());
+    views.press(Qt::Key_Right);
+    QTRY_VERIFY(views.item(entry, "Undo"));
+    views.press(Qt::Key_Right);
+    QTRY_VERIFY(views.item(entry, "Pick Color from Screen"));
+    QVERIFY(!views.item(entry, "Pick Color from Screen")->isEnabled());
+  }
 
-void TestShellViews::aFoldedSidebarHasTheMenus() {
-  Views views;
-  views.library.add("Acme");
-  views.start();
-  views.narrow();
-  QTRY_VERIFY(views.item(button, "Show Sidebar"));
-  views.press(Qt::Key_F10);
-  QTRY_VERIFY(views.item(entry, "Import Brand…"));
-  QVERIFY(views.item(row, "Acme"));
-  views.press(Qt::Key_Escape);
-  QTRY_VERIFY(!views.item(entry, "Import Brand…"));
-  views.press(Qt::Key_Escape);
-  QTRY_VERIFY(!views.item(row, "Acme"));
-  views.press(Qt::Key_N, Qt::ControlModifier);  // a command of a menu that is folded away
-  QTRY_VERIFY(views.item(dialog, "New Brand"));
-}
+  void theMenuOfABrandHasItsEntries() {
+    Views views;
+    views.library.add("Acme");
+    views.start();
+    views.click(views.item(row, "Acme"), Qt::RightButton);
+    for (const char* text : {"Rename…", "Duplicate", "Export Brand Page…", "Export Brand File…",
+                             "Show in File Manager", "Move to Trash"}) {
+      QTRY_VERIFY2(views.item(entry, text), text);
+    }
+    views.click(views.item(entry, "Show in File Manager"));
+    QTRY_COMPARE(views.library.viewer.revealed, QStringList(views.library.packagePath("Acme")));
+    views.click(views.item(row, "Acme"));
+    views.press(Qt::Key_Menu);
+    QTRY_VERIFY(views.item(entry, "Duplicate"));
+
+    // It has gone by the time that a dialog opens, also where nothing moves.
+    Motion::of(views.engine).setReduced(true);
+    std::optional<bool> isOpen;
+    views.library.dialogs.whileSaving = [&] {
+      QTest::qWait(200);
+      isOpen = views.item(entry, "Duplicate");
+    };
+    views.click(views.item(entry, "Export Brand Page…"));
+    QTRY_VERIFY(isOpen);
+    QVERIFY(!*isOpen);
+  }
+
+  void shortcutsWaitBehindASheet() {
+    Views views;
+    views.library.add("Acme");
+    views.start();
+    views.press(Qt::Key_N, Qt::ControlModifier);
+    QTRY_VERIFY(views.item(dialog, "New Brand"));
+    views.press(Qt::Key_I, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(views.library.dialogs.openTypes.isEmpty());
+    views.press(Qt::Key_Escape);
+    QTRY_VERIFY(!views.item(dialog, "New Brand"));
+    views.press(Qt::Key_I, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(!views.library.dialogs.openTypes.isEmpty());
+  }
+
+  void aNarrowWindowFoldsItsSidebar() {
+    Views views;
+    views.library.add("Acme", {sectionOf("Colors", {colorItem("Sea")})});
+    views.library.add("Birch");
+    views.start();
+    const double width = views.window().property("sidebarWidth").toDouble();
+    QVERIFY(!views.item(button, "Show Sidebar"));
+    views.narrow();
+    QTRY_VERIFY(views.item(button, "Show Sidebar"));
+    QVERIFY(!views.item(row, "Acme"));
+    QCOMPARE(views.window().property("sidebarWidth").toDouble(), width);  // which is kept
+    const auto tabTo = [&](const QQuickItem* item) {
+      for (int tabs = 0; tabs < 20 && !item->hasActiveFocus(); ++tabs) views.press(Qt::Key_Tab);
+    };
+    tabTo(views.item(button, "Show Sidebar"));
+    views.press(Qt::Key_Space);
+    QTRY_VERIFY(views.item(row, "Acme"));
+    views.press(Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(views.window().property("content").value<ContentModel*>()->selection()->count(), 1);
+    views.press(Qt::Key_Escape);
+    QTRY_VERIFY(!views.item(row, "Acme"));
+    QVERIFY(views.item(button, "Show Sidebar")->hasActiveFocus());
+    // A choice, a press beside it and the Tab key's way back to the page each end it.
+    const auto open = [&] {
+      views.click(views.item(button, "Show Sidebar"));
+      QTRY_COMPARE(Views::left(views.item(row, "Birch")), 0);
+    };
+    open();
+    views.click(views.item(row, "Birch"));
+    QTRY_VERIFY(!views.item(row, "Birch"));
+    QCOMPARE(views.library.store->selection(), views.library.packagePath("Birch"));
+    open();
+    QTest::mouseClick(&views.window(), Qt::LeftButton, {}, {450, 300});
+    QTRY_VERIFY(!views.item(row, "Birch"));
+    open();
+    tabTo(views.item(button, "Show Sidebar"));
+    QTRY_VERIFY(!views.item(row, "Birch"));
+    open();
+    views.window().resize(900, 600);
+    QTRY_VERIFY(!views.item(button, "Show Sidebar"));
+    QCOMPARE(Views::left(views.item(row, "Birch")), 0);
+    QCOMPARE(views.window().property("sidebarWidth").toDouble(), width);
+  }
+
+  void aFoldedSidebarHasTheMenus() {
+    Views views;
+    views.library.add("Acme");
+    views.start();
+    views.narrow();
+    QTRY_VERIFY(views.item(button, "Show Sidebar"));
+    views.press(Qt::Key_F10);
+    QTRY_VERIFY(views.item(entry, "Import Brand…"));
+    QVERIFY(views.item(row, "Acme"));
+    views.press(Qt::Key_Escape);
+    QTRY_VERIFY(!views.item(entry, "Import Brand…"));
+    views.press(Qt::Key_Escape);
+    QTRY_VERIFY(!views.item(row, "Acme"));
+    views.press(Qt::Key_N, Qt::ControlModifier);  // a command of a menu that is folded away
+    QTRY_VERIFY(views.item(dialog, "New Brand"));
+  }
+};
 
 QTEST_MAIN(TestShellViews)
 #include "tst_shellviews.moc"

@@ -1,5 +1,6 @@
 #include "model/Uuid.h"
 #include "shell/sidebar/Sidebar.h"
+#include "testing/Cases.h"
 #include "testing/TestLibrary.h"
 
 #include <QAbstractItemModelTester>
@@ -9,24 +10,6 @@
 #include <QTest>
 
 using namespace tarnloft;
-
-class TestSidebar : public QObject {
-  Q_OBJECT
-
- private slots:
-  void listsBrandsAndTheOpenOnesSections();
-  void tellsOfMarksAndAccents();
-  void showsEditsOfTheOpenBrandAtOnce();
-  void selectingMovesTheSectionsOnly();
-  void oneMoveIsOneSignal();
-  void followsAnyChange();
-  void renamesTheBrandThatWasAsked();
-  void asksBeforeDeleting();
-  void reordersWhileDragging();
-  void movesByKeyboard_data();
-  void movesByKeyboard();
-  void passesOverBrandsThatHaveGone();
-};
 
 namespace {
 
@@ -76,203 +59,186 @@ struct Signals {
 
 }  // namespace
 
-void TestSidebar::listsBrandsAndTheOpenOnesSections() {
-  SidebarTest test;
-  test.library.add("Acme", {section("Logos"), section("")});
-  test.library.add("Birch", {section("Colors")});
-  Sidebar& sidebar = test.start();
-  QCOMPARE(test.texts(), QStringList({"Acme *", "  Logos", "  Untitled Section", "Birch"}));
-  QCOMPARE(sidebar.rows()->selectedRow(), 0);
-  sidebar.select(test.library.packagePath("Birch"));
-  QCoreApplication::processEvents();
-  QCOMPARE(test.texts(), QStringList({"Acme", "Birch *", "  Colors"}));
-  QCOMPARE(sidebar.rows()->selectedRow(), 1);
-  sidebar.scrollToSection(test.id("Colors"));
-  QCOMPARE(test.library.store->scrollToSection(),
-           test.library.store->openDocument()->brand().sections.at(0).id);
-}
+class TestSidebar : public QObject {
+  Q_OBJECT
 
-void TestSidebar::tellsOfMarksAndAccents() {
-  SidebarTest test;
-  Brand plain = Brand::create("Plain");
-  plain.emblem = Emblem{};
-  test.library.save("Plain", plain);
-  Brand tinted = Brand::create("Tinted");
-  tinted.accentHex = "#11223380";
-  tinted.accentHexDark = "no colour";
-  test.library.save("Tinted", tinted);
-  Sidebar& sidebar = test.start();
-  QCOMPARE(test.value("Plain", SidebarModel::marked), false);
-  QCOMPARE(test.value("Tinted", SidebarModel::marked), true);
-  const auto look = [&] { return test.value("Tinted", SidebarModel::look).value<EmblemLook>(); };
-  QCOMPARE(look().text, QStringLiteral("T"));
-  QCOMPARE(look().color.rgba(), 0x80112233u);
-  sidebar.rows()->setAppearance(ColorUtil::Appearance::dark);
-  QCoreApplication::processEvents();
-  QCOMPARE(look().color, QColor(0x8e8e93));
-}
-
-void TestSidebar::showsEditsOfTheOpenBrandAtOnce() {
-  SidebarTest test;
-  test.library.add("Acme");
-  test.start();
-  test.library.store->openDocument()->edit([](Brand& brand) {
-    brand.emblem = Emblem{};
-    brand.sections = {section("New")};
-  });
-  QCoreApplication::processEvents();
-  QCOMPARE(test.value("Acme", SidebarModel::marked), false);
-  QCOMPARE(test.texts(), QStringList({"Acme *", "  New"}));
-}
-
-void TestSidebar::selectingMovesTheSectionsOnly() {
-  SidebarTest test;
-  test.library.add("Acme", {section("A"), section("B")});
-  test.library.add("Birch", {section("C")});
-  Sidebar& sidebar = test.start();
-  Signals told(*sidebar.rows());
-  sidebar.select(test.library.packagePath("Birch"));
-  QCoreApplication::processEvents();
-  // Two brands look different, one run of sections goes and one comes.
-  QCOMPARE(told.counts(), QList<qsizetype>({1, 1, 0, 2, 0}));
-}
-
-void TestSidebar::oneMoveIsOneSignal() {
-  SidebarTest test;
-  for (const char* name : {"Acme", "Birch", "Cedar"}) {
-    test.library.add(name, {section("A"), section("B"), section("C")});
-  }
-  Sidebar& sidebar = test.start();
-  Signals told(*sidebar.rows());
-  sidebar.beginDrag(test.id("Cedar"));
-  sidebar.dragEntered(test.id("Acme"));
-  sidebar.dragEntered(test.id("Acme"));
-  QCoreApplication::processEvents();
-  QCOMPARE(told.counts(), QList<qsizetype>({0, 0, 1, 0, 0}));
-  QCOMPARE(test.texts().first(), QStringLiteral("Cedar"));
-}
-
-void TestSidebar::followsAnyChange() {
-  SidebarTest test;
-  for (int i = 0; i < 6; ++i) test.library.add("Brand " + QString::number(i), {section("S")});
-  Sidebar& sidebar = test.start();
-  LibraryStore& store = *test.library.store;
-  QRandomGenerator random(3);
-  for (int step = 0; step < 200; ++step) {
-    const QList<BrandSummary> brands = store.brands();
-    const BrandSummary& any = brands.at(random.bounded(int(brands.size())));
-    switch (random.bounded(5)) {
-      case 0: sidebar.select(any.packageURL); break;
-      case 1: store.moveBrand(any.brandID, brands.first().brandID); break;
-      case 2: store.moveBrand(any.brandID, std::nullopt); break;
-      case 3: brands.size() < 9 ? sidebar.duplicate(any.packageURL) : store.deleteBrand(any); break;
-      case 4:
-        if (!store.openDocument()) break;
-        store.openDocument()->edit([&](Brand& b) { b.sections.prepend(section("More")); });
-        break;
-    }
-    if (random.bounded(3) == 0) continue;  // several changes in one turn
+ private slots:
+  void listsBrandsAndTheOpenOnesSections() {
+    SidebarTest test;
+    test.library.add("Acme", {section("Logos"), section("")});
+    test.library.add("Birch", {section("Colors")});
+    Sidebar& sidebar = test.start();
+    QCOMPARE(test.texts(), QStringList({"Acme *", "  Logos", "  Untitled Section", "Birch"}));
+    QCOMPARE(sidebar.rows()->selectedRow(), 0);
+    sidebar.select(test.library.packagePath("Birch"));
     QCoreApplication::processEvents();
-    const SidebarModel anew(store);
-    QCOMPARE(sidebar.rows()->rows(), anew.rows());
+    QCOMPARE(test.texts(), QStringList({"Acme", "Birch *", "  Colors"}));
+    QCOMPARE(sidebar.rows()->selectedRow(), 1);
+    sidebar.scrollToSection(test.id("Colors"));
+    QCOMPARE(test.library.store->scrollToSection(),
+             test.library.store->openDocument()->brand().sections.at(0).id);
   }
-}
 
-void TestSidebar::renamesTheBrandThatWasAsked() {
-  SidebarTest test;
-  test.library.add("Acme");
-  test.library.add("Birch");
-  Sidebar& sidebar = test.start();
-  sidebar.beginRename(test.library.packagePath("Birch"));
-  QVERIFY(sidebar.isRenaming());
-  QCOMPARE(sidebar.renameText(), QStringLiteral("Birch"));
-  sidebar.commitRename("Cedar");
-  sidebar.endRename();
-  QVERIFY(!sidebar.isRenaming());
-  QCOMPARE(test.library.names(), QStringList({"Acme", "Cedar"}));
-  QCOMPARE(test.library.store->selection(), test.library.packagePath("Cedar"));
-  sidebar.commitRename("Nothing asked");
-  QCOMPARE(test.library.names(), QStringList({"Acme", "Cedar"}));
-}
+  void tellsOfMarksAndAccents() {
+    SidebarTest test;
+    Brand plain = Brand::create("Plain");
+    plain.emblem = Emblem{};
+    test.library.save("Plain", plain);
+    Brand tinted = Brand::create("Tinted");
+    tinted.accentHex = "#11223380";
+    tinted.accentHexDark = "no colour";
+    test.library.save("Tinted", tinted);
+    Sidebar& sidebar = test.start();
+    QCOMPARE(test.value("Plain", SidebarModel::marked), false);
+    QCOMPARE(test.value("Tinted", SidebarModel::marked), true);
+    const auto look = [&] { return test.value("Tinted", SidebarModel::look).value<EmblemLook>(); };
+    QCOMPARE(look().text, "T");
+    QCOMPARE(look().color.rgba(), 0x80112233u);
+    sidebar.rows()->setAppearance(ColorUtil::Appearance::dark);
+    QCoreApplication::processEvents();
+    QCOMPARE(look().color, QColor(0x8e8e93));
+  }
 
-void TestSidebar::asksBeforeDeleting() {
-  SidebarTest test;
-  test.library.add("Acme");
-  test.library.add("Say \"hi\"");
-  Sidebar& sidebar = test.start();
-  sidebar.askDelete(test.library.packagePath("Say \"hi\""));
-  QVERIFY(sidebar.isDeleting());
-  QCOMPARE(sidebar.deleteTitle(), QStringLiteral("Move “Say \"hi\"” to the Trash?"));
-  sidebar.endDelete();
-  sidebar.confirmDelete();
-  QCOMPARE(test.library.store->brands().size(), 2);
-  sidebar.askDelete(test.library.packagePath("Acme"));
-  sidebar.confirmDelete();
-  sidebar.endDelete();
-  QVERIFY(!sidebar.isDeleting());
-  QCOMPARE(test.library.names(), QStringList({"Say \"hi\""}));
-  QVERIFY(QFile::exists(test.library.disk.path("trash/Acme.tarnloft")));
-}
+  void selectingMovesTheSectionsOnly() {
+    SidebarTest test;
+    test.library.add("Acme", {section("A"), section("B")});
+    test.library.add("Birch", {section("C")});
+    Sidebar& sidebar = test.start();
+    Signals told(*sidebar.rows());
+    sidebar.select(test.library.packagePath("Birch"));
+    QCoreApplication::processEvents();
+    // Two brands look different, one run of sections goes and one comes.
+    QCOMPARE(told.counts(), QList<qsizetype>({1, 1, 0, 2, 0}));
+  }
 
-void TestSidebar::reordersWhileDragging() {
-  SidebarTest test;
-  for (const char* name : {"Acme", "Birch", "Cedar"}) test.library.add(name);
-  Sidebar& sidebar = test.start();
-  const QString acme = test.id("Acme"), birch = test.id("Birch"), cedar = test.id("Cedar");
-  QSignalSpy moved(&sidebar, &Sidebar::moved);
-  sidebar.dragEntered(birch);
-  sidebar.dragEnteredEnd();
-  QVERIFY(moved.isEmpty());  // nothing is dragged
-  sidebar.beginDrag(acme);
-  sidebar.dragEntered(acme);
-  QVERIFY(moved.isEmpty());
-  sidebar.dragEntered(cedar);
-  QCOMPARE(test.library.names(), QStringList({"Birch", "Acme", "Cedar"}));
-  sidebar.dragEnteredEnd();
-  QCOMPARE(test.library.names(), QStringList({"Birch", "Cedar", "Acme"}));
-  sidebar.endDrag();
-  QVERIFY(sidebar.draggingBrandID().isEmpty());
-  test.library.start();
-  QCOMPARE(test.library.names(), QStringList({"Birch", "Cedar", "Acme"}));
-}
+  void oneMoveIsOneSignal() {
+    SidebarTest test;
+    for (const char* name : {"Acme", "Birch", "Cedar"}) {
+      test.library.add(name, {section("A"), section("B"), section("C")});
+    }
+    Sidebar& sidebar = test.start();
+    Signals told(*sidebar.rows());
+    sidebar.beginDrag(test.id("Cedar"));
+    sidebar.dragEntered(test.id("Acme"));
+    sidebar.dragEntered(test.id("Acme"));
+    QCoreApplication::processEvents();
+    QCOMPARE(told.counts(), QList<qsizetype>({0, 0, 1, 0, 0}));
+    QCOMPARE(test.texts().first(), "Cedar");
+  }
 
-void TestSidebar::movesByKeyboard_data() {
-  QTest::addColumn<QString>("brand");
-  QTest::addColumn<bool>("up");
-  QTest::addColumn<QString>("order");
-  QTest::newRow("first up") << "Acme" << true << "Acme Birch Cedar";
-  QTest::newRow("second up") << "Birch" << true << "Birch Acme Cedar";
-  QTest::newRow("first down") << "Acme" << false << "Birch Acme Cedar";
-  QTest::newRow("second down") << "Birch" << false << "Acme Cedar Birch";
-  QTest::newRow("last down") << "Cedar" << false << "Acme Birch Cedar";
-}
+  void followsAnyChange() {
+    SidebarTest test;
+    for (int i = 0; i < 6; ++i) test.library.add("Brand " + QString::number(i), {section("S")});
+    Sidebar& sidebar = test.start();
+    LibraryStore& store = *test.library.store;
+    QRandomGenerator random(3);
+    for (int step = 0; step < 200; ++step) {
+      const QList<BrandSummary> brands = store.brands();
+      const BrandSummary& any = brands.at(random.bounded(int(brands.size())));
+      switch (random.bounded(5)) {
+        case 0: sidebar.select(any.packageURL); break;
+        case 1: store.moveBrand(any.brandID, brands.first().brandID); break;
+        case 2: store.moveBrand(any.brandID, std::nullopt); break;
+        case 3:
+          brands.size() < 9 ? sidebar.duplicate(any.packageURL) : store.deleteBrand(any);
+          break;
+        case 4:
+          if (!store.openDocument()) break;
+          store.openDocument()->edit([&](Brand& b) { b.sections.prepend(section("More")); });
+          break;
+      }
+      if (random.bounded(3) == 0) continue;  // several changes in one turn
+      QCoreApplication::processEvents();
+      const SidebarModel anew(store);
+      QCOMPARE(sidebar.rows()->rows(), anew.rows());
+    }
+  }
 
-void TestSidebar::movesByKeyboard() {
-  QFETCH(QString, brand);
-  QFETCH(bool, up);
-  QFETCH(QString, order);
-  SidebarTest test;
-  for (const char* name : {"Acme", "Birch", "Cedar"}) test.library.add(name);
-  Sidebar& sidebar = test.start();
-  up ? sidebar.moveUp(test.id(brand)) : sidebar.moveDown(test.id(brand));
-  QCOMPARE(test.library.names().join(' '), order);
-}
+  void renamesTheBrandThatWasAsked() {
+    SidebarTest test;
+    test.library.add("Acme");
+    test.library.add("Birch");
+    Sidebar& sidebar = test.start();
+    sidebar.beginRename(test.library.packagePath("Birch"));
+    QVERIFY(sidebar.isRenaming());
+    QCOMPARE(sidebar.renameText(), "Birch");
+    sidebar.commitRename("Cedar");
+    sidebar.endRename();
+    QVERIFY(!sidebar.isRenaming());
+    QCOMPARE(test.library.names(), QStringList({"Acme", "Cedar"}));
+    QCOMPARE(test.library.store->selection(), test.library.packagePath("Cedar"));
+    sidebar.commitRename("Nothing asked");
+    QCOMPARE(test.library.names(), QStringList({"Acme", "Cedar"}));
+  }
 
-void TestSidebar::passesOverBrandsThatHaveGone() {
-  SidebarTest test;
-  test.library.add("Acme");
-  Sidebar& sidebar = test.start();
-  const QString gone = test.library.packagePath("Gone");
-  sidebar.beginRename(gone);
-  QVERIFY(!sidebar.isRenaming());
-  sidebar.askDelete(gone);
-  QVERIFY(!sidebar.isDeleting());
-  sidebar.duplicate(gone);
-  sidebar.exportFile(gone);
-  sidebar.exportPage(gone);
-  sidebar.moveUp(canonicalString(QUuid::createUuid()));
-  QCOMPARE(test.library.names(), QStringList("Acme"));
-}
+  void asksBeforeDeleting() {
+    SidebarTest test;
+    test.library.add("Acme");
+    test.library.add("Say \"hi\"");
+    Sidebar& sidebar = test.start();
+    sidebar.askDelete(test.library.packagePath("Say \"hi\""));
+    QVERIFY(sidebar.isDeleting());
+    QCOMPARE(sidebar.deleteTitle(), "Move “Say \"hi\"” to the Trash?");
+    sidebar.endDelete();
+    sidebar.confirmDelete();
+    QCOMPARE(test.library.store->brands().size(), 2);
+    sidebar.askDelete(test.library.packagePath("Acme"));
+    sidebar.confirmDelete();
+    sidebar.endDelete();
+    QVERIFY(!sidebar.isDeleting());
+    QCOMPARE(test.library.names(), QStringList({"Say \"hi\""}));
+    QVERIFY(QFile::exists(test.library.disk.path("trash/Acme.tarnloft")));
+  }
+
+  void reordersWhileDragging() {
+    SidebarTest test;
+    for (const char* name : {"Acme", "Birch", "Cedar"}) test.library.add(name);
+    Sidebar& sidebar = test.start();
+    QSignalSpy moved(&sidebar, &Sidebar::moved);
+    sidebar.dragEntered(test.id("Birch"));
+    sidebar.dragEnteredEnd();  // nothing is dragged
+    sidebar.beginDrag(test.id("Acme"));
+    sidebar.dragEntered(test.id("Acme"));
+    QVERIFY(moved.isEmpty());
+    sidebar.dragEntered(test.id("Cedar"));
+    QCOMPARE(test.library.names(), QStringList({"Birch", "Acme", "Cedar"}));
+    sidebar.dragEnteredEnd();
+    QCOMPARE(test.library.names(), QStringList({"Birch", "Cedar", "Acme"}));
+    sidebar.endDrag();
+    QVERIFY(sidebar.draggingBrandID().isEmpty());
+  }
+
+  void movesByKeyboard() {
+    const Cases<QString, bool, QString> cases{{"first up", "Acme", true, "Acme Birch Cedar"},
+                                              {"second up", "Birch", true, "Birch Acme Cedar"},
+                                              {"first down", "Acme", false, "Birch Acme Cedar"},
+                                              {"second down", "Birch", false, "Acme Cedar Birch"},
+                                              {"last down", "Cedar", false, "Acme Birch Cedar"}};
+    cases.check([&](const QString& brand, bool up, const QString& order) {
+      SidebarTest test;
+      for (const char* name : {"Acme", "Birch", "Cedar"}) test.library.add(name);
+      Sidebar& sidebar = test.start();
+      up ? sidebar.moveUp(test.id(brand)) : sidebar.moveDown(test.id(brand));
+      QCOMPARE(test.library.names().join(' '), order);
+    });
+  }
+
+  void passesOverBrandsThatHaveGone() {
+    SidebarTest test;
+    test.library.add("Acme");
+    Sidebar& sidebar = test.start();
+    const QString gone = test.library.packagePath("Gone");
+    sidebar.beginRename(gone);
+    QVERIFY(!sidebar.isRenaming());
+    sidebar.askDelete(gone);
+    QVERIFY(!sidebar.isDeleting());
+    sidebar.duplicate(gone);
+    sidebar.exportFile(gone);
+    sidebar.exportPage(gone);
+    sidebar.moveUp(canonicalString(QUuid::createUuid()));
+    QCOMPARE(test.library.names(), QStringList("Acme"));
+  }
+};
 
 QTEST_GUILESS_MAIN(TestSidebar)
 #include "tst_sidebar.moc"

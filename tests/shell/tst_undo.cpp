@@ -7,18 +7,6 @@
 
 using namespace tarnloft;
 
-class TestUndo : public QObject {
-  Q_OBJECT
-
- private slots:
-  void takesBackAndBringsBack();
-  void namesItsEntries();
-  void aNewStepDropsWhatCouldBeRedone();
-  void aStepWithoutAnInverseIsDropped();
-  void forgetsAllSteps();
-  void doesAsTheHistoryInMemoryDoes();
-};
-
 namespace {
 
 // A value with undo, as a document has it.
@@ -42,107 +30,83 @@ struct Value {
 
 }  // namespace
 
-void TestUndo::takesBackAndBringsBack() {
-  StackUndoManager undo;
-  Value value;
-  value.set(1, undo, QStringLiteral("One"));
-  value.set(2, undo, QStringLiteral("Two"));
-  QCOMPARE(value.value, 2);
-  undo.undo();
-  QCOMPARE(value.value, 1);
-  undo.undo();
-  QCOMPARE(value.value, 0);
-  QVERIFY(!undo.canUndo());
-  undo.undo();
-  QCOMPARE(value.value, 0);
-  for (int round = 0; round < 3; ++round) {
-    undo.redo();
-    QCOMPARE(value.value, 1);
+class TestUndo : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void tellsOfEachChange() {
+    StackUndoManager undo;
+    QSignalSpy changed(&undo, &StackUndoManager::changed);
+    Value value;
+    value.set(1, undo, "Delete");
+    QVERIFY(!changed.isEmpty());
+    changed.clear();
+    undo.undo();
+    QVERIFY(!changed.isEmpty());
+    undo.undo();  // nothing is left
+    QCOMPARE(value.value, 0);
+  }
+
+  // As one whose document has gone.
+  void aStepWithoutAnInverseIsDropped() {
+    StackUndoManager undo;
+    Value value;
+    value.set(1, undo, "One");
+    undo.registerUndo([] {});
+    undo.setActionName("Gone");
+    undo.undo();
+    undo.setActionName("Nobody's");
+    QVERIFY(!undo.canRedo());
+    QCOMPARE(undo.undoText(), "Undo One");
     undo.undo();
     QCOMPARE(value.value, 0);
   }
-  undo.redo();
-  undo.redo();
-  QCOMPARE(value.value, 2);
-  QVERIFY(!undo.canRedo());
-}
 
-void TestUndo::namesItsEntries() {
-  StackUndoManager undo;
-  QCOMPARE(undo.undoText(), QStringLiteral("Undo"));
-  QCOMPARE(undo.redoText(), QStringLiteral("Redo"));
-  QSignalSpy changed(&undo, &StackUndoManager::changed);
-  Value value;
-  value.set(1, undo, QStringLiteral("Delete"));
-  QVERIFY(!changed.isEmpty());
-  QCOMPARE(undo.undoText(), QStringLiteral("Undo Delete"));
-  changed.clear();
-  undo.undo();
-  QVERIFY(!changed.isEmpty());
-  QCOMPARE(undo.undoText(), QStringLiteral("Undo"));
-  QCOMPARE(undo.redoText(), QStringLiteral("Redo Delete"));
-}
-
-void TestUndo::aNewStepDropsWhatCouldBeRedone() {
-  StackUndoManager undo;
-  Value value;
-  value.set(1, undo, QStringLiteral("One"));
-  undo.undo();
-  value.set(2, undo, QStringLiteral("Two"));
-  QVERIFY(!undo.canRedo());
-  undo.undo();
-  QCOMPARE(value.value, 0);
-}
-
-// As one whose document has gone.
-void TestUndo::aStepWithoutAnInverseIsDropped() {
-  StackUndoManager undo;
-  Value value;
-  value.set(1, undo, QStringLiteral("One"));
-  undo.registerUndo([] {});
-  undo.setActionName(QStringLiteral("Gone"));
-  undo.undo();
-  undo.setActionName(QStringLiteral("Nobody's"));
-  QVERIFY(!undo.canRedo());
-  QCOMPARE(undo.undoText(), QStringLiteral("Undo One"));
-  undo.undo();
-  QCOMPARE(value.value, 0);
-}
-
-void TestUndo::forgetsAllSteps() {
-  StackUndoManager undo;
-  Value value;
-  value.set(1, undo, QStringLiteral("One"));
-  value.set(2, undo, QStringLiteral("Two"));
-  undo.undo();
-  undo.clear();
-  QVERIFY(!undo.canUndo());
-  QVERIFY(!undo.canRedo());
-  undo.setActionName(QStringLiteral("Nobody's"));
-  QCOMPARE(undo.undoText(), QStringLiteral("Undo"));
-}
-
-void TestUndo::doesAsTheHistoryInMemoryDoes() {
-  QRandomGenerator random(7);
-  for (int run = 0; run < 200; ++run) {
+  void forgetsAllSteps() {
     StackUndoManager undo;
-    UndoHistory history;
-    Value here, there;
-    for (int step = 0; step < 30; ++step) {
-      const QString name = QString::number(step);
-      switch (random.bounded(3)) {
-        case 0: here.set(step, undo, name), there.set(step, history, name); break;
-        case 1: undo.undo(), history.undo(); break;
-        case 2: undo.redo(), history.redo(); break;
+    Value value;
+    value.set(1, undo, "One");
+    value.set(2, undo, "Two");
+    undo.undo();
+    undo.clear();
+    undo.setActionName("Nobody's");
+    QVERIFY(!undo.canUndo() && !undo.canRedo());
+    QCOMPARE(undo.undoText(), "Undo");
+  }
+
+  void takesTheLastPartOfAStepBackFirst() {
+    StackUndoManager undo;
+    QString order;
+    undo.registerUndo([&] {
+      for (const char* part : {"a", "b"}) undo.registerUndo([&order, part] { order += part; });
+    });
+    undo.undo();
+    undo.redo();
+    QCOMPARE(order, "ba");
+  }
+
+  void doesAsTheHistoryInMemoryDoes() {
+    QRandomGenerator random(7);
+    for (int run = 0; run < 200; ++run) {
+      StackUndoManager undo;
+      UndoHistory history;
+      Value here, there;
+      for (int step = 0; step < 30; ++step) {
+        const QString name = QString::number(step);
+        switch (random.bounded(3)) {
+          case 0: here.set(step, undo, name), there.set(step, history, name); break;
+          case 1: undo.undo(), history.undo(); break;
+          case 2: undo.redo(), history.redo(); break;
+        }
+        QCOMPARE(here.value, there.value);
+        QCOMPARE(undo.canUndo(), history.canUndo());
+        QCOMPARE(undo.canRedo(), history.canRedo());
+        QCOMPARE(undo.undoText(), ("Undo " + history.undoActionName()).trimmed());
+        QCOMPARE(undo.redoText(), ("Redo " + history.redoActionName()).trimmed());
       }
-      QCOMPARE(here.value, there.value);
-      QCOMPARE(undo.canUndo(), history.canUndo());
-      QCOMPARE(undo.canRedo(), history.canRedo());
-      QCOMPARE(undo.undoText(), (QStringLiteral("Undo ") + history.undoActionName()).trimmed());
-      QCOMPARE(undo.redoText(), (QStringLiteral("Redo ") + history.redoActionName()).trimmed());
     }
   }
-}
+};
 
 QTEST_MAIN(TestUndo)
 #include "tst_undo.moc"

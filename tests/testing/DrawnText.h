@@ -35,7 +35,7 @@ inline QRect drawnBox(const QString& family, QFont::Weight weight = QFont::Norma
   picture.fill(Qt::white);
   QPainter painter(&picture);
   painter.setFont(font);
-  painter.drawText(QPointF(0, drawnEm), QStringLiteral("A"));
+  painter.drawText(QPointF(0, drawnEm), "A");
   painter.end();
   return inkOf(picture);
 }

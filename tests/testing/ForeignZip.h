@@ -2,7 +2,7 @@
 
 #include <QByteArray>
 #include <QFile>
-#include <QString>
+#include <QStringList>
 
 #include <archive.h>
 #include <archive_entry.h>
@@ -29,6 +29,22 @@ class ForeignZip {
   }
   ForeignZip& link(const char* name, const char* target) {
     return add(name, AE_IFLNK, 0777, {}, target);
+  }
+
+  // Entries in words: "folder/", "file", "link -> target". A file named manifest.json holds that.
+  ForeignZip& add(const QStringList& entries, const QByteArray& manifest) {
+    for (const QString& entry : entries) {
+      const QByteArray name = entry.section(" -> ", 0, 0).toUtf8();
+      const QByteArray target = entry.section(" -> ", 1).toUtf8();
+      if (!target.isEmpty()) {
+        link(name, target);
+      } else if (name.endsWith('/')) {
+        folder(name);
+      } else {
+        file(name, name.endsWith("/manifest.json") ? manifest : "x");
+      }
+    }
+    return *this;
   }
 
  private:

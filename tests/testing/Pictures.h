@@ -61,6 +61,18 @@ inline int differenceAtCells(const QImage& a, const QImage& b) {
   return worst;
 }
 
+// A JPEG with the tag that tells how to turn it.
+inline QByteArray turnedJpeg(const QImage& image, char orientation) {
+  QByteArray jpeg;
+  QBuffer buffer(&jpeg);
+  image.save(&buffer, "jpeg", 100);
+  const QByteArray tag(
+      "\xFF\xE1\x00\x22"
+      "Exif\0\0II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01\0\0\0",
+      28);
+  return jpeg.insert(2, tag + orientation + QByteArray(7, '\0'));
+}
+
 // A PNG whose header tells any size, and whose pixels are so many zero bytes.
 inline QByteArray pngOf(quint32 width, quint32 height, quint8 depth, quint8 colorType,
                         quint8 interlace, qsizetype zeroBytes) {

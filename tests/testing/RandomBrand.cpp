@@ -18,15 +18,14 @@ QUuid RandomBrand::id() {
 
 QString RandomBrand::text() {
   static const QStringList odd{QString(),
-                               QStringLiteral("a\"b\\c/d"),
-                               QStringLiteral("tab\tline\n"),
-                               QStringLiteral("\u0001\u001f\u007f\u2028"),
-                               QStringLiteral("Überzug ✓"),
+                               "a\"b\\c/d",
+                               "tab\tline\n",
+                               "\u0001\u001f\u007f\u2028",
+                               "Überzug ✓",
                                QString::fromUtf8("👩‍👩‍👧 & <co>"),
                                QString(QChar(0xFEFF)) + u'x'};
   if (below(8) == 0) return odd.at(below(int(odd.size())));
-  static const QStringList words{QStringLiteral("Harbour"), QStringLiteral("Lane"),
-                                 QStringLiteral("primary"), QStringLiteral("Mark")};
+  static const QStringList words{"Harbour", "Lane", "primary", "Mark"};
   QString result;
   for (int count = below(4); count >= 0; --count) {
     result += words.at(below(int(words.size()))) + QLatin1Char(' ');
@@ -35,12 +34,10 @@ QString RandomBrand::text() {
 }
 
 QString RandomBrand::hex() {
-  return QStringLiteral("#%1").arg(below(0x1000000), 6, 16, QLatin1Char('0')).toUpper();
+  return QString("#%1").arg(below(0x1000000), 6, 16, QLatin1Char('0')).toUpper();
 }
 
-AssetRef RandomBrand::asset() {
-  return {canonicalString(id()) + QStringLiteral(".png"), text() + QStringLiteral(".png")};
-}
+AssetRef RandomBrand::asset() { return {canonicalString(id()) + ".png", text() + ".png"}; }
 
 Emblem RandomBrand::emblem() {
   return {anyOf<Emblem::Kind>(), maybe([&] { return text(); }), maybe([&] { return text(); }),

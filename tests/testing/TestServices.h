@@ -35,6 +35,12 @@ inline QByteArray contentOf(const QString& path) {
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+// The names in a folder, hidden ones included.
+inline QStringList namesIn(const QString& folder) {
+  return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System |
+                                QDir::NoDotAndDotDot);
+}
+
 inline bool writeFile(const QString& path, const QByteArray& content) {
   QDir().mkpath(QFileInfo(path).path());
   QFile file(path);

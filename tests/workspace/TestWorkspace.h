@@ -4,6 +4,7 @@
 #include "platform/desktop/dragging/DragData.h"
 #include "platform/desktop/dragging/MimeDrops.h"
 #include "testing/FakeDrops.h"
+#include "testing/FakeMedia.h"
 #include "testing/TestLibrary.h"
 #include "workspace/BrandWorkspace.h"
 
@@ -32,50 +33,51 @@ class ListedDrags : public DragSession {
   }
 };
 
-// A picture of the size that was asked for, in one colour; none for a file whose name says
-// "broken".
-class FakeImages : public Images {
- public:
-  QList<int> asked;
-  std::optional<ImageProperties> properties(const QString&) override { return std::nullopt; }
-  std::optional<QSizeF> vectorSize(const QString&) override { return std::nullopt; }
-  std::optional<QImage> thumbnail(const QString& path, int maxPixel) override {
-    asked << maxPixel;
-    if (path.contains("broken")) return std::nullopt;
-    QImage image(maxPixel, maxPixel / 2, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::red);
-    return image;
-  }
-  std::optional<QByteArray> convert(const QString&, ExportFormat, QSize, double) override {
-    return std::nullopt;
+// A library on the real disk and what brands' pages need of the desktop, which the test plays.
+struct TestDesktop {
+  TestLibrary library;
+  FakeImages images;
+  FakeVideos videos;
+  FakeTypes types;
+  FakeFonts fonts;
+  ListedPasteboard pasteboard;
+  ListedDrags drags;
+  QThreadPool workers;
+  BackgroundWork work{1};
+  ThumbnailLoader loader;
+  Thumbnails thumbnails{loader};
+  Posters posters{videos, work};
+  MimeDrops drops{workers};
+
+  TestDesktop() : loader(images, work) {}
+  explicit TestDesktop(Images& others) : loader(others, work) {}
+
+  // Of the library as it was started last.
+  WorkspaceServices services() {
+    return {*library.store,
+            library.preferences,
+            pasteboard,
+            library.dialogs,
+            library.services().makeColorSampler,
+            thumbnails,
+            posters,
+            {types, fonts, workers, {}},
+            drops,
+            {library.disk.files, types, [](const QString&, qint64) { return std::nullopt; }},
+            drags};
   }
 };
 
-class FakeVideos : public Videos {
+// A brand that is open in a workspace.
+class TestWorkspace : public TestDesktop {
  public:
-  std::optional<VideoProperties> properties(const QString&) override { return std::nullopt; }
-  std::optional<QImage> frame(const QString& path, double seconds, int maxPixel) override {
-    askedSeconds = seconds;
-    if (path.contains("broken")) return std::nullopt;
-    QImage image(maxPixel, maxPixel, QImage::Format_RGB32);
-    image.fill(Qt::blue);
-    return image;
-  }
-  double askedSeconds = -1;
-};
-
-// A brand that is open in a workspace, on the real disk, with the desktop played by the test.
-class TestWorkspace {
- public:
-  explicit TestWorkspace(const QList<Section>& sections) : TestWorkspace(sections, ownImages) {}
-  TestWorkspace(const QList<Section>& sections, Images& images)
-      : loader(images, work), thumbnails(loader) {
+  explicit TestWorkspace(const QList<Section>& sections) {
     library.add("Acme", sections);
     library.start();
     makeWorkspace();
   }
   // Of a copy of that package.
-  TestWorkspace(const QString& package, Images& images) : loader(images, work), thumbnails(loader) {
+  TestWorkspace(const QString& package, Images& others) : TestDesktop(others) {
     QDir().mkpath(library.folder);
     (void)library.disk.files.copyFolder(package, library.packagePath("Copy"));
     library.start();
@@ -102,38 +104,10 @@ class TestWorkspace {
     workspace = std::make_unique<BrandWorkspace>(document(), selection, toasts, &undo, services());
   }
 
-  TestLibrary library;
-  FakeImages ownImages;
-  FakeVideos videos;
-  FakeTypes types;
-  FakeFonts fonts;
-  ListedPasteboard pasteboard;
-  ListedDrags drags;
   UndoHistory undo;
   TileSelection selection;
   ToastCenter toasts;
-  QThreadPool workers;
-  BackgroundWork work{1};
-  ThumbnailLoader loader;
-  Thumbnails thumbnails;
-  Posters posters{videos, work};
-  MimeDrops drops{workers};
   std::unique_ptr<BrandWorkspace> workspace;
-
- private:
-  WorkspaceServices services() {
-    return {*library.store,
-            library.preferences,
-            pasteboard,
-            library.dialogs,
-            library.services().makeColorSampler,
-            thumbnails,
-            posters,
-            {types, fonts, workers, {}},
-            drops,
-            {library.disk.files, types, [](const QString&, qint64) { return std::nullopt; }},
-            drags};
-  }
 };
 
 }  // namespace tarnloft

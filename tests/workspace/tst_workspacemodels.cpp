@@ -1,3 +1,4 @@
+#include "testing/Cases.h"
 #include "testing/RandomBrand.h"
 #include "workspace/Items.h"
 #include "workspace/TestWorkspace.h"
@@ -14,35 +15,6 @@
 
 using namespace tarnloft;
 using Tester = QAbstractItemModelTester;
-
-class TestWorkspaceModels : public QObject {
-  Q_OBJECT
-
- private slots:
-  void itemsFollowRandomEdits();
-  void aMoveIsOneMove();
-  void anEditIsOneChange();
-  void sectionsFollowRandomEdits();
-  void aSearchHidesWhatDoesNotMatch();
-  void clicksSelectOrAct_data();
-  void clicksSelectOrAct();
-  void coloursAreCopiedInTheChosenNotation();
-  void theAddMenuAppends_data();
-  void theAddMenuAppends();
-  void chosenFilesAreImported();
-  void aPickedColourLandsHereAndTellsItsTipOnce();
-  void sectionsAreRenamedMovedAndDeleted();
-  void colourSnippetsAreCopied();
-  void blocksAreEditedAndDeleted();
-  void aDragCarriesTheFileAndTheItem();
-  void aDropOnASectionMovesOrImports();
-  void aDropOnATileMovesInFrontOfIt();
-  void aDeletedSelectionCanBeHadBack();
-  void nothingHappensOnceTheDocumentHasGone();
-  void aToastIsReplacedAndGoes();
-  void aSecondToastHasItsOwnTime();
-  void aPostersRequestMayOutliveTheWork();
-};
 
 namespace {
 
@@ -83,368 +55,287 @@ struct Signals {
 
 QQuickItem view;  // of nothing, in no window
 
-QMimeData* fileDrag(const QString& path) {
-  auto* data = new QMimeData;
-  data->setUrls({QUrl::fromLocalFile(path)});
-  return data;
-}
-
 }  // namespace
 
-void TestWorkspaceModels::itemsFollowRandomEdits() {
-  RandomBrand random(7);
-  ItemListModel model;
-  const Tester tester(&model, Tester::FailureReportingMode::QtTest);
-  SharedList<Item> items;
-  for (int round = 0; round < 300; ++round) {
-    items = edited(items, random);
-    model.setItems(items);
-    QVERIFY(model.items() == items);
-    QCOMPARE(model.rowCount(), int(items.size()));
-  }
-}
-
-void TestWorkspaceModels::aMoveIsOneMove() {
-  TestWorkspace test({colorSection("Colors", 200)});
-  const Signals rows(*test.section(0).items());
-  const auto& items = test.stored(0).items;
-  const QUuid moved = items.at(150).id, before = items.at(3).id;
-  test.document().moveItem(moved, test.stored(0).id, before);
-  QVERIFY(rows.told.isEmpty());  // nothing shows before the turn has ended
-  test.turn();
-  QCOMPARE(rows.told, QStringList{"move"});
-  QCOMPARE(test.section(0).items()->items().at(3).id, moved);
-}
-
-void TestWorkspaceModels::anEditIsOneChange() {
-  TestWorkspace test({colorSection("Colors", 20), colorSection("More", 20)});
-  const Signals rows(*test.section(0).items()), others(*test.section(1).items());
-  const Signals sections(*test.workspace->sections());
-  test.document().edit([](Brand& brand) { brand.sections[0].items[5].payload = TextPayload{"x"}; });
-  test.turn();
-  QCOMPARE(rows.told, QStringList{"change"});
-  QVERIFY(others.told.isEmpty());
-  QVERIFY(sections.told.isEmpty());
-}
-
-void TestWorkspaceModels::sectionsFollowRandomEdits() {
-  RandomBrand random(11);
-  TestWorkspace test({});
-  auto& model = *test.workspace->sections();
-  const Tester tester(&model, Tester::FailureReportingMode::QtTest);
-  for (int round = 0; round < 200; ++round) {
-    const QList<Section> sections = edited(test.document().brand().sections, random);
-    test.document().edit([&](Brand& brand) { brand.sections = sections; });
-    test.turn();
-    QCOMPARE(model.rowCount(), int(sections.size()));
-    for (int i = 0; i < sections.size(); ++i) {
-      QVERIFY(test.section(i).section() == sections.at(i));
-      QCOMPARE(test.section(i).canMoveUp(), i > 0);
-      QCOMPARE(test.section(i).canMoveDown(), i + 1 < sections.size());
-    }
-  }
-}
-
-void TestWorkspaceModels::aSearchHidesWhatDoesNotMatch() {
-  TestWorkspace test({sectionOf("A", {colorItem("Sea"), imageItem("Hero"), colorItem("Sand")}),
-                      sectionOf("B", {imageItem("Mark")}), sectionOf("C", {})});
-  const auto visible = [&] {
-    QString names;
-    for (const auto& section : test.workspace->sections()->models()) {
-      if (section->isShown()) names += section->name();
-    }
-    return names;
-  };
-  test.workspace->setSearchText("hero");
-  QCOMPARE(test.shown(0), QStringList{"Hero"});
-  QCOMPARE(visible(), "A");
-  test.workspace->setSearchText("  ");
-  QCOMPARE(test.shown(0), (QStringList{"Sea", "Hero", "Sand"}));
-  QCOMPARE(visible(), "ABC");
-}
-
-void TestWorkspaceModels::clicksSelectOrAct_data() {
-  QTest::addColumn<int>("modifiers");
-  QTest::addColumn<QStringList>("selected");
-  QTest::addColumn<QStringList>("copied");
-  const int plain = Qt::NoModifier, command = Qt::ControlModifier, shift = Qt::ShiftModifier;
-  QTest::newRow("plain") << plain << QStringList() << QStringList{"#123456"};
-  QTest::newRow("command") << command << QStringList{"a", "d"} << QStringList();
-  QTest::newRow("shift") << shift << QStringList{"a", "b", "c", "d"} << QStringList();
-  QTest::newRow("command comes first")
-      << (command | shift) << QStringList{"a", "d"} << QStringList();
-}
-
-void TestWorkspaceModels::clicksSelectOrAct() {
-  TestWorkspace test({sectionOf(
-      "A", {colorItem("a"), textItem("b"), colorItem("c"), colorItem("d"), colorItem("e")})});
-  const auto& items = test.stored(0).items;
-  test.selection.toggle(items.at(0).id, test.stored(0).id);
-  Tile tile(test.section(0), items.at(3));
-  QVERIFY(!tile.isSelected() && tile.isSectionSelected());
-  QFETCH(int, modifiers);
-  tile.click(modifiers);
-  QStringList selected;
-  for (const Item& item : items) {
-    if (test.selection.contains(item.id, test.stored(0).id)) selected << item.displayName();
-  }
-  QTEST(selected, "selected");
-  QTEST(test.pasteboard.texts, "copied");
-}
-
-void TestWorkspaceModels::coloursAreCopiedInTheChosenNotation() {
-  TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), imageItem("b")})});
-  test.library.store->preferences().setColorCopyFormat(ColorCopyFormat::rgb);
-  Tile(test.section(0), test.stored(0).items.at(0)).click();
-  QCOMPARE(test.pasteboard.texts, QStringList{"rgb(255, 0, 0)"});
-  QCOMPARE(test.toasts.message(), "Copied rgb(255, 0, 0)");
-  Tile(test.section(0), test.stored(0).items.at(1)).click();
-  QCOMPARE(test.pasteboard.texts.size(), 1);
-}
-
 using Verb = void (SectionModel::*)();
+
 Q_DECLARE_METATYPE(Verb)
 
-void TestWorkspaceModels::theAddMenuAppends_data() {
-  QTest::addColumn<Verb>("verb");
-  QTest::addColumn<ItemPayload>("payload");
-  const auto row = [](const char* name, Verb verb, const ItemPayload& payload) {
-    QTest::newRow(name) << verb << payload;
-  };
-  row("header", &SectionModel::addHeader, HeaderPayload{"Heading", 1});
-  row("text", &SectionModel::addText, TextPayload{"Add a note…"});
-  row("color", &SectionModel::addColor, ColorPayload{{"#4C6FFF", {}, {}}});
-  row("font", &SectionModel::addFont,
-      FontPayload{{"Helvetica Neue", "Regular", "The quick brown fox", {}, {}}});
-  row("code", &SectionModel::addCode, CodePayload{{"swift", "// Snippet", {}}});
-  row("logo set", &SectionModel::addLogoSet, LogoPayload{{"Logo", {}}});
-}
+class TestWorkspaceModels : public QObject {
+  Q_OBJECT
 
-void TestWorkspaceModels::theAddMenuAppends() {
-  TestWorkspace test({sectionOf("A", {colorItem("a")})});
-  QFETCH(Verb, verb);
-  (test.section(0).*verb)();
-  QCOMPARE(test.stored(0).items.size(), 2);
-  QFETCH(ItemPayload, payload);
-  QVERIFY(test.stored(0).items.at(1).payload == payload);
-  QVERIFY(!test.undo.canUndo());
-  test.section(0).addGradient();
-  const auto gradient = std::get<GradientPayload>(test.stored(0).items.at(2).payload).value;
-  QCOMPARE(gradient.cssString(), "linear-gradient(45deg, #4C6FFF 0%, #9C4CFF 100%)");
-}
+ private slots:
+  void itemsFollowRandomEdits() {
+    RandomBrand random(7);
+    ItemListModel model;
+    const Tester tester(&model, Tester::FailureReportingMode::QtTest);
+    SharedList<Item> items;
+    for (int round = 0; round < 300; ++round) {
+      items = edited(items, random);
+      model.setItems(items);
+      QVERIFY(model.items() == items);
+      QCOMPARE(model.rowCount(), int(items.size()));
+    }
+  }
 
-void TestWorkspaceModels::chosenFilesAreImported() {
-  TestWorkspace test({sectionOf("A", {})});
-  const QString picture = test.library.disk.path("Hero.png");
-  QVERIFY(writeFile(picture, "p"));
-  test.section(0).importImages();  // cancelled
-  test.library.dialogs.chosen = {picture};
-  test.section(0).importImages();
-  QCOMPARE(test.library.dialogs.openTypes, QStringList{"image/*"});
-  QTRY_COMPARE(test.stored(0).items.size(), 1);
-  test.section(0).importVideos();
-  QCOMPARE(test.library.dialogs.openTypes, QStringList{"video/*"});
-  QTRY_COMPARE(test.stored(0).items.size(), 2);
-  QCOMPARE(test.stored(0).items.at(0).typeLabel(), "Image");
-  QCOMPARE(test.stored(0).items.at(1).typeLabel(), "Video");
-  test.section(0).importFontFiles();
-  QTRY_COMPARE(test.stored(0).items.size(), 3);
-  QCOMPARE(test.stored(0).items.at(2).typeLabel(), "Type");
-}
-
-void TestWorkspaceModels::aPickedColourLandsHereAndTellsItsTipOnce() {
-  TestWorkspace test({sectionOf("A", {}), sectionOf("B", {})});
-  const auto pick = [&](const std::optional<SampledColor>& color) {
-    test.section(1).pickColorFromScreen();
-    test.library.pendingPick(color);
+  void aMoveIsOneMove() {
+    TestWorkspace test({colorSection("Colors", 200)});
+    const Signals rows(*test.section(0).items());
+    const auto& items = test.stored(0).items;
+    const QUuid moved = items.at(150).id, before = items.at(3).id;
+    test.document().moveItem(moved, test.stored(0).id, before);
+    QVERIFY(rows.told.isEmpty());  // nothing shows before the turn has ended
     test.turn();
-  };
-  pick(std::nullopt);
-  QVERIFY(test.stored(1).items.isEmpty());
-  QVERIFY(!test.toasts.message());
-  pick(SampledColor{1, 0, 0});
-  QCOMPARE(test.names(1), QStringList{"#FF0000"});
-  QCOMPARE(test.undo.undoActionName(), "Pick Color");
-  QCOMPARE(test.library.store->activeColorSectionID(), test.stored(1).id);
-  QVERIFY(test.toasts.message()->startsWith("Tip: press ⌃⌘P"));
-  test.toasts.show("other");
-  pick(SampledColor{0, 0, 1});
-  QCOMPARE(test.names(1).size(), 2);
-  QCOMPARE(test.toasts.message(), "other");
-}
+    QCOMPARE(rows.told, QStringList{"move"});
+    QCOMPARE(test.section(0).items()->items().at(3).id, moved);
+  }
 
-void TestWorkspaceModels::sectionsAreRenamedMovedAndDeleted() {
-  TestWorkspace test({sectionOf("A", {}), sectionOf("B", {}), sectionOf("C", {})});
-  const auto order = [&] {
-    QString names;
-    for (const Section& section : test.document().brand().sections) names += section.name;
-    return names;
-  };
-  test.section(0).rename("Z");
-  test.section(2).moveUp();
-  QCOMPARE(order(), "ZCB");
-  test.section(0).moveUp();
-  QCOMPARE(order(), "ZCB");
-  test.turn();
-  test.section(0).moveDown();
-  QCOMPARE(order(), "CZB");
-  test.turn();
-  test.section(1).remove();
-  QCOMPARE(order(), "CB");
-  test.workspace->addSection("New");
-  QCOMPARE(order(), "CBNew");
-  QVERIFY(!test.undo.canUndo());
-}
+  void anEditIsOneChange() {
+    TestWorkspace test({colorSection("Colors", 20), colorSection("More", 20)});
+    const Signals rows(*test.section(0).items()), others(*test.section(1).items());
+    const Signals sections(*test.workspace->sections());
+    test.document().edit(
+        [](Brand& brand) { brand.sections[0].items[5].payload = TextPayload{"x"}; });
+    test.turn();
+    QCOMPARE(rows.told, QStringList{"change"});
+    QVERIFY(others.told.isEmpty());
+    QVERIFY(sections.told.isEmpty());
+  }
 
-void TestWorkspaceModels::colourSnippetsAreCopied() {
-  TestWorkspace test({sectionOf("A", {colorItem("Sea", "#123456")}), sectionOf("B", {})});
-  QVERIFY(test.section(0).hasColors() && !test.section(1).hasColors());
-  QCOMPARE(SectionModel::paletteFormats(),
-           (QStringList{"CSS Variables", "SCSS", "Tailwind", "SwiftUI", "JSON"}));
-  test.section(0).copyColors("SCSS");
-  QCOMPARE(test.toasts.message(), "Copied SCSS");
-  QCOMPARE(test.pasteboard.texts, QStringList{"$sea: #123456;"});
-}
+  void sectionsFollowRandomEdits() {
+    RandomBrand random(11);
+    TestWorkspace test({});
+    auto& model = *test.workspace->sections();
+    const Tester tester(&model, Tester::FailureReportingMode::QtTest);
+    for (int round = 0; round < 200; ++round) {
+      const QList<Section> sections = edited(test.document().brand().sections, random);
+      test.document().edit([&](Brand& brand) { brand.sections = sections; });
+      test.turn();
+      QCOMPARE(model.rowCount(), int(sections.size()));
+      for (int i = 0; i < sections.size(); ++i) {
+        QVERIFY(test.section(i).section() == sections.at(i));
+        QCOMPARE(test.section(i).canMoveUp(), i > 0);
+        QCOMPARE(test.section(i).canMoveDown(), i + 1 < sections.size());
+      }
+    }
+  }
 
-void TestWorkspaceModels::blocksAreEditedAndDeleted() {
-  TestWorkspace test({sectionOf("A", {headerItem("Voice", 2), textItem("calm"), colorItem("c")})});
-  const auto& items = test.stored(0).items;
-  Tile heading(test.section(0), items.at(0)), text(test.section(0), items.at(1));
-  heading.setText("Tone");
-  text.setText("loud");
-  QVERIFY(test.stored(0).items.at(0).payload == ItemPayload(HeaderPayload{"Tone", 2}));
-  QVERIFY(test.stored(0).items.at(1).payload == ItemPayload(TextPayload{"loud"}));
-  heading.remove();
-  QCOMPARE(test.names(0), (QStringList{"loud", "c"}));
-  heading.setText("late");  // its item has gone
-  QCOMPARE(test.names(0), (QStringList{"loud", "c"}));
-}
+  void aSearchHidesWhatDoesNotMatch() {
+    TestWorkspace test({sectionOf("A", {colorItem("Sea"), imageItem("Hero"), colorItem("Sand")}),
+                        sectionOf("B", {imageItem("Mark")}), sectionOf("C", {})});
+    const auto visible = [&] {
+      QString names;
+      for (const auto& section : test.workspace->sections()->models()) {
+        if (section->isShown()) names += section->name();
+      }
+      return names;
+    };
+    test.workspace->setSearchText("hero");
+    QCOMPARE(test.shown(0), QStringList{"Hero"});
+    QCOMPARE(visible(), "A");
+    test.workspace->setSearchText("  ");
+    QCOMPARE(test.shown(0), (QStringList{"Sea", "Hero", "Sand"}));
+    QCOMPARE(visible(), "ABC");
+  }
 
-void TestWorkspaceModels::aDragCarriesTheFileAndTheItem() {
-  TestWorkspace test({sectionOf("A", {imageItem("Hero", "h.png"), colorItem("c")})});
-  QVERIFY(writeFile(Package::assetsPath(test.document().packageURL()) + "/h.png", "picture"));
-  const auto& items = test.stored(0).items;
-  Tile(test.section(0), items.at(0)).drag(&view);
-  QCOMPARE(test.drags.items.size(), 1);
-  QCOMPARE(contentOf(*test.drags.items.first().file), "picture");
-  QCOMPARE(QFileInfo(*test.drags.items.first().file).fileName(), "Client h.png");
-  QCOMPARE(test.drags.items.first().payload->bytes,
-           items.at(0).id.toString(QUuid::WithoutBraces).toUpper().toUtf8());
-  QVERIFY(test.drags.hotSpot.x() < 0 && test.drags.hotSpot.y() < 0);  // beside the pointer
-  Tile(test.section(0), items.at(1)).drag(&view);
-  QVERIFY(!test.drags.items.first().file);
-}
+  void clicksSelectOrAct() {
+    const int plain = Qt::NoModifier, command = Qt::ControlModifier, shift = Qt::ShiftModifier;
+    const Cases<int, QStringList, QStringList> cases{
+        {"plain", plain, QStringList(), QStringList{"#123456"}},
+        {"command", command, QStringList{"a", "d"}, QStringList()},
+        {"shift", shift, QStringList{"a", "b", "c", "d"}, QStringList()},
+        {"command comes first", (command | shift), QStringList{"a", "d"}, QStringList()}};
+    cases.check([&](int modifiers, const QStringList& selected, const QStringList& copied) {
+      TestWorkspace test({sectionOf(
+          "A", {colorItem("a"), textItem("b"), colorItem("c"), colorItem("d"), colorItem("e")})});
+      const auto& items = test.stored(0).items;
+      test.selection.toggle(items.at(0).id, test.stored(0).id);
+      Tile tile(test.section(0), items.at(3));
+      QVERIFY(!tile.isSelected() && tile.isSectionSelected());
+      tile.click(modifiers);
+      QStringList names;
+      for (const Item& item : items) {
+        if (test.selection.contains(item.id, test.stored(0).id)) names << item.displayName();
+      }
+      QCOMPARE(names, selected);
+      QCOMPARE(test.pasteboard.texts, copied);
+    });
+  }
 
-void TestWorkspaceModels::aDropOnASectionMovesOrImports() {
-  TestWorkspace test({sectionOf("A", {colorItem("a"), colorItem("b")}), sectionOf("B", {})});
-  Tile(test.section(0), test.stored(0).items.at(0)).drag(&view);
-  const DragData own(test.drags.items);
-  QVERIFY(test.workspace->drop(own, test.stored(1).id));
-  QTRY_COMPARE(test.names(1), QStringList{"a"});
-  QCOMPARE(test.names(0), QStringList{"b"});
+  void coloursAreCopiedInTheChosenNotation() {
+    TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), imageItem("b")})});
+    test.library.store->preferences().setColorCopyFormat(ColorCopyFormat::rgb);
+    Tile(test.section(0), test.stored(0).items.at(0)).click();
+    QCOMPARE(test.pasteboard.texts, QStringList{"rgb(255, 0, 0)"});
+    QCOMPARE(test.toasts.message(), "Copied rgb(255, 0, 0)");
+    Tile(test.section(0), test.stored(0).items.at(1)).click();
+    QCOMPARE(test.pasteboard.texts.size(), 1);
+  }
 
-  const QString path = test.library.disk.path("Hero.png");
-  QVERIFY(writeFile(path, "p"));
-  const std::unique_ptr<QMimeData> files(fileDrag(path));
-  QVERIFY(test.workspace->drop(*files, test.stored(1).id));
-  QTRY_COMPARE(test.names(1), (QStringList{"a", "Hero"}));
-  QVERIFY(!test.workspace->drop(QMimeData(), test.stored(1).id));
-}
+  void theAddMenuAppends() {
+    const Cases<Verb, ItemPayload> cases{
+        {"header", &SectionModel::addHeader, HeaderPayload{"Heading", 1}},
+        {"text", &SectionModel::addText, TextPayload{"Add a note…"}},
+        {"color", &SectionModel::addColor, ColorPayload{{"#4C6FFF", {}, {}}}},
+        {"font", &SectionModel::addFont,
+         FontPayload{{"Helvetica Neue", "Regular", "The quick brown fox", {}, {}}}},
+        {"code", &SectionModel::addCode, CodePayload{{"swift", "// Snippet", {}}}},
+        {"logo set", &SectionModel::addLogoSet, LogoPayload{{"Logo", {}}}}};
+    cases.check([&](const Verb& verb, const ItemPayload& payload) {
+      TestWorkspace test({sectionOf("A", {colorItem("a")})});
+      (test.section(0).*verb)();
+      QCOMPARE(test.stored(0).items.size(), 2);
+      QVERIFY(test.stored(0).items.at(1).payload == payload);
+      QVERIFY(!test.undo.canUndo());
+      test.section(0).addGradient();
+      const auto gradient = std::get<GradientPayload>(test.stored(0).items.at(2).payload).value;
+      QCOMPARE(gradient.cssString(), "linear-gradient(45deg, #4C6FFF 0%, #9C4CFF 100%)");
+    });
+  }
 
-void TestWorkspaceModels::aDropOnATileMovesInFrontOfIt() {
-  TestWorkspace test({sectionOf("A", {colorItem("a"), colorItem("b"), colorItem("c")})});
-  Tile(test.section(0), test.stored(0).items.at(2)).drag(&view);
-  const DragData own(test.drags.items);
-  const auto id = test.stored(0).id;
-  QVERIFY(test.workspace->dropBefore(own, id, test.stored(0).items.at(0).id));
-  QTRY_COMPARE(test.names(0), (QStringList{"c", "a", "b"}));
-  QVERIFY(!test.workspace->dropBefore(QMimeData(), id, test.stored(0).items.at(0).id));
-}
+  void chosenFilesAreImported() {
+    TestWorkspace test({sectionOf("A", {})});
+    const QString picture = test.library.disk.path("Hero.png");
+    QVERIFY(writeFile(picture, "p"));
+    test.section(0).importImages();  // cancelled
+    test.library.dialogs.chosen = {picture};
+    test.section(0).importImages();
+    QCOMPARE(test.library.dialogs.openTypes, QStringList{"image/*"});
+    QTRY_COMPARE(test.stored(0).items.size(), 1);
+    test.section(0).importVideos();
+    QCOMPARE(test.library.dialogs.openTypes, QStringList{"video/*"});
+    QTRY_COMPARE(test.stored(0).items.size(), 2);
+    QCOMPARE(test.stored(0).items.at(0).typeLabel(), "Image");
+    QCOMPARE(test.stored(0).items.at(1).typeLabel(), "Video");
+    test.section(0).importFontFiles();
+    QTRY_COMPARE(test.stored(0).items.size(), 3);
+    QCOMPARE(test.stored(0).items.at(2).typeLabel(), "Type");
+  }
 
-void TestWorkspaceModels::aDeletedSelectionCanBeHadBack() {
-  TestWorkspace test({sectionOf("A", {colorItem("a"), textItem("b"), colorItem("c")})});
-  test.workspace->selectAll();
-  QCOMPARE(test.selection.count(), 2);
-  QVERIFY(test.workspace->hasSelection());
-  test.workspace->deleteSelection();
-  QCOMPARE(test.names(0), QStringList{"b"});
-  QCOMPARE(test.toasts.message(), "Deleted 2 items · ⌘Z to undo");
-  test.undo.undo();
-  QCOMPARE(test.names(0), (QStringList{"a", "b", "c"}));
-  test.workspace->selectAll();
-  test.workspace->clearSelection();
-  QVERIFY(!test.workspace->hasSelection());
-}
+  void aPickedColourLandsHereAndTellsItsTipOnce() {
+    TestWorkspace test({sectionOf("A", {}), sectionOf("B", {})});
+    const auto pick = [&](const std::optional<SampledColor>& color) {
+      test.section(1).pickColorFromScreen();
+      test.library.pendingPick(color);
+      test.turn();
+    };
+    pick(std::nullopt);
+    QVERIFY(test.stored(1).items.isEmpty());
+    QVERIFY(!test.toasts.message());
+    pick(SampledColor{1, 0, 0});
+    QCOMPARE(test.names(1), QStringList{"#FF0000"});
+    QCOMPARE(test.undo.undoActionName(), "Pick Color");
+    QCOMPARE(test.library.store->activeColorSectionID(), test.stored(1).id);
+    QVERIFY(test.toasts.message()->startsWith("Tip: press ⌃⌘P"));
+    test.toasts.show("other");
+    pick(SampledColor{0, 0, 1});
+    QCOMPARE(test.names(1).size(), 2);
+    QCOMPARE(test.toasts.message(), "other");
+  }
 
-void TestWorkspaceModels::nothingHappensOnceTheDocumentHasGone() {
-  TestWorkspace test({sectionOf("A", {colorItem("a"), textItem("b")})});
-  Tile tile(test.section(0), test.stored(0).items.at(0));
-  test.document().edit([](Brand& brand) { brand.name = "Other"; });
-  test.library.store->select(std::nullopt);
-  test.turn();
-  tile.drag(&view);
-  tile.setText("x");
-  tile.remove();
-  test.section(0).addColor();
-  test.section(0).importImages();
-  test.section(0).remove();
-  test.workspace->selectAll();
-  test.workspace->deleteSelection();
-  QVERIFY(!test.workspace->drop(QMimeData(), test.section(0).id()));
-  QVERIFY(test.drags.items.isEmpty());
-  QCOMPARE(tile.path(), QString());
-}
+  void sectionsAreRenamedMovedAndDeleted() {
+    TestWorkspace test({sectionOf("A", {}), sectionOf("B", {}), sectionOf("C", {})});
+    const auto order = [&] {
+      QString names;
+      for (const Section& section : test.document().brand().sections) names += section.name;
+      return names;
+    };
+    test.section(0).rename("Z");
+    test.section(2).moveUp();
+    QCOMPARE(order(), "ZCB");
+    test.section(0).moveUp();
+    QCOMPARE(order(), "ZCB");
+    test.turn();
+    test.section(0).moveDown();
+    QCOMPARE(order(), "CZB");
+    test.turn();
+    test.section(1).remove();
+    QCOMPARE(order(), "CB");
+    test.workspace->addSection("New");
+    QCOMPARE(order(), "CBNew");
+    QVERIFY(!test.undo.canUndo());
+  }
 
-void TestWorkspaceModels::aToastIsReplacedAndGoes() {
-  ToastCenter toasts(std::chrono::milliseconds(20));
-  QSignalSpy changes(&toasts, &ToastCenter::messageChanged);
-  toasts.show("first");
-  toasts.show("first");
-  toasts.show("second");
-  QCOMPARE(toasts.message(), "second");
-  QTRY_VERIFY(!toasts.message());
-  QCOMPARE(changes.count(), 3);
+  void colourSnippetsAreCopied() {
+    TestWorkspace test({sectionOf("A", {colorItem("Sea", "#123456")}), sectionOf("B", {})});
+    QVERIFY(test.section(0).hasColors() && !test.section(1).hasColors());
+    QCOMPARE(SectionModel::paletteFormats(),
+             (QStringList{"CSS Variables", "SCSS", "Tailwind", "SwiftUI", "JSON"}));
+    test.section(0).copyColors("SCSS");
+    QCOMPARE(test.toasts.message(), "Copied SCSS");
+    QCOMPARE(test.pasteboard.texts, QStringList{"$sea: #123456;"});
+  }
 
-  toasts.setUnderWay("Adding");
-  toasts.show("third");
-  toasts.setUnderWay("Adding 2");
-  QCOMPARE(toasts.message(), "third");
-  QTRY_COMPARE(toasts.message(), "Adding 2");
-  toasts.setUnderWay({});
-  QVERIFY(!toasts.message());
-  QCOMPARE(ToastCenter::duration, std::chrono::milliseconds(1400));
-}
+  void nothingHappensOnceTheDocumentHasGone() {
+    TestWorkspace test({sectionOf("A", {colorItem("a"), textItem("b")})});
+    Tile tile(test.section(0), test.stored(0).items.at(0));
+    test.document().edit([](Brand& brand) { brand.name = "Other"; });
+    test.library.store->select(std::nullopt);
+    test.turn();
+    tile.drag(&view);
+    tile.setText("x");
+    tile.remove();
+    test.section(0).addColor();
+    test.section(0).importImages();
+    test.section(0).remove();
+    test.workspace->selectAll();
+    test.workspace->deleteSelection();
+    QVERIFY(!test.workspace->drop(QMimeData(), test.section(0).id()));
+    QVERIFY(test.drags.items.isEmpty());
+    QCOMPARE(tile.path(), QString());
+  }
 
-// A busy machine can only make it stay longer.
-void TestWorkspaceModels::aSecondToastHasItsOwnTime() {
-  constexpr std::chrono::milliseconds time{200};
-  ToastCenter toasts(time);
-  QElapsedTimer sinceSecond;
-  qint64 shownFor = -1;
-  connect(&toasts, &ToastCenter::messageChanged, this, [&] {
-    if (!toasts.message() && sinceSecond.isValid()) shownFor = sinceSecond.elapsed();
-  });
-  toasts.show("first");
-  QTest::qWait(int(time.count() * 3 / 4));
-  sinceSecond.start();
-  toasts.show("second");
-  QTRY_VERIFY(shownFor >= 0);
-  QVERIFY2(shownFor >= time.count() * 9 / 10, qPrintable(QString::number(shownFor)));
-}
+  void aToastIsReplacedAndGoes() {
+    ToastCenter toasts(std::chrono::milliseconds(20));
+    QSignalSpy changes(&toasts, &ToastCenter::messageChanged);
+    toasts.show("first");
+    toasts.show("first");
+    toasts.show("second");
+    QCOMPARE(toasts.message(), "second");
+    QTRY_VERIFY(!toasts.message());
+    QCOMPARE(changes.count(), 3);
 
-void TestWorkspaceModels::aPostersRequestMayOutliveTheWork() {
-  FakeVideos videos;
-  alignas(BackgroundWork) std::array<std::byte, sizeof(BackgroundWork)> place;
-  auto* const work = new (place.data()) BackgroundWork(1);
-  bool isThere = false;
-  auto request = Posters(videos, *work).poster("a", [&](const auto&) { isThere = true; });
-  QTRY_VERIFY(isThere);
-  std::destroy_at(work);
-  place.fill(std::byte(0xff));  // so that any use of it shows
-  ::alarm(20);                  // a lock that has gone may never open
-  request.cancel();
-  ::alarm(0);
-}
+    toasts.setUnderWay("Adding");
+    toasts.show("third");
+    toasts.setUnderWay("Adding 2");
+    QCOMPARE(toasts.message(), "third");
+    QTRY_COMPARE(toasts.message(), "Adding 2");
+    toasts.setUnderWay({});
+    QVERIFY(!toasts.message());
+    QCOMPARE(ToastCenter::duration, std::chrono::milliseconds(1400));
+  }
+
+  // A busy machine can only make it stay longer.
+  void aSecondToastHasItsOwnTime() {
+    constexpr std::chrono::milliseconds time{200};
+    ToastCenter toasts(time);
+    QElapsedTimer sinceSecond;
+    qint64 shownFor = -1;
+    connect(&toasts, &ToastCenter::messageChanged, this, [&] {
+      if (!toasts.message() && sinceSecond.isValid()) shownFor = sinceSecond.elapsed();
+    });
+    toasts.show("first");
+    QTest::qWait(int(time.count() * 3 / 4));
+    sinceSecond.start();
+    toasts.show("second");
+    QTRY_VERIFY(shownFor >= 0);
+    QVERIFY2(shownFor >= time.count() * 9 / 10, qPrintable(QString::number(shownFor)));
+  }
+
+  void aPostersRequestMayOutliveTheWork() {
+    FakeVideos videos;
+    alignas(BackgroundWork) std::array<std::byte, sizeof(BackgroundWork)> place;
+    auto* const work = new (place.data()) BackgroundWork(1);
+    bool isThere = false;
+    auto request = Posters(videos, *work).poster("a", [&](const auto&) { isThere = true; });
+    QTRY_VERIFY(isThere);
+    std::destroy_at(work);
+    place.fill(std::byte(0xff));  // so that any use of it shows
+    ::alarm(20);                  // a lock that has gone may never open
+    request.cancel();
+    ::alarm(0);
+  }
+};
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -452,4 +343,5 @@ int main(int argc, char** argv) {
   TestWorkspaceModels test;
   return QTest::qExec(&test, argc, argv);
 }
+
 #include "tst_workspacemodels.moc"
