@@ -36,7 +36,7 @@ class TestContent : public QObject {
 
     QSignalSpy detail(&content, &ContentModel::detailChanged);
     QSignalSpy selection(content.commands(), &ShellCommands::hasSelectionChanged);
-    content.createBrand("Acme");
+    test.library.store->createBrand("Acme");
     QVERIFY(!detail.isEmpty());
     QVERIFY(!selection.isEmpty());
     QCOMPARE(content.detail(), ContentModel::Detail::brand);
@@ -54,15 +54,15 @@ class TestContent : public QObject {
   void answersTheRequestForANewBrand() {
     ContentTest test;
     ContentModel& content = test.start();
-    QVERIFY(!content.showsNewBrand());
+    QVERIFY(!content.sheets()->current());
     content.commands()->newBrand();
-    QVERIFY(content.showsNewBrand());
+    QVERIFY(qobject_cast<NameSheet*>(content.sheets()->current()));
     QVERIFY(!test.library.store->newBrandRequested());
 
     // One that was made while no window was open.
     test.content.reset();
     test.library.store->setNewBrandRequested(true);
-    QVERIFY(test.makeContent()->showsNewBrand());
+    QVERIFY(test.makeContent()->sheets()->current());
     QVERIFY(!test.library.store->newBrandRequested());
   }
 
@@ -71,7 +71,7 @@ class TestContent : public QObject {
     ContentModel& content = test.start();
     QVERIFY(!content.workspace());
     QSignalSpy changed(&content, &ContentModel::workspaceChanged);
-    content.createBrand("Acme");
+    test.library.store->createBrand("Acme");
     QTRY_VERIFY(content.workspace());
     QCOMPARE(changed.size(), 1);  // for two documents, the read one and the made one
     QCOMPARE(content.workspace()->document(), test.library.store->openDocument());

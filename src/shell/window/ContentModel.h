@@ -3,7 +3,7 @@
 #include "controls/sheets/NameSheet.h"
 #include "shell/alerts/Alerts.h"
 #include "shell/menus/ShellCommands.h"
-#include "shell/menus/StackUndoManager.h"
+#include "shell/menus/WindowUndo.h"
 #include "shell/sidebar/Sidebar.h"
 #include "workspace/BrandWorkspace.h"
 
@@ -16,7 +16,7 @@ class ContentModel : public QObject {
   QML_UNCREATABLE("Each window has one")
   Q_PROPERTY(tarnloft::ShellCommands* commands READ commands CONSTANT)
   Q_PROPERTY(tarnloft::Sidebar* sidebar READ sidebar CONSTANT)
-  Q_PROPERTY(tarnloft::StackUndoManager* undo READ undo CONSTANT)
+  Q_PROPERTY(tarnloft::WindowUndo* undo READ undo CONSTANT)
   Q_PROPERTY(tarnloft::Alerts* alerts READ alerts CONSTANT)
   // Null while no brand is open. Its module isn't among this one's imports, as it would be loaded
   // with it, before the first frame: who uses the workspace imports it.
@@ -45,7 +45,7 @@ class ContentModel : public QObject {
 
   ShellCommands* commands() { return &commands_; }
   Sidebar* sidebar() { return &sidebar_; }
-  StackUndoManager* undo() { return &undo_; }
+  WindowUndo* undo() { return &undo_; }
   Alerts* alerts() { return &alerts_; }
   TileSelection* selection() { return &selection_; }
   ToastCenter* toasts() { return &toasts_; }
@@ -80,7 +80,7 @@ class ContentModel : public QObject {
 
   const WorkspaceServices services_;
   LibraryStore& library_;
-  StackUndoManager undo_;
+  WindowUndo undo_;
   TileSelection selection_;
   ToastCenter toasts_;
   SheetHost sheets_;
