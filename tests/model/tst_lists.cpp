@@ -5,7 +5,6 @@
 
 #include <QAbstractItemModelTester>
 #include <QAbstractListModel>
-#include <QSignalSpy>
 #include <QTest>
 
 #include <algorithm>
