@@ -212,21 +212,6 @@ class TestKeyboard : public QObject {
     QTRY_COMPARE(stage.log(), "Dark");
   }
 
-  void theMenuBarOpensByF10() {
-    Stage stage(
-        "MenuBar { Menu { title: 'File'; MenuItem { text: 'New'; onTriggered: log(text) } }\n"
-        "Menu { title: 'Edit'; MenuItem { text: 'Undo'; onTriggered: log(text) }\n"
-        "MenuItem { text: 'Redo'; onTriggered: log(text) } } }");
-    stage.press(Qt::Key_F10);
-    QTest::qWait(150);
-    stage.press(Qt::Key_Right);
-    QTest::qWait(150);
-    stage.press(Qt::Key_Down);
-    stage.press(Qt::Key_Down);
-    stage.press(Qt::Key_Return);
-    QTRY_COMPARE(stage.log(), "Redo");
-  }
-
   void escapeWhileASubMenuFadesClosesItsParent() {
     Stage stage(menus);
     stage.press(Qt::Key_Tab);

@@ -2,7 +2,6 @@
 #include "testing/RandomBrand.h"
 #include "testing/TestLibrary.h"
 
-#include <QSignalSpy>
 #include <QTest>
 
 using namespace tarnloft;

@@ -48,6 +48,13 @@ struct Window {
     view->setParentItem(window.contentItem());
     return view;
   }
+  // The same, with its picture.
+  ThumbnailView* loaded(const QString& path, QSizeF size = {100, 60}) {
+    ThumbnailView* const made = view(path, size);
+    (void)window.grabWindow();
+    (void)QTest::qWaitFor([&] { return made->loadState() == ThumbnailView::LoadState::Loaded; });
+    return made;
+  }
   // An emblem, 64 points across, at the window's corner.
   EmblemView* emblem(const EmblemLook& look) {
     QQmlComponent component(window.engine());
@@ -89,18 +96,14 @@ class TestPictureViews : public QObject {
                                    {"no more than told", QSizeF(900, 900), 512}};
     cases.check([&](const QSizeF& size, int pixels) {
       Window test;
-      const ThumbnailView* view = test.view("red", size);
-      (void)test.window.grabWindow();
-      QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
+      const ThumbnailView* view = test.loaded("red", size);
       QCOMPARE(test.images.begun(), QStringList(QString("red %1").arg(pixels)));
     });
   }
 
   void showsWhatIsKeptAtOnce() {
     Window test;
-    const ThumbnailView* first = test.view("red");
-    (void)test.window.grabWindow();
-    QTRY_COMPARE(first->loadState(), ThumbnailView::LoadState::Loaded);
+    const ThumbnailView* first = test.loaded("red");
     delete first;
     const ThumbnailView* second = test.view("red");
     QCOMPARE(test.shown(50, 30), QColor(Qt::red));  // in its first frame
@@ -110,9 +113,7 @@ class TestPictureViews : public QObject {
 
   void keepsThePictureWhileAnotherSizeIsMade() {
     Window test;
-    ThumbnailView* view = test.view("red");
-    (void)test.window.grabWindow();
-    QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
+    ThumbnailView* view = test.loaded("red");
     test.images.close();
     view->setSize({300, 200});
     QCOMPARE(test.shown(150, 100), QColor(Qt::red));
@@ -122,9 +123,7 @@ class TestPictureViews : public QObject {
 
   void anotherFileShowsNothingOfTheFormer() {
     Window test;
-    ThumbnailView* view = test.view("red");
-    (void)test.window.grabWindow();
-    QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
+    ThumbnailView* view = test.loaded("red");
     test.images.close();
     view->setPath("blue");
     QCOMPARE(test.shown(50, 30), QColor(Qt::white));
@@ -161,9 +160,7 @@ class TestPictureViews : public QObject {
 
   void fitsOrFillsAndCutsCorners() {
     Window test;
-    ThumbnailView* view = test.view("red", {80, 80});
-    (void)test.window.grabWindow();
-    QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
+    ThumbnailView* view = test.loaded("red", {80, 80});
     QCOMPARE(test.shown(40, 10), QColor(Qt::white));  // twice as wide as high, so it stands between
     QCOMPARE(test.shown(40, 40), QColor(Qt::red));
     view->setFillMode(PictureView::Fill);
@@ -176,9 +173,7 @@ class TestPictureViews : public QObject {
 
   void standsOnWholePixels() {
     Window test;
-    ThumbnailView* view = test.view("red");
-    (void)test.window.grabWindow();
-    QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
+    ThumbnailView* view = test.loaded("red");
     for (const double y : {0.0, 7.4, 7.5, 7.8}) {  // as items do at a scale of 1.25
       view->setPosition({3.3, y});
       const QImage shown = test.window.grabWindow();

@@ -16,7 +16,6 @@
 #include <QPainter>
 #include <QProcess>
 #include <QRasterWindow>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>

@@ -109,15 +109,6 @@ class TestPage : public QObject {
     }
   }
 
-  void refusesAGradientWithoutCss() {
-    Page page;
-    page.setItems({Item::create(GradientPayload{{{}, 1e300, {}}})});
-    QVERIFY(!BrandPageExporter::writeFile(*page.document, page.store, page.path));
-    page.setItems({Item::create(GradientPayload{{{GradientStop{{}, "#000", -9.3e16}}, 0, {}}})});
-    QVERIFY(!BrandPageExporter::canPublish(page.document->brand()));
-    QVERIFY(!QFile::exists(page.path) && page.strays().isEmpty());
-  }
-
   void suggestsAFileName() {
     const Cases<QString, QString> cases{{"plain", " Acme\n", "Acme Brand Page.html"},
                                         {"separators", "a/b:c", "a-b-c Brand Page.html"},
@@ -147,12 +138,6 @@ class TestPage : public QObject {
     dialogs.answer = page.disk.path(str("no/such/folder.html"));
     QVERIFY(!exportPage());
     QCOMPARE(viewer.revealed, QStringList({page.path, *dialogs.answer}));
-  }
-
-  void mimeTypes() {
-    QCOMPARE(mimeType(str("webm")), QByteArrayView("video/webm"));
-    QCOMPARE(mimeType(str("jpeg")), QByteArrayView("image/jpeg"));
-    QCOMPARE(mimeType(str("PNG")), QByteArrayView("application/octet-stream"));
   }
 };
 

@@ -186,15 +186,6 @@ class TestAlerts : public QObject {
     QTRY_VERIFY(!views.item(dialog, "Two"));
   }
 
-  void aFailedPageExportIsTold() {
-    Alarmed views;
-    views.start();
-    views.library.dialogs.answer = views.library.disk.path("no/such/folder.html");
-    views.library.store->exportOpenBrandPage();
-    QTRY_VERIFY(views.item(dialog, "The brand page couldn't be exported"));
-    QVERIFY(views.shows("No such file or directory."));
-  }
-
   void asksWhatToDoWithoutATrash() {
     const Cases<QStringList, qsizetype> cases{
         {"kept", QStringList{"Cancel"}, qsizetype(1)},

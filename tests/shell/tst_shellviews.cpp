@@ -1,11 +1,9 @@
 #include "controls/motion/Motion.h"
 #include "controls/theme/Typography.h"
 #include "shell/TestViews.h"
-#include "testing/Cases.h"
 #include "workspace/Items.h"
 
 #include <QRegularExpression>
-#include <QSignalSpy>
 #include <QTest>
 #include <QtQml/qqmlextensionplugin.h>
 

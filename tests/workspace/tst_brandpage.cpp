@@ -4,7 +4,6 @@
 #include "workspace/TestPage.h"
 
 #include <QRegularExpression>
-#include <QSignalSpy>
 #include <QtQml/qqmlextensionplugin.h>
 
 #include <utility>

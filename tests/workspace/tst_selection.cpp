@@ -1,7 +1,6 @@
 #include "testing/Cases.h"
 #include "workspace/selection/TileSelection.h"
 
-#include <QSignalSpy>
 #include <QTest>
 
 #include <algorithm>

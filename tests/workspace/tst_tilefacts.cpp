@@ -61,6 +61,8 @@ class TestTileFacts : public QObject {
         {"name-only font of no weight", fontItem({}, {}), "Name only", "", "Type, Work Sans"},
         {"code", Item::create(CodePayload{{"css", "a {}", "Reset"}}), "css", "",
          "Code snippet, Reset"},
+        {"code of no language", Item::create(CodePayload{{"", "a {}", "Reset"}}), QString(), "",
+         "Code snippet, Reset"},
         {"empty logo set", logoItem(0), "0 variants", "", "Logo set, Mark, 0 variants"},
         {"logo set of one", logoItem(1), "1 variant", "", "Logo set, Mark, 1 variant"},
         {"logo set", logoItem(3), "3 variants", "", "Logo set, Mark, 3 variants"},
@@ -69,21 +71,10 @@ class TestTileFacts : public QObject {
                     const QString& description) {
       const None expected = subcaption.isNull() ? None() : None(subcaption);
       QCOMPARE(TileFacts::subcaption(item), expected);
+      QCOMPARE(TileFacts::hasSubcaption(item), expected.has_value());
       QCOMPARE(TileFacts::helpText(item), help);
       QCOMPARE(TileFacts::accessibilityDescription(item), description);
     });
-  }
-
-  void findsTheCheapAnswerToBeTheLongOne() {
-    const AssetRef file{"a.ttf", "a.ttf"};
-    for (const Item& item :
-         {colorItem("Sea"), fontItem(file, "Bold"), fontItem(file, ""), fontItem(file, {}),
-          fontItem({}, {}), logoItem(0), imageItem("Hero"),
-          Item::create(CodePayload{{"", "x", {}}}), Item::create(CodePayload{{"js", "x", {}}}),
-          Item::create(ColorPayload{{"#fff", {}, {}}}), textItem("a"), videoItem("v"),
-          Item::create(GradientPayload{})}) {
-      QCOMPARE(TileFacts::hasSubcaption(item), TileFacts::subcaption(item).has_value());
-    }
   }
 
   void drawsPicturesOfImagesAndPrimaryVariants() {

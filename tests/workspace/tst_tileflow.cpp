@@ -1,7 +1,6 @@
 #include "workspace/Items.h"
 #include "workspace/TestPage.h"
 
-#include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QtQml/qqmlextensionplugin.h>

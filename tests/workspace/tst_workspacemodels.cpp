@@ -59,8 +59,6 @@ QQuickItem view;  // of nothing, in no window
 
 using Verb = void (SectionModel::*)();
 
-Q_DECLARE_METATYPE(Verb)
-
 class TestWorkspaceModels : public QObject {
   Q_OBJECT
 
