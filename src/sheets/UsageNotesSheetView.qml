@@ -98,7 +98,8 @@ Sheet {
         ScrollArea {
             id: scroll
 
-            width: parent.width
+            x: -rows.padding
+            width: parent.width + 2 * rows.padding
             height: Math.min(300, contentHeight)
             visible: root.model.notes.count > 0
             contentHeight: rows.height

@@ -180,16 +180,16 @@ class TestSidebar : public QObject {
     test.library.add("Acme");
     test.library.add("Say \"hi\"");
     Sidebar& sidebar = test.start();
-    const auto answer = [&](const QString& brand, Answer answer) {
+    const auto reply = [&](const QString& brand, Answer answer) {
       sidebar.moveToTrash(test.library.packagePath(brand));
       auto* const question = qobject_cast<Question*>(test.sheets.current());
       QCOMPARE(question->title(), "Move “" + brand + "” to the Trash?");
       question->give(answer);
       QVERIFY(!test.sheets.current());
     };
-    answer("Say \"hi\"", Answer::Dismissed);
+    reply("Say \"hi\"", Answer::Dismissed);
     QCOMPARE(test.library.store->brands().size(), 2);
-    answer("Acme", Answer::Confirmed);
+    reply("Acme", Answer::Confirmed);
     QCOMPARE(test.library.names(), QStringList({"Say \"hi\""}));
     QVERIFY(QFile::exists(test.library.disk.path("trash/Acme.tarnloft")));
   }

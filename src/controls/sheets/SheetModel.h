@@ -13,6 +13,7 @@ class SheetModel : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by those who want a sheet")
+  Q_PROPERTY(QUrl view READ view CONSTANT)
 
  public:
   // The file of its view, a Sheet with a required property `model` of the model's own type.

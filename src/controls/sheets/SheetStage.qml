@@ -24,27 +24,30 @@ Item {
     }
 
     function show(wanted: SheetModel) {
-        const component = Qt.createComponent(wanted.view);
+        const component = Qt.createComponent(wanted.view.toString());
         if (component.status !== Component.Ready) {
             console.warn(component.errorString());
             return;
         }
         model = wanted;
         shown = component.createObject(root, {model: wanted}) as Sheet;
-        shown.closed.connect(end);
         shown.open();
     }
 
-    function end() {
-        const ended = model;
-        shown.destroy();
-        shown = null;
-        model = null;
-        host.closed(ended);
-        follow();
-    }
-
     Component.onCompleted: follow()
+
+    Connections {
+        target: root.shown
+
+        function onClosed() {
+            const ended = root.model;
+            root.shown.destroy();
+            root.shown = null;
+            root.model = null;
+            root.host.closed(ended);
+            root.follow();
+        }
+    }
 
     Connections {
         target: root.host

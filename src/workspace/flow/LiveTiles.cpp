@@ -19,7 +19,9 @@ void end(LiveTile& live) {
 
 }  // namespace
 
-bool LiveTile::isHeld() const { return tile->isDragged() || view->hasActiveFocus(); }
+bool LiveTile::isHeld() const {
+  return tile->isDragged() || tile->isMenuOpen() || view->hasActiveFocus();
+}
 
 LiveTile* LiveTiles::find(const QUuid& id) const {
   const auto found = live_.find(id);

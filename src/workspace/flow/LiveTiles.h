@@ -22,7 +22,7 @@ struct LiveTile {
   bool isWatched = false;  // the grid hears of its focus
   SpringMotion motion;
 
-  // It has the keyboard's focus or is being dragged, and so must not go.
+  // It has the keyboard's focus or an open menu, or is being dragged, and so must not go.
   bool isHeld() const;
 };
 

@@ -59,7 +59,9 @@ std::optional<FlowLayout::Direction> directionOf(int key) {
 }  // namespace
 
 TileFlow::TileFlow(QQuickItem* parent)
-    : QQuickItem(parent), live_(*this), clock_(std::make_unique<Clock>(*this)) {}
+    : QQuickItem(parent), live_(*this), clock_(std::make_unique<Clock>(*this)) {
+  setAcceptedMouseButtons(Qt::RightButton);
+}
 
 TileFlow::~TileFlow() = default;
 
@@ -294,8 +296,32 @@ int TileFlow::focusedIndex() const {
   return index;
 }
 
+// Here, for all tiles: an area for it over each would take a finger's taps.
+void TileFlow::mousePressEvent(QMouseEvent* event) {
+  const LiveTile* hit = nullptr;
+  live_.forEach([&](const LiveTile& live) {
+    if (live.view->contains(mapToItem(live.view, event->position()))) hit = &live;
+  });
+  event->setAccepted(hit && requestMenu(hit, mapToItem(hit->view, event->position())));
+}
+
+// Blocks have menus of their text.
+bool TileFlow::requestMenu(const LiveTile* live, const QPointF& at) {
+  if (!live || TileFacts::isBlock(live->tile->item())) return false;
+  live->view->forceActiveFocus(Qt::MouseFocusReason);
+  emit menuRequested(live->tile, live->view, at);
+  return true;
+}
+
 void TileFlow::keyPressEvent(QKeyEvent* event) {
   const int from = focusedIndex();
+  const bool isMenuKey = event->key() == Qt::Key_Menu ||
+                         (event->key() == Qt::Key_F10 && event->modifiers() & Qt::ShiftModifier);
+  if (isMenuKey && from >= 0) {
+    const LiveTile* const live = live_.find(section_->items()->items().at(from).id);
+    const QRectF rect = live ? live->view->boundingRect() : QRectF();
+    return event->setAccepted(requestMenu(live, rect.center()));
+  }
   const auto direction = directionOf(event->key());
   event->setAccepted(direction && from >= 0 && !layout_.isBlock(from));
   if (event->isAccepted()) focusTile(layout_.neighbour(from, *direction));

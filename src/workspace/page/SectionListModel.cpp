@@ -20,11 +20,11 @@ struct SectionListModel::Rows {
   const QList<Section>& target;
 
   std::vector<std::unique_ptr<SectionModel>>& models = model.models_;
+  QList<SectionModel*> gone = {};
 
   void remove(qsizetype from, qsizetype count) {
     const auto first = models.begin() + from;
-    // Behind the views that show them.
-    for (auto gone = first; gone != first + count; ++gone) gone->release()->deleteLater();
+    for (auto one = first; one != first + count; ++one) gone << one->release();
     models.erase(first, first + count);
   }
   void move(qsizetype from, qsizetype to) {
@@ -48,7 +48,10 @@ void SectionListModel::setSections(const QList<Section>& sections, const QString
   for (const auto& model : models_) before.push_back(model->id());
   // What has changed in a section is its own model's business.
   const auto isSame = [](qsizetype, qsizetype) { return true; };
-  carryOut(listDifference(before, idsOf(sections), isSame), Rows{*this, sections});
+  Rows rows{*this, sections};
+  carryOut(listDifference(before, idsOf(sections), isSame), rows);
+  for (SectionModel* const gone : rows.gone)
+    gone->deleteLater();  // behind the views that show them
   for (qsizetype i = 0; i < sections.size(); ++i) {
     models_[size_t(i)]->setSection(sections.at(i), searchText);
     models_[size_t(i)]->setPlace(i, sections.size());

@@ -137,7 +137,8 @@ void GroupOperations::bulkMove(const QUuid& target) {
     if (receiver < 0) return;
     const auto selected =
         places(section.items, [&](const Item& item) { return selection_.ids().contains(item.id); });
-    for (const Item& item : taken(section.items, selected)) brand.sections[receiver].items.append(item);
+    for (const Item& item : taken(section.items, selected))
+      brand.sections[receiver].items.append(item);
   });
 }
 

@@ -36,6 +36,7 @@ class Tile : public QObject {
   Q_PROPERTY(bool selected READ isSelected NOTIFY selectionChanged)
   Q_PROPERTY(bool sectionSelected READ isSectionSelected NOTIFY selectionChanged)
   Q_PROPERTY(bool dragged READ isDragged NOTIFY draggedChanged)
+  Q_PROPERTY(bool menuOpen MEMBER isMenuOpen_ NOTIFY menuOpenChanged)
   // The facet of its kind; the others are null. That of a logo set is a picture's too.
   Q_PROPERTY(tarnloft::BlockFacet* block READ block CONSTANT)
   Q_PROPERTY(tarnloft::ColorFacet* swatch READ swatch CONSTANT)
@@ -81,6 +82,7 @@ class Tile : public QObject {
   // and beside the pointer, so that the place of the drop is seen. Returns when the drag has ended.
   Q_INVOKABLE void drag(QQuickItem* view, const QImage& grabbed = {}, qreal radius = 0);
   bool isDragged() const { return isDragged_; }
+  bool isMenuOpen() const { return isMenuOpen_; }
 
   // Opens the sheet of its rules for use.
   Q_INVOKABLE void editNotes();
@@ -89,6 +91,7 @@ class Tile : public QObject {
   void changed();
   void selectionChanged();
   void draggedChanged();
+  void menuOpenChanged();
 
  private:
   template <class Facet>
@@ -101,6 +104,7 @@ class Tile : public QObject {
   Item item_;
   const std::unique_ptr<TileFacet> facet_;
   bool isDragged_ = false;
+  bool isMenuOpen_ = false;
 };
 
 }  // namespace tarnloft
