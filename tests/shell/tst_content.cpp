@@ -86,13 +86,17 @@ class TestContent : public QObject {
     QTRY_VERIFY(!old);
   }
 
-  void registersFontsAndKeepsAFirstVersion() {
+  void registersFontsBehindTheFirstFrameAndKeepsAFirstVersion() {
     ContentTest test;
     Section fonts = Section::create("Type");
     const AssetRef file{"a.otf", "A.otf"};
     fonts.items = {Item::create(FontPayload{{"Display", {}, {}, file, {}}})};
     test.library.add("Acme", {fonts});
     test.start();
+    test.workers.waitForDone();
+    QCOMPARE(test.fonts.registered.size(), 0);  // they would have all text laid out anew
+    test.content->followFirstFrame();
+    test.workers.waitForDone();
     QCOMPARE(test.fonts.registered.size(), 1);
     QTRY_COMPARE(test.library.store->openDocument()->listVersions().size(), 1);
   }

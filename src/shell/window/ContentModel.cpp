@@ -105,11 +105,20 @@ void ContentModel::renewWorkspace() {
   QTimer::singleShot(0, old.release(), &QObject::deleteLater);
 }
 
-std::unique_ptr<BrandWorkspace> ContentModel::makeWorkspace(BrandDocument& document) {
+void ContentModel::followFirstFrame() {
+  isFrameShown_ = true;
+  if (const BrandDocument* const open = library_.openDocument()) registerFonts(*open);
+}
+
+void ContentModel::registerFonts(const BrandDocument& document) {
   services_.imports.workers.start(
       [brand = document.brand(), package = document.files(), &fonts = services_.imports.fonts] {
         FontManager::registerAll(brand, package, fonts);
       });
+}
+
+std::unique_ptr<BrandWorkspace> ContentModel::makeWorkspace(BrandDocument& document) {
+  if (isFrameShown_) registerFonts(document);
   document.maybeAutoSnapshot();
   return std::make_unique<BrandWorkspace>(
       document, WindowParts{selection_, toasts_, sheets_, &undo_}, services_);

@@ -49,6 +49,9 @@ class ContentModel : public QObject {
   Alerts* alerts() { return &alerts_; }
   TileSelection* selection() { return &selection_; }
   ToastCenter* toasts() { return &toasts_; }
+  // The window has shown a frame: the open brand's fonts come, each of which has all text laid out
+  // anew, and later brands bring theirs at once.
+  void followFirstFrame();
   // Another brand gets another one, on the next turn of the event loop.
   BrandWorkspace* workspace() const { return workspace_.get(); }
   Thumbnails* thumbnails() const { return &services_.thumbnails; }
@@ -76,6 +79,7 @@ class ContentModel : public QObject {
   void followSelection();
   void renewWorkspace();
   void followDocument();
+  void registerFonts(const BrandDocument& document);
   std::unique_ptr<BrandWorkspace> makeWorkspace(BrandDocument& document);
 
   const WorkspaceServices services_;
@@ -88,6 +92,7 @@ class ContentModel : public QObject {
   Sidebar sidebar_;
   Alerts alerts_;
   std::optional<QString> selectedBrand_;
+  bool isFrameShown_ = false;
   QPointer<NameSheet> newBrandSheet_;  // while it is up
   QString newBrandName_;
   std::unique_ptr<BrandWorkspace> workspace_;

@@ -33,7 +33,9 @@ QList<QRect> screenRooms() {
 // Those of the sidebar, while its views load.
 void loadFonts() {
   // First, because it registers its font.
-  loadFont(SymbolGlyphs::font(16, QFont::Normal), SymbolGlyphs::text(QStringLiteral("plus")));
+  for (const int size : {16, 14}) {
+    loadFont(SymbolGlyphs::font(size, QFont::Normal), SymbolGlyphs::text(QStringLiteral("plus")));
+  }
   for (const auto& [size, weight] : {std::pair(13, QFont::Normal),
                                      {12, QFont::Normal},
                                      {13, QFont::DemiBold},
@@ -91,6 +93,7 @@ bool MainWindow::make() {
   isShown_ = false;
   const auto shown = [this] {
     isShown_ = true;
+    if (content_) content_->followFirstFrame();
     if (lateViews_.isNull()) {
       lateViews_.loadUrl(viewURL("MainWindowLateViews.qml"), QQmlComponent::Asynchronous);
     }
