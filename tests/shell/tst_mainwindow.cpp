@@ -69,9 +69,9 @@ class TestMainWindow : public QObject {
         {"screen has gone", state(QPoint(5000, 10), usual), state(std::nullopt, usual)},
         {"too large", state(QPoint(10, 10), {3000, 2000}), state(QPoint(10, 10), {1280, 1024})},
         {"anywhere", state(std::nullopt, usual), state(std::nullopt, usual)}};
-    cases.check([&](const WindowState& state, const WindowState& fitted) {
+    cases.check([&](const WindowState& given, const WindowState& fitted) {
       const QList<QRect> screens{{0, 0, 1280, 1024}, {1280, 0, 1920, 1080}};
-      QVERIFY(state.fitting(screens) == fitted);
+      QVERIFY(given.fitting(screens) == fitted);
     });
   }
 
