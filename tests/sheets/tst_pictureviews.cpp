@@ -96,7 +96,7 @@ class TestPictureViews : public QObject {
                                    {"no more than told", QSizeF(900, 900), 512}};
     cases.check([&](const QSizeF& size, int pixels) {
       Window test;
-      const ThumbnailView* view = test.loaded("red", size);
+      (void)test.loaded("red", size);
       QCOMPARE(test.images.begun(), QStringList(QString("red %1").arg(pixels)));
     });
   }
