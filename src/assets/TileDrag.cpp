@@ -2,6 +2,7 @@
 
 #include "assets/DragFileExport.h"
 #include "assets/ItemDrag.h"
+#include "assets/TiffFlavour.h"
 #include "model/FileName.h"
 
 namespace tarnloft::TileDrag {
@@ -37,8 +38,8 @@ DragItem fileExportProvider(const DragServices& services, const PackageReader& p
   DragItem item = variantProvider(services.files, package, asset);
   if (item.file && isPicture(services.types, asset)) {
     // Of the package's own file: the copy may have made way for another of its name by then.
-    item.makeTiff = [tiff = services.tiff, path = *package.assetPath(asset)](qint64 maxBytes) {
-      return tiff(path, maxBytes);
+    item.makeTiff = [&images = services.images, path = *package.assetPath(asset)](qint64 maxBytes) {
+      return TiffFlavour::make(images, path, maxBytes);
     };
   }
   return item;

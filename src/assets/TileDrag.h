@@ -5,6 +5,7 @@
 #include "model/Section.h"
 #include "platform/ContentTypes.h"
 #include "platform/DragSession.h"
+#include "platform/Images.h"
 
 #include <QSet>
 
@@ -14,8 +15,7 @@ namespace tarnloft {
 struct DragServices {
   FileStore& files;
   const ContentTypes& types;
-  // The TIFF form of a picture file, of so many bytes at most; none if it can't be had.
-  std::function<std::optional<QByteArray>(const QString& path, qint64 maxBytes)> tiff;
+  Images& images;
 };
 
 // What is dragged from a brand's tiles. Any thread; files are copied here, which takes its time.

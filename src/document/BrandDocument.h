@@ -47,10 +47,10 @@ class BrandDocument : public QObject {
     setBrand(std::move(changed));
   }
 
-  // Saves at once: sets `updatedAt`, of which nobody is told, then replaces `manifest.json` atomically and durably, making
-  // the package folder again if it is nowhere. A manifest that another machine has put there since
-  // is kept as a version first. A failure is one line in the system log and `saveProblem`, and is
-  // tried again every few seconds.
+  // Saves at once: sets `updatedAt`, of which nobody is told, then replaces `manifest.json`
+  // atomically and durably, making the package folder again if it is nowhere. A manifest that
+  // another machine has put there since is kept as a version first. A failure is one line in the
+  // system log and `saveProblem`, and is tried again every few seconds.
   void saveNow();
   void saveIfNeeded();
   // True from an edit until it is on disk.
@@ -161,6 +161,7 @@ class BrandDocument : public QObject {
   bool isFailureLogged_ = false;  // since the last change
   bool invalidated_ = false;
   bool isHeld_ = false;
+  Brand::ItemPlace updated_;  // of the last item that was changed, which the next keystroke is in
 };
 
 }  // namespace tarnloft

@@ -51,9 +51,12 @@ void BrandDocument::editSection(const QUuid& section, const std::function<void(S
 }
 
 void BrandDocument::updateItem(const QUuid& item, const std::function<void(Item&)>& change) {
-  const auto place = brand_.placeOf(item);
-  if (!place) return;
-  edit([&](Brand& brand) { change(brand.sections[place->section].items[place->item]); });
+  if (!brand_.holdsAt(updated_, item)) {
+    const auto place = brand_.placeOf(item);
+    if (!place) return;
+    updated_ = *place;
+  }
+  edit([&](Brand& brand) { change(brand.sections[updated_.section].items[updated_.item]); });
 }
 
 void BrandDocument::removeSection(const QUuid& section) {

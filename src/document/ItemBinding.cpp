@@ -16,11 +16,19 @@ void ItemBinding::update(const std::function<void(Item&)>& change) {
 void ItemBinding::follow() {
   const Brand& brand = document_->brand();
   const auto place = brand.placeOf(item_.id);
-  if (!place) return emit gone();
+  if (!place) {
+    // A move takes it out for a moment.
+    QMetaObject::invokeMethod(this, &ItemBinding::endIfGone, Qt::QueuedConnection);
+    return;
+  }
   const Item& now = brand.sections.at(place->section).items.at(place->item);
   if (now == item_) return;
   item_ = now;
   emit changed();
+}
+
+void ItemBinding::endIfGone() {
+  if (!document_ || !document_->brand().placeOf(item_.id)) emit gone();
 }
 
 }  // namespace tarnloft

@@ -22,11 +22,12 @@ class ItemBinding : public QObject {
 
  signals:
   void changed();
-  // It left the brand, or the document went.
+  // It left the brand for good, told in a later turn of the event loop, or the document went.
   void gone();
 
  private:
   void follow();
+  void endIfGone();
 
   QPointer<BrandDocument> document_;
   Item item_;

@@ -10,6 +10,12 @@ std::optional<Brand::ItemPlace> Brand::placeOf(const QUuid& item) const {
   return std::nullopt;
 }
 
+bool Brand::holdsAt(const ItemPlace& place, const QUuid& item) const {
+  if (place.section >= sections.size()) return false;
+  const SharedList<Item>& items = sections.at(place.section).items;
+  return place.item < items.size() && items.at(place.item).id == item;
+}
+
 Brand Brand::create(const QString& name, const Clock& clock) {
   Brand brand;
   brand.id = QUuid::createUuid();

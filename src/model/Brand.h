@@ -23,11 +23,12 @@ struct Brand {
 
   // Where an item stands: places in `sections` and in that section's items.
   struct ItemPlace {
-    qsizetype section;
-    qsizetype item;
+    qsizetype section = 0;
+    qsizetype item = 0;
   };
   // None if there is no item of that id.
   std::optional<ItemPlace> placeOf(const QUuid& item) const;
+  bool holdsAt(const ItemPlace& place, const QUuid& item) const;
 
   // A fresh brand with the empty sections "Colors" and "Logos". The name is taken as it stands.
   static Brand create(const QString& name, const Clock& clock = systemNow);

@@ -69,8 +69,8 @@ class SharedList {
     return result;
   }
 
-  // How many elements the lists have in common at their beginnings and, behind those, at their ends,
-  // as far as runs tell that both of them hold. Looks at no element.
+  // How many elements the lists have in common at their beginnings and, behind those, at their
+  // ends, as far as runs tell that both of them hold. Looks at no element.
   struct CommonEnds {
     qsizetype head = 0;
     qsizetype tail = 0;

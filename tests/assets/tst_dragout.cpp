@@ -20,7 +20,7 @@ namespace {
 struct Dragging {
   TestServices disk;
   FakeTypes types;
-  QStringList tiffed;
+  FakeImages images;
   std::unique_ptr<BrandDocument> document =
       *BrandDocument::create(disk.services(), disk.folder.path(), "Acme");
   QString temporary = disk.path("tmp");
@@ -39,12 +39,7 @@ struct Dragging {
     writeFile(assetPath(filename), filename.toUtf8());
     return {filename, originalName};
   }
-  DragServices services() {
-    return {disk.files, types, [this](const QString& path, qint64) -> std::optional<QByteArray> {
-              tiffed << path;
-              return "tiff of " + contentOf(path);
-            }};
-  }
+  DragServices services() { return {disk.files, types, images}; }
   DragItem drag(const Item& item) {
     return TileDrag::makeDragProvider(services(), document->files(), item);
   }
@@ -164,11 +159,13 @@ class TestDragOut : public QObject {
 
   void aPictureHasATiffOnDemand() {
     Dragging dragging;
+    dragging.images.told = ImageProperties{{4, 2}, false, std::nullopt};
     const DragItem drag = dragging.drag(image(dragging.asset("stored.jpg", "Photo.jpg")));
-    QVERIFY(dragging.tiffed.isEmpty());
+    QVERIFY(dragging.images.begun().isEmpty());
     QVERIFY(QFile::remove(*drag.file));
-    QCOMPARE(*drag.makeTiff(100), "tiff of stored.jpg");
-    QCOMPARE(dragging.tiffed, QStringList(dragging.assetPath("stored.jpg")));
+    QCOMPARE(drag.makeTiff(10'000)->size(), 4000);
+    QCOMPARE(dragging.images.begun(),
+             QStringList(dragging.assetPath("stored.jpg") + " tiff 4x2 1"));
   }
 
   void aTiffFitsItsBounds() {

@@ -44,6 +44,23 @@ class TheKeyboard(Journey):
         press("ctrl+z")
         self.eventually(lambda: kinds(acme), ["color", "gradient"])
 
+        self.tab_to(tarn, "list item", "#4C6FFF")
+        press("Menu")
+        tarn.find("menu item", "Usage & Notes…")
+        press("Down", "Return")
+        tarn.find("dialog", "Usage & Notes")
+        self.tab_to(tarn, "push button", "Add Rule")
+        press("Return")
+        tarn.find("menu item", "Don't")
+        press("Down", "Down", "Return")
+        self.eventually(lambda: tarn.focus, "Guidance")
+        write("Never on red")
+        self.eventually(lambda: [note["text"] for note in acme.items("Colors")[0].get("notes", [])], ["Never on red"])
+        self.assertEqual(acme.items("Colors")[0]["notes"][0]["kind"], "dont")
+        press("Escape")
+        tarn.gone("dialog")
+        self.eventually(lambda: tarn.focus, "#4C6FFF")
+
         self.tab_to(tarn, "text", "Section name")  # of the section behind the tile
         write("Palette")
         self.eventually(lambda: acme.manifest["sections"][1]["name"], "Palette")

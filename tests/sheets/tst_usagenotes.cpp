@@ -81,8 +81,10 @@ class TestUsageNotes : public QObject {
     QCOMPARE(test.sheet->title(), "Lake");
     QCOMPARE(test.sheet->notes()->count(), 0);
     undo.undo();
+    QCoreApplication::processEvents();
     QVERIFY(finished.isEmpty());
     test.document->removeItem(test.item.id);
+    QCoreApplication::processEvents();
     QCOMPARE(finished.size(), 1);
     test.sheet->add(Kind::Note);  // while it closes
     QCOMPARE(test.document->brand().sections.at(1).items.size(), 1);

@@ -30,7 +30,7 @@ class TestContent : public QObject {
   void showsWhatTheLibraryHolds() {
     ContentTest test;
     ContentModel& content = test.start();
-    QCOMPARE(content.detail(), ContentModel::Detail::welcome);
+    QCOMPARE(content.detail(), ContentModel::Detail::Welcome);
     QCOMPARE(content.title(), "Tarn Loft");
     QVERIFY(!content.commands()->hasSelection());
 
@@ -39,7 +39,7 @@ class TestContent : public QObject {
     test.library.store->createBrand("Acme");
     QVERIFY(!detail.isEmpty());
     QVERIFY(!selection.isEmpty());
-    QCOMPARE(content.detail(), ContentModel::Detail::brand);
+    QCOMPARE(content.detail(), ContentModel::Detail::Brand);
     QCOMPARE(content.title(), "Acme — Tarn Loft");
     QVERIFY(content.commands()->hasSelection());
 
@@ -47,7 +47,7 @@ class TestContent : public QObject {
     writeFile(test.library.packagePath("Broken") + "/manifest.json", "{");
     test.library.store->scan();
     test.library.store->select(test.library.packagePath("Broken"));
-    QCOMPARE(content.detail(), ContentModel::Detail::noSelection);
+    QCOMPARE(content.detail(), ContentModel::Detail::NoSelection);
     QVERIFY(content.commands()->hasSelection());
   }
 

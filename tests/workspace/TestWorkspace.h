@@ -55,18 +55,17 @@ struct TestDesktop {
 
   // Of the library as it was started last.
   WorkspaceServices services() {
-    return {
-        .library = *library.store,
-        .preferences = library.preferences,
-        .pasteboard = pasteboard,
-        .dialogs = library.dialogs,
-        .viewer = library.viewer,
-        .thumbnails = thumbnails,
-        .posters = posters,
-        .imports = {types, fonts, workers, {}},
-        .drops = drops,
-        .drags = {library.disk.files, types, [](const QString&, qint64) { return std::nullopt; }},
-        .dragSession = drags};
+    return {.library = *library.store,
+            .preferences = library.preferences,
+            .pasteboard = pasteboard,
+            .dialogs = library.dialogs,
+            .viewer = library.viewer,
+            .thumbnails = thumbnails,
+            .posters = posters,
+            .imports = {types, fonts, workers, {}},
+            .drops = drops,
+            .drags = {library.disk.files, types, images},
+            .dragSession = drags};
   }
 };
 

@@ -9,8 +9,8 @@ namespace tarnloft {
 class Checkerboard : public QQuickPaintedItem {
   Q_OBJECT
   QML_ELEMENT
-  Q_PROPERTY(qreal cell MEMBER m_cell NOTIFY changed)  // side of a cell in points
-  Q_PROPERTY(qreal radius MEMBER m_radius NOTIFY changed)
+  Q_PROPERTY(qreal cell MEMBER cell_ NOTIFY changed)  // side of a cell in points
+  Q_PROPERTY(qreal radius MEMBER radius_ NOTIFY changed)
 
  public:
   explicit Checkerboard(QQuickItem* parent = nullptr);
@@ -21,8 +21,8 @@ class Checkerboard : public QQuickPaintedItem {
   void changed();
 
  private:
-  qreal m_cell = 8;
-  qreal m_radius = 0;
+  qreal cell_ = 8;
+  qreal radius_ = 0;
 };
 
 }  // namespace tarnloft

@@ -10,12 +10,12 @@ DashedFrame::DashedFrame(QQuickItem* parent) : QQuickPaintedItem(parent) {
 }
 
 void DashedFrame::paint(QPainter* painter) {
-  QPen pen(m_color, m_thickness);
-  pen.setDashPattern({m_dash / m_thickness, m_dash / m_thickness});
+  QPen pen(color_, thickness_);
+  pen.setDashPattern({dash_ / thickness_, dash_ / thickness_});
   pen.setCapStyle(Qt::FlatCap);
   painter->setPen(pen);
-  const qreal inset = m_thickness / 2;
-  const qreal radius = m_radius - inset;
+  const qreal inset = thickness_ / 2;
+  const qreal radius = radius_ - inset;
   painter->drawRoundedRect(QRectF(0, 0, width(), height()).adjusted(inset, inset, -inset, -inset),
                            radius, radius);
 }

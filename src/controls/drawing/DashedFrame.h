@@ -11,10 +11,10 @@ namespace tarnloft {
 class DashedFrame : public QQuickPaintedItem {
   Q_OBJECT
   QML_ELEMENT
-  Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed)
-  Q_PROPERTY(qreal radius MEMBER m_radius NOTIFY changed)
-  Q_PROPERTY(qreal thickness MEMBER m_thickness NOTIFY changed)
-  Q_PROPERTY(qreal dash MEMBER m_dash NOTIFY changed)
+  Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed)
+  Q_PROPERTY(qreal radius MEMBER radius_ NOTIFY changed)
+  Q_PROPERTY(qreal thickness MEMBER thickness_ NOTIFY changed)
+  Q_PROPERTY(qreal dash MEMBER dash_ NOTIFY changed)
 
  public:
   explicit DashedFrame(QQuickItem* parent = nullptr);
@@ -25,10 +25,10 @@ class DashedFrame : public QQuickPaintedItem {
   void changed();
 
  private:
-  QColor m_color = Qt::black;
-  qreal m_radius = 12;
-  qreal m_thickness = 2;
-  qreal m_dash = 10;
+  QColor color_ = Qt::black;
+  qreal radius_ = 12;
+  qreal thickness_ = 2;
+  qreal dash_ = 10;
 };
 
 }  // namespace tarnloft

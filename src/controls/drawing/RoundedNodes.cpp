@@ -24,38 +24,38 @@ QPainterPath pathOf(const RoundedOutline& outline) {
 class Mesh {
  public:
   Mesh(qreal pixelRatio, qreal radius)
-      : m_fade(0.5 / pixelRatio),
-        m_steps(std::clamp(static_cast<int>(std::ceil(1.5 * std::sqrt(radius * pixelRatio))) + 1, 2,
-                           24)) {}
+      : fade_(0.5 / pixelRatio),
+        steps_(std::clamp(static_cast<int>(std::ceil(1.5 * std::sqrt(radius * pixelRatio))) + 1, 2,
+                          24)) {}
 
   void fill(const RoundedOutline& outline, const QColor& color) {
     if (color.alpha() == 0) return;
-    ring(outline.inset(-m_fade), Qt::transparent);
-    ring(outline.inset(m_fade), color);
+    ring(outline.inset(-fade_), Qt::transparent);
+    ring(outline.inset(fade_), color);
     join();
-    const int first = static_cast<int>(m_points.size()) - ringSize();
+    const int first = static_cast<int>(points_.size()) - ringSize();
     for (int i = 1; i + 1 < ringSize(); ++i) triangle(first, first + i, first + i + 1);
   }
 
   void edge(const RoundedOutline& outline, const QColor& color) {
     if (color.alpha() == 0 || outline.edge <= 0) return;
-    ring(outline.inset(-m_fade), Qt::transparent);
-    ring(outline.inset(m_fade), color);
+    ring(outline.inset(-fade_), Qt::transparent);
+    ring(outline.inset(fade_), color);
     join();
-    ring(outline.inset(outline.edge - m_fade), color);
+    ring(outline.inset(outline.edge - fade_), color);
     join();
-    ring(outline.inset(outline.edge + m_fade), Qt::transparent);
+    ring(outline.inset(outline.edge + fade_), Qt::transparent);
     join();
   }
 
   void writeTo(QSGGeometry& geometry) const {
-    geometry.allocate(static_cast<int>(m_points.size()), static_cast<int>(m_indices.size()));
-    std::copy(m_points.begin(), m_points.end(), geometry.vertexDataAsColoredPoint2D());
-    std::copy(m_indices.begin(), m_indices.end(), geometry.indexDataAsUShort());
+    geometry.allocate(static_cast<int>(points_.size()), static_cast<int>(indices_.size()));
+    std::copy(points_.begin(), points_.end(), geometry.vertexDataAsColoredPoint2D());
+    std::copy(indices_.begin(), indices_.end(), geometry.indexDataAsUShort());
   }
 
  private:
-  int ringSize() const { return 4 * (m_steps + 1); }
+  int ringSize() const { return 4 * (steps_ + 1); }
 
   void ring(const RoundedOutline& outline, const QColor& color) {
     const QRectF& r = outline.rectangle;
@@ -65,8 +65,8 @@ class Mesh {
                              QPointF(r.left() + radius, r.bottom() - radius),
                              QPointF(r.right() - radius, r.bottom() - radius)};
     for (int corner = 0; corner < 4; ++corner)
-      for (int step = 0; step <= m_steps; ++step) {
-        const qreal angle = M_PI_2 * (corner + static_cast<qreal>(step) / m_steps);
+      for (int step = 0; step <= steps_; ++step) {
+        const qreal angle = M_PI_2 * (corner + static_cast<qreal>(step) / steps_);
         point(middles.at(corner) + radius * QPointF(std::cos(angle), -std::sin(angle)), color);
       }
   }
@@ -77,12 +77,12 @@ class Mesh {
     QSGGeometry::ColoredPoint2D result{};
     result.set(static_cast<float>(place.x()), static_cast<float>(place.y()), byte(qRed(rgb)),
                byte(qGreen(rgb)), byte(qBlue(rgb)), byte(qAlpha(rgb)));
-    m_points.push_back(result);
+    points_.push_back(result);
   }
 
   // The last ring with the one before.
   void join() {
-    const int inner = static_cast<int>(m_points.size()) - ringSize();
+    const int inner = static_cast<int>(points_.size()) - ringSize();
     const int outer = inner - ringSize();
     for (int i = 0; i < ringSize(); ++i) {
       const int next = (i + 1) % ringSize();
@@ -92,65 +92,65 @@ class Mesh {
   }
 
   void triangle(int a, int b, int c) {
-    for (const int index : {a, b, c}) m_indices.push_back(static_cast<quint16>(index));
+    for (const int index : {a, b, c}) indices_.push_back(static_cast<quint16>(index));
   }
 
-  qreal m_fade;
-  int m_steps;  // of a quarter circle
-  std::vector<QSGGeometry::ColoredPoint2D> m_points;
-  std::vector<quint16> m_indices;
+  qreal fade_;
+  int steps_;  // of a quarter circle
+  std::vector<QSGGeometry::ColoredPoint2D> points_;
+  std::vector<quint16> indices_;
 };
 
 }  // namespace
 
 void PaintedRoundedNode::show(const RoundedShape& shape) {
-  m_shape = shape;
+  shape_ = shape;
   markDirty(DirtyMaterial | DirtyGeometry);
 }
 
 QRectF PaintedRoundedNode::rect() const {
-  return m_shape.outline.rectangle.adjusted(-1, -1, 1, 1);  // a side may move by half a pixel
+  return shape_.outline.rectangle.adjusted(-1, -1, 1, 1);  // a side may move by half a pixel
 }
 
 void PaintedRoundedNode::render(const RenderState* state) {
   auto* painter = static_cast<QPainter*>(
-      m_window->rendererInterface()->getResource(m_window, QSGRendererInterface::PainterResource));
+      window_->rendererInterface()->getResource(window_, QSGRendererInterface::PainterResource));
   painter->setClipRegion(*state->clipRegion(), Qt::ReplaceClip);
   painter->setTransform(matrix()->toTransform());
   painter->setOpacity(inheritedOpacity());
   painter->setRenderHint(QPainter::Antialiasing);
   const RoundedOutline placed =
-      m_shape.outline.onPixels(painter->deviceTransform(), painter->device()->devicePixelRatioF());
-  painter->fillPath(pathOf(m_shape.filled(placed)), m_shape.fill);
-  if (placed.edge <= 0 || m_shape.edge.alpha() == 0) return;
+      shape_.outline.onPixels(painter->deviceTransform(), painter->device()->devicePixelRatioF());
+  painter->fillPath(pathOf(shape_.filled(placed)), shape_.fill);
+  if (placed.edge <= 0 || shape_.edge.alpha() == 0) return;
   QPainterPath edge = pathOf(placed);
   edge.addPath(pathOf(placed.inset(placed.edge)));
-  painter->fillPath(edge, m_shape.edge);
+  painter->fillPath(edge, shape_.edge);
 }
 
 MeshedRoundedNode::MeshedRoundedNode()
-    : m_triangles(QSGGeometry::defaultAttributes_ColoredPoint2D(), 0, 0,
-                  QSGGeometry::UnsignedShortType) {
-  m_triangles.setDrawingMode(QSGGeometry::DrawTriangles);
-  setGeometry(&m_triangles);
-  setMaterial(&m_colors);
+    : triangles_(QSGGeometry::defaultAttributes_ColoredPoint2D(), 0, 0,
+                 QSGGeometry::UnsignedShortType) {
+  triangles_.setDrawingMode(QSGGeometry::DrawTriangles);
+  setGeometry(&triangles_);
+  setMaterial(&colors_);
   setFlag(UsePreprocess);
 }
 
 void MeshedRoundedNode::show(const RoundedShape& shape, QSizeF pixelRatio) {
-  m_shape = shape;
-  m_pixelRatio = pixelRatio;
-  m_placed.reset();
+  shape_ = shape;
+  pixelRatio_ = pixelRatio;
+  placed_.reset();
 }
 
 void MeshedRoundedNode::preprocess() {
-  const RoundedOutline placed = m_shape.outline.onPixels(toPixels(), m_pixelRatio.width());
-  if (m_placed == placed) return;
-  m_placed = placed;
-  Mesh mesh(m_pixelRatio.width(), placed.radius);
-  mesh.fill(m_shape.filled(placed), m_shape.fill);
-  mesh.edge(placed, m_shape.edge);
-  mesh.writeTo(m_triangles);
+  const RoundedOutline placed = shape_.outline.onPixels(toPixels(), pixelRatio_.width());
+  if (placed_ == placed) return;
+  placed_ = placed;
+  Mesh mesh(pixelRatio_.width(), placed.radius);
+  mesh.fill(shape_.filled(placed), shape_.fill);
+  mesh.edge(placed, shape_.edge);
+  mesh.writeTo(triangles_);
   markDirty(DirtyGeometry);
 }
 
@@ -159,7 +159,7 @@ QTransform MeshedRoundedNode::toPixels() const {
   for (const QSGNode* node = parent(); node; node = node->parent())
     if (node->type() == TransformNodeType)
       matrix = static_cast<const QSGTransformNode*>(node)->matrix() * matrix;
-  return matrix.toTransform() * QTransform::fromScale(m_pixelRatio.width(), m_pixelRatio.height());
+  return matrix.toTransform() * QTransform::fromScale(pixelRatio_.width(), pixelRatio_.height());
 }
 
 }  // namespace tarnloft

@@ -28,7 +28,7 @@ struct RoundedShape {
 // For the software scene graph: paints the shape where it stands.
 class PaintedRoundedNode : public QSGRenderNode {
  public:
-  explicit PaintedRoundedNode(QQuickWindow* window) : m_window(window) {}
+  explicit PaintedRoundedNode(QQuickWindow* window) : window_(window) {}
 
   void show(const RoundedShape& shape);
 
@@ -37,8 +37,8 @@ class PaintedRoundedNode : public QSGRenderNode {
   QRectF rect() const override;
 
  private:
-  QQuickWindow* m_window;
-  RoundedShape m_shape;
+  QQuickWindow* window_;
+  RoundedShape shape_;
 };
 
 // For the others: triangles whose rims fade out over one pixel.
@@ -55,11 +55,11 @@ class MeshedRoundedNode : public QSGGeometryNode {
  private:
   QTransform toPixels() const;
 
-  RoundedShape m_shape;
-  QSizeF m_pixelRatio{1, 1};
-  std::optional<RoundedOutline> m_placed;  // what the triangles show
-  QSGGeometry m_triangles;
-  QSGVertexColorMaterial m_colors;
+  RoundedShape shape_;
+  QSizeF pixelRatio_{1, 1};
+  std::optional<RoundedOutline> placed_;  // what the triangles show
+  QSGGeometry triangles_;
+  QSGVertexColorMaterial colors_;
 };
 
 }  // namespace tarnloft

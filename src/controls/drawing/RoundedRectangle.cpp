@@ -38,22 +38,22 @@ void RoundedRectangle::itemChange(ItemChange change, const ItemChangeData& data)
 
 // Where pixels are as many as points or whole multiples, windows of all sizes are the same.
 void RoundedRectangle::follow(QQuickWindow* window) {
-  if (m_window) m_window->disconnect(this);
-  m_window = window;
+  if (window_) window_->disconnect(this);
+  window_ = window;
   if (!window || std::fmod(window->effectiveDevicePixelRatio(), 1) == 0) return;
   connect(window, &QWindow::widthChanged, this, &RoundedRectangle::update);
   connect(window, &QWindow::heightChanged, this, &RoundedRectangle::update);
 }
 
 QSGNode* RoundedRectangle::updatePaintNode(QSGNode* node, UpdatePaintNodeData* /*data*/) {
-  const bool hasEdge = m_edgeWidth > 0 && m_edgeColor.alpha() > 0;
-  if (width() <= 0 || height() <= 0 || (m_color.alpha() == 0 && !hasEdge)) {
+  const bool hasEdge = edgeWidth_ > 0 && edgeColor_.alpha() > 0;
+  if (width() <= 0 || height() <= 0 || (color_.alpha() == 0 && !hasEdge)) {
     delete node;
     return nullptr;
   }
-  const qreal radius = std::clamp(m_radius, 0.0, std::min(width(), height()) / 2);
+  const qreal radius = std::clamp(radius_, 0.0, std::min(width(), height()) / 2);
   const RoundedShape shape{
-      {QRectF(0, 0, width(), height()), radius, hasEdge ? m_edgeWidth : 0}, m_color, m_edgeColor};
+      {QRectF(0, 0, width(), height()), radius, hasEdge ? edgeWidth_ : 0}, color_, edgeColor_};
   if (window()->rendererInterface()->graphicsApi() == QSGRendererInterface::Software) {
     auto* painted = orNew<PaintedRoundedNode>(node, window());
     painted->show(shape);

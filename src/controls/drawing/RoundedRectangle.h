@@ -18,10 +18,10 @@ namespace tarnloft {
 class RoundedRectangle : public QQuickItem {
   Q_OBJECT
   QML_ELEMENT
-  Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed)
-  Q_PROPERTY(qreal radius MEMBER m_radius NOTIFY changed)
-  Q_PROPERTY(qreal edgeWidth MEMBER m_edgeWidth NOTIFY changed)
-  Q_PROPERTY(QColor edgeColor MEMBER m_edgeColor NOTIFY changed)
+  Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed)
+  Q_PROPERTY(qreal radius MEMBER radius_ NOTIFY changed)
+  Q_PROPERTY(qreal edgeWidth MEMBER edgeWidth_ NOTIFY changed)
+  Q_PROPERTY(QColor edgeColor MEMBER edgeColor_ NOTIFY changed)
 
  public:
   explicit RoundedRectangle(QQuickItem* parent = nullptr);
@@ -36,11 +36,11 @@ class RoundedRectangle : public QQuickItem {
  private:
   void follow(QQuickWindow* window);
 
-  QColor m_color = Qt::white;
-  qreal m_radius = 0;
-  qreal m_edgeWidth = 0;
-  QColor m_edgeColor = Qt::black;
-  QPointer<QQuickWindow> m_window;
+  QColor color_ = Qt::white;
+  qreal radius_ = 0;
+  qreal edgeWidth_ = 0;
+  QColor edgeColor_ = Qt::black;
+  QPointer<QQuickWindow> window_;
 };
 
 }  // namespace tarnloft

@@ -19,15 +19,15 @@ FocusOrigin::FocusOrigin(QObject* parent) : QObject(parent) { qGuiApp->installEv
 
 bool FocusOrigin::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress)
-    set(m_keyboard || navigates(static_cast<QKeyEvent*>(event)->key()));
+    set(keyboard_ || navigates(static_cast<QKeyEvent*>(event)->key()));
   else if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin)
     set(false);
   return QObject::eventFilter(watched, event);
 }
 
 void FocusOrigin::set(bool keyboard) {
-  if (m_keyboard == keyboard) return;
-  m_keyboard = keyboard;
+  if (keyboard_ == keyboard) return;
+  keyboard_ = keyboard;
   emit keyboardChanged();
 }
 

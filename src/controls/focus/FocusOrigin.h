@@ -16,7 +16,7 @@ class FocusOrigin : public QObject {
  public:
   explicit FocusOrigin(QObject* parent = nullptr);
 
-  bool isKeyboard() const { return m_keyboard; }
+  bool isKeyboard() const { return keyboard_; }
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  signals:
@@ -25,7 +25,7 @@ class FocusOrigin : public QObject {
  private:
   void set(bool keyboard);
 
-  bool m_keyboard = false;
+  bool keyboard_ = false;
 };
 
 }  // namespace tarnloft

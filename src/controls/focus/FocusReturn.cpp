@@ -21,28 +21,28 @@ FocusReturn::FocusReturn(QObject* parent) : QObject(parent) { all() << this; }
 FocusReturn::~FocusReturn() { all().removeOne(this); }
 
 void FocusReturn::remember() {
-  m_before.clear();
+  before_.clear();
   QQuickItem* focused =
-      m_within && m_within->window() ? m_within->window()->activeFocusItem() : nullptr;
+      within_ && within_->window() ? within_->window()->activeFocusItem() : nullptr;
   if (!focused) return;
-  m_before << focused;
+  before_ << focused;
   for (const FocusReturn* other : std::as_const(all()))
-    if (other != this && other->m_content && other->m_content->isAncestorOf(focused))
-      m_before << other->m_before;
+    if (other != this && other->content_ && other->content_->isAncestorOf(focused))
+      before_ << other->before_;
 }
 
 void FocusReturn::giveBack() {
-  const auto target = std::find_if(m_before.cbegin(), m_before.cend(), [](const auto& item) {
+  const auto target = std::find_if(before_.cbegin(), before_.cend(), [](const auto& item) {
     return item && item->isVisible() && item->isEnabled() && item->window();
   });
-  if (target == m_before.cend()) return;
+  if (target == before_.cend()) return;
   if (isFree((*target)->window()->activeFocusItem(), *target))
     (*target)->forceActiveFocus(Qt::PopupFocusReason);
 }
 
 bool FocusReturn::isFree(const QQuickItem* focused, const QQuickItem* target) const {
-  return !focused || !focused->isVisible() || focused == m_content ||
-         focused->isAncestorOf(target) || (m_content && m_content->isAncestorOf(focused));
+  return !focused || !focused->isVisible() || focused == content_ ||
+         focused->isAncestorOf(target) || (content_ && content_->isAncestorOf(focused));
 }
 
 }  // namespace tarnloft

@@ -14,9 +14,9 @@ class FocusReturn : public QObject {
   Q_OBJECT
   QML_ELEMENT
   // Any item of the window.
-  Q_PROPERTY(QQuickItem* within MEMBER m_within NOTIFY withinChanged)
+  Q_PROPERTY(QQuickItem* within MEMBER within_ NOTIFY withinChanged)
   // The popup's own content, which the focus leaves when it closes.
-  Q_PROPERTY(QQuickItem* content MEMBER m_content NOTIFY contentChanged)
+  Q_PROPERTY(QQuickItem* content MEMBER content_ NOTIFY contentChanged)
 
  public:
   explicit FocusReturn(QObject* parent = nullptr);
@@ -35,9 +35,9 @@ class FocusReturn : public QObject {
 
   bool isFree(const QQuickItem* focused, const QQuickItem* target) const;
 
-  QPointer<QQuickItem> m_within;
-  QPointer<QQuickItem> m_content;
-  Items m_before;  // the latest first
+  QPointer<QQuickItem> within_;
+  QPointer<QQuickItem> content_;
+  Items before_;  // the latest first
 };
 
 }  // namespace tarnloft

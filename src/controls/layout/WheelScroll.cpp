@@ -41,16 +41,16 @@ qreal bounded(const QQuickItem* item, const Axis& axis, qreal value) {
 }  // namespace
 
 WheelScroll::WheelScroll(QObject* parent) : QObject(parent) {
-  m_glide.setDuration(glideTime);
-  m_glide.setEasingCurve(QEasingCurve::OutCubic);
+  glide_.setDuration(glideTime);
+  glide_.setEasingCurve(QEasingCurve::OutCubic);
 }
 
 void WheelScroll::setFlickable(QQuickItem* flickable) {
-  if (flickable == m_flickable) return;
-  if (m_flickable) m_flickable->removeEventFilter(this);
-  m_flickable = flickable;
-  m_glide.stop();
-  m_glide.setTargetObject(flickable);
+  if (flickable == flickable_) return;
+  if (flickable_) flickable_->removeEventFilter(this);
+  flickable_ = flickable;
+  glide_.stop();
+  glide_.setTargetObject(flickable);
   if (flickable) {
     flickable->setProperty("interactive", false);
     flickable->installEventFilter(this);
@@ -61,19 +61,19 @@ void WheelScroll::setFlickable(QQuickItem* flickable) {
 }
 
 void WheelScroll::watchWindow(QQuickWindow* window) {
-  if (m_window) m_window->removeEventFilter(this);
-  m_window = window;
+  if (window_) window_->removeEventFilter(this);
+  window_ = window;
   if (window) window->installEventFilter(this);
 }
 
 bool WheelScroll::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == m_flickable && event->type() == QEvent::Wheel) {
+  if (watched == flickable_ && event->type() == QEvent::Wheel) {
     scroll(static_cast<QWheelEvent*>(event));
     return true;
   }
-  if (watched == m_window && m_flickable) {
-    if (event->type() == QEvent::TouchBegin) m_flickable->setProperty("interactive", true);
-    if (event->type() == QEvent::MouseButtonPress) m_flickable->setProperty("interactive", false);
+  if (watched == window_ && flickable_) {
+    if (event->type() == QEvent::TouchBegin) flickable_->setProperty("interactive", true);
+    if (event->type() == QEvent::MouseButtonPress) flickable_->setProperty("interactive", false);
   }
   return QObject::eventFilter(watched, event);
 }
@@ -90,26 +90,26 @@ void WheelScroll::scroll(QWheelEvent* event) {
 bool WheelScroll::scrollAlong(Qt::Orientation direction, qreal pixels, qreal notches) {
   const Axis& axis = axisOf(direction);
   const bool gliding =
-      m_glide.state() == QAbstractAnimation::Running && m_glide.propertyName() == axis.content;
-  const qreal now = number(m_flickable, axis.content);
-  const qreal from = gliding && pixels == 0 ? m_glide.endValue().toReal() : now;
-  const qreal to = bounded(m_flickable, axis, from - (pixels != 0 ? pixels : notches * m_notch));
+      glide_.state() == QAbstractAnimation::Running && glide_.propertyName() == axis.content;
+  const qreal now = number(flickable_, axis.content);
+  const qreal from = gliding && pixels == 0 ? glide_.endValue().toReal() : now;
+  const qreal to = bounded(flickable_, axis, from - (pixels != 0 ? pixels : notches * notch_));
   if (to == from) return gliding;
   if (pixels == 0) {
     glideTo(direction, to);
   } else {
-    m_glide.stop();
-    m_flickable->setProperty(axis.content, to);
+    glide_.stop();
+    flickable_->setProperty(axis.content, to);
   }
   return true;
 }
 
 void WheelScroll::glideTo(Qt::Orientation direction, qreal value) {
-  m_glide.stop();
-  m_glide.setPropertyName(axisOf(direction).content);
-  m_glide.setStartValue(number(m_flickable, axisOf(direction).content));
-  m_glide.setEndValue(value);
-  m_glide.start();
+  glide_.stop();
+  glide_.setPropertyName(axisOf(direction).content);
+  glide_.setStartValue(number(flickable_, axisOf(direction).content));
+  glide_.setEndValue(value);
+  glide_.start();
 }
 
 }  // namespace tarnloft

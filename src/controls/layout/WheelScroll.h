@@ -19,12 +19,12 @@ class WheelScroll : public QObject {
   Q_PROPERTY(
       QQuickItem* flickable READ flickable WRITE setFlickable NOTIFY flickableChanged REQUIRED)
   // Points that one notch of the wheel scrolls.
-  Q_PROPERTY(qreal notch MEMBER m_notch NOTIFY notchChanged)
+  Q_PROPERTY(qreal notch MEMBER notch_ NOTIFY notchChanged)
 
  public:
   explicit WheelScroll(QObject* parent = nullptr);
 
-  QQuickItem* flickable() const { return m_flickable; }
+  QQuickItem* flickable() const { return flickable_; }
   void setFlickable(QQuickItem* flickable);
 
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -39,10 +39,10 @@ class WheelScroll : public QObject {
   bool scrollAlong(Qt::Orientation direction, qreal pixels, qreal notches);
   void glideTo(Qt::Orientation direction, qreal value);
 
-  QPointer<QQuickItem> m_flickable;
-  QPointer<QQuickWindow> m_window;
-  QPropertyAnimation m_glide;
-  qreal m_notch = 84;
+  QPointer<QQuickItem> flickable_;
+  QPointer<QQuickWindow> window_;
+  QPropertyAnimation glide_;
+  qreal notch_ = 84;
 };
 
 }  // namespace tarnloft

@@ -15,8 +15,8 @@ Motion& Motion::of(QQmlEngine& engine) {
 Motion* Motion::create(QQmlEngine* engine, QJSEngine* /*scripts*/) { return &of(*engine); }
 
 void Motion::setReduced(bool reduced) {
-  if (m_reduced == reduced) return;
-  m_reduced = reduced;
+  if (reduced_ == reduced) return;
+  reduced_ = reduced;
   emit reducedChanged();
 }
 

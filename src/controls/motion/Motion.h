@@ -26,11 +26,11 @@ class Motion : public QObject {
 
   static Motion* create(QQmlEngine* engine, QJSEngine* scripts);
 
-  bool isReduced() const { return m_reduced; }
+  bool isReduced() const { return reduced_; }
   void setReduced(bool reduced);
 
   // Milliseconds for a plain animation, 0 where movement is reduced.
-  Q_INVOKABLE int time(int milliseconds) const { return m_reduced ? 0 : milliseconds; }
+  Q_INVOKABLE int time(int milliseconds) const { return reduced_ ? 0 : milliseconds; }
 
   Q_INVOKABLE int duration(double response, double dampingFraction) const;
   Q_INVOKABLE QEasingCurve easing(double response, double dampingFraction) const;
@@ -43,7 +43,7 @@ class Motion : public QObject {
  private:
   explicit Motion(QObject* parent) : QObject(parent) {}
 
-  bool m_reduced = false;
+  bool reduced_ = false;
 };
 
 }  // namespace tarnloft

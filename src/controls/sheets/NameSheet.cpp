@@ -10,7 +10,7 @@ void NameSheet::setText(const QString& text) {
 
 void NameSheet::confirm() {
   if (!isConfirmable()) return;
-  emit finished();
+  emit finished();  // which ends it in a later turn at the earliest
   named_(text_.trimmed());
 }
 

@@ -38,11 +38,12 @@ void SheetHost::end(SheetModel* sheet) {
   const auto found = std::ranges::find(sheets_, sheet, &std::unique_ptr<SheetModel>::get);
   if (found == sheets_.end()) return;
   const bool wasCurrent = found == sheets_.begin();
-  const auto gone = std::move(*found);
+  SheetModel* const gone = found->release();
   sheets_.erase(found);
   gone->disconnect(this);
   if (wasCurrent) emit currentChanged();
   gone->ended();
+  gone->deleteLater();  // behind its view
 }
 
 }  // namespace tarnloft

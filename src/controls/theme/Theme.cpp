@@ -28,7 +28,7 @@ Measures measuresOf(int size) {
 }  // namespace
 
 Theme::Theme(QObject* parent)
-    : QObject(parent), m_palette(Palette::make(m_scheme, QColor(defaultAccent))) {}
+    : QObject(parent), palette_(Palette::make(scheme_, QColor(defaultAccent))) {}
 
 Theme& Theme::of(QQmlEngine& engine) {
   if (auto* theme = engine.findChild<Theme*>(QString(), Qt::FindDirectChildrenOnly)) return *theme;
@@ -39,17 +39,17 @@ Theme& Theme::of(QQmlEngine& engine) {
 Theme* Theme::create(QQmlEngine* engine, QJSEngine* /*scripts*/) { return &of(*engine); }
 
 void Theme::setDark(bool dark) {
-  renew(dark ? ColorScheme::dark : ColorScheme::light, m_palette.accent);
+  renew(dark ? ColorScheme::dark : ColorScheme::light, palette_.accent);
 }
 
 void Theme::setAccent(const QColor& accent) {
-  if (accent.isValid()) renew(m_scheme, accent);
+  if (accent.isValid()) renew(scheme_, accent);
 }
 
 void Theme::renew(ColorScheme scheme, const QColor& accent) {
-  if (scheme == m_scheme && accent == m_palette.accent) return;
-  m_scheme = scheme;
-  m_palette = Palette::make(scheme, accent);
+  if (scheme == scheme_ && accent == palette_.accent) return;
+  scheme_ = scheme;
+  palette_ = Palette::make(scheme, accent);
   emit changed();
 }
 

@@ -14,7 +14,7 @@ namespace tarnloft {
 
 // One getter for QML over a colour of the palette.
 #define TARNLOFT_COLOR(name) \
-  QColor name() const { return m_palette.name; }
+  QColor name() const { return palette_.name; }
 
 // The look of all windows of one engine, for QML. The application sets `dark` and `accent`; all
 // else follows. Sizes are logical pixels.
@@ -103,10 +103,10 @@ class Theme : public QObject {
 
   static Theme* create(QQmlEngine* engine, QJSEngine* scripts);
 
-  bool isDark() const { return m_scheme == ColorScheme::dark; }
+  bool isDark() const { return scheme_ == ColorScheme::dark; }
   void setDark(bool dark);
   void setAccent(const QColor& accent);
-  const Palette& palette() const { return m_palette; }
+  const Palette& palette() const { return palette_; }
 
   static int fieldRadius() { return 6; }
   static int cardRadius() { return 10; }
@@ -195,8 +195,8 @@ class Theme : public QObject {
   explicit Theme(QObject* parent);
   void renew(ColorScheme scheme, const QColor& accent);
 
-  ColorScheme m_scheme = ColorScheme::light;
-  Palette m_palette;
+  ColorScheme scheme_ = ColorScheme::light;
+  Palette palette_;
 };
 
 #undef TARNLOFT_COLOR

@@ -45,9 +45,6 @@ WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
                                            : QStringLiteral("%1 files").arg(names.size());
     tell(what + QStringLiteral(" couldn't be added"), reason);
   };
-  const auto tiff = [this](const QString& path, qint64 maxBytes) {
-    return media.tiff(path, maxBytes);
-  };
   return {.library = library,
           .preferences = preferences,
           .pasteboard = pasteboard,
@@ -62,7 +59,7 @@ WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
                       .failed = tellFailed,
                       .progress = &importProgress},
           .drops = drops,
-          .drags = {.files = files, .types = types, .tiff = tiff},
+          .drags = {.files = files, .types = types, .images = media.images},
           .dragSession = dragSession};
 }
 

@@ -23,9 +23,6 @@ struct MediaServices {
   ThumbnailLoader loader{images, work};
   Thumbnails thumbnails{loader};
   Posters posters{videos, work};
-
-  // The picture in TIFF, as a drag offers it; none if its pixels take more than so many bytes.
-  std::optional<QByteArray> tiff(const QString& path, qint64 maxBytes);
 };
 
 }  // namespace tarnloft

@@ -10,8 +10,9 @@ QString sentence(const QString& text) {
 }
 
 QString quitTitle(const QStringList& brands) {
-  return brands.size() == 1 ? QStringLiteral("Changes to “%1” aren't saved").arg(brands.first())
-                            : QStringLiteral("Changes to %1 brands aren't saved").arg(brands.size());
+  return brands.size() == 1
+             ? QStringLiteral("Changes to “%1” aren't saved").arg(brands.first())
+             : QStringLiteral("Changes to %1 brands aren't saved").arg(brands.size());
 }
 
 }  // namespace
@@ -74,14 +75,13 @@ void Alerts::askDeleteImmediately(const BrandSummary& brand) {
 void Alerts::askToQuit() {
   if (quit_) return;
   quit_ = sheets_.interrupt(std::make_unique<Question>(
-      Question::Words{
-          .title = quitTitle(library_.unsavedBrands()),
-          .message = QStringLiteral(
-              "They couldn't be written to the disk. If you quit now, they are lost."),
-          .confirmText = QStringLiteral("Quit Anyway"),
-          .alternativeText = QStringLiteral("Try Again"),
-          .destructive = true,
-          .cancelIsDefault = true},
+      Question::Words{.title = quitTitle(library_.unsavedBrands()),
+                      .message = QStringLiteral(
+                          "They couldn't be written to the disk. If you quit now, they are lost."),
+                      .confirmText = QStringLiteral("Quit Anyway"),
+                      .alternativeText = QStringLiteral("Try Again"),
+                      .destructive = true,
+                      .cancelIsDefault = true},
       [this](Question::Answer answer) { quitAnswered(answer); }));
 }
 

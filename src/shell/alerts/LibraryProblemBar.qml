@@ -11,7 +11,7 @@ WarningBar {
     required property ContentModel content
 
     // Where nothing is listed and open, the empty state tells.
-    message: content.detail === ContentModel.Detail.unavailable ? "" : content.alerts.libraryProblem
+    message: content.detail === ContentModel.Detail.Unavailable ? "" : content.alerts.libraryProblem
     maximumLineCount: 6
     sideMargin: 6
     topMargin: 8

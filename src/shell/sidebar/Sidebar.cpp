@@ -93,8 +93,8 @@ void Sidebar::moveToTrash(const QString& packageURL) {
   Question* const question = sheets_.show(std::make_unique<Question>(
       Question::Words{
           .title = QStringLiteral("Move “") + brand->name + QStringLiteral("” to the Trash?"),
-          .message = QStringLiteral(
-              "The brand file goes to the Trash. You can restore it from there."),
+          .message =
+              QStringLiteral("The brand file goes to the Trash. You can restore it from there."),
           .confirmText = QStringLiteral("Move to Trash"),
           .destructive = true},
       answered));

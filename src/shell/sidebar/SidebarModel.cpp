@@ -28,6 +28,14 @@ BrandMark markOf(const BrandSummary& row, const BrandDocument* open) {
   return {brand.emblem, brand.accentHex, brand.accentHexDark};
 }
 
+QString titleOf(const Section& section) {
+  return section.name.isEmpty() ? QStringLiteral("Untitled Section") : section.name;
+}
+
+bool isRowOf(const SidebarModel::Row& row, const Section& section) {
+  return row.id == section.id && row.name == titleOf(section) && row.emblem == section.emblem;
+}
+
 }  // namespace
 
 SidebarModel::SidebarModel(LibraryStore& library, QObject* parent)
@@ -110,12 +118,30 @@ void SidebarModel::updateOpenBrand() {
   const auto summary = std::ranges::find(library_.brands(), package, &BrandSummary::packageURL);
   const auto first = std::ranges::find(rows_, package, &Row::packageURL);
   if (summary == library_.brands().end() || first == rows_.end()) return;
-  const auto last = std::ranges::find_if(
-      first + 1, rows_.end(), [](const Row& row) { return row.kind == Kind::brand; });
-  const auto rows = rowsOf(*summary);
+  const auto last = std::ranges::find_if(first + 1, rows_.end(),
+                                         [](const Row& row) { return row.kind == Kind::Brand; });
   const qsizetype place = first - rows_.begin();
-  const auto changes = listDifference(rows_.mid(place, last - first), rows);
-  carryOut(changes, ListRows<QList<Row>>{rows_, rows, place}, int(place));
+  const QList<Section>& sections = open->brand().sections;
+  const bool areSame = std::equal(first + 1, last, sections.begin(), sections.end(),
+                                  [](const Row& row, const Section& s) { return row.id == s.id; });
+  if (!areSame) {
+    const auto rows = rowsOf(*summary);
+    const auto changes = listDifference(rows_.mid(place, last - first), rows);
+    return carryOut(changes, ListRows<QList<Row>>{rows_, rows, place}, int(place));
+  }
+  renew(place, brandRow(*summary));
+  for (qsizetype i = 0; i < sections.size(); ++i) {
+    const qsizetype row = place + 1 + i;
+    if (!isRowOf(std::as_const(rows_).at(row), sections.at(i))) {
+      renew(row, sectionRow(sections.at(i), package));
+    }
+  }
+}
+
+void SidebarModel::renew(qsizetype row, const Row& value) {
+  if (std::as_const(rows_).at(row) == value) return;
+  rows_[row] = value;
+  emit dataChanged(index(int(row)), index(int(row)));
 }
 
 QList<SidebarModel::Row> SidebarModel::wantedRows() const {
@@ -140,7 +166,7 @@ SidebarModel::Row SidebarModel::brandRow(const BrandSummary& brand) const {
   const bool dark = appearance_ == ColorUtil::Appearance::dark && mark.accentHexDark;
   const auto& accent = dark ? mark.accentHexDark : mark.accentHex;
   return {brand.brandID,
-          Kind::brand,
+          Kind::Brand,
           brand.packageURL,
           brand.name,
           mark.emblem,
@@ -150,12 +176,12 @@ SidebarModel::Row SidebarModel::brandRow(const BrandSummary& brand) const {
 }
 
 SidebarModel::Row SidebarModel::sectionRow(const Section& section, const QString& package) {
-  const QString title = section.name.isEmpty() ? QStringLiteral("Untitled Section") : section.name;
-  return {section.id, Kind::section, package, title, section.emblem, std::nullopt, false};
+  return {section.id,     Kind::Section, package, titleOf(section),
+          section.emblem, std::nullopt,  false};
 }
 
 EmblemLook SidebarModel::lookOf(const Row& row) const {
-  const bool isBrand = row.kind == Kind::brand;
+  const bool isBrand = row.kind == Kind::Brand;
   return emblemLook(row.emblem, {isBrand ? QStringLiteral("square.stack.3d.up")
                                          : QStringLiteral("rectangle.grid.1x2"),
                                  row.packageURL, isBrand ? row.name : QString(), row.accent});

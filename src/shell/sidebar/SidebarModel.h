@@ -17,7 +17,7 @@ class SidebarModel : public RecordListModel {
   QML_UNCREATABLE("The sidebar has one")
 
  public:
-  enum class Kind { brand, section };
+  enum class Kind { Brand, Section };
   Q_ENUM(Kind)
 
   enum Role {
@@ -34,7 +34,7 @@ class SidebarModel : public RecordListModel {
 
   struct Row {
     QUuid id;
-    Kind kind = Kind::brand;
+    Kind kind = Kind::Brand;
     QString packageURL;
     QString name;
     std::optional<Emblem> emblem;
@@ -73,6 +73,7 @@ class SidebarModel : public RecordListModel {
   void scheduleUpdate(Stale stale);
   void update();
   void updateOpenBrand();
+  void renew(qsizetype row, const Row& value);
   QList<Row> wantedRows() const;
   QList<Row> rowsOf(const BrandSummary& brand) const;
   Row brandRow(const BrandSummary& brand) const;

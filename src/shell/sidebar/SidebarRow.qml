@@ -24,7 +24,7 @@ Item {
     required property bool selected
     required property bool unsaved
 
-    readonly property bool isBrand: kind === SidebarModel.Kind.brand
+    readonly property bool isBrand: kind === SidebarModel.Kind.Brand
     readonly property bool lifted: isBrand && sidebar.draggingBrandID === rowID
     readonly property color ink: selected ? Theme.accentText : isBrand ? Theme.label : Theme.secondaryLabel
 

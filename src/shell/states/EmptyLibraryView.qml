@@ -13,11 +13,11 @@ Item {
 
     function viewOf(detail: int): Component {
         switch (detail) {
-        case ContentModel.Detail.opening:
+        case ContentModel.Detail.Opening:
             return opening;
-        case ContentModel.Detail.unavailable:
+        case ContentModel.Detail.Unavailable:
             return unavailable;
-        case ContentModel.Detail.welcome:
+        case ContentModel.Detail.Welcome:
             return welcome;
         default:
             return noSelection;

@@ -48,12 +48,12 @@ ContentModel::ContentModel(const WorkspaceServices& services, QObject* parent)
 ContentModel::~ContentModel() { library_.setHostUndoManager(nullptr); }
 
 ContentModel::Detail ContentModel::detail() const {
-  if (library_.openDocument()) return Detail::brand;
-  if (library_.isLoading()) return Detail::opening;
+  if (library_.openDocument()) return Detail::Brand;
+  if (library_.isLoading()) return Detail::Opening;
   const bool isEmpty = library_.brands().isEmpty();
-  if (isEmpty && !library_.libraryProblem().isEmpty()) return Detail::unavailable;
-  if (library_.isOpening()) return Detail::opening;
-  return isEmpty ? Detail::welcome : Detail::noSelection;
+  if (isEmpty && !library_.libraryProblem().isEmpty()) return Detail::Unavailable;
+  if (library_.isOpening()) return Detail::Opening;
+  return isEmpty ? Detail::Welcome : Detail::NoSelection;
 }
 
 QString ContentModel::title() const {

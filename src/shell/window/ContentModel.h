@@ -30,11 +30,11 @@ class ContentModel : public QObject {
 
  public:
   enum class Detail {
-    opening,      // the library, or the selected brand, is being read
-    unavailable,  // the library can't be read
-    welcome,      // the library is empty
-    noSelection,  // it has brands, and none is open
-    brand
+    Opening,      // the library, or the selected brand, is being read
+    Unavailable,  // the library can't be read
+    Welcome,      // the library is empty
+    NoSelection,  // it has brands, and none is open
+    Brand
   };
   Q_ENUM(Detail)
 

@@ -42,7 +42,7 @@ FocusScope {
 
     LazyItem {
         anchors.fill: parent
-        active: root.content.detail !== ContentModel.Detail.brand
+        active: root.content.detail !== ContentModel.Detail.Brand
         sourceComponent: EmptyLibraryView {
             content: root.content
         }

@@ -44,6 +44,19 @@ struct SectionListModel::Rows {
 SectionListModel::~SectionListModel() = default;
 
 void SectionListModel::setSections(const QList<Section>& sections, const QString& searchText) {
+  const auto isModelOf = [](const auto& model, const Section& section) {
+    return model->id() == section.id;
+  };
+  if (!std::equal(models_.begin(), models_.end(), sections.begin(), sections.end(), isModelOf)) {
+    rearrange(sections);
+  }
+  for (qsizetype i = 0; i < sections.size(); ++i) {
+    models_[size_t(i)]->setSection(sections.at(i), searchText);
+    models_[size_t(i)]->setPlace(i, sections.size());
+  }
+}
+
+void SectionListModel::rearrange(const QList<Section>& sections) {
   std::vector<QUuid> before;
   for (const auto& model : models_) before.push_back(model->id());
   // What has changed in a section is its own model's business.
@@ -52,10 +65,6 @@ void SectionListModel::setSections(const QList<Section>& sections, const QString
   carryOut(listDifference(before, idsOf(sections), isSame), rows);
   for (SectionModel* const gone : rows.gone)
     gone->deleteLater();  // behind the views that show them
-  for (qsizetype i = 0; i < sections.size(); ++i) {
-    models_[size_t(i)]->setSection(sections.at(i), searchText);
-    models_[size_t(i)]->setPlace(i, sections.size());
-  }
 }
 
 int SectionListModel::rowCount(const QModelIndex& parent) const {

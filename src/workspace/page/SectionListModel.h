@@ -34,6 +34,8 @@ class SectionListModel : public RecordListModel {
  private:
   struct Rows;
 
+  void rearrange(const QList<Section>& sections);
+
   BrandWorkspace& workspace_;
   std::vector<std::unique_ptr<SectionModel>> models_;
 };

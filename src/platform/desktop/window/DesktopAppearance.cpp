@@ -24,17 +24,17 @@ bool paletteIsDark() {
 
 }  // namespace
 
-DesktopAppearance::DesktopAppearance(QObject* parent) : QObject(parent), m_dark(paletteIsDark()) {
+DesktopAppearance::DesktopAppearance(QObject* parent) : QObject(parent), dark_(paletteIsDark()) {
   qGuiApp->installEventFilter(this);
-  m_settings.follow(QStringLiteral("org.freedesktop.appearance"), QStringLiteral("color-scheme"),
-                    [this](const QVariant& value) {
-                      m_portalDark = darkOf(value);
-                      update();
-                    });
+  settings_.follow(QStringLiteral("org.freedesktop.appearance"), QStringLiteral("color-scheme"),
+                   [this](const QVariant& value) {
+                     portalDark_ = darkOf(value);
+                     update();
+                   });
 }
 
 void DesktopAppearance::setOverride(AppearanceOverride value) {
-  m_override = value;
+  override_ = value;
   update();
 }
 
@@ -44,21 +44,21 @@ bool DesktopAppearance::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void DesktopAppearance::setColors(const QPalette& palette) {
-  if (!m_hasOwnColors && paletteIsDark() == m_dark) return;
-  m_hasOwnColors = true;
+  if (!hasOwnColors_ && paletteIsDark() == dark_) return;
+  hasOwnColors_ = true;
   QGuiApplication::setPalette(palette);
 }
 
 void DesktopAppearance::update() {
   // To see the desktop's own, where they decide.
-  if (m_hasOwnColors && m_override == AppearanceOverride::none && !m_portalDark) {
-    m_hasOwnColors = false;
+  if (hasOwnColors_ && override_ == AppearanceOverride::none && !portalDark_) {
+    hasOwnColors_ = false;
     QGuiApplication::setPalette({});
   }
-  const bool dark = m_override == AppearanceOverride::none ? m_portalDark.value_or(paletteIsDark())
-                                                           : m_override == AppearanceOverride::dark;
-  if (dark == m_dark) return;
-  m_dark = dark;
+  const bool dark = override_ == AppearanceOverride::none ? portalDark_.value_or(paletteIsDark())
+                                                          : override_ == AppearanceOverride::dark;
+  if (dark == dark_) return;
+  dark_ = dark;
   emit darkChanged();
 }
 

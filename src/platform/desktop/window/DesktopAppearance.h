@@ -22,10 +22,10 @@ class DesktopAppearance : public QObject, public Appearance {
   explicit DesktopAppearance(QObject* parent = nullptr);
 
   void setOverride(AppearanceOverride value) override;
-  bool isDark() const { return m_dark; }
+  bool isDark() const { return dark_; }
 
   // Waits for what the portal tells, at most so long.
-  void settle(std::chrono::milliseconds patience) { m_settings.settle(patience); }
+  void settle(std::chrono::milliseconds patience) { settings_.settle(patience); }
 
   // Has what the toolkit draws by itself, such as dialogs and on some desktops the title bar, in
   // these colours, which are as dark as `isDark` tells; unless the desktop's own are so already.
@@ -39,11 +39,11 @@ class DesktopAppearance : public QObject, public Appearance {
  private:
   void update();
 
-  AppearanceOverride m_override = AppearanceOverride::none;
-  std::optional<bool> m_portalDark;  // none while the portal has no opinion
-  bool m_dark = false;
-  bool m_hasOwnColors = false;
-  PortalSettings m_settings;
+  AppearanceOverride override_ = AppearanceOverride::none;
+  std::optional<bool> portalDark_;  // none while the portal has no opinion
+  bool dark_ = false;
+  bool hasOwnColors_ = false;
+  PortalSettings settings_;
 };
 
 }  // namespace tarnloft

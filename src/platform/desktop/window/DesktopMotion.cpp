@@ -18,22 +18,22 @@ DesktopMotion::DesktopMotion() {
 
 void DesktopMotion::follow(std::function<void(bool reduced)> told) {
   told(isReduced());
-  m_followers.push_back(std::move(told));
+  followers_.push_back(std::move(told));
 }
 
 void DesktopMotion::ask(Source source, const char* group, const char* key,
                         std::function<bool(const QVariant& value)> meansReduced) {
-  m_settings.follow(QLatin1String(group), QLatin1String(key),
-                    [this, source, meansReduced = std::move(meansReduced)](const QVariant& value) {
-                      const bool before = isReduced();
-                      m_reduced.at(source) = meansReduced(value);
-                      if (isReduced() == before) return;
-                      for (const auto& told : m_followers) told(!before);
-                    });
+  settings_.follow(QLatin1String(group), QLatin1String(key),
+                   [this, source, meansReduced = std::move(meansReduced)](const QVariant& value) {
+                     const bool before = isReduced();
+                     reduced_.at(source) = meansReduced(value);
+                     if (isReduced() == before) return;
+                     for (const auto& told : followers_) told(!before);
+                   });
 }
 
 bool DesktopMotion::isReduced() const {
-  return std::any_of(m_reduced.begin(), m_reduced.end(), [](bool reduced) { return reduced; });
+  return std::any_of(reduced_.begin(), reduced_.end(), [](bool reduced) { return reduced; });
 }
 
 }  // namespace tarnloft

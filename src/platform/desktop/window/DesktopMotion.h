@@ -24,9 +24,9 @@ class DesktopMotion : public MotionPreference {
            std::function<bool(const QVariant& value)> meansReduced);
   bool isReduced() const;
 
-  std::array<bool, sources> m_reduced{};  // by each source
-  std::vector<std::function<void(bool)>> m_followers;
-  PortalSettings m_settings;
+  std::array<bool, sources> reduced_{};  // by each source
+  std::vector<std::function<void(bool)>> followers_;
+  PortalSettings settings_;
 };
 
 }  // namespace tarnloft

@@ -32,18 +32,18 @@ QVariant unwrapped(QVariant value) {
 // The slot takes the message as it is: to connect one with the portal's own types fails, silently,
 // as long as nobody has registered them.
 PortalSettings::PortalSettings()
-    : m_portal(portal, QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForRegistration) {
+    : portal_(portal, QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForRegistration) {
   QDBusConnection::sessionBus().connect(portal, portalPath, settings,
                                         QStringLiteral("SettingChanged"), QStringLiteral("ssv"),
                                         this, SLOT(settingChanged(QDBusMessage)));
-  connect(&m_portal, &QDBusServiceWatcher::serviceRegistered, this, [this] {
-    for (const Follower& follower : m_followers) ask(follower);
+  connect(&portal_, &QDBusServiceWatcher::serviceRegistered, this, [this] {
+    for (const Follower& follower : followers_) ask(follower);
   });
 }
 
 void PortalSettings::follow(const QString& group, const QString& key, Told told) {
-  m_followers.push_back({group, key, std::move(told)});
-  ask(m_followers.back());
+  followers_.push_back({group, key, std::move(told)});
+  ask(followers_.back());
 }
 
 // Behind the connection, so that no change falls between the two.
@@ -51,17 +51,17 @@ void PortalSettings::ask(const Follower& follower) {
   auto message =
       QDBusMessage::createMethodCall(portal, portalPath, settings, QStringLiteral("Read"));
   message << follower.group << follower.key;
-  m_asked.push_back({QDBusConnection::sessionBus().asyncCall(message), follower.told});
-  auto* const watcher = new QDBusPendingCallWatcher(m_asked.back().call, this);
+  asked_.push_back({QDBusConnection::sessionBus().asyncCall(message), follower.told});
+  auto* const watcher = new QDBusPendingCallWatcher(asked_.back().call, this);
   connect(watcher, &QDBusPendingCallWatcher::finished, watcher, &QObject::deleteLater);
   connect(watcher, &QDBusPendingCallWatcher::finished, this, &PortalSettings::takeAnswers);
 }
 
 void PortalSettings::takeAnswers() {
   std::list<Question> answered;
-  for (auto each = m_asked.begin(); each != m_asked.end();) {
+  for (auto each = asked_.begin(); each != asked_.end();) {
     const auto next = std::next(each);
-    if (each->call.isFinished()) answered.splice(answered.end(), m_asked, each);
+    if (each->call.isFinished()) answered.splice(answered.end(), asked_, each);
     each = next;
   }
   for (const Question& question : answered) {
@@ -73,13 +73,13 @@ void PortalSettings::takeAnswers() {
 void PortalSettings::settle(std::chrono::milliseconds patience) {
   const QDeadlineTimer deadline(patience);
   const auto isOnItsWay = [](const Question& question) { return !question.call.isFinished(); };
-  while (std::ranges::any_of(m_asked, isOnItsWay) && !deadline.hasExpired()) QThread::msleep(1);
+  while (std::ranges::any_of(asked_, isOnItsWay) && !deadline.hasExpired()) QThread::msleep(1);
   takeAnswers();
 }
 
 void PortalSettings::settingChanged(const QDBusMessage& message) {
   const QVariantList told = message.arguments();
-  for (const Follower& follower : m_followers) {
+  for (const Follower& follower : followers_) {
     if (follower.group != told.at(0).toString() || follower.key != told.at(1).toString()) continue;
     follower.told(unwrapped(told.at(2)));
   }

@@ -46,9 +46,9 @@ class PortalSettings : public QObject {
   void ask(const Follower& follower);
   void takeAnswers();
 
-  std::vector<Follower> m_followers;
-  std::list<Question> m_asked;  // and not answered
-  QDBusServiceWatcher m_portal;
+  std::vector<Follower> followers_;
+  std::list<Question> asked_;  // and not answered
+  QDBusServiceWatcher portal_;
 };
 
 }  // namespace tarnloft
