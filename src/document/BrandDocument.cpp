@@ -3,7 +3,6 @@
 #include "document/Package.h"
 
 #include <QPointer>
-#include <QScopedValueRollback>
 
 #include <chrono>
 #include <utility>
@@ -48,17 +47,14 @@ std::unique_ptr<BrandDocument> BrandDocument::load(const DocumentServices& servi
 
 void BrandDocument::setBrand(Brand brand) {
   brand_ = std::move(brand);
-  if (!suppressSchedule_) {
-    ++revision_;
-    isFailureLogged_ = false;
-  }
+  ++revision_;
+  isFailureLogged_ = false;
   emit brandChanged();
   scheduleSave();
 }
 
 void BrandDocument::scheduleSave() {
-  if (invalidated_ || suppressSchedule_) return;
-  saveWorkItem_.start();
+  if (!invalidated_) saveWorkItem_.start();
 }
 
 void BrandDocument::saveIfNeeded() {
@@ -69,11 +65,8 @@ void BrandDocument::saveNow() {
   if (invalidated_ || isHeld_) return;
   saveWorkItem_.stop();
   retry_.stop();
-  {
-    const QScopedValueRollback suppress(suppressSchedule_, true);
-    edit([&](Brand& brand) { brand.updatedAt = services_.clock(); });
-  }
-  if (!invalidated_) stageAndSave();  // it may be by one who was told of the change
+  brand_.updatedAt = services_.clock();
+  stageAndSave();
 }
 
 void BrandDocument::stageAndSave() {
@@ -145,8 +138,8 @@ void BrandDocument::follow(const QString& packageURL) {
 
 void BrandDocument::adoptID(const QUuid& id) {
   if (brand_.id == id) return;
-  const QScopedValueRollback suppress(suppressSchedule_, true);
-  edit([&](Brand& brand) { brand.id = id; });
+  brand_.id = id;
+  emit brandChanged();
 }
 
 void BrandDocument::holdSaving() {

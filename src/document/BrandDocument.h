@@ -47,7 +47,7 @@ class BrandDocument : public QObject {
     setBrand(std::move(changed));
   }
 
-  // Saves at once: sets `updatedAt`, then replaces `manifest.json` atomically and durably, making
+  // Saves at once: sets `updatedAt`, of which nobody is told, then replaces `manifest.json` atomically and durably, making
   // the package folder again if it is nowhere. A manifest that another machine has put there since
   // is kept as a version first. A failure is one line in the system log and `saveProblem`, and is
   // tried again every few seconds.
@@ -88,6 +88,12 @@ class BrandDocument : public QObject {
   // that name. A change that changes nothing does nothing.
   void mutate(const QString& actionName, UndoManager* undoManager,
               const std::function<void(Brand&)>& change);
+
+  // Change a section, or an item wherever it stands, in place; not undoable.
+  void editSection(const QUuid& section, const std::function<void(Section&)>& change);
+  void updateItem(const QUuid& item, const std::function<void(Item&)>& change);
+  void removeSection(const QUuid& section);
+  void removeItem(const QUuid& item);
 
   // Appends the item to the section.
   void addItem(const Item& item, const QUuid& section);
@@ -155,7 +161,6 @@ class BrandDocument : public QObject {
   bool isFailureLogged_ = false;  // since the last change
   bool invalidated_ = false;
   bool isHeld_ = false;
-  bool suppressSchedule_ = false;  // while `saveNow` itself assigns
 };
 
 }  // namespace tarnloft

@@ -8,30 +8,6 @@
 namespace tarnloft {
 namespace {
 
-// Position of the element of that id, or -1.
-template <class List>
-qsizetype indexOf(const List& list, const QUuid& id) {
-  qsizetype index = 0;
-  for (const auto& element : list) {
-    if (element.id == id) return index;
-    ++index;
-  }
-  return -1;
-}
-
-struct ItemPlace {
-  qsizetype section;
-  qsizetype item;
-};
-
-std::optional<ItemPlace> placeOf(const Brand& brand, const QUuid& id) {
-  for (qsizetype section = 0; section < brand.sections.size(); ++section) {
-    const qsizetype item = indexOf(brand.sections.at(section).items, id);
-    if (item >= 0) return ItemPlace{section, item};
-  }
-  return std::nullopt;
-}
-
 // Where to insert in front of `before`: the end if there is no such element.
 template <class List>
 qsizetype insertionIndex(const List& list, const std::optional<QUuid>& before) {
@@ -69,6 +45,28 @@ void BrandDocument::registerRestore(const Brand& brand, UndoManager& undoManager
   registerStep(*this, brand, brand_, undoManager, actionName);
 }
 
+void BrandDocument::editSection(const QUuid& section, const std::function<void(Section&)>& change) {
+  const qsizetype index = indexOf(brand_.sections, section);
+  if (index >= 0) edit([&](Brand& brand) { change(brand.sections[index]); });
+}
+
+void BrandDocument::updateItem(const QUuid& item, const std::function<void(Item&)>& change) {
+  const auto place = brand_.placeOf(item);
+  if (!place) return;
+  edit([&](Brand& brand) { change(brand.sections[place->section].items[place->item]); });
+}
+
+void BrandDocument::removeSection(const QUuid& section) {
+  const qsizetype index = indexOf(brand_.sections, section);
+  if (index >= 0) edit([&](Brand& brand) { brand.sections.removeAt(index); });
+}
+
+void BrandDocument::removeItem(const QUuid& item) {
+  const auto place = brand_.placeOf(item);
+  if (!place) return;
+  edit([&](Brand& brand) { (void)brand.sections[place->section].items.takeAt(place->item); });
+}
+
 void BrandDocument::addItem(const Item& item, const QUuid& section) { addItems({item}, section); }
 
 void BrandDocument::addItems(const QList<Item>& items, const QUuid& section) {
@@ -82,7 +80,7 @@ void BrandDocument::addItems(const QList<Item>& items, const QUuid& section) {
 void BrandDocument::moveItem(const QUuid& item, const QUuid& toSection,
                              const std::optional<QUuid>& before) {
   if (before == item) return;
-  const auto place = placeOf(brand_, item);
+  const auto place = brand_.placeOf(item);
   const qsizetype target = indexOf(brand_.sections, toSection);
   if (!place || target < 0) return;
   Item moved;

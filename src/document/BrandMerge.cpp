@@ -6,15 +6,8 @@
 namespace tarnloft {
 namespace {
 
-// Null if there is none.
-const Section* sectionOf(const Brand& brand, const QUuid& id) {
-  const auto found = std::find_if(brand.sections.begin(), brand.sections.end(),
-                                  [&](const Section& section) { return section.id == id; });
-  return found == brand.sections.end() ? nullptr : &*found;
-}
-
 SharedList<Item> itemsOf(const Brand& brand, const QUuid& id) {
-  const Section* section = sectionOf(brand, id);
+  const Section* section = find(brand.sections, id);
   return section ? section->items : SharedList<Item>();
 }
 
@@ -42,7 +35,7 @@ class ItemMerge {
       : from_(from), to_(to), present_(present) {
     for (const Section& section : from.sections) compare(section.id);
     for (const Section& section : to.sections) {
-      if (!sectionOf(from, section.id)) compare(section.id);
+      if (!find(from.sections, section.id)) compare(section.id);
     }
     const auto before = placesOf(from, touched_), after = placesOf(to, touched_),
                now = placesOf(present, touched_);
@@ -119,8 +112,8 @@ QList<Section> mergedSections(const Brand& from, const Brand& to, const Brand& p
   if (!moved.isEmpty()) moved -= listStep(from.sections, present.sections).moved;
   Rearrangement<Section> change;
   for (const Section& target : to.sections) {
-    const Section* const before = sectionOf(from, target.id);
-    const Section* const now = sectionOf(present, target.id);
+    const Section* const before = find(from.sections, target.id);
+    const Section* const now = find(present.sections, target.id);
     if (now && before) {
       Section value = *now;
       mergeFields(*before, target, value);
@@ -139,8 +132,8 @@ QList<Section> mergedSections(const Brand& from, const Brand& to, const Brand& p
 
 // True if the step takes the section away and nobody put anything into it since.
 bool goes(const Section& section, const Brand& from, const Brand& to) {
-  const Section* const before = sectionOf(from, section.id);
-  return before && !sectionOf(to, section.id) && section == withoutItems(*before);
+  const Section* const before = find(from.sections, section.id);
+  return before && !find(to.sections, section.id) && section == withoutItems(*before);
 }
 
 Brand difference(const Brand& from, const Brand& to, const Brand& present) {

@@ -268,17 +268,23 @@ void LibraryStore::setActiveColorSectionID(const std::optional<QUuid>& section) 
   activeColorSectionID_ = section;
 }
 
+void LibraryStore::sampleColor(std::function<void(const QString& hex)> picked) {
+  colorSampler_ = services_.makeColorSampler();
+  colorSampler_->show(
+      [store = QPointer(this), picked = std::move(picked)](std::optional<SampledColor> color) {
+        if (!store) return;
+        // The sampler is still on the stack; it goes when this returns to the event loop's turn.
+        const std::shared_ptr<ColorSampler> ended = std::move(store->colorSampler_);
+        QMetaObject::invokeMethod(
+            store, [ended] {}, Qt::QueuedConnection);
+        if (color) picked(ColorUtil::hex({color->red, color->green, color->blue}));
+      });
+}
+
 void LibraryStore::pickColorFromScreen() {
   if (!openDocument_) return services_.beep.sound();
-  colorSampler_ = services_.makeColorSampler();
-  colorSampler_->show([store = QPointer(this)](std::optional<SampledColor> color) {
-    if (!store) return;
-    // The sampler is still on the stack; it goes when this returns to the event loop's turn.
-    const std::shared_ptr<ColorSampler> ended = std::move(store->colorSampler_);
-    QMetaObject::invokeMethod(
-        store, [ended] {}, Qt::QueuedConnection);
-    if (!color || !store->openDocument_) return;
-    store->addPickedColor(ColorUtil::hex({color->red, color->green, color->blue}));
+  sampleColor([this](const QString& hex) {
+    if (openDocument_) addPickedColor(hex);
   });
 }
 

@@ -139,7 +139,9 @@ class LibraryStore : public QObject {
 
   // --- Colours from the screen
 
-  // Lets the user pick a colour and adds it to the open brand, undoably; beeps without one.
+  // Lets the user pick a colour of the screen; not called if nothing is picked.
+  void sampleColor(std::function<void(const QString& hex)> picked);
+  // The same, and adds it to the open brand, undoably; beeps without one.
   void pickColorFromScreen();
   const std::optional<QUuid>& activeColorSectionID() const { return activeColorSectionID_; }
   void setActiveColorSectionID(const std::optional<QUuid>& section);

@@ -27,10 +27,7 @@ qsizetype firstSection(const Brand& brand, Test&& test) {
 }
 
 qsizetype targetIndex(Brand& brand, const std::optional<QUuid>& preferred) {
-  qsizetype index = -1;
-  if (preferred) {
-    index = firstSection(brand, [&](const Section& section) { return section.id == *preferred; });
-  }
+  qsizetype index = preferred ? indexOf(brand.sections, *preferred) : -1;
   if (index < 0) index = firstSection(brand, isNamedForColors);
   if (index < 0) index = firstSection(brand, holdsAColor);
   if (index >= 0) return index;

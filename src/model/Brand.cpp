@@ -2,6 +2,14 @@
 
 namespace tarnloft {
 
+std::optional<Brand::ItemPlace> Brand::placeOf(const QUuid& item) const {
+  for (qsizetype section = 0; section < sections.size(); ++section) {
+    const qsizetype index = indexOf(sections.at(section).items, item);
+    if (index >= 0) return ItemPlace{section, index};
+  }
+  return std::nullopt;
+}
+
 Brand Brand::create(const QString& name, const Clock& clock) {
   Brand brand;
   brand.id = QUuid::createUuid();

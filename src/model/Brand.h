@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/ById.h"
 #include "model/Section.h"
 #include "model/Timestamp.h"
 
@@ -19,6 +20,14 @@ struct Brand {
   QList<Section> sections;  // in display order
 
   bool operator==(const Brand&) const = default;
+
+  // Where an item stands: places in `sections` and in that section's items.
+  struct ItemPlace {
+    qsizetype section;
+    qsizetype item;
+  };
+  // None if there is no item of that id.
+  std::optional<ItemPlace> placeOf(const QUuid& item) const;
 
   // A fresh brand with the empty sections "Colors" and "Logos". The name is taken as it stands.
   static Brand create(const QString& name, const Clock& clock = systemNow);

@@ -34,28 +34,43 @@ QList<ListChange> listDifference(
     const std::vector<QUuid>& before, const std::vector<QUuid>& after,
     const std::function<bool(qsizetype before, qsizetype after)>& sameValue);
 
-// The same for two lists of records, such as a section's items.
+// The same for two lists of records, such as a section's items. Of two lists that share runs, only
+// what lies between these is looked at.
 template <class List>
 QList<ListChange> listDifference(const List& before, const List& after) {
+  using Record = typename List::value_type;
+  qsizetype head = 0, tail = 0;
+  if constexpr (requires { List::commonEnds(before, after); }) {
+    const auto common = List::commonEnds(before, after);
+    head = common.head;
+    tail = common.tail;
+  }
+  const auto collect = [&](const List& list, std::vector<QUuid>& ids,
+                           std::vector<const Record*>& values) {
+    const size_t count = size_t(list.size() - head - tail);
+    ids.reserve(count);
+    values.reserve(count);
+    auto record = list.begin();
+    if constexpr (requires { list.from(head); }) record = list.from(head);
+    for (size_t i = 0; i < count; ++i, ++record) {
+      ids.push_back(record->id);
+      values.push_back(&*record);
+    }
+  };
   std::vector<QUuid> oldIds, newIds;
-  std::vector<const typename List::value_type*> oldValues, newValues;
-  oldIds.reserve(size_t(before.size()));
-  newIds.reserve(size_t(after.size()));
-  oldValues.reserve(size_t(before.size()));
-  newValues.reserve(size_t(after.size()));
-  for (const auto& element : before) {
-    oldIds.push_back(element.id);
-    oldValues.push_back(&element);
-  }
-  for (const auto& element : after) {
-    newIds.push_back(element.id);
-    newValues.push_back(&element);
-  }
-  return listDifference(oldIds, newIds, [&](qsizetype a, qsizetype b) {
+  std::vector<const Record*> oldValues, newValues;
+  collect(before, oldIds, oldValues);
+  collect(after, newIds, newValues);
+  auto changes = listDifference(oldIds, newIds, [&](qsizetype a, qsizetype b) {
     // Elements of lists that share storage are often one and the same.
     return oldValues[size_t(a)] == newValues[size_t(b)] ||
            *oldValues[size_t(a)] == *newValues[size_t(b)];
   });
+  for (ListChange& change : changes) {
+    if (change.kind != ListChange::Kind::change) change.from += head;
+    if (change.kind != ListChange::Kind::remove) change.to += head;
+  }
+  return changes;
 }
 
 }  // namespace tarnloft

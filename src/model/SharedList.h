@@ -60,6 +60,36 @@ class SharedList {
   const_iterator begin() const { return const_iterator(runs_.constData()); }
   const_iterator end() const { return const_iterator(runs_.constData() + runs_.size()); }
 
+  // From that element on; `position` may be size().
+  const_iterator from(qsizetype position) const {
+    if (position == size_) return end();
+    const Place place = find(position);
+    const_iterator result(runs_.constData() + place.run);
+    result.index_ = place.index;
+    return result;
+  }
+
+  // How many elements the lists have in common at their beginnings and, behind those, at their ends,
+  // as far as runs tell that both of them hold. Looks at no element.
+  struct CommonEnds {
+    qsizetype head = 0;
+    qsizetype tail = 0;
+  };
+  static CommonEnds commonEnds(const SharedList& a, const SharedList& b) {
+    CommonEnds common;
+    const qsizetype shorter = std::min(a.runs_.size(), b.runs_.size());
+    qsizetype first = 0;
+    for (; first < shorter && a.runs_.at(first).isSharedWith(b.runs_.at(first)); ++first) {
+      common.head += a.runs_.at(first).size();
+    }
+    for (qsizetype last = 1; last <= shorter - first; ++last) {
+      const QList<T>& run = a.runs_.at(a.runs_.size() - last);
+      if (!run.isSharedWith(b.runs_.at(b.runs_.size() - last))) break;
+      common.tail += run.size();
+    }
+    return common;
+  }
+
   const T& at(qsizetype position) const {
     const Place place = find(position);
     return runs_.at(place.run).at(place.index);

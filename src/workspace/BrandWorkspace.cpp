@@ -1,36 +1,24 @@
 #include "workspace/BrandWorkspace.h"
 
 #include "assets/ItemDrag.h"
+#include "controls/sheets/NameSheet.h"
 #include "document/Package.h"
+#include "sheets/UsageNotesSheet.h"
 #include "workspace/selection/GroupOperations.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace tarnloft {
-namespace {
-
-// Position in the brand; -1 if it isn't there.
-qsizetype placeOf(const Brand& brand, const QUuid& section) {
-  const auto found = std::find_if(brand.sections.begin(), brand.sections.end(),
-                                  [&](const Section& one) { return one.id == section; });
-  return found == brand.sections.end() ? -1 : found - brand.sections.begin();
-}
-
-}  // namespace
-
-BrandWorkspace::BrandWorkspace(BrandDocument& document, TileSelection& selection,
-                               ToastCenter& toasts, UndoManager* undoManager,
+BrandWorkspace::BrandWorkspace(BrandDocument& document, const WindowParts& window,
                                const WorkspaceServices& services, QObject* parent)
     : QObject(parent),
       document_(&document),
-      selection_(selection),
-      toasts_(toasts),
-      undoManager_(undoManager),
+      window_(window),
       services_(services),
       sections_(*this) {
   connect(&document, &BrandDocument::brandChanged, this, &BrandWorkspace::refreshSoon);
-  connect(&selection, &TileSelection::idsChanged, this, &BrandWorkspace::selectionChanged);
+  connect(&window.selection, &TileSelection::idsChanged, this, &BrandWorkspace::selectionChanged);
   const auto& preferences = services_.library.preferences();
   connect(&preferences, &LibraryPreferences::tileSizeChanged, this,
           &BrandWorkspace::metricsChanged);
@@ -66,20 +54,27 @@ double BrandWorkspace::tileHeight() const {
 }
 
 void BrandWorkspace::selectAll() {
-  if (document_) GroupOperations(*document_, selection_, undoManager_).selectAllInContext();
+  if (document_)
+    GroupOperations(*document_, window_.selection, window_.undoManager).selectAllInContext();
 }
 
 void BrandWorkspace::deleteSelection() {
   if (!document_) return;
-  const auto told = GroupOperations(*document_, selection_, undoManager_).bulkDelete();
-  if (told) toasts_.show(*told);
+  const auto told =
+      GroupOperations(*document_, window_.selection, window_.undoManager).bulkDelete();
+  if (told) window_.toasts.show(*told);
 }
 
-void BrandWorkspace::clearSelection() { selection_.clear(); }
+void BrandWorkspace::clearSelection() { window_.selection.clear(); }
 
-void BrandWorkspace::addSection(const QString& name) {
-  if (!document_) return;
-  document_->edit([&](Brand& brand) { brand.sections.append(Section::create(name)); });
+void BrandWorkspace::askNewSection() {
+  const auto add = [document = document_](const QString& name) {
+    if (!document) return;
+    document->edit([&](Brand& brand) { brand.sections.append(Section::create(name)); });
+  };
+  NameSheet* const sheet = window_.sheets.show(std::make_unique<NameSheet>(
+      NameSheet::Words{.title = QStringLiteral("New Section")}, QString(), add));
+  if (document_) connect(document_, &QObject::destroyed, sheet, &SheetModel::finished);
 }
 
 EmblemLook BrandWorkspace::lookOf(const std::optional<Emblem>& emblem,
@@ -95,7 +90,7 @@ QString BrandWorkspace::assetPath(const AssetRef& asset) const {
 
 void BrandWorkspace::copy(const QString& text, const QString& what) {
   services_.pasteboard.setText(text);
-  toasts_.show(QStringLiteral("Copied ") + what);
+  window_.toasts.show(QStringLiteral("Copied ") + what);
 }
 
 void BrandWorkspace::copyColor(const QString& hex) {
@@ -104,40 +99,48 @@ void BrandWorkspace::copyColor(const QString& hex) {
   copy(text, text);
 }
 
-void BrandWorkspace::sampleColor(const std::function<void(const QString& hex)>& done) {
-  colorSampler_ = services_.makeColorSampler();
-  colorSampler_->show([workspace = QPointer(this), done](std::optional<SampledColor> color) {
-    if (!workspace) return;
-    // The sampler is still on the stack; it goes when this returns to the event loop's turn.
-    const std::shared_ptr<ColorSampler> ended = std::move(workspace->colorSampler_);
-    QMetaObject::invokeMethod(
-        workspace, [ended] {}, Qt::QueuedConnection);
-    if (color) done(ColorUtil::hex({color->red, color->green, color->blue}));
+void BrandWorkspace::pickColor(const QUuid& section) {
+  services_.library.sampleColor([workspace = QPointer(this), section](const QString& hex) {
+    if (workspace) workspace->addPicked(hex, section);
   });
 }
 
-void BrandWorkspace::editSection(const QUuid& section, const SectionChange& change) {
-  if (!document_ || placeOf(document_->brand(), section) < 0) return;
-  document_->edit([&](Brand& brand) { change(brand.sections[placeOf(brand, section)]); });
+void BrandWorkspace::addPicked(const QString& hex, const QUuid& section) {
+  if (!document_) return;
+  document_->mutate(QStringLiteral("Pick Color"), window_.undoManager, [&](Brand& brand) {
+    const qsizetype index = indexOf(brand.sections, section);
+    if (index < 0) return;
+    brand.sections[index].items.append(
+        Item::create(ColorPayload{{hex, std::nullopt, std::nullopt}}));
+  });
+  collectColorsIn(section);
+  showEyedropperTip();
 }
 
-void BrandWorkspace::mutateSection(const QString& actionName, const QUuid& section,
-                                   const SectionChange& change) {
-  if (!document_ || placeOf(document_->brand(), section) < 0) return;
-  document_->mutate(actionName, undoManager_,
-                    [&](Brand& brand) { change(brand.sections[placeOf(brand, section)]); });
+void BrandWorkspace::collectColorsIn(const QUuid& section) {
+  services_.library.setActiveColorSectionID(section);
+}
+
+// Once for ever.
+void BrandWorkspace::showEyedropperTip() {
+  const QString shownKey = QStringLiteral("didShowEyedropperTip");
+  if (services_.preferences.number(shownKey).value_or(0) != 0) return;
+  services_.preferences.setNumber(shownKey, 1);
+  window_.toasts.show(
+      QStringLiteral("Tip: press ⌃⌘P to keep sampling — colors land in this section"));
+}
+
+void BrandWorkspace::editNotes(const QUuid& item) {
+  if (!document_) return;
+  window_.sheets.show(
+      std::make_unique<UsageNotesSheet>(std::make_unique<ItemBinding>(*document_, item)));
 }
 
 void BrandWorkspace::moveSection(const QUuid& section, int step) {
   if (!document_) return;
-  const qsizetype from = placeOf(document_->brand(), section), to = from + step;
+  const qsizetype from = indexOf(document_->brand().sections, section), to = from + step;
   if (from < 0 || to < 0 || to >= document_->brand().sections.size()) return;
   document_->edit([&](Brand& brand) { brand.sections.swapItemsAt(from, to); });
-}
-
-void BrandWorkspace::deleteSection(const QUuid& section) {
-  if (!document_ || placeOf(document_->brand(), section) < 0) return;
-  document_->edit([&](Brand& brand) { brand.sections.removeAt(placeOf(brand, section)); });
 }
 
 void BrandWorkspace::importChosen(const QStringList& mimeTypes, DropImport::MediaKind kind,
@@ -152,6 +155,10 @@ void BrandWorkspace::importChosenFonts(const QUuid& section) {
   const QPointer<BrandWorkspace> self(this);
   const QStringList paths = services_.dialogs.openFiles({QStringLiteral("font/*")});
   if (self && document_) DropImport::importFontFiles(services_.imports, paths, section, *document_);
+}
+
+bool BrandWorkspace::offers(const QMimeData& data, const QString& type) const {
+  return services_.drops.offers(data, type);
 }
 
 bool BrandWorkspace::drop(const QMimeData& data, const QUuid& section) {
@@ -177,7 +184,7 @@ void BrandWorkspace::drag(const Item& item, const DragLook& look) {
       },
       patience);
   if (drag) return services_.dragSession.drag({*drag}, look);
-  toasts_.show(
+  window_.toasts.show(
       QStringLiteral("Still copying “%1” · Drag it again in a moment").arg(item.displayName()));
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "assets/DragPreparation.h"
+#include "controls/sheets/SheetHost.h"
 #include "workspace/ToastCenter.h"
 #include "workspace/WorkspaceServices.h"
 #include "workspace/page/SectionListModel.h"
@@ -12,12 +13,11 @@ namespace tarnloft {
 
 // The view model of one open brand's page. A window makes one for each document that it shows:
 //
-//   BrandWorkspace(document, selection, toasts, undoManager, services)
+//   BrandWorkspace(document, windowParts, services)
 //
 // gives it to `BrandPage { workspace: … }`, and drops it when the document goes; all operations do
-// nothing once it has gone. The selection and the toasts are the window's and outlive it, as the
-// services do. `undoManager` may be null. What is on the page follows the document once in each
-// turn of the event loop. Main thread.
+// nothing once it has gone. What is on the page follows the document once in each turn of the event
+// loop. Main thread.
 class BrandWorkspace : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -33,9 +33,8 @@ class BrandWorkspace : public QObject {
   Q_PROPERTY(tarnloft::Posters* posters READ posters CONSTANT)
 
  public:
-  BrandWorkspace(BrandDocument& document, TileSelection& selection, ToastCenter& toasts,
-                 UndoManager* undoManager, const WorkspaceServices& services,
-                 QObject* parent = nullptr);
+  BrandWorkspace(BrandDocument& document, const WindowParts& window,
+                 const WorkspaceServices& services, QObject* parent = nullptr);
   ~BrandWorkspace() override;
 
   const QString& name() const { return name_; }
@@ -48,21 +47,19 @@ class BrandWorkspace : public QObject {
   Thumbnails* thumbnails() const { return &services_.thumbnails; }
   Posters* posters() const { return &services_.posters; }
 
-  bool hasSelection() const { return selection_.count() > 0; }
+  bool hasSelection() const { return window_.selection.count() > 0; }
   // Selects the tiles of the selected section, else of the first one that has any.
   Q_INVOKABLE void selectAll();
   // Undoable.
   Q_INVOKABLE void deleteSelection();
   Q_INVOKABLE void clearSelection();
-  // Appends an empty section, not undoable.
-  Q_INVOKABLE void addSection(const QString& name);
+  // Asks for a name and appends an empty section, not undoable.
+  Q_INVOKABLE void askNewSection();
 
   // --- For the models and items of its page
 
   BrandDocument* document() const { return document_; }  // null once it has gone
-  TileSelection& selection() const { return selection_; }
-  ToastCenter& toasts() const { return toasts_; }
-  const WorkspaceServices& services() const { return services_; }
+  TileSelection& selection() const { return window_.selection; }
 
   EmblemLook lookOf(const std::optional<Emblem>& emblem, const QString& defaultSymbol) const;
   // Empty for a name that leads out of the package.
@@ -71,19 +68,21 @@ class BrandWorkspace : public QObject {
   // Puts the text on the clipboard and tells of it: "Copied " and `what`.
   void copy(const QString& text, const QString& what);
   void copyColor(const QString& hex);
-  void sampleColor(const std::function<void(const QString& hex)>& done);
+  // Lets the user pick a colour of the screen and appends it to the section, undoably.
+  void pickColor(const QUuid& section);
+  // Colours from the screen go there from now on.
+  void collectColorsIn(const QUuid& section);
+  // Edits the rules of that item in a sheet.
+  void editNotes(const QUuid& item);
 
-  using SectionChange = std::function<void(Section& section)>;
-  void editSection(const QUuid& section, const SectionChange& change);
-  // As one undoable step of that name.
-  void mutateSection(const QString& actionName, const QUuid& section, const SectionChange& change);
   // Swaps it with the one `step` places on, if there is one.
   void moveSection(const QUuid& section, int step);
-  void deleteSection(const QUuid& section);
 
   void importChosen(const QStringList& mimeTypes, DropImport::MediaKind kind, const QUuid& section);
   void importChosenFonts(const QUuid& section);
 
+  // Whether something of that type is offered.
+  bool offers(const QMimeData& data, const QString& type) const;
   // A drop on a section: an item of this brand moves to its end, files and pictures are imported.
   bool drop(const QMimeData& data, const QUuid& section);
   // A drop on an item, which takes items alone: they move in front of it.
@@ -100,17 +99,16 @@ class BrandWorkspace : public QObject {
  private:
   void refreshSoon();
   void refresh();
+  void addPicked(const QString& hex, const QUuid& section);
+  void showEyedropperTip();
 
   QPointer<BrandDocument> document_;
-  TileSelection& selection_;
-  ToastCenter& toasts_;
-  UndoManager* undoManager_;
+  const WindowParts window_;
   const WorkspaceServices services_;
   QString name_;
   QString searchText_;
   DragPreparation dragPreparation_;
   bool isRefreshDue_ = false;
-  std::unique_ptr<ColorSampler> colorSampler_;  // while a pick runs
   SectionListModel sections_;
 };
 

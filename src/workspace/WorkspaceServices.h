@@ -5,12 +5,15 @@
 #include "library/LibraryStore.h"
 #include "pictures/Posters.h"
 #include "pictures/Thumbnails.h"
-#include "platform/ColorSampler.h"
 #include "platform/DragSession.h"
 #include "platform/DroppedThing.h"
 #include "platform/Pasteboard.h"
 
 namespace tarnloft {
+
+class SheetHost;
+class TileSelection;
+class ToastCenter;
 
 // What a brand's workspace needs of its surroundings. Borrowed: all of it outlives every workspace
 // and the pages that show one.
@@ -19,13 +22,21 @@ struct WorkspaceServices {
   Preferences& preferences;
   Pasteboard& pasteboard;
   FileDialogs& dialogs;
-  std::function<std::unique_ptr<ColorSampler>()> makeColorSampler;
+  FileViewer& viewer;
   Thumbnails& thumbnails;
   Posters& posters;
   ImportServices imports;
   DropReader& drops;
   DragServices drags;
   DragSession& dragSession;
+};
+
+// What it shares with all else in its window, and outlives it too.
+struct WindowParts {
+  TileSelection& selection;
+  ToastCenter& toasts;
+  SheetHost& sheets;
+  UndoManager* undoManager;  // null for none
 };
 
 }  // namespace tarnloft

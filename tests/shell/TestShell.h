@@ -6,9 +6,7 @@
 namespace tarnloft {
 
 struct TestShell : TestDesktop {
-  std::unique_ptr<ContentModel> makeContent() {
-    return std::make_unique<ContentModel>(library.services(), services());
-  }
+  std::unique_ptr<ContentModel> makeContent() { return std::make_unique<ContentModel>(services()); }
 };
 
 }  // namespace tarnloft

@@ -24,7 +24,7 @@ struct Views : TestShell {
     Theme& theme = Theme::of(engine);
     LibraryStore& store = library.start();
     tint = std::make_unique<AccentTint>(store, theme);
-    main = std::make_unique<MainWindow>(engine, library.services(), services(), state);
+    main = std::make_unique<MainWindow>(engine, services(), state);
     QVERIFY(main->open());
     QVERIFY(QTest::qWaitForWindowActive(&window()));
     QTRY_VERIFY(window().property("late").value<QObject*>());

@@ -8,6 +8,7 @@
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
@@ -191,7 +192,7 @@ class TestAlerts : public QObject {
         {"kept after all", QStringList{"Delete Immediately…", "Cancel"}, qsizetype(1)},
         {"return alone", QStringList{"Return", "Return"}, qsizetype(1)},
         {"deleted", QStringList{"Delete Immediately…", "Delete"}, qsizetype(0)}};
-    cases.check([&](const QStringList& answers, qsizetype left) {
+    cases.check([&](QStringList answers, qsizetype left) {
       Alarmed views;
       views.library.trash.works = false;
       views.start();

@@ -36,7 +36,7 @@ class TestContent : public QObject {
 
     QSignalSpy detail(&content, &ContentModel::detailChanged);
     QSignalSpy selection(content.commands(), &ShellCommands::hasSelectionChanged);
-    content.createBrand("Acme");
+    test.library.store->createBrand("Acme");
     QVERIFY(!detail.isEmpty());
     QVERIFY(!selection.isEmpty());
     QCOMPARE(content.detail(), ContentModel::Detail::brand);
@@ -54,15 +54,15 @@ class TestContent : public QObject {
   void answersTheRequestForANewBrand() {
     ContentTest test;
     ContentModel& content = test.start();
-    QVERIFY(!content.showsNewBrand());
+    QVERIFY(!content.sheets()->current());
     content.commands()->newBrand();
-    QVERIFY(content.showsNewBrand());
+    QVERIFY(qobject_cast<NameSheet*>(content.sheets()->current()));
     QVERIFY(!test.library.store->newBrandRequested());
 
     // One that was made while no window was open.
     test.content.reset();
     test.library.store->setNewBrandRequested(true);
-    QVERIFY(test.makeContent()->showsNewBrand());
+    QVERIFY(test.makeContent()->sheets()->current());
     QVERIFY(!test.library.store->newBrandRequested());
   }
 
@@ -71,7 +71,7 @@ class TestContent : public QObject {
     ContentModel& content = test.start();
     QVERIFY(!content.workspace());
     QSignalSpy changed(&content, &ContentModel::workspaceChanged);
-    content.createBrand("Acme");
+    test.library.store->createBrand("Acme");
     QTRY_VERIFY(content.workspace());
     QCOMPARE(changed.size(), 1);  // for two documents, the read one and the made one
     QCOMPARE(content.workspace()->document(), test.library.store->openDocument());
@@ -86,13 +86,17 @@ class TestContent : public QObject {
     QTRY_VERIFY(!old);
   }
 
-  void registersFontsAndKeepsAFirstVersion() {
+  void registersFontsBehindTheFirstFrameAndKeepsAFirstVersion() {
     ContentTest test;
     Section fonts = Section::create("Type");
     const AssetRef file{"a.otf", "A.otf"};
     fonts.items = {Item::create(FontPayload{{"Display", {}, {}, file, {}}})};
     test.library.add("Acme", {fonts});
     test.start();
+    test.workers.waitForDone();
+    QCOMPARE(test.fonts.registered.size(), 0);  // they would have all text laid out anew
+    test.content->followFirstFrame();
+    test.workers.waitForDone();
     QCOMPARE(test.fonts.registered.size(), 1);
     QTRY_COMPARE(test.library.store->openDocument()->listVersions().size(), 1);
   }

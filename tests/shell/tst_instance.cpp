@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <csignal>
 
+using namespace tarnloft;
+
 namespace {
 
 class Starts {

@@ -13,6 +13,7 @@
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
@@ -69,9 +70,9 @@ class TestMainWindow : public QObject {
         {"screen has gone", state(QPoint(5000, 10), usual), state(std::nullopt, usual)},
         {"too large", state(QPoint(10, 10), {3000, 2000}), state(QPoint(10, 10), {1280, 1024})},
         {"anywhere", state(std::nullopt, usual), state(std::nullopt, usual)}};
-    cases.check([&](const WindowState& given, const WindowState& fitted) {
+    cases.check([&](const WindowState& kept, const WindowState& fitted) {
       const QList<QRect> screens{{0, 0, 1280, 1024}, {1280, 0, 1920, 1080}};
-      QVERIFY(given.fitting(screens) == fitted);
+      QVERIFY(kept.fitting(screens) == fitted);
     });
   }
 
@@ -105,7 +106,7 @@ class TestMainWindow : public QObject {
     IniPreferences state(library.disk.path("state.ini"));
     QQmlEngine engine;
     Theme::of(engine);
-    MainWindow main(engine, library.services(), test.services(), state);
+    MainWindow main(engine, test.services(), state);
     QSignalSpy closed(&main, &MainWindow::closed);
     QVERIFY(main.open());
     QPointer<QQuickWindow> window = main.window();
@@ -138,11 +139,11 @@ class TestMainWindow : public QObject {
       IniPreferences state(test.library.disk.path("state.ini"));
       QQmlEngine engine;
       Theme::of(engine);
-      auto main =
-          std::make_unique<MainWindow>(engine, test.library.services(), test.services(), state);
+      auto main = std::make_unique<MainWindow>(engine, test.services(), state);
       QVERIFY(main->open());
       QTRY_VERIFY(pageIn(main->window()->contentItem()));
-      QList<QPointer<QQuickItem>> views{main->window()->contentItem()};
+      QList<QPointer<QQuickItem>> views;
+      views << main->window()->contentItem();
       for (qsizetype i = 0; i < views.size(); ++i) {
         for (QQuickItem* const view : views.at(i)->childItems()) views << view;
       }

@@ -1,3 +1,5 @@
+#include "controls/sheets/NameSheet.h"
+#include "controls/sheets/Question.h"
 #include "model/Uuid.h"
 #include "shell/sidebar/Sidebar.h"
 #include "testing/Cases.h"
@@ -17,11 +19,12 @@ Section section(const QString& name) { return Section::create(name); }
 
 struct SidebarTest {
   TestLibrary library;
+  SheetHost sheets;
   std::unique_ptr<Sidebar> sidebar;
   std::unique_ptr<QAbstractItemModelTester> tester;
 
   Sidebar& start() {
-    sidebar = std::make_unique<Sidebar>(library.start(), library.services());
+    sidebar = std::make_unique<Sidebar>(library.start(), library.viewer, sheets);
     tester = std::make_unique<QAbstractItemModelTester>(
         sidebar->rows(), QAbstractItemModelTester::FailureReportingMode::QtTest);
     return *sidebar;
@@ -158,36 +161,54 @@ class TestSidebar : public QObject {
     SidebarTest test;
     test.library.add("Acme");
     test.library.add("Birch");
-    Sidebar& sidebar = test.start();
-    sidebar.beginRename(test.library.packagePath("Birch"));
-    QVERIFY(sidebar.isRenaming());
-    QCOMPARE(sidebar.renameText(), "Birch");
-    sidebar.commitRename("Cedar");
-    sidebar.endRename();
-    QVERIFY(!sidebar.isRenaming());
+    test.start().rename(test.library.packagePath("Birch"));
+    auto* const sheet = qobject_cast<NameSheet*>(test.sheets.current());
+    QCOMPARE(sheet->text(), "Birch");
+    sheet->setText(" ");
+    sheet->confirm();
+    QCOMPARE(test.sheets.current(), sheet);
+    sheet->setText(" Cedar ");
+    sheet->confirm();
+    QVERIFY(!test.sheets.current());
     QCOMPARE(test.library.names(), QStringList({"Acme", "Cedar"}));
     QCOMPARE(test.library.store->selection(), test.library.packagePath("Cedar"));
-    sidebar.commitRename("Nothing asked");
-    QCOMPARE(test.library.names(), QStringList({"Acme", "Cedar"}));
   }
 
   void asksBeforeDeleting() {
+    using Answer = Question::Answer;
     SidebarTest test;
     test.library.add("Acme");
     test.library.add("Say \"hi\"");
     Sidebar& sidebar = test.start();
-    sidebar.askDelete(test.library.packagePath("Say \"hi\""));
-    QVERIFY(sidebar.isDeleting());
-    QCOMPARE(sidebar.deleteTitle(), "Move “Say \"hi\"” to the Trash?");
-    sidebar.endDelete();
-    sidebar.confirmDelete();
+    const auto reply = [&](const QString& brand, Answer answer) {
+      sidebar.moveToTrash(test.library.packagePath(brand));
+      auto* const question = qobject_cast<Question*>(test.sheets.current());
+      QCOMPARE(question->title(), "Move “" + brand + "” to the Trash?");
+      question->give(answer);
+      QVERIFY(!test.sheets.current());
+    };
+    reply("Say \"hi\"", Answer::Dismissed);
     QCOMPARE(test.library.store->brands().size(), 2);
-    sidebar.askDelete(test.library.packagePath("Acme"));
-    sidebar.confirmDelete();
-    sidebar.endDelete();
-    QVERIFY(!sidebar.isDeleting());
+    reply("Acme", Answer::Confirmed);
     QCOMPARE(test.library.names(), QStringList({"Say \"hi\""}));
     QVERIFY(QFile::exists(test.library.disk.path("trash/Acme.tarnloft")));
+  }
+
+  // Removed, or renamed, by another machine.
+  void whatIsAskedAboutABrandGoesWithIt() {
+    SidebarTest test;
+    test.library.add("Acme");
+    test.library.add("Birch");
+    Sidebar& sidebar = test.start();
+    sidebar.rename(test.library.packagePath("Birch"));
+    sidebar.moveToTrash(test.library.packagePath("Acme"));
+    const QPointer<SheetModel> rename = test.sheets.current();
+    QDir(test.library.packagePath("Acme")).removeRecursively();
+    test.library.store->scan();
+    QCOMPARE(test.sheets.current(), rename);
+    QDir(test.library.packagePath("Birch")).removeRecursively();
+    test.library.store->scan();
+    QVERIFY(!test.sheets.current() && !rename);
   }
 
   void reordersWhileDragging() {
@@ -228,10 +249,9 @@ class TestSidebar : public QObject {
     test.library.add("Acme");
     Sidebar& sidebar = test.start();
     const QString gone = test.library.packagePath("Gone");
-    sidebar.beginRename(gone);
-    QVERIFY(!sidebar.isRenaming());
-    sidebar.askDelete(gone);
-    QVERIFY(!sidebar.isDeleting());
+    sidebar.rename(gone);
+    sidebar.moveToTrash(gone);
+    QVERIFY(!test.sheets.current());
     sidebar.duplicate(gone);
     sidebar.exportFile(gone);
     sidebar.exportPage(gone);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/sheets/NameSheet.h"
 #include "document/UndoHistory.h"
 #include "platform/desktop/dragging/DragData.h"
 #include "platform/desktop/dragging/MimeDrops.h"
@@ -54,17 +55,18 @@ struct TestDesktop {
 
   // Of the library as it was started last.
   WorkspaceServices services() {
-    return {*library.store,
-            library.preferences,
-            pasteboard,
-            library.dialogs,
-            library.services().makeColorSampler,
-            thumbnails,
-            posters,
-            {types, fonts, workers, {}},
-            drops,
-            {library.disk.files, types, [](const QString&, qint64) { return std::nullopt; }},
-            drags};
+    return {
+        .library = *library.store,
+        .preferences = library.preferences,
+        .pasteboard = pasteboard,
+        .dialogs = library.dialogs,
+        .viewer = library.viewer,
+        .thumbnails = thumbnails,
+        .posters = posters,
+        .imports = {types, fonts, workers, {}},
+        .drops = drops,
+        .drags = {library.disk.files, types, [](const QString&, qint64) { return std::nullopt; }},
+        .dragSession = drags};
   }
 };
 
@@ -99,14 +101,22 @@ class TestWorkspace : public TestDesktop {
   }
   // Lets what is due in the event loop happen.
   static void turn() { QCoreApplication::processEvents(); }
+  void addSection(const QString& name) {
+    workspace->askNewSection();
+    auto* const sheet = qobject_cast<NameSheet*>(sheets.current());
+    sheet->setText(name);
+    sheet->confirm();
+  }
   // Of the document that is open now.
   void makeWorkspace() {
-    workspace = std::make_unique<BrandWorkspace>(document(), selection, toasts, &undo, services());
+    workspace = std::make_unique<BrandWorkspace>(
+        document(), WindowParts{selection, toasts, sheets, &undo}, services());
   }
 
   UndoHistory undo;
   TileSelection selection;
   ToastCenter toasts;
+  SheetHost sheets;
   std::unique_ptr<BrandWorkspace> workspace;
 };
 

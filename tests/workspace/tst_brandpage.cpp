@@ -623,7 +623,7 @@ class TestBrandPage : public QObject {
     QCOMPARE(order(), "ACB");
     test.section(0).remove();
     QCOMPARE(order(), "CB");
-    test.workspace->addSection("D");
+    test.addSection("D");
     QCOMPARE(order(), "CBD");
   }
 };

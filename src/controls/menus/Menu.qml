@@ -54,6 +54,18 @@ T.Menu {
         }
     }
 
+    property MenuItem chosen: null // the entry that was carried out last
+
+    function goOnAfterClosing(entry: MenuItem) {
+        chosen = entry;
+        afterClosing.start();
+    }
+
+    readonly property Timer afterClosing: Timer {
+        interval: 0
+        onTriggered: root.chosen?.afterClosing()
+    }
+
     // For the keys that the template leaves alone, from the menu itself and from its entries.
     function takeKey(event: KeyEvent) {
         const plain = !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier));

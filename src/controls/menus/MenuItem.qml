@@ -30,14 +30,7 @@ T.MenuItem {
     spacing: 24
     font: Theme.body
 
-    onTriggered: closing.start()
-
-    Timer {
-        id: closing
-
-        interval: 0
-        onTriggered: root.afterClosing()
-    }
+    onTriggered: (menu as Menu)?.goOnAfterClosing(root)
 
     // Here, since the template would take Tab for itself.
     Keys.onPressed: event => {

@@ -85,8 +85,8 @@ MenuOpener {
                 required property PickerOption modelData
                 required property int index
 
-                text: modelData.text
-                symbol: modelData.symbol
+                text: modelData?.text ?? "" // it may go first
+                symbol: modelData?.symbol ?? ""
                 checkable: true
                 checked: index === root.currentIndex
                 onTriggered: if (index !== root.currentIndex) root.activated(index)

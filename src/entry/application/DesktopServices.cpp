@@ -21,18 +21,18 @@ std::unique_ptr<ColorSampler> DesktopServices::makeColorSampler() const {
 }
 
 LibraryServices DesktopServices::forLibrary() {
-  return {{files, log, systemNow, disk},
-          preferences,
-          appearance,
-          beep,
-          trash,
-          archiver,
-          dialogs,
-          viewer,
-          [this] { return makeColorSampler(); },
-          SupportFolder::applicationSupportFolder(),
-          QDir::tempPath(),
-          copies};
+  return {.document = {.files = files, .log = log, .clock = systemNow, .disk = disk},
+          .preferences = preferences,
+          .appearance = appearance,
+          .beep = beep,
+          .trash = trash,
+          .archiver = archiver,
+          .dialogs = dialogs,
+          .viewer = viewer,
+          .makeColorSampler = [this] { return makeColorSampler(); },
+          .applicationSupport = SupportFolder::applicationSupportFolder(),
+          .temporaryFolder = QDir::tempPath(),
+          .copies = copies};
 }
 
 WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
@@ -48,17 +48,22 @@ WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
   const auto tiff = [this](const QString& path, qint64 maxBytes) {
     return media.tiff(path, maxBytes);
   };
-  return {library,
-          preferences,
-          pasteboard,
-          dialogs,
-          [this] { return makeColorSampler(); },
-          media.thumbnails,
-          media.posters,
-          {types, fonts, workers, landLate, tellFailed, &importProgress},
-          drops,
-          {files, types, tiff},
-          dragSession};
+  return {.library = library,
+          .preferences = preferences,
+          .pasteboard = pasteboard,
+          .dialogs = dialogs,
+          .viewer = viewer,
+          .thumbnails = media.thumbnails,
+          .posters = media.posters,
+          .imports = {.types = types,
+                      .fonts = fonts,
+                      .workers = workers,
+                      .addToClosed = landLate,
+                      .failed = tellFailed,
+                      .progress = &importProgress},
+          .drops = drops,
+          .drags = {.files = files, .types = types, .tiff = tiff},
+          .dragSession = dragSession};
 }
 
 bool DesktopServices::finish(std::chrono::milliseconds patience) {

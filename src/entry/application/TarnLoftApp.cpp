@@ -61,8 +61,7 @@ TarnLoftApp::TarnLoftApp()
       theme_(Theme::of(engine_)),
       tint_(library_, theme_),
       menuBarPrefs_(services_.preferences),
-      mainWindow_(engine_, services_.forLibrary(), services_.forWorkspace(library_),
-                  services_.state),
+      mainWindow_(engine_, services_.forWorkspace(library_), services_.state),
       appDelegate_(
           services_.preferences, menuBarPrefs_, services_.statusItem, [this] { openMainWindow(); },
           [this] { requestQuit(); }) {

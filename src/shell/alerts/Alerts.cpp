@@ -9,21 +9,23 @@ QString sentence(const QString& text) {
   return hasEnd ? text : text + QLatin1Char('.');
 }
 
+QString quitTitle(const QStringList& brands) {
+  return brands.size() == 1 ? QStringLiteral("Changes to “%1” aren't saved").arg(brands.first())
+                            : QStringLiteral("Changes to %1 brands aren't saved").arg(brands.size());
+}
+
 }  // namespace
 
-Alerts::Alerts(LibraryStore& library, QObject* parent) : QObject(parent), library_(library) {
+Alerts::Alerts(LibraryStore& library, SheetHost& sheets, QObject* parent)
+    : QObject(parent), library_(library), sheets_(sheets) {
   const LibraryStore* const store = &library;
   connect(store, &LibraryStore::unsavedChanged, this, &Alerts::saveProblemChanged);
   connect(store, &LibraryStore::unsavedChanged, this, &Alerts::renewQuitQuestion);
   connect(store, &LibraryStore::openDocumentChanged, this, &Alerts::saveProblemChanged);
   connect(store, &LibraryStore::libraryProblemChanged, this, &Alerts::libraryProblemChanged);
-  connect(store, &LibraryStore::noticesChanged, this, &Alerts::noticeChanged);
-  connect(store, &LibraryStore::trashRefused, this,
-          [this](const BrandSummary& brand, const QString& reason) {
-            refused_ = brand;
-            refusal_ = reason;
-            ask(TrashQuestion::refused);
-          });
+  connect(store, &LibraryStore::noticesChanged, this, &Alerts::showNotice);
+  connect(store, &LibraryStore::trashRefused, this, &Alerts::tellRefused);
+  showNotice();  // of before this window
 }
 
 QString Alerts::saveProblem() const {
@@ -33,82 +35,68 @@ QString Alerts::saveProblem() const {
 
 QString Alerts::libraryProblem() const { return sentence(library_.libraryProblem()); }
 
-QString Alerts::noticeTitle() const {
-  const auto& notices = library_.notices();
-  return notices.isEmpty() ? QString() : notices.first().title;
+// One after the other; the library keeps them until each has been seen.
+void Alerts::showNotice() {
+  if (notice_ || library_.notices().isEmpty()) return;
+  const auto& [title, message] = library_.notices().first();
+  notice_ = sheets_.show(std::make_unique<Question>(
+      Question::Words{.title = title, .message = sentence(message), .cancelText = {}},
+      [this](Question::Answer) {
+        notice_.clear();
+        library_.dismissNotice();
+      }));
 }
 
-QString Alerts::noticeMessage() const {
-  const auto& notices = library_.notices();
-  return notices.isEmpty() ? QString() : sentence(notices.first().message);
+void Alerts::tellRefused(const BrandSummary& brand, const QString& reason) {
+  const Question::Words words{
+      .title = QStringLiteral("“%1” can't be moved to the Trash").arg(brand.name),
+      .message = sentence(reason) + QStringLiteral(" The brand stays in the library."),
+      .confirmText = QStringLiteral("Delete Immediately…"),
+      .destructive = true};
+  sheets_.show(std::make_unique<Question>(words, [this, brand](Question::Answer answer) {
+    if (answer == Question::Answer::Confirmed) askDeleteImmediately(brand);
+  }));
 }
 
-void Alerts::ask(TrashQuestion question) {
-  trashQuestion_ = question;
-  emit trashQuestionChanged();
-}
-
-QString Alerts::trashTitle() const {
-  switch (trashQuestion_) {
-    case TrashQuestion::refused:
-      return QStringLiteral("“%1” can't be moved to the Trash").arg(refused_.name);
-    case TrashQuestion::immediately:
-      return QStringLiteral("Delete “%1” immediately?").arg(refused_.name);
-    case TrashQuestion::none: break;
-  }
-  return {};
-}
-
-QString Alerts::trashMessage() const {
-  switch (trashQuestion_) {
-    case TrashQuestion::refused:
-      return sentence(refusal_) + QStringLiteral(" The brand stays in the library.");
-    case TrashQuestion::immediately:
-      return QStringLiteral("The brand and all of its files are gone then. You can't undo this.");
-    case TrashQuestion::none: break;
-  }
-  return {};
-}
-
-void Alerts::askDeleteImmediately() { ask(TrashQuestion::immediately); }
-
-void Alerts::deleteImmediately() {
-  ask(TrashQuestion::none);
-  library_.deleteBrandImmediately(refused_);
-}
-
-void Alerts::keepBrand() { ask(TrashQuestion::none); }
-
-QString Alerts::quitTitle() const {
-  const QStringList names = library_.unsavedBrands();
-  return names.size() == 1 ? QStringLiteral("Changes to “%1” aren't saved").arg(names.first())
-                           : QStringLiteral("Changes to %1 brands aren't saved").arg(names.size());
-}
-
-QString Alerts::quitMessage() const {
-  return QStringLiteral("They couldn't be written to the disk. If you quit now, they are lost.");
+void Alerts::askDeleteImmediately(const BrandSummary& brand) {
+  const Question::Words words{
+      .title = QStringLiteral("Delete “%1” immediately?").arg(brand.name),
+      .message =
+          QStringLiteral("The brand and all of its files are gone then. You can't undo this."),
+      .confirmText = QStringLiteral("Delete"),
+      .destructive = true,
+      .cancelIsDefault = true};
+  sheets_.show(std::make_unique<Question>(words, [this, brand](Question::Answer answer) {
+    if (answer == Question::Answer::Confirmed) library_.deleteBrandImmediately(brand);
+  }));
 }
 
 void Alerts::askToQuit() {
-  isAskingToQuit_ = true;
-  emit askingToQuitChanged();
+  if (quit_) return;
+  quit_ = sheets_.interrupt(std::make_unique<Question>(
+      Question::Words{
+          .title = quitTitle(library_.unsavedBrands()),
+          .message = QStringLiteral(
+              "They couldn't be written to the disk. If you quit now, they are lost."),
+          .confirmText = QStringLiteral("Quit Anyway"),
+          .alternativeText = QStringLiteral("Try Again"),
+          .destructive = true,
+          .cancelIsDefault = true},
+      [this](Question::Answer answer) { quitAnswered(answer); }));
 }
 
-void Alerts::stay() {
-  isAskingToQuit_ = false;
-  emit askingToQuitChanged();
+void Alerts::quitAnswered(Question::Answer answer) {
+  quit_.clear();
+  if (answer == Question::Answer::Alternative) retrySave();
+  if (answer == Question::Answer::Confirmed) emit quitConfirmed();
 }
 
 // What is asked about may have been saved since.
 void Alerts::renewQuitQuestion() {
-  if (!isAskingToQuit_) return;
-  isAskingToQuit_ = !library_.unsavedBrands().isEmpty();
-  emit askingToQuitChanged();
-}
-
-void Alerts::quitAnyway() {
-  stay();
-  emit quitConfirmed();
+  if (!quit_) return;
+  const QStringList unsaved = library_.unsavedBrands();
+  if (unsaved.isEmpty()) return quit_->give(Question::Answer::Dismissed);
+  quit_->setTitle(quitTitle(unsaved));
 }
 
 }  // namespace tarnloft

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "controls/sheets/Question.h"
+#include "controls/sheets/SheetHost.h"
 #include "library/LibraryStore.h"
 
-#include <QObject>
-#include <QtQml/qqmlregistration.h>
+#include <QPointer>
 
 namespace tarnloft {
 
@@ -17,26 +18,10 @@ class Alerts : public QObject {
   // Why the open brand's changes aren't on disk.
   Q_PROPERTY(QString saveProblem READ saveProblem NOTIFY saveProblemChanged)
   Q_PROPERTY(QString libraryProblem READ libraryProblem NOTIFY libraryProblemChanged)
-  // The oldest notice that hasn't been dismissed.
-  Q_PROPERTY(QString noticeTitle READ noticeTitle NOTIFY noticeChanged)
-  Q_PROPERTY(QString noticeMessage READ noticeMessage NOTIFY noticeChanged)
-  Q_PROPERTY(TrashQuestion trashQuestion READ trashQuestion NOTIFY trashQuestionChanged)
-  Q_PROPERTY(QString trashTitle READ trashTitle NOTIFY trashQuestionChanged)
-  Q_PROPERTY(QString trashMessage READ trashMessage NOTIFY trashQuestionChanged)
-  Q_PROPERTY(bool askingToQuit READ isAskingToQuit NOTIFY askingToQuitChanged)
-  Q_PROPERTY(QString quitTitle READ quitTitle NOTIFY askingToQuitChanged)
-  Q_PROPERTY(QString quitMessage READ quitMessage NOTIFY askingToQuitChanged)
 
  public:
-  enum class TrashQuestion {
-    none,
-    refused,     // the brand couldn't be moved to the trash
-    immediately  // whether to delete it for ever
-  };
-  Q_ENUM(TrashQuestion)
-
-  // Borrowed: it outlives this.
-  explicit Alerts(LibraryStore& library, QObject* parent = nullptr);
+  // Borrowed: both outlive this.
+  Alerts(LibraryStore& library, SheetHost& sheets, QObject* parent = nullptr);
 
   QString saveProblem() const;
   Q_INVOKABLE void retrySave() { library_.retrySaves(); }
@@ -45,42 +30,25 @@ class Alerts : public QObject {
   QString libraryProblem() const;
   Q_INVOKABLE void lookAgain() { library_.scan(); }
 
-  QString noticeTitle() const;
-  QString noticeMessage() const;
-  Q_INVOKABLE void dismissNotice() { library_.dismissNotice(); }
-
-  TrashQuestion trashQuestion() const { return trashQuestion_; }
-  QString trashTitle() const;
-  QString trashMessage() const;
-  Q_INVOKABLE void askDeleteImmediately();
-  Q_INVOKABLE void deleteImmediately();
-  Q_INVOKABLE void keepBrand();
-
-  bool isAskingToQuit() const { return isAskingToQuit_; }
-  QString quitTitle() const;
-  QString quitMessage() const;
+  // Asks whether to quit with work that isn't saved, over whatever is up, until all is saved.
   void askToQuit();
-  Q_INVOKABLE void quitAnyway();
-  Q_INVOKABLE void stay();
 
  signals:
   void saveProblemChanged();
   void libraryProblemChanged();
-  void noticeChanged();
-  void trashQuestionChanged();
-  void askingToQuitChanged();
   void quitConfirmed();
 
  private:
-  void ask(TrashQuestion question);
+  void showNotice();
+  void tellRefused(const BrandSummary& brand, const QString& reason);
+  void askDeleteImmediately(const BrandSummary& brand);
+  void quitAnswered(Question::Answer answer);
   void renewQuitQuestion();
 
   LibraryStore& library_;
-
-  TrashQuestion trashQuestion_ = TrashQuestion::none;
-  BrandSummary refused_;
-  QString refusal_;
-  bool isAskingToQuit_ = false;
+  SheetHost& sheets_;
+  QPointer<Question> notice_;  // the oldest that hasn't been dismissed
+  QPointer<Question> quit_;
 };
 
 }  // namespace tarnloft

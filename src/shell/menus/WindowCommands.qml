@@ -8,7 +8,7 @@ QtObject {
     id: root
 
     required property ShellCommands commands
-    required property StackUndoManager undo
+    required property WindowUndo undo
 
     signal closeRequested
 

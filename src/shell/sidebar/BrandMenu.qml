@@ -12,11 +12,11 @@ Menu {
     required property string packageURL
 
     title: "Brand"
-    onClosed: destroy()
+    onClosed: destroy(1000) // behind what its entries do then
 
     MenuItem {
         text: "Rename…"
-        onTriggered: root.sidebar.beginRename(root.packageURL)
+        onTriggered: root.sidebar.rename(root.packageURL)
     }
     MenuItem {
         text: "Duplicate"
@@ -25,11 +25,11 @@ Menu {
     MenuSeparator {}
     MenuItem {
         text: "Export Brand Page…"
-        onTriggered: root.sidebar.exportPage(root.packageURL)
+        onAfterClosing: root.sidebar.exportPage(root.packageURL)
     }
     MenuItem {
         text: "Export Brand File…"
-        onTriggered: root.sidebar.exportFile(root.packageURL)
+        onAfterClosing: root.sidebar.exportFile(root.packageURL)
     }
     MenuItem {
         text: root.sidebar.revealText
@@ -39,6 +39,6 @@ Menu {
     MenuItem {
         text: "Move to Trash"
         destructive: true
-        onTriggered: root.sidebar.askDelete(root.packageURL)
+        onTriggered: root.sidebar.moveToTrash(root.packageURL)
     }
 }

@@ -1,5 +1,7 @@
 #include "shell/sidebar/Sidebar.h"
 
+#include "controls/sheets/NameSheet.h"
+#include "controls/sheets/Question.h"
 #include "platform/DesktopWords.h"
 
 #include <algorithm>
@@ -7,12 +9,18 @@
 
 namespace tarnloft {
 
-Sidebar::Sidebar(LibraryStore& library, const LibraryServices& services, QObject* parent)
-    : QObject(parent), library_(library), viewer_(services.viewer), rows_(library) {}
+Sidebar::Sidebar(LibraryStore& library, FileViewer& viewer, SheetHost& sheets, QObject* parent)
+    : QObject(parent), library_(library), viewer_(viewer), sheets_(sheets), rows_(library) {}
 
 std::optional<BrandSummary> Sidebar::brandAt(const QString& packageURL) const {
   const QList<BrandSummary>& brands = library_.brands();
   const auto found = std::ranges::find(brands, packageURL, &BrandSummary::packageURL);
+  return found == brands.cend() ? std::nullopt : std::optional(*found);
+}
+
+std::optional<BrandSummary> Sidebar::brandOf(const QUuid& id) const {
+  const QList<BrandSummary>& brands = library_.brands();
+  const auto found = std::ranges::find(brands, id, &BrandSummary::brandID);
   return found == brands.cend() ? std::nullopt : std::optional(*found);
 }
 
@@ -42,62 +50,56 @@ void Sidebar::duplicate(const QString& packageURL) {
   if (const auto brand = brandAt(packageURL)) library_.duplicateBrand(*brand);
 }
 
-// A dialog waits in a loop of its own, within which the menu that asked for it would stay open, or
-// go while its entry is still at work. So both come in a later turn.
 void Sidebar::exportPage(const QString& packageURL) {
-  const auto ask = [this, packageURL] {
-    if (const auto brand = brandAt(packageURL)) library_.exportBrandPage(*brand);
-  };
-  QMetaObject::invokeMethod(this, ask, Qt::QueuedConnection);
+  if (const auto brand = brandAt(packageURL)) library_.exportBrandPage(*brand);
 }
 
 void Sidebar::exportFile(const QString& packageURL) {
-  const auto ask = [this, packageURL] {
-    if (const auto brand = brandAt(packageURL)) library_.exportBrand(*brand);
-  };
-  QMetaObject::invokeMethod(this, ask, Qt::QueuedConnection);
+  if (const auto brand = brandAt(packageURL)) library_.exportBrand(*brand);
 }
 
 void Sidebar::reveal(const QString& packageURL) { viewer_.reveal(packageURL); }
 
 QString Sidebar::revealText() { return inDesktopWords(QStringLiteral("Reveal in Finder")); }
 
-void Sidebar::setRenaming(const std::optional<BrandSummary>& brand) {
-  renaming_ = brand;
-  emit renamingChanged();
+// It may be renamed or go on another machine.
+void Sidebar::endWithBrand(SheetModel& sheet, const QUuid& brand) {
+  connect(&library_, &LibraryStore::brandsChanged, &sheet, [this, &sheet, brand] {
+    if (!brandOf(brand)) emit sheet.finished();
+  });
 }
 
-void Sidebar::beginRename(const QString& packageURL) {
-  if (const auto brand = brandAt(packageURL)) setRenaming(brand);
+void Sidebar::rename(const QString& packageURL) {
+  const auto brand = brandAt(packageURL);
+  if (!brand) return;
+  const auto renamed = [this, id = brand->brandID](const QString& name) {
+    const auto now = brandOf(id);
+    if (!now) return;
+    if (library_.selection() != now->packageURL) library_.select(now->packageURL);
+    library_.renameSelectedBrand(name);
+  };
+  NameSheet* const sheet = sheets_.show(std::make_unique<NameSheet>(
+      NameSheet::Words{.title = QStringLiteral("Rename Brand")}, brand->name, renamed));
+  endWithBrand(*sheet, brand->brandID);
 }
 
-void Sidebar::commitRename(const QString& name) {
-  if (!renaming_) return;
-  if (library_.selection() != renaming_->packageURL) library_.select(renaming_->packageURL);
-  library_.renameSelectedBrand(name);
+void Sidebar::moveToTrash(const QString& packageURL) {
+  const auto brand = brandAt(packageURL);
+  if (!brand) return;
+  const auto answered = [this, id = brand->brandID](Question::Answer answer) {
+    const auto now = brandOf(id);
+    if (now && answer == Question::Answer::Confirmed) library_.deleteBrand(*now);
+  };
+  Question* const question = sheets_.show(std::make_unique<Question>(
+      Question::Words{
+          .title = QStringLiteral("Move “") + brand->name + QStringLiteral("” to the Trash?"),
+          .message = QStringLiteral(
+              "The brand file goes to the Trash. You can restore it from there."),
+          .confirmText = QStringLiteral("Move to Trash"),
+          .destructive = true},
+      answered));
+  endWithBrand(*question, brand->brandID);
 }
-
-void Sidebar::endRename() { setRenaming(std::nullopt); }
-
-void Sidebar::setPendingDelete(const std::optional<BrandSummary>& brand) {
-  pendingDelete_ = brand;
-  emit deletingChanged();
-}
-
-QString Sidebar::deleteTitle() const {
-  if (!pendingDelete_) return {};
-  return QStringLiteral("Move “") + pendingDelete_->name + QStringLiteral("” to the Trash?");
-}
-
-void Sidebar::askDelete(const QString& packageURL) {
-  if (const auto brand = brandAt(packageURL)) setPendingDelete(brand);
-}
-
-void Sidebar::confirmDelete() {
-  if (pendingDelete_) library_.deleteBrand(*pendingDelete_);
-}
-
-void Sidebar::endDelete() { setPendingDelete(std::nullopt); }
 
 void Sidebar::setDragging(const QString& brandID) {
   draggingBrandID_ = brandID;

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "controls/sheets/SheetHost.h"
 #include "shell/sidebar/SidebarModel.h"
 
 namespace tarnloft {
 
-// What the sidebar does: its rows, what is asked about a brand just now, and the drag of a row.
+// What the sidebar does: its rows, what it asks about a brand, and the drag of a row.
 // Brands are named by their package's path. A brand that has gone since is passed over.
 class Sidebar : public QObject {
   Q_OBJECT
@@ -15,10 +16,6 @@ class Sidebar : public QObject {
   Q_PROPERTY(bool folded READ isFolded WRITE setFolded NOTIFY foldedChanged)
   // While folded: it lies over the page. Something being chosen in it ends that.
   Q_PROPERTY(bool open READ isOpen WRITE setOpen NOTIFY openChanged)
-  Q_PROPERTY(bool renaming READ isRenaming NOTIFY renamingChanged)
-  Q_PROPERTY(QString renameText READ renameText NOTIFY renamingChanged)
-  Q_PROPERTY(bool deleting READ isDeleting NOTIFY deletingChanged)
-  Q_PROPERTY(QString deleteTitle READ deleteTitle NOTIFY deletingChanged)
   // The file manager's entry of a brand's menu.
   Q_PROPERTY(QString revealText READ revealText CONSTANT)
   Q_PROPERTY(QString draggingBrandID READ draggingBrandID NOTIFY draggingChanged)
@@ -29,8 +26,8 @@ class Sidebar : public QObject {
   Q_PROPERTY(bool draggingSelected READ isDraggingSelected NOTIFY draggingChanged)
 
  public:
-  // Borrowed: the library and all of the services outlive the sidebar.
-  Sidebar(LibraryStore& library, const LibraryServices& services, QObject* parent = nullptr);
+  // Borrowed: all of it outlives the sidebar.
+  Sidebar(LibraryStore& library, FileViewer& viewer, SheetHost& sheets, QObject* parent = nullptr);
 
   SidebarModel* rows() { return &rows_; }
 
@@ -50,22 +47,10 @@ class Sidebar : public QObject {
 
   static QString revealText();
 
-  // --- The rename sheet, up while `renaming`. It starts with `renameText`.
-
-  bool isRenaming() const { return renaming_.has_value(); }
-  QString renameText() const { return renaming_ ? renaming_->name : QString(); }
-  Q_INVOKABLE void beginRename(const QString& packageURL);
-  // Leaves the brand selected, under its new name.
-  Q_INVOKABLE void commitRename(const QString& name);
-  Q_INVOKABLE void endRename();
-
-  // --- The delete question, up while `deleting`
-
-  bool isDeleting() const { return pendingDelete_.has_value(); }
-  QString deleteTitle() const;
-  Q_INVOKABLE void askDelete(const QString& packageURL);
-  Q_INVOKABLE void confirmDelete();
-  Q_INVOKABLE void endDelete();
+  // Asks for another name, which leaves the brand selected.
+  Q_INVOKABLE void rename(const QString& packageURL);
+  // Asks, and moves the brand to the trash.
+  Q_INVOKABLE void moveToTrash(const QString& packageURL);
 
   // --- Reordering: the order changes while the drag enters rows, and is kept at once
 
@@ -87,28 +72,25 @@ class Sidebar : public QObject {
  signals:
   void foldedChanged();
   void openChanged();
-  void renamingChanged();
-  void deletingChanged();
   void draggingChanged();
   // The user moved a brand; the rows follow on the next turn of the event loop.
   void moved();
 
  private:
   std::optional<BrandSummary> brandAt(const QString& packageURL) const;
+  std::optional<BrandSummary> brandOf(const QUuid& id) const;
+  void endWithBrand(SheetModel& sheet, const QUuid& brand);
   QVariant ofDragged(SidebarModel::Role role) const;
   qsizetype indexOf(const QString& brandID) const;
-  void setRenaming(const std::optional<BrandSummary>& brand);
-  void setPendingDelete(const std::optional<BrandSummary>& brand);
   void setDragging(const QString& brandID);
   void move(const QString& brandID, const std::optional<QUuid>& before);
 
   LibraryStore& library_;
   FileViewer& viewer_;
+  SheetHost& sheets_;
   SidebarModel rows_;
   bool isFolded_ = false;
   bool isOpen_ = false;
-  std::optional<BrandSummary> renaming_;
-  std::optional<BrandSummary> pendingDelete_;
   QString draggingBrandID_;
 };
 

@@ -113,11 +113,11 @@ ListView {
     Keys.onReturnPressed: current?.activate()
     Keys.onEnterPressed: current?.activate()
     Keys.onSpacePressed: current?.activate()
-    Keys.onDeletePressed: onBrand(row => root.sidebar.askDelete(row.packageURL))
+    Keys.onDeletePressed: onBrand(row => root.sidebar.moveToTrash(row.packageURL))
     Keys.onMenuPressed: onBrand(row => root.openMenu(row, row.width / 2, row.height / 2))
     Keys.onPressed: event => {
         if (event.key === Qt.Key_F2)
-            onBrand(row => root.sidebar.beginRename(row.packageURL));
+            onBrand(row => root.sidebar.rename(row.packageURL));
         else if (event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier)
             onBrand(row => root.openMenu(row, row.width / 2, row.height / 2));
         else if (event.modifiers & Qt.AltModifier && event.key === Qt.Key_Up)

@@ -1,6 +1,5 @@
 #include "shell/sidebar/SidebarModel.h"
 
-#include "model/ListDifference.h"
 #include "model/Uuid.h"
 #include "pictures/HexColor.h"
 
@@ -32,16 +31,17 @@ BrandMark markOf(const BrandSummary& row, const BrandDocument* open) {
 }  // namespace
 
 SidebarModel::SidebarModel(LibraryStore& library, QObject* parent)
-    : QAbstractListModel(parent), library_(library), rows_(wantedRows()) {
+    : RecordListModel(parent), library_(library), rows_(wantedRows()) {
   for (const auto signal : {&LibraryStore::brandsChanged, &LibraryStore::selectionChanged,
-                            &LibraryStore::openDocumentChanged, &LibraryStore::brandChanged,
-                            &LibraryStore::unsavedChanged}) {
-    connect(&library, signal, this, &SidebarModel::scheduleUpdate);
+                            &LibraryStore::openDocumentChanged, &LibraryStore::unsavedChanged}) {
+    connect(&library, signal, this, [this] { scheduleUpdate(Stale::all); });
   }
+  connect(&library, &LibraryStore::brandChanged, this,
+          [this] { scheduleUpdate(Stale::openBrand); });
 }
 
 void SidebarModel::setAppearance(ColorUtil::Appearance appearance) {
-  if (std::exchange(appearance_, appearance) != appearance) scheduleUpdate();
+  if (std::exchange(appearance_, appearance) != appearance) scheduleUpdate(Stale::all);
 }
 
 int SidebarModel::rowCount(const QModelIndex& parent) const {
@@ -75,9 +75,11 @@ int SidebarModel::selectedRow() const {
   return found == rows_.cend() ? -1 : int(found - rows_.cbegin());
 }
 
-void SidebarModel::scheduleUpdate() {
-  if (std::exchange(updateScheduled_, true)) return;
-  QMetaObject::invokeMethod(this, &SidebarModel::update, Qt::QueuedConnection);
+void SidebarModel::scheduleUpdate(Stale stale) {
+  const Stale before = std::exchange(stale_, std::max(stale_, stale));
+  if (before == Stale::nothing) {
+    QMetaObject::invokeMethod(this, &SidebarModel::update, Qt::QueuedConnection);
+  }
 }
 
 int SidebarModel::rowOf(const QString& id) const {
@@ -86,54 +88,49 @@ int SidebarModel::rowOf(const QString& id) const {
 }
 
 void SidebarModel::update() {
-  updateScheduled_ = false;
   const auto selectedID = [this] {
     const int row = selectedRow();
     return row < 0 ? QUuid() : rows_.at(row).id;
   };
   const QUuid before = selectedID();
-  apply(wantedRows());
+  if (std::exchange(stale_, Stale::nothing) == Stale::openBrand) {
+    updateOpenBrand();
+  } else {
+    const auto rows = wantedRows();
+    carryOut(listDifference(rows_, rows), ListRows<QList<Row>>{rows_, rows});
+  }
   emit updated(selectedID() != before);
 }
 
-void SidebarModel::apply(const QList<Row>& rows) {
-  for (const ListChange& change : listDifference(rows_, rows)) {
-    const int from = int(change.from);
-    const int to = int(change.to);
-    const int count = int(change.count);
-    switch (change.kind) {
-      case ListChange::Kind::remove:
-        beginRemoveRows({}, from, from + count - 1);
-        rows_.remove(from, count);
-        endRemoveRows();
-        break;
-      case ListChange::Kind::move:
-        beginMoveRows({}, from, from, {}, to > from ? to + 1 : to);
-        rows_.move(from, to);
-        endMoveRows();
-        break;
-      case ListChange::Kind::insert:
-        beginInsertRows({}, to, to + count - 1);
-        for (int i = 0; i < count; ++i) rows_.insert(to + i, rows.at(from + i));
-        endInsertRows();
-        break;
-      case ListChange::Kind::change:
-        rows_[to] = rows.at(to);
-        emit dataChanged(index(to), index(to));
-        break;
-    }
-  }
+// An edit of it, such as a keystroke, changes no other brand's rows.
+void SidebarModel::updateOpenBrand() {
+  const BrandDocument* const open = library_.openDocument();
+  if (!open) return;
+  const QString& package = open->packageURL();
+  const auto summary = std::ranges::find(library_.brands(), package, &BrandSummary::packageURL);
+  const auto first = std::ranges::find(rows_, package, &Row::packageURL);
+  if (summary == library_.brands().end() || first == rows_.end()) return;
+  const auto last = std::ranges::find_if(
+      first + 1, rows_.end(), [](const Row& row) { return row.kind == Kind::brand; });
+  const auto rows = rowsOf(*summary);
+  const qsizetype place = first - rows_.begin();
+  const auto changes = listDifference(rows_.mid(place, last - first), rows);
+  carryOut(changes, ListRows<QList<Row>>{rows_, rows, place}, int(place));
 }
 
 QList<SidebarModel::Row> SidebarModel::wantedRows() const {
   QList<Row> rows;
+  for (const BrandSummary& brand : library_.brands()) rows << rowsOf(brand);
+  return rows;
+}
+
+// A brand's own, and those of its sections if it is open.
+QList<SidebarModel::Row> SidebarModel::rowsOf(const BrandSummary& brand) const {
+  QList<Row> rows{brandRow(brand)};
   const BrandDocument* const open = library_.openDocument();
-  for (const BrandSummary& brand : library_.brands()) {
-    rows << brandRow(brand);
-    if (!open || open->packageURL() != brand.packageURL) continue;
-    for (const Section& section : open->brand().sections) {
-      rows << sectionRow(section, brand.packageURL);
-    }
+  if (!open || open->packageURL() != brand.packageURL) return rows;
+  for (const Section& section : open->brand().sections) {
+    rows << sectionRow(section, brand.packageURL);
   }
   return rows;
 }

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "controls/lists/RecordListModel.h"
 #include "library/LibraryStore.h"
 #include "pictures/EmblemLook.h"
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
 namespace tarnloft {
@@ -11,7 +11,7 @@ namespace tarnloft {
 // The rows of the sidebar: the library's brands in its order, and behind the open one its sections.
 // Follows the library once per turn of the event loop, with the fewest signals that lead from the
 // old rows to the new ones.
-class SidebarModel : public QAbstractListModel {
+class SidebarModel : public RecordListModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("The sidebar has one")
@@ -67,10 +67,14 @@ class SidebarModel : public QAbstractListModel {
   void updated(bool isOtherSelected);
 
  private:
-  void scheduleUpdate();
+  // What may have changed since the rows were made.
+  enum class Stale { nothing, openBrand, all };
+
+  void scheduleUpdate(Stale stale);
   void update();
-  void apply(const QList<Row>& rows);
+  void updateOpenBrand();
   QList<Row> wantedRows() const;
+  QList<Row> rowsOf(const BrandSummary& brand) const;
   Row brandRow(const BrandSummary& brand) const;
   static Row sectionRow(const Section& section, const QString& package);
   EmblemLook lookOf(const Row& row) const;
@@ -78,7 +82,7 @@ class SidebarModel : public QAbstractListModel {
   LibraryStore& library_;
   ColorUtil::Appearance appearance_ = ColorUtil::Appearance::light;
   QList<Row> rows_;
-  bool updateScheduled_ = false;
+  Stale stale_ = Stale::nothing;
 };
 
 }  // namespace tarnloft

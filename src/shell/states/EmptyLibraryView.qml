@@ -47,7 +47,7 @@ Item {
                 symbol: "plus"
                 text: "New Brand"
                 kind: Button.Prominent
-                onClicked: root.content.showNewBrand = true
+                onClicked: root.content.askNewBrand()
             }
         }
     }
@@ -72,7 +72,7 @@ Item {
 
         WelcomeView {
             room: root.room
-            onCreateRequested: root.content.showNewBrand = true
+            onCreateRequested: root.content.askNewBrand()
             onImportRequested: root.content.commands.importBrand()
         }
     }

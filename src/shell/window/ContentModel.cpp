@@ -9,14 +9,14 @@
 #include <utility>
 
 namespace tarnloft {
-ContentModel::ContentModel(const LibraryServices& libraryServices,
-                           const WorkspaceServices& services, QObject* parent)
+
+ContentModel::ContentModel(const WorkspaceServices& services, QObject* parent)
     : QObject(parent),
       services_(services),
       library_(services.library),
       commands_(library_),
-      sidebar_(library_, libraryServices),
-      alerts_(library_),
+      sidebar_(library_, services.viewer, sheets_),
+      alerts_(library_, sheets_),
       selectedBrand_(library_.selection()),
       undoDocument_(library_.openDocument()) {
   library_.setHostUndoManager(&undo_);
@@ -62,18 +62,21 @@ QString ContentModel::title() const {
   return open ? open->brand().name + QStringLiteral(" — ") + program : program;
 }
 
-void ContentModel::setShowNewBrand(bool show) {
-  if (std::exchange(showNewBrand_, show) != show) emit showNewBrandChanged();
-}
-
-void ContentModel::setNewBrandName(const QString& name) {
-  if (std::exchange(newBrandName_, name) != name) emit newBrandNameChanged();
+void ContentModel::askNewBrand() {
+  if (newBrandSheet_) return;
+  newBrandSheet_ = sheets_.show(std::make_unique<NameSheet>(
+      NameSheet::Words{.title = QStringLiteral("New Brand"),
+                       .prompt = QStringLiteral("Brand name"),
+                       .confirmText = QStringLiteral("Create")},
+      newBrandName_, [this](const QString& name) { library_.createBrand(name); }));
+  connect(newBrandSheet_, &NameSheet::textChanged, this,
+          [this] { newBrandName_ = newBrandSheet_->text(); });
 }
 
 void ContentModel::answerRequest() {
   if (!library_.newBrandRequested()) return;
-  setShowNewBrand(true);
   library_.setNewBrandRequested(false);
+  askNewBrand();
 }
 
 QString ContentModel::toast() const { return inDesktopWords(toasts_.text()); }
@@ -82,8 +85,8 @@ void ContentModel::answerScrollRequest() {
   const std::optional<QUuid> id = library_.scrollToSection();
   if (!id || !library_.openDocument()) return;
   const QList<Section>& sections = library_.openDocument()->brand().sections;
-  const auto found = std::ranges::find(sections, *id, &Section::id);
-  if (found != sections.cend()) emit sectionRequested(int(found - sections.cbegin()));
+  const qsizetype index = indexOf(sections, *id);
+  if (index >= 0) emit sectionRequested(int(index));
   library_.setScrollToSection(std::nullopt);
 }
 
@@ -102,13 +105,23 @@ void ContentModel::renewWorkspace() {
   QTimer::singleShot(0, old.release(), &QObject::deleteLater);
 }
 
-std::unique_ptr<BrandWorkspace> ContentModel::makeWorkspace(BrandDocument& document) {
+void ContentModel::followFirstFrame() {
+  isFrameShown_ = true;
+  if (const BrandDocument* const open = library_.openDocument()) registerFonts(*open);
+}
+
+void ContentModel::registerFonts(const BrandDocument& document) {
   services_.imports.workers.start(
       [brand = document.brand(), package = document.files(), &fonts = services_.imports.fonts] {
         FontManager::registerAll(brand, package, fonts);
       });
+}
+
+std::unique_ptr<BrandWorkspace> ContentModel::makeWorkspace(BrandDocument& document) {
+  if (isFrameShown_) registerFonts(document);
   document.maybeAutoSnapshot();
-  return std::make_unique<BrandWorkspace>(document, selection_, toasts_, &undo_, services_);
+  return std::make_unique<BrandWorkspace>(
+      document, WindowParts{selection_, toasts_, sheets_, &undo_}, services_);
 }
 
 // Steps of a document that has gone would do nothing.

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "controls/sheets/NameSheet.h"
 #include "shell/alerts/Alerts.h"
 #include "shell/menus/ShellCommands.h"
-#include "shell/menus/StackUndoManager.h"
+#include "shell/menus/WindowUndo.h"
 #include "shell/sidebar/Sidebar.h"
 #include "workspace/BrandWorkspace.h"
 
@@ -15,19 +16,17 @@ class ContentModel : public QObject {
   QML_UNCREATABLE("Each window has one")
   Q_PROPERTY(tarnloft::ShellCommands* commands READ commands CONSTANT)
   Q_PROPERTY(tarnloft::Sidebar* sidebar READ sidebar CONSTANT)
-  Q_PROPERTY(tarnloft::StackUndoManager* undo READ undo CONSTANT)
+  Q_PROPERTY(tarnloft::WindowUndo* undo READ undo CONSTANT)
   Q_PROPERTY(tarnloft::Alerts* alerts READ alerts CONSTANT)
-  // A BrandWorkspace, or null while no brand is open. Not of that type for QML, because its module
-  // would be loaded with this one, before the first frame.
-  Q_PROPERTY(QObject* workspace READ workspace NOTIFY workspaceChanged)
+  // Null while no brand is open. Its module isn't among this one's imports, as it would be loaded
+  // with it, before the first frame: who uses the workspace imports it.
+  Q_PROPERTY(tarnloft::BrandWorkspace* workspace READ workspace NOTIFY workspaceChanged)
+  Q_PROPERTY(tarnloft::SheetHost* sheets READ sheets CONSTANT)
   Q_PROPERTY(tarnloft::Thumbnails* thumbnails READ thumbnails CONSTANT)
   // The text of the toast that is shown; empty for none.
   Q_PROPERTY(QString toast READ toast NOTIFY toastChanged)
   Q_PROPERTY(Detail detail READ detail NOTIFY detailChanged)
   Q_PROPERTY(QString title READ title NOTIFY titleChanged)
-  Q_PROPERTY(bool showNewBrand READ showsNewBrand WRITE setShowNewBrand NOTIFY showNewBrandChanged)
-  Q_PROPERTY(
-      QString newBrandName READ newBrandName WRITE setNewBrandName NOTIFY newBrandNameChanged)
 
  public:
   enum class Detail {
@@ -40,17 +39,19 @@ class ContentModel : public QObject {
   Q_ENUM(Detail)
 
   // Borrowed: all of the services outlive the content.
-  ContentModel(const LibraryServices& libraryServices, const WorkspaceServices& services,
-               QObject* parent = nullptr);
+  explicit ContentModel(const WorkspaceServices& services, QObject* parent = nullptr);
   ~ContentModel() override;
   Q_DISABLE_COPY_MOVE(ContentModel)
 
   ShellCommands* commands() { return &commands_; }
   Sidebar* sidebar() { return &sidebar_; }
-  StackUndoManager* undo() { return &undo_; }
+  WindowUndo* undo() { return &undo_; }
   Alerts* alerts() { return &alerts_; }
   TileSelection* selection() { return &selection_; }
   ToastCenter* toasts() { return &toasts_; }
+  // The window has shown a frame: the open brand's fonts come, each of which has all text laid out
+  // anew, and later brands bring theirs at once.
+  void followFirstFrame();
   // Another brand gets another one, on the next turn of the event loop.
   BrandWorkspace* workspace() const { return workspace_.get(); }
   Thumbnails* thumbnails() const { return &services_.thumbnails; }
@@ -60,12 +61,9 @@ class ContentModel : public QObject {
   // The window's, led by the open brand's name.
   QString title() const;
 
-  // Whether the new-brand sheet is up, and its text, which it keeps for its next opening.
-  bool showsNewBrand() const { return showNewBrand_; }
-  void setShowNewBrand(bool show);
-  const QString& newBrandName() const { return newBrandName_; }
-  void setNewBrandName(const QString& name);
-  Q_INVOKABLE void createBrand(const QString& name) { library_.createBrand(name); }
+  SheetHost* sheets() { return &sheets_; }
+  // Asks for a name, beginning with what was typed at its last opening, and makes a brand.
+  Q_INVOKABLE void askNewBrand();
 
  signals:
   void detailChanged();
@@ -74,8 +72,6 @@ class ContentModel : public QObject {
   // The page shall scroll to that section of the open brand.
   void sectionRequested(int index);
   void titleChanged();
-  void showNewBrandChanged();
-  void newBrandNameChanged();
 
  private:
   void answerRequest();
@@ -83,18 +79,21 @@ class ContentModel : public QObject {
   void followSelection();
   void renewWorkspace();
   void followDocument();
+  void registerFonts(const BrandDocument& document);
   std::unique_ptr<BrandWorkspace> makeWorkspace(BrandDocument& document);
 
   const WorkspaceServices services_;
   LibraryStore& library_;
-  StackUndoManager undo_;
+  WindowUndo undo_;
   TileSelection selection_;
   ToastCenter toasts_;
+  SheetHost sheets_;
   ShellCommands commands_;
   Sidebar sidebar_;
   Alerts alerts_;
   std::optional<QString> selectedBrand_;
-  bool showNewBrand_ = false;
+  bool isFrameShown_ = false;
+  QPointer<NameSheet> newBrandSheet_;  // while it is up
   QString newBrandName_;
   std::unique_ptr<BrandWorkspace> workspace_;
   QString workspacePackage_;              // where its paths lead

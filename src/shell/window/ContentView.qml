@@ -40,7 +40,7 @@ FocusScope {
                 late: root.late
                 onNewBrandRequested: {
                     root.content.sidebar.open = false;
-                    root.content.showNewBrand = true;
+                    root.content.askNewBrand();
                 }
             }
         }

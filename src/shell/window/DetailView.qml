@@ -13,7 +13,6 @@ FocusScope {
     required property ContentModel content
 
     readonly property Sidebar sidebar: content.sidebar
-    property bool addingSection: false
 
     // The keyboard goes on at the button that opened the sidebar.
     Connections {
@@ -85,7 +84,6 @@ FocusScope {
             anchors.topMargin: unsaved.height
             workspace: modelData
             headStart: unfold.active ? unfold.x + unfold.width + 6 : 0
-            onAddSectionRequested: root.addingSection = true
 
             Connections {
                 target: root.content
@@ -94,16 +92,6 @@ FocusScope {
                     page.showSection(index);
                 }
             }
-        }
-    }
-
-    LazySheet {
-        active: root.addingSection
-
-        RenameSheet {
-            title: "New Section"
-            onSave: name => (root.content.workspace as BrandWorkspace).addSection(name)
-            onClosed: root.addingSection = false
         }
     }
 }

@@ -33,7 +33,9 @@ QList<QRect> screenRooms() {
 // Those of the sidebar, while its views load.
 void loadFonts() {
   // First, because it registers its font.
-  loadFont(SymbolGlyphs::font(16, QFont::Normal), SymbolGlyphs::text(QStringLiteral("plus")));
+  for (const int size : {16, 14}) {
+    loadFont(SymbolGlyphs::font(size, QFont::Normal), SymbolGlyphs::text(QStringLiteral("plus")));
+  }
   for (const auto& [size, weight] : {std::pair(13, QFont::Normal),
                                      {12, QFont::Normal},
                                      {13, QFont::DemiBold},
@@ -45,13 +47,8 @@ void loadFonts() {
 
 }  // namespace
 
-MainWindow::MainWindow(QQmlEngine& engine, const LibraryServices& libraryServices,
-                       const WorkspaceServices& services, Preferences& state)
-    : engine_(engine),
-      libraryServices_(libraryServices),
-      services_(services),
-      state_(state),
-      lateViews_(&engine) {
+MainWindow::MainWindow(QQmlEngine& engine, const WorkspaceServices& services, Preferences& state)
+    : engine_(engine), services_(services), state_(state), lateViews_(&engine) {
   settled_.setSingleShot(true);
   settled_.setInterval(400);
   connect(&settled_, &QTimer::timeout, this, &MainWindow::remember);
@@ -80,7 +77,7 @@ bool MainWindow::open() {
 }
 
 bool MainWindow::make() {
-  auto content = std::make_unique<ContentModel>(libraryServices_, services_);
+  auto content = std::make_unique<ContentModel>(services_);
   loadFonts();
   QQmlComponent component(&engine_, url());
   const WindowState state = WindowState::read(state_).fitting(screenRooms());
@@ -96,6 +93,7 @@ bool MainWindow::make() {
   isShown_ = false;
   const auto shown = [this] {
     isShown_ = true;
+    if (content_) content_->followFirstFrame();
     if (lateViews_.isNull()) {
       lateViews_.loadUrl(viewURL("MainWindowLateViews.qml"), QQmlComponent::Asynchronous);
     }

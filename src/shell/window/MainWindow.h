@@ -18,8 +18,7 @@ class MainWindow : public QObject {
 
  public:
   // Borrowed: all outlive this. `state` holds what the window keeps.
-  MainWindow(QQmlEngine& engine, const LibraryServices& libraryServices,
-             const WorkspaceServices& services, Preferences& state);
+  MainWindow(QQmlEngine& engine, const WorkspaceServices& services, Preferences& state);
   ~MainWindow() override;
   Q_DISABLE_COPY_MOVE(MainWindow)
 
@@ -49,7 +48,6 @@ class MainWindow : public QObject {
   void close();
 
   QQmlEngine& engine_;
-  const LibraryServices libraryServices_;
   const WorkspaceServices services_;
   Preferences& state_;
   std::function<bool()> mayClose_ = [] { return true; };

@@ -12,11 +12,11 @@ DropTarget::DropTarget(QQuickItem* parent) : QQuickItem(parent) { setFlag(ItemAc
 
 bool DropTarget::takes(const QMimeData& data) const {
   if (!section_) return false;
-  const DropReader& drops = section_->workspace()->services().drops;
-  if (tile_) return drops.offers(data, ItemDrag::type);
+  const BrandWorkspace& workspace = *section_->workspace();
+  if (tile_) return workspace.offers(data, ItemDrag::type);
   const QStringList types{ItemDrag::type, DropType::fileURL, DropType::image};
   return std::any_of(types.begin(), types.end(),
-                     [&](const QString& type) { return drops.offers(data, type); });
+                     [&](const QString& type) { return workspace.offers(data, type); });
 }
 
 // What is dropped stays where it came from, so every drop is a copy to its source.

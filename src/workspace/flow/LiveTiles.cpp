@@ -19,11 +19,26 @@ void end(LiveTile& live) {
 
 }  // namespace
 
-bool LiveTile::isHeld() const { return tile->isDragged() || view->hasActiveFocus(); }
+bool LiveTile::isHeld() const {
+  return tile->isDragged() || tile->isMenuOpen() || view->hasActiveFocus();
+}
 
 LiveTile* LiveTiles::find(const QUuid& id) const {
   const auto found = live_.find(id);
   return found == live_.end() ? nullptr : found->second.get();
+}
+
+LiveTile* LiveTiles::follow(const Item& item) {
+  const auto entry = live_.find(item.id);
+  if (entry == live_.end()) return nullptr;
+  LiveTile* const live = entry->second.get();
+  if (live->tile->kind() != TileFacts::kind(item)) {
+    end(*live);
+    live_.erase(entry);
+    return nullptr;
+  }
+  live->tile->setItem(item);
+  return live;
 }
 
 LiveTile* LiveTiles::obtain(SectionModel& section, const Item& item, QQmlComponent& component,
@@ -74,12 +89,17 @@ std::unique_ptr<LiveTile> LiveTiles::make(SectionModel& section, const Item& ite
 
 LiveTiles::Map::iterator LiveTiles::release(Map::iterator entry) {
   auto live = std::move(entry->second);
+  entry = live_.erase(entry);
+  if (TileFacts::isBlock(live->tile->item())) {  // its editor keeps what it knows of its text
+    end(*live);
+    return entry;
+  }
   live->view->setVisible(false);
   live->index = -1;
   live->isPlaced = false;
   live->motion.settle(live->motion.target());
   waiting_.push_back(std::move(live));
-  return live_.erase(entry);
+  return entry;
 }
 
 void LiveTiles::trim(size_t most) {

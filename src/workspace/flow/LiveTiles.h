@@ -22,7 +22,7 @@ struct LiveTile {
   bool isWatched = false;  // the grid hears of its focus
   SpringMotion motion;
 
-  // It has the keyboard's focus or is being dragged, and so must not go.
+  // It has the keyboard's focus or an open menu, or is being dragged, and so must not go.
   bool isHeld() const;
 };
 
@@ -32,6 +32,8 @@ class LiveTiles {
   explicit LiveTiles(QQuickItem& parent) : parent_(parent) {}
 
   LiveTile* find(const QUuid& id) const;
+  // Gives the item's view its present value; null if it has none. A view of another kind ends.
+  LiveTile* follow(const Item& item);
   // The item's view: its own, one that waited, or a new one; null if none can be made.
   LiveTile* obtain(SectionModel& section, const Item& item, QQmlComponent& component,
                    const QSizeF& size);

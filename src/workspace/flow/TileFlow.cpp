@@ -59,7 +59,9 @@ std::optional<FlowLayout::Direction> directionOf(int key) {
 }  // namespace
 
 TileFlow::TileFlow(QQuickItem* parent)
-    : QQuickItem(parent), live_(*this), clock_(std::make_unique<Clock>(*this)) {}
+    : QQuickItem(parent), live_(*this), clock_(std::make_unique<Clock>(*this)) {
+  setAcceptedMouseButtons(Qt::RightButton);
+}
 
 TileFlow::~TileFlow() = default;
 
@@ -72,12 +74,13 @@ void TileFlow::setSection(SectionModel* section) {
   live_.clear();
   section_ = section;
   if (section_) watch(*section_->items());
-  itemsChanged();
+  itemsChanged(true);
   emit sectionChanged();
 }
 
 void TileFlow::watch(const ItemListModel& items) {
   connect(&items, &ItemListModel::updated, this, &TileFlow::itemsChanged);
+  connect(&items, &ItemListModel::dataChanged, this, &TileFlow::showChanged);
   connect(section_->workspace(), &BrandWorkspace::metricsChanged, this, &TileFlow::layoutChanged);
 }
 
@@ -110,11 +113,19 @@ void TileFlow::geometryChange(const QRectF& now, const QRectF& before) {
 }
 
 // The height follows at once, so that the page isn't lower for a moment and scrolls.
-void TileFlow::itemsChanged() {
-  areItemsStale_ = true;
+void TileFlow::itemsChanged(bool areOthers) {
+  areItemsStale_ = areItemsStale_ || areOthers;
   isMoving_ = animated_;
   setOut();
   polish();
+}
+
+void TileFlow::showChanged(const QModelIndex& first, const QModelIndex& last) {
+  for (int row = first.row(); row <= last.row(); ++row) {
+    const Item& item = section_->items()->items().at(row);
+    const bool hasView = live_.find(item.id);
+    if (hasView && !live_.follow(item)) areItemsStale_ = true;
+  }
 }
 
 void TileFlow::layoutChanged() {
@@ -173,10 +184,7 @@ void TileFlow::populate() {
     live_.forEach([](LiveTile& live) { live.index = -1; });
     int index = 0;
     for (const Item& item : items) {
-      if (LiveTile* live = live_.find(item.id)) {
-        live->index = index;
-        live->tile->setItem(item);
-      }
+      if (LiveTile* const live = live_.follow(item)) live->index = index;
       ++index;
     }
     if (focused >= 0 && focusedIndex() < 0) handOverFocus(focused);
@@ -288,8 +296,32 @@ int TileFlow::focusedIndex() const {
   return index;
 }
 
+// Here, for all tiles: an area for it over each would take a finger's taps.
+void TileFlow::mousePressEvent(QMouseEvent* event) {
+  const LiveTile* hit = nullptr;
+  live_.forEach([&](const LiveTile& live) {
+    if (live.view->contains(mapToItem(live.view, event->position()))) hit = &live;
+  });
+  event->setAccepted(hit && requestMenu(hit, mapToItem(hit->view, event->position())));
+}
+
+// Blocks have menus of their text.
+bool TileFlow::requestMenu(const LiveTile* live, const QPointF& at) {
+  if (!live || TileFacts::isBlock(live->tile->item())) return false;
+  live->view->forceActiveFocus(Qt::MouseFocusReason);
+  emit menuRequested(live->tile, live->view, at);
+  return true;
+}
+
 void TileFlow::keyPressEvent(QKeyEvent* event) {
   const int from = focusedIndex();
+  const bool isMenuKey = event->key() == Qt::Key_Menu ||
+                         (event->key() == Qt::Key_F10 && event->modifiers() & Qt::ShiftModifier);
+  if (isMenuKey && from >= 0) {
+    const LiveTile* const live = live_.find(section_->items()->items().at(from).id);
+    const QRectF rect = live ? live->view->boundingRect() : QRectF();
+    return event->setAccepted(requestMenu(live, rect.center()));
+  }
   const auto direction = directionOf(event->key());
   event->setAccepted(direction && from >= 0 && !layout_.isBlock(from));
   if (event->isAccepted()) focusTile(layout_.neighbour(from, *direction));

@@ -49,6 +49,8 @@ class TileFlow : public QQuickItem {
   void viewportChanged();
   void reachableChanged();
   void animatedChanged();
+  // A right click on a tile, or the menu key while it has the keyboard; `at` in the view.
+  void menuRequested(tarnloft::Tile* tile, QQuickItem* view, const QPointF& at);
   // What stands above the strip turned out to be higher by that much.
   void shifted(qreal by);
 
@@ -57,12 +59,14 @@ class TileFlow : public QQuickItem {
   void updatePolish() override;
   void geometryChange(const QRectF& now, const QRectF& before) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
 
  private:
   class Clock;
 
   void watch(const ItemListModel& items);
-  void itemsChanged();
+  void itemsChanged(bool areOthers);
+  void showChanged(const QModelIndex& first, const QModelIndex& last);
   void layoutChanged();
   void setOut();
   double blockHeight(int index) const;
@@ -79,6 +83,7 @@ class TileFlow : public QQuickItem {
   void focusTile(int index);
   void handOverFocus(int from);
   void focusMoved();
+  bool requestMenu(const LiveTile* live, const QPointF& at);
 
   SectionModel* section_ = nullptr;
   QQmlComponent* tile_ = nullptr;

@@ -6,8 +6,7 @@ import TarnLoft.Controls
 import TarnLoft.Workspace
 
 // The open brand as one scrolling page.
-//   BrandPage { anchors.fill: parent; workspace: window.workspace; onAddSectionRequested: … }
-// The window answers `addSectionRequested` by asking for a name and calling `workspace.addSection`.
+//   BrandPage { anchors.fill: parent; workspace: window.workspace }
 FocusScope {
     id: root
 
@@ -22,8 +21,6 @@ FocusScope {
     readonly property int widest: 1200 // of the content, so that tools stay near what they belong to
     readonly property real contentWidth: Math.min(width - 48, widest)
     readonly property real contentLeft: Math.round((width - contentWidth) / 2)
-
-    signal addSectionRequested
 
     // Whether nothing that a click could mean stands there.
     function isGround(at: point): bool {
@@ -159,7 +156,7 @@ FocusScope {
                     symbol: "plus"
                     kind: Button.Borderless
                     tint: Theme.secondaryLabel
-                    onClicked: root.addSectionRequested()
+                    onClicked: root.workspace.askNewSection()
                     onActiveFocusChanged: if (activeFocus) root.focusedSection = sections.count
                 }
             }

@@ -1,16 +1,16 @@
 #pragma once
 
+#include "controls/lists/RecordListModel.h"
 #include "model/SharedList.h"
 #include "workspace/tiles/TileFacts.h"
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
 namespace tarnloft {
 
 // The items of a section that are shown, in order. A new value shows as the fewest removals, moves,
 // insertions and changes, by id. Main thread.
-class ItemListModel : public QAbstractListModel {
+class ItemListModel : public RecordListModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Belongs to a section")
@@ -22,7 +22,7 @@ class ItemListModel : public QAbstractListModel {
     KindRole                // TileKind::Kind
   };
 
-  using QAbstractListModel::QAbstractListModel;
+  using RecordListModel::RecordListModel;
 
   const SharedList<Item>& items() const { return items_; }
   int count() const { return int(items_.size()); }
@@ -35,11 +35,11 @@ class ItemListModel : public QAbstractListModel {
 
  signals:
   void countChanged();
-  void updated();  // after all rows of a new value
+  // After all rows of a new list. Otherwise items may have changed where they stand, but are the
+  // same.
+  void updated(bool areOthers);
 
  private:
-  void apply(const struct ListChange& change, const SharedList<Item>& target);
-
   SharedList<Item> items_;
 };
 

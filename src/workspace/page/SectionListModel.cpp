@@ -1,6 +1,5 @@
 #include "workspace/page/SectionListModel.h"
 
-#include "model/ListDifference.h"
 #include "workspace/BrandWorkspace.h"
 
 #include <algorithm>
@@ -16,6 +15,32 @@ std::vector<QUuid> idsOf(const QList<Section>& sections) {
 
 }  // namespace
 
+struct SectionListModel::Rows {
+  SectionListModel& model;
+  const QList<Section>& target;
+
+  std::vector<std::unique_ptr<SectionModel>>& models = model.models_;
+  QList<SectionModel*> gone = {};
+
+  void remove(qsizetype from, qsizetype count) {
+    const auto first = models.begin() + from;
+    for (auto one = first; one != first + count; ++one) gone << one->release();
+    models.erase(first, first + count);
+  }
+  void move(qsizetype from, qsizetype to) {
+    auto moved = std::move(models[size_t(from)]);
+    models.erase(models.begin() + from);
+    models.insert(models.begin() + to, std::move(moved));
+  }
+  void insert(qsizetype to, qsizetype from, qsizetype count) {
+    for (qsizetype i = 0; i < count; ++i) {
+      models.insert(models.begin() + to + i,
+                    std::make_unique<SectionModel>(model.workspace_, target.at(from + i)));
+    }
+  }
+  void change(qsizetype /*to*/) {}
+};
+
 SectionListModel::~SectionListModel() = default;
 
 void SectionListModel::setSections(const QList<Section>& sections, const QString& searchText) {
@@ -23,51 +48,14 @@ void SectionListModel::setSections(const QList<Section>& sections, const QString
   for (const auto& model : models_) before.push_back(model->id());
   // What has changed in a section is its own model's business.
   const auto isSame = [](qsizetype, qsizetype) { return true; };
-  for (const ListChange& change : listDifference(before, idsOf(sections), isSame)) {
-    apply(change, sections);
-  }
+  Rows rows{*this, sections};
+  carryOut(listDifference(before, idsOf(sections), isSame), rows);
+  for (SectionModel* const gone : rows.gone)
+    gone->deleteLater();  // behind the views that show them
   for (qsizetype i = 0; i < sections.size(); ++i) {
     models_[size_t(i)]->setSection(sections.at(i), searchText);
     models_[size_t(i)]->setPlace(i, sections.size());
   }
-}
-
-void SectionListModel::apply(const ListChange& change, const QList<Section>& target) {
-  const int from = int(change.from), to = int(change.to), count = int(change.count);
-  switch (change.kind) {
-    case ListChange::Kind::remove: {
-      beginRemoveRows({}, from, from + count - 1);
-      const auto gone = take(from, count);
-      endRemoveRows();
-      for (SectionModel* model : gone) model->deleteLater();  // behind the views that show them
-      break;
-    }
-    case ListChange::Kind::move: {
-      beginMoveRows({}, from, from, {}, to > from ? to + 1 : to);
-      auto model = std::move(models_[size_t(from)]);
-      models_.erase(models_.begin() + from);
-      models_.insert(models_.begin() + to, std::move(model));
-      endMoveRows();
-      break;
-    }
-    case ListChange::Kind::insert:
-      beginInsertRows({}, to, to + count - 1);
-      for (int i = 0; i < count; ++i) {
-        models_.insert(models_.begin() + to + i,
-                       std::make_unique<SectionModel>(workspace_, target.at(from + i)));
-      }
-      endInsertRows();
-      break;
-    case ListChange::Kind::change: break;
-  }
-}
-
-QList<SectionModel*> SectionListModel::take(int row, int count) {
-  QList<SectionModel*> taken;
-  const auto first = models_.begin() + row;
-  for (auto model = first; model != first + count; ++model) taken << model->release();
-  models_.erase(first, first + count);
-  return taken;
 }
 
 int SectionListModel::rowCount(const QModelIndex& parent) const {

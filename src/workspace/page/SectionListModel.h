@@ -1,8 +1,7 @@
 #pragma once
 
+#include "controls/lists/RecordListModel.h"
 #include "workspace/page/SectionModel.h"
-
-#include <QAbstractListModel>
 
 #include <memory>
 #include <vector>
@@ -11,7 +10,7 @@ namespace tarnloft {
 
 // The sections of the open brand, in order. Each keeps its `SectionModel` for as long as it is in
 // the brand. Main thread.
-class SectionListModel : public QAbstractListModel {
+class SectionListModel : public RecordListModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Belongs to a workspace")
@@ -33,8 +32,7 @@ class SectionListModel : public QAbstractListModel {
   QHash<int, QByteArray> roleNames() const override;
 
  private:
-  void apply(const struct ListChange& change, const QList<Section>& target);
-  QList<SectionModel*> take(int row, int count);
+  struct Rows;
 
   BrandWorkspace& workspace_;
   std::vector<std::unique_ptr<SectionModel>> models_;

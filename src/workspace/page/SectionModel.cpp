@@ -10,7 +10,6 @@ namespace {
 
 const QString newColor = QStringLiteral("#4C6FFF");
 const QString sampleText = QStringLiteral("The quick brown fox");
-const QString tipShownKey = QStringLiteral("didShowEyedropperTip");
 
 bool holdsColors(const Section& section) {
   return std::any_of(section.items.begin(), section.items.end(), [](const Item& item) {
@@ -22,7 +21,7 @@ bool holdsColors(const Section& section) {
 
 SectionModel::SectionModel(BrandWorkspace& workspace, const Section& section)
     : QObject(&workspace), workspace_(workspace), section_(section) {
-  setSection(section, QString());
+  take(section, QString());
 }
 
 QList<QUuid> SectionModel::itemOrder() const {
@@ -37,11 +36,16 @@ EmblemLook SectionModel::emblem() const {
 }
 
 void SectionModel::setSection(const Section& section, const QString& searchText) {
+  if (section_ == section && searchText_ == searchText) return;
+  take(section, searchText);
+  emit changed();
+}
+
+void SectionModel::take(const Section& section, const QString& searchText) {
   section_ = section;
-  isSearched_ = !searchText.trimmed().isEmpty();
+  searchText_ = searchText;
   hasColors_ = holdsColors(section);
   items_.setItems(matching(section.items, searchText));
-  emit changed();
 }
 
 void SectionModel::setPlace(qsizetype place, qsizetype count) {
@@ -52,12 +56,15 @@ void SectionModel::setPlace(qsizetype place, qsizetype count) {
 }
 
 void SectionModel::rename(const QString& name) {
-  workspace_.editSection(id(), [&](Section& section) { section.name = name; });
+  if (BrandDocument* const document = workspace_.document()) {
+    document->editSection(id(), [&](Section& section) { section.name = name; });
+  }
 }
 
 void SectionModel::append(ItemPayload payload) {
-  const Item item = Item::create(std::move(payload));
-  workspace_.editSection(id(), [&](Section& section) { section.items.append(item); });
+  if (BrandDocument* const document = workspace_.document()) {
+    document->addItem(Item::create(std::move(payload)), id());
+  }
 }
 
 void SectionModel::addHeader() { append(HeaderPayload{QStringLiteral("Heading"), 1}); }
@@ -66,7 +73,7 @@ void SectionModel::addText() { append(TextPayload{QStringLiteral("Add a note…"
 
 void SectionModel::addColor() {
   append(ColorPayload{{newColor, std::nullopt, std::nullopt}});
-  workspace_.services().library.setActiveColorSectionID(id());
+  workspace_.collectColorsIn(id());
 }
 
 void SectionModel::addGradient() {
@@ -87,27 +94,7 @@ void SectionModel::addCode() {
 
 void SectionModel::addLogoSet() { append(LogoPayload{{QStringLiteral("Logo"), {}}}); }
 
-void SectionModel::pickColorFromScreen() {
-  workspace_.sampleColor([section = QPointer(this)](const QString& hex) {
-    if (section) section->addPicked(hex);
-  });
-}
-
-void SectionModel::addPicked(const QString& hex) {
-  const Item item = Item::create(ColorPayload{{hex, std::nullopt, std::nullopt}});
-  workspace_.mutateSection(QStringLiteral("Pick Color"), id(),
-                           [&](Section& section) { section.items.append(item); });
-  workspace_.services().library.setActiveColorSectionID(id());
-  showEyedropperTip();
-}
-
-void SectionModel::showEyedropperTip() {
-  Preferences& preferences = workspace_.services().preferences;
-  if (preferences.number(tipShownKey).value_or(0) != 0) return;
-  preferences.setNumber(tipShownKey, 1);
-  workspace_.toasts().show(
-      QStringLiteral("Tip: press ⌃⌘P to keep sampling — colors land in this section"));
-}
+void SectionModel::pickColorFromScreen() { workspace_.pickColor(id()); }
 
 void SectionModel::importImages() {
   workspace_.importChosen({QStringLiteral("image/*")}, DropImport::MediaKind::image, id());
@@ -137,6 +124,8 @@ void SectionModel::moveUp() { workspace_.moveSection(id(), -1); }
 
 void SectionModel::moveDown() { workspace_.moveSection(id(), 1); }
 
-void SectionModel::remove() { workspace_.deleteSection(id()); }
+void SectionModel::remove() {
+  if (BrandDocument* const document = workspace_.document()) document->removeSection(id());
+}
 
 }  // namespace tarnloft

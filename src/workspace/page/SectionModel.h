@@ -41,7 +41,7 @@ class SectionModel : public QObject {
   QString name() const { return section_.name; }
   EmblemLook emblem() const;
   bool isEmpty() const { return section_.items.isEmpty(); }
-  bool isShown() const { return items_.count() > 0 || !isSearched_; }
+  bool isShown() const { return items_.count() > 0 || searchText_.trimmed().isEmpty(); }
   bool hasColors() const { return hasColors_; }
   bool canMoveUp() const { return place_ > 0; }
   bool canMoveDown() const { return place_ < last_; }
@@ -80,14 +80,13 @@ class SectionModel : public QObject {
   void placeChanged();
 
  private:
+  void take(const Section& section, const QString& searchText);
   void append(ItemPayload payload);
-  void addPicked(const QString& hex);
-  void showEyedropperTip();
 
   BrandWorkspace& workspace_;
   Section section_;
   ItemListModel items_;
-  bool isSearched_ = false;
+  QString searchText_;
   bool hasColors_ = false;
   qsizetype place_ = 0;
   qsizetype last_ = 0;

@@ -93,9 +93,16 @@ FocusScope {
             tile: TileContainer {}
             block: BlockItemView {}
             onShifted: by => root.shifted(by)
+            onMenuRequested: (tile, view, at) => (tileMenu.createObject(view, {tile: tile}) as TileMenu).popup(view, at.x, at.y)
 
             Accessible.role: Accessible.List
             Accessible.name: root.Accessible.name
         }
+    }
+
+    Component {
+        id: tileMenu
+
+        TileMenu {}
     }
 }

@@ -7,14 +7,6 @@
 namespace tarnloft {
 namespace {
 
-// By id; null if there is none.
-template <class Sections>
-auto* sectionOf(Sections& sections, const std::optional<QUuid>& id) {
-  const auto found = std::find_if(sections.begin(), sections.end(),
-                                  [&](const Section& section) { return section.id == id; });
-  return found == sections.end() ? nullptr : &*found;
-}
-
 bool isImage(const Item& item) { return std::holds_alternative<ImagePayload>(item.payload); }
 
 bool isTile(const Item& item) {
@@ -63,7 +55,8 @@ LogoValue logoOf(const QList<Item>& images) {
 }  // namespace
 
 const Section* GroupOperations::selectedSection() const {
-  return sectionOf(document_.brand().sections, selection_.sectionID());
+  const auto& id = selection_.sectionID();
+  return id ? find(document_.brand().sections, *id) : nullptr;
 }
 
 template <class Test>
@@ -78,9 +71,9 @@ qsizetype GroupOperations::count(Test&& test) const {
 template <class Change>
 void GroupOperations::mutate(const QString& actionName, Change&& change) {
   document_.mutate(actionName, undoManager_, [&](Brand& brand) {
-    if (Section* section = sectionOf(brand.sections, selection_.sectionID())) {
-      change(brand, *section);
-    }
+    const auto& id = selection_.sectionID();
+    const qsizetype index = id ? indexOf(brand.sections, *id) : -1;
+    if (index >= 0) change(brand, brand.sections[index]);
   });
   selection_.clear();
 }
@@ -140,11 +133,12 @@ void GroupOperations::bulkDuplicate() {
 
 void GroupOperations::bulkMove(const QUuid& target) {
   mutate(QStringLiteral("Move"), [&](Brand& brand, Section& section) {
-    Section* receiver = sectionOf(brand.sections, target);
-    if (!receiver) return;
+    const qsizetype receiver = indexOf(brand.sections, target);
+    if (receiver < 0) return;
     const auto selected =
         places(section.items, [&](const Item& item) { return selection_.ids().contains(item.id); });
-    for (const Item& item : taken(section.items, selected)) receiver->items.append(item);
+    for (const Item& item : taken(section.items, selected))
+      brand.sections[receiver].items.append(item);
   });
 }
 

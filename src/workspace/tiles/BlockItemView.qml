@@ -145,7 +145,7 @@ FocusScope {
             symbol: "xmark.circle.fill"
             help: root.isHeading ? "Delete heading" : "Delete text"
             tint: Theme.secondaryLabel
-            onClicked: root.tile.remove()
+            onClicked: root.tile.block.remove()
         }
     }
 
@@ -154,10 +154,10 @@ FocusScope {
 
         LineField {
             placeholderText: "Heading"
-            text: root.tile.text
-            font: root.tile.level === 1 ? Theme.font(17, Font.Bold)
-                : root.tile.level === 2 ? Theme.font(15, Font.DemiBold) : Theme.headline
-            onTextEdited: root.tile.setText(text)
+            text: root.tile.block.text
+            font: root.tile.block.level === 1 ? Theme.font(17, Font.Bold)
+                : root.tile.block.level === 2 ? Theme.font(15, Font.DemiBold) : Theme.headline
+            onTextEdited: root.tile.block.setText(text)
             Accessible.selectable: true
             Accessible.selected: root.tile.selected
         }
@@ -168,9 +168,9 @@ FocusScope {
 
         TextArea {
             placeholderText: "Text"
-            text: root.tile.text
+            text: root.tile.block.text
             color: Theme.secondaryLabel
-            onEdited: root.tile.setText(text)
+            onEdited: root.tile.block.setText(text)
             Accessible.selectable: true
             Accessible.selected: root.tile.selected
         }

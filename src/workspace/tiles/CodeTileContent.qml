@@ -8,7 +8,7 @@ import TarnLoft.Workspace
 Item {
     id: root
 
-    required property Tile tile
+    required property CodeFacet code
 
     Item {
         id: lines
@@ -25,7 +25,7 @@ Item {
 
         Text {
             width: parent.width
-            text: root.tile.snippet
+            text: root.code.beginning
             wrapMode: Text.Wrap
             maximumLineCount: Math.max(1, Math.floor(lines.height / metrics.lineSpacing)) // whole ones
             font: metrics.font

@@ -8,7 +8,7 @@ import TarnLoft.Workspace
 Item {
     id: root
 
-    required property Tile tile
+    required property ColorFacet swatch
     property bool hovering: false
 
     LazyItem {
@@ -29,7 +29,7 @@ Item {
                 name: "doc.on.doc"
                 size: 10
                 weight: Font.DemiBold
-                color: root.tile.ink || Theme.primary
+                color: root.swatch.ink || Theme.primary
                 opacity: 0.9
             }
         }

@@ -8,7 +8,7 @@ import TarnLoft.Workspace
 Item {
     id: root
 
-    required property Tile tile
+    required property FontFacet face
 
     Column {
         anchors.centerIn: parent
@@ -18,7 +18,7 @@ Item {
         Text {
             anchors.horizontalCenter: parent.horizontalCenter
             text: "Ag"
-            font.family: root.tile.fontFamily
+            font.family: root.face.family
             font.pixelSize: 34
             color: Theme.label
             textFormat: Text.PlainText
@@ -28,7 +28,7 @@ Item {
         Label {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
-            text: root.tile.fontFamily
+            text: root.face.family
             font: Theme.font(9)
             color: Theme.secondaryLabel
             Accessible.ignored: true

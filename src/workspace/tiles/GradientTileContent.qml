@@ -7,8 +7,8 @@ import TarnLoft.Workspace
 
 // A gradient that fills the card.
 GradientView {
-    required property Tile tile
+    required property GradientFacet facet
 
-    gradient: tile.gradient
+    gradient: facet.look
     radius: Theme.cardRadius
 }

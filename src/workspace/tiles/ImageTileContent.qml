@@ -9,18 +9,19 @@ import TarnLoft.Workspace
 Item {
     id: root
 
-    required property Tile tile
+    required property PictureFacet facet
+    required property Thumbnails thumbnails
 
-    readonly property bool failed: tile.hasPicture && (tile.path === "" || picture.state === ThumbnailView.Failed)
-    readonly property bool loading: tile.path !== "" && picture.state === ThumbnailView.Loading
+    readonly property bool failed: facet.present && (facet.path === "" || picture.state === ThumbnailView.Failed)
+    readonly property bool loading: facet.path !== "" && picture.state === ThumbnailView.Loading
 
     // Marks stand on the backdrop, which is the theme's own only where none was chosen.
-    readonly property bool themed: tile.backdrop === TileKind.Window
-    readonly property color ink: tile.backdrop === TileKind.Dark ? "white" : "black"
+    readonly property bool themed: facet.backdrop === TileKind.Window
+    readonly property color ink: facet.backdrop === TileKind.Dark ? "white" : "black"
 
     LazyItem {
         anchors.fill: parent
-        active: root.tile.backdrop === TileKind.Checkerboard
+        active: root.facet.backdrop === TileKind.Checkerboard
         sourceComponent: CheckerboardView {}
     }
 
@@ -29,15 +30,15 @@ Item {
 
         anchors.fill: parent
         anchors.margins: 4
-        thumbnails: root.tile.workspace.thumbnails
-        path: root.tile.path
+        thumbnails: root.thumbnails
+        path: root.facet.path
     }
 
     LazyItem {
         anchors.centerIn: parent
-        active: root.loading || !root.tile.hasPicture
+        active: root.loading || !root.facet.present
         sourceComponent: Symbol {
-            name: root.tile.hasPicture ? "photo" : "square.stack.3d.up"
+            name: root.facet.present ? "photo" : "square.stack.3d.up"
             size: 20
             color: root.themed ? Theme.quaternaryLabel : Theme.thin(root.ink, 0.3)
         }
@@ -47,7 +48,7 @@ Item {
         anchors.fill: parent
         active: root.failed
         sourceComponent: FailedPicture {
-            help: root.tile.failureHelp
+            help: root.facet.failureHelp
             color: root.themed ? Theme.secondaryLabel : Theme.thin(root.ink, 0.8)
         }
     }

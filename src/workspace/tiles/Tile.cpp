@@ -1,6 +1,5 @@
 #include "workspace/tiles/Tile.h"
 
-#include "pictures/HexColor.h"
 #include "workspace/BrandWorkspace.h"
 #include "workspace/dragging/TilePicture.h"
 
@@ -10,31 +9,8 @@
 #include <QPointingDevice>
 #include <QQuickWindow>
 
-#include <algorithm>
-
 namespace tarnloft {
 namespace {
-
-// The value of one kind; null for another.
-template <class Payload>
-const auto* valueOf(const Item& item) {
-  const auto* payload = std::get_if<Payload>(&item.payload);
-  return payload ? &payload->value : nullptr;
-}
-
-qsizetype placeOf(const Section& section, const QUuid& item) {
-  qsizetype place = 0;
-  for (const Item& one : section.items) {
-    if (one.id == item) return place;
-    ++place;
-  }
-  return -1;
-}
-
-void writeText(Item& item, const QString& text) {
-  if (auto* header = std::get_if<HeaderPayload>(&item.payload)) header->text = text;
-  if (auto* block = std::get_if<TextPayload>(&item.payload)) block->body = text;
-}
 
 // On Wayland the window system's drag takes the release away, without which its handler would go on
 // at the next press, wherever that is.
@@ -51,7 +27,8 @@ void endPress(QQuickWindow& window) {
 
 }  // namespace
 
-Tile::Tile(SectionModel& section, const Item& item) : section_(section), item_(item) {
+Tile::Tile(SectionModel& section, const Item& item)
+    : section_(section), item_(item), facet_(TileFacet::make(*this)) {
   connect(&workspace()->selection(), &TileSelection::idsChanged, this, &Tile::selectionChanged);
   connect(&workspace()->selection(), &TileSelection::sectionIDChanged, this,
           &Tile::selectionChanged);
@@ -59,65 +36,12 @@ Tile::Tile(SectionModel& section, const Item& item) : section_(section), item_(i
 
 void Tile::setItem(const Item& item) {
   if (item_ == item) return;
+  Q_ASSERT(item.payload.index() == item_.payload.index());
   const bool isOther = item_.id != item.id;
   item_ = item;
   emit changed();
+  emit facet_->changed();
   if (isOther) emit selectionChanged();
-}
-
-QColor Tile::color() const {
-  const auto* value = valueOf<ColorPayload>(item_);
-  return value ? shownColor(value->hex) : QColor();
-}
-
-QString Tile::ink() const {
-  const auto* value = valueOf<ColorPayload>(item_);
-  switch (value ? ColorUtil::contrastingText(value->hex) : TextColor::primary) {
-    case TextColor::black: return QStringLiteral("black");
-    case TextColor::white: return QStringLiteral("white");
-    case TextColor::primary: break;
-  }
-  return {};
-}
-
-GradientLook Tile::gradient() const {
-  const auto* value = valueOf<GradientPayload>(item_);
-  return value ? GradientLook{*value} : GradientLook();
-}
-
-QString Tile::path() const {
-  const bool isClip = kind() == TileKind::Kind::Video;
-  const auto asset = isClip ? item_.exportableAsset() : TileFacts::picture(item_);
-  return asset ? workspace()->assetPath(*asset) : QString();
-}
-
-QString Tile::failureHelp() const {
-  const auto name = TileFacts::pictureName(item_);
-  if (!name) {
-    return QStringLiteral("Couldn't load this image — the file may be corrupt. Re-import it.");
-  }
-  return QStringLiteral("Couldn't load “%1” — the file may be corrupt. Re-import it.").arg(*name);
-}
-
-QString Tile::fontFamily() const {
-  const auto* value = valueOf<FontPayload>(item_);
-  return value ? value->family : QString();
-}
-
-QString Tile::snippet() const {
-  constexpr qsizetype mostShown = 1500;  // laying out a whole file would hold up the window
-  const auto* value = valueOf<CodePayload>(item_);
-  return value ? value->snippet.left(mostShown) : QString();
-}
-
-int Tile::variantCount() const {
-  const auto* value = valueOf<LogoPayload>(item_);
-  return value ? int(value->variants.size()) : 0;
-}
-
-int Tile::level() const {
-  const auto* header = std::get_if<HeaderPayload>(&item_.payload);
-  return header ? int(std::clamp<qint64>(header->level, 0, 9)) : 0;
 }
 
 bool Tile::isSelected() const { return workspace()->selection().contains(item_.id, section_.id()); }
@@ -133,7 +57,7 @@ void Tile::click(int modifiers) {
     return selection.extend(item_.id, section_.id(), section_.itemOrder());
   }
   selection.clear();
-  if (const auto* value = valueOf<ColorPayload>(item_)) workspace()->copyColor(value->hex);
+  facet_->clicked();
 }
 
 void Tile::toggleSelected() { workspace()->selection().toggle(item_.id, section_.id()); }
@@ -155,22 +79,6 @@ void Tile::setDragged(bool dragged) {
   emit draggedChanged();
 }
 
-void Tile::setText(const QString& text) {
-  if (text == this->text()) return;
-  const QUuid id = item_.id;
-  workspace()->editSection(section_.id(), [&](Section& section) {
-    const qsizetype place = placeOf(section, id);
-    if (place >= 0) writeText(section.items[place], text);
-  });
-}
-
-void Tile::remove() {
-  const QUuid id = item_.id;
-  workspace()->editSection(section_.id(), [&](Section& section) {
-    for (qsizetype place = placeOf(section, id); place >= 0; place = placeOf(section, id)) {
-      (void)section.items.takeAt(place);
-    }
-  });
-}
+void Tile::editNotes() { workspace()->editNotes(item_.id); }
 
 }  // namespace tarnloft

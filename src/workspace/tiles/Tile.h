@@ -1,7 +1,13 @@
 #pragma once
 
-#include "pictures/GradientView.h"
 #include "workspace/page/SectionModel.h"
+#include "workspace/tiles/facets/BlockFacet.h"
+#include "workspace/tiles/facets/ClipFacet.h"
+#include "workspace/tiles/facets/CodeFacet.h"
+#include "workspace/tiles/facets/ColorFacet.h"
+#include "workspace/tiles/facets/FontFacet.h"
+#include "workspace/tiles/facets/GradientFacet.h"
+#include "workspace/tiles/facets/LogoFacet.h"
 
 #include <QImage>
 #include <QPointF>
@@ -11,46 +17,42 @@ class QQuickItem;
 
 namespace tarnloft {
 
-// One item on screen, a tile or a block of text: what its view shows and what its view does. A view
-// that scrolls out of sight is given another item. Main thread.
+// One item on screen, a tile or a block of text: what every view shows and does, and in its facet
+// what those of its kind do. A view that scrolls out of sight is given another item of its kind.
+// Main thread.
 class Tile : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the grid")
   Q_PROPERTY(tarnloft::BrandWorkspace* workspace READ workspace CONSTANT)
   Q_PROPERTY(tarnloft::SectionModel* section READ section CONSTANT)
-  Q_PROPERTY(tarnloft::TileKind::Kind kind READ kind NOTIFY changed)
+  Q_PROPERTY(tarnloft::TileKind::Kind kind READ kind CONSTANT)
   Q_PROPERTY(QString name READ name NOTIFY changed)
   Q_PROPERTY(QString subcaption READ subcaption NOTIFY changed)
   Q_PROPERTY(QString help READ help NOTIFY changed)
   Q_PROPERTY(QString description READ description NOTIFY changed)
   Q_PROPERTY(bool hasNotes READ hasNotes NOTIFY changed)
-  // Of a colour; gray for one that doesn't parse.
-  Q_PROPERTY(QColor color READ color NOTIFY changed)
-  // What is put on that colour: black, white, or empty for the interface's own.
-  Q_PROPERTY(QString ink READ ink NOTIFY changed)
-  Q_PROPERTY(tarnloft::GradientLook gradient READ gradient NOTIFY changed)
-  // Of an image, a logo set's primary variant or a clip; empty if there is none, and for one that
-  // leads out of the package.
-  Q_PROPERTY(QString path READ path NOTIFY changed)
-  // It is an image or a logo set with a file.
-  Q_PROPERTY(bool hasPicture READ hasPicture NOTIFY changed)
-  Q_PROPERTY(int variantCount READ variantCount NOTIFY changed)  // of a logo set
-  Q_PROPERTY(tarnloft::TileKind::Backdrop backdrop READ backdrop NOTIFY changed)
-  Q_PROPERTY(QString failureHelp READ failureHelp NOTIFY changed)
-  Q_PROPERTY(QString fontFamily READ fontFamily NOTIFY changed)
-  Q_PROPERTY(QString snippet READ snippet NOTIFY changed)  // no more of it than a card can show
-  Q_PROPERTY(QString text READ text NOTIFY changed)        // of a block
-  Q_PROPERTY(int level READ level NOTIFY changed)          // of a heading
+  Q_PROPERTY(QString notesText READ notesText NOTIFY changed)  // of the menu's entry
   Q_PROPERTY(bool selected READ isSelected NOTIFY selectionChanged)
   Q_PROPERTY(bool sectionSelected READ isSectionSelected NOTIFY selectionChanged)
   Q_PROPERTY(bool dragged READ isDragged NOTIFY draggedChanged)
+  Q_PROPERTY(bool menuOpen MEMBER isMenuOpen_ NOTIFY menuOpenChanged)
+  // The facet of its kind; the others are null. That of a logo set is a picture's too.
+  Q_PROPERTY(tarnloft::BlockFacet* block READ block CONSTANT)
+  Q_PROPERTY(tarnloft::ColorFacet* swatch READ swatch CONSTANT)
+  Q_PROPERTY(tarnloft::GradientFacet* gradient READ gradient CONSTANT)
+  Q_PROPERTY(tarnloft::PictureFacet* picture READ picture CONSTANT)
+  Q_PROPERTY(tarnloft::LogoFacet* logo READ logo CONSTANT)
+  Q_PROPERTY(tarnloft::ClipFacet* clip READ clip CONSTANT)
+  Q_PROPERTY(tarnloft::FontFacet* font READ font CONSTANT)
+  Q_PROPERTY(tarnloft::CodeFacet* code READ code CONSTANT)
 
  public:
   // The section and its workspace outlive it.
   Tile(SectionModel& section, const Item& item);
 
   const Item& item() const { return item_; }
+  // Of the same kind.
   void setItem(const Item& item);
 
   BrandWorkspace* workspace() const { return section_.workspace(); }
@@ -61,20 +63,17 @@ class Tile : public QObject {
   QString help() const { return TileFacts::helpText(item_); }
   QString description() const { return TileFacts::accessibilityDescription(item_); }
   bool hasNotes() const { return !item_.usageNotes().isEmpty(); }
-  QColor color() const;
-  QString ink() const;
-  GradientLook gradient() const;
-  QString path() const;
-  bool hasPicture() const { return TileFacts::picture(item_).has_value(); }
-  int variantCount() const;
-  TileKind::Backdrop backdrop() const { return TileFacts::backdrop(item_); }
-  QString failureHelp() const;
-  QString fontFamily() const;
-  QString snippet() const;
-  QString text() const { return item_.displayName(); }
-  int level() const;
+  QString notesText() const { return TileFacts::notesText(item_); }
   bool isSelected() const;
   bool isSectionSelected() const;
+  BlockFacet* block() const { return facet<BlockFacet>(); }
+  ColorFacet* swatch() const { return facet<ColorFacet>(); }
+  GradientFacet* gradient() const { return facet<GradientFacet>(); }
+  PictureFacet* picture() const { return facet<PictureFacet>(); }
+  LogoFacet* logo() const { return facet<LogoFacet>(); }
+  ClipFacet* clip() const { return facet<ClipFacet>(); }
+  FontFacet* font() const { return facet<FontFacet>(); }
+  CodeFacet* code() const { return facet<CodeFacet>(); }
 
   // A click with those keys held down.
   Q_INVOKABLE void click(int modifiers = Qt::NoModifier);
@@ -83,22 +82,29 @@ class Tile : public QObject {
   // and beside the pointer, so that the place of the drop is seen. Returns when the drag has ended.
   Q_INVOKABLE void drag(QQuickItem* view, const QImage& grabbed = {}, qreal radius = 0);
   bool isDragged() const { return isDragged_; }
+  bool isMenuOpen() const { return isMenuOpen_; }
 
-  // --- Of a block
-  Q_INVOKABLE void setText(const QString& text);
-  Q_INVOKABLE void remove();
+  // Opens the sheet of its rules for use.
+  Q_INVOKABLE void editNotes();
 
  signals:
   void changed();
   void selectionChanged();
   void draggedChanged();
+  void menuOpenChanged();
 
  private:
+  template <class Facet>
+  Facet* facet() const {
+    return qobject_cast<Facet*>(facet_.get());
+  }
   void setDragged(bool dragged);
 
   SectionModel& section_;
   Item item_;
+  const std::unique_ptr<TileFacet> facet_;
   bool isDragged_ = false;
+  bool isMenuOpen_ = false;
 };
 
 }  // namespace tarnloft

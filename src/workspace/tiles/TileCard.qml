@@ -16,9 +16,9 @@ Card {
 
     readonly property bool hovering: hover.hovered && !resting
     readonly property bool failed: (content.item as ImageTileContent)?.failed ?? false
-    readonly property string help: failed ? tile.failureHelp : tile.help
+    readonly property string help: failed ? tile.picture.failureHelp : tile.help
     readonly property color backdrop: {
-        switch (tile.backdrop) {
+        switch (tile.picture?.backdrop) {
         case TileKind.White:
             return "white";
         case TileKind.Dark:
@@ -33,7 +33,7 @@ Card {
     color: {
         switch (tile.kind) {
         case TileKind.Color:
-            return tile.color;
+            return tile.swatch.color;
         case TileKind.Gradient:
             return "transparent";
         case TileKind.Video:
@@ -68,12 +68,12 @@ Card {
         }
     }
 
-    Component { id: color; ColorTileContent { tile: root.tile; hovering: root.hovering } }
-    Component { id: gradient; GradientTileContent { tile: root.tile } }
-    Component { id: image; ImageTileContent { tile: root.tile } }
-    Component { id: video; VideoTileContent { tile: root.tile } }
-    Component { id: font; FontTileContent { tile: root.tile } }
-    Component { id: code; CodeTileContent { tile: root.tile } }
+    Component { id: color; ColorTileContent { swatch: root.tile.swatch; hovering: root.hovering } }
+    Component { id: gradient; GradientTileContent { facet: root.tile.gradient } }
+    Component { id: image; ImageTileContent { facet: root.tile.picture; thumbnails: root.tile.workspace.thumbnails } }
+    Component { id: video; VideoTileContent { clip: root.tile.clip; posters: root.tile.workspace.posters } }
+    Component { id: font; FontTileContent { face: root.tile.font } }
+    Component { id: code; CodeTileContent { code: root.tile.code } }
 
     HoverHandler {
         id: hover
@@ -94,10 +94,10 @@ Card {
         anchors.right: parent.right
         anchors.bottom: parent.bottom
         anchors.margins: 5
-        active: root.tile.variantCount > 1
+        active: (root.tile.logo?.variantCount ?? 0) > 1
         sourceComponent: Badge {
             symbol: "square.stack.3d.up.fill"
-            text: root.tile.variantCount
+            text: root.tile.logo.variantCount
             kind: Badge.Dark
             font: Theme.font(10, Font.Bold)
             Accessible.ignored: true // the tile's own description counts them

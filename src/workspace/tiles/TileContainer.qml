@@ -12,7 +12,7 @@ Item {
 
     readonly property bool focused: activeFocus && FocusOrigin.keyboard
     readonly property bool dragged: drag.carries || tile.dragged
-    readonly property bool hovering: hover.hovered && !dragged
+    readonly property bool hovering: (hover.hovered || tile.menuOpen) && !dragged
 
     opacity: tile.dragged ? 0.45 : 1
 

@@ -66,6 +66,12 @@ bool hasSubcaption(const Item& item) {
       item.payload);
 }
 
+QString notesText(const Item& item) {
+  const qsizetype count = item.usageNotes().size();
+  const QString text = QStringLiteral("Usage & Notes…");
+  return count == 0 ? text : text + QStringLiteral(" (%1)").arg(count);
+}
+
 QString helpText(const Item& item) {
   if (const auto* color = std::get_if<ColorPayload>(&item.payload)) {
     return QStringLiteral("Click to copy ") + color->value.hex.toUpper();

@@ -33,6 +33,9 @@ std::optional<QString> subcaption(const Item& item);
 // The same question, cheap enough to be asked of every item of a section.
 bool hasSubcaption(const Item& item);
 
+// The menu's entry for its rules, which counts them.
+QString notesText(const Item& item);
+
 // What a click or a drag of the tile does; empty for none.
 QString helpText(const Item& item);
 // For assistive technology, such as "Color, Brand Blue, hex #123456".

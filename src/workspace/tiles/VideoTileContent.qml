@@ -9,12 +9,13 @@ import TarnLoft.Workspace
 Item {
     id: root
 
-    required property Tile tile
+    required property ClipFacet clip
+    required property Posters posters
 
     PosterView {
         anchors.fill: parent
-        posters: root.tile.workspace.posters
-        path: root.tile.path
+        posters: root.posters
+        path: root.clip.path
         fillMode: PosterView.Fill
         radius: Theme.cardRadius
     }

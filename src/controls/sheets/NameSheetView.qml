@@ -1,0 +1,56 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Controls
+
+// Asks for one name.
+Sheet {
+    id: root
+
+    required property NameSheet model
+
+    accessibleName: model.title
+    defaultButton: confirm
+    cancelButton: cancel
+    onAboutToShow: field.selectAll()
+
+    Column {
+        spacing: 14
+
+        Label {
+            text: root.model.title
+            font: Theme.headline
+        }
+
+        TextField {
+            id: field
+
+            width: 280
+            focus: true
+            placeholderText: root.model.prompt
+            text: root.model.text
+            onTextEdited: root.model.text = text
+        }
+
+        Row {
+            anchors.right: parent.right
+            spacing: 8
+
+            Button {
+                id: cancel
+
+                text: "Cancel"
+                onClicked: root.close()
+            }
+
+            Button {
+                id: confirm
+
+                text: root.model.confirmText
+                kind: Button.Prominent
+                enabled: root.model.confirmable
+                onClicked: root.model.confirm()
+            }
+        }
+    }
+}

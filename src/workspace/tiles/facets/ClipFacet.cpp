@@ -1,0 +1,9 @@
+#include "workspace/tiles/facets/ClipFacet.h"
+
+#include "workspace/BrandWorkspace.h"
+
+namespace tarnloft {
+
+QString ClipFacet::path() const { return workspace().assetPath(payload<VideoPayload>().asset); }
+
+}  // namespace tarnloft

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "workspace/tiles/facets/TileFacet.h"
+
+namespace tarnloft {
+
+class CodeFacet : public TileFacet {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("Belongs to a tile")
+  // No more of it than a card can show, as laying out a whole file would hold up the window.
+  Q_PROPERTY(QString beginning READ beginning NOTIFY changed)
+
+ public:
+  using TileFacet::TileFacet;
+
+  QString beginning() const {
+    constexpr qsizetype mostShown = 1500;
+    return payload<CodePayload>().value.snippet.left(mostShown);
+  }
+};
+
+}  // namespace tarnloft
