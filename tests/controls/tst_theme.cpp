@@ -91,8 +91,9 @@ class TestTheme : public QObject {
   void springsObeyTheirEquation() {
     for (const Spring& spring : springs) {
       const double w = 2 * M_PI / spring.response, step = 1e-5;
+      const double end = spring.settlingTime();
       double position = 0, rate = 0;
-      for (int i = 1; i * step < spring.settlingTime(); ++i) {
+      for (int i = 1; i * step < end; ++i) {
         rate += step * (w * w * (1 - position) - 2 * spring.dampingFraction * w * rate);
         position += step * rate;
         if (i % 1000 != 0) continue;

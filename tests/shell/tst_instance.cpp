@@ -128,8 +128,9 @@ class TestInstance : public QObject {
 
   // It goes on as soon as it is asked to end, and its answers don't count any more.
   void endsOneThatDoesNotAnswer() {
-    const Cases<QStringList, int> cases{{"as it is asked to", QStringList(), SIGTERM},
-                                        {"by force", QStringList({"10000", "deaf"}), SIGKILL}};
+    const tarnloft::Cases<QStringList, int> cases{
+        {"as it is asked to", QStringList(), SIGTERM},
+        {"by force", QStringList({"10000", "deaf"}), SIGKILL}};
     cases.check([&](const QStringList& words, int signal) {
       Starts starts;
       QProcess& first = starts.start(words);
