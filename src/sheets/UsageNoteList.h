@@ -8,7 +8,7 @@
 namespace tarnloft {
 
 // An item's rules, in their order. Main thread.
-class UsageNoteList : public RecordListModel {
+class UsageNoteList : public tarnloft::RecordListModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Belongs to a sheet")

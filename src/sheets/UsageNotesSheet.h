@@ -8,7 +8,7 @@ namespace tarnloft {
 
 // The sheet that edits an item's rules for its use, each change at once. It goes with the item.
 // Main thread.
-class UsageNotesSheet : public SheetModel {
+class UsageNotesSheet : public tarnloft::SheetModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by those who want it")
@@ -33,7 +33,7 @@ class UsageNotesSheet : public SheetModel {
   Q_INVOKABLE void setText(int row, const QString& text);
   Q_INVOKABLE void remove(int row);
 
-  QUrl view() const override { return viewURL("Sheets", "UsageNotesSheetView"); }
+  QString view() const override { return viewURL("Sheets", "UsageNotesSheetView"); }
 
  signals:
   void titleChanged();

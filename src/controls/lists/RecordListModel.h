@@ -3,12 +3,17 @@
 #include "model/ListDifference.h"
 
 #include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
 
 namespace tarnloft {
 
 // A list model that follows a list of records: it goes from one list to the next by the steps of
-// their difference, and views are told of each. Main thread.
+// their difference, and views are told of each. Those of other modules name it in full, which is
+// how the registration of types finds it. Main thread.
 class RecordListModel : public QAbstractListModel {
+  Q_OBJECT
+  QML_ANONYMOUS
+
  public:
   using QAbstractListModel::QAbstractListModel;
 

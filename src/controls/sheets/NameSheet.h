@@ -40,7 +40,7 @@ class NameSheet : public SheetModel {
   // Nothing happens if the name can't be confirmed.
   Q_INVOKABLE void confirm();
 
-  QUrl view() const override { return viewURL("Controls", "NameSheetView"); }
+  QString view() const override { return viewURL("Controls", "NameSheetView"); }
 
  signals:
   void textChanged();

@@ -51,7 +51,7 @@ class Question : public SheetModel {
   // Closes it with that answer, as its view does by its buttons.
   void give(Answer answer);
 
-  QUrl view() const override { return viewURL("Controls", "QuestionView"); }
+  QString view() const override { return viewURL("Controls", "QuestionView"); }
   void ended() override { answered_(answer_); }
 
  signals:

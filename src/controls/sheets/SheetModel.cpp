@@ -2,9 +2,9 @@
 
 namespace tarnloft {
 
-QUrl SheetModel::viewURL(const char* module, const char* name) {
-  return QUrl(QStringLiteral("qrc:/qt-project.org/imports/TarnLoft/%1/%2.qml")
-                  .arg(QLatin1String(module), QLatin1String(name)));
+QString SheetModel::viewURL(const char* module, const char* name) {
+  return QStringLiteral("qrc:/qt-project.org/imports/TarnLoft/%1/%2.qml")
+      .arg(QLatin1String(module), QLatin1String(name));
 }
 
 }  // namespace tarnloft

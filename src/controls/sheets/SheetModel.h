@@ -1,23 +1,25 @@
 #pragma once
 
 #include <QObject>
-#include <QUrl>
+#include <QString>
 #include <QtQml/qqmlregistration.h>
 
 namespace tarnloft {
 
 // What a sheet, a question or a popover shows and does. Whoever wants one up makes its model and
 // hands it to the window's SheetHost, which owns it from then on and makes the view that it names.
-// What the user has typed stands in the model, as views come and go. Main thread.
+// What the user has typed stands in the model, as views come and go. Those of other modules name
+// their base in full, which is how the registration of types finds it. Main thread.
 class SheetModel : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by those who want a sheet")
-  Q_PROPERTY(QUrl view READ view CONSTANT)
+  Q_PROPERTY(QString view READ view CONSTANT)
 
  public:
-  // The file of its view, a Sheet with a required property `model` of the model's own type.
-  virtual QUrl view() const = 0;
+  // The address of its view's file, a Sheet with a required property `model` of the model's own
+  // type.
+  virtual QString view() const = 0;
 
   // It has left the window, and goes after this.
   virtual void ended() {}
@@ -28,7 +30,7 @@ class SheetModel : public QObject {
 
  protected:
   // Of the file of that name in the module of that name.
-  static QUrl viewURL(const char* module, const char* name);
+  static QString viewURL(const char* module, const char* name);
 };
 
 }  // namespace tarnloft

@@ -24,7 +24,7 @@ Item {
     }
 
     function show(wanted: SheetModel) {
-        const component = Qt.createComponent(wanted.view.toString());
+        const component = Qt.createComponent(wanted.view);
         if (component.status !== Component.Ready) {
             console.warn(component.errorString());
             return;

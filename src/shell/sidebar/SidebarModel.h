@@ -11,7 +11,7 @@ namespace tarnloft {
 // The rows of the sidebar: the library's brands in its order, and behind the open one its sections.
 // Follows the library once per turn of the event loop, with the fewest signals that lead from the
 // old rows to the new ones.
-class SidebarModel : public RecordListModel {
+class SidebarModel : public tarnloft::RecordListModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("The sidebar has one")

@@ -56,6 +56,10 @@ ContentModel::Detail ContentModel::detail() const {
   return isEmpty ? Detail::Welcome : Detail::NoSelection;
 }
 
+QVariantList ContentModel::pages() const {
+  return workspace_ ? QVariantList{QVariant::fromValue(workspace_.get())} : QVariantList();
+}
+
 QString ContentModel::title() const {
   const QString program = QStringLiteral("Tarn Loft");
   const BrandDocument* const open = library_.openDocument();

@@ -18,9 +18,10 @@ class ContentModel : public QObject {
   Q_PROPERTY(tarnloft::Sidebar* sidebar READ sidebar CONSTANT)
   Q_PROPERTY(tarnloft::WindowUndo* undo READ undo CONSTANT)
   Q_PROPERTY(tarnloft::Alerts* alerts READ alerts CONSTANT)
-  // Null while no brand is open. Its module isn't among this one's imports, as it would be loaded
-  // with it, before the first frame: who uses the workspace imports it.
-  Q_PROPERTY(tarnloft::BrandWorkspace* workspace READ workspace NOTIFY workspaceChanged)
+  // The open brand's workspace, in a list for what repeats a page for it; empty for none. The
+  // module of its type isn't among this one's imports, as it would be loaded with it, before the
+  // first frame.
+  Q_PROPERTY(QVariantList pages READ pages NOTIFY workspaceChanged)
   Q_PROPERTY(tarnloft::SheetHost* sheets READ sheets CONSTANT)
   Q_PROPERTY(tarnloft::Thumbnails* thumbnails READ thumbnails CONSTANT)
   // The text of the toast that is shown; empty for none.
@@ -54,6 +55,7 @@ class ContentModel : public QObject {
   void followFirstFrame();
   // Another brand gets another one, on the next turn of the event loop.
   BrandWorkspace* workspace() const { return workspace_.get(); }
+  QVariantList pages() const;
   Thumbnails* thumbnails() const { return &services_.thumbnails; }
   QString toast() const;
 

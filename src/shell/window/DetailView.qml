@@ -74,7 +74,7 @@ FocusScope {
 
     // Another brand gets another page, with fresh state.
     Repeater {
-        model: root.content.workspace ? [root.content.workspace] : []
+        model: root.content.pages
         delegate: BrandPage {
             id: page
 

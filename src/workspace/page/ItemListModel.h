@@ -10,7 +10,7 @@ namespace tarnloft {
 
 // The items of a section that are shown, in order. A new value shows as the fewest removals, moves,
 // insertions and changes, by id. Main thread.
-class ItemListModel : public RecordListModel {
+class ItemListModel : public tarnloft::RecordListModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Belongs to a section")

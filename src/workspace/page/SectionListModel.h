@@ -10,7 +10,7 @@ namespace tarnloft {
 
 // The sections of the open brand, in order. Each keeps its `SectionModel` for as long as it is in
 // the brand. Main thread.
-class SectionListModel : public RecordListModel {
+class SectionListModel : public tarnloft::RecordListModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Belongs to a workspace")
