@@ -165,8 +165,12 @@ class TestAppearance : public QObject {
     appearance.setOverride(AppearanceOverride::light);
     QVERIFY(!appearance.isDark());
     const QSignalSpy changes(&appearance, &DesktopAppearance::darkChanged);
+    DesktopAppearance unbiased;  // hears of a change when the other one does
+    QTRY_VERIFY(unbiased.isDark());
     settings.change(2);
+    QTRY_VERIFY(!unbiased.isDark());
     settings.change(1);
+    QTRY_VERIFY(unbiased.isDark());
     colorDesktop(Qt::black, Qt::white);
     appearance.setOverride(AppearanceOverride::dark);
     appearance.setOverride(AppearanceOverride::none);
