@@ -6,7 +6,9 @@
 #include <QDBusPendingReply>
 #include <QDBusVariant>
 #include <QGuiApplication>
+#include <QTimer>
 
+#include <chrono>
 #include <cstdlib>
 #include <memory>
 #include <string_view>
@@ -16,6 +18,7 @@
 namespace tarnloft {
 namespace {
 
+constexpr auto secondThought = std::chrono::seconds(1);
 const auto watcher = QStringLiteral("org.kde.StatusNotifierWatcher");
 const auto watcherPath = QStringLiteral("/StatusNotifierWatcher");
 
@@ -82,13 +85,16 @@ bool TrayHost::ownsSelection() const {
   return reply && reply->owner != XCB_NONE;
 }
 
-// A tray that starts on X11 says so to everybody.
+// A tray that starts on X11 says so to everybody. Many a tray is on the bus too, a little later,
+// and shows more of an icon from there.
 bool TrayHost::nativeEventFilter(const QByteArray& type, void* message, qintptr*) {
   if (type != "xcb_generic_event_t") return false;
   const auto* const event = static_cast<xcb_generic_event_t*>(message);
   if ((event->response_type & 0x7f) != XCB_CLIENT_MESSAGE) return false;
   const auto* const told = static_cast<xcb_client_message_event_t*>(message);
-  if (told->type == managerMessage_ && told->data.data32[1] == selection_) emit changed();
+  if (told->type == managerMessage_ && told->data.data32[1] == selection_) {
+    QTimer::singleShot(secondThought, this, &TrayHost::changed);
+  }
   return false;
 }
 
