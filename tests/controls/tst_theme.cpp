@@ -115,23 +115,6 @@ class TestTheme : public QObject {
       }
     }
   }
-
-  // Repeats what Qt Quick's SpringAnimation does with its two numbers every 16 ms. It moves before
-  // the first step's force has acted for long, so its curve may lie one step off.
-  void stepsAreTheSpring() {
-    for (const Spring& spring : springs) {
-      const auto [stiffness, friction] = spring.steps();
-      constexpr double step = 0.016;
-      double position = 0, rate = 0;
-      for (int i = 1; i * step < spring.settlingTime(); ++i) {
-        rate += stiffness * (1 - position) - friction * rate;
-        position += rate * step;
-        const auto [least, most] =
-            std::minmax({spring.position((i - 0.5) * step), spring.position((i + 1) * step)});
-        QVERIFY(position > least - 0.02 && position < most + 0.02);
-      }
-    }
-  }
 };
 
 QTEST_GUILESS_MAIN(TestTheme)
