@@ -14,15 +14,6 @@ using Operation = std::function<void(LibraryStore&)>;
 
 namespace {
 
-class VanishingStore : public PosixFileStore {
- public:
-  Result<QStringList> listAll(const QString& folder) const override {
-    auto names = PosixFileStore::listAll(folder);
-    if (names) *names << "Gone.tarnloft";
-    return names;
-  }
-};
-
 // A library with two brands, one of them with a picture and a version, and an archive to import.
 struct Full {
   TestLibrary library;
@@ -124,31 +115,6 @@ class TestBadLibraries : public QObject {
       }
       if (::getuid() == 0) QCOMPARE(::seteuid(0), 0);
     });
-  }
-
-  void tenThousandEntries() {
-    TestLibrary library;
-    for (int i = 0; i < 5000; ++i) {
-      QVERIFY(writeFile(library.folder + QString("/%1.txt").arg(i), ""));
-      QVERIFY(QDir().mkpath(library.packagePath(QString::number(i))));
-    }
-    library.add("Acme");
-    library.start();
-    QCOMPARE(library.names().size(), 5001);
-    QCOMPARE(library.store->selection(), library.packagePath("0"));
-    QCOMPARE(library.store->searchAllBrands("logos").size(), 1);
-  }
-
-  void aPackageThatVanishes() {
-    TestLibrary library;
-    VanishingStore store;
-    library.files = &store;
-    library.add("Acme");
-    library.start();
-    QCOMPARE(library.names(), QStringList({"Acme", "Gone"}));
-    library.store->select(library.packagePath("Gone"));
-    QVERIFY(!library.store->openDocument());
-    QCOMPARE(library.store->searchAllBrands("logos").size(), 1);
   }
 };
 

@@ -60,23 +60,6 @@ class TestLifecycle : public QObject {
              "edited");
   }
 
-  void survivesAFailedMove() {
-    class Stuck : public PosixFileStore {
-      Result<void> moveFolder(const QString& /*path*/, const QString& /*target*/) override {
-        return failure(ErrorKind::io, "Permission denied");
-      }
-    };
-    Stuck files;
-    TestLibrary library;
-    library.files = &files;
-    LibraryStore& store = library.start();
-    store.createBrand("Acme");
-    store.renameSelectedBrand("Beta");
-    QCOMPARE(nameOf(store), "Beta");
-    QCOMPARE(library.names(), QStringList("Beta"));
-    QVERIFY(QFile::exists(library.packagePath("Acme")));
-  }
-
   void duplicatesWithAllThatIsInIt() {
     TestLibrary library;
     LibraryStore& store = library.start();

@@ -54,32 +54,6 @@ class TestSearch : public QObject {
     });
   }
 
-  void agreesWithEachItemOverRandomBrands() {
-    RandomBrand random(31);
-    for (int round = 0; round < 10; ++round) {
-      QList<BrandAtURL> brands;
-      for (int i = 0; i < 3; ++i) brands << BrandAtURL{QString::number(i), random.brand(3, 40)};
-      for (const QString& query :
-           QStringList{"harbour", "MARK 1", "7", "ü", "logo", "\"", "<co>", "#F"}) {
-        QStringList expected;
-        for (const auto& [url, brand] : brands) {
-          for (const Section& part : brand.sections) {
-            const QString prefix =
-                url + '|' + part.id.toString(QUuid::WithoutBraces).toUpper() + '|';
-            if (part.name.contains(query, Qt::CaseInsensitive)) expected << prefix + "section";
-            for (const Item& item : part.items) {
-              if (item.matchesSearch(query))
-                expected << prefix + item.id.toString(QUuid::WithoutBraces).toUpper();
-            }
-          }
-        }
-        QStringList found;
-        for (const SearchHit& hit : searchHits(brands, query)) found << hit.id();
-        QCOMPARE(found, expected);
-      }
-    }
-  }
-
   void findsTheSameInAManifestAsInItsBrand() {
     RandomBrand random(32);
     QHash<QUuid, QString> titles;
@@ -154,12 +128,6 @@ class TestSearch : public QObject {
     QCOMPARE(count("marks"), 2);
     QVERIFY(QDir(library.packagePath("Bad")).removeRecursively());
     QCOMPARE(count("marks"), 1);
-  }
-
-  void holdsLessThanTheManifests() {
-    RandomBrand random(2);
-    const Brand brand = random.brand(5, 60);
-    QVERIFY(SearchableBrand(brand).memory() < encode(brand)->size());
   }
 
   void revealsASection() {
