@@ -94,27 +94,6 @@ class TestImageExporter : public QObject {
     QCOMPARE(size.pixelSize(), QSize(40, 20));
   }
 
-  void readsTheNativeSize() {
-    FakeImages images;
-    const auto size = [&] { return ImageExporter::nativeSize(images, "a"); };
-    QVERIFY(!size());
-    images.toldVectorSize = QSizeF(0, 10);
-    QVERIFY(!size());
-    images.toldVectorSize = QSizeF(12.5, 10);
-    QCOMPARE(size(), QSizeF(12.5, 10));
-    images.told = ImageProperties{{30, 20}, false, {}};
-    QCOMPARE(size(), QSizeF(30, 20));
-  }
-
-  void roundsTheTargetSize() {
-    FakeImages images;
-    for (const QSizeF size : {QSizeF(10.5, 3.4), QSizeF(0.2, -5), QSizeF(1, 9e18)}) {
-      ImageExporter::exportImage(images, "a", ExportFormat::jpeg, size, 0.5);
-    }
-    QCOMPARE(images.begun(),
-             QStringList({"a jpeg 11x3 0.5", "a jpeg 1x1 0.5", "a jpeg 1x2147483647 0.5"}));
-  }
-
   void estimatesOnceTheChoiceRests() {
     QCOMPARE((ExportChoice{ExportFormat::jpeg, {800, 600}, 0.859}).key(), "800x600-jpeg-85");
     Estimate it;
@@ -139,17 +118,6 @@ class TestImageExporter : public QObject {
     QTRY_COMPARE(it.estimate.text(), "200 KB");
     QCOMPARE(it.changes.size(), 1);
     QCOMPARE(it.images.begun(), QStringList({"a jpeg 800x600 0.85", "a jpeg 200x600 0.85"}));
-  }
-
-  void startsOnlyForAnotherKey() {
-    Estimate it;
-    it.images.open(10);
-    it.choose(800);
-    QTRY_VERIFY(it.estimate.text());
-    it.choose(800, 0.8501);
-    QVERIFY(it.estimate.text());
-    it.choose(800, 0.86);
-    QVERIFY(!it.estimate.text());
   }
 
   void staysAbsentWhenNothingComes() {
