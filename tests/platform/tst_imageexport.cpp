@@ -20,23 +20,22 @@ class TestImageExport : public QObject {
 
  private slots:
   void writesEachFormat() {
-    const Cases<int, QByteArray, int> cases{
-        {"png", int(ExportFormat::png), "\x89PNG\r\n\x1A\n", 0},
-        {"jpeg", int(ExportFormat::jpeg), "\xFF\xD8\xFF", 6},
-        {"heic", int(ExportFormat::heic),
-         QByteArray::fromRawData("\0\0\0\x1C"
-                                 "ftypheic",
-                                 12),
-         12},
-        {"tiff", int(ExportFormat::tiff), QByteArray::fromRawData("II*\0", 4), 0}};
-    cases.check([&](int format, const QByteArray& beginning, int tolerance) {
-      const QByteArray bytes = converted("chart.tif", ExportFormat(format), Chart::size);
-      QCOMPARE(bytes.first(beginning.size()), beginning);
-      QVERIFY(differenceAtCells(seen(bytes, ExportFormat(format)), Chart::image()) <= tolerance);
+    const Cases<ExportFormat, QByteArray, int> cases{
+        {"png", ExportFormat::png, "\x89PNG", 0},
+        {"jpeg", ExportFormat::jpeg, "\xFF\xD8\xFF", 6},
+        {"heic", ExportFormat::heic, "ftypheic", 12},
+        {"tiff", ExportFormat::tiff, "II*", 0}};
+    cases.check([&](ExportFormat format, const QByteArray& mark, int tolerance) {
+      const QByteArray bytes = converted("chart.tif", format, Chart::size);
+      QVERIFY(bytes.first(12).contains(mark));
+      QVERIFY(differenceAtCells(seen(bytes, format), Chart::image()) <= tolerance);
     });
   }
 
   void hitsAnySizeExactly() {
+    QVERIFY(
+        differenceAtCells(QImage::fromData(converted("chart.tif", ExportFormat::png, {400, 30})),
+                          Chart::image().scaled(400, 30)) <= 2);
     QList<QSize> sizes{{1, 1}, {1, 700}, {700, 1}, {64, 48}, {65, 48}, {63, 48}, {64, 1000}};
     auto* random = QRandomGenerator::global();
     while (sizes.size() < 37) sizes << QSize(random->bounded(1, 900), random->bounded(1, 900));
@@ -47,12 +46,6 @@ class TestImageExport : public QObject {
         QCOMPARE(QImageReader(&buffer, "png").size(), size);
       }
     }
-  }
-
-  void stretchesToTheSize() {
-    const QByteArray bytes = converted("chart.tif", ExportFormat::png, {400, 30});
-    const QImage expected = Chart::image().scaled(400, 30);
-    QVERIFY(differenceAtCells(QImage::fromData(bytes), expected) <= 2);
   }
 
   void putsWhiteUnderTransparencyForJpeg() {
@@ -85,19 +78,18 @@ class TestImageExport : public QObject {
   }
 
   void tagsItsColours() {
-    const Cases<int> cases{{"png", int(ExportFormat::png)}, {"jpeg", int(ExportFormat::jpeg)}};
-    cases.check([&](int format) {
+    for (const ExportFormat format : {ExportFormat::png, ExportFormat::jpeg}) {
       QImage chart = Chart::image();
       chart.setColorSpace(QColorSpace::SRgb);
       chart.convertToColorSpace(QColorSpace::AdobeRgb);
       const QString path = disk_.path("wide.png");
       QVERIFY(chart.save(path));
-      const auto bytes = images_.convert(path, ExportFormat(format), Chart::size, 1);
+      const auto bytes = images_.convert(path, format, Chart::size, 1);
       QVERIFY(bytes);
       const QImage image = QImage::fromData(*bytes);
       QCOMPARE(image.colorSpace().primaries(), QColorSpace::Primaries::SRgb);
       QVERIFY(differenceAtCells(image, Chart::image()) <= 8);
-    });
+    }
   }
 
   void leavesTheSourcesMetadataBehind() {
