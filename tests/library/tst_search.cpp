@@ -54,30 +54,6 @@ class TestSearch : public QObject {
     });
   }
 
-  void findsTheSameInAManifestAsInItsBrand() {
-    RandomBrand random(32);
-    QHash<QUuid, QString> titles;
-    for (const char* query : {"a", "mark", "color", "ü", "\xEF\xBB\xBF", ".", "harbour 1"}) {
-      QList<SearchHit> inManifests, inBrands;
-      for (int round = 0; round < 5; ++round) {
-        const Brand brand = random.brand(3, 40);
-        const auto read = SearchableBrand::read(*encode(brand));
-        QVERIFY(read);
-        read->appendHits("x", query, inManifests);
-        SearchableBrand(brand).appendHits("x", query, inBrands);
-        for (const Section& part : brand.sections) {
-          for (const Item& item : part.items) titles[item.id] = item.displayName();
-        }
-      }
-      QVERIFY(!inBrands.isEmpty());
-      QCOMPARE(inManifests, inBrands);
-      for (const SearchHit& hit : inManifests) {
-        if (!hit.isSection()) QCOMPARE(hit.title, titles.value(*hit.itemID));
-      }
-    }
-    QVERIFY(!SearchableBrand::read("{\"name\":\"x\"}"));
-  }
-
   // Enough packages for several threads, some of which can't be read.
   void findsInALibraryWhatItsBrandsHold() {
     TestLibrary library;
