@@ -5,7 +5,7 @@
 #include "testing/Cases.h"
 #include "testing/FakeDrops.h"
 #include "testing/HeldStore.h"
-#include "testing/TestLibrary.h"
+#include "testing/TestServices.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -153,19 +153,6 @@ class TestDropImport : public QObject {
     QCOMPARE(dropping.shape(), "S:a,b T:");
   }
 
-  void movesNothingForABadPayload() {
-    const Cases<QByteArray> cases{{"null", QByteArray()},
-                                  {"no id", "8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E2G"},
-                                  {"of nothing", canonicalString(QUuid::createUuid()).toUtf8()}};
-    cases.check([&](const QByteArray& payload) {
-      Dropping dropping;
-      const auto bytes = payload.isNull() ? std::nullopt : std::optional(payload);
-      QVERIFY(dropping.drop({FakeThing::of(ItemDrag::type, bytes), dropping.file("x.png")}));
-      dropping.finish();
-      QCOMPARE(dropping.shape(), "S:a,b T:");
-    });
-  }
-
   void refusesWhatIsNothing() {
     Dropping dropping;
     QVERIFY(!dropping.drop({}));
@@ -242,34 +229,20 @@ class TestDropImport : public QObject {
     QCOMPARE(QSet<QString>(names.begin(), names.end()), QSet<QString>({"missing.png", folder}));
   }
 
-  void aClosedDocumentStillTakesItems() {
-    TestLibrary library;
-    const QUuid section = library.add("Acme").sections.first().id;
-    library.add("Other");
-    LibraryStore& store = library.start();
-    HeldStore held;
-    FakeTypes types;
-    FakeFonts fonts;
-    QThreadPool workers;
-    ListedLog log;
-    QVERIFY(writeFile(library.disk.path("x.png"), "x"));
-    const auto document = BrandDocument::load({held, log}, library.packagePath("Acme"));
-    QVERIFY(document);
-    const ImportServices services{types, fonts, workers,
-                                  [&](const auto&... what) { store.addItems(what...); }};
-    for (const char* open : {"Other", "Acme"}) {
-      auto dropped = BrandDocument::load({held, log}, library.packagePath("Acme"));
-      held.hold("x.png");
-      QVERIFY(DropImport::handle(services, {FakeThing::file(library.disk.path("x.png"))}, section,
-                                 *dropped));
-      dropped.reset();
-      store.select(library.packagePath(open));
-      held.release("x.png");
-      workers.waitForDone();
-      QCoreApplication::processEvents();
-    }
-    // Once into the closed package, and once into the document that was open again.
-    QCOMPARE(store.openDocument()->brand().sections.first().items.size(), 2);
+  void aClosedDocumentsItemsGoToItsBrand() {
+    Dropping dropping;
+    dropping.held.hold("x.png");
+    QVERIFY(dropping.drop({dropping.file("x.png")}));
+    const QUuid section = dropping.section(1).id;
+    const QString assets = dropping.assets();
+    dropping.document.reset();
+    dropping.held.release("x.png");
+    dropping.finish();
+    QCOMPARE(dropping.addedToClosed.size(), 1);
+    const auto& [addedTo, items] = dropping.addedToClosed.first();
+    QCOMPARE(addedTo, section);
+    QCOMPARE(items.size(), 1);
+    QVERIFY(QFileInfo::exists(assets + assetOf(items.first()).filename));
   }
 
   void aRenamedPackageStillTakesFiles() {

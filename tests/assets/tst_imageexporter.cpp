@@ -69,7 +69,6 @@ class TestImageExporter : public QObject {
         {"plain", QSizeF(1000, 500), 300, QSize(300, 150), 50, QSize(100, 50)},
         {"least", QSizeF(1000, 10), 1, QSize(1, 1), 1, QSize(100, 1)},
         {"none", QSizeF(100, 50), 0, QSize(1, 1), -7, QSize(2, 1)},
-        {"flat", QSizeF(100, 0), 30, QSize(30, 30), 40, QSize(40, 40)},
         {"beyond", QSizeF(1, 1000), 2'000'000'000, QSize(2'000'000'000, INT_MAX), 5, QSize(1, 5)}};
     cases.check([&](const QSizeF& native, int width, const QSize& byWidth, int height,
                     const QSize& byHeight) {
@@ -118,18 +117,6 @@ class TestImageExporter : public QObject {
     QTRY_COMPARE(it.estimate.text(), "200 KB");
     QCOMPARE(it.changes.size(), 1);
     QCOMPARE(it.images.begun(), QStringList({"a jpeg 800x600 0.85", "a jpeg 200x600 0.85"}));
-  }
-
-  void staysAbsentWhenNothingComes() {
-    Estimate it("bad");
-    it.choose(800);
-    it.images.open(1);
-    bool done = false;
-    QTRY_COMPARE(it.images.begun().size(), 1);
-    it.work.start([] {}, [&] { done = true; });
-    QTRY_VERIFY(done);
-    QVERIFY(!it.estimate.text());
-    QCOMPARE(it.changes.size(), 0);
   }
 
   void mayEndWhileItConverts() {
