@@ -9,7 +9,9 @@ Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
 
 using namespace tarnloft;
 
-static const QString sheet = QStringLiteral(R"(
+namespace {
+
+const QString sheet = QStringLiteral(R"(
   Button { objectName: 'opener'; text: 'Open'; onClicked: naming.open() }
   Sheet {
     id: naming; objectName: 'sheet'; accessibleName: 'New Brand'
@@ -22,7 +24,7 @@ static const QString sheet = QStringLiteral(R"(
     }
   })");
 
-static const QString menus = QStringLiteral(R"(
+const QString menus = QStringLiteral(R"(
   Button { objectName: 'opener'; text: 'Open'; onClicked: menu.popup(0, 30) }
   Menu {
     id: menu; objectName: 'menu'
@@ -34,13 +36,26 @@ static const QString menus = QStringLiteral(R"(
   })");
 
 // Opens the menu of `menus` by keyboard.
-static void openMenu(Stage& stage) {
+void openMenu(Stage& stage) {
   stage.press(Qt::Key_Tab);
   stage.press(Qt::Key_Space);
   QTRY_VERIFY(stage.find("menu")->property("opened").toBool());
 }
 
-// Every control by keyboard alone, and where the focus goes.
+QAccessibleInterface* subject(const Stage& stage) {
+  return QAccessible::queryAccessibleInterface(stage.find("subject"));
+}
+
+// The piece of QML with the name by which `subject` finds it.
+QString named(QString qml) {
+  return qml.replace(qml.indexOf('{'), 1, "{ objectName: 'subject'; ") + " }";
+}
+
+QString text(QAccessibleInterface* node) { return node->text(QAccessible::Name); }
+
+}  // namespace
+
+// Every control by keyboard alone and by assistive technology, and where the focus goes.
 class TestKeyboard : public QObject {
   Q_OBJECT
 
@@ -59,13 +74,12 @@ class TestKeyboard : public QObject {
     cases.check([](const QString& qml, const QString& log) {
       QAccessible::setActive(true);
       for (const int key : {0, int(Qt::Key_Space), int(Qt::Key_Return), int(Qt::Key_Enter)}) {
-        Stage stage(qml + "; objectName: 'subject' }");
+        Stage stage(named(qml));
         QVERIFY(stage.ready());
         stage.press(Qt::Key_Tab);
         key ? stage.press(key)
-            : QAccessible::queryAccessibleInterface(stage.find("subject"))
-                  ->actionInterface()
-                  ->doAction(QAccessibleActionInterface::pressAction());
+            : subject(stage)->actionInterface()->doAction(
+                  QAccessibleActionInterface::pressAction());
         QTRY_COMPARE(stage.log(), log);
       }
     });
@@ -284,6 +298,51 @@ class TestKeyboard : public QObject {
     stage.press(Qt::Key_D, Qt::AltModifier);
     QTest::qWait(50);
     QCOMPARE(stage.log(), QString());
+  }
+
+  void rolesAndNames() {
+    const Cases<QAccessible::Role, QString> cases{
+        {"Button { text: 'Create'", QAccessible::Button, "Create"},
+        {"Button { symbol: 'trash'; help: 'Delete'", QAccessible::Button, "Delete"},
+        {"MenuButton { text: 'Move to…'; menu: Menu {}", QAccessible::ButtonMenu, "Move to…"},
+        {"TextField { placeholderText: 'Brand name'", QAccessible::EditableText, "Brand name"},
+        {"Switch { accessibleName: 'Show Dock icon'", QAccessible::CheckBox, "Show Dock icon"},
+        {"SelectionMark { selected: true", QAccessible::CheckBox, "Deselect"},
+        {"Slider { accessibleName: 'Quality'", QAccessible::Slider, "Quality"},
+        {"ListRow { text: 'Acme'", QAccessible::ListItem, "Acme"},
+        {"PopUpPicker { accessibleName: 'Theme'; options: [PickerOption { text: 'Dark' }]",
+         QAccessible::ComboBox, "Theme, Dark"},
+        {"ColorWell { accessibleName: 'Tint'; color: '#4c6fff'", QAccessible::Button,
+         "Tint, #4C6FFF"},
+        {"SegmentedPicker { accessibleName: 'Tile size'", QAccessible::Grouping, "Tile size"},
+        {"Toast { message: 'Copied'", QAccessible::AlertMessage, "Copied"}};
+    cases.check([&](const QString& qml, const QAccessible::Role& role, const QString& name) {
+      for (const bool before : {true, false}) {  // assistive technology may come later
+        QAccessible::setActive(before);
+        const Stage stage(named(qml));
+        QAccessible::setActive(true);
+        QAccessibleInterface* node = subject(stage);
+        QVERIFY(node);
+        QCOMPARE(node->role(), role);
+        QCOMPARE(text(node), name);
+      }
+    });
+  }
+
+  void whatOpensAMenuTellsOfIt() {
+    const Cases<QString> cases{
+        {"menu button", "MenuButton { text: 'A'; menu: Menu { MenuItem { text: 'B' } }"},
+        {"pop-up picker", "PopUpPicker { options: [PickerOption { text: 'B' }]"}};
+    cases.check([&](const QString& qml) {
+      QAccessible::setActive(true);
+      Stage stage(named(qml));
+      QAccessibleInterface* node = subject(stage);
+      QVERIFY(!node->state().pressed);
+      node->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+      QTRY_VERIFY(node->state().pressed);
+      stage.press(Qt::Key_Escape);
+      QTRY_VERIFY(!node->state().pressed);
+    });
   }
 };
 

@@ -150,20 +150,6 @@ class TestLibraryStore : public QObject {
     QCoreApplication::processEvents();
   }
 
-  void createsAndSelects() {
-    TestLibrary library;
-    LibraryStore& store = library.start();
-    store.createBrand("Acme");
-    BrandDocument* const second = store.createBrand("Acme");
-    QCOMPARE(store.openDocument(), second);
-    QCOMPARE(store.selection(), library.packagePath("Acme 2"));
-    QCOMPARE(library.names(), QStringList({"Acme", "Acme"}));
-    second->edit([](Brand& brand) { brand.accentHex = "#123456"; });
-    second->saveNow();
-    store.scan();
-    QCOMPARE(store.brands().last().accentHex, "#123456");
-  }
-
   void renamesThePackageToo() {
     TestLibrary library;
     LibraryStore& store = library.start();

@@ -144,15 +144,6 @@ class TestColors : public QObject {
     QCOMPARE(PaletteExport::camelCase("123456"), "c123456");
     QCOMPARE(PaletteExport::camelCase("--"), "color");
   }
-
-  void takesTheColorsOfASection() {
-    Section section = Section::create(str("Colors"));
-    section.items = {Item::create(TextPayload{str("x")}),
-                     Item::create(ColorPayload{{str("#abc"), {}, str("PMS 1")}}),
-                     Item::create(ColorPayload{{str("#def"), str("Sky"), {}}})};
-    QCOMPARE(PaletteExport::entries(section),
-             QList<Entry>({{QString(), str("#ABC"), str("PMS 1")}, {str("Sky"), str("#DEF"), {}}}));
-  }
 };
 
 QTEST_APPLESS_MAIN(TestColors)
