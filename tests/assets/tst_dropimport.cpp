@@ -200,6 +200,7 @@ class TestDropImport : public QObject {
       while (!held.isEmpty()) dropping.held.release(held.takeAt(random.bounded(int(held.size()))));
       dropping.finish();
       QCOMPARE(dropping.shape(), "S:a,b T:" + expected.join(','));
+      QCOMPARE(dropping.held.onMainThread, 0);
     }
   }
 

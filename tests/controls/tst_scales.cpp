@@ -54,9 +54,7 @@ class TestScales : public QObject {
   void edgesLieOnWholePixels() {
     const QColor hairline(0, 0, 0, 40);
     const Cases<QRectF, int, double, QColor> cases{
-        {"button", QRectF(11, 7, 83, 28), 6, 1.0, hairline},
         {"small button", QRectF(13, 9, 47, 22), 5, 1.0, hairline},
-        {"card", QRectF(31, 17, 150, 95), 10, 1.0, hairline},
         {"selected card", QRectF(33, 19, 151, 97), 10, 3.0, QColor(Qt::red)},
         {"capsule", QRectF(21, 23, 131, 33), 17, 1.0, hairline},
         {"dot", QRectF(15, 9, 17, 17), 9, 1.5, QColor(Qt::black)},
