@@ -1,14 +1,17 @@
 // Runs clang-tidy in two passes: its checks spend nearly all of their time in the toolkit's headers,
 // which all sources include, but for its analyzer of paths, which spends it in a source itself.
-//   tidy.mjs paths FOLDER SOURCE         the analyzer over one source
-//   tidy.mjs rest FOLDER NAME SOURCE...  all other checks, over many sources in one compilation
+//   tidy.mjs rest FOLDER NAME SOURCE...    all checks but the analyzer, over many sources in one
+//                                          compilation
+//   tidy.mjs paths FOLDER RECORD SOURCE... the analyzer over each source that isn't in RECORD as it
+//                                          is now; the clean ones are written there
 // FOLDER is the build's, for the sources' flags and for what is written.
 import { spawn } from 'node:child_process';
-import { mkdirSync, readFileSync, writeFileSync } from 'node:fs';
-import { dirname, join } from 'node:path';
+import { createHash } from 'node:crypto';
+import { existsSync, mkdirSync, readFileSync, writeFileSync } from 'node:fs';
+import { cpus } from 'node:os';
+import { dirname, join, relative } from 'node:path';
 
-const [pass, folder, ...others] = process.argv.slice(2);
-const [name, ...sources] = pass === 'paths' ? [others[0], ...others] : others;
+const [pass, folder, name, ...sources] = process.argv.slice(2);
 
 // Behind those of .clang-tidy. A group of checks that isn't named here is run in both passes.
 const checks = {
@@ -94,12 +97,50 @@ async function check(together) {
   return false;
 }
 
-const groups = new Map();
-for (const source of sources) {
-  const alone = needsMainFile.test(readFileSync(source, 'utf8'));
-  const key = alone ? source : otherFlags(source);
-  groups.set(key, [...(groups.get(key) ?? []), source]);
+async function checkTogether() {
+  const groups = new Map();
+  for (const source of sources) {
+    const alone = needsMainFile.test(readFileSync(source, 'utf8'));
+    const key = alone ? source : otherFlags(source);
+    groups.set(key, [...(groups.get(key) ?? []), source]);
+  }
+  let clean = true;
+  for (const together of groups.values()) clean = (await check(together)) && clean;
+  return clean;
 }
-let clean = true;
-for (const together of groups.values()) clean = (await check(together)) && clean;
+
+// What a source's paths lead through, roughly: itself, its header and the checks.
+function stateOf(source) {
+  const texts = [source, source.replace(/\.cpp$/, '.h'), '.clang-tidy'];
+  const hash = createHash('sha256');
+  for (const text of texts.filter(existsSync)) hash.update(readFileSync(text)).update('\0');
+  return hash.digest('hex').slice(0, 16);
+}
+
+async function analysePaths(record) {
+  const lineOf = (source) => `${stateOf(source)} ${relative('src', source)}`;
+  const known = new Set(existsSync(record) ? readFileSync(record, 'utf8').split('\n') : []);
+  const lines = new Set(sources.map(lineOf).filter((line) => known.has(line)));
+  const waiting = sources.filter((source) => !lines.has(lineOf(source)));
+  if (waiting.length) console.log(`Analysing ${waiting.length} changed sources`);
+  const bySource = (a, b) => (a.slice(17) < b.slice(17) ? -1 : 1);
+  const write = () => writeFileSync(record, `${[...lines].sort(bySource).join('\n')}\n`);
+  let clean = true;
+  const worker = async () => {
+    for (let source; (source = waiting.pop()); ) {
+      const line = lineOf(source);
+      if (await check([source])) {
+        lines.add(line);
+        write();
+      } else {
+        clean = false;
+      }
+    }
+  };
+  await Promise.all(cpus().map(worker));
+  write();
+  return clean;
+}
+
+const clean = pass === 'rest' ? await checkTogether() : await analysePaths(name);
 process.exit(clean ? 0 : 1);

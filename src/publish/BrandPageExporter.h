@@ -8,8 +8,8 @@
 namespace tarnloft {
 
 // Turns a brand into one HTML page that needs nothing else: styles, script, pictures, videos and
-// fonts travel inside it. Any thread. Writes nothing back. An asset that
-// can't be read degrades its fragment and is never an error.
+// fonts travel inside it. Any thread. Writes nothing back. An asset that can't be read degrades its
+// fragment and is never an error.
 namespace BrandPageExporter {
 
 // False for a brand with a gradient that has no CSS form, which no manifest made by the program

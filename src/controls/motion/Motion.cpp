@@ -29,12 +29,4 @@ QEasingCurve Motion::easing(double response, double dampingFraction) const {
   return Spring{response, dampingFraction}.easing();
 }
 
-double Motion::stiffness(double response, double dampingFraction) const {
-  return Spring{response, dampingFraction}.steps().spring;
-}
-
-double Motion::friction(double response, double dampingFraction) const {
-  return Spring{response, dampingFraction}.steps().damping;
-}
-
 }  // namespace tarnloft

@@ -11,8 +11,8 @@ class QQmlEngine;
 
 namespace tarnloft {
 
-// How things move, for QML: `Motion.easing(0.5, 0.85)` with `Motion.duration(0.5, 0.85)`, which the
-// types SpringNumber and SpringFollow take for their users.
+// How things move, for QML: `Motion.easing(0.5, 0.85)` with `Motion.duration(0.5, 0.85)`, which
+// SpringNumber takes for its users.
 class Motion : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -34,8 +34,6 @@ class Motion : public QObject {
 
   Q_INVOKABLE int duration(double response, double dampingFraction) const;
   Q_INVOKABLE QEasingCurve easing(double response, double dampingFraction) const;
-  Q_INVOKABLE double stiffness(double response, double dampingFraction) const;
-  Q_INVOKABLE double friction(double response, double dampingFraction) const;
 
  signals:
   void reducedChanged();

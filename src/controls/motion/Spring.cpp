@@ -10,22 +10,24 @@ namespace tarnloft {
 
 double Spring::frequency() const { return 2 * std::numbers::pi / response; }
 
-double Spring::position(double time) const {
+Spring::State Spring::after(double seconds, const State& state) const {
   const double w = frequency();
-  const double decay = std::exp(-dampingFraction * w * time);
-  if (dampingFraction >= 1) return 1 - decay * (1 + w * time);
+  const double decayRate = std::min(dampingFraction, 1.0) * w;
+  const double decay = std::exp(-decayRate * seconds);
+  const double push = state.rate + state.offset * decayRate;
+  if (dampingFraction >= 1) {
+    const double offset = decay * (state.offset + push * seconds);
+    return {offset, decay * push - offset * decayRate};
+  }
   const double damped = w * std::sqrt(1 - dampingFraction * dampingFraction);
-  return 1 -
-         decay * (std::cos(damped * time) + dampingFraction * w / damped * std::sin(damped * time));
+  const double cosine = std::cos(damped * seconds), sine = std::sin(damped * seconds);
+  const double offset = decay * (state.offset * cosine + push / damped * sine);
+  return {offset, decay * (push * cosine - state.offset * damped * sine) - offset * decayRate};
 }
 
-double Spring::velocity(double time) const {
-  const double w = frequency();
-  const double decay = std::exp(-dampingFraction * w * time);
-  if (dampingFraction >= 1) return w * w * time * decay;
-  const double damped = w * std::sqrt(1 - dampingFraction * dampingFraction);
-  return w * w / damped * decay * std::sin(damped * time);
-}
+double Spring::position(double time) const { return 1 + after(time, {-1, 0}).offset; }
+
+double Spring::velocity(double time) const { return after(time, {-1, 0}).rate; }
 
 double Spring::settlingTime() const {
   constexpr double close = 1e-3;
@@ -54,18 +56,6 @@ QEasingCurve Spring::easing() const {
     leaving = arriving;
   }
   return curve;
-}
-
-// SpringAnimation repeats v += spring * (target - x) - damping * v, x += 0.016 * v. Its remainder
-// e = target - x then obeys e'' = (2 - damping - 0.016 * spring) e' - (1 - damping) e; setting both
-// coefficients to those of the sampled exact solution gives the two numbers.
-Spring::Steps Spring::steps() const {
-  constexpr double step = 0.016;
-  const double w = frequency();
-  const double ratio = std::min(dampingFraction, 1.0);
-  const double decay = std::exp(-ratio * w * step);
-  const double turn = std::cos(w * std::sqrt(1 - ratio * ratio) * step);
-  return {(1 + decay * decay - 2 * decay * turn) / step, 1 - decay * decay};
 }
 
 }  // namespace tarnloft

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "controls/motion/Spring.h"
+
 #include <QPointF>
 
 namespace tarnloft {
@@ -8,8 +10,7 @@ namespace tarnloft {
 // target that may change on the way. At any frame rate.
 class SpringMotion {
  public:
-  static constexpr double response = 0.5;  // seconds
-  static constexpr double dampingFraction = 0.85;
+  static constexpr Spring spring{.response = 0.5, .dampingFraction = 0.85};
 
   // Stands still there.
   void settle(const QPointF& position);

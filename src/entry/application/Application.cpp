@@ -7,6 +7,7 @@
 #include "platform/desktop/files/PosixFileStore.h"
 #include "platform/desktop/instance/RunningInstance.h"
 #include "platform/desktop/system/Syslog.h"
+#include "platform/desktop/window/WindowActivation.h"
 
 #include <QApplication>
 #include <QtQml/qqmlextensionplugin.h>
@@ -38,8 +39,10 @@ bool hasDisplay() {
 
 int runWindows(RunningInstance& instance) {
   TarnLoftApp app;
-  QObject::connect(&instance, &RunningInstance::showRequested, &app.appDelegate(),
-                   &AppDelegate::applicationShouldHandleReopen);
+  QObject::connect(&instance, &RunningInstance::showRequested, &app.appDelegate(), [&app] {
+    allowActivation();
+    app.appDelegate().applicationShouldHandleReopen();
+  });
   if (!instance.listen()) std::fputs("Tarn Loft: a second start won't find this one\n", stderr);
   if (!app.start()) return fail("the interface can't be loaded");
   const int status = QApplication::exec();

@@ -24,10 +24,19 @@ Item {
         }
     }
 
-    LazyItem {
-        anchors.centerIn: parent
-        anchors.verticalCenterOffset: -12 // the optical middle
-        sourceComponent: root.viewOf(root.content.detail)
+    ScrollArea {
+        id: scroll
+
+        anchors.fill: parent
+        contentHeight: Math.max(height, detail.y + detail.height + 16)
+
+        LazyItem {
+            id: detail
+
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: Math.max(16, (scroll.height - height) / 2 - 12) // the optical middle
+            sourceComponent: root.viewOf(root.content.detail)
+        }
     }
 
     Component {

@@ -135,6 +135,7 @@ FocusScope {
                     required property int index
 
                     width: column.width
+                    margin: column.x
                     reachable: root.focusedSection >= 0 && Math.abs(index - root.focusedSection) <= 1
                     viewTop: scroll.contentY - y
                     viewHeight: scroll.height

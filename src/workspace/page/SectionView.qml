@@ -5,7 +5,8 @@ import TarnLoft.Controls
 import TarnLoft.Workspace
 
 // One section of the page: its header, and its items or a hint. `viewTop` and `viewHeight` tell the
-// strip that is seen, in its own coordinates; outside of it little exists.
+// strip that is seen, in its own coordinates; outside of it little exists. What is dropped within
+// `margin` beside it is its own too.
 FocusScope {
     id: root
 
@@ -13,6 +14,7 @@ FocusScope {
     property bool reachable: false // the Tab key may come here next
     property real viewTop: 0
     property real viewHeight: 0
+    property real margin: 8
 
     readonly property bool near: reachable || activeFocus || (viewTop < height + viewHeight && viewTop + 2 * viewHeight > 0)
 
@@ -47,6 +49,8 @@ FocusScope {
 
             anchors.fill: parent
             anchors.margins: -8
+            anchors.leftMargin: -root.margin
+            anchors.rightMargin: -root.margin
             section: root.section
         }
 
@@ -55,9 +59,9 @@ FocusScope {
             readonly property real seenTop: root.viewTop - content.y - 40
             readonly property real seenBottom: seenTop + root.viewHeight + 80
 
-            x: dropTarget.x
+            x: -8
             y: Math.max(dropTarget.y, seenTop)
-            width: dropTarget.width
+            width: parent.width + 16
             height: Math.min(dropTarget.y + dropTarget.height, seenBottom) - y
             active: dropTarget.targeted
             sourceComponent: DropFrame {

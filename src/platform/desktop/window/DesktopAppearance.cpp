@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QGuiApplication>
+#include <QWindow>
 
 namespace tarnloft {
 
@@ -20,6 +21,17 @@ bool paletteIsDark() {
   const QPalette palette = QGuiApplication::palette();
   return palette.color(QPalette::Window).lightnessF() <
          palette.color(QPalette::WindowText).lightnessF();
+}
+
+// On Wayland, where the desktop leaves it to programs to draw title bars, the toolkit reads their
+// colours when it makes one.
+void renewTitleBars() {
+  if (!QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) return;
+  for (QWindow* const window : QGuiApplication::topLevelWindows()) {
+    if (!window->isVisible() || window->frameMargins().top() == 0) continue;
+    window->setFlag(Qt::FramelessWindowHint, true);
+    window->setFlag(Qt::FramelessWindowHint, false);
+  }
 }
 
 }  // namespace
@@ -47,6 +59,7 @@ void DesktopAppearance::setColors(const QPalette& palette) {
   if (!hasOwnColors_ && paletteIsDark() == dark_) return;
   hasOwnColors_ = true;
   QGuiApplication::setPalette(palette);
+  renewTitleBars();
 }
 
 void DesktopAppearance::update() {
