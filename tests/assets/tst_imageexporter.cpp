@@ -69,7 +69,6 @@ class TestImageExporter : public QObject {
         {"plain", QSizeF(1000, 500), 300, QSize(300, 150), 50, QSize(100, 50)},
         {"least", QSizeF(1000, 10), 1, QSize(1, 1), 1, QSize(100, 1)},
         {"none", QSizeF(100, 50), 0, QSize(1, 1), -7, QSize(2, 1)},
-        {"flat", QSizeF(100, 0), 30, QSize(30, 30), 40, QSize(40, 40)},
         {"beyond", QSizeF(1, 1000), 2'000'000'000, QSize(2'000'000'000, INT_MAX), 5, QSize(1, 5)}};
     cases.check([&](const QSizeF& native, int width, const QSize& byWidth, int height,
                     const QSize& byHeight) {
@@ -96,23 +95,11 @@ class TestImageExporter : public QObject {
 
   void readsTheNativeSize() {
     FakeImages images;
-    const auto size = [&] { return ImageExporter::nativeSize(images, "a"); };
-    QVERIFY(!size());
-    images.toldVectorSize = QSizeF(0, 10);
-    QVERIFY(!size());
+    QVERIFY(!ImageExporter::nativeSize(images, "a"));
     images.toldVectorSize = QSizeF(12.5, 10);
-    QCOMPARE(size(), QSizeF(12.5, 10));
+    QCOMPARE(ImageExporter::nativeSize(images, "a"), QSizeF(12.5, 10));
     images.told = ImageProperties{{30, 20}, false, {}};
-    QCOMPARE(size(), QSizeF(30, 20));
-  }
-
-  void roundsTheTargetSize() {
-    FakeImages images;
-    for (const QSizeF size : {QSizeF(10.5, 3.4), QSizeF(0.2, -5), QSizeF(1, 9e18)}) {
-      ImageExporter::exportImage(images, "a", ExportFormat::jpeg, size, 0.5);
-    }
-    QCOMPARE(images.begun(),
-             QStringList({"a jpeg 11x3 0.5", "a jpeg 1x1 0.5", "a jpeg 1x2147483647 0.5"}));
+    QCOMPARE(ImageExporter::nativeSize(images, "a"), QSizeF(30, 20));
   }
 
   void estimatesOnceTheChoiceRests() {
@@ -139,29 +126,6 @@ class TestImageExporter : public QObject {
     QTRY_COMPARE(it.estimate.text(), "200 KB");
     QCOMPARE(it.changes.size(), 1);
     QCOMPARE(it.images.begun(), QStringList({"a jpeg 800x600 0.85", "a jpeg 200x600 0.85"}));
-  }
-
-  void startsOnlyForAnotherKey() {
-    Estimate it;
-    it.images.open(10);
-    it.choose(800);
-    QTRY_VERIFY(it.estimate.text());
-    it.choose(800, 0.8501);
-    QVERIFY(it.estimate.text());
-    it.choose(800, 0.86);
-    QVERIFY(!it.estimate.text());
-  }
-
-  void staysAbsentWhenNothingComes() {
-    Estimate it("bad");
-    it.choose(800);
-    it.images.open(1);
-    bool done = false;
-    QTRY_COMPARE(it.images.begun().size(), 1);
-    it.work.start([] {}, [&] { done = true; });
-    QTRY_VERIFY(done);
-    QVERIFY(!it.estimate.text());
-    QCOMPARE(it.changes.size(), 0);
   }
 
   void mayEndWhileItConverts() {

@@ -79,12 +79,6 @@ const checks = {
     await page.click('.logo-meta a');
     assert.equal((await arrival).suggestedFilename(), payloads(manifest, 'logo')[0].value.variants[0].asset.originalName);
   },
-  async 'a dark browser gets a dark page'(page) {
-    const background = () => page.evaluate(() => getComputedStyle(document.body).backgroundColor);
-    assert.equal(await background(), 'rgb(251, 251, 253)');
-    await page.emulateMedia({ colorScheme: 'dark' });
-    assert.equal(await background(), 'rgb(13, 13, 16)');
-  },
 };
 
 async function openPage(browser, file) {

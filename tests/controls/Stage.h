@@ -1,7 +1,6 @@
 #pragma once
 
 #include "controls/theme/Theme.h"
-#include "controls/theme/Typography.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -35,7 +34,6 @@ class Stage {
 
   bool ready() const { return m_ready; }
   QQuickView* window() { return &m_view; }
-  Theme& theme() { return Theme::of(*m_view.engine()); }
   QString log() const { return m_view.rootObject()->property("logged").toString(); }
 
   template <typename Type = QObject>
@@ -52,10 +50,6 @@ class Stage {
 
   void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     QTest::keyClick(&m_view, static_cast<Qt::Key>(key), modifiers);
-  }
-
-  void type(const QString& text) {
-    for (const QChar character : text) QTest::keyClick(&m_view, character.toLatin1());
   }
 
   void click(const QQuickItem* item, Qt::MouseButton button = Qt::LeftButton) {

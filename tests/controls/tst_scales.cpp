@@ -46,8 +46,7 @@ int mostApart(const QImage& one, const QImage& other) {
 
 }  // namespace
 
-// Rounded rectangles pixel by pixel; run at several scales of the screen and with both scene
-// graphs.
+// Pixels; run at several scales of the screen and with both scene graphs.
 class TestScales : public QObject {
   Q_OBJECT
 
@@ -55,9 +54,7 @@ class TestScales : public QObject {
   void edgesLieOnWholePixels() {
     const QColor hairline(0, 0, 0, 40);
     const Cases<QRectF, int, double, QColor> cases{
-        {"button", QRectF(11, 7, 83, 28), 6, 1.0, hairline},
         {"small button", QRectF(13, 9, 47, 22), 5, 1.0, hairline},
-        {"card", QRectF(31, 17, 150, 95), 10, 1.0, hairline},
         {"selected card", QRectF(33, 19, 151, 97), 10, 3.0, QColor(Qt::red)},
         {"capsule", QRectF(21, 23, 131, 33), 17, 1.0, hairline},
         {"dot", QRectF(15, 9, 17, 17), 9, 1.5, QColor(Qt::black)},
@@ -92,6 +89,22 @@ class TestScales : public QObject {
       if (place.width() > 2 * radius) QCOMPARE(bands(shape, Qt::Vertical).size(), 3);
       QCOMPARE(shape.pixelColor(shape.rect().center()), fill);
       if (radius > 2) QVERIFY(shape.pixelColor(0, 0).lightness() > 240);
+    });
+  }
+
+  void emojiAreInColor() {
+    const Cases<QString, QString> cases{{"in a text", "body", "R&D 🌿"},
+                                        {"in a large text", "largeTitle", "R&D 🌿"},
+                                        {"in code", "monospaced(12)", "R&D 🌿"},
+                                        {"alone", "emoji(24)", "❤"}};
+    cases.check([&](const QString& font, const QString& text) {
+      Stage stage(QString("Label { font: Theme.%1; text: '%2' }").arg(font, text));
+      const QImage shown = stage.window()->grabWindow();
+      int colored = 0;
+      for (int y = 0; y < 60; ++y)
+        for (int x = 0; x < 200; ++x)
+          colored += shown.pixelColor(x, y).hsvSaturation() > 120 ? 1 : 0;
+      QVERIFY2(colored > 20, qPrintable(QString::number(colored)));
     });
   }
 };

@@ -21,10 +21,8 @@ class TestTheme : public QObject {
   void contrastIsThatOfTheStandard() {
     const Cases<QColor, QColor, double> cases{
         {"black on white", QColor("#000000"), QColor("#ffffff"), 21.0},
-        {"same", QColor("#777777"), QColor("#777777"), 1.0},
         {"known grey", QColor("#767676"), QColor("#ffffff"), 4.54},
         {"either way", QColor("#ffffff"), QColor("#767676"), 4.54},
-        {"red", QColor("#ff0000"), QColor("#ffffff"), 4.0},
         {"half black is mid grey", QColor(0, 0, 0, 128), QColor("#ffffff"), 4.0}};
     cases.check([&](const QColor& foreground, const QColor& background, double ratio) {
       QVERIFY2(std::abs(contrastRatio(foreground, background) - ratio) < 0.01,
@@ -33,8 +31,7 @@ class TestTheme : public QObject {
   }
 
   void labelsAreReadable() {
-    const Cases<ColorScheme> cases{{"light", ColorScheme::light}, {"dark", ColorScheme::dark}};
-    cases.check([&](const ColorScheme& scheme) {
+    for (const ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
       const Palette p = Palette::make(scheme, QColor("#4C6FFF"));
       struct Text {
         const char* name;
@@ -66,7 +63,7 @@ class TestTheme : public QObject {
         QVERIFY2(contrastRatio(p.label, fill) >= 10, qPrintable(fill.name()));
         QVERIFY2(contrastRatio(p.warning, fill) >= 3, qPrintable(fill.name()));
       }
-    });
+    }
   }
 
   void anyAccentCarriesReadableText() {
@@ -101,18 +98,6 @@ class TestTheme : public QObject {
         QVERIFY(std::abs(spring.velocity(i * step) - rate) < 1e-3 * w);
       }
       QVERIFY(std::abs(position - 1) < 3e-3);
-    }
-  }
-
-  void easingIsTheSpring() {
-    for (const Spring& spring : springs) {
-      const QEasingCurve curve = spring.easing();
-      QCOMPARE(curve.valueForProgress(0), 0.0);
-      QCOMPARE(curve.valueForProgress(1), 1.0);
-      for (double share = 0.005; share < 1; share += 0.005) {
-        const double told = spring.position(share * spring.settlingTime());
-        QVERIFY(std::abs(curve.valueForProgress(share) - told) < 4e-3);
-      }
     }
   }
 };

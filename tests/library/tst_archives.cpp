@@ -4,7 +4,6 @@
 
 #include <QProcess>
 #include <QTest>
-#include <QtEndian>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -48,16 +47,6 @@ struct Import {
   }
 };
 
-// One brand with a picture, exported by the program.
-void exportAcme(TestLibrary& library, const QString& archive) {
-  LibraryStore& store = library.start();
-  BrandDocument* const document = store.createBrand("Acmé 北");
-  QVERIFY(document->importImageData(QByteArray(3'000'000, 'p'), "a.png", "png"));
-  document->saveNow();
-  library.dialogs.answer = archive;
-  store.exportSelectedBrand();
-}
-
 }  // namespace
 
 class TestArchives : public QObject {
@@ -69,7 +58,14 @@ class TestArchives : public QObject {
     const QString archive = library.disk.path("a.zip");
     const QString package = library.packagePath("Acmé 北");
     QVERIFY(writeFile(archive, "an older file"));
-    exportAcme(library, archive);
+    LibraryStore& store = library.start();
+    BrandDocument* const document = store.createBrand("Acmé 北");
+    QVERIFY(document->importImageData(QByteArray(3'000'000, 'p'), "a.png", "png"));
+    document->saveNow();
+    store.exportSelectedBrand();  // cancelled
+    QVERIFY(library.viewer.revealed.isEmpty());
+    library.dialogs.answer = archive;
+    store.exportSelectedBrand();
     QCOMPARE(library.dialogs.suggested, "Acmé 北.tarnloft.zip");
     QCOMPARE(library.dialogs.mimeType, "application/zip");
     QCOMPARE(library.viewer.revealed, QStringList(archive));
@@ -108,8 +104,8 @@ class TestArchives : public QObject {
   void readsWhatOtherToolsWrite() {
     const Cases<QString, QStringList> cases{
         {"zip", "zip", QStringList{"-qry", "foreign.zip", "Acmé.tarnloft"}},
-        {"bsdtar", "bsdtar", QStringList{"--format", "zip", "-cf", "foreign.zip", "Acmé.tarnloft"}},
-        {"stored", "zip", QStringList{"-qr0", "foreign.zip", "Acmé.tarnloft"}}};
+        {"bsdtar", "bsdtar",
+         QStringList{"--format", "zip", "-cf", "foreign.zip", "Acmé.tarnloft"}}};
     cases.check([&](const QString& program, const QStringList& arguments) {
       Import import;
       const QString root = import.library.disk.folder.path();
@@ -138,22 +134,11 @@ class TestArchives : public QObject {
     }
   }
 
-  void keepsABrokenPackage() {
-    Import import;
-    ForeignZip(import.archive).file("Acme.tarnloft/manifest.json", "{");
-    LibraryStore& store = import.run();
-    QCOMPARE(store.selection(), import.library.packagePath("Acme"));
-    QVERIFY(!store.openDocument());
-    QCOMPARE(import.library.names(), QStringList("Acme"));
-  }
-
   void refuses() {
     const Cases<QStringList> cases{
         {"no package", {"Acme/manifest.json"}},
-        {"nothing", {}},
         {"only a foreign second tree", {"__MACOSX/Acme.tarnloft/._manifest.json"}},
         {"hidden package", {".Acme.tarnloft/manifest.json"}},
-        {"other case", {"Acme.TARNLOFT/manifest.json"}},
         {"steps upwards", {"Acme.tarnloft/manifest.json", "Acme.tarnloft/../../../outside/x"}},
         {"absolute path", {"/tmp/Acme.tarnloft/manifest.json"}},
         {"backslashes", {"a/..\\..\\outside\\x.tarnloft"}},
@@ -166,7 +151,6 @@ class TestArchives : public QObject {
           "Acme.tarnloft/out -> x/y/up/../../outside"}},
         {"file through a link",
          {"Acme.tarnloft/in/", "Acme.tarnloft/a -> in", "Acme.tarnloft/a/x"}},
-        {"file over a link", {"Acme.tarnloft/b", "Acme.tarnloft/a -> b", "Acme.tarnloft/a"}},
         {"twice", {"Acme.tarnloft/manifest.json", "Acme.tarnloft/./manifest.json"}}};
     cases.check([](const QStringList& entries) {
       Import import;
@@ -185,7 +169,6 @@ class TestArchives : public QObject {
           "B.tarnloft/.DS_Store"},
          "B"},
         {"the first of two", {"B.tarnloft/manifest.json", "A.tarnloft/manifest.json"}, "A"},
-        {"deep", {"x/y/A.yewstack/manifest.json"}, "A"},
         {"a package within a package",
          {"A.tarnloft/0.tarnloft/manifest.json", "A.tarnloft/manifest.json"},
          "A"},
@@ -201,22 +184,11 @@ class TestArchives : public QObject {
     });
   }
 
-  void entersFoldersThatNobodyMay() {
-    Import import;
-    ForeignZip(import.archive)
-        .folder("A.tarnloft/", 0)
-        .folder("A.tarnloft/assets/", 0)
-        .file("A.tarnloft/manifest.json", manifest("x"), 0);
-    QVERIFY(import.run().openDocument() && import.leavesNothing());
-  }
-
   void refusesABomb() {
-    const Cases<UnpackLimits, bool> cases{
-        {"within bounds", UnpackLimits{3'000'000, 0, 12}, true},
-        {"too large", UnpackLimits{1'900'000, 0, 12}, false},
-        {"too many", UnpackLimits{3'000'000, 0, 11}, false},
-        {"bound by its own size", UnpackLimits{0, 10, 12}, false},
-        {"larger with its size", UnpackLimits{0, 2000, 12}, true}};
+    const Cases<UnpackLimits, bool> cases{{"within bounds", UnpackLimits{3'000'000, 0, 12}, true},
+                                          {"too large", UnpackLimits{1'900'000, 0, 12}, false},
+                                          {"too many", UnpackLimits{3'000'000, 0, 11}, false},
+                                          {"packed too well", UnpackLimits{0, 10, 12}, false}};
     cases.check([&](const UnpackLimits& limits, bool imports) {
       Import import;
       {
@@ -236,7 +208,7 @@ class TestArchives : public QObject {
     Import import;
     {
       ForeignZip zip(import.archive);
-      zip.folder("A.tarnloft/", 0500).file("A.tarnloft/a.png", "x", 0040);
+      zip.folder("A.tarnloft/", 0).file("A.tarnloft/a.png", "x", 0040);
     }
     const QString out = import.library.disk.path("out");
     QVERIFY(QDir().mkpath(out) && ZipArchiver().extract(import.archive, out));
@@ -245,42 +217,6 @@ class TestArchives : public QObject {
     QCOMPARE(info.st_mode & 07777, 0640u);
     QCOMPARE(::stat(QFile::encodeName(out + "/A.tarnloft").constData(), &info), 0);
     QCOMPARE(info.st_mode & 07777, 0700u);
-  }
-
-  // A file that claims to be large and isn't.
-  void fillsNothingUpWithAHole() {
-    Import import;
-    {
-      ForeignZip zip(import.archive, "zip:compression=store");
-      zip.file("A.tarnloft/a.png", "short");
-    }
-    QByteArray bytes = contentOf(import.archive);
-    const auto claim = [&](const QByteArray& record, qsizetype sizeAt) {
-      qToLittleEndian(quint32(1) << 30, bytes.data() + bytes.indexOf(record) + sizeAt);
-    };
-    claim("PK\1\2", 24);
-    claim("PK\3\4", 22);
-    QVERIFY(writeFile(import.archive, bytes));
-    const QString out = import.library.disk.path("out");
-    QVERIFY(QDir().mkpath(out));
-    QVERIFY(!ZipArchiver().extract(import.archive, out));
-    QVERIFY(QFileInfo(out + "/A.tarnloft/a.png").size() <= 5);
-  }
-
-  // Least of all into the root of the file system.
-  void unpacksNowhereWithoutItsFolder() {
-    Import import;
-    const QString top = QString("tst-%1.tarnloft").arg(QCoreApplication::applicationPid());
-    {
-      ForeignZip zip(import.archive);
-      zip.file(qPrintable(top + "/manifest.json"), manifest("x"));
-    }
-    QVERIFY(!ZipArchiver().extract(import.archive, import.library.disk.path("gone")));
-    QVERIFY(!QFile::exists(import.library.disk.path("gone")));
-    const QDir inRoot("/" + top);
-    const bool isInRoot = inRoot.exists();
-    if (isInRoot) QDir(inRoot).removeRecursively();
-    QVERIFY(!isInRoot);
   }
 
   void refusesACutArchive() {
@@ -306,30 +242,15 @@ class TestArchives : public QObject {
     }
   }
 
-  void survivesWhatCannotBeWritten() {
+  void aPackageThatVanishedLeavesNoArchive() {
     TestLibrary library;
     library.add("Acme");
     library.start();
-    library.dialogs.answer = "/dev/full/a.zip";
-    library.store->exportSelectedBrand();
-    QCOMPARE(library.viewer.revealed, QStringList("/dev/full/a.zip"));
-    // A package that vanished leaves no archive, nor half of one.
     library.dialogs.answer = library.disk.path("a.zip");
     const BrandSummary row = library.store->brands().first();
     QVERIFY(QDir(library.packagePath("Acme")).removeRecursively());
     library.store->exportBrand(row);
     QVERIFY(!QFile::exists(library.disk.path("a.zip")));
-  }
-
-  void doesNothingWhenCancelled() {
-    TestLibrary library;
-    library.start().exportSelectedBrand();
-    QVERIFY(library.dialogs.suggested.isEmpty());
-    library.store->createBrand("Acme");
-    library.store->exportSelectedBrand();
-    library.store->importBrand();
-    QVERIFY(library.viewer.revealed.isEmpty());
-    QCOMPARE(library.store->brands().size(), 1);
   }
 };
 

@@ -54,56 +54,6 @@ class TestSearch : public QObject {
     });
   }
 
-  void agreesWithEachItemOverRandomBrands() {
-    RandomBrand random(31);
-    for (int round = 0; round < 10; ++round) {
-      QList<BrandAtURL> brands;
-      for (int i = 0; i < 3; ++i) brands << BrandAtURL{QString::number(i), random.brand(3, 40)};
-      for (const QString& query :
-           QStringList{"harbour", "MARK 1", "7", "ü", "logo", "\"", "<co>", "#F"}) {
-        QStringList expected;
-        for (const auto& [url, brand] : brands) {
-          for (const Section& part : brand.sections) {
-            const QString prefix =
-                url + '|' + part.id.toString(QUuid::WithoutBraces).toUpper() + '|';
-            if (part.name.contains(query, Qt::CaseInsensitive)) expected << prefix + "section";
-            for (const Item& item : part.items) {
-              if (item.matchesSearch(query))
-                expected << prefix + item.id.toString(QUuid::WithoutBraces).toUpper();
-            }
-          }
-        }
-        QStringList found;
-        for (const SearchHit& hit : searchHits(brands, query)) found << hit.id();
-        QCOMPARE(found, expected);
-      }
-    }
-  }
-
-  void findsTheSameInAManifestAsInItsBrand() {
-    RandomBrand random(32);
-    QHash<QUuid, QString> titles;
-    for (const char* query : {"a", "mark", "color", "ü", "\xEF\xBB\xBF", ".", "harbour 1"}) {
-      QList<SearchHit> inManifests, inBrands;
-      for (int round = 0; round < 5; ++round) {
-        const Brand brand = random.brand(3, 40);
-        const auto read = SearchableBrand::read(*encode(brand));
-        QVERIFY(read);
-        read->appendHits("x", query, inManifests);
-        SearchableBrand(brand).appendHits("x", query, inBrands);
-        for (const Section& part : brand.sections) {
-          for (const Item& item : part.items) titles[item.id] = item.displayName();
-        }
-      }
-      QVERIFY(!inBrands.isEmpty());
-      QCOMPARE(inManifests, inBrands);
-      for (const SearchHit& hit : inManifests) {
-        if (!hit.isSection()) QCOMPARE(hit.title, titles.value(*hit.itemID));
-      }
-    }
-    QVERIFY(!SearchableBrand::read("{\"name\":\"x\"}"));
-  }
-
   // Enough packages for several threads, some of which can't be read.
   void findsInALibraryWhatItsBrandsHold() {
     TestLibrary library;
@@ -154,12 +104,6 @@ class TestSearch : public QObject {
     QCOMPARE(count("marks"), 2);
     QVERIFY(QDir(library.packagePath("Bad")).removeRecursively());
     QCOMPARE(count("marks"), 1);
-  }
-
-  void holdsLessThanTheManifests() {
-    RandomBrand random(2);
-    const Brand brand = random.brand(5, 60);
-    QVERIFY(SearchableBrand(brand).memory() < encode(brand)->size());
   }
 
   void revealsASection() {

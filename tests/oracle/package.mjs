@@ -122,7 +122,7 @@ function assetMaker(folder, rng) {
 // Records
 
 const ROLES = ['primary', 'secondary', 'mono', 'reversed', 'horizontal', 'stacked', 'icon', 'wordmark', 'emblem'];
-const FAMILIES = ['Inter', 'inter', 'In"ter', '"Inter"', '', 'Noto Sans', '<Serif>', "O'Font"];
+const FAMILIES = ['Inter', 'Inter', 'inter', 'In"ter', '"Inter"', '', 'Noto Sans', '<Serif>', "O'Font"];
 
 function makeBrand(folder, rng, { wild, images }) {
   const asset = assetMaker(folder, rng);
@@ -168,22 +168,11 @@ function makeBrand(folder, rng, { wild, images }) {
   const sections = rng.times(rng.pick([0, 1, 1, 2, 3, 4, 5]), section);
   const add = (made) => sections.length > 0 && rng.pick(sections).items.push(made);
   rng.times(images, () => add(item('image')));
-  if (rng.chance(0.3)) addFamily(add, () => item('font'), rng);
   return {
     id: id(), name: brandName(rng), ...some('emblem', emblem, 0.6),
     ...some('accentHex', () => hex(rng)), ...some('accentHexDark', () => hex(rng)),
     createdAt: date(), updatedAt: date(), schemaVersion: rng.pick([1, 1, 0, 2, -7]), sections,
   };
-}
-
-// Three fonts of one family, the first without its file: the others must not take its place.
-function addFamily(add, makeFont, rng) {
-  ['Fa"mily', 'Family', 'Family"'].forEach((family, i) => {
-    const font = makeFont();
-    font.payload.font.value.family = family;
-    font.payload.font.value.asset = { filename: i === 0 ? `${uuid(rng)}.ttf` : 'plain.png', originalName: text(rng) };
-    add(font);
-  });
 }
 
 // Loose text: another order, other spacing, other spellings and keys nobody knows

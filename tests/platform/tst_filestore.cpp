@@ -1,12 +1,19 @@
 #include "testing/Cases.h"
+#include "testing/InProcess.h"
 #include "testing/TestServices.h"
 
 #include <QTest>
 
+#include <csignal>
+#include <fcntl.h>
+#include <functional>
+#include <sched.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 using namespace tarnloft;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -24,6 +31,8 @@ struct Tree {
     link("../../p.tarnloft-other/x", "/assets/sibling");
     link("nowhere", "/assets/dangling");
     link("loop", "/assets/loop");
+    link("assets", "/inside");
+    link("../p.tarnloft-other", "/outside");
     ::symlink(QFile::encodeName(root + "/assets/a.png").constData(),
               QFile::encodeName(root + "/assets/absolute").constData());
   }
@@ -32,26 +41,45 @@ struct Tree {
   }
 };
 
-Result<void> replaced(FileStore& files, const QString& path, const QByteArray& content) {
+constexpr rlim_t limit = 1 << 20;  // bytes of a file
+
+mode_t rightsOf(const QString& path) {
+  struct stat info {};
+  return ::lstat(QFile::encodeName(path).constData(), &info) == 0 ? info.st_mode & 07777 : 0;
+}
+
+constexpr int notAllowed = 77;
+
+// Leaves the process without /proc, through which alone a file without a name can be given one.
+bool leaveProc(const QString& root) {
+  if (::geteuid() != 0 && ::unshare(CLONE_NEWUSER) != 0) return false;
+  return ::chroot(QFile::encodeName(root).constData()) == 0 && ::chdir("/") == 0;
+}
+
+using Making = std::function<bool(PosixFileStore&, const QString& source, const QString& folder)>;
+
+Result<void> written(FileStore& files, const QString& path, const QByteArray& content) {
   auto file = files.createTemporary(path);
   if (!file) return tl::unexpected(file.error());
-  if (auto written = (*file)->write(content); !written) return written;
+  if (auto done = (*file)->write(content); !done) return done;
   return files.replace(**file, path);
 }
 
-struct Package {
-  TestServices disk;
-  QString root = disk.path("p.tarnloft");
-  QString source = disk.path("source");
-
-  Package() {
-    QDir().mkpath(root + "/assets");
-    writeFile(source, "content");
-  }
-  std::shared_ptr<OpenFolder> open(const char* name = "assets") const {
-    return disk.files.openFolder(root + '/' + name, root).value_or(nullptr);
-  }
-};
+const QList<QPair<const char*, Making>> makings{
+    {"copied", [](auto& files, auto& source,
+                  auto& folder) { return files.copyFile(source, folder + "/new").has_value(); }},
+    {"copied in",
+     [](auto& files, auto& source, auto& folder) {
+       return (*files.openFolder(folder, folder))->copyIn(source, "new").has_value();
+     }},
+    {"written in",
+     [](auto& files, auto& source, auto& folder) {
+       const QByteArray content = contentOf(source);
+       return (*files.openFolder(folder, folder))->writeIn(content, "new").has_value();
+     }},
+    {"written", [](auto& files, auto& source, auto& folder) {
+       return written(files, folder + "/new", contentOf(source)).has_value();
+     }}};
 
 }  // namespace
 
@@ -73,20 +101,28 @@ class TestFileStore : public QObject {
     }
     QVERIFY(!opens(QString("a.png") + QChar(u'\0')));
     QVERIFY(!tree.disk.files.open(tree.root + "/assets/a.png", QString()));  // inside of nothing
+    const auto opensFolder = [&](const QString& name) {
+      return tree.disk.files.openFolder(tree.root + name, tree.root).has_value();
+    };
+    for (const char* good : {"", "/assets", "/inside"}) QVERIFY2(opensFolder(good), good);
+    for (const char* bad : {"/outside", "-other", "/..", "/assets/a.png", "/missing"}) {
+      QVERIFY2(!opensFolder(bad), bad);
+    }
   }
 
   void tellsWhatIsntThereFromWhatFails() {
     using enum ErrorKind;
     using Kind = std::optional<ErrorKind>;
     const Tree tree;
-    tree.link("/nowhere/at/all", "/assets/lost");
+    const QString pipe = tree.root + "/assets/pipe";
+    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     const Cases<QString, Kind, Kind> cases{
         {"there", "a.png", {}, {}},
         {"missing", "missing", notFound, notFound},
         {"in a missing folder", "missing/file", notFound, notFound},
         {"in a file", "a.png/file", notFound, io},
         {"dangling", "dangling", {}, notFound},
-        {"dangling, absolute", "lost", {}, notFound},
+        {"a pipe, which may never answer", "pipe", {}, refused},
         {"a loop", "loop", {}, io},
         {"in a loop", "loop/file", io, io},
         {"outside", "out", {}, refused},
@@ -99,87 +135,6 @@ class TestFileStore : public QObject {
       QCOMPARE(kindOf(tree.disk.files.identity(path)), identity);
       QCOMPARE(kindOf(tree.disk.files.open(path, tree.root)), open);
     });
-  }
-
-  void listsHiddenNamesWhenAsked() {
-    TestServices disk;
-    for (const char* name : {"b", ".hidden", "..", "a/x", "...", "Z"}) {
-      writeFile(disk.path(name), "x");
-    }
-    QCOMPARE(*disk.files.list(disk.folder.path()), QStringList({"Z", "a", "b"}));
-    QCOMPARE(*disk.files.listAll(disk.folder.path()),
-             QStringList({"...", ".hidden", "Z", "a", "b"}));
-    QVERIFY(!disk.files.list(disk.path("missing")) && !disk.files.listAll(disk.path("b")));
-  }
-
-  void neverWaitsOnAPipe() {
-    const Tree tree;
-    const QString pipe = tree.root + "/assets/pipe";
-    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    const auto file = tree.disk.files.open(pipe, tree.root);
-    QVERIFY(!file);
-    QCOMPARE(file.error().kind, ErrorKind::refused);
-  }
-
-  void refusesToReplaceWhatIsNoFile() {
-    Tree tree;
-    const QString pipe = tree.disk.path("pipe");
-    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    for (const QString& path : {pipe, tree.root}) {
-      QVERIFY(!replaced(tree.disk.files, path, "x"));
-      QVERIFY(!QFileInfo(path).isFile());
-    }
-    QVERIFY(QDir(tree.disk.folder.path())
-                .entryList({".tarnloft-*"}, QDir::Hidden | QDir::Files)
-                .isEmpty());
-  }
-
-  void keepsTheRightsOfAReplacedFile() {
-    TestServices disk;
-    const QString path = disk.path("file");
-    QVERIFY(writeFile(path, "old"));
-    QCOMPARE(::chmod(QFile::encodeName(path).constData(), 06640), 0);
-    QVERIFY(replaced(disk.files, path, "new"));
-    QCOMPARE(contentOf(path), QByteArray("new"));
-    struct stat info;
-    QCOMPARE(::stat(QFile::encodeName(path).constData(), &info), 0);
-    QCOMPARE(info.st_mode & 07777, 0640u);
-  }
-
-  void takesBackAndRepeats() {
-    TestServices disk;
-    auto file = disk.files.createTemporary(disk.path("x"));
-    QVERIFY(file);
-    QVERIFY((*file)->write("abcdef"));
-    QVERIFY((*file)->truncate(4));
-    QVERIFY((*file)->repeat(1, 3));
-    QVERIFY((*file)->write("!"));
-    QVERIFY(!(*file)->repeat(20, 5));  // stands beyond the end
-    QVERIFY(disk.files.replace(**file, disk.path("x")));
-    QCOMPARE(contentOf(disk.path("x")), QByteArray("abcdbcd!"));
-  }
-
-  void leavesNothingOfAFileThatFoundNoPlace() {
-    TestServices disk;
-    {
-      auto file = disk.files.createTemporary(disk.path("x"));
-      QVERIFY(file && (*file)->write("abc"));
-      // Without a name from the start: not even a killed process leaves it behind.
-      QCOMPARE(namesIn(disk.folder.path()), QStringList());
-    }
-    QCOMPARE(namesIn(disk.folder.path()), QStringList());
-  }
-
-  void makesParents() {
-    TestServices disk;
-    const QString deep = disk.path("a/b/c");
-    QVERIFY(disk.files.makeFolder(deep));
-    QVERIFY(disk.files.makeFolder(deep));
-    QVERIFY(disk.files.makeFolder(disk.path("d/e/")));
-    QVERIFY(QFileInfo(deep).isDir());
-    QVERIFY(writeFile(disk.path("file"), "x"));
-    QVERIFY(!disk.files.makeFolder(disk.path("file")));
-    QVERIFY(!disk.files.makeFolder(disk.path("file/inside")));
   }
 
   void temporaryFoldersAreTheUsersOwn() {
@@ -210,16 +165,6 @@ class TestFileStore : public QObject {
     }
   }
 
-  void movesOnlyToAFreePlace() {
-    TestServices disk;
-    QVERIFY(writeFile(disk.path("old/kept"), "x"));
-    QVERIFY(QDir().mkpath(disk.path("taken")));
-    QVERIFY(!disk.files.moveFolder(disk.path("old"), disk.path("taken")));
-    QVERIFY(disk.files.moveFolder(disk.path("old"), disk.path("new")));
-    QCOMPARE(contentOf(disk.path("new/kept")), QByteArray("x"));
-    QVERIFY(!disk.files.exists(disk.path("old")));
-  }
-
   void followsLinksForPages() {
     const Tree tree;
     const QString assets = tree.root + "/assets/";
@@ -227,83 +172,147 @@ class TestFileStore : public QObject {
              QFileInfo(assets + "a.png").canonicalFilePath());
     QCOMPARE(*tree.disk.files.resolved(assets + "new"), assets + "new");
     QVERIFY(!tree.disk.files.resolved(assets + "dangling"));
-    // As text it would be another file's path.
-    QVERIFY(writeFile(assets + "caf\ufffd", "x"));
-    const QByteArray raw = QFile::encodeName(assets) + "caf\xe9";
-    QCOMPARE(::rename(QFile::encodeName(assets + "a.png").constData(), raw.constData()), 0);
-    QCOMPARE(::symlink("caf\xe9", QFile::encodeName(assets + "raw").constData()), 0);
-    QVERIFY(!tree.disk.files.resolved(assets + "raw"));
-    QVERIFY(tree.disk.files.open(assets + "raw", tree.root));
-    QCOMPARE(::unlink(raw.constData()), 0);  // the toolkit couldn't
   }
 
-  void takesFilesInWhereverItIsMoved() {
-    Package package;
-    const auto folder = package.open();
-    QVERIFY(folder);
-    QCOMPARE(*folder->path(), QFileInfo(package.root + "/assets").canonicalFilePath());
-    for (const char* name : {"a (deleted)", "b"}) {
-      const QString moved = package.disk.path(name);
-      QVERIFY(QDir().rename(package.root, moved));
-      QVERIFY(folder->copyIn(package.source, QString("copied to ") + name));
-      QVERIFY(folder->writeIn("written", QString("written to ") + name));
-      QCOMPARE(*folder->path(), QFileInfo(moved + "/assets").canonicalFilePath());
-      QCOMPARE(contentOf(moved + "/assets/copied to " + name), "content");
-      QCOMPARE(contentOf(moved + "/assets/written to " + name), "written");
-      package.root = moved;
+  // Files that come into being: whole or not at all, whatever happens to the disk and the program.
+
+  void filesAppearWholeOrNotAtAll() {
+    for (const auto& [how, making] : makings) {
+      for (const bool killed : {false, true}) {  // or the disk is full
+        TestServices disk;
+        const QString source = disk.path("source"), folder = disk.path("folder");
+        QVERIFY(writeFile(source, QByteArray(3 * limit, 'x')) && QDir().mkpath(folder));
+        const auto make = [&, &make = making] { return make(disk.files, source, folder); };
+        const int status = inProcess([&] {
+          const rlimit most{limit, limit}, none{0, 0};
+          ::setrlimit(RLIMIT_CORE, &none);
+          ::signal(SIGXFSZ, killed ? SIG_DFL : SIG_IGN);
+          return ::setrlimit(RLIMIT_FSIZE, &most) == 0 && make();
+        });
+        QVERIFY2(killed ? WIFSIGNALED(status) : WIFEXITED(status) && WEXITSTATUS(status) == 1, how);
+        QCOMPARE(namesIn(folder), QStringList());
+        QVERIFY2(make(), how);
+        QCOMPARE(namesIn(folder), QStringList("new"));
+        QCOMPARE(contentOf(folder + "/new").size(), qsizetype(3 * limit));
+      }
     }
-    QCOMPARE(namesIn(package.root + "/assets").size(), 4);
   }
 
-  void takesNothingInOnceDeleted() {
-    Package package;
-    const auto folder = package.open();
-    QVERIFY(folder && QDir(package.root).removeRecursively());
-    for (int again = 0; again < 2; ++again) {
-      QVERIFY(!folder->copyIn(package.source, "copied"));
-      QVERIFY(!folder->writeIn("written", "written"));
-      QVERIFY(!folder->path());
-      QVERIFY(QDir().mkpath(package.root + "/assets"));  // another one in its place
+  void filesAppearWhereTheyNeedAHiddenName() {
+    TestServices disk;
+    QVERIFY(writeFile(disk.path("source"), "content"));
+    for (const auto& making : makings) {
+      QVERIFY(QDir().mkpath(disk.path(making.first)));
+      const int status = inProcess([&] {
+        const QString folder = QString("/") + making.first;
+        if (!leaveProc(disk.folder.path())) ::_exit(notAllowed);
+        const bool made = making.second(disk.files, "/source", folder);
+        (void)making.second(disk.files, "/source", folder);  // its place is taken by now
+        return made && namesIn(folder) == QStringList("new");
+      });
+      if (WEXITSTATUS(status) == notAllowed) QSKIP("The system lets nobody change the root folder");
+      QVERIFY2(WIFEXITED(status) && WEXITSTATUS(status) == 0, making.first);
+      QCOMPARE(contentOf(disk.path(making.first) + "/new"), "content");
     }
-    QCOMPARE(namesIn(package.root + "/assets"), QStringList());
   }
 
-  void isOpenedOnlyInside() {
-    const Cases<QString, bool> cases{{"inside", "p/assets", true},
-                                     {"the root", "p", true},
-                                     {"a link to the inside", "p/in", true},
-                                     {"an absolute link to the inside", "p/absolute", true},
-                                     {"the root by another way", "link", true},
-                                     {"a link to the outside", "p/out", false},
-                                     {"beside", "p2", false},
-                                     {"above", "p/..", false},
-                                     {"a file", "p/assets/file", false},
-                                     {"nothing", "p/missing", false}};
-    cases.check([&](const QString& path, bool opens) {
-      TestServices disk;
-      QVERIFY(writeFile(disk.path("p/assets/file"), "x") && QDir().mkpath(disk.path("p2")));
-      QVERIFY(QFile::link("assets", disk.path("p/in")) && QFile::link("../p2", disk.path("p/out")));
-      QVERIFY(QFile::link(disk.path("p/assets"), disk.path("p/absolute")));
-      QVERIFY(QFile::link("p", disk.path("link")));
-      QCOMPARE(disk.files.openFolder(disk.path(path), disk.path("p")).has_value(), opens);
-    });
+  void keepsWhatAFileIsExchangedWith() {
+    TestServices disk;
+    const QString path = disk.path("file");
+    const auto exchanged = [&](const QByteArray& content) {
+      auto file = disk.files.createTemporary(path);
+      return (*file)->write(content).and_then([&] { return disk.files.exchange(**file, path); });
+    };
+    const auto first = exchanged("first");
+    QVERIFY(first && first->displacedPath.isEmpty());
+    QCOMPARE(namesIn(disk.folder.path()), QStringList("file"));
+    const auto second = exchanged("second");
+    QVERIFY(second && QFileInfo(second->displacedPath).fileName().startsWith(".tarnloft-"));
+    QCOMPARE(contentOf(path), "second");
+    QCOMPARE(contentOf(second->displacedPath), "first");
+    QCOMPARE(namesIn(disk.folder.path()).size(), 2);
+    QVERIFY(disk.files.moveOver(second->displacedPath, path));
+    QCOMPARE(contentOf(path), "first");
+    QCOMPARE(namesIn(disk.folder.path()), QStringList("file"));
   }
 
-  void refusesNames() {
-    Package package;
-    const QString assets = package.root + "/assets";
-    QVERIFY(writeFile(assets + "/taken", "old") && QDir().mkpath(assets + "/folder"));
-    QVERIFY(QDir().mkpath(assets + "/sub"));
-    const auto folder = package.open();
-    QVERIFY(folder);
-    for (const QString& name :
-         QStringList{"", ".", "..", "../out", "sub/file", "taken", "folder", QString(300, 'x')}) {
-      QVERIFY2(!folder->copyIn(package.source, name), qPrintable(name));
-      QVERIFY2(!folder->writeIn("new", name), qPrintable(name));
+  void movesOverFilesAndToFreePlacesAlone() {
+    TestServices disk;
+    const QString file = disk.path("file"), folder = disk.path("folder");
+    QVERIFY(writeFile(file, "x") && QDir().mkpath(folder));
+    QVERIFY(!disk.files.moveOver(file, folder));
+    QVERIFY(!disk.files.moveOver(disk.path("missing"), file));
+    QVERIFY(!written(disk.files, folder, "x"));
+    const auto temporary = disk.files.createTemporary(disk.path("other"));
+    QVERIFY(!disk.files.exchange(**temporary, folder));
+    QVERIFY(QFileInfo(folder).isDir());
+    QCOMPARE(contentOf(file), "x");
+    QVERIFY(QDir().mkpath(disk.path("taken")) &&
+            !disk.files.moveFolder(folder, disk.path("taken")));
+    QVERIFY(disk.files.moveFolder(folder, disk.path("free")));
+    QCOMPARE(namesIn(disk.folder.path()), QStringList({"file", "free", "taken"}));
+  }
+
+  void filesTellTheirIdentityInPlace() {
+    TestServices disk;
+    const QString path = disk.path("file");
+    for (const bool exchanges : {false, true, false}) {
+      auto file = disk.files.createTemporary(path);
+      QVERIFY(file && (*file)->write("content"));
+      QTest::qWait(20);  // the clock of files is coarse, and the rename must move their time on
+      const FileIdentity before = (*file)->identity();
+      QVERIFY(exchanges ? disk.files.exchange(**file, path).has_value()
+                        : disk.files.replace(**file, path).has_value());
+      QCOMPARE((*file)->identity(), *disk.files.identity(path));
+      QVERIFY((*file)->identity() != before);
     }
-    QVERIFY(!folder->copyIn(package.root, "a folder") && !folder->copyIn("missing", "x"));
-    QCOMPARE(namesIn(assets), QStringList({"folder", "sub", "taken"}));
-    QCOMPARE(contentOf(assets + "/taken"), "old");
+  }
+
+  void filesCanBeChangedByTheirOwner() {
+    TestServices disk;
+    const QString source = disk.path("from/file");
+    QVERIFY(writeFile(source, "x") && writeFile(disk.path("replaced"), "x"));
+    const auto setRights = [](const QString& path, mode_t rights) {
+      QCOMPARE(::chmod(QFile::encodeName(path).constData(), rights), 0);
+    };
+    setRights(source, 0440);
+    setRights(disk.path("replaced"), 0040);
+    setRights(disk.path("from"), 0500);
+    QVERIFY(disk.files.copyFile(source, disk.path("copy")));
+    QVERIFY(disk.files.copyFolder(disk.path("from"), disk.path("tree")));
+    QVERIFY((*disk.files.openFolder(disk.path("tree"), disk.path("tree")))->copyIn(source, "in"));
+    QVERIFY(written(disk.files, disk.path("replaced"), "new"));
+    for (const char* name : {"copy", "tree/file", "tree/in", "replaced"}) {
+      QCOMPARE(rightsOf(disk.path(name)), mode_t(0640));
+    }
+    QCOMPARE(rightsOf(disk.path("tree")), mode_t(0700));
+    setRights(disk.path("from"), 0700);
+  }
+
+  void leftoversAreSweptWhenTheyAreOld() {
+    TestServices disk;
+    QVERIFY(writeFile(disk.path(".tarnloft-1y2p0ij32e8e7"), "x"));
+    QVERIFY(writeFile(disk.path(".tarnloft-0/deep/file"), "x"));
+    const QStringList others{".tarnloft-", ".tarnloft-1y2p0ij32e8e77", ".tarnloft-x.json"};
+    for (const QString& name : others) QVERIFY(writeFile(disk.path(name), "x"));
+    QVERIFY(writeFile(disk.path("elsewhere/.tarnloft-1"), "x"));
+    QVERIFY(QFile::link("elsewhere", disk.path(".tarnloft-2")));
+    const QStringList all = namesIn(disk.folder.path());
+    // A file whose content is old may have come just now: the time of its record counts too.
+    const timespec longAgo[] = {{1, 0}, {1, 0}};
+    QCOMPARE(
+        ::utimensat(AT_FDCWD, QFile::encodeName(disk.path(".tarnloft-0")).constData(), longAgo, 0),
+        0);
+    disk.files.sweepTemporaries(disk.folder.path(), 1h);
+    QCOMPARE(namesIn(disk.folder.path()), all);
+    QTest::qWait(20);
+    disk.files.sweepTemporaries(disk.folder.path(), 0h);
+    QStringList left = others + QStringList{"elsewhere", ".tarnloft-2"};
+    left.sort();
+    QStringList found = namesIn(disk.folder.path());
+    found.sort();
+    QCOMPARE(found, left);
+    QVERIFY(disk.files.exists(disk.path("elsewhere/.tarnloft-1")));
   }
 };
 

@@ -1,4 +1,5 @@
 #include "platform/desktop/files/GioTrash.h"
+#include "testing/Cases.h"
 #include "testing/InProcess.h"
 #include "testing/TestServices.h"
 
@@ -14,36 +15,6 @@ using namespace tarnloft;
 namespace {
 
 constexpr uid_t ordinaryUser = 65534;
-
-// Faults that the system lays in the way, each by a change of the user's folders.
-const QHash<QString, std::function<void(const QString& home)>> faults{
-    {"the trash is a file",
-     [](const QString& home) {
-       QVERIFY(QDir(home + "/share/Trash").removeRecursively());
-       QVERIFY(writeFile(home + "/share/Trash", "x"));
-     }},
-    {"the records' folder is a file",
-     [](const QString& home) {
-       QVERIFY(QDir().rmdir(home + "/share/Trash/info"));
-       QVERIFY(writeFile(home + "/share/Trash/info", "x"));
-     }},
-    {"the files' folder is a file",
-     [](const QString& home) {
-       QVERIFY(QDir().rmdir(home + "/share/Trash/files"));
-       QVERIFY(writeFile(home + "/share/Trash/files", "x"));
-     }},
-    {"no right to the records' folder",
-     [](const QString& home) {
-       ::chmod(QFile::encodeName(home + "/share/Trash/info").constData(), 0500);
-     }},
-    {"no right to the files' folder",
-     [](const QString& home) {
-       ::chmod(QFile::encodeName(home + "/share/Trash/files").constData(), 0500);
-     }},
-    {"no right to the package's folder",
-     [](const QString& home) { ::chmod(QFile::encodeName(home + "/library").constData(), 0500); }},
-    {"a full disk", [](const QString&) {}},
-};
 
 // The user's folders, with a package, an empty trash, and a working directory that stays empty.
 struct Home {
@@ -121,17 +92,36 @@ class TestTrash : public QObject {
     QCOMPARE(home.entries("work"), QStringList());
   }
 
+  // Faults that the system lays in the way, each by a change of the user's folders.
   void whatItCantTakeStaysWhole() {
-    for (const QString& fault : faults.keys()) {
+    using Change = std::function<void(const QString& trash, const QByteArray& library)>;
+    const Cases<bool, Change> cases{
+        {"the trash is a file", false,
+         [](const QString& trash, const QByteArray& /*library*/) {
+           QVERIFY(QDir(trash).removeRecursively() && writeFile(trash, "x"));
+         }},
+        {"the records' folder is a file", false,
+         [](const QString& trash, const QByteArray& /*library*/) {
+           QVERIFY(QDir().rmdir(trash + "/info") && writeFile(trash + "/info", "x"));
+         }},
+        {"no right to the files' folder", false,
+         [](const QString& trash, const QByteArray& /*library*/) {
+           ::chmod(QFile::encodeName(trash + "/files").constData(), 0500);
+         }},
+        {"no right to the package's folder", false,
+         [](const QString& /*trash*/, const QByteArray& library) { ::chmod(library, 0500); }},
+        {"a full disk", true, [](const auto&, const auto&) {}}};
+    cases.check([](bool isDiskFull, const Change& change) {
       const Home home;
       QVERIFY(!throwsAway(home, home.folder.filePath("missing")) && !throwsAway(home, QString()));
-      faults.value(fault)(home.folder.path());
-      QVERIFY2(!throwsAway(home, home.package, fault == "a full disk"), qPrintable(fault));
+      change(home.folder.filePath("share/Trash"),
+             QFile::encodeName(home.folder.filePath("library")));
+      QVERIFY(!throwsAway(home, home.package, isDiskFull));
       QCOMPARE(contentOf(home.package + "/manifest.json"), "x");
       for (const char* name : {"share/Trash/info", "share/Trash/files", "work"}) {
         QCOMPARE(home.entries(name), QStringList());
       }
-    }
+    });
   }
 };
 

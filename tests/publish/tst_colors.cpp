@@ -2,9 +2,6 @@
 #include "publish/PaletteExport.h"
 #include "testing/Cases.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QTest>
 
 using namespace tarnloft;
@@ -22,34 +19,22 @@ class TestColors : public QObject {
 
  private slots:
   void parsesAndWritesBack() {
-    const QList<QPair<QString, QString>> colors{{"#4C6FFF", "#4C6FFFFF"},
-                                                {"#FFF", "#FFFFFFFF"},
-                                                {"4c6fff80", "#4C6FFF80"},
-                                                {" #abc\n", "#AABBCCFF"},
-                                                {"\u2003#abc\u00a0", "#AABBCCFF"},
-                                                {"+FF", "#00FFFFFF"},
-                                                {"-00", "#000000FF"},
-                                                {"#+00000", "#000000FF"}};
+    QList<QPair<QString, QString>> colors{{"#4C6FFF", "#4C6FFFFF"},
+                                          {"4c6fff80", "#4C6FFF80"},
+                                          {"\u2003#abc\u00a0", "#AABBCCFF"},
+                                          {"#+00000", "#000000FF"}};
+    for (int value = 0; value < 256; ++value) {  // no byte is rounded to another one
+      const QString text = QString("#%1%1%1FF").arg(value, 2, 16, QLatin1Char('0')).toUpper();
+      colors.append({text, text});
+    }
     for (const auto& [text, written] : colors) {
       const auto color = ColorUtil::nsColor(text);
       QVERIFY2(color, qPrintable(text));
       QCOMPARE(ColorUtil::hex(*color, ColorUtil::Alpha::include), written);
       QCOMPARE(ColorUtil::hex(*color), written.left(7));
     }
-    for (const char* bad : {"-01", "", "#", "##FFF", "#1234", "nope", "#12 456", "+", "0x123456",
-                            "#FFFFFFFFF", "１２３"}) {
+    for (const char* bad : {"-01", "", "##FFF", "#1234", "nope", "#12 456", "１２３"}) {
       QVERIFY2(!ColorUtil::nsColor(bad), bad);
-    }
-  }
-
-  void everyByteSurvives() {
-    for (int value = 0; value < 256; ++value) {
-      const QString text = QString("#%1%2%3")
-                               .arg(value, 2, 16, QLatin1Char('0'))
-                               .arg(255 - value, 2, 16, QLatin1Char('0'))
-                               .arg(value / 2, 2, 16, QLatin1Char('0'))
-                               .toUpper();
-      QCOMPARE(ColorUtil::hex(*ColorUtil::nsColor(text)), text);
     }
   }
 
@@ -79,14 +64,10 @@ class TestColors : public QObject {
   void refusedTextsFallBack() {
     QCOMPARE(ColorUtil::formatVariants(str("nope")).size(), 1);
     QCOMPARE(ColorUtil::formatted(str("nope"), ColorCopyFormat::hex), str("nope"));
-    for (const auto format : {ColorCopyFormat::hexLower, ColorCopyFormat::rgb, ColorCopyFormat::hsl,
-                              ColorCopyFormat::cmyk}) {
-      QCOMPARE(ColorUtil::formatted(str("nope"), format), str("NOPE"));
-    }
-    QVERIFY(!ColorUtil::cmyk(str("nope")) && !ColorUtil::relativeLuminance(str("nope")));
+    QCOMPARE(ColorUtil::formatted(str("nope"), ColorCopyFormat::rgb), str("NOPE"));
     QVERIFY(!ColorUtil::wcagBadge(str("nope")));
     QVERIFY(ColorUtil::contrastRows(str("nope")).isEmpty());
-    QVERIFY(!fromRawValue<ColorCopyFormat>("lab"));
+    QCOMPARE(ColorUtil::contrastingText(str("nope")), TextColor::primary);
   }
 
   void gradesContrast() {
@@ -98,13 +79,8 @@ class TestColors : public QObject {
     QCOMPARE(ColorUtil::contrastRows("#767676"),
              QStringList({"On white  4.54:1 · AA", "On black  4.62:1 · AA"}));
     QCOMPARE(ColorUtil::wcagBadge("#000"), std::optional(QString("AAA")));
-  }
-
-  void choosesTextColors() {
     QCOMPARE(ColorUtil::contrastingText(str("#999999")), TextColor::white);  // luma is 0.6 exactly
     QCOMPARE(ColorUtil::contrastingText(str("#9A9A9A")), TextColor::black);
-    QCOMPARE(ColorUtil::contrastingText(str("#0000FF")), TextColor::white);
-    QCOMPARE(ColorUtil::contrastingText(str("nope")), TextColor::primary);
   }
 
   void resolvesAccents() {
@@ -136,11 +112,12 @@ class TestColors : public QObject {
          "    static let abcdef = Color(hex: \"#ABCDEF\")\n}",
          "import SwiftUI\n\nextension Color {\n\n}"},
         {"json", Format::json,
-         "[\n  { \"name\": \"Brand Blue\", \"hex\": \"#123456\", \"spot\": \"PMS 021 C\" },\n"
+         "[\n  { \"name\": \"Brand Blue\", \"hex\": \"#123456\", \"spot\": \"PMS \\\"021\\\" C\" "
+         "},\n"
          "  { \"name\": \"#ABCDEF\", \"hex\": \"#ABCDEF\" }\n]",
          "[\n\n]"}};
     cases.check([&](const Format& format, const QString& full, const QString& empty) {
-      const QList<Entry> colors{{str("Brand Blue"), str("#123456"), str("PMS 021 C")},
+      const QList<Entry> colors{{str("Brand Blue"), str("#123456"), str("PMS \"021\" C")},
                                 {QString(), str("#ABCDEF"), {}}};
       QCOMPARE(PaletteExport::format(colors, format), full);
       QCOMPARE(PaletteExport::format({}, format), empty);
@@ -163,34 +140,9 @@ class TestColors : public QObject {
       for (const QString& slug : slugs) expected << str("$") + slug + str(": #000;");
       QCOMPARE(PaletteExport::format(colors, Format::scss), expected.join('\n'));
     });
-  }
-
-  void makesIdentifiers() {
-    const Cases<QString, QString> cases{{"words", "brand-blue", "brandBlue"},
-                                        {"number behind", "blue-2", "blue2"},
-                                        {"number in front", "123456", "c123456"},
-                                        {"nothing", "--", "color"},
-                                        {"accents", "bleu-été", "bleuÉté"}};
-    cases.check([&](const QString& slug, const QString& identifier) {
-      QCOMPARE(PaletteExport::camelCase(slug), identifier);
-    });
-  }
-
-  void jsonReads() {
-    const QList<Entry> colors{{str("a\"b\\"), str("#123"), str("")}};
-    const auto read =
-        QJsonDocument::fromJson(PaletteExport::format(colors, Format::json).toUtf8()).array();
-    QCOMPARE(read.at(0)[u"name"].toString(), str("a\"b\\"));
-    QVERIFY(read.at(0).toObject().contains(u"spot"));
-  }
-
-  void takesTheColorsOfASection() {
-    Section section = Section::create(str("Colors"));
-    section.items = {Item::create(TextPayload{str("x")}),
-                     Item::create(ColorPayload{{str("#abc"), {}, str("PMS 1")}}),
-                     Item::create(ColorPayload{{str("#def"), str("Sky"), {}}})};
-    QCOMPARE(PaletteExport::entries(section),
-             QList<Entry>({{QString(), str("#ABC"), str("PMS 1")}, {str("Sky"), str("#DEF"), {}}}));
+    QCOMPARE(PaletteExport::camelCase("bleu-été-2"), "bleuÉté2");
+    QCOMPARE(PaletteExport::camelCase("123456"), "c123456");
+    QCOMPARE(PaletteExport::camelCase("--"), "color");
   }
 };
 

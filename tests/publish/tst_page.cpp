@@ -1,8 +1,6 @@
 #include "document/Package.h"
 #include "publish/BrandPageExporter.h"
 #include "publish/PageMarkup.h"
-#include "testing/Cases.h"
-#include "testing/FakeDialogs.h"
 #include "testing/FaultyStore.h"
 #include "testing/RandomBrand.h"
 #include "testing/TestServices.h"
@@ -66,7 +64,7 @@ class TestPage : public QObject {
 
   void dataURLsHoldTheFile() {
     QRandomGenerator random(1);
-    for (const int size : {0, 1, 2, 3, 4, 393215, 393216, 393217, 2 * 393216, 1'000'001}) {
+    for (const int size : {0, 1, 2, 3, 393215, 393216, 393217, 1'000'001}) {
       QByteArray content(size, Qt::Uninitialized);
       for (char& c : content) c = char(random.generate());
       Page page;
@@ -107,37 +105,6 @@ class TestPage : public QObject {
       QCOMPARE(contentOf(page.path), QByteArray("old"));
       QVERIFY(page.strays().isEmpty());
     }
-  }
-
-  void suggestsAFileName() {
-    const Cases<QString, QString> cases{{"plain", " Acme\n", "Acme Brand Page.html"},
-                                        {"separators", "a/b:c", "a-b-c Brand Page.html"},
-                                        {"blank", "  ", "Untitled Brand Brand Page.html"}};
-    cases.check([&](const QString& name, const QString& file) {
-      QCOMPARE(BrandPageExporter::suggestedFileName(name), file);
-    });
-  }
-
-  void exportsThroughTheDialog() {
-    Page page;
-    ScriptedDialogs dialogs;
-    ListedViewer viewer;
-    const auto exportPage = [&] {
-      bool hasFailed = false;
-      BrandPageExporter::exportPage(*page.document, page.store, dialogs, viewer, immediateDisk(),
-                                    [&](const Error&) { hasFailed = true; });
-      return !hasFailed;
-    };
-    QVERIFY(exportPage());
-    QCOMPARE(dialogs.suggested, str("Acme Brand Page.html"));
-    QCOMPARE(dialogs.mimeType, str("text/html"));
-    QVERIFY(viewer.revealed.isEmpty());
-    dialogs.answer = page.path;
-    QVERIFY(exportPage());
-    QVERIFY(contentOf(page.path).startsWith("<!DOCTYPE html>"));
-    dialogs.answer = page.disk.path(str("no/such/folder.html"));
-    QVERIFY(!exportPage());
-    QCOMPARE(viewer.revealed, QStringList({page.path, *dialogs.answer}));
   }
 };
 
