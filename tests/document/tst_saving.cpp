@@ -182,29 +182,6 @@ class TestSaving : public QObject {
       QCOMPARE(kept->brand, asWritten(theirs));
     }
   }
-
-  void bytesOfANewerProgramAreKept() {
-    const Cases<QByteArray, QByteArray, bool> cases{
-        {"ours", "\"id\"", "\"id\"", false},
-        {"a key of the brand", "{\n  \"c", "{ \"boards\": [1],\n  \"c", true},
-        {"a key of a section", "\"name\" : \"Logos\"", "\"name\" : \"Logos\", \"grid\": 3", true},
-        {"another schema", "\"schemaVersion\" : 1", "\"schemaVersion\" : 2", true}};
-    cases.check([&](const QByteArray& from, const QByteArray& to, bool isKept) {
-      Saving saving;
-      const QByteArray newer = QByteArray(saving.before).replace(from, to);
-      QVERIFY((newer != saving.before) == isKept && writeFile(saving.manifest, newer));
-      for (const char* name : {"Once", "Twice"}) {  // each in a start of its own
-        const auto document =
-            BrandDocument::load(saving.disk.services(), saving.document->packageURL());
-        document->edit([&](Brand& brand) { brand.name = name; });
-        document->saveNow();
-      }
-      const QDir versions(Package::versionsPath(saving.document->packageURL()));
-      const QStringList kept = versions.entryList({"*.newer"});
-      QCOMPARE(kept.size(), isKept ? 1 : 0);
-      if (isKept) QCOMPARE(contentOf(versions.filePath(kept.first())), newer);
-    });
-  }
 };
 
 QTEST_GUILESS_MAIN(TestSaving)

@@ -3,8 +3,6 @@
 #include "testing/Cases.h"
 #include "testing/RandomBrand.h"
 
-#include <QAbstractItemModelTester>
-#include <QAbstractListModel>
 #include <QTest>
 
 #include <algorithm>
@@ -42,42 +40,6 @@ QString shown(const QList<ListChange>& changes) {
   return steps.join(' ');
 }
 
-// A view's list model over items, driven by nothing but the steps.
-class ItemModel : public QAbstractListModel {
- public:
-  SharedList<Item> items;
-
-  int rowCount(const QModelIndex& parent = {}) const override {
-    return parent.isValid() ? 0 : int(items.size());
-  }
-  QVariant data(const QModelIndex& index, int role) const override {
-    return role == Qt::DisplayRole ? items.at(index.row()).displayName() : QVariant();
-  }
-  void follow(const SharedList<Item>& next) {
-    for (const ListChange& step : listDifference(items, next)) apply(step, next);
-  }
-
- private:
-  void apply(const ListChange& step, const SharedList<Item>& next) {
-    const int from = int(step.from), to = int(step.to), count = int(step.count);
-    switch (step.kind) {
-      case Kind::remove:
-        beginRemoveRows({}, from, from + count - 1);
-        for (int i = 0; i < count; ++i) items.takeAt(from);
-        return endRemoveRows();
-      case Kind::insert:
-        beginInsertRows({}, to, to + count - 1);
-        for (int i = 0; i < count; ++i) items.insert(to + i, next.at(from + i));
-        return endInsertRows();
-      case Kind::move:
-        beginMoveRows({}, from, from, {}, to > from ? to + 1 : to);
-        items.insert(to, items.takeAt(from));
-        return endMoveRows();
-      case Kind::change: items[to] = next.at(to); emit dataChanged(index(to), index(to));
-    }
-  }
-};
-
 std::vector<int> elements(const SharedList<int>& list) { return {list.begin(), list.end()}; }
 
 }  // namespace
@@ -102,58 +64,6 @@ class TestLists : public QObject {
     cases.check([&](const QString& before, const QString& after, const QString& steps) {
       QCOMPARE(shown(difference(before, after)), steps);
     });
-  }
-
-  void aModelFollowsRandomEdits() {
-    RandomBrand random(23);
-    ItemModel model;
-    const QAbstractItemModelTester tester(&model,
-                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
-    SharedList<Item> list;
-    for (int round = 0; round < 400; ++round) {
-      for (int edits = random.below(6); edits >= 0; --edits) {
-        const int size = int(list.size());
-        const int what = random.below(4);
-        if (size == 0 || what == 0) {
-          list.insert(random.below(size + 1), random.item());
-        } else if (what == 1) {
-          list.takeAt(random.below(size));
-        } else if (what == 2) {
-          const Item moved = list.takeAt(random.below(size));
-          list.insert(random.below(size), moved);
-        } else {
-          list[random.below(size)].payload = TextPayload{QString::number(round)};
-        }
-      }
-      model.follow(list);
-      QVERIFY(model.items == list);
-    }
-  }
-
-  void movesAreAsFewAsCanBe() {
-    RandomBrand random(29);
-    for (int round = 0; round < 300; ++round) {
-      QString before = QString("abcdefgh").left(random.below(9)), after = before;
-      for (qsizetype i = after.size() - 1; i > 0; --i) {
-        const qsizetype other = random.below(int(i) + 1);
-        const QChar c = after[i];
-        after[i] = after[other];
-        after[other] = c;
-      }
-      // By trying all subsets: the longest that stands in the same order in both need not move.
-      int longest = 0;
-      for (int subset = 0; subset < 1 << before.size(); ++subset) {
-        QString a, b;
-        for (qsizetype i = 0; i < before.size(); ++i) {
-          if (subset >> i & 1) a += before[i];
-        }
-        for (const QChar c : after) {
-          if (a.contains(c)) b += c;
-        }
-        if (a == b) longest = std::max(longest, int(a.size()));
-      }
-      QCOMPARE(difference(before, after).size(), before.size() - longest);
-    }
   }
 
   void repeatedIdsReplaceTheList() {
