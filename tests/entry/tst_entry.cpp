@@ -1,6 +1,7 @@
 #include "entry/CommandLine.h"
 #include "entry/SupportFolder.h"
 #include "testing/Cases.h"
+#include "testing/FaultyStore.h"
 #include "testing/TestServices.h"
 
 #include <QTest>
@@ -25,18 +26,6 @@ class TestEntry : public QObject {
         [&](const QString& line, const Mode& mode) { QVERIFY(modeOf(line.split(u' ')) == mode); });
   }
 
-  void movesTheOldSupportFolderOnce() {
-    TestServices disk;
-    QVERIFY(writeFile(disk.path("Fenwright/Brands/x"), "kept"));
-    for (int start = 0; start < 2; ++start) {
-      SupportFolder::migrateIfNeeded(disk.files, disk.log, disk.folder.path());
-      QCOMPARE(contentOf(disk.path("Tarn Loft/Brands/x")), QByteArray("kept"));
-      QVERIFY(!disk.files.exists(disk.path("Fenwright")));
-    }
-    QCOMPARE(disk.log.lines,
-             QStringList("migrated support folder from “Fenwright” to “Tarn Loft”"));
-  }
-
   void leavesFoldersAlone() {
     TestServices disk;
     SupportFolder::migrateIfNeeded(disk.files, disk.log, disk.folder.path());
@@ -49,16 +38,14 @@ class TestEntry : public QObject {
   }
 
   void logsAFailedMove() {
-    class Stuck : public PosixFileStore {
-      Result<void> moveFolder(const QString&, const QString&) override {
-        return failure(ErrorKind::io, "Permission denied");
-      }
-    };
     TestServices disk;
-    Stuck files;
+    FaultyStore files;
+    files.fault = FaultyStore::Fault::failStep;
+    files.atStep = 1;
     QVERIFY(QDir().mkpath(disk.path("Fenwright")));
     SupportFolder::migrateIfNeeded(files, disk.log, disk.folder.path());
-    QCOMPARE(disk.log.lines, QStringList("support folder migration failed: Permission denied"));
+    QCOMPARE(disk.log.lines,
+             QStringList("support folder migration failed: No space left on device"));
     QVERIFY(disk.files.exists(disk.path("Fenwright")));
   }
 };

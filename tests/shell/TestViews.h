@@ -10,8 +10,21 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
+#include <QtQml/qqmlextensionplugin.h>
+
+Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 namespace tarnloft {
+
+constexpr auto row = QAccessible::ListItem;
+constexpr auto button = QAccessible::Button;
+constexpr auto entry = QAccessible::MenuItem;
+constexpr auto dialog = QAccessible::Dialog;
+constexpr auto alert = QAccessible::AlertMessage;
 
 // The main window over a library, driven by keys and the pointer as a user would.
 struct Views : TestShell {
@@ -52,8 +65,8 @@ struct Views : TestShell {
   static QPoint centerOf(const QQuickItem* item) {
     return item->mapToScene({item->width() / 2, item->height() / 2}).toPoint();
   }
-  void click(const QQuickItem* item, Qt::MouseButton button = Qt::LeftButton) const {
-    QTest::mouseClick(&window(), button, {}, centerOf(item));
+  void click(const QQuickItem* item, Qt::MouseButton which = Qt::LeftButton) const {
+    QTest::mouseClick(&window(), which, {}, centerOf(item));
   }
 
  private:
