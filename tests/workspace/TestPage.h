@@ -11,9 +11,14 @@
 #include <QQuickItem>
 #include <QQuickView>
 #include <QTest>
+#include <QtQml/qqmlextensionplugin.h>
 #include <qpa/qwindowsysteminterface.h>
 
 #include <optional>
+
+Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 namespace tarnloft {
 

@@ -3,11 +3,6 @@
 
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QtQml/qqmlextensionplugin.h>
-
-Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
-Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
-Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 using namespace tarnloft;
 
@@ -67,16 +62,6 @@ class TestTileFlow : public QObject {
     page.settle();
     QCOMPARE(visibleCount(page), visible);
     QTRY_VERIFY(page.tiles().size() > visible);  // what is near comes a little later
-  }
-
-  void makesNoMoreViewsForMoreItems() {
-    const auto made = [](int items) {
-      TestWorkspace test({colorSection("Colors", items)});
-      TestPage page(test);
-      for (int frame = 0; frame < 20; ++frame) page.settle();
-      return page.flow().madeCount();
-    };
-    QCOMPARE(made(10000), made(200));
   }
 
   void aMoveMakesNoViewAnewAndGlides() {
@@ -183,11 +168,5 @@ class TestTileFlow : public QObject {
   }
 };
 
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QGuiApplication application(argc, argv);
-  TestTileFlow test;
-  return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_MAIN(TestTileFlow)
 #include "tst_tileflow.moc"
