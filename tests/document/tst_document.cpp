@@ -89,14 +89,6 @@ class TestDocument : public QObject {
     QCOMPARE(decode<Brand>(contentOf(manifest))->name, "Acme");
   }
 
-  void makesAVanishedPackageAgain() {
-    TestServices disk;
-    const auto document = newDocument(disk);
-    QVERIFY(QDir(document->packageURL()).removeRecursively());
-    document->saveNow();
-    QCOMPARE(namesIn(document->packageURL()), QStringList("manifest.json"));
-  }
-
   void refusesAManifestBeyondAllBrands() {
     TestServices disk;
     const QString manifest = Package::manifestPath(disk.path("Huge.tarnloft"));

@@ -120,15 +120,6 @@ class TestSaving : public QObject {
     QVERIFY(!QFileInfo(saving.manifest).isSymLink());
   }
 
-  void whatCouldNotBeReadAgainIsNotWritten() {
-    Saving saving;
-    saving.document->edit([](Brand& brand) { brand.name = QString(65 << 20, QChar('x')); });
-    saving.document->saveNow();
-    QCOMPARE(contentOf(saving.manifest), saving.before);
-    QVERIFY(!saving.document->saveProblem().isEmpty());
-    QVERIFY(saving.strays().isEmpty());
-  }
-
   void anotherMachinesManifestOfAnyMomentIsKept() {
     const Cases<bool, bool> cases{{"between the comparison and the exchange", false, false},
                                   {"right behind the exchange", true, false},

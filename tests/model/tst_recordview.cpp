@@ -100,34 +100,19 @@ class Mutator {
   }
   static QByteArray keyOf(const QByteArray& line) { return line.left(line.indexOf(" : ")); }
 
-  QByteArray anyKey() {
-    return any({"id", "name", "hex", "value", "asset", "color", "text", "items", "kind", "x"});
-  }
+  QByteArray anyKey() { return any("id name hex value asset color text items kind x"); }
   QByteArray anyValue() {
-    return any({"null",
-                "true",
-                "1",
-                "1.0",
-                "1.5",
-                "-1e400",
-                "9223372036854775808",
-                "123456789012345678901",
-                "\"\"",
-                "\"\\u00fc\"",
-                "[]",
-                "{}",
-                "\"do\"",
-                "\"primary\"",
-                "\"2026-03-01T09:30:00Z\"",
-                "\"2026-03-01T09:30:00.5Z\"",
-                "\"8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E21\"",
-                "{\"text\":{\"body\":\"x\"}}",
-                "{\"text\":{\"body\":1},\"text\":{\"body\":\"x\"}}",
-                "{\"text\":{\"body\":\"x\"},\"code\":1}",
-                "{\"value\":{\"hex\":\"x\"},\"value\":{\"hex\":\"y\"}}"});
+    return any(
+        R"(null true 1 1.0 1.5 -1e400 9223372036854775808 123456789012345678901 "" "\u00fc" [] {})"
+        R"( "do" "primary" "2026-03-01T09:30:00Z" "2026-03-01T09:30:00.5Z")"
+        R"( "8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E21" {"text":{"body":"x"}})"
+        R"( {"text":{"body":1},"text":{"body":"x"}} {"text":{"body":"x"},"code":1})"
+        R"( {"value":{"hex":"x"},"value":{"hex":"y"}})");
   }
-  QByteArray any(std::initializer_list<const char*> choices) {
-    return *(choices.begin() + random_.bounded(int(choices.size())));
+  // One of the words.
+  QByteArray any(const QByteArray& words) {
+    const QList<QByteArray> choices = words.split(' ');
+    return choices.at(random_.bounded(int(choices.size())));
   }
 
   QRandomGenerator random_;
