@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/theme/Theme.h"
+#include "controls/theme/Typography.h"
 #include "shell/TestShell.h"
 #include "shell/window/AccentTint.h"
 #include "shell/window/MainWindow.h"
@@ -9,6 +10,7 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QRegularExpression>
 #include <QTest>
 #include <QtQml/qqmlextensionplugin.h>
 
@@ -33,7 +35,11 @@ struct Views : TestShell {
   std::unique_ptr<AccentTint> tint;
   std::unique_ptr<MainWindow> main;
 
+  // From then on no complaint of a view goes unseen.
   void start() {
+    QTest::failOnWarning(QRegularExpression("qrc:|QML|Binding"));
+    QAccessible::setActive(true);
+    prepareTypography();
     Theme& theme = Theme::of(engine);
     LibraryStore& store = library.start();
     tint = std::make_unique<AccentTint>(store, theme);

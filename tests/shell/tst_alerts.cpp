@@ -1,8 +1,6 @@
-#include "controls/theme/Typography.h"
 #include "shell/TestViews.h"
 #include "testing/Cases.h"
 
-#include <QRegularExpression>
 #include <QSignalSpy>
 
 using namespace tarnloft;
@@ -76,13 +74,6 @@ class TestAlerts : public QObject {
   Q_OBJECT
 
  private slots:
-  void init() { QTest::failOnWarning(QRegularExpression("qrc:|QML|Binding")); }
-
-  void initTestCase() {
-    prepareTypography();
-    QAccessible::setActive(true);
-  }
-
   void aBarTellsOfUnsavedChanges() {
     Alarmed views;
     views.start();

@@ -49,9 +49,7 @@ class TestMainWindow : public QObject {
     };
     const QSize usual(1160, 760);
     const Cases<WindowState, WindowState> cases{
-        {"on it", state(QPoint(10, 10), usual), state(QPoint(10, 10), usual)},
         {"on the second", state(QPoint(1500, 10), usual), state(QPoint(1500, 10), usual)},
-        {"a bit aside", state(QPoint(-900, 10), usual), state(QPoint(-900, 10), usual)},
         {"far aside", state(QPoint(-1100, 10), usual), state(std::nullopt, usual)},
         {"above", state(QPoint(10, -20), usual), state(std::nullopt, usual)},
         {"screen has gone", state(QPoint(5000, 10), usual), state(std::nullopt, usual)},

@@ -1,9 +1,6 @@
 #include "controls/motion/Motion.h"
-#include "controls/theme/Typography.h"
 #include "shell/TestViews.h"
 #include "workspace/Items.h"
-
-#include <QRegularExpression>
 
 using namespace tarnloft;
 
@@ -12,13 +9,6 @@ class TestShellViews : public QObject {
   Q_OBJECT
 
  private slots:
-  void init() { QTest::failOnWarning(QRegularExpression("qrc:|QML|Binding")); }
-
-  void initTestCase() {
-    prepareTypography();
-    QAccessible::setActive(true);
-  }
-
   void aNewBrandIsNamed() {
     Views views;
     views.start();

@@ -189,24 +189,6 @@ class TestSidebar : public QObject {
     QCOMPARE(test.library.names(), QStringList("Cedar"));
   }
 
-  void reordersWhileDragging() {
-    SidebarTest test;
-    for (const char* name : {"Acme", "Birch", "Cedar"}) test.library.add(name);
-    Sidebar& sidebar = test.start();
-    QSignalSpy moved(&sidebar, &Sidebar::moved);
-    sidebar.dragEntered(test.id("Birch"));
-    sidebar.dragEnteredEnd();  // nothing is dragged
-    sidebar.beginDrag(test.id("Acme"));
-    sidebar.dragEntered(test.id("Acme"));
-    QVERIFY(moved.isEmpty());
-    sidebar.dragEntered(test.id("Cedar"));
-    QCOMPARE(test.library.names(), QStringList({"Birch", "Acme", "Cedar"}));
-    sidebar.dragEnteredEnd();
-    QCOMPARE(test.library.names(), QStringList({"Birch", "Cedar", "Acme"}));
-    sidebar.endDrag();
-    QVERIFY(sidebar.draggingBrandID().isEmpty());
-  }
-
   void movesByKeyboard() {
     const Cases<QString, bool, QString> cases{{"first up", "Acme", true, "Acme Birch Cedar"},
                                               {"second down", "Birch", false, "Acme Cedar Birch"},

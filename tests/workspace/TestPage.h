@@ -10,6 +10,7 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
+#include <QRegularExpression>
 #include <QTest>
 #include <QtQml/qqmlextensionplugin.h>
 #include <qpa/qwindowsysteminterface.h>
@@ -26,6 +27,8 @@ namespace tarnloft {
 class TestPage {
  public:
   explicit TestPage(TestWorkspace& test) {
+    QTest::failOnWarning(QRegularExpression("."));
+    QAccessible::setActive(true);
     Theme::of(*view.engine());
     view.setResizeMode(QQuickView::SizeRootObjectToView);
     view.resize(1000, 760);

@@ -3,8 +3,6 @@
 #include "workspace/Items.h"
 #include "workspace/TestPage.h"
 
-#include <QRegularExpression>
-
 using namespace tarnloft;
 
 namespace {
@@ -107,9 +105,6 @@ class TestBrandPage : public QObject {
   Q_OBJECT
 
  private slots:
-  void initTestCase() { QAccessible::setActive(true); }
-  void init() { QTest::failOnWarning(QRegularExpression(".")); }
-
   void aDragThatTakesTheReleaseAwayIsTheLastOfItsTile() {
     TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), colorItem("b", "#00ff00")})});
     TestPage page(test);

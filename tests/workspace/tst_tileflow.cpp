@@ -1,7 +1,6 @@
 #include "workspace/Items.h"
 #include "workspace/TestPage.h"
 
-#include <QRegularExpression>
 #include <QSignalSpy>
 
 using namespace tarnloft;
@@ -35,8 +34,6 @@ class TestTileFlow : public QObject {
   Q_OBJECT
 
  private slots:
-  void init() { QTest::failOnWarning(QRegularExpression(".")); }
-
   void makesOnlyWhatIsNearTheViewport() {
     TestWorkspace test({colorSection("Colors", 10000)});
     TestPage page(test);
