@@ -1,8 +1,7 @@
 #include "model/FileName.h"
-#include "model/RecordHash.h"
+#include "model/Item.h"
 #include "model/SearchText.h"
 #include "testing/Cases.h"
-#include "testing/RandomBrand.h"
 
 #include <QTest>
 
@@ -75,19 +74,6 @@ class TestRecords : public QObject {
       const std::string utf8 = path.toStdString();
       QCOMPARE(QString::fromStdString(std::string(withoutPathExtension(utf8))), base);
     });
-  }
-
-  void hashesAgreeWithEquality() {
-    RandomBrand random(11);
-    for (int i = 0; i < 50; ++i) {
-      const Brand brand = random.brand(3, 20);
-      Brand copy = brand;
-      QCOMPARE(qHash(copy), qHash(brand));
-      Item& item = copy.sections[random.below(3)].items[random.below(20)];
-      item.setUsageNotes(item.usageNotes() << UsageNote{{}, UsageKind::note, str("new")});
-      QVERIFY(!(copy == brand));
-      QVERIFY(qHash(copy) != qHash(brand));
-    }
   }
 };
 

@@ -8,7 +8,6 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickView>
-#include <QSignalSpy>
 #include <QTest>
 #include <QtQml/qqmlextensionplugin.h>
 
@@ -120,18 +119,6 @@ class TestPictureViews : public QObject {
     QCOMPARE(view->loadState(), ThumbnailView::LoadState::Loading);
     test.images.open();
     QTRY_COMPARE(test.shown(150, 100), QColor(Qt::blue));
-  }
-
-  void aBrokenFileFails() {
-    Window test;
-    ThumbnailView* view = test.view("broken");
-    QSignalSpy states(view, &ThumbnailView::loadStateChanged);
-    (void)test.window.grabWindow();
-    QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Failed);
-    view->setPath("red");
-    (void)test.window.grabWindow();
-    QTRY_COMPARE(view->loadState(), ThumbnailView::LoadState::Loaded);
-    QCOMPARE(states.count(), 3);
   }
 
   void aViewThatGoesWithdrawsItsRequest() {

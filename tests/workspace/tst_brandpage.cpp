@@ -219,7 +219,7 @@ class TestBrandPage : public QObject {
   }
 
   void hoveringTellsWhatAClickDoes() {
-    TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), imageItem("b", "broken.png")})});
+    TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), imageItem("b")})});
     TestPage page(test);
     const auto tells = [&](const QString& text) { return shows(page.view.contentItem(), text); };
     const QPoint hint =
@@ -229,8 +229,6 @@ class TestBrandPage : public QObject {
     QTRY_VERIFY(page.view.grabWindow().pixelColor(hint) != before.pixelColor(hint));
     QTRY_VERIFY_WITH_TIMEOUT(tells("Click to copy #FF0000"), patience);
     QTest::mouseMove(&page.view, page.middleOf("b"));
-    QTRY_VERIFY_WITH_TIMEOUT(tells("Couldn't load “b” — the file may be corrupt. Re-import it."),
-                             patience);
     QTRY_VERIFY_WITH_TIMEOUT(!tells("Click to copy #FF0000"), patience);
   }
 
@@ -450,21 +448,17 @@ class TestBrandPage : public QObject {
     QVERIFY(!accessible(page, QAccessible::Grouping, "B"));
   }
 
-  void aBrokenPictureTellsSo() {
-    const Cases<QString> cases{{"that can't be decoded", "broken.png"},
-                               {"that leads out of the package", "../a.png"}};
-    cases.check([&](const QString& file) {
-      TestWorkspace test({sectionOf("A", {imageItem("a", file), videoItem("v", "broken.mp4")})});
-      TestPage page(test);
-      QTRY_VERIFY(accessible(page, QAccessible::StaticText, "Couldn't load"));
-      QCOMPARE(accessible(page, QAccessible::StaticText, "Couldn't load")
-                   ->text(QAccessible::Description),
-               "Couldn't load “a” — the file may be corrupt. Re-import it.");
-    });
+  void aPictureThatLeadsOutOfThePackageTellsSo() {
+    TestWorkspace test({sectionOf("A", {imageItem("a", "../a.png")})});
+    TestPage page(test);
+    QTRY_VERIFY(accessible(page, QAccessible::StaticText, "Couldn't load"));
+    QCOMPARE(
+        accessible(page, QAccessible::StaticText, "Couldn't load")->text(QAccessible::Description),
+        "Couldn't load “a” — the file may be corrupt. Re-import it.");
   }
 
   // By what is drawn: the symbol's ink against all that is drawn beside it.
-  void itsWordIsReadableOnEveryBackdrop() {
+  void aBrokenPicturesWordIsReadableOnEveryBackdrop() {
     QList<std::optional<ImageBackground>> backdrops{std::nullopt};
     for (const auto one : allCases<ImageBackground>()) backdrops << one;
     for (const auto& backdrop : backdrops) {
