@@ -94,12 +94,15 @@ class TestLists : public QObject {
     }
     QCOMPARE(elements(list), expected);
     for (size_t i = 0; i < expected.size(); ++i) QCOMPARE(list.at(qsizetype(i)), expected[i]);
-    for (const auto& [copy, then] : copies) QCOMPARE(elements(copy), then);
-    SharedList<int> anew;  // of other runs
-    for (const int element : expected) anew.append(element);
-    QVERIFY(anew == list);
-    anew[anew.size() / 2] = -1;
-    QVERIFY(!(anew == list));
+    for (const auto& [copy, then] : copies) {
+      QCOMPARE(elements(copy), then);
+      SharedList<int> anew;  // of other runs
+      for (const int element : then) anew.append(element);
+      QVERIFY(anew == copy);
+      if (anew.isEmpty()) continue;
+      anew[anew.size() / 2] = -1;
+      QVERIFY(!(anew == copy));
+    }
   }
 };
 
