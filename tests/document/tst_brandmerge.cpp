@@ -103,38 +103,26 @@ class TestBrandMerge : public QObject {
         {"deleted, then one dropped", "S:abc", "S:ac", "S:acx", "S:abcx"},
         {"deleted, then its neighbour too", "S:abcd", "S:acd", "S:cdx", "S:bcdx"},
         {"deleted, then all others", "S:ab", "S:b", "S:x", "S:ax"},
-        {"the last ones deleted", "S:abc", "S:a", "S:ax", "S:abcx"},
-        {"the first deleted, then one put in front", "S:abc", "S:bc", "S:xbc", "S:xabc"},
         {"deleted, and brought back by other means", "S:ab", "S:b", "S:ba2", "S:ba2"},
         {"deleted, then its section", "S:ab T:c", "S:b T:c", "T:cx", "S:a T:cx"},
-        {"deleted, then its section renamed", "S:ab", "S:b", "Sx:b", "Sx:ab"},
-        {"duplicated, then one dropped", "S:ab", "S:abc", "S:abcx", "S:abx"},
         {"duplicated, and the copy changed", "S:ab", "S:abc", "S:abc2x", "S:abx"},
         {"duplicated, and the copy moved", "S:ab T:", "S:abc T:", "S:ab T:cx", "S:ab T:x"},
-        {"moved, then one dropped", "S:abc T:d", "S:ac T:db", "S:ac T:dbx", "S:abc T:dx"},
         {"moved, then moved on", "S:ab T: U:", "S:a T:b U:", "S:a T: U:b", "S:a T: U:b"},
         {"moved, then deleted", "S:ab T:", "S:a T:b", "S:ax T:", "S:ax T:"},
         {"moved, then changed", "S:ab T:", "S:a T:b", "S:a T:b2", "S:ab2 T:"},
         {"moved, then its old section deleted", "S:ab T:", "S:a T:b", "T:bx", "S:b T:x"},
-        {"ordered, then one dropped", "S:abcd", "S:bcda", "S:bcdax", "S:abcdx"},
         {"ordered, then otherwise", "S:abcd", "S:bcda", "S:bacd", "S:bacd"},
-        {"changed, then one dropped", "S:ab", "S:a2b", "S:a2bx", "S:abx"},
         {"changed, then anew", "S:ab", "S:a2b", "S:a3b", "S:a3b"},
         {"changed, then deleted", "S:ab", "S:a2b", "S:bx", "S:bx"},
         {"grouped, then one dropped", "S:abcd", "S:aLd", "S:aLdx", "S:abcdx"},
-        {"a section added, then one dropped elsewhere", "S:a", "S:a T:b", "S:ax T:b", "S:ax"},
         {"a section added, then one dropped into it", "S:a", "S:a T:b", "S:a T:bx", "S:a T:x"},
         {"a section added, then renamed", "S:a", "S:a T:", "S:a Tx:", "S:a Tx:"},
-        {"a section added with a moved one", "S:ab", "S:a T:b", "S:a T:bx", "S:ab T:x"},
         {"a section removed, then one dropped", "S:a T:b U:c", "S:a U:c", "S:ax U:c",
          "S:ax T:b U:c"},
         {"a section's items dealt out", "S:a T:b", "S:ab", "S:abx", "S:ax T:b"},
-        {"a section renamed, then one dropped", "S:a", "Sx:a", "Sx:ab", "S:ab"},
         {"a section renamed, then anew", "S:a", "Sx:a", "Sy:ab", "Sy:ab"},
         {"sections ordered, then one added", "S:a T:b U:c", "T:b U:c S:a",
-         "T:b U:c S:a V:", "S:a T:b U:c V:"},
-        {"sections ordered, then otherwise",
-         "S: T: U: V:", "T: U: V: S:", "T: S: U: V:", "T: S: U: V:"}};
+         "T:b U:c S:a V:", "S:a T:b U:c V:"}};
     cases.check([&](const QString& before, const QString& after, const QString& present,
                     const QString& undone) {
       const Brand merged = reapplied(brandOf(after), brandOf(before), brandOf(present));
@@ -207,26 +195,6 @@ class TestBrandMerge : public QObject {
       QVERIFY(reapplied(undone, present, undone) == present);
       QVERIFY(reapplied(redone, later, redone) == later);
     }
-  }
-
-  void whatIsUntouchedStaysShared() {
-    RandomBrand random(47);
-    const Brand before = random.brand(2, 5000);
-    Brand after = before;
-    after.sections[0].items.takeAt(2500);
-    Brand present = after;
-    present.sections[1].items.append(random.item());
-    const Brand undone = reapplied(after, before, present);
-    QVERIFY(undone.sections.at(0).items == before.sections.at(0).items);
-    QSet<const Item*> known;
-    for (const Section& section : present.sections) {
-      for (const Item& item : section.items) known.insert(&item);
-    }
-    int copied = 0;
-    for (const Section& section : undone.sections) {
-      for (const Item& item : section.items) copied += known.contains(&item) ? 0 : 1;
-    }
-    QVERIFY2(copied <= 2 * SharedList<Item>::runLength, qPrintable(QString::number(copied)));
   }
 };
 

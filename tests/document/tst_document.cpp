@@ -50,14 +50,6 @@ class TestDocument : public QObject {
     QCOMPARE(iso8601(read->brand().createdAt), std::string("2026-03-01T09:31:00Z"));
   }
 
-  void createFailsWhereNoFolderCanBeMade() {
-    TestServices disk;
-    QVERIFY(writeFile(disk.path("file"), "x"));
-    const auto document = BrandDocument::create(disk.services(), disk.path("file"), "A");
-    QVERIFY(!document);
-    QVERIFY(!document.error().message.isEmpty());
-  }
-
   void savesABurstOnceBehindItsLastEdit() {
     TestServices disk;
     const auto document = newDocument(disk);
@@ -73,70 +65,28 @@ class TestDocument : public QObject {
     QVERIFY(disk.log.lines.isEmpty());
   }
 
-  void savingSchedulesNothing() {
+  // Neither when all is saved, nor with a change too young to be saved when its document goes, nor
+  // once it is dead.
+  void nothingIsWrittenLater() {
     TestServices disk;
-    const auto made = newDocument(disk), edited = newDocument(disk);
-    rename(*edited, "Edited");
-    edited->saveNow();  // in the place of the pending save
-    for (const auto& document : {made.get(), edited.get()}) {
-      QVERIFY(QFile::remove(Package::manifestPath(document->packageURL())));
+    const auto saved = newDocument(disk), dead = newDocument(disk);
+    auto gone = newDocument(disk);
+    const QString manifest = Package::manifestPath(gone->packageURL());
+    for (BrandDocument* document : {saved.get(), dead.get(), gone.get()}) {
+      rename(*document, "Edited");
     }
-    QTest::qWait(600);
-    for (const auto& document : {made.get(), edited.get()}) {
-      QVERIFY(!disk.files.exists(Package::manifestPath(document->packageURL())));
+    saved->saveNow();
+    dead->invalidate();
+    for (BrandDocument* document : {saved.get(), dead.get()}) {
+      QVERIFY(QDir(document->packageURL()).removeRecursively());
     }
-  }
-
-  void losesAYoungChangeWithTheDocument() {
-    TestServices disk;
-    auto document = newDocument(disk);
-    const QString manifest = Package::manifestPath(document->packageURL());
-    rename(*document, "Edited");
-    document.reset();
+    rename(*dead, "changed");
+    dead->saveNow();
+    gone.reset();
     QTest::qWait(600);
+    QVERIFY(!disk.files.exists(saved->packageURL()) && !disk.files.exists(dead->packageURL()));
+    QCOMPARE(dead->brand().name, "changed");
     QCOMPARE(decode<Brand>(contentOf(manifest))->name, "Acme");
-  }
-
-  void aDeadDocumentWritesNothing() {
-    TestServices disk;
-    const auto document = newDocument(disk);
-    rename(*document, "pending");
-    document->invalidate();
-    QVERIFY(QDir(document->packageURL()).removeRecursively());
-    rename(*document, "changed");
-    document->saveNow();
-    QTest::qWait(600);
-    QVERIFY(!disk.files.exists(document->packageURL()));
-    QCOMPARE(document->brand().name, "changed");
-  }
-
-  void makesAVanishedPackageAgain() {
-    TestServices disk;
-    const auto document = newDocument(disk);
-    QVERIFY(QDir(document->packageURL()).removeRecursively());
-    document->saveNow();
-    QCOMPARE(namesIn(document->packageURL()), QStringList("manifest.json"));
-  }
-
-  void loadsNothingFromABadPackage() {
-    const Cases<QByteArray> cases{{"empty", ""},
-                                  {"not JSON", "PK\x03\x04"},
-                                  {"no brand", "{}"},
-                                  {"a folder in its place", QByteArray()}};
-    cases.check([&](const QByteArray& manifest) {
-      TestServices disk;
-      const QString package = disk.path("Bad.tarnloft");
-      if (manifest.isNull()) {
-        QVERIFY(QDir().mkpath(Package::manifestPath(package)));
-      } else {
-        QVERIFY(writeFile(Package::manifestPath(package), manifest));
-      }
-      QVERIFY(!BrandDocument::load(disk.services(), package));
-      QVERIFY(!BrandDocument::load(disk.services(), disk.path("missing")));
-      QVERIFY(!BrandDocument::load(disk.services(), QString()));
-      QCOMPARE(namesIn(package).size(), 1);
-      QVERIFY(disk.log.lines.isEmpty());
-    });
   }
 
   void refusesAManifestBeyondAllBrands() {
@@ -147,20 +97,8 @@ class TestDocument : public QObject {
     QVERIFY(QFile::resize(manifest, qint64(65) << 20));  // sparse
     const auto file = Package::readJson(disk.files, manifest, disk.folder.path());
     QCOMPARE(file.error().kind, ErrorKind::tooLarge);
-  }
-
-  void savesWhatItReadUnchanged() {
-    TestServices disk;
-    RandomBrand random(9);
-    for (int i = 0; i < 10; ++i) {
-      const QString package = disk.path(QString("%1.tarnloft").arg(i));
-      const QByteArray before = *encode(random.brand(3, 30));
-      QVERIFY(writeFile(Package::manifestPath(package), before));
-      BrandDocument::load(disk.services(), package)->saveNow();
-      const qsizetype date = before.lastIndexOf("\"updatedAt\"");
-      const QByteArray after = contentOf(Package::manifestPath(package));
-      QCOMPARE(after, before.left(date) + "\"updatedAt\" : \"2026-03-01T09:31:00Z\"\n}");
-    }
+    QVERIFY(!BrandDocument::load(disk.services(), disk.path("missing")));
+    QVERIFY(!BrandDocument::load(disk.services(), QString()));
   }
 
   // A manifest that was put together elsewhere: sections and items repeat, within one and across.
@@ -204,21 +142,16 @@ class TestDocument : public QObject {
 
   void namesFitAFolder() {
     const QString letter = "é", marked = QString::fromUtf8("e\u0301\u0323");
-    const QString family = QString::fromUtf8("👩‍👩‍👧"), flag = QString::fromUtf8("🇫🇷");
+    const QString family = QString::fromUtf8("👩‍👩‍👧");
     const Cases<QString, QString> cases{
-        {"hidden", ".x", "-x"},
         {"parent", "..", "-."},
         {"dots", " ... ", "-.."},
-        {"dots within", "a.b.", "a.b."},
         {"slashes", "/.x:", "-.x-"},
         {"blank", " \t\n", "Untitled Brand"},
-        {"fits to the byte", QString(239, 'x'), QString(239, 'x')},
-        {"300 letters", QString(300, 'x'), QString(239, 'x')},
         {"300 letters of two bytes", letter.repeated(300), letter.repeated(119)},
         {"combining marks", marked.repeated(100), marked.repeated(47)},
         {"one letter under 200 marks", 'x' + QString(200, QChar(0x301)), "Untitled Brand"},
         {"families", family.repeated(30), family.repeated(13)},
-        {"flags", "x" + flag.repeated(40), "x" + flag.repeated(29)},
         {"cut behind a blank", QString(238, 'x') + " y", QString(238, 'x')}};
     cases.check([&](const QString& brand, const QString& name) {
       QCOMPARE(Package::fileNameFor(brand), name);

@@ -120,15 +120,6 @@ class TestSaving : public QObject {
     QVERIFY(!QFileInfo(saving.manifest).isSymLink());
   }
 
-  void whatCouldNotBeReadAgainIsNotWritten() {
-    Saving saving;
-    saving.document->edit([](Brand& brand) { brand.name = QString(65 << 20, QChar('x')); });
-    saving.document->saveNow();
-    QCOMPARE(contentOf(saving.manifest), saving.before);
-    QVERIFY(!saving.document->saveProblem().isEmpty());
-    QVERIFY(saving.strays().isEmpty());
-  }
-
   void anotherMachinesManifestOfAnyMomentIsKept() {
     const Cases<bool, bool> cases{{"between the comparison and the exchange", false, false},
                                   {"right behind the exchange", true, false},
@@ -181,29 +172,6 @@ class TestSaving : public QObject {
       const auto kept = PackageVersions(saving.store, package).read(versions.first().url);
       QCOMPARE(kept->brand, asWritten(theirs));
     }
-  }
-
-  void bytesOfANewerProgramAreKept() {
-    const Cases<QByteArray, QByteArray, bool> cases{
-        {"ours", "\"id\"", "\"id\"", false},
-        {"a key of the brand", "{\n  \"c", "{ \"boards\": [1],\n  \"c", true},
-        {"a key of a section", "\"name\" : \"Logos\"", "\"name\" : \"Logos\", \"grid\": 3", true},
-        {"another schema", "\"schemaVersion\" : 1", "\"schemaVersion\" : 2", true}};
-    cases.check([&](const QByteArray& from, const QByteArray& to, bool isKept) {
-      Saving saving;
-      const QByteArray newer = QByteArray(saving.before).replace(from, to);
-      QVERIFY((newer != saving.before) == isKept && writeFile(saving.manifest, newer));
-      for (const char* name : {"Once", "Twice"}) {  // each in a start of its own
-        const auto document =
-            BrandDocument::load(saving.disk.services(), saving.document->packageURL());
-        document->edit([&](Brand& brand) { brand.name = name; });
-        document->saveNow();
-      }
-      const QDir versions(Package::versionsPath(saving.document->packageURL()));
-      const QStringList kept = versions.entryList({"*.newer"});
-      QCOMPARE(kept.size(), isKept ? 1 : 0);
-      if (isKept) QCOMPARE(contentOf(versions.filePath(kept.first())), newer);
-    });
   }
 };
 

@@ -51,10 +51,8 @@ class TestVersions : public QObject {
   Q_OBJECT
 
  private slots:
-  void listsNewestFirst() {
+  void listsTheThirtyNewestFirst() {
     Versioned brand;
-    QVERIFY(brand.document->listVersions().isEmpty());
-    QVERIFY(!QFile::exists(brand.versions));
     for (const char* label : {"a", "b", "c"}) brand.document->snapshotVersion(QString(label));
     QCOMPARE(brand.labels(), QStringList({"c", "b", "a"}));
     QCOMPARE(brand.fileNames(),
@@ -68,10 +66,7 @@ class TestVersions : public QObject {
     QCOMPARE(brand.labels().last(), "  ");
     brand.document->deleteVersion(brand.document->listVersions().first());
     QCOMPARE(brand.document->listVersions().size(), 4);
-  }
-
-  void keepsTheThirtyNewest() {
-    Versioned brand;
+    brand.disk.now += 60s;
     for (int i = 0; i < 33; ++i) {
       brand.disk.now += 1s;
       brand.document->snapshotVersion(QString::number(i));
@@ -87,8 +82,6 @@ class TestVersions : public QObject {
     brand.rename("Original");
     brand.document->snapshotVersion(QString("v1"));
     const BrandVersion version = brand.document->listVersions().first();
-    brand.document->restoreVersion(version, &history);
-    QVERIFY(!history.canUndo() || brand.document->brand().name == "Original");
     brand.rename("Edited");
     const Brand edited = brand.document->brand();
     brand.document->restoreVersion(version, &history);
@@ -141,33 +134,45 @@ class TestVersions : public QObject {
     QVERIFY(!QFile::exists(brand.versions));
   }
 
-  void keepsWhatAnotherMachineSaved() {
+  void keepsWhatAnotherMachineSavedOnce() {
     Versioned brand;
-    brand.saveElsewhere("Theirs");
+    const QByteArray content = contentOf(brand.manifest);
+    QVERIFY(QFile::remove(brand.manifest) && writeFile(brand.manifest, content));
     brand.rename("Ours");
     brand.document->saveNow();
-    QCOMPARE(decode<Brand>(contentOf(brand.manifest))->name, "Ours");
-    QCOMPARE(brand.labels(), QStringList("Synced copy"));
-    brand.document->saveNow();
-    QCOMPARE(brand.labels().size(), 1);
+    QVERIFY(brand.document->listVersions().isEmpty());  // the same content counts as our own
+    for (int i = 0; i < 3; ++i) {
+      brand.disk.now += 1s;
+      brand.saveElsewhere("Theirs");
+      brand.document->saveNow();
+      QCOMPARE(decode<Brand>(contentOf(brand.manifest))->name, "Ours");
+      QCOMPARE(brand.labels(), QStringList("Synced copy"));
+    }
     brand.document->restoreVersion(brand.document->listVersions().first(), nullptr);
     QCOMPARE(brand.document->brand().name, "Theirs");
   }
 
-  void aFailedSaveNeitherForgetsNorRepeats() {
-    Versioned brand;
-    brand.saveElsewhere("Theirs");
-    brand.rename("Ours");
-    brand.store.fault = FaultyStore::Fault::failStep;
-    brand.store.steps = 0;
-    brand.store.atStep = 9;  // behind the version's own six steps: the manifest's sync
-    brand.document->saveNow();
-    QCOMPARE(decode<Brand>(contentOf(brand.manifest))->name, "Theirs");
-    QCOMPARE(brand.labels(), QStringList("Synced copy"));
-    brand.store.fault = FaultyStore::Fault::none;
-    brand.document->saveNow();
-    QCOMPARE(decode<Brand>(contentOf(brand.manifest))->name, "Ours");
-    QCOMPARE(brand.labels(), QStringList("Synced copy"));
+  void doesNotReplaceWhatItCannotKeep() {
+    const Cases<int, QStringList> cases{
+        {"the version's bytes", 4, QStringList()},
+        {"the manifest's sync, behind the version's six steps", 9, QStringList("Synced copy")}};
+    cases.check([&](int failingStep, const QStringList& kept) {
+      Versioned brand;
+      brand.saveElsewhere("Theirs");
+      const QByteArray theirs = contentOf(brand.manifest);
+      brand.rename("Ours");
+      brand.store.fault = FaultyStore::Fault::failStep;
+      brand.store.steps = 0;
+      brand.store.atStep = failingStep;
+      brand.document->saveNow();
+      QCOMPARE(contentOf(brand.manifest), theirs);
+      QCOMPARE(brand.disk.log.lines.size(), 1);
+      QCOMPARE(brand.labels(), kept);
+      brand.store.fault = FaultyStore::Fault::none;
+      brand.document->saveNow();
+      QCOMPARE(decode<Brand>(contentOf(brand.manifest))->name, "Ours");
+      QCOMPARE(brand.labels(), QStringList("Synced copy"));
+    });
   }
 
   void keepsAForeignManifestThatDoesNotRead() {
@@ -178,31 +183,6 @@ class TestVersions : public QObject {
     QCOMPARE(brand.fileNames(), QStringList("1772357460123.unreadable"));
     QCOMPARE(contentOf(brand.versions + "/1772357460123.unreadable"), "{ half of a manif");
     QVERIFY(brand.document->listVersions().isEmpty());
-  }
-
-  void takesTheSameContentForItsOwn() {
-    Versioned brand;
-    const QByteArray content = contentOf(brand.manifest);
-    QVERIFY(QFile::remove(brand.manifest) && writeFile(brand.manifest, content));
-    brand.rename("Ours");
-    brand.document->saveNow();
-    QVERIFY(brand.document->listVersions().isEmpty());
-  }
-
-  void doesNotReplaceWhatItCannotKeep() {
-    Versioned brand;
-    brand.saveElsewhere("Theirs");
-    const QByteArray theirs = contentOf(brand.manifest);
-    brand.rename("Ours");
-    brand.store.fault = FaultyStore::Fault::failStep;
-    brand.store.steps = 0;
-    brand.store.atStep = 4;  // the version's bytes
-    brand.document->saveNow();
-    QCOMPARE(contentOf(brand.manifest), theirs);
-    QCOMPARE(brand.disk.log.lines.size(), 1);
-    brand.store.fault = FaultyStore::Fault::none;
-    brand.document->saveNow();
-    QCOMPARE(brand.labels(), QStringList("Synced copy"));
   }
 
   void doesNotReplaceWhatItCannotOpen() {
@@ -232,17 +212,6 @@ class TestVersions : public QObject {
     }
     QCOMPARE(brand.labels().count("Synced copy"), 30);
     QCOMPARE(brand.labels().last(), "Approved by client");
-  }
-
-  void keepsEachContentOnce() {
-    Versioned brand;
-    for (int i = 0; i < 3; ++i) {
-      brand.disk.now += 1s;
-      brand.saveElsewhere("Theirs");
-      brand.rename("Ours");
-      brand.document->saveNow();
-    }
-    QCOMPARE(brand.labels(), QStringList("Synced copy"));
   }
 
   // Another machine's clock may be ahead.

@@ -1,6 +1,5 @@
-#include "entry/CommandLine.h"
 #include "entry/SupportFolder.h"
-#include "testing/Cases.h"
+#include "testing/FaultyStore.h"
 #include "testing/TestServices.h"
 
 #include <QTest>
@@ -11,54 +10,31 @@ class TestEntry : public QObject {
   Q_OBJECT
 
  private slots:
-  void dispatches() {
-    const Cases<Mode> cases{{"t", ApplicationMode{}},
-                            {"t --SELFTEST --selftest=1", ApplicationMode{}},
-                            {"t --export-page a b --selftest", SelfTestMode{}},
-                            {"t x --export-page a b c", PageExportMode{"a", "b"}},
-                            {"t --export-page a", ApplicationMode{}},
-                            {"t --export-page a --seed-logo", PageExportMode{"a", "--seed-logo"}},
-                            {"t --seed-logo p --export-page a", LogoSeedingMode{"p"}},
-                            {"t --seed-logo p --seed-logo q", LogoSeedingMode{"p"}},
-                            {"t a --seed-logo", ApplicationMode{}}};
-    cases.check(
-        [&](const QString& line, const Mode& mode) { QVERIFY(modeOf(line.split(u' ')) == mode); });
-  }
-
-  void movesTheOldSupportFolderOnce() {
+  void takesTheOldFolderOverWhereThereIsNoNewOne() {
     TestServices disk;
-    QVERIFY(writeFile(disk.path("Fenwright/Brands/x"), "kept"));
-    for (int start = 0; start < 2; ++start) {
+    const auto migrate = [&] {
       SupportFolder::migrateIfNeeded(disk.files, disk.log, disk.folder.path());
-      QCOMPARE(contentOf(disk.path("Tarn Loft/Brands/x")), QByteArray("kept"));
-      QVERIFY(!disk.files.exists(disk.path("Fenwright")));
-    }
-    QCOMPARE(disk.log.lines,
-             QStringList("migrated support folder from “Fenwright” to “Tarn Loft”"));
-  }
-
-  void leavesFoldersAlone() {
-    TestServices disk;
-    SupportFolder::migrateIfNeeded(disk.files, disk.log, disk.folder.path());
+    };
+    migrate();
     QVERIFY(QDir(disk.folder.path()).isEmpty());
-    QVERIFY(writeFile(disk.path("Fenwright/x"), "old"));
-    QVERIFY(QDir().mkpath(disk.path("Tarn Loft")));
-    SupportFolder::migrateIfNeeded(disk.files, disk.log, disk.folder.path());
-    QCOMPARE(contentOf(disk.path("Fenwright/x")), QByteArray("old"));
-    QVERIFY(disk.log.lines.isEmpty());
+    for (const char* content : {"first", "second"}) {
+      QVERIFY(writeFile(disk.path("Fenwright/x"), content));
+      migrate();
+      QCOMPARE(contentOf(disk.path("Tarn Loft/x")), QByteArray("first"));
+    }
+    QCOMPARE(contentOf(disk.path("Fenwright/x")), QByteArray("second"));
+    QCOMPARE(disk.log.lines.size(), 1);
   }
 
   void logsAFailedMove() {
-    class Stuck : public PosixFileStore {
-      Result<void> moveFolder(const QString&, const QString&) override {
-        return failure(ErrorKind::io, "Permission denied");
-      }
-    };
     TestServices disk;
-    Stuck files;
+    FaultyStore files;
+    files.fault = FaultyStore::Fault::failStep;
+    files.atStep = 1;
     QVERIFY(QDir().mkpath(disk.path("Fenwright")));
     SupportFolder::migrateIfNeeded(files, disk.log, disk.folder.path());
-    QCOMPARE(disk.log.lines, QStringList("support folder migration failed: Permission denied"));
+    QCOMPARE(disk.log.lines,
+             QStringList("support folder migration failed: No space left on device"));
     QVERIFY(disk.files.exists(disk.path("Fenwright")));
   }
 };

@@ -138,29 +138,15 @@ class Process:
         self._process.stdout.close()
 
 
-def gtk_partner(at, files=()):
-    partner = _partner(["/usr/bin/python3", "-B", HERE / "gtk_partner.py", *files])
-    desktop.here.place(_window(partner), at)
-    return partner
-
-
-def qt_source(at, what):
-    partner = _partner([os.environ["PLAIN_SOURCE"], *at, *what])
-    _window(partner)
-    return partner
-
-
-def x_target(at, formats):
-    return _partner([os.environ["XDND_TARGET"], *at, *formats])
-
-
-def _window(partner):
-    return until(lambda: desktop.visible_window(partner.pid), "the partner's window")
-
-
-def _partner(command):
+def gtk_partner(at, files=(), asks=None):
+    """Another program's window; with `asks` it asks a drop for these formats, else for files."""
+    command = ["/usr/bin/python3", "-B", HERE / "gtk_partner.py", *files]
+    if asks:
+        command += ["--asks", *asks]
     partner = Process(command, {"NO_AT_BRIDGE": "1"})
     partner.line("READY")
+    window = until(lambda: desktop.visible_window(partner.pid), "the partner's window")
+    desktop.here.place(window, at)
     return partner
 
 

@@ -6,7 +6,7 @@ import pathlib
 import subprocess
 import tempfile
 
-from devices import Hands, Wlroots
+from devices import ListedWindows, Wlroots
 from waiting import PATIENCE, until
 
 SIZE = (1280, 1024)
@@ -23,8 +23,7 @@ bindsym Mod1+F4 kill
 """.format(*SIZE)
 
 
-class Desktop(Hands):
-    brings_back_places = False
+class Desktop(ListedWindows):
     has_tray = False
 
     @contextlib.contextmanager
@@ -55,17 +54,6 @@ class Desktop(Hands):
                 finally:
                     process.terminate()
 
-    def visible_window(self, pid, name=""):
-        found = self._windows(pid=pid, visible=True)
-        return next((each["id"] for each in reversed(found) if name in each["name"]), None)
-
-    def active_window(self):
-        return next((each["id"] for each in self._windows(focused=True)), None)
-
-    def origin(self, pid):
-        found = self._windows(pid=pid)
-        return (found[-1]["rect"]["x"], found[-1]["rect"]["y"]) if found else (0, 0)
-
     def place(self, window, at, size=None):
         resize = "resize set {} {}, ".format(*size) if size else ""
         self._tell(f"[con_id={window}] {resize}move absolute position {at[0]} {at[1]}")
@@ -79,14 +67,16 @@ class Desktop(Hands):
         pixels = picture[-3 * width * height:]
         return {tuple(pixels[at:at + 3]) for at in range(0, len(pixels), 3)}
 
-    def _windows(self, **wanted):
-        """The nodes of the compositor's tree that are so, the topmost ones last."""
+    def _all_windows(self):
+        """Those of the compositor's tree, which tells the topmost ones last."""
         found, left = [], [json.loads(self._tell(kind="get_tree"))]
         while left:
             node = left.pop(0)
             left += node["nodes"] + node["floating_nodes"]
-            if all(node.get(key) == value for key, value in wanted.items()):
-                found.append(node)
+            if "pid" in node:
+                found.append({"id": node["id"], "pid": node["pid"], "title": node["name"] or "",
+                              "active": node["focused"], "visible": node["visible"],
+                              "x": node["rect"]["x"], "y": node["rect"]["y"]})
         return found
 
     def _tell(self, *words, kind="command", check=True):

@@ -6,7 +6,7 @@ import urllib.parse
 from desktop import Drag, colours_in, press
 from journey import Journey
 from pictures import write_noise, write_pictures
-from program import Home, gtk_partner, qt_source, x_target
+from program import Home, gtk_partner
 
 LEFT, RIGHT = (100, 860), (700, 860)  # below the window
 LEFT_MIDDLE, RIGHT_MIDDLE = (200, 935), (800, 935)
@@ -19,18 +19,18 @@ class Dragging(Journey):
         self.tarn = self.start()
         self.tarn.place((20, 20), (1160, 760))
 
-    def test_files_of_a_qt_program_come_in_order(self):
+    def test_files_come_in_order(self):
         colours = {"a#1.png": (9, 9, 9), "b c.png": (8, 8, 8)}
         files = write_pictures(self.home.folder / "from", colours)
         text = self.home.folder / "from/c%20.txt"
         text.write_text("no picture")
-        self.beside(qt_source(LEFT, [*files, text]))
+        self.beside(gtk_partner(LEFT, [*files, text]))
         self.drop_on(self.tarn, "Logos", LEFT_MIDDLE)
         self.eventually(lambda: self.names("Logos"), ["a#1", "b c", "c%20"])
         self.assertEqual(self.names("Colors"), [])
 
     def test_a_picture_from_a_page_comes_with_its_name(self):
-        self.beside(qt_source(LEFT, ["picture", "https://pictures.example/Hero%20Shot.jpg"]))
+        self.beside(gtk_partner(LEFT, ["https://pictures.example/Hero%20Shot.jpg"]))
         self.drop_on(self.tarn, "Logos", LEFT_MIDDLE)
         self.eventually(lambda: self.names("Logos"), ["Hero Shot"])
         picture = self.acme.asset(self.acme.items("Logos")[0])
@@ -38,8 +38,8 @@ class Dragging(Journey):
 
     def test_a_tile_is_a_file_and_a_picture_to_others_and_nothing_else(self):
         self.fill("Logos", {"Mark.png": (200, 30, 40)})
-        target = self.beside(x_target(
-            RIGHT, ["text/uri-list", "UTF8_STRING", "image/tiff", "com.quillmoor.tarnloft.item"]))
+        target = self.beside(gtk_partner(
+            RIGHT, asks=["text/uri-list", "UTF8_STRING", "image/tiff", "com.quillmoor.tarnloft.item"]))
         Drag(self.card("Mark")).over(RIGHT_MIDDLE).drop()
         uri, end = data(target, "text/uri-list").decode().split("\r\n")
         path = pathlib.Path(urllib.parse.unquote(urllib.parse.urlsplit(uri).path))
@@ -55,7 +55,7 @@ class Dragging(Journey):
         file = self.home.folder / "Noise.png"
         write_noise(file, 3000, 2400)
         self.take("Logos", [file])
-        target = self.beside(x_target(RIGHT, ["image/tiff", "text/uri-list"]))
+        target = self.beside(gtk_partner(RIGHT, asks=["image/tiff", "text/uri-list"]))
         Drag(self.card("Noise")).over(RIGHT_MIDDLE).drop()
         self.assertIn(data(target, "image/tiff")[:4], (b"II*\0", b"MM\0*"))
         self.assertTrue(data(target, "text/uri-list"))
@@ -111,7 +111,7 @@ class Dragging(Journey):
 
 def data(target, kind):
     """The first bytes that a target got of a format."""
-    return bytes.fromhex(target.line("DATA " + kind).split()[1])
+    return bytes.fromhex(target.line("DATA " + kind).strip())
 
 
 if __name__ == "__main__":

@@ -39,7 +39,7 @@ class TheRoad(Journey):
         self.see_tiles(tarn, ["Seal ü", "Mark", "Word Mark"])
 
         Drag(card(tarn, "Word Mark")).over(PARTNERS_MIDDLE).drop()
-        received = json.loads(partner.line("DROPPED"))["files"]
+        received = json.loads(partner.line("DROPPED"))
         content = hashlib.sha256(files[1].read_bytes()).hexdigest()
         self.assertEqual(received, {"Word Mark.png": content})
 

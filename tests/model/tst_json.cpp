@@ -6,9 +6,6 @@
 #include <QJsonDocument>
 #include <QTest>
 
-#include <cmath>
-#include <cstring>
-
 using namespace tarnloft;
 
 namespace {
@@ -25,16 +22,6 @@ class TestJson : public QObject {
   Q_OBJECT
 
  private slots:
-  void keepsTheLayoutOfAWholePackage() {
-    const QByteArray package = contentOf(MANIFEST);
-    const auto brand = decode<Brand>(package);
-    QVERIFY2(brand, qPrintable(brand ? QString() : brand.error().message));
-    QCOMPARE(brand->name, QString::fromUtf8("Acme / Söhne\t\u0001 \"x\" \\"));
-    QCOMPARE(*encode(*brand), package);
-    const QByteArray compact = QJsonDocument::fromJson(package).toJson(QJsonDocument::Compact);
-    QCOMPARE(*encode(*decode<Brand>(compact)), package);
-  }
-
   void randomBrandsSurvive() {
     RandomBrand random(3);
     for (int i = 0; i < 60; ++i) {
@@ -48,45 +35,9 @@ class TestJson : public QObject {
     }
   }
 
-  void numbersSurviveInShortestForm() {
-    const QList<QPair<QByteArray, QByteArray>> numbers{
-        {"1.0", "1"},
-        {"100000", "100000"},
-        {"0.1", "0.1"},
-        {"1e-5", "1e-05"},
-        {"0.0001", "0.0001"},
-        {"1E16", "1e+16"},
-        {"123456789012345680", "1.2345678901234568e+17"},
-        {"-0.0", "0"},
-        {"-12.50", "-12.5"},
-        {"9007199254740993", "9007199254740992"},
-        {"100000000000000000000", "1e+20"}};
-    for (const auto& [given, written] : numbers) {
-      const auto gradient = decode<GradientValue>("{\"stops\":[],\"angle\":" + given + "}");
-      QVERIFY2(gradient, given);
-      QVERIFY2(encode(*gradient)->contains("\"angle\" : " + written + ","), given);
-    }
-  }
-
-  void randomNumbersSurvive() {
-    QRandomGenerator random(5);
-    for (int i = 0; i < 20000; ++i) {
-      const quint64 bits = random.generate64();
-      GradientValue gradient;
-      std::memcpy(&gradient.angle, &bits, sizeof bits);
-      if (!std::isfinite(gradient.angle)) continue;
-      const auto read = decode<GradientValue>(*encode(gradient));
-      QVERIFY(read);
-      QCOMPARE(read->angle, gradient.angle);
-    }
-  }
-
-  void refusesNumbersThatAreNotFinite() {
+  void refusesWhatHasNoWrittenForm() {
     QCOMPARE(encode(GradientValue{{}, qInf(), {}}).error().kind, ErrorKind::unwritable);
     QVERIFY(!encode(GradientValue{{GradientStop{{}, {}, qQNaN()}}, 0, {}}));
-  }
-
-  void refusesDatesWithoutWrittenForm() {
     Brand brand = Brand::create("x");
     brand.createdAt = Timestamp(std::chrono::seconds(-62167219201));  // the second before year 0
     QCOMPARE(encode(brand).error().kind, ErrorKind::unwritable);
@@ -106,12 +57,7 @@ class TestJson : public QObject {
   void takesOldAndForeignFiles() {
     const QByteArray plain = json("{'hex':'#FFF'}"), digits = "12345678901234567890123";
     const Cases<QByteArray, QByteArray> cases{
-        {"null for none", json("{'hex':'#FFF','name':null}"), plain},
-        {"unknown keys", json("{'x':[{}],'hex':'#FFF','y':123456789012345678901234567890}"), plain},
         {"the last of a repeated key", json("{'hex':'#000','hex':'#FFF'}"), plain},
-        {"a slash in both forms", json("{'hex':'a\\/b'}"), json("{'hex':'a/b'}")},
-        {"U+FEFF in front of a text", json("{'hex':'\xEF\xBB\xBF\xEF\xBB\xBFx'}"),
-         json("{'hex':'\\ufeff\\ufeffx'}")},
         {"digits in a string", json("{'hex':'\\' " + digits + "','y':1234567" + digits + "}"),
          json("{'hex':'\\' " + digits + "'}")}};
     cases.check([](const QByteArray& given, const QByteArray& same) {
@@ -124,41 +70,20 @@ class TestJson : public QObject {
 
   void refusesAndNamesThePlace() {
     const Cases<QByteArray, QString> cases{
-        {"empty", "", "document: "},
         {"mark", "\xEF\xBB\xBF" + itemWith("{}"), "document: begins with a byte-order mark"},
-        {"list", "[]", "document: expected an object"},
         {"missing", itemWith("{'color':{'value':{'name':'x'}}}"),
          "payload.color.value.hex: missing"},
-        {"null for required", itemWith("{'text':{'body':null}}"),
-         "payload.text.body: expected a string"},
-        {"wrong type", itemWith("{'header':{'text':'x','level':'1'}}"),
-         "payload.header.level: expected an integer"},
         {"fraction", itemWith("{'header':{'text':'x','level':1.5}}"),
          "payload.header.level: expected an integer"},
-        {"too large", itemWith("{'header':{'text':'x','level':9223372036854775808}}"),
-         "payload.header.level: expected an integer"},
-        {"no known key", itemWith("{'sound':{}}"),
-         "payload: Invalid number of keys found, expected one."},
         {"two known keys", itemWith("{'text':{'body':''},'code':null}"),
          "payload: Invalid number of keys found, expected one."},
         {"unknown role",
          itemWith(
              R"({"logo":{"value":{"name":"","variants":[{"id":"8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E21","asset":{"filename":"","originalName":""},"role":"hero"}]}}})"),
          "payload.logo.value.variants[0].role: unknown value"},
-        {"bad id",
-         json("{'id':'8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E2','payload':{'text':{'body':''}}}"),
-         "id: expected a UUID"},
-        {"id in braces",
-         json("{'id':'{8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E21}','payload':{'text':{'body':''}}}"),
-         "id: expected a UUID"},
-        {"truncated", itemWith("{}").chopped(1), "document: "},
-        {"bad UTF-8", itemWith("{\"text\":{\"body\":\"\xC3\"}}"), "document: "},
-        {"lone surrogate", itemWith("{'text':{'body':'\\ud800'}}"), "document: "},
         {"long number", itemWith("{\"text\":" + QByteArray(100, '9') + "}"),
          "payload.text: expected an object"},
-        {"number beyond all", itemWith("{\"text\":" + QByteArray(400, '9') + "}"), "document: "},
-        {"deep", QByteArray(100000, '['), "document: "},
-        {"deep objects", QByteArray("{\"a\":").repeated(5000), "document: "}};
+        {"number beyond all", itemWith("{\"text\":" + QByteArray(400, '9') + "}"), "document: "}};
     cases.check([&](const QByteArray& json, const QString& message) {
       const auto read = decode<Item>(json);
       QVERIFY(!read);

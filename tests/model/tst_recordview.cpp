@@ -1,7 +1,6 @@
 #include "model/Json.h"
 #include "model/RecordView.h"
 #include "model/Utf8.h"
-#include "testing/Cases.h"
 #include "testing/RandomBrand.h"
 
 #include <QTest>
@@ -101,34 +100,19 @@ class Mutator {
   }
   static QByteArray keyOf(const QByteArray& line) { return line.left(line.indexOf(" : ")); }
 
-  QByteArray anyKey() {
-    return any({"id", "name", "hex", "value", "asset", "color", "text", "items", "kind", "x"});
-  }
+  QByteArray anyKey() { return any("id name hex value asset color text items kind x"); }
   QByteArray anyValue() {
-    return any({"null",
-                "true",
-                "1",
-                "1.0",
-                "1.5",
-                "-1e400",
-                "9223372036854775808",
-                "123456789012345678901",
-                "\"\"",
-                "\"\\u00fc\"",
-                "[]",
-                "{}",
-                "\"do\"",
-                "\"primary\"",
-                "\"2026-03-01T09:30:00Z\"",
-                "\"2026-03-01T09:30:00.5Z\"",
-                "\"8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E21\"",
-                "{\"text\":{\"body\":\"x\"}}",
-                "{\"text\":{\"body\":1},\"text\":{\"body\":\"x\"}}",
-                "{\"text\":{\"body\":\"x\"},\"code\":1}",
-                "{\"value\":{\"hex\":\"x\"},\"value\":{\"hex\":\"y\"}}"});
+    return any(
+        R"(null true 1 1.0 1.5 -1e400 9223372036854775808 123456789012345678901 "" "\u00fc" [] {})"
+        R"( "do" "primary" "2026-03-01T09:30:00Z" "2026-03-01T09:30:00.5Z")"
+        R"( "8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E21" {"text":{"body":"x"}})"
+        R"( {"text":{"body":1},"text":{"body":"x"}} {"text":{"body":"x"},"code":1})"
+        R"( {"value":{"hex":"x"},"value":{"hex":"y"}})");
   }
-  QByteArray any(std::initializer_list<const char*> choices) {
-    return *(choices.begin() + random_.bounded(int(choices.size())));
+  // One of the words.
+  QByteArray any(const QByteArray& words) {
+    const QList<QByteArray> choices = words.split(' ');
+    return choices.at(random_.bounded(int(choices.size())));
   }
 
   QRandomGenerator random_;
@@ -140,25 +124,6 @@ class TestRecordView : public QObject {
   Q_OBJECT
 
  private slots:
-  void refusesWhatDecodingRefuses() {
-    const Cases<QByteArray, QByteArray> cases{
-        {"nothing changed", "", ""},
-        {"missing key", "\"updatedAt\"", "\"touchedAt\""},
-        {"fractional seconds", "00Z\"", "00.5Z\""},
-        {"wrong type deep inside", "\"#123456\"", "123456"},
-        {"fractional integer", "\"schemaVersion\" : 1", "\"schemaVersion\" : 1.5"},
-        {"two kinds", "\"color\"", "\"text\" : {}, \"color\""},
-        {"null entry", "\"items\" : [", "\"items\" : [null, "},
-        {"an earlier bad one of a repeated key", "\"hex\"", "\"hex\" : 1, \"hex\""}};
-    cases.check([&](const QByteArray& from, const QByteArray& to) {
-      Brand brand = Brand::create("Acme", [] { return Timestamp(); });
-      brand.sections[0].items.append(Item::create(ColorPayload{{"#123456", {}, {}}}));
-      QByteArray json = *encode(brand);
-      if (!from.isEmpty()) json.replace(from, to);
-      QCOMPARE(verdictOf(json), from.isEmpty() ? Verdict::accepted : Verdict::refused);
-    });
-  }
-
   void agreesWithDecodingOverMutatedManifests() {
     int accepted = 0, refused = 0;
     for (quint32 seed = 0; seed < 40; ++seed) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/theme/Theme.h"
+#include "controls/theme/Typography.h"
 #include "shell/TestShell.h"
 #include "shell/window/AccentTint.h"
 #include "shell/window/MainWindow.h"
@@ -9,9 +10,23 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QRegularExpression>
 #include <QTest>
+#include <QtQml/qqmlextensionplugin.h>
+
+Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 namespace tarnloft {
+
+constexpr auto row = QAccessible::ListItem;
+constexpr auto button = QAccessible::Button;
+constexpr auto entry = QAccessible::MenuItem;
+constexpr auto dialog = QAccessible::Dialog;
+constexpr auto alert = QAccessible::AlertMessage;
 
 // The main window over a library, driven by keys and the pointer as a user would.
 struct Views : TestShell {
@@ -20,7 +35,11 @@ struct Views : TestShell {
   std::unique_ptr<AccentTint> tint;
   std::unique_ptr<MainWindow> main;
 
+  // From then on no complaint of a view goes unseen.
   void start() {
+    QTest::failOnWarning(QRegularExpression("qrc:|QML|Binding"));
+    QAccessible::setActive(true);
+    prepareTypography();
     Theme& theme = Theme::of(engine);
     LibraryStore& store = library.start();
     tint = std::make_unique<AccentTint>(store, theme);
@@ -52,8 +71,8 @@ struct Views : TestShell {
   static QPoint centerOf(const QQuickItem* item) {
     return item->mapToScene({item->width() / 2, item->height() / 2}).toPoint();
   }
-  void click(const QQuickItem* item, Qt::MouseButton button = Qt::LeftButton) const {
-    QTest::mouseClick(&window(), button, {}, centerOf(item));
+  void click(const QQuickItem* item, Qt::MouseButton which = Qt::LeftButton) const {
+    QTest::mouseClick(&window(), which, {}, centerOf(item));
   }
 
  private:

@@ -1,7 +1,7 @@
 // One start of a program that runs once a user, for the test of it: says on standard output what it
 // became, and as the first, each time that another start asks for its window. Arguments: the
-// folder, its patience in milliseconds, and what follows on no answer: "ask" on, or "end" the other
-// one. The word "deaf" makes it one that doesn't end when it is asked to.
+// folder, its patience in milliseconds, and "end" to end one that doesn't answer, or "deaf" to be
+// one that doesn't end when it is asked to.
 #include "platform/desktop/instance/UnansweringInstance.h"
 
 #include <QCoreApplication>
@@ -21,7 +21,7 @@ void say(const char* text) {
 
 using Start = RunningInstance::Start;
 
-Start askOn(RunningInstance& instance, const QString& how) {
+Start endOther(RunningInstance& instance) {
   UnansweringInstance other(instance);
   Start became = Start::noAnswer;
   QObject::connect(&other, &UnansweringInstance::settled, [&](Start start) {
@@ -32,9 +32,8 @@ Start askOn(RunningInstance& instance, const QString& how) {
     say("failed");
     QCoreApplication::quit();
   });
-  QTimer::singleShot(300, &other, [&] {  // behind the first question
-    if (how == QLatin1String("end")) other.end(std::chrono::milliseconds(300));
-  });
+  // Behind the first question.
+  QTimer::singleShot(300, &other, [&] { other.end(std::chrono::milliseconds(300)); });
   QCoreApplication::exec();
   return became;
 }
@@ -49,7 +48,7 @@ int main(int argc, char** argv) {
   Start start = instance.claim(std::chrono::milliseconds(words.value(1, "10000").toInt()));
   if (start == Start::noAnswer) {
     say("no answer");
-    if (words.size() > 2) start = askOn(instance, words.at(2));
+    if (words.size() > 2) start = endOther(instance);
   }
   if (start == Start::shown) say("shown");
   if (start != Start::first) return start == Start::shown ? 0 : 1;

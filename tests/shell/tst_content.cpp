@@ -115,39 +115,30 @@ class TestContent : public QObject {
     QCOMPARE(requested.size(), 1);
   }
 
-  void tellsToastsInTheDesktopsWords() {
-    ContentTest test;
-    ContentModel& content = test.start();
-    content.toasts()->show("Deleted 2 items · ⌘Z to undo");
-    QCOMPARE(content.toast(), "Deleted 2 items · Ctrl+Z to undo");
-  }
-
-  void aNewBrandClearsTheTilesSelection() {
-    ContentTest test;
-    test.library.add("Acme");
-    test.library.add("Birch");
-    ContentModel& content = test.start();
-    content.selection()->toggle(QUuid::createUuid(), QUuid::createUuid());
-    test.library.store->select(test.library.packagePath("Acme"));  // the same
-    QCOMPARE(content.selection()->count(), 1);
-    test.library.store->select(test.library.packagePath("Birch"));
-    QCOMPARE(content.selection()->count(), 0);
-  }
-
-  void undoneStepsGoWithTheirDocument() {
+  void whatBelongsToABrandGoesWithIt() {
     ContentTest test;
     test.library.add("Acme");
     test.library.add("Birch");
     ContentModel& content = test.start();
     BrandDocument& document = *test.library.store->openDocument();
+    QSignalSpy undoChanged(content.undo(), &WindowUndo::changed);
     document.mutate("Delete", content.undo(), [](Brand& brand) { brand.name = "Changed"; });
     QCOMPARE(content.undo()->undoText(), "Undo Delete");
+    QVERIFY(!undoChanged.isEmpty());
+    undoChanged.clear();
     content.undo()->undo();
+    QVERIFY(!undoChanged.isEmpty());
     QCOMPARE(document.brand().name, "Acme");
+    QCOMPARE(content.undo()->redoText(), "Redo Delete");
     content.undo()->redo();
-    QCOMPARE(document.brand().name, "Changed");
+    content.toasts()->show("Deleted 1 item · ⌘Z to undo");
+    QCOMPARE(content.toast(), "Deleted 1 item · Ctrl+Z to undo");
+    content.selection()->toggle(QUuid::createUuid(), QUuid::createUuid());
+    test.library.store->select(test.library.packagePath("Acme"));  // the same
+    QVERIFY(content.selection()->count() == 1 && content.undo()->canUndo());
     test.library.store->select(test.library.packagePath("Birch"));
-    QVERIFY(!content.undo()->canUndo());
+    QVERIFY(content.selection()->count() == 0 && !content.undo()->canUndo());
+    QCOMPARE(content.undo()->undoText(), "Undo");
   }
 
   void picksColorsUndoably() {

@@ -1,21 +1,8 @@
-#include "controls/theme/Theme.h"
-#include "shell/TestShell.h"
-#include "shell/window/MainWindow.h"
+#include "shell/TestViews.h"
 #include "testing/Cases.h"
 
-#include <QQmlEngine>
-#include <QQuickItem>
-#include <QQuickWindow>
 #include <QScreen>
 #include <QSignalSpy>
-#include <QTest>
-#include <QtQml/qqmlextensionplugin.h>
-
-Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
-Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
-Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
-Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
-Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 #include <algorithm>
 
@@ -62,9 +49,7 @@ class TestMainWindow : public QObject {
     };
     const QSize usual(1160, 760);
     const Cases<WindowState, WindowState> cases{
-        {"on it", state(QPoint(10, 10), usual), state(QPoint(10, 10), usual)},
         {"on the second", state(QPoint(1500, 10), usual), state(QPoint(1500, 10), usual)},
-        {"a bit aside", state(QPoint(-900, 10), usual), state(QPoint(-900, 10), usual)},
         {"far aside", state(QPoint(-1100, 10), usual), state(std::nullopt, usual)},
         {"above", state(QPoint(10, -20), usual), state(std::nullopt, usual)},
         {"screen has gone", state(QPoint(5000, 10), usual), state(std::nullopt, usual)},
@@ -86,31 +71,15 @@ class TestMainWindow : public QObject {
     window.resize(900, 700);
     rightSizeWindow(&window, preferences);
     QCOMPARE(window.size(), QSize(900, 700));
-
-    IniPreferences others(disk.path("others.ini"));
-    rightSizeWindow(nullptr, others);
-    rightSizeWindow(&window, others);
-    QCOMPARE(window.size(), QSize(900, 700));
-
-    IniPreferences third(disk.path("third.ini"));
-    window.resize(1000, 600);
-    rightSizeWindow(&window, third);
-    QCOMPARE(window.size(), QSize(1000, 600));
   }
 
   void opensAndClosesAndOpensAnew() {
-    TestShell test;
-    TestLibrary& library = test.library;
-    library.add("Acme");
-    library.start();
-    IniPreferences state(library.disk.path("state.ini"));
-    QQmlEngine engine;
-    Theme::of(engine);
-    MainWindow main(engine, test.services(), state);
+    Views views;
+    views.library.add("Acme");
+    views.start();
+    MainWindow& main = *views.main;
     QSignalSpy closed(&main, &MainWindow::closed);
-    QVERIFY(main.open());
     QPointer<QQuickWindow> window = main.window();
-    QVERIFY(QTest::qWaitForWindowExposed(window));
     const QRect screen = window->screen()->availableGeometry();
     QCOMPARE(window->size(), WindowState().fitting({screen}).size);
     QCOMPARE(window->minimumSize(), WindowState::minimumSize);
@@ -123,7 +92,7 @@ class TestMainWindow : public QObject {
     QTRY_COMPARE(closed.size(), 1);
     QVERIFY(!window);
     QVERIFY(!main.window());
-    library.store->createBrand("While closed");
+    views.library.store->createBrand("While closed");
 
     QVERIFY(main.open());
     QCOMPARE(main.window()->size(), QSize(860, 600));
@@ -133,14 +102,10 @@ class TestMainWindow : public QObject {
   // The toolkit leaves a list's views to the event loop's next turn, which the end hasn't got.
   void takesItsViewsAlong() {
     for (const bool closed : {false, true}) {
-      TestShell test;
+      Views test;
       test.library.add("Acme", {Section::create("S")});
-      test.library.start();
-      IniPreferences state(test.library.disk.path("state.ini"));
-      QQmlEngine engine;
-      Theme::of(engine);
-      auto main = std::make_unique<MainWindow>(engine, test.services(), state);
-      QVERIFY(main->open());
+      test.start();
+      std::unique_ptr<MainWindow>& main = test.main;
       QTRY_VERIFY(pageIn(main->window()->contentItem()));
       QList<QPointer<QQuickItem>> views;
       views << main->window()->contentItem();

@@ -1,6 +1,4 @@
 #include "controls/sheets/NameSheet.h"
-#include "controls/sheets/Question.h"
-#include "model/Uuid.h"
 #include "shell/sidebar/Sidebar.h"
 #include "testing/Cases.h"
 #include "testing/TestLibrary.h"
@@ -102,31 +100,26 @@ class TestSidebar : public QObject {
     QCOMPARE(look().color, QColor(0x8e8e93));
   }
 
-  void selectingMovesTheSectionsOnly() {
-    SidebarTest test;
-    test.library.add("Acme", {section("A"), section("B")});
-    test.library.add("Birch", {section("C")});
-    Sidebar& sidebar = test.start();
-    Signals told(*sidebar.rows());
-    sidebar.select(test.library.packagePath("Birch"));
-    QCoreApplication::processEvents();
-    // Two brands look different, one run of sections goes and one comes.
-    QCOMPARE(told.counts(), QList<qsizetype>({1, 1, 0, 2, 0}));
-  }
-
-  void oneMoveIsOneSignal() {
+  void aChangeMovesNoMoreThanItMust() {
     SidebarTest test;
     for (const char* name : {"Acme", "Birch", "Cedar"}) {
       test.library.add(name, {section("A"), section("B"), section("C")});
     }
     Sidebar& sidebar = test.start();
+    {
+      Signals told(*sidebar.rows());
+      sidebar.beginDrag(test.id("Cedar"));
+      sidebar.dragEntered(test.id("Acme"));
+      sidebar.dragEntered(test.id("Acme"));
+      QCoreApplication::processEvents();
+      QCOMPARE(told.counts(), QList<qsizetype>({0, 0, 1, 0, 0}));
+      QCOMPARE(test.texts().first(), "Cedar");
+    }
     Signals told(*sidebar.rows());
-    sidebar.beginDrag(test.id("Cedar"));
-    sidebar.dragEntered(test.id("Acme"));
-    sidebar.dragEntered(test.id("Acme"));
+    sidebar.select(test.library.packagePath("Birch"));
     QCoreApplication::processEvents();
-    QCOMPARE(told.counts(), QList<qsizetype>({0, 0, 1, 0, 0}));
-    QCOMPARE(test.texts().first(), "Cedar");
+    // Two brands look different, one run of sections goes and one comes.
+    QCOMPARE(told.counts(), QList<qsizetype>({1, 1, 0, 2, 0}));
   }
 
   void followsAnyChange() {
@@ -164,34 +157,11 @@ class TestSidebar : public QObject {
     test.start().rename(test.library.packagePath("Birch"));
     auto* const sheet = qobject_cast<NameSheet*>(test.sheets.current());
     QCOMPARE(sheet->text(), "Birch");
-    sheet->setText(" ");
-    sheet->confirm();
-    QCOMPARE(test.sheets.current(), sheet);
     sheet->setText(" Cedar ");
     sheet->confirm();
     QVERIFY(!test.sheets.current());
     QCOMPARE(test.library.names(), QStringList({"Acme", "Cedar"}));
     QCOMPARE(test.library.store->selection(), test.library.packagePath("Cedar"));
-  }
-
-  void asksBeforeDeleting() {
-    using Answer = Question::Answer;
-    SidebarTest test;
-    test.library.add("Acme");
-    test.library.add("Say \"hi\"");
-    Sidebar& sidebar = test.start();
-    const auto reply = [&](const QString& brand, Answer answer) {
-      sidebar.moveToTrash(test.library.packagePath(brand));
-      auto* const question = qobject_cast<Question*>(test.sheets.current());
-      QCOMPARE(question->title(), "Move “" + brand + "” to the Trash?");
-      question->give(answer);
-      QVERIFY(!test.sheets.current());
-    };
-    reply("Say \"hi\"", Answer::Dismissed);
-    QCOMPARE(test.library.store->brands().size(), 2);
-    reply("Acme", Answer::Confirmed);
-    QCOMPARE(test.library.names(), QStringList({"Say \"hi\""}));
-    QVERIFY(QFile::exists(test.library.disk.path("trash/Acme.tarnloft")));
   }
 
   // Removed, or renamed, by another machine.
@@ -209,30 +179,18 @@ class TestSidebar : public QObject {
     test.library.store->scan();
     QVERIFY(!test.sheets.current());
     QTRY_VERIFY(!rename);
-  }
-
-  void reordersWhileDragging() {
-    SidebarTest test;
-    for (const char* name : {"Acme", "Birch", "Cedar"}) test.library.add(name);
-    Sidebar& sidebar = test.start();
-    QSignalSpy moved(&sidebar, &Sidebar::moved);
-    sidebar.dragEntered(test.id("Birch"));
-    sidebar.dragEnteredEnd();  // nothing is dragged
-    sidebar.beginDrag(test.id("Acme"));
-    sidebar.dragEntered(test.id("Acme"));
-    QVERIFY(moved.isEmpty());
-    sidebar.dragEntered(test.id("Cedar"));
-    QCOMPARE(test.library.names(), QStringList({"Birch", "Acme", "Cedar"}));
-    sidebar.dragEnteredEnd();
-    QCOMPARE(test.library.names(), QStringList({"Birch", "Cedar", "Acme"}));
-    sidebar.endDrag();
-    QVERIFY(sidebar.draggingBrandID().isEmpty());
+    const QString gone = test.library.packagePath("Birch");  // whose menu may still be open
+    sidebar.rename(gone);
+    sidebar.moveToTrash(gone);
+    QVERIFY(!test.sheets.current());
+    sidebar.duplicate(gone);
+    sidebar.exportFile(gone);
+    sidebar.exportPage(gone);
+    QCOMPARE(test.library.names(), QStringList("Cedar"));
   }
 
   void movesByKeyboard() {
     const Cases<QString, bool, QString> cases{{"first up", "Acme", true, "Acme Birch Cedar"},
-                                              {"second up", "Birch", true, "Birch Acme Cedar"},
-                                              {"first down", "Acme", false, "Birch Acme Cedar"},
                                               {"second down", "Birch", false, "Acme Cedar Birch"},
                                               {"last down", "Cedar", false, "Acme Birch Cedar"}};
     cases.check([&](const QString& brand, bool up, const QString& order) {
@@ -242,21 +200,6 @@ class TestSidebar : public QObject {
       up ? sidebar.moveUp(test.id(brand)) : sidebar.moveDown(test.id(brand));
       QCOMPARE(test.library.names().join(' '), order);
     });
-  }
-
-  void passesOverBrandsThatHaveGone() {
-    SidebarTest test;
-    test.library.add("Acme");
-    Sidebar& sidebar = test.start();
-    const QString gone = test.library.packagePath("Gone");
-    sidebar.rename(gone);
-    sidebar.moveToTrash(gone);
-    QVERIFY(!test.sheets.current());
-    sidebar.duplicate(gone);
-    sidebar.exportFile(gone);
-    sidebar.exportPage(gone);
-    sidebar.moveUp(canonicalString(QUuid::createUuid()));
-    QCOMPARE(test.library.names(), QStringList("Acme"));
   }
 };
 

@@ -84,11 +84,9 @@ class FakeImages : public Images {
 class FakeVideos : public Videos {
  public:
   std::optional<VideoProperties> told;
-  double askedSeconds = -1;
 
   std::optional<VideoProperties> properties(const QString&) override { return told; }
-  std::optional<QImage> frame(const QString& path, double seconds, int maxPixel) override {
-    askedSeconds = seconds;
+  std::optional<QImage> frame(const QString& path, double /*seconds*/, int maxPixel) override {
     if (path.contains("broken")) return std::nullopt;
     QImage image(maxPixel, maxPixel, QImage::Format_RGB32);
     image.fill(Qt::blue);

@@ -10,10 +10,16 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
+#include <QRegularExpression>
 #include <QTest>
+#include <QtQml/qqmlextensionplugin.h>
 #include <qpa/qwindowsysteminterface.h>
 
 #include <optional>
+
+Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 namespace tarnloft {
 
@@ -21,6 +27,8 @@ namespace tarnloft {
 class TestPage {
  public:
   explicit TestPage(TestWorkspace& test) {
+    QTest::failOnWarning(QRegularExpression("."));
+    QAccessible::setActive(true);
     Theme::of(*view.engine());
     view.setResizeMode(QQuickView::SizeRootObjectToView);
     view.resize(1000, 760);

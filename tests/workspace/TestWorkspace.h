@@ -24,12 +24,10 @@ class ListedDrags : public DragSession {
  public:
   QList<DragItem> items;
   QImage picture;
-  QPoint hotSpot;
   std::function<void()> during;
   void drag(const QList<DragItem>& dragged, const DragLook& look) override {
     items = dragged;
     picture = look.picture;
-    hotSpot = look.hotSpot;
     if (during) during();
   }
 };
@@ -45,13 +43,10 @@ struct TestDesktop {
   ListedDrags drags;
   QThreadPool workers;
   BackgroundWork work{1};
-  ThumbnailLoader loader;
+  ThumbnailLoader loader{images, work};
   Thumbnails thumbnails{loader};
   Posters posters{videos, work};
   MimeDrops drops{workers};
-
-  TestDesktop() : loader(images, work) {}
-  explicit TestDesktop(Images& others) : loader(others, work) {}
 
   // Of the library as it was started last.
   WorkspaceServices services() {
@@ -77,14 +72,6 @@ class TestWorkspace : public TestDesktop {
     library.start();
     makeWorkspace();
   }
-  // Of a copy of that package.
-  TestWorkspace(const QString& package, Images& others) : TestDesktop(others) {
-    QDir().mkpath(library.folder);
-    (void)library.disk.files.copyFolder(package, library.packagePath("Copy"));
-    library.start();
-    makeWorkspace();
-  }
-
   BrandDocument& document() { return *library.store->openDocument(); }
   SectionModel& section(int index) { return *workspace->sections()->models().at(size_t(index)); }
   const Section& stored(int index) { return document().brand().sections.at(index); }

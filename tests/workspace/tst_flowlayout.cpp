@@ -1,5 +1,3 @@
-#include "controls/motion/Spring.h"
-#include "controls/motion/SpringMotion.h"
 #include "testing/Cases.h"
 #include "workspace/Items.h"
 #include "workspace/flow/FlowLayout.h"
@@ -94,33 +92,6 @@ class TestFlowLayout : public QObject {
     cases.check([&](int from, FlowLayout::Direction direction, int to) {
       QCOMPARE(layout.neighbour(from, direction), to);
     });
-  }
-
-  void movesLikeTheToldSpringAndRests() {
-    const Spring told{0.5, 0.85};
-    SpringMotion motion;
-    motion.settle({10, 0});
-    motion.aim({110, -50});
-    double time = 0;
-    for (; motion.isMoving() && time < 1.5; time += 0.01) {
-      const double way = told.position(time);
-      QVERIFY(time > 0.4 ||
-              (motion.position() - QPointF(10 + 100 * way, -50 * way)).manhattanLength() < 0.1);
-      motion.advance(0.01);
-    }
-    QVERIFY(time < 1.5);
-    QCOMPARE(motion.position(), QPointF(110, -50));
-  }
-
-  void keepsItsSpeedWhenTheTargetMoves() {
-    SpringMotion motion;
-    motion.settle({0, 0});
-    motion.aim({100, 0});
-    for (int i = 0; i < 10; ++i) motion.advance(0.01);
-    const double before = motion.position().x();
-    motion.aim({-100, 0});
-    motion.advance(0.001);
-    QVERIFY(motion.position().x() > before);  // it goes on before it turns
   }
 };
 

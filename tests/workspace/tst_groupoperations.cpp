@@ -120,13 +120,10 @@ class TestGroupOperations : public QObject {
 
   void countsWhatIsThere() {
     const Cases<QString, int, int, bool> cases{
-        {"nothing", "", 0, 0, false},
         {"one image", "i", 1, 1, false},
         {"two images", "ij", 2, 2, true},
         {"two images and a colour", "ijc", 2, 2, false},
-        {"two colours", "cd", 0, 0, false},
         {"two images and one that has gone", "ij?", 2, 2, true},
-        {"one image and one that has gone", "i?", 1, 1, false},
         {"what is elsewhere", "ijl", 2, 2, true}};
     cases.check([&](const QString& selected, int exportable, int images, bool canGroup) {
       Grouping grouping;
@@ -197,23 +194,6 @@ class TestGroupOperations : public QObject {
     QVERIFY(logo.variants[1].role == LogoRole::secondary);
     QCOMPARE(logo.variants[1].asset, (AssetRef{"k.png", "k file.png"}));
     QVERIFY(logo.variants[0].id != logo.variants[1].id && !logo.variants[0].background);
-  }
-
-  void exportsTheSelectedFiles() {
-    Grouping grouping;
-    const QString temporary = grouping.disk.path("tmp");
-    QVERIFY(QDir().mkpath(temporary) && qputenv("TMPDIR", QFile::encodeName(temporary)));
-    for (const char* name : {"i", "j", "k"}) {
-      QVERIFY(writeFile(Package::assetsPath(grouping.document->packageURL()) + '/' + name + ".png",
-                        name));
-    }
-    QVERIFY(grouping.operations.selectedExportURLs(grouping.disk.files).isEmpty());
-    grouping.select("kdi");
-    const QStringList urls = grouping.operations.selectedExportURLs(grouping.disk.files);
-    qunsetenv("TMPDIR");
-    const QString folder = temporary + "/tarnloft-drag/";
-    QCOMPARE(urls, QStringList({folder + "i file.png", folder + "k file.png"}));
-    QCOMPARE(contentOf(urls.last()), "k");
   }
 };
 

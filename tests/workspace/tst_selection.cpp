@@ -54,24 +54,18 @@ class TestSelection : public QObject {
   void followsClicks() {
     const Cases<QString, QString> cases{
         {"one", "+a", "s:a|a"},
-        {"a second", "+a +b", "s:ab|b"},
-        {"away again", "+a +b +b", "s:a|b"},
         {"the only one away", "+a +a", ""},
+        {"away again", "+a +b +b", "s:a|b"},
         {"a range", "+b >d", "s:bcd|b"},
         {"a range backwards", "+d >b", "s:bcd|d"},
-        {"a range of all", "+a >d", "s:abcd|a"},
-        {"a range to itself", "+b >b", "s:b|b"},
         {"a range without an anchor", ">c", "s:c|c"},
         {"two ranges of one anchor", "+b >d >a", "s:abcd|b"},
         {"a range from one that was taken away", "+a +d +d >b", "s:abcd|d"},
         {"a range to what isn't in the order", "+a >x", "s:ax|a"},
-        {"a range from what isn't in the order", "+x >b", "s:bx|x"},
         {"another section", "+a +b t +c", "t:c|c"},
         {"the same tile in another section", "+a t +a", "t:a|a"},
         {"a range in another section", "+a t >c", "t:c|c"},
         {"cleared", "+a >c -", ""},
-        {"cleared twice", "- -", ""},
-        {"all", "*abc", "s:abc|c"},
         {"all of another section", "+a t *bc", "t:bc|c"},
         {"all of nothing", "+a *", "s:a|a"},
         {"all of nothing elsewhere", "+a t *", "s:a|a"},
@@ -80,13 +74,6 @@ class TestSelection : public QObject {
       TileSelection selection;
       run(selection, script);
       QCOMPARE(state(selection), result);
-      for (const QChar tile : QString("abcdx")) {
-        for (const QChar section : QString("st")) {
-          const bool isIn =
-              selection.sectionID() == id(section) && selection.ids().contains(id(tile));
-          QCOMPARE(selection.contains(id(tile), id(section)), isIn);
-        }
-      }
     });
   }
 

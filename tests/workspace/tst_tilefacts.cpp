@@ -1,7 +1,6 @@
 #include "pictures/GradientView.h"
 #include "testing/Cases.h"
 #include "workspace/Items.h"
-#include "workspace/flow/Segments.h"
 #include "workspace/tiles/TileFacts.h"
 
 #include <QTest>
@@ -47,23 +46,13 @@ class TestTileFacts : public QObject {
     const Cases<Item, QString, QString, QString> cases{
         {"named colour", colorItem("Sea", "#a1b2c3"), "#A1B2C3", "Click to copy #A1B2C3",
          "Color, Sea, hex #a1b2c3"},
-        {"colour", Item::create(ColorPayload{{"#a1b2c3", {}, {}}}), QString(),
-         "Click to copy #A1B2C3", "Color, #a1b2c3, hex #a1b2c3"},
         {"gradient", Item::create(GradientPayload{{{}, 0, "Dawn"}}), QString(), "",
          "Gradient, Dawn"},
-        {"gradient without a name", Item::create(GradientPayload{{{}, 0, {}}}), QString(), "",
-         "Gradient"},
         {"image", imageItem("Hero"), QString(), "Drag into another app to use", "Image, Hero"},
-        {"video", videoItem("Spin"), QString(), "", "Video, Spin"},
         {"font with a file", fontItem(file, "Bold"), "Bold", "", "Type, Work Sans"},
-        {"font with a file, of no weight", fontItem(file, {}), QString(), "", "Type, Work Sans"},
         {"name-only font", fontItem({}, "Bold"), "Bold · name only", "", "Type, Work Sans"},
-        {"name-only font of no weight", fontItem({}, {}), "Name only", "", "Type, Work Sans"},
         {"code", Item::create(CodePayload{{"css", "a {}", "Reset"}}), "css", "",
          "Code snippet, Reset"},
-        {"code of no language", Item::create(CodePayload{{"", "a {}", "Reset"}}), QString(), "",
-         "Code snippet, Reset"},
-        {"empty logo set", logoItem(0), "0 variants", "", "Logo set, Mark, 0 variants"},
         {"logo set of one", logoItem(1), "1 variant", "", "Logo set, Mark, 1 variant"},
         {"logo set", logoItem(3), "3 variants", "", "Logo set, Mark, 3 variants"},
         {"heading", headerItem("Voice"), QString(), "", ""}};
@@ -129,49 +118,6 @@ class TestTileFacts : public QObject {
       QVERIFY(stops.first().first >= 0 && stops.last().first <= 1);
       QVERIFY(stops.last().first - stops.first().first < 1e-3);
     }
-  }
-
-  void breaksTheGridAtBlocks() {
-    // b for a block, t for a tile: kinds
-    // b, or the number of tiles: segments
-    const Cases<QString, QString> cases{{"nothing", "", ""},
-                                        {"tiles alone", "ttt", "3"},
-                                        {"in between", "bttbt", "b 2 b 1"},
-                                        {"blocks in a row", "bbtb", "b b 1 b"}};
-    cases.check([&](const QString& kinds, const QString& segments) {
-      SharedList<Item> items;
-      int headings = 0;
-      for (const QChar kind : kinds) {
-        const bool isBlock = kind == 'b';
-        items.append(!isBlock ? colorItem("c") : ++headings % 2 ? headerItem("h") : textItem("t"));
-      }
-      QStringList told;
-      int next = 0;
-      for (const Segment& segment : segmentsOf(items)) {
-        QCOMPARE(segment.first, next);
-        next += segment.count;
-        told << (segment.kind == Segment::Kind::block ? "b" : QString::number(segment.count));
-      }
-      QCOMPARE(told.join(' '), segments);
-    });
-  }
-
-  void findsWhatMatchesASearch() {
-    const Cases<QString, QStringList> cases{
-        {"nothing asked", "", QStringList{"Sea", "Hero", "Voice"}},
-        {"blanks", "  \n", QStringList{"Sea", "Hero", "Voice"}},
-        {"by name, blanks around it", " hero ", QStringList{"Hero"}},
-        {"by hex", "#1234", QStringList{"Sea"}},
-        {"in a heading", "voi", QStringList{"Voice"}},
-        {"nowhere", "zebra", QStringList()}};
-    cases.check([&](const QString& search, const QStringList& found) {
-      QStringList names;
-      for (const Item& item :
-           matching({colorItem("Sea"), imageItem("Hero"), headerItem("Voice")}, search)) {
-        names << item.displayName();
-      }
-      QCOMPARE(names, found);
-    });
   }
 };
 

