@@ -53,7 +53,9 @@ class TestVersions : public QObject {
  private slots:
   void listsTheThirtyNewestFirst() {
     Versioned brand;
+    const int synced = brand.store.synced;
     for (const char* label : {"a", "b", "c"}) brand.document->snapshotVersion(QString(label));
+    QCOMPARE(brand.store.synced, synced + 3);
     QCOMPARE(brand.labels(), QStringList({"c", "b", "a"}));
     QCOMPARE(brand.fileNames(),
              QStringList({"1772357460123-1.json", "1772357460123-2.json", "1772357460123.json"}));

@@ -1,9 +1,9 @@
 """A GTK window to drag from and to. Arguments: the files that it gives, or the address of a picture
 that it gives with that; behind "--asks" the formats to ask for when something is dropped.
 
-Prints READY, and for a drop TYPES with all that is offered, then for each format either DATA with
-the first bytes in hex or REFUSED; where it asks for none, DROPPED with the files that it read, in
-JSON."""
+Prints READY, and for a drop TYPES and ACTIONS with all that is offered, then for each format either
+DATA with the first bytes in hex or REFUSED; where it asks for none, DROPPED with the files that it
+read, in JSON."""
 import argparse
 import hashlib
 import json
@@ -39,6 +39,7 @@ def drop(_window, drag, _x, _y, time):
     if arguments.asks is None:
         return False  # all is done by default
     say("TYPES", *(target.name() for target in drag.list_targets()))
+    say("ACTIONS", *drag.get_actions().value_nicks)
     ask(drag, list(arguments.asks), time)
     return True
 

@@ -49,6 +49,7 @@ class Dragging(Journey):
         self.assertIn(data(target, "image/tiff")[:4], (b"II*\0", b"MM\0*"))
         target.line("REFUSED com.quillmoor.tarnloft.item")
         self.assertNotIn("quillmoor", target.line("TYPES"))
+        self.assertEqual(target.line("ACTIONS"), "copy")
 
     def test_a_picture_beyond_an_answers_size_comes_smaller(self):
         # The X server would end the program for an answer of over 16 MB.

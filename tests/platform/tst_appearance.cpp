@@ -88,6 +88,9 @@ class TestAppearance : public QObject {
     QTRY_VERIFY(appearance.isDark());
     settings.change(2);
     QTRY_VERIFY(!appearance.isDark());
+    settings.change(group, "contrast", 1U);
+    QTest::qWait(50);
+    QVERIFY(!appearance.isDark());
     colorDesktop(Qt::black, Qt::white);
     settings.change(0);  // no preference: the palette
     QTRY_VERIFY(appearance.isDark());

@@ -275,6 +275,11 @@ class TestFileStore : public QObject {
     const auto setRights = [](const QString& path, mode_t rights) {
       QCOMPARE(::chmod(QFile::encodeName(path).constData(), rights), 0);
     };
+    QFile aged(source);
+    QVERIFY(aged.open(QIODevice::ReadWrite));
+    const auto lastYear = QDateTime::fromSecsSinceEpoch(1'000'000'000);
+    QVERIFY(aged.setFileTime(lastYear, QFile::FileModificationTime));
+    aged.close();
     setRights(source, 0440);
     setRights(disk.path("replaced"), 0040);
     setRights(disk.path("from"), 0500);
@@ -284,6 +289,8 @@ class TestFileStore : public QObject {
     QVERIFY(written(disk.files, disk.path("replaced"), "new"));
     for (const char* name : {"copy", "tree/file", "tree/in", "replaced"}) {
       QCOMPARE(rightsOf(disk.path(name)), mode_t(0640));
+      const bool isCopy = qstrcmp(name, "replaced") != 0;
+      QCOMPARE(QFileInfo(disk.path(name)).lastModified() == lastYear, isCopy);
     }
     QCOMPARE(rightsOf(disk.path("tree")), mode_t(0700));
     setRights(disk.path("from"), 0700);

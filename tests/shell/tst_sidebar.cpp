@@ -191,6 +191,7 @@ class TestSidebar : public QObject {
 
   void movesByKeyboard() {
     const Cases<QString, bool, QString> cases{{"first up", "Acme", true, "Acme Birch Cedar"},
+                                              {"first down", "Acme", false, "Birch Acme Cedar"},
                                               {"second down", "Birch", false, "Acme Cedar Birch"},
                                               {"last down", "Cedar", false, "Acme Birch Cedar"}};
     cases.check([&](const QString& brand, bool up, const QString& order) {

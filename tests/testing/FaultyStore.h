@@ -20,6 +20,7 @@ class FaultyStore : public PosixFileStore {
   Fault fault = Fault::none;
   int atStep = 0;
   mutable int steps = 0;
+  int synced = 0;  // files
 
   Result<std::unique_ptr<FileReader>> open(const QString& path,
                                            const QString& root) const override {
@@ -111,6 +112,7 @@ class FaultyStore : public PosixFileStore {
       return store_.step() ? file_->truncate(size) : tl::unexpected(fullDisk());
     }
     Result<void> sync() override {
+      ++store_.synced;
       return store_.step() ? file_->sync() : tl::unexpected(fullDisk());
     }
     FileIdentity identity() const override { return file_->identity(); }
