@@ -32,6 +32,7 @@ add_custom_target(tidy_paths
   COMMAND node ${tidy_program} paths ${CMAKE_BINARY_DIR} cmake/analysed.txt ${tidy_sources}
   WORKING_DIRECTORY ${CMAKE_SOURCE_DIR}
   DEPENDS ${tidy_stamps}
+  COMMENT "Analysing paths"
   USES_TERMINAL
   VERBATIM)
 add_custom_target(tidy DEPENDS tidy_paths)

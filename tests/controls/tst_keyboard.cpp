@@ -210,7 +210,6 @@ class TestKeyboard : public QObject {
     const Cases<QList<int>, QString> cases{
         {"down", QList<int>{Key_Down, Key_Return}, "Duplicate"},
         {"past what tells", QList<int>{Key_Down, Key_Down, Key_Return}, "Delete"},
-        {"no letter of what tells", QList<int>{Key_D, Key_M, Key_Return}, "Duplicate"},
         {"second of a letter", QList<int>{Key_D, Key_D, Key_Return}, "Delete"},
         {"tab goes round", QList<int>{Key_Tab, Key_Tab, Key_Tab, Key_Tab, Key_Return}, "Duplicate"},
         {"back by tab", QList<int>{Key_Backtab, Key_Backtab, Key_Return}, "Delete"},
