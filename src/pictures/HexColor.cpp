@@ -17,4 +17,8 @@ QColor shownColor(const QString& hex) {
   return color.isValid() ? color : QColor(gray);
 }
 
+QString hexOf(const QColor& color) {
+  return ColorUtil::hex({color.redF(), color.greenF(), color.blueF(), 1});
+}
+
 }  // namespace tarnloft

@@ -11,4 +11,7 @@ QColor colorOf(const QString& hex);
 // The same for what must show something: gray for such a text.
 QColor shownColor(const QString& hex);
 
+// "#4C6FFF", without the colour's opacity.
+QString hexOf(const QColor& color);
+
 }  // namespace tarnloft

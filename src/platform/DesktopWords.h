@@ -14,6 +14,7 @@ struct DesktopWord {
 // What the interface's texts call a thing of another desktop, and the running desktop's word.
 inline constexpr std::array desktopWords{
     DesktopWord{u"Reveal in Finder", u"Show in File Manager"},
+    DesktopWord{u"Reveal Primary in Finder", u"Show Primary in File Manager"},
     DesktopWord{u"⌃⌘P", u"Ctrl+P"},
     DesktopWord{u"⌘Z", u"Ctrl+Z"},
 };

@@ -21,6 +21,9 @@ class FileDialogs {
   // the user cancels.
   virtual QStringList openFiles(const QStringList& mimeTypes) = 0;
 
+  // Asks for one such file. None if the user cancels.
+  virtual std::optional<QString> openFile(const QStringList& mimeTypes) = 0;
+
   // Asks for one thing that exists: a file of one of the types, or a folder whose name has one of
   // the extensions. None if the user cancels.
   virtual std::optional<QString> openFileOrFolder(const QStringList& mimeTypes,

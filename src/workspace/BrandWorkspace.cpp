@@ -3,19 +3,20 @@
 #include "assets/ItemDrag.h"
 #include "controls/sheets/NameSheet.h"
 #include "document/Package.h"
-#include "sheets/UsageNotesSheet.h"
 #include "workspace/selection/GroupOperations.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace tarnloft {
+
 BrandWorkspace::BrandWorkspace(BrandDocument& document, const WindowParts& window,
                                const WorkspaceServices& services, QObject* parent)
     : QObject(parent),
       document_(&document),
       window_(window),
       services_(services),
+      commands_(document, window, services),
       sections_(*this) {
   connect(&document, &BrandDocument::brandChanged, this, &BrandWorkspace::refreshSoon);
   connect(&window.selection, &TileSelection::idsChanged, this, &BrandWorkspace::selectionChanged);
@@ -88,17 +89,6 @@ QString BrandWorkspace::assetPath(const AssetRef& asset) const {
                    : QString();
 }
 
-void BrandWorkspace::copy(const QString& text, const QString& what) {
-  services_.pasteboard.setText(text);
-  window_.toasts.show(QStringLiteral("Copied ") + what);
-}
-
-void BrandWorkspace::copyColor(const QString& hex) {
-  const auto format = services_.library.preferences().colorCopyFormat();
-  const QString text = ColorUtil::formatted(hex, format);
-  copy(text, text);
-}
-
 void BrandWorkspace::pickColor(const QUuid& section) {
   services_.library.sampleColor([workspace = QPointer(this), section](const QString& hex) {
     if (workspace) workspace->addPicked(hex, section);
@@ -128,12 +118,6 @@ void BrandWorkspace::showEyedropperTip() {
   services_.preferences.setNumber(shownKey, 1);
   window_.toasts.show(
       QStringLiteral("Tip: press ⌃⌘P to keep sampling — colors land in this section"));
-}
-
-void BrandWorkspace::editNotes(const QUuid& item) {
-  if (!document_) return;
-  window_.sheets.show(
-      std::make_unique<UsageNotesSheet>(std::make_unique<ItemBinding>(*document_, item)));
 }
 
 void BrandWorkspace::moveSection(const QUuid& section, int step) {

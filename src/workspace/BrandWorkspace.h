@@ -6,6 +6,7 @@
 #include "workspace/WorkspaceServices.h"
 #include "workspace/page/SectionListModel.h"
 #include "workspace/selection/TileSelection.h"
+#include "workspace/tiles/TileCommands.h"
 
 #include <QPointer>
 
@@ -65,15 +66,12 @@ class BrandWorkspace : public QObject {
   // Empty for a name that leads out of the package.
   QString assetPath(const AssetRef& asset) const;
 
-  // Puts the text on the clipboard and tells of it: "Copied " and `what`.
-  void copy(const QString& text, const QString& what);
-  void copyColor(const QString& hex);
+  // What is done with single items.
+  TileCommands& commands() { return commands_; }
   // Lets the user pick a colour of the screen and appends it to the section, undoably.
   void pickColor(const QUuid& section);
   // Colours from the screen go there from now on.
   void collectColorsIn(const QUuid& section);
-  // Edits the rules of that item in a sheet.
-  void editNotes(const QUuid& item);
 
   // Swaps it with the one `step` places on, if there is one.
   void moveSection(const QUuid& section, int step);
@@ -105,6 +103,7 @@ class BrandWorkspace : public QObject {
   QPointer<BrandDocument> document_;
   const WindowParts window_;
   const WorkspaceServices services_;
+  TileCommands commands_;
   QString name_;
   QString searchText_;
   DragPreparation dragPreparation_;

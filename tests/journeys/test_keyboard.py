@@ -24,14 +24,17 @@ class TheKeyboard(Journey):
         press("space")
         tarn.find("menu item", "Color")
         press("c", "Return")
-        tarn.find("list item", "#4C6FFF")
-        tarn.gone("menu item", "Color")
+        self.eventually(lambda: tarn.focus, "Hex")
+        press("Escape")
+        tarn.gone("dialog")
         self.eventually(lambda: tarn.focus, "Add content to this section")
         press("Return")
         tarn.find("menu item", "Color")
         press("g", "Return")
+        tarn.find("dialog", "Edit Gradient")
+        press("Escape")
+        tarn.gone("dialog")
         self.eventually(lambda: kinds(acme), ["color", "gradient"])
-        tarn.gone("menu item", "Color")
 
         self.tab_to(tarn, "list item", "#4C6FFF")
         press("Return")
@@ -46,8 +49,17 @@ class TheKeyboard(Journey):
 
         self.tab_to(tarn, "list item", "#4C6FFF")
         press("Menu")
+        tarn.find("menu item", "Edit…")
+        press("e", "Return")
+        self.eventually(lambda: tarn.focus, "Hex")
+        write("#0A0B0C")
+        press("Escape")
+        self.eventually(lambda: tarn.focus, "#0A0B0C")
+        self.eventually(lambda: colour(acme), "#0A0B0C")
+
+        press("shift+F10")
         tarn.find("menu item", "Usage & Notes…")
-        press("Down", "Return")
+        press("u", "Return")
         tarn.find("dialog", "Usage & Notes")
         self.tab_to(tarn, "push button", "Add Rule")
         press("Return")
@@ -58,7 +70,7 @@ class TheKeyboard(Journey):
         self.eventually(lambda: rules(acme), [("dont", "Never on red")])
         press("Escape")
         tarn.gone("dialog")
-        self.eventually(lambda: tarn.focus, "#4C6FFF")
+        self.eventually(lambda: tarn.focus, "#0A0B0C")
 
         self.tab_to(tarn, "text", "Section name")  # of the section behind the tile
         write("Palette")
@@ -134,6 +146,10 @@ def rules(brand):
     """Of the first colour."""
     notes = brand.section("Colors")["items"][0].get("notes", [])
     return [(note["kind"], note["text"]) for note in notes]
+
+
+def colour(brand):
+    return brand.section("Colors")["items"][0]["payload"]["color"]["value"]["hex"]
 
 
 def kinds(brand):

@@ -45,6 +45,8 @@ class TheRoad(Journey):
 
         tarn.click("push button", "Add content to this section", within="Colors")
         tarn.click("menu item", "Color")
+        tarn.click("push button", "Done")
+        tarn.gone("dialog")
         tile = tarn.find("list item", "#4C6FFF")
         self.eventually(lambda: len(acme.items("Colors")), 1)
         click(tile.middle)

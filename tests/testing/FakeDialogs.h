@@ -28,6 +28,10 @@ class ScriptedDialogs : public FileDialogs {
     openTypes = types;
     return chosen;
   }
+  std::optional<QString> openFile(const QStringList& types) override {
+    openTypes = types;
+    return answer;
+  }
   std::optional<QString> openFileOrFolder(const QStringList& types,
                                           const QStringList& /*extensions*/) override {
     openTypes = types;

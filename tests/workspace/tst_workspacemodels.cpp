@@ -226,7 +226,7 @@ class TestWorkspaceModels : public QObject {
     test.library.store->select(std::nullopt);
     test.turn();
     tile.drag(&view);
-    tile.editNotes();
+    test.workspace->commands().editNotes(tile.item().id);
     QVERIFY(!test.sheets.current());
     test.section(0).addColor();
     test.section(0).importImages();

@@ -9,6 +9,7 @@ FocusScope {
     id: root
 
     required property color color
+    property list<color> swatches // offered for another pick
     property bool canSample: false
 
     signal picked(color: color)
@@ -104,7 +105,7 @@ FocusScope {
             rowSpacing: 8
 
             Repeater {
-                model: root.samples
+                model: root.swatches.length > 0 ? root.swatches : root.samples
                 delegate: ColorSample {
                     required property color modelData
 

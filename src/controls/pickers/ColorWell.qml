@@ -13,6 +13,7 @@ T.Button {
 
     required property string accessibleName
     required property color color
+    property list<color> swatches // offered in the popover; some of its own where there are none
     property bool canSample: false
 
     signal picked(color: color)
@@ -35,9 +36,13 @@ T.Button {
             ColorPanel {
                 focus: true
                 color: root.color
+                swatches: root.swatches
                 canSample: root.canSample
                 onPicked: color => root.picked(color)
-                onSampleRequested: root.sampleRequested()
+                onSampleRequested: {
+                    root.popover.close();
+                    root.sampleRequested();
+                }
             }
         }
     }

@@ -14,6 +14,7 @@ class NameSheet : public SheetModel {
   Q_PROPERTY(QString title READ title CONSTANT)
   Q_PROPERTY(QString prompt READ prompt CONSTANT)
   Q_PROPERTY(QString confirmText READ confirmText CONSTANT)
+  Q_PROPERTY(QString footnote READ footnote CONSTANT)
   Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
   // A name of blanks can't be confirmed.
   Q_PROPERTY(bool confirmable READ isConfirmable NOTIFY textChanged)
@@ -23,6 +24,7 @@ class NameSheet : public SheetModel {
     QString title;
     QString prompt = QStringLiteral("Name");  // in the empty field
     QString confirmText = QStringLiteral("Save");
+    QString footnote = {};  // what else a name does
   };
   // Gets the confirmed name, trimmed and never empty.
   using Named = std::function<void(const QString& name)>;
@@ -33,6 +35,7 @@ class NameSheet : public SheetModel {
   const QString& title() const { return words_.title; }
   const QString& prompt() const { return words_.prompt; }
   const QString& confirmText() const { return words_.confirmText; }
+  const QString& footnote() const { return words_.footnote; }
   const QString& text() const { return text_; }
   void setText(const QString& text);
   bool isConfirmable() const { return !text_.trimmed().isEmpty(); }

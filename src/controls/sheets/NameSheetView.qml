@@ -25,11 +25,21 @@ Sheet {
         TextField {
             id: field
 
-            width: 280
+            width: 300
             focus: true
             placeholderText: root.model.prompt
             text: root.model.text
             onTextEdited: root.model.text = text
+        }
+
+        Label {
+            width: field.width
+            visible: text !== ""
+            text: root.model.footnote
+            font: Theme.subheadline
+            color: Theme.secondaryLabel
+            horizontalAlignment: Text.AlignLeft
+            wrapMode: Text.Wrap
         }
 
         Row {

@@ -15,11 +15,11 @@ Menu {
     MenuItem { text: "Header"; onTriggered: root.section.addHeader() }
     MenuItem { text: "Text"; onTriggered: root.section.addText() }
     MenuSeparator {}
-    MenuItem { text: "Color"; onTriggered: root.section.addColor() }
+    MenuItem { text: "Color"; onAfterClosing: root.section.addColor() }
     MenuItem { text: "Pick Color from Screen…"; onTriggered: root.section.pickColorFromScreen() }
-    MenuItem { text: "Gradient"; onTriggered: root.section.addGradient() }
-    MenuItem { text: "Font (by name)"; onTriggered: root.section.addFont() }
-    MenuItem { text: "Code Snippet"; onTriggered: root.section.addCode() }
+    MenuItem { text: "Gradient"; onAfterClosing: root.section.addGradient() }
+    MenuItem { text: "Font (by name)"; onAfterClosing: root.section.addFont() }
+    MenuItem { text: "Code Snippet"; onAfterClosing: root.section.addCode() }
     MenuSeparator {}
     MenuItem { text: "Image…"; onAfterClosing: root.section.importImages() }
     MenuItem { text: "Logo Set…"; onTriggered: root.section.addLogoSet() }

@@ -61,10 +61,12 @@ void SectionModel::rename(const QString& name) {
   }
 }
 
-void SectionModel::append(ItemPayload payload) {
-  if (BrandDocument* const document = workspace_.document()) {
-    document->addItem(Item::create(std::move(payload)), id());
-  }
+void SectionModel::append(ItemPayload payload, Then then) {
+  BrandDocument* const document = workspace_.document();
+  if (!document) return;
+  const Item item = Item::create(std::move(payload));
+  document->addItem(item, id());
+  if (then == Then::edit) workspace_.commands().edit(item.id);
 }
 
 void SectionModel::addHeader() { append(HeaderPayload{QStringLiteral("Heading"), 1}); }
@@ -72,24 +74,27 @@ void SectionModel::addHeader() { append(HeaderPayload{QStringLiteral("Heading"),
 void SectionModel::addText() { append(TextPayload{QStringLiteral("Add a note…")}); }
 
 void SectionModel::addColor() {
-  append(ColorPayload{{newColor, std::nullopt, std::nullopt}});
   workspace_.collectColorsIn(id());
+  append(ColorPayload{{newColor, std::nullopt, std::nullopt}}, Then::edit);
 }
 
 void SectionModel::addGradient() {
-  append(GradientPayload{
-      {{{QUuid::createUuid(), newColor, 0}, {QUuid::createUuid(), QStringLiteral("#9C4CFF"), 1}},
-       45,
-       std::nullopt}});
+  append(GradientPayload{{{{QUuid::createUuid(), newColor, 0},
+                           {QUuid::createUuid(), QStringLiteral("#9C4CFF"), 1}},
+                          45,
+                          std::nullopt}},
+         Then::edit);
 }
 
 void SectionModel::addFont() {
   append(FontPayload{{QStringLiteral("Helvetica Neue"), QStringLiteral("Regular"), sampleText,
-                      std::nullopt, std::nullopt}});
+                      std::nullopt, std::nullopt}},
+         Then::edit);
 }
 
 void SectionModel::addCode() {
-  append(CodePayload{{QStringLiteral("swift"), QStringLiteral("// Snippet"), std::nullopt}});
+  append(CodePayload{{QStringLiteral("swift"), QStringLiteral("// Snippet"), std::nullopt}},
+         Then::edit);
 }
 
 void SectionModel::addLogoSet() { append(LogoPayload{{QStringLiteral("Logo"), {}}}); }
@@ -116,7 +121,8 @@ QStringList SectionModel::paletteFormats() {
 void SectionModel::copyColors(const QString& format) {
   for (const auto known : allCases<PaletteExport::Format>()) {
     if (PaletteExport::rawValue(known) != format) continue;
-    workspace_.copy(PaletteExport::format(PaletteExport::entries(section_), known), format);
+    workspace_.commands().copy(PaletteExport::format(PaletteExport::entries(section_), known),
+                               format);
   }
 }
 

@@ -52,7 +52,7 @@ class SectionModel : public QObject {
   // Not undoable, as all that follows unless it says so.
   Q_INVOKABLE void rename(const QString& name);
 
-  // --- Entries of the add menu. Each appends to the section.
+  // --- Entries of the add menu. Each appends to the section; a sheet edits what needs it.
   Q_INVOKABLE void addHeader();
   Q_INVOKABLE void addText();
   Q_INVOKABLE void addColor();
@@ -81,7 +81,8 @@ class SectionModel : public QObject {
 
  private:
   void take(const Section& section, const QString& searchText);
-  void append(ItemPayload payload);
+  enum class Then { nothing, edit };
+  void append(ItemPayload payload, Then then = Then::nothing);
 
   BrandWorkspace& workspace_;
   Section section_;

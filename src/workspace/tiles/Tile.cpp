@@ -2,6 +2,7 @@
 
 #include "workspace/BrandWorkspace.h"
 #include "workspace/dragging/TilePicture.h"
+#include "workspace/tiles/TileMenuEntries.h"
 
 #include <QCoreApplication>
 #include <QMouseEvent>
@@ -79,6 +80,13 @@ void Tile::setDragged(bool dragged) {
   emit draggedChanged();
 }
 
-void Tile::editNotes() { workspace()->editNotes(item_.id); }
+QVariantList Tile::menuEntries() const {
+  QVariantList list;
+  for (const MenuEntry& entry :
+       tileMenuEntries(item_, section_.section(), workspace()->commands())) {
+    list << QVariant::fromValue(entry);
+  }
+  return list;
+}
 
 }  // namespace tarnloft

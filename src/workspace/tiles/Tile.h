@@ -32,7 +32,6 @@ class Tile : public QObject {
   Q_PROPERTY(QString help READ help NOTIFY changed)
   Q_PROPERTY(QString description READ description NOTIFY changed)
   Q_PROPERTY(bool hasNotes READ hasNotes NOTIFY changed)
-  Q_PROPERTY(QString notesText READ notesText NOTIFY changed)  // of the menu's entry
   Q_PROPERTY(bool selected READ isSelected NOTIFY selectionChanged)
   Q_PROPERTY(bool sectionSelected READ isSectionSelected NOTIFY selectionChanged)
   Q_PROPERTY(bool dragged READ isDragged NOTIFY draggedChanged)
@@ -63,7 +62,6 @@ class Tile : public QObject {
   QString help() const { return TileFacts::helpText(item_); }
   QString description() const { return TileFacts::accessibilityDescription(item_); }
   bool hasNotes() const { return !item_.usageNotes().isEmpty(); }
-  QString notesText() const { return TileFacts::notesText(item_); }
   bool isSelected() const;
   bool isSectionSelected() const;
   BlockFacet* block() const { return facet<BlockFacet>(); }
@@ -84,8 +82,8 @@ class Tile : public QObject {
   bool isDragged() const { return isDragged_; }
   bool isMenuOpen() const { return isMenuOpen_; }
 
-  // Opens the sheet of its rules for use.
-  Q_INVOKABLE void editNotes();
+  // Of its context menu, as a list of MenuEntry.
+  Q_INVOKABLE QVariantList menuEntries() const;
 
  signals:
   void changed();

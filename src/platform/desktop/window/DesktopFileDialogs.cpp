@@ -100,8 +100,10 @@ QStringList askToolkit(const FileQuestion& question, QWindow* window) {
       dialog.setDefaultSuffix(suffixOf(question.mimeTypes));
       dialog.selectFile(question.suggestedName);
       break;
+    case Kind::file:
     case Kind::files:
-      dialog.setFileMode(QFileDialog::ExistingFiles);
+      dialog.setFileMode(question.kind == Kind::file ? QFileDialog::ExistingFile
+                                                     : QFileDialog::ExistingFiles);
       dialog.setNameFilter(nameFilter(question.mimeTypes));
       break;
     case Kind::folder:
@@ -154,6 +156,11 @@ std::optional<QString> DesktopFileDialogs::savePath(const QString& suggestedName
 QStringList DesktopFileDialogs::openFiles(const QStringList& mimeTypes) {
   return ask({FileQuestion::Kind::files, QStringLiteral("Add Files"), {}, {}, mimeTypes},
              QStringLiteral("addDialogFolder"));
+}
+
+std::optional<QString> DesktopFileDialogs::openFile(const QStringList& mimeTypes) {
+  return onlyOne(ask({FileQuestion::Kind::file, QStringLiteral("Choose File"), {}, {}, mimeTypes},
+                     QStringLiteral("addDialogFolder")));
 }
 
 std::optional<QString> DesktopFileDialogs::openFileOrFolder(const QStringList& mimeTypes,

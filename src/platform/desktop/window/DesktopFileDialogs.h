@@ -16,6 +16,7 @@ class DesktopFileDialogs : public FileDialogs {
 
   std::optional<QString> savePath(const QString& suggestedName, const QString& mimeType) override;
   QStringList openFiles(const QStringList& mimeTypes) override;
+  std::optional<QString> openFile(const QStringList& mimeTypes) override;
   std::optional<QString> openFileOrFolder(const QStringList& mimeTypes,
                                           const QStringList& folderExtensions) override;
   std::optional<QString> chooseFolder() override;

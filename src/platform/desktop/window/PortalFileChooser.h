@@ -13,7 +13,7 @@ namespace tarnloft {
 
 // What a file dialog asks for.
 struct FileQuestion {
-  enum class Kind { save, files, folder };
+  enum class Kind { save, file, files, folder };
 
   Kind kind = Kind::files;
   QString title;

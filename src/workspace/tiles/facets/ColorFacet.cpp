@@ -16,6 +16,6 @@ QString ColorFacet::ink() const {
   return {};
 }
 
-void ColorFacet::clicked() { workspace().copyColor(payload<ColorPayload>().value.hex); }
+void ColorFacet::clicked() { workspace().commands().copyColor(payload<ColorPayload>().value.hex); }
 
 }  // namespace tarnloft

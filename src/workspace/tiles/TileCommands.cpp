@@ -1,0 +1,166 @@
+#include "workspace/tiles/TileCommands.h"
+
+#include "assets/FontAttachment.h"
+#include "controls/sheets/SheetHost.h"
+#include "document/Package.h"
+#include "pictures/HexColor.h"
+#include "publish/ColorUtil.h"
+#include "sheets/AssetRenameSheet.h"
+#include "sheets/UsageNotesSheet.h"
+#include "sheets/editors/ItemEditorSheet.h"
+#include "workspace/ToastCenter.h"
+#include "workspace/selection/TileSelection.h"
+
+namespace tarnloft {
+namespace {
+
+Emblem emblemOf(const AssetRef& asset) {
+  return {Emblem::Kind::image, std::nullopt, std::nullopt, std::nullopt, asset};
+}
+
+}  // namespace
+
+TileCommands::TileCommands(BrandDocument& document, const WindowParts& window,
+                           const WorkspaceServices& services)
+    : document_(&document), window_(window), services_(services) {}
+
+void TileCommands::tell(const QString& text) { window_.toasts.show(text); }
+
+void TileCommands::copy(const QString& text, const QString& what) {
+  services_.pasteboard.setText(text);
+  tell(QStringLiteral("Copied ") + what);
+}
+
+void TileCommands::copyColor(const QString& hex) {
+  const auto format = services_.library.preferences().colorCopyFormat();
+  const QString text = ColorUtil::formatted(hex, format);
+  copy(text, text);
+}
+
+std::unique_ptr<ItemBinding> TileCommands::bound(const QUuid& item) const {
+  if (!document_ || !document_->brand().placeOf(item)) return nullptr;
+  return std::make_unique<ItemBinding>(*document_, item);
+}
+
+// Each once, in the brand's order; as many as a small panel shows.
+QList<QColor> TileCommands::brandColors() const {
+  constexpr qsizetype most = 18;
+  QList<QColor> colors;
+  for (const Section& section : document_->brand().sections) {
+    for (const Item& item : section.items) {
+      const auto* const color = std::get_if<ColorPayload>(&item.payload);
+      const QColor shown = color ? QColor(colorOf(color->value.hex).rgb()) : QColor();
+      if (!shown.isValid() || !colorOf(color->value.hex).isValid()) continue;
+      if (!colors.contains(shown)) colors << shown;
+      if (colors.size() == most) return colors;
+    }
+  }
+  return colors;
+}
+
+void TileCommands::edit(const QUuid& item) {
+  auto binding = bound(item);
+  if (!binding) return;
+  const auto sample = [&library = services_.library](auto picked) { library.sampleColor(picked); };
+  window_.sheets.show(std::make_unique<ItemEditorSheet>(std::move(binding), brandColors(), sample));
+}
+
+void TileCommands::rename(const QUuid& item) {
+  auto binding = bound(item);
+  if (!binding) return;
+  window_.sheets.show(std::make_unique<AssetRenameSheet>(
+      std::move(binding), [&toasts = window_.toasts](const QString& name) {
+        toasts.show(QStringLiteral("Renamed to ") + name);
+      }));
+}
+
+void TileCommands::editNotes(const QUuid& item) {
+  if (auto binding = bound(item))
+    window_.sheets.show(std::make_unique<UsageNotesSheet>(std::move(binding)));
+}
+
+void TileCommands::setBackdrop(const QUuid& item, std::optional<ImageBackground> background) {
+  if (!document_) return;
+  document_->updateItem(item, [&](Item& image) { image.imageBackground = background; });
+}
+
+void TileCommands::setAccent(const QString& hex) {
+  if (!document_) return;
+  document_->edit([&](Brand& brand) { brand.accentHex = hex; });
+  tell(QStringLiteral("Brand accent set"));
+}
+
+void TileCommands::setBrandIcon(const AssetRef& asset) {
+  if (!document_) return;
+  document_->edit([&](Brand& brand) { brand.emblem = emblemOf(asset); });
+}
+
+void TileCommands::setSectionIcon(const AssetRef& asset, const QUuid& section) {
+  if (!document_) return;
+  document_->editSection(section, [&](Section& edited) { edited.emblem = emblemOf(asset); });
+}
+
+void TileCommands::reveal(const AssetRef& asset) {
+  if (!document_) return;
+  if (const auto path = Package::assetPath(document_->packageURL(), asset))
+    services_.viewer.reveal(*path);
+}
+
+void TileCommands::attachFontFile(const QUuid& item) {
+  const QPointer<TileCommands> self(this);  // the brand may go while the dialog is open
+  const auto path = services_.dialogs.openFile({QStringLiteral("font/*")});
+  if (!path || !self || !document_) return;
+  attachFont(services_.imports, *path, item, *document_, [self] {
+    if (self) self->tell(QStringLiteral("Font file attached"));
+  });
+}
+
+void TileCommands::ungroupLogo(const QUuid& item) {
+  if (!document_) return;
+  const auto place = document_->brand().placeOf(item);
+  if (!place) return;
+  const Item& set = document_->brand().sections.at(place->section).items.at(place->item);
+  const auto* const logo = std::get_if<LogoPayload>(&set.payload);
+  if (!logo || logo->value.variants.isEmpty()) return;
+  QList<Item> images = logo->value.ungroupedImageItems();
+  images.first().notes = set.notes;
+  document_->mutate(QStringLiteral("Ungroup Logo"), window_.undoManager, [&](Brand& brand) {
+    auto& items = brand.sections[place->section].items;
+    items.takeAt(place->item);
+    for (qsizetype i = 0; i < images.size(); ++i) items.insert(place->item + i, images.at(i));
+  });
+  window_.selection.clear();
+  tell(QStringLiteral("Ungrouped into %1 image%2 · ⌘Z to undo")
+           .arg(images.size())
+           .arg(images.size() == 1 ? QString() : QStringLiteral("s")));
+}
+
+void TileCommands::editPlace(const QUuid& item,
+                             const std::function<void(Section&, qsizetype)>& change) {
+  if (!document_) return;
+  const auto place = document_->brand().placeOf(item);
+  if (!place) return;
+  document_->editSection(document_->brand().sections.at(place->section).id,
+                         [&](Section& section) { change(section, place->item); });
+}
+
+void TileCommands::duplicate(const QUuid& item) {
+  editPlace(item, [](Section& section, qsizetype place) {
+    Item copy = section.items.at(place);
+    copy.id = QUuid::createUuid();
+    section.items.insert(place + 1, std::move(copy));
+  });
+}
+
+void TileCommands::move(const QUuid& item, int step) {
+  editPlace(item, [&](Section& section, qsizetype place) {
+    const qsizetype to = place + step;
+    if (to >= 0 && to < section.items.size()) std::swap(section.items[place], section.items[to]);
+  });
+}
+
+void TileCommands::remove(const QUuid& item) {
+  if (document_) document_->removeItem(item);
+}
+
+}  // namespace tarnloft

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "document/BrandDocument.h"
+#include "document/ItemBinding.h"
+#include "workspace/WorkspaceServices.h"
+
+#include <QPointer>
+
+namespace tarnloft {
+
+// What the user does with one item of an open brand. Items are named by their ids, and nothing
+// happens with those that have gone. Not undoable unless it says so. Main thread.
+class TileCommands : public QObject {
+  Q_OBJECT
+
+ public:
+  TileCommands(BrandDocument& document, const WindowParts& window,
+               const WorkspaceServices& services);
+
+  // Puts the text on the clipboard and tells of it: "Copied " and `what`.
+  void copy(const QString& text, const QString& what);
+  // In the notation of the user's preference.
+  void copyColor(const QString& hex);
+
+  // Opens the sheet that changes a colour, a gradient, a font or code.
+  void edit(const QUuid& item);
+  void rename(const QUuid& item);
+  void editNotes(const QUuid& item);
+
+  void setBackdrop(const QUuid& item, std::optional<ImageBackground> background);
+  void setAccent(const QString& hex);
+  void setBrandIcon(const AssetRef& asset);
+  void setSectionIcon(const AssetRef& asset, const QUuid& section);
+
+  // Shows the file in the desktop's file manager.
+  void reveal(const AssetRef& asset);
+  // Asks for a font's file and brings it in for that font.
+  void attachFontFile(const QUuid& item);
+  // Puts an image for each variant in the place of a logo set; undoable.
+  void ungroupLogo(const QUuid& item);
+
+  // Puts a copy behind it.
+  void duplicate(const QUuid& item);
+  // Swaps it with its neighbour in the section that many places on, if there is one.
+  void move(const QUuid& item, int step);
+  void remove(const QUuid& item);
+
+  void tell(const QString& text);
+
+ private:
+  std::unique_ptr<ItemBinding> bound(const QUuid& item) const;
+  // Runs `change(section, place)` where the item stands.
+  void editPlace(const QUuid& item,
+                 const std::function<void(Section& section, qsizetype place)>& change);
+  QList<QColor> brandColors() const;
+
+  QPointer<BrandDocument> document_;
+  const WindowParts window_;
+  const WorkspaceServices services_;
+};
+
+}  // namespace tarnloft

@@ -1,0 +1,150 @@
+#include "sheets/AssetRenameSheet.h"
+#include "sheets/ItemRenaming.h"
+#include "sheets/editors/ItemEditorSheet.h"
+#include "testing/Cases.h"
+#include "testing/TestServices.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace tarnloft;
+
+namespace {
+
+// A brand with that one item, and its editor.
+struct EditorTest {
+  TestServices disk;
+  std::unique_ptr<BrandDocument> document =
+      *BrandDocument::create(disk.services(), disk.folder.path(), "Acme");
+  Item item;
+  std::function<void(const QString&)> picked;
+  std::unique_ptr<ItemEditorSheet> sheet;
+
+  explicit EditorTest(ItemPayload payload) : item(Item::create(std::move(payload))) {
+    item.imageBackground = ImageBackground::dark;
+    item.setUsageNotes({{QUuid::createUuid(), UsageKind::note, "Keep"}});
+    document->edit([&](Brand& brand) { brand.sections[0].items = {item}; });
+    sheet = std::make_unique<ItemEditorSheet>(binding(), QList<QColor>(),
+                                              [this](auto callback) { picked = callback; });
+  }
+  std::unique_ptr<ItemBinding> binding() {
+    return std::make_unique<ItemBinding>(*document, item.id);
+  }
+  const Item& now() const { return document->brand().sections.at(0).items.at(0); }
+  template <class Payload>
+  const auto& value() const {
+    return std::get<Payload>(now().payload).value;
+  }
+};
+
+AssetRef asset(const QString& name) { return {"0.png", name}; }
+
+}  // namespace
+
+// Sheets that change what an item is, each keystroke at once.
+class TestEditors : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void aColorIsStoredAsTyped() {
+    EditorTest test(ColorPayload{{"#123456", "Sea", {}}});
+    ColorEditor& editor = *test.sheet->color();
+    QCOMPARE(test.sheet->title(), "Edit Color");
+    editor.setHex("#12");
+    QCOMPARE(test.value<ColorPayload>().hex, "#12");
+    QCOMPARE(editor.color(), QColor(0x8e, 0x8e, 0x93));
+    editor.setHex("#12345680");
+    QCOMPARE(editor.color().alpha(), 0x80);
+    editor.pick(QColor(1, 2, 255, 9));
+    QCOMPARE(editor.hex(), "#0102FF");
+    editor.setName("");
+    editor.setSpot("PMS 021 C");
+    QCOMPARE(test.value<ColorPayload>(), (ColorValue{"#0102FF", {}, "PMS 021 C"}));
+    editor.sample();
+    test.picked("#ABCDEF");
+    QCOMPARE(editor.hex(), "#ABCDEF");
+    Item same = test.item;
+    same.payload = test.now().payload;
+    QCOMPARE(test.now(), same);
+    QSignalSpy finished(test.sheet.get(), &SheetModel::finished);
+    test.sheet.reset();
+    test.picked("#000000");  // the sheet has closed meanwhile
+    QCOMPARE(test.value<ColorPayload>().hex, "#ABCDEF");
+  }
+
+  void aGradientKeepsItsStopsOrder() {
+    const QUuid first = QUuid::createUuid(), second = QUuid::createUuid();
+    EditorTest test(GradientPayload{{{{first, "#000000", 0}, {second, "no", 1}}, 45, "Dawn"}});
+    GradientEditor& editor = *test.sheet->gradient();
+    editor.setLocation(0, 0.9);
+    editor.setLocation(1, 0.25);
+    editor.pick(1, Qt::red);
+    editor.pick(2, Qt::red);
+    editor.setAngle(360);
+    editor.setName("");
+    const GradientValue expected{{{first, "#000000", 0.9}, {second, "#FF0000", 0.25}}, 360, {}};
+    QCOMPARE(test.value<GradientPayload>(), expected);
+    QCOMPARE(editor.stops()->index(1).data(GradientStopList::ColorRole).value<QColor>(),
+             QColor(Qt::red));
+  }
+
+  void fontsAndCodeStoreNothingForEmptyTexts() {
+    EditorTest type(FontPayload{{"Inter", "Bold", "Ag", asset("Inter.otf"), "Display"}});
+    FontEditor& font = *type.sheet->font();
+    font.setFamily("In");
+    font.setWeight("");
+    font.setSample("");
+    QCOMPARE(type.value<FontPayload>(),
+             (FontValue{"In", {}, {}, asset("Inter.otf"), QString("Display")}));
+    EditorTest snippet(CodePayload{{"swift", "// Snippet", "Name"}});
+    CodeEditor& code = *snippet.sheet->code();
+    code.setLanguage("");
+    code.setName("");
+    code.setSnippet("a\n\tb");
+    QCOMPARE(snippet.value<CodePayload>(), (CodeValue{"", "a\n\tb", {}}));
+  }
+
+  void aSheetGoesWithItsItem() {
+    EditorTest test(ColorPayload{{"#123456", {}, {}}});
+    AssetRenameSheet renaming(test.binding(), [](const QString&) {});
+    QSignalSpy edited(test.sheet.get(), &SheetModel::finished);
+    QSignalSpy renamed(&renaming, &SheetModel::finished);
+    test.document->removeItem(test.item.id);
+    QCoreApplication::processEvents();
+    QCOMPARE(edited.size() + renamed.size(), 2);
+    test.sheet->color()->setHex("#000000");
+    QVERIFY(test.document->brand().sections.at(0).items.isEmpty());
+  }
+
+  void renamesFilesWithinTheirExtension() {
+    const Cases<QString, QString, QString> cases{{"plain", "AcmeLogo.png", "Hero", "Hero.png"},
+                                                 {"typed", "AcmeLogo.png", "Hero.jpg", "Hero.png"},
+                                                 {"none", "AcmeLogo", "Hero", "Hero"},
+                                                 {"only dots", "a.png", ".x", ".x.png"}};
+    cases.check([](const QString& before, const QString& name, const QString& after) {
+      EditorTest test(ImagePayload{asset(before), {}});
+      QString told;
+      AssetRenameSheet sheet(test.binding(), [&](const QString& renamed) { told = renamed; });
+      QCOMPARE(sheet.title(), "Rename Image");
+      QCOMPARE(sheet.footnote().contains("(keeps its .png extension)"), before.endsWith(".png"));
+      sheet.setText("  \n");
+      sheet.confirm();
+      sheet.setText(' ' + name + '\n');
+      sheet.confirm();
+      const auto image = std::get<ImagePayload>(test.now().payload);
+      QCOMPARE(told, name);
+      QCOMPARE(image.name, name);
+      QCOMPARE(image.asset, (AssetRef{"0.png", after}));
+    });
+    Item logo = Item::create(LogoPayload{{"Set", {{QUuid(), asset("a.svg"), {}, {}}}}});
+    ItemRenaming::applyRename(logo, "Mark");
+    const LogoValue& set = std::get<LogoPayload>(logo.payload).value;
+    QCOMPARE(set.name, "Mark");
+    QCOMPARE(set.variants.first().asset.originalName, "a.svg");
+    QVERIFY(ItemRenaming::renameFootnote(logo)->contains(".svg"));
+    QVERIFY(!ItemRenaming::renameFootnote(Item::create(TextPayload{"x"})));
+  }
+};
+
+QTEST_GUILESS_MAIN(TestEditors)
+#include "tst_editors.moc"
