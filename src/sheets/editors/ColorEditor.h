@@ -21,7 +21,8 @@ class ColorEditor : public tarnloft::ItemEditor {
   // Lets the user pick a colour of the screen, given as its hex.
   using Sampler = std::function<void(std::function<void(const QString& hex)> picked)>;
 
-  ColorEditor(ItemBinding& item, Sampler sampler) : ItemEditor(item), sampler_(sampler) {}
+  ColorEditor(ItemBinding& item, Sampler sampler)
+      : ItemEditor(item), sampler_(std::move(sampler)) {}
 
   QColor color() const;
   QString hex() const;
