@@ -112,6 +112,9 @@ class LibraryStore : public QObject {
   // package; selects it. An archive without a whole package in it adds nothing.
   void importBrand();
 
+  // Selects the brand, and calls `then` once its document is open or couldn't be opened.
+  void whenLoaded(const QString& packageURL, std::function<void()> then);
+
   // --- Preferences
 
   LibraryPreferences& preferences() { return preferences_; }
@@ -119,6 +122,7 @@ class LibraryStore : public QObject {
   // Bounds of a tile's width in the grid, in points.
   double gridMinWidth() const;
   double gridMaxWidth() const;
+
   // The accent in force for the open brand.
   QString effectiveAccentHex(ColorUtil::Appearance appearance) const;
   void applyAppearance();
@@ -207,7 +211,6 @@ class LibraryStore : public QObject {
   QString placeOf(const BrandPlace& brand) const;
   // Calls `then` once all that is known of the package is on disk, or with why it isn't.
   void whenSaved(const QString& packageURL, std::function<void(const Result<void>&)> then);
-  void whenLoaded(const QString& packageURL, std::function<void()> then);
   void renameOpenBrand(const QString& name);
 
   void deleteBy(const BrandSummary& brand, std::function<Result<void>()> removal,

@@ -1,3 +1,4 @@
+#include "sheets/AccentColorSheet.h"
 #include "sheets/AssetRenameSheet.h"
 #include "sheets/ItemRenaming.h"
 #include "sheets/editors/ItemEditorSheet.h"
@@ -66,7 +67,6 @@ class TestEditors : public QObject {
     Item same = test.item;
     same.payload = test.now().payload;
     QCOMPARE(test.now(), same);
-    QSignalSpy finished(test.sheet.get(), &SheetModel::finished);
     test.sheet.reset();
     test.picked("#000000");  // the sheet has closed meanwhile
     QCOMPARE(test.value<ColorPayload>().hex, "#ABCDEF");
@@ -102,6 +102,32 @@ class TestEditors : public QObject {
     code.setName("");
     code.setSnippet("a\n\tb");
     QCOMPARE(snippet.value<CodePayload>(), (CodeValue{"", "a\n\tb", {}}));
+  }
+
+  void aBrandHasTwoAccentsOrNone() {
+    EditorTest test(ColorPayload{{"#123456", {}, {}}});
+    AccentColorSheet sheet(*test.document, "#0000FF");
+    const auto stored = [&] {
+      const Brand& brand = test.document->brand();
+      return brand.accentHex.value_or("none") + ' ' + brand.accentHexDark.value_or("none");
+    };
+    QCOMPARE(sheet.accent(), QColor(Qt::blue));
+    sheet.setSeparateDark(true);
+    QCOMPARE(stored(), "none #0000FF");
+    sheet.pick(QColor(255, 0, 0, 3));
+    sheet.pickDark(Qt::green);
+    QCOMPARE(stored(), "#FF0000 #00FF00");
+    sheet.setSeparateDark(false);
+    sheet.setSeparateDark(true);
+    QCOMPARE(stored(), "#FF0000 #FF0000");
+    sheet.useDefault();
+    QCOMPARE(stored(), "none none");
+    QVERIFY(!sheet.isOwn() && !sheet.hasSeparateDark());
+    QSignalSpy finished(&sheet, &SheetModel::finished);
+    test.sheet.reset();
+    test.document.reset();
+    QCOMPARE(finished.size(), 1);
+    sheet.pick(Qt::red);
   }
 
   void aSheetGoesWithItsItem() {

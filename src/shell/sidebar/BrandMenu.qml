@@ -15,6 +15,10 @@ Menu {
     onClosed: destroy(1000) // behind what its entries do then
 
     MenuItem {
+        text: "Accent Color…"
+        onAfterClosing: root.sidebar.editAccent(root.packageURL)
+    }
+    MenuItem {
         text: "Rename…"
         onTriggered: root.sidebar.rename(root.packageURL)
     }

@@ -3,6 +3,9 @@
 #include "controls/sheets/NameSheet.h"
 #include "controls/sheets/Question.h"
 #include "platform/DesktopWords.h"
+#include "sheets/AccentColorSheet.h"
+
+#include <QPointer>
 
 #include <algorithm>
 #include <utility>
@@ -81,6 +84,17 @@ void Sidebar::rename(const QString& packageURL) {
   NameSheet* const sheet = sheets_.show(std::make_unique<NameSheet>(
       NameSheet::Words{.title = QStringLiteral("Rename Brand")}, brand->name, renamed));
   endWithBrand(*sheet, brand->brandID);
+}
+
+void Sidebar::editAccent(const QString& packageURL) {
+  const auto brand = brandAt(packageURL);
+  if (!brand) return;
+  library_.whenLoaded(packageURL, [self = QPointer(this), id = brand->brandID] {
+    if (!self || !self->library_.openDocument()) return;
+    AccentColorSheet* const sheet = self->sheets_.show(std::make_unique<AccentColorSheet>(
+        *self->library_.openDocument(), self->library_.preferences().defaultAccentHex()));
+    self->endWithBrand(*sheet, id);
+  });
 }
 
 void Sidebar::moveToTrash(const QString& packageURL) {

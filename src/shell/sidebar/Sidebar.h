@@ -47,6 +47,8 @@ class Sidebar : public QObject {
 
   static QString revealText();
 
+  // Opens the brand, and the sheet of its accent colours.
+  Q_INVOKABLE void editAccent(const QString& packageURL);
   // Asks for another name, which leaves the brand selected.
   Q_INVOKABLE void rename(const QString& packageURL);
   // Asks, and moves the brand to the trash.
