@@ -90,9 +90,12 @@ void Sidebar::editAccent(const QString& packageURL) {
   const auto brand = brandAt(packageURL);
   if (!brand) return;
   library_.whenLoaded(packageURL, [self = QPointer(this), id = brand->brandID] {
-    if (!self || !self->library_.openDocument()) return;
+    BrandDocument* const document = self ? self->library_.openDocument() : nullptr;
+    const auto now = self ? self->brandOf(id) : std::nullopt;
+    // It may have failed to open, or another one was selected meanwhile.
+    if (!document || !now || now->packageURL != document->packageURL()) return;
     AccentColorSheet* const sheet = self->sheets_.show(std::make_unique<AccentColorSheet>(
-        *self->library_.openDocument(), self->library_.preferences().defaultAccentHex()));
+        *document, self->library_.preferences().defaultAccentHex()));
     self->endWithBrand(*sheet, id);
   });
 }

@@ -49,9 +49,8 @@ QList<QColor> TileCommands::brandColors() const {
   for (const Section& section : document_->brand().sections) {
     for (const Item& item : section.items) {
       const auto* const color = std::get_if<ColorPayload>(&item.payload);
-      const QColor shown = color ? QColor(colorOf(color->value.hex).rgb()) : QColor();
-      if (!shown.isValid() || !colorOf(color->value.hex).isValid()) continue;
-      if (!colors.contains(shown)) colors << shown;
+      const QColor shown = color ? colorOf(color->value.hex) : QColor();
+      if (shown.isValid() && !colors.contains(shown)) colors << shown;
       if (colors.size() == most) return colors;
     }
   }
