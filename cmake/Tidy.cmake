@@ -1,6 +1,7 @@
 # The target `tidy`: clang-tidy over every source in two passes (tidy.mjs). Most checks run over some
 # sources together, again when a source or a header has changed. The analyzer of paths takes longer
-# than all else here: it runs over each source once a change, and what it found clean is recorded in
+# than all else here: it runs over each source once a change of it or of a header without a source that
+# it includes, and what it found clean is recorded in
 # analysed.txt, which is committed.
 file(GLOB_RECURSE tidy_headers CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/*.h)
 set(tidy_program ${CMAKE_SOURCE_DIR}/cmake/tidy.mjs)

@@ -117,10 +117,30 @@ function stateOf(source) {
   return hash.digest('hex').slice(0, 16);
 }
 
+// The project's headers that a file includes, however deep.
+const included = new Map();
+function headersOf(file) {
+  if (included.has(file)) return included.get(file);
+  const all = new Set();
+  included.set(file, all);
+  for (const [, name] of readFileSync(file, 'utf8').matchAll(/^#include "(.*\.h)"/gm)) {
+    const header = join('src', name);
+    if (existsSync(header)) [header, ...headersOf(header)].forEach((each) => all.add(each));
+  }
+  return all;
+}
+
+// Those that have no source of their own, which would stand for them.
+const bareHeadersOf = (source) =>
+  [...headersOf(source)].filter((header) => !existsSync(header.replace(/\.h$/, '.cpp')));
+
 async function analysePaths(record) {
   const lineOf = (source) => `${stateOf(source)} ${relative('src', source)}`;
   const known = new Set(existsSync(record) ? readFileSync(record, 'utf8').split('\n') : []);
-  const lines = new Set(sources.map(lineOf).filter((line) => known.has(line)));
+  const bareHeaders = [...new Set(sources.flatMap(bareHeadersOf))].map(lineOf);
+  const isClean = (source) =>
+    [source, ...bareHeadersOf(source)].every((file) => known.has(lineOf(file)));
+  const lines = new Set(sources.filter(isClean).map(lineOf));
   const waiting = sources.filter((source) => !lines.has(lineOf(source)));
   if (waiting.length) console.log(`Analysing ${waiting.length} changed sources`);
   const bySource = (a, b) => (a.slice(17) < b.slice(17) ? -1 : 1);
@@ -138,6 +158,7 @@ async function analysePaths(record) {
     }
   };
   await Promise.all(cpus().map(worker));
+  if (clean) bareHeaders.forEach((line) => lines.add(line));
   write();
   return clean;
 }
