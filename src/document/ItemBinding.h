@@ -15,6 +15,8 @@ class ItemBinding : public QObject {
   // The item stands in the document's brand.
   ItemBinding(BrandDocument& document, const QUuid& item);
 
+  // Null once it has gone.
+  BrandDocument* document() const { return document_; }
   // As it is now, or was last.
   const Item& item() const { return item_; }
   // Changes it in the document, without an undo step. Nothing happens once it has gone.

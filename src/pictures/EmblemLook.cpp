@@ -1,11 +1,10 @@
 #include "pictures/EmblemLook.h"
 
 #include "document/Package.h"
+#include "model/Characters.h"
 #include "pictures/HexColor.h"
 #include "pictures/MonogramColor.h"
 #include "publish/ColorUtil.h"
-
-#include <QTextBoundaryFinder>
 
 namespace tarnloft {
 namespace {
@@ -21,12 +20,6 @@ Ink inkOn(const QString& hex) {
     case TextColor::primary: break;
   }
   return Ink::Primary;
-}
-
-// As users see characters, which may be several code points.
-QString firstCharacter(const QString& text) {
-  QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
-  return text.left(finder.toNextBoundary());
 }
 
 EmblemLook fallback(const EmblemPlace& place) {

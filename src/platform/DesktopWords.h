@@ -16,6 +16,7 @@ inline constexpr std::array desktopWords{
     DesktopWord{u"Reveal in Finder", u"Show in File Manager"},
     DesktopWord{u"Reveal Primary in Finder", u"Show Primary in File Manager"},
     DesktopWord{u"⌃⌘P", u"Ctrl+P"},
+    DesktopWord{u"⌃⌘Space", u"Super+."},
     DesktopWord{u"⌘Z", u"Ctrl+Z"},
 };
 

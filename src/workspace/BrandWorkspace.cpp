@@ -120,6 +120,13 @@ void BrandWorkspace::showEyedropperTip() {
       QStringLiteral("Tip: press ⌃⌘P to keep sampling — colors land in this section"));
 }
 
+void BrandWorkspace::editEmblem(const QUuid& section, const EmblemPicker::Words& words) {
+  if (!document_) return;
+  window_.sheets.show(std::make_unique<EmblemPicker>(
+      EmblemSubject(*document_, section), words,
+      EmblemPicker::Services{services_.dialogs, services_.imports, services_.thumbnails}));
+}
+
 void BrandWorkspace::moveSection(const QUuid& section, int step) {
   if (!document_) return;
   const qsizetype from = indexOf(document_->brand().sections, section), to = from + step;

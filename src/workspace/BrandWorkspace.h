@@ -2,6 +2,7 @@
 
 #include "assets/DragPreparation.h"
 #include "controls/sheets/SheetHost.h"
+#include "sheets/emblems/EmblemPicker.h"
 #include "workspace/ToastCenter.h"
 #include "workspace/WorkspaceServices.h"
 #include "workspace/page/SectionListModel.h"
@@ -72,6 +73,9 @@ class BrandWorkspace : public QObject {
   void pickColor(const QUuid& section);
   // Colours from the screen go there from now on.
   void collectColorsIn(const QUuid& section);
+
+  // Opens the sheet that gives the section its emblem.
+  void editEmblem(const QUuid& section, const EmblemPicker::Words& words);
 
   // Swaps it with the one `step` places on, if there is one.
   void moveSection(const QUuid& section, int step);

@@ -1,7 +1,7 @@
 #include "controls/sheets/NameSheet.h"
 #include "shell/sidebar/Sidebar.h"
 #include "testing/Cases.h"
-#include "testing/TestLibrary.h"
+#include "workspace/TestWorkspace.h"
 
 #include <QAbstractItemModelTester>
 #include <QColor>
@@ -15,14 +15,14 @@ namespace {
 
 Section section(const QString& name) { return Section::create(name); }
 
-struct SidebarTest {
-  TestLibrary library;
+struct SidebarTest : TestDesktop {
   SheetHost sheets;
   std::unique_ptr<Sidebar> sidebar;
   std::unique_ptr<QAbstractItemModelTester> tester;
 
   Sidebar& start() {
-    sidebar = std::make_unique<Sidebar>(library.start(), library.viewer, sheets);
+    library.start();
+    sidebar = std::make_unique<Sidebar>(services(), sheets);
     tester = std::make_unique<QAbstractItemModelTester>(
         sidebar->rows(), QAbstractItemModelTester::FailureReportingMode::QtTest);
     return *sidebar;

@@ -15,6 +15,10 @@ Menu {
     onClosed: destroy(1000) // behind what its entries do then
 
     MenuItem {
+        text: "Set Icon…"
+        onAfterClosing: root.sidebar.editEmblem(root.packageURL)
+    }
+    MenuItem {
         text: "Accent Color…"
         onAfterClosing: root.sidebar.editAccent(root.packageURL)
     }

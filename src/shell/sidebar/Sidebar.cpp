@@ -2,8 +2,10 @@
 
 #include "controls/sheets/NameSheet.h"
 #include "controls/sheets/Question.h"
+#include "pictures/HexColor.h"
 #include "platform/DesktopWords.h"
 #include "sheets/AccentColorSheet.h"
+#include "sheets/emblems/EmblemPicker.h"
 
 #include <QPointer>
 
@@ -11,9 +13,18 @@
 #include <utility>
 
 namespace tarnloft {
+namespace {
 
-Sidebar::Sidebar(LibraryStore& library, FileViewer& viewer, SheetHost& sheets, QObject* parent)
-    : QObject(parent), library_(library), viewer_(viewer), sheets_(sheets), rows_(library) {}
+constexpr QRgb defaultTint = 0xff4c6fff;  // of an emblem's ground, in a brand without an accent
+
+}  // namespace
+
+Sidebar::Sidebar(const WorkspaceServices& services, SheetHost& sheets, QObject* parent)
+    : QObject(parent),
+      services_(services),
+      library_(services.library),
+      sheets_(sheets),
+      rows_(services.library) {}
 
 std::optional<BrandSummary> Sidebar::brandAt(const QString& packageURL) const {
   const QList<BrandSummary>& brands = library_.brands();
@@ -61,7 +72,7 @@ void Sidebar::exportFile(const QString& packageURL) {
   if (const auto brand = brandAt(packageURL)) library_.exportBrand(*brand);
 }
 
-void Sidebar::reveal(const QString& packageURL) { viewer_.reveal(packageURL); }
+void Sidebar::reveal(const QString& packageURL) { services_.viewer.reveal(packageURL); }
 
 QString Sidebar::revealText() { return inDesktopWords(QStringLiteral("Reveal in Finder")); }
 
@@ -86,17 +97,39 @@ void Sidebar::rename(const QString& packageURL) {
   endWithBrand(*sheet, brand->brandID);
 }
 
-void Sidebar::editAccent(const QString& packageURL) {
+void Sidebar::whenOpen(const QString& packageURL,
+                       std::function<void(const BrandSummary&, BrandDocument&)> edit) {
   const auto brand = brandAt(packageURL);
   if (!brand) return;
-  library_.whenLoaded(packageURL, [self = QPointer(this), id = brand->brandID] {
+  const auto loaded = [self = QPointer(this), id = brand->brandID, edit = std::move(edit)] {
     BrandDocument* const document = self ? self->library_.openDocument() : nullptr;
     const auto now = self ? self->brandOf(id) : std::nullopt;
     // It may have failed to open, or another one was selected meanwhile.
-    if (!document || !now || now->packageURL != document->packageURL()) return;
-    AccentColorSheet* const sheet = self->sheets_.show(std::make_unique<AccentColorSheet>(
-        *document, self->library_.preferences().defaultAccentHex()));
-    self->endWithBrand(*sheet, id);
+    if (document && now && now->packageURL == document->packageURL()) edit(*now, *document);
+  };
+  library_.whenLoaded(packageURL, loaded);
+}
+
+void Sidebar::editEmblem(const QString& packageURL) {
+  whenOpen(packageURL, [this](const BrandSummary& brand, BrandDocument& document) {
+    const QColor accent = colorOf(document.brand().accentHex.value_or(QString()));
+    const EmblemPicker::Words words{.title = QStringLiteral("Brand Icon"),
+                                    .place = rows_.placeOf(brand),
+                                    .tint = accent.isValid() ? accent : QColor(defaultTint)};
+    EmblemPicker* const sheet = sheets_.show(std::make_unique<EmblemPicker>(
+        EmblemSubject(document, std::nullopt), words,
+        EmblemPicker::Services{services_.dialogs, services_.imports, services_.thumbnails}));
+    endWithBrand(*sheet, brand.brandID);
+    // The listing shows the emblem.
+    connect(sheet, &QObject::destroyed, &library_, &LibraryStore::scan);
+  });
+}
+
+void Sidebar::editAccent(const QString& packageURL) {
+  whenOpen(packageURL, [this](const BrandSummary& brand, BrandDocument& document) {
+    AccentColorSheet* const sheet = sheets_.show(
+        std::make_unique<AccentColorSheet>(document, library_.preferences().defaultAccentHex()));
+    endWithBrand(*sheet, brand.brandID);
   });
 }
 

@@ -2,6 +2,7 @@
 
 #include "controls/sheets/SheetHost.h"
 #include "shell/sidebar/SidebarModel.h"
+#include "workspace/WorkspaceServices.h"
 
 namespace tarnloft {
 
@@ -27,7 +28,7 @@ class Sidebar : public QObject {
 
  public:
   // Borrowed: all of it outlives the sidebar.
-  Sidebar(LibraryStore& library, FileViewer& viewer, SheetHost& sheets, QObject* parent = nullptr);
+  Sidebar(const WorkspaceServices& services, SheetHost& sheets, QObject* parent = nullptr);
 
   SidebarModel* rows() { return &rows_; }
 
@@ -47,7 +48,8 @@ class Sidebar : public QObject {
 
   static QString revealText();
 
-  // Opens the brand, and the sheet of its accent colours.
+  // Open the brand, and the sheet of its emblem or of its accent colours.
+  Q_INVOKABLE void editEmblem(const QString& packageURL);
   Q_INVOKABLE void editAccent(const QString& packageURL);
   // Asks for another name, which leaves the brand selected.
   Q_INVOKABLE void rename(const QString& packageURL);
@@ -81,14 +83,17 @@ class Sidebar : public QObject {
  private:
   std::optional<BrandSummary> brandAt(const QString& packageURL) const;
   std::optional<BrandSummary> brandOf(const QUuid& id) const;
+  // Runs `edit(BrandSummary, BrandDocument&)` with the brand when it is the open one.
+  void whenOpen(const QString& packageURL,
+                std::function<void(const BrandSummary& brand, BrandDocument& document)> edit);
   void endWithBrand(SheetModel& sheet, const QUuid& brand);
   QVariant ofDragged(SidebarModel::Role role) const;
   qsizetype indexOf(const QString& brandID) const;
   void setDragging(const QString& brandID);
   void move(const QString& brandID, const std::optional<QUuid>& before);
 
+  const WorkspaceServices services_;
   LibraryStore& library_;
-  FileViewer& viewer_;
   SheetHost& sheets_;
   SidebarModel rows_;
   bool isFolded_ = false;

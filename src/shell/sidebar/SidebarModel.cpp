@@ -65,7 +65,7 @@ QVariant SidebarModel::data(const QModelIndex& index, int role) const {
     case packageURL: return row.packageURL;
     case Qt::DisplayRole:
     case name: return row.name;
-    case look: return QVariant::fromValue(lookOf(row));
+    case look: return QVariant::fromValue(emblemLook(row.emblem, placeOf(row)));
     case marked: return isMarked(row.emblem);
     case selected: return row.selected;
     case unsaved: return row.unsaved;
@@ -180,11 +180,10 @@ SidebarModel::Row SidebarModel::sectionRow(const Section& section, const QString
           section.emblem, std::nullopt,  false};
 }
 
-EmblemLook SidebarModel::lookOf(const Row& row) const {
+EmblemPlace SidebarModel::placeOf(const Row& row) {
   const bool isBrand = row.kind == Kind::Brand;
-  return emblemLook(row.emblem, {isBrand ? QStringLiteral("square.stack.3d.up")
-                                         : QStringLiteral("rectangle.grid.1x2"),
-                                 row.packageURL, isBrand ? row.name : QString(), row.accent});
+  return {isBrand ? QStringLiteral("square.stack.3d.up") : QStringLiteral("rectangle.grid.1x2"),
+          row.packageURL, isBrand ? row.name : QString(), row.accent};
 }
 
 }  // namespace tarnloft

@@ -59,6 +59,9 @@ class SidebarModel : public tarnloft::RecordListModel {
   // Position of the selected brand's row, or -1.
   Q_INVOKABLE int selectedRow() const;
 
+  // Where the brand's emblem is shown.
+  EmblemPlace placeOf(const BrandSummary& brand) const { return placeOf(brandRow(brand)); }
+
   // Of the row with that id, or -1.
   Q_INVOKABLE int rowOf(const QString& id) const;
 
@@ -78,7 +81,7 @@ class SidebarModel : public tarnloft::RecordListModel {
   QList<Row> rowsOf(const BrandSummary& brand) const;
   Row brandRow(const BrandSummary& brand) const;
   static Row sectionRow(const Section& section, const QString& package);
-  EmblemLook lookOf(const Row& row) const;
+  static EmblemPlace placeOf(const Row& row);
 
   LibraryStore& library_;
   ColorUtil::Appearance appearance_ = ColorUtil::Appearance::light;

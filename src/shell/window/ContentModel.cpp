@@ -15,7 +15,7 @@ ContentModel::ContentModel(const WorkspaceServices& services, QObject* parent)
       services_(services),
       library_(services.library),
       commands_(library_),
-      sidebar_(library_, services.viewer, sheets_),
+      sidebar_(services, sheets_),
       alerts_(library_, sheets_),
       selectedBrand_(library_.selection()),
       undoDocument_(library_.openDocument()) {

@@ -11,18 +11,19 @@ FocusScope {
 
     required property SectionModel section
 
-    EmblemView {
+    EmblemButton {
         id: emblem
 
+        x: -4
         anchors.verticalCenter: parent.verticalCenter
         look: root.section.emblem
         thumbnails: root.section.workspace.thumbnails
-        size: 22
+        onClicked: root.section.editEmblem()
     }
 
     LineField {
         anchors.left: emblem.right
-        anchors.leftMargin: 8
+        anchors.leftMargin: 4
         anchors.right: addMenu.left
         anchors.rightMargin: 8
         anchors.verticalCenter: parent.verticalCenter

@@ -13,6 +13,8 @@ Menu {
 
     title: "Section options"
 
+    MenuItem { text: "Set Icon…"; onAfterClosing: root.section.editEmblem() }
+
     Instantiator {
         active: root.section.hasColors
         delegate: Menu {
@@ -30,11 +32,11 @@ Menu {
                 }
             }
         }
-        onObjectAdded: (index, menu) => root.insertMenu(0, menu as Menu)
+        onObjectAdded: (index, menu) => root.insertMenu(1, menu as Menu)
         onObjectRemoved: (index, menu) => root.removeMenu(menu as Menu)
     }
 
-    MenuSeparator { visible: root.section.hasColors }
+    MenuSeparator {}
     MenuItem { text: "Move Section Up"; enabled: root.section.canMoveUp; onTriggered: root.section.moveUp() }
     MenuItem { text: "Move Section Down"; enabled: root.section.canMoveDown; onTriggered: root.section.moveDown() }
     MenuSeparator {}

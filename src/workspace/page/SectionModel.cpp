@@ -9,6 +9,7 @@ namespace tarnloft {
 namespace {
 
 const QString newColor = QStringLiteral("#4C6FFF");
+const QString defaultSymbol = QStringLiteral("rectangle.grid.1x2");
 const QString sampleText = QStringLiteral("The quick brown fox");
 
 bool holdsColors(const Section& section) {
@@ -32,7 +33,7 @@ QList<QUuid> SectionModel::itemOrder() const {
 }
 
 EmblemLook SectionModel::emblem() const {
-  return workspace_.lookOf(section_.emblem, QStringLiteral("rectangle.grid.1x2"));
+  return workspace_.lookOf(section_.emblem, defaultSymbol);
 }
 
 void SectionModel::setSection(const Section& section, const QString& searchText) {
@@ -110,6 +111,12 @@ void SectionModel::importVideos() {
 }
 
 void SectionModel::importFontFiles() { workspace_.importChosenFonts(id()); }
+
+void SectionModel::editEmblem() {
+  workspace_.editEmblem(id(), {.title = QStringLiteral("Section Icon"),
+                               .place = {defaultSymbol, {}, {}, {}},
+                               .tint = QColor(newColor)});
+}
 
 QStringList SectionModel::paletteFormats() {
   QStringList names;

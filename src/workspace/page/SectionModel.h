@@ -68,6 +68,7 @@ class SectionModel : public QObject {
   Q_INVOKABLE void importFontFiles();
 
   // --- Entries of the options menu.
+  Q_INVOKABLE void editEmblem();
   // The names of the formats in which `copyColors` can write the section's colours.
   Q_INVOKABLE static QStringList paletteFormats();
   Q_INVOKABLE void copyColors(const QString& format);

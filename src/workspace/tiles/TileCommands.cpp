@@ -3,9 +3,9 @@
 #include "assets/FontAttachment.h"
 #include "controls/sheets/SheetHost.h"
 #include "document/Package.h"
-#include "pictures/HexColor.h"
 #include "publish/ColorUtil.h"
 #include "sheets/AssetRenameSheet.h"
+#include "sheets/BrandColors.h"
 #include "sheets/UsageNotesSheet.h"
 #include "sheets/editors/ItemEditorSheet.h"
 #include "workspace/ToastCenter.h"
@@ -42,26 +42,12 @@ std::unique_ptr<ItemBinding> TileCommands::bound(const QUuid& item) const {
   return std::make_unique<ItemBinding>(*document_, item);
 }
 
-// Each once, in the brand's order; as many as a small panel shows.
-QList<QColor> TileCommands::brandColors() const {
-  constexpr qsizetype most = 18;
-  QList<QColor> colors;
-  for (const Section& section : document_->brand().sections) {
-    for (const Item& item : section.items) {
-      const auto* const color = std::get_if<ColorPayload>(&item.payload);
-      const QColor shown = color ? colorOf(color->value.hex) : QColor();
-      if (shown.isValid() && !colors.contains(shown)) colors << shown;
-      if (colors.size() == most) return colors;
-    }
-  }
-  return colors;
-}
-
 void TileCommands::edit(const QUuid& item) {
   auto binding = bound(item);
   if (!binding) return;
   const auto sample = [&library = services_.library](auto picked) { library.sampleColor(picked); };
-  window_.sheets.show(std::make_unique<ItemEditorSheet>(std::move(binding), brandColors(), sample));
+  window_.sheets.show(std::make_unique<ItemEditorSheet>(std::move(binding),
+                                                        brandColors(document_->brand()), sample));
 }
 
 void TileCommands::rename(const QUuid& item) {

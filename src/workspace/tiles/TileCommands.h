@@ -52,7 +52,6 @@ class TileCommands : public QObject {
   // Runs `change(section, place)` where the item stands.
   void editPlace(const QUuid& item,
                  const std::function<void(Section& section, qsizetype place)>& change);
-  QList<QColor> brandColors() const;
 
   QPointer<BrandDocument> document_;
   const WindowParts window_;
