@@ -5,11 +5,11 @@
 
 namespace tarnloft {
 
-std::optional<DragItem> DragPreparation::make(const Item& item, std::function<DragItem()> work,
+std::optional<DragItem> DragPreparation::make(const QString& key, std::function<DragItem()> work,
                                               std::chrono::milliseconds patience) {
-  if (!underWay_.valid() || item_ != item) {
+  if (!underWay_.valid() || key_ != key) {
     const auto task = std::make_shared<std::packaged_task<DragItem()>>(std::move(work));
-    item_ = item;
+    key_ = key;
     underWay_ = task->get_future();
     QThreadPool::globalInstance()->start([task] { (*task)(); });
   }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "model/Item.h"
 #include "platform/DragSession.h"
 
 #include <QThreadPool>
@@ -14,13 +13,13 @@ namespace tarnloft {
 // for that only so long: the disk may be slow, or not answer. Main thread.
 class DragPreparation {
  public:
-  // None if it takes longer. It goes on then, and the next call gets it if it is for the
-  // same item, unchanged.
-  std::optional<DragItem> make(const Item& item, std::function<DragItem()> work,
+  // None if it takes longer. It goes on then, and the next call gets it if it is for the same
+  // thing, which the key tells from others.
+  std::optional<DragItem> make(const QString& key, std::function<DragItem()> work,
                                std::chrono::milliseconds patience);
 
  private:
-  Item item_;
+  QString key_;
   std::shared_future<DragItem> underWay_;  // what was waited for in vain
 };
 

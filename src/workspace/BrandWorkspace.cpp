@@ -165,18 +165,4 @@ bool BrandWorkspace::dropBefore(const QMimeData& data, const QUuid& section, con
                             });
 }
 
-void BrandWorkspace::drag(const Item& item, const DragLook& look) {
-  if (!document_) return;
-  constexpr std::chrono::seconds patience(1);
-  const auto drag = dragPreparation_.make(
-      item,
-      [services = services_.drags, package = document_->files(), item] {
-        return TileDrag::makeDragProvider(services, package, item);
-      },
-      patience);
-  if (drag) return services_.dragSession.drag({*drag}, look);
-  window_.toasts.show(
-      QStringLiteral("Still copying “%1” · Drag it again in a moment").arg(item.displayName()));
-}
-
 }  // namespace tarnloft

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "assets/DragPreparation.h"
 #include "controls/sheets/SheetHost.h"
 #include "sheets/emblems/EmblemPicker.h"
 #include "workspace/ToastCenter.h"
@@ -89,8 +88,6 @@ class BrandWorkspace : public QObject {
   bool drop(const QMimeData& data, const QUuid& section);
   // A drop on an item, which takes items alone: they move in front of it.
   bool dropBefore(const QMimeData& data, const QUuid& section, const QUuid& before);
-  // Starts a drag of the item through the desktop; returns when it has ended.
-  void drag(const Item& item, const DragLook& look);
 
  signals:
   void nameChanged();
@@ -110,7 +107,6 @@ class BrandWorkspace : public QObject {
   TileCommands commands_;
   QString name_;
   QString searchText_;
-  DragPreparation dragPreparation_;
   bool isRefreshDue_ = false;
   SectionListModel sections_;
 };

@@ -289,7 +289,7 @@ class TestBrandPage : public QObject {
       (void)steps({Qt::Key_Tab});
       ++tabs;
     }
-    QCOMPARE(tabs, 4);  // over the next section's header
+    QCOMPARE(tabs, 5);  // over the next section's header
   }
 
   void namesOfSectionsAreEdited() {

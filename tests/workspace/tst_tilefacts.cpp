@@ -67,12 +67,11 @@ class TestTileFacts : public QObject {
   }
 
   void drawsPicturesOfImagesAndPrimaryVariants() {
-    using TileKind::Backdrop;
     QCOMPARE(TileFacts::picture(imageItem("Hero", "h.png"))->filename, "h.png");
     QCOMPARE(TileFacts::picture(logoItem(3))->filename, "1.png");
     QVERIFY(!TileFacts::picture(logoItem(0)));
     QVERIFY(!TileFacts::picture(videoItem("v")));
-    QCOMPARE(TileFacts::backdrop(imageItem("Hero")), Backdrop::Window);
+    QCOMPARE(TileFacts::backdrop(imageItem("Hero")), Backdrop::Default);
     QCOMPARE(TileFacts::backdrop(logoItem(2, ImageBackground::dark)), Backdrop::Dark);
     Item image = imageItem("Hero");
     image.imageBackground = ImageBackground::checkerboard;

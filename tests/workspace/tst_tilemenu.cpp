@@ -71,9 +71,10 @@ class TestTileMenu : public QObject {
         {"font", FontPayload{{"Inter", {}, {}, asset("a.otf"), {}}},
          "Rename…|Replace Font File…|" + file + "|Edit…"},
         {"code", CodePayload{{"swift", "x", {}}}, "Copy Snippet|Rename…|Edit…"},
-        {"empty logo", LogoPayload{{"Logo", {}}}, "Rename…"},
+        {"empty logo", LogoPayload{{"Logo", {}}}, "Rename…|Edit Variants…"},
         {"logo", LogoPayload{{"Logo", {variant}}},
-         "Rename…|Ungroup Logo|Set Primary as Brand Icon|Show Primary in File Manager"}};
+         "Rename…|Edit Variants…|Ungroup Logo|Set Primary as Brand Icon|Show Primary in File "
+         "Manager"}};
     cases.check([](const ItemPayload& payload, const QString& line) {
       QCOMPARE(MenuTest(payload).line(), line + tail);
     });

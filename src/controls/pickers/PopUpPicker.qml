@@ -11,8 +11,11 @@ MenuOpener {
     id: root
 
     property list<PickerOption> options
+    property var texts: [] // instead of options, where each is a text alone
     property int currentIndex: 0
     readonly property PickerOption current: currentIndex >= 0 && currentIndex < options.length ? options[currentIndex] : null
+
+    readonly property string text: currentIndex >= 0 && currentIndex < texts.length ? texts[currentIndex] : current?.text ?? ""
 
     signal activated(index: int)
 
@@ -27,7 +30,7 @@ MenuOpener {
     implicitHeight: Theme.controlHeight(controlSize)
     onMenuRequested: openMenu()
     Keys.onUpPressed: openMenu()
-    Accessible.name: [accessibleName, current?.text].filter(part => part).join(", ")
+    Accessible.name: accessibleName && text ? accessibleName + ", " + text : accessibleName || text
 
     T.Button {
         id: face
@@ -46,7 +49,7 @@ MenuOpener {
 
         contentItem: ButtonContent {
             leading: true
-            text: root.current?.text ?? ""
+            text: root.text
             symbol: root.current?.symbol ?? ""
             font: face.font
         }
@@ -80,13 +83,13 @@ MenuOpener {
         least: root.width + 14
 
         Repeater {
-            model: root.options
+            model: root.texts.length > 0 ? root.texts.length : root.options.length
             delegate: MenuItem {
-                required property PickerOption modelData
                 required property int index
+                readonly property PickerOption option: root.options[index] ?? null // it may go first
 
-                text: modelData?.text ?? "" // it may go first
-                symbol: modelData?.symbol ?? ""
+                text: option?.text ?? root.texts[index] ?? ""
+                symbol: option?.symbol ?? ""
                 checkable: true
                 checked: index === root.currentIndex
                 onTriggered: if (index !== root.currentIndex) root.activated(index)

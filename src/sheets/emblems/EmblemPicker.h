@@ -86,6 +86,8 @@ class EmblemPicker : public tarnloft::SheetModel {
   const QString& query() const { return query_; }
   void setQuery(const QString& query);
   const QStringList& symbols() const { return symbols_; }
+  // Where the chosen one stands among those found, or -1.
+  Q_INVOKABLE int symbolRow() const { return int(symbols_.indexOf(symbol())); }
   Q_INVOKABLE static QString spoken(const QString& symbol);
   // Emoji that are offered, and how to get at others.
   Q_INVOKABLE static QStringList presets();

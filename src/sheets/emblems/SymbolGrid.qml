@@ -20,8 +20,7 @@ FocusScope {
 
     // The chosen one, or the first.
     function enter() {
-        const chosen = picker.symbols.indexOf(picker.symbol);
-        grid.currentIndex = Math.max(0, chosen);
+        grid.currentIndex = Math.max(0, picker.symbolRow());
         grid.positionViewAtIndex(grid.currentIndex, GridView.Contain);
     }
 

@@ -16,12 +16,12 @@ Item {
     readonly property bool loading: facet.path !== "" && picture.state === ThumbnailView.Loading
 
     // Marks stand on the backdrop, which is the theme's own only where none was chosen.
-    readonly property bool themed: facet.backdrop === TileKind.Window
-    readonly property color ink: facet.backdrop === TileKind.Dark ? "white" : "black"
+    readonly property bool themed: facet.backdrop === Backdrop.Default
+    readonly property color ink: facet.backdrop === Backdrop.Dark ? "white" : "black"
 
     LazyItem {
         anchors.fill: parent
-        active: root.facet.backdrop === TileKind.Checkerboard
+        active: root.facet.backdrop === Backdrop.Checkerboard
         sourceComponent: CheckerboardView {}
     }
 

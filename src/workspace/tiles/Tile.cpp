@@ -1,33 +1,12 @@
 #include "workspace/tiles/Tile.h"
 
+#include "controls/dragging/Carrying.h"
 #include "workspace/BrandWorkspace.h"
-#include "workspace/dragging/TilePicture.h"
 #include "workspace/tiles/TileMenuEntries.h"
 
-#include <QCoreApplication>
-#include <QMouseEvent>
 #include <QPointer>
-#include <QPointingDevice>
-#include <QQuickWindow>
 
 namespace tarnloft {
-namespace {
-
-// On Wayland the window system's drag takes the release away, without which its handler would go on
-// at the next press, wherever that is.
-void endPress(QQuickWindow& window) {
-  constexpr QPointF outside(-1, -1);
-  for (const QInputDevice* const device : QInputDevice::devices()) {
-    const auto* const pointer = qobject_cast<const QPointingDevice*>(device);
-    if (!pointer || pointer->type() == QInputDevice::DeviceType::TouchScreen) continue;
-    QMouseEvent release(QEvent::MouseButtonRelease, outside, window.mapToGlobal(outside),
-                        Qt::LeftButton, Qt::NoButton, {}, pointer);
-    QCoreApplication::sendEvent(&window, &release);
-  }
-}
-
-}  // namespace
-
 Tile::Tile(SectionModel& section, const Item& item)
     : section_(section), item_(item), facet_(TileFacet::make(*this)) {
   connect(&workspace()->selection(), &TileSelection::idsChanged, this, &Tile::selectionChanged);
@@ -64,14 +43,12 @@ void Tile::click(int modifiers) {
 void Tile::toggleSelected() { workspace()->selection().toggle(item_.id, section_.id()); }
 
 void Tile::drag(QQuickItem* view, const QImage& grabbed, qreal radius) {
-  constexpr QPoint hotSpot{-14, -10};  // right of the pointer and below it
-  const Item item = item_;
-  // Whole turns of the event loop pass until the drag has ended.
-  const QPointer<Tile> self(this);
-  const QPointer<QQuickWindow> window(view->window());
+  const QPointer<Tile> self(this);  // it may go before the drag ends
   setDragged(true);
-  workspace()->drag(item, {carriedPicture(grabbed, *view, radius), hotSpot});
-  if (window) endPress(*window);
+  carryOut(*view, grabbed, radius,
+           [commands = &workspace()->commands(), item = item_](const DragLook& look) {
+             commands->drag(item, look);
+           });
   if (self) setDragged(false);
 }
 

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import TarnLoft.Controls
+import TarnLoft.Pictures
 import TarnLoft.Workspace
 
 // The card of a tile, with its kind's content and the badge of its notes.
@@ -19,9 +20,9 @@ Card {
     readonly property string help: failed ? tile.picture.failureHelp : tile.help
     readonly property color backdrop: {
         switch (tile.picture?.backdrop) {
-        case TileKind.White:
+        case Backdrop.White:
             return "white";
-        case TileKind.Dark:
+        case Backdrop.Dark:
             return Qt.hsva(0, 0, 0.16, 1);
         default:
             return Theme.windowBackground;

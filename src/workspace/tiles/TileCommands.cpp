@@ -8,6 +8,7 @@
 #include "sheets/BrandColors.h"
 #include "sheets/UsageNotesSheet.h"
 #include "sheets/editors/ItemEditorSheet.h"
+#include "sheets/logos/LogoSetSheet.h"
 #include "workspace/ToastCenter.h"
 #include "workspace/selection/TileSelection.h"
 
@@ -16,6 +17,10 @@ namespace {
 
 Emblem emblemOf(const AssetRef& asset) {
   return {Emblem::Kind::image, std::nullopt, std::nullopt, std::nullopt, asset};
+}
+
+QString keyOf(const AssetRef& asset) {
+  return asset.filename + QLatin1Char('/') + asset.originalName;
 }
 
 }  // namespace
@@ -62,6 +67,24 @@ void TileCommands::rename(const QUuid& item) {
 void TileCommands::editNotes(const QUuid& item) {
   if (auto binding = bound(item))
     window_.sheets.show(std::make_unique<UsageNotesSheet>(std::move(binding)));
+}
+
+void TileCommands::editVariants(const QUuid& item) {
+  auto binding = bound(item);
+  if (!binding) return;
+  const QPointer<TileCommands> self(this);  // the brand may go while the sheet is up
+  window_.sheets.show(std::make_unique<LogoSetSheet>(
+      std::move(binding),
+      LogoSetSheet::Services{services_.dialogs, services_.imports, services_.drops,
+                             services_.thumbnails},
+      LogoSetSheet::Actions{.drag =
+                                [self](const auto& asset, const auto& look) {
+                                  if (self) self->dragVariant(asset, look);
+                                },
+                            .ungroup =
+                                [self, item] {
+                                  if (self) self->ungroupLogo(item);
+                                }}));
 }
 
 void TileCommands::setBackdrop(const QUuid& item, std::optional<ImageBackground> background) {
@@ -146,6 +169,35 @@ void TileCommands::move(const QUuid& item, int step) {
 
 void TileCommands::remove(const QUuid& item) {
   if (document_) document_->removeItem(item);
+}
+
+void TileCommands::drag(const QString& key, const QString& name, std::function<DragItem()> prepare,
+                        const DragLook& look) {
+  constexpr std::chrono::seconds patience(1);
+  const auto drag = dragPreparation_.make(key, std::move(prepare), patience);
+  if (drag) return services_.dragSession.drag({*drag}, look);
+  tell(QStringLiteral("Still copying “%1” · Drag it again in a moment").arg(name));
+}
+
+void TileCommands::drag(const Item& item, const DragLook& look) {
+  if (!document_) return;
+  const auto asset = item.exportableAsset();
+  drag(
+      item.id.toString() + keyOf(asset.value_or(AssetRef())), item.displayName(),
+      [services = services_.drags, package = document_->files(), item] {
+        return TileDrag::makeDragProvider(services, package, item);
+      },
+      look);
+}
+
+void TileCommands::dragVariant(const AssetRef& asset, const DragLook& look) {
+  if (!document_) return;
+  drag(
+      keyOf(asset), asset.originalName,
+      [&files = services_.drags.files, package = document_->files(), asset] {
+        return TileDrag::variantProvider(files, package, asset);
+      },
+      look);
 }
 
 }  // namespace tarnloft

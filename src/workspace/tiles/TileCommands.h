@@ -1,5 +1,6 @@
 #pragma once
 
+#include "assets/DragPreparation.h"
 #include "document/BrandDocument.h"
 #include "document/ItemBinding.h"
 #include "workspace/WorkspaceServices.h"
@@ -26,6 +27,8 @@ class TileCommands : public QObject {
   void edit(const QUuid& item);
   void rename(const QUuid& item);
   void editNotes(const QUuid& item);
+  // Of a logo set.
+  void editVariants(const QUuid& item);
 
   void setBackdrop(const QUuid& item, std::optional<ImageBackground> background);
   void setAccent(const QString& hex);
@@ -45,6 +48,10 @@ class TileCommands : public QObject {
   void move(const QUuid& item, int step);
   void remove(const QUuid& item);
 
+  // Start a drag through the desktop; return when it has ended.
+  void drag(const Item& item, const DragLook& look);
+  void dragVariant(const AssetRef& asset, const DragLook& look);
+
   void tell(const QString& text);
 
  private:
@@ -53,9 +60,14 @@ class TileCommands : public QObject {
   void editPlace(const QUuid& item,
                  const std::function<void(Section& section, qsizetype place)>& change);
 
+  // `name` is what the user knows the thing by that `key` tells from others.
+  void drag(const QString& key, const QString& name, std::function<DragItem()> prepare,
+            const DragLook& look);
+
   QPointer<BrandDocument> document_;
   const WindowParts window_;
   const WorkspaceServices services_;
+  DragPreparation dragPreparation_;
 };
 
 }  // namespace tarnloft

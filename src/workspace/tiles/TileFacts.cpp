@@ -4,7 +4,6 @@ namespace tarnloft::TileFacts {
 namespace {
 
 using Kind = TileKind::Kind;
-using Backdrop = TileKind::Backdrop;
 
 std::optional<QString> unlessEmpty(const QString& text) {
   return text.isEmpty() ? std::nullopt : std::optional(text);
@@ -21,16 +20,6 @@ std::optional<QString> fontSubcaption(const FontValue& font) {
   if (font.asset) return unlessEmpty(font.weight.value_or(QString()));
   const auto weight = unlessEmpty(font.weight.value_or(QString()));
   return weight ? *weight + QStringLiteral(" · name only") : QStringLiteral("Name only");
-}
-
-Backdrop backdropOf(const std::optional<ImageBackground>& background) {
-  if (!background) return Backdrop::Window;
-  switch (*background) {
-    case ImageBackground::white: return Backdrop::White;
-    case ImageBackground::dark: return Backdrop::Dark;
-    case ImageBackground::checkerboard: break;
-  }
-  return Backdrop::Checkerboard;
 }
 
 }  // namespace
@@ -106,11 +95,11 @@ std::optional<AssetRef> picture(const Item& item) {
   return isPicture ? item.exportableAsset() : std::nullopt;
 }
 
-Backdrop backdrop(const Item& item) {
+Backdrop::Kind backdrop(const Item& item) {
   const auto* logo = std::get_if<LogoPayload>(&item.payload);
-  if (!logo) return backdropOf(item.imageBackground);
+  if (!logo) return Backdrop::of(item.imageBackground);
   const auto primary = logo->value.primary();
-  return backdropOf(primary ? primary->background : std::nullopt);
+  return Backdrop::of(primary ? primary->background : std::nullopt);
 }
 
 std::optional<QString> pictureName(const Item& item) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Item.h"
+#include "pictures/Backdrop.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
@@ -14,10 +15,6 @@ QML_ELEMENT
 
 enum class Kind { Header, Text, Color, Gradient, Image, Video, Font, Code, Logo };
 Q_ENUM_NS(Kind)
-
-// What lies behind a picture.
-enum class Backdrop { Window, White, Dark, Checkerboard };
-Q_ENUM_NS(Backdrop)
 
 }  // namespace TileKind
 
@@ -43,7 +40,7 @@ QString accessibilityDescription(const Item& item);
 
 // The file whose picture the tile is: an image's, or a logo set's primary one.
 std::optional<AssetRef> picture(const Item& item);
-TileKind::Backdrop backdrop(const Item& item);
+Backdrop::Kind backdrop(const Item& item);
 // The name by which a picture that can't be read is told; none for one without.
 std::optional<QString> pictureName(const Item& item);
 

@@ -115,6 +115,7 @@ class Entries {
 
   void addKind(const LogoPayload& payload) {
     addRename();
+    addVerb(QStringLiteral("Edit Variants…"), &TileCommands::editVariants);
     if (payload.value.variants.isEmpty()) return;
     addVerb(QStringLiteral("Ungroup Logo"), &TileCommands::ungroupLogo);
     const AssetRef primary = payload.value.primary()->asset;

@@ -13,6 +13,8 @@ class LogoFacet : public PictureFacet {
  public:
   using PictureFacet::PictureFacet;
 
+  void clicked() override;
+
   int variantCount() const { return int(payload<LogoPayload>().value.variants.size()); }
 };
 

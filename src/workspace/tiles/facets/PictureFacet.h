@@ -13,7 +13,7 @@ class PictureFacet : public TileFacet {
   // Empty if there is none, and for one that leads out of the package.
   Q_PROPERTY(QString path READ path NOTIFY changed)
   Q_PROPERTY(bool present READ isPresent NOTIFY changed)  // it has a file
-  Q_PROPERTY(tarnloft::TileKind::Backdrop backdrop READ backdrop NOTIFY changed)
+  Q_PROPERTY(tarnloft::Backdrop::Kind backdrop READ backdrop NOTIFY changed)
   Q_PROPERTY(QString failureHelp READ failureHelp NOTIFY changed)
 
  public:
@@ -21,7 +21,7 @@ class PictureFacet : public TileFacet {
 
   QString path() const;
   bool isPresent() const { return TileFacts::picture(item()).has_value(); }
-  TileKind::Backdrop backdrop() const { return TileFacts::backdrop(item()); }
+  Backdrop::Kind backdrop() const { return TileFacts::backdrop(item()); }
   QString failureHelp() const;
 };
 
