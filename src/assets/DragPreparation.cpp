@@ -5,14 +5,17 @@
 
 namespace tarnloft {
 
+void DragPreparation::begin(const QString& key, std::function<DragItem()> work) {
+  if (underWay_.valid() && key_ == key) return;
+  const auto task = std::make_shared<std::packaged_task<DragItem()>>(std::move(work));
+  key_ = key;
+  underWay_ = task->get_future();
+  QThreadPool::globalInstance()->start([task] { (*task)(); });
+}
+
 std::optional<DragItem> DragPreparation::make(const QString& key, std::function<DragItem()> work,
                                               std::chrono::milliseconds patience) {
-  if (!underWay_.valid() || key_ != key) {
-    const auto task = std::make_shared<std::packaged_task<DragItem()>>(std::move(work));
-    key_ = key;
-    underWay_ = task->get_future();
-    QThreadPool::globalInstance()->start([task] { (*task)(); });
-  }
+  begin(key, std::move(work));
   if (underWay_.wait_for(patience) != std::future_status::ready) return std::nullopt;
   return std::exchange(underWay_, {}).get();
 }

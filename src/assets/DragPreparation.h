@@ -13,6 +13,8 @@ namespace tarnloft {
 // for that only so long: the disk may be slow, or not answer. Main thread.
 class DragPreparation {
  public:
+  // Begins, so that the next `make` for that key needn't wait as long.
+  void begin(const QString& key, std::function<DragItem()> work);
   // None if it takes longer. It goes on then, and the next call gets it if it is for the same
   // thing, which the key tells from others.
   std::optional<DragItem> make(const QString& key, std::function<DragItem()> work,

@@ -25,6 +25,7 @@ struct WorkspaceServices {
   FileViewer& viewer;
   Thumbnails& thumbnails;
   Posters& posters;
+  BackgroundWork& work;
   ImportServices imports;
   DropReader& drops;
   DragServices drags;

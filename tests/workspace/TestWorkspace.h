@@ -16,7 +16,9 @@ namespace tarnloft {
 class ListedPasteboard : public Pasteboard {
  public:
   QStringList texts;
+  QList<PasteboardForm> forms;
   void setText(const QString& text) override { texts << text; }
+  void setForms(const QList<PasteboardForm>& all) override { forms = all; }
 };
 
 // Remembers what was dragged; `during` is what happens until the user lets go.
@@ -57,6 +59,7 @@ struct TestDesktop {
             .viewer = library.viewer,
             .thumbnails = thumbnails,
             .posters = posters,
+            .work = work,
             .imports = {types, fonts, workers, {}},
             .drops = drops,
             .drags = {library.disk.files, types, images},

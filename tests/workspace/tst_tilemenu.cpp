@@ -65,7 +65,7 @@ class TestTileMenu : public QObject {
         {"no color", ColorPayload{{"teal", {}, {}}}, "Copy HEX: teal|—|Set as Brand Accent|Edit…"},
         {"gradient", GradientPayload{}, "Copy CSS Gradient|Rename…|Edit…"},
         {"image", ImagePayload{asset("a.png"), {}},
-         "Rename…|—|Background|Set as Brand Icon|Set as Section Icon|—|" + file},
+         "Rename…|Export As…|—|Background|Set as Brand Icon|Set as Section Icon|—|" + file},
         {"video", VideoPayload{asset("a.mp4"), {}}, "Rename…|—|" + file},
         {"font by name", FontPayload{{"Inter", {}, {}, {}, {}}}, "Rename…|Attach Font File…|Edit…"},
         {"font", FontPayload{{"Inter", {}, {}, asset("a.otf"), {}}},
@@ -73,7 +73,8 @@ class TestTileMenu : public QObject {
         {"code", CodePayload{{"swift", "x", {}}}, "Copy Snippet|Rename…|Edit…"},
         {"empty logo", LogoPayload{{"Logo", {}}}, "Rename…|Edit Variants…"},
         {"logo", LogoPayload{{"Logo", {variant}}},
-         "Rename…|Edit Variants…|Ungroup Logo|Set Primary as Brand Icon|Show Primary in File "
+         "Rename…|Edit Variants…|Ungroup Logo|Export Primary As…|Set Primary as Brand Icon|Show "
+         "Primary in File "
          "Manager"}};
     cases.check([](const ItemPayload& payload, const QString& line) {
       QCOMPARE(MenuTest(payload).line(), line + tail);
@@ -83,10 +84,10 @@ class TestTileMenu : public QObject {
   void doesWhatItSays() {
     MenuTest test(ImagePayload{asset("Mark.png"), {}});
     const QUuid id = test.item().id;
-    test.choose(test.entries().at(2).entries, "Checkerboard");
+    test.choose(test.entries().at(3).entries, "Checkerboard");
     QCOMPARE(test.item().imageBackground, ImageBackground::checkerboard);
-    QVERIFY(test.entries().at(2).entries.at(3).isChecked);
-    test.choose(test.entries().at(2).entries, "Default");
+    QVERIFY(test.entries().at(3).entries.at(3).isChecked);
+    test.choose(test.entries().at(3).entries, "Default");
     QCOMPARE(test.item().imageBackground, std::nullopt);
     test.choose("Set as Brand Icon");
     test.choose("Set as Section Icon");

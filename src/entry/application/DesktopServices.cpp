@@ -52,6 +52,7 @@ WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
           .viewer = viewer,
           .thumbnails = media.thumbnails,
           .posters = media.posters,
+          .work = media.work,
           .imports = {.types = types,
                       .fonts = fonts,
                       .workers = workers,

@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import TarnLoft.Controls
-import TarnLoft.Pictures
 import TarnLoft.Workspace
 
 // A section's mark and name, and its menus.

@@ -8,6 +8,7 @@
 #include "sheets/BrandColors.h"
 #include "sheets/UsageNotesSheet.h"
 #include "sheets/editors/ItemEditorSheet.h"
+#include "sheets/exporting/ExportImageSheet.h"
 #include "sheets/logos/LogoSetSheet.h"
 #include "workspace/ToastCenter.h"
 #include "workspace/selection/TileSelection.h"
@@ -106,6 +107,33 @@ void TileCommands::setBrandIcon(const AssetRef& asset) {
 void TileCommands::setSectionIcon(const AssetRef& asset, const QUuid& section) {
   if (!document_) return;
   document_->editSection(section, [&](Section& edited) { edited.emblem = emblemOf(asset); });
+}
+
+// The file is looked at in the background: its disk may be slow.
+void TileCommands::startExport(const QUuid& item, const AssetRef& asset) {
+  if (!document_) return;
+  const auto path = Package::assetPath(document_->packageURL(), asset);
+  if (!path) return;
+  const auto target = std::make_shared<ExportTarget>();
+  services_.work.start([&images = services_.drags.images, path = *path, asset,
+                        target] { *target = ExportTarget::create(images, path, asset); },
+                       [self = QPointer(this), item, target] {
+                         if (self) self->showExport(item, *target);
+                       });
+}
+
+void TileCommands::showExport(const QUuid& item, const ExportTarget& target) {
+  auto binding = bound(item);
+  if (!binding) return;
+  const auto tell = [&library = services_.library](const auto& title, const auto& reason) {
+    library.tell(title, reason);
+  };
+  window_.sheets.show(std::make_unique<ExportImageSheet>(
+      std::move(binding), target,
+      ExportImageSheet::Services{services_.library.preferences(), services_.drags.images,
+                                 services_.work, services_.drags.files, services_.dialogs,
+                                 services_.pasteboard, services_.dragSession, services_.thumbnails,
+                                 tell}));
 }
 
 void TileCommands::reveal(const AssetRef& asset) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "assets/DragPreparation.h"
+#include "assets/ExportTarget.h"
 #include "document/BrandDocument.h"
 #include "document/ItemBinding.h"
 #include "workspace/WorkspaceServices.h"
@@ -35,6 +36,9 @@ class TileCommands : public QObject {
   void setBrandIcon(const AssetRef& asset);
   void setSectionIcon(const AssetRef& asset, const QUuid& section);
 
+  // Opens the sheet that hands out a picture of the item's in another form.
+  void startExport(const QUuid& item, const AssetRef& asset);
+
   // Shows the file in the desktop's file manager.
   void reveal(const AssetRef& asset);
   // Asks for a font's file and brings it in for that font.
@@ -55,6 +59,7 @@ class TileCommands : public QObject {
   void tell(const QString& text);
 
  private:
+  void showExport(const QUuid& item, const ExportTarget& target);
   std::unique_ptr<ItemBinding> bound(const QUuid& item) const;
   // Runs `change(section, place)` where the item stands.
   void editPlace(const QUuid& item,

@@ -48,6 +48,10 @@ class Entries {
     add(text, [asset](TileCommands& commands) { commands.reveal(asset); });
   }
 
+  void addExport(const QString& text, const AssetRef& asset) {
+    add(text, [id = item_.id, asset](TileCommands& commands) { commands.startExport(id, asset); });
+  }
+
   void addKind(const HeaderPayload&) {}
   void addKind(const TextPayload&) {}
 
@@ -80,6 +84,7 @@ class Entries {
 
   void addKind(const ImagePayload& payload) {
     addRename();
+    addExport(QStringLiteral("Export As…"), payload.asset);
     addDivider();
     entries_ << MenuEntry{.text = QStringLiteral("Background"), .entries = backdrops()};
     add(QStringLiteral("Set as Brand Icon"),
@@ -119,6 +124,7 @@ class Entries {
     if (payload.value.variants.isEmpty()) return;
     addVerb(QStringLiteral("Ungroup Logo"), &TileCommands::ungroupLogo);
     const AssetRef primary = payload.value.primary()->asset;
+    addExport(QStringLiteral("Export Primary As…"), primary);
     add(QStringLiteral("Set Primary as Brand Icon"), [primary](TileCommands& commands) {
       commands.setBrandIcon(primary);
       commands.tell(QStringLiteral("Brand icon set"));

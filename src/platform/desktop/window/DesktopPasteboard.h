@@ -8,6 +8,7 @@ namespace tarnloft {
 class DesktopPasteboard : public Pasteboard {
  public:
   void setText(const QString& text) override;
+  void setForms(const QList<PasteboardForm>& forms) override;
 };
 
 }  // namespace tarnloft
