@@ -54,6 +54,10 @@ double BrandWorkspace::tileHeight() const {
   return tarnloft::tileHeight(services_.library.preferences().tileSize());
 }
 
+bool BrandWorkspace::isExpanded() const {
+  return services_.library.preferences().assetDisplayMode() == AssetDisplayMode::expanded;
+}
+
 void BrandWorkspace::selectAll() {
   if (document_)
     GroupOperations(*document_, window_.selection, window_.undoManager).selectAllInContext();

@@ -30,6 +30,8 @@ class BrandWorkspace : public QObject {
   Q_PROPERTY(double gridMinWidth READ gridMinWidth NOTIFY metricsChanged)
   Q_PROPERTY(double gridMaxWidth READ gridMaxWidth NOTIFY metricsChanged)
   Q_PROPERTY(double tileHeight READ tileHeight NOTIFY metricsChanged)
+  Q_PROPERTY(bool expanded READ isExpanded NOTIFY metricsChanged)  // tiles tell all of their item
+  Q_PROPERTY(tarnloft::AssetSpecs* specs READ specs CONSTANT)
   Q_PROPERTY(tarnloft::Thumbnails* thumbnails READ thumbnails CONSTANT)
   Q_PROPERTY(tarnloft::Posters* posters READ posters CONSTANT)
 
@@ -45,6 +47,8 @@ class BrandWorkspace : public QObject {
   double gridMinWidth() const { return services_.library.gridMinWidth(); }
   double gridMaxWidth() const { return services_.library.gridMaxWidth(); }
   double tileHeight() const;
+  bool isExpanded() const;
+  AssetSpecs* specs() const { return &services_.specs; }
   Thumbnails* thumbnails() const { return &services_.thumbnails; }
   Posters* posters() const { return &services_.posters; }
 

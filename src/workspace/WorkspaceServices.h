@@ -3,6 +3,7 @@
 #include "assets/DropImport.h"
 #include "assets/TileDrag.h"
 #include "library/LibraryStore.h"
+#include "pictures/AssetSpecs.h"
 #include "pictures/Posters.h"
 #include "pictures/Thumbnails.h"
 #include "platform/DragSession.h"
@@ -25,6 +26,7 @@ struct WorkspaceServices {
   FileViewer& viewer;
   Thumbnails& thumbnails;
   Posters& posters;
+  AssetSpecs& specs;
   BackgroundWork& work;
   ImportServices imports;
   DropReader& drops;

@@ -48,6 +48,7 @@ struct TestDesktop {
   ThumbnailLoader loader{images, work};
   Thumbnails thumbnails{loader};
   Posters posters{videos, work};
+  AssetSpecs specs{library.disk.files, images, videos, work};
   MimeDrops drops{workers};
 
   // Of the library as it was started last.
@@ -59,6 +60,7 @@ struct TestDesktop {
             .viewer = library.viewer,
             .thumbnails = thumbnails,
             .posters = posters,
+            .specs = specs,
             .work = work,
             .imports = {types, fonts, workers, {}},
             .drops = drops,

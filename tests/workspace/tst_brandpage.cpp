@@ -457,6 +457,43 @@ class TestBrandPage : public QObject {
         "Couldn't load “a” — the file may be corrupt. Re-import it.");
   }
 
+  // The grid sets out tiles that it doesn't make: what it is told must be what they ask for.
+  void tilesAreAsHighAsTold() {
+    const LogoVariant variant{QUuid::createUuid(), {"a.svg", "a.svg"}, {}, {}};
+    const auto logo = [&](int count) {
+      return Item::create(LogoPayload{{"Logo", QList<LogoVariant>(count, variant)}});
+    };
+    const GradientStop stop{QUuid::createUuid(), "#000000", 0.5};
+    const AssetRef font{"a.otf", "a.otf"};
+    const QString line = "let some = long + enough + toBreak(inAColumn, ofAnyWidth)\n";
+    TestWorkspace test({sectionOf(
+        "A", {colorItem("named"), colorItem("", "teal"),
+              Item::create(ColorPayload{{"#F00", {}, "PMS 1"}}),
+              Item::create(GradientPayload{{{stop, stop, stop}, 45, {}}}), imageItem("image"),
+              videoItem("video"), Item::create(FontPayload{{"Inter", {}, {}, {}, {}}}),
+              Item::create(FontPayload{{"Inter", {}, {}, font, {}}}), logo(0), logo(1), logo(7),
+              Item::create(CodePayload{{"swift", line.repeated(9), "code"}})})});
+    const Section section = test.stored(0);
+    TestPage page(test);
+    for (const auto mode : allCases<AssetDisplayMode>()) {
+      test.library.store->preferences().setAssetDisplayMode(mode);
+      const BrandWorkspace& workspace = *test.workspace;
+      const FlowMetrics metrics{workspace.gridMinWidth(), workspace.gridMaxWidth(),
+                                workspace.tileHeight(), mode == AssetDisplayMode::expanded};
+      page.settle();
+      QCOMPARE(page.tiles().size(), section.items.size());
+      for (const QQuickItem* tile : page.tiles()) {
+        const Item& item = TestPage::tileOf(const_cast<QQuickItem*>(tile))->item();
+        const double told = TileHeights::of(item, metrics, tile->width());
+        const double off = std::abs(tile->implicitHeight() - told);
+        const bool isEstimate = TileHeights::isEstimate(item, metrics);
+        QVERIFY2(off <= (isEstimate ? told / 10 : 0.5), qPrintable(item.displayName()));
+        QVERIFY2(tile->height() >= std::floor(tile->implicitHeight()),
+                 qPrintable(item.displayName()));
+      }
+    }
+  }
+
   // By what is drawn: the symbol's ink against all that is drawn beside it.
   void aBrokenPicturesWordIsReadableOnEveryBackdrop() {
     QList<std::optional<ImageBackground>> backdrops{std::nullopt};

@@ -52,6 +52,7 @@ WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
           .viewer = viewer,
           .thumbnails = media.thumbnails,
           .posters = media.posters,
+          .specs = media.specs,
           .work = media.work,
           .imports = {.types = types,
                       .fonts = fonts,

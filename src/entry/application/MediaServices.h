@@ -4,6 +4,7 @@
 #include "assets/PackageMedia.h"
 #include "assets/ThumbnailLoader.h"
 #include "entry/late/LateServices.h"
+#include "pictures/AssetSpecs.h"
 #include "pictures/Posters.h"
 #include "pictures/Thumbnails.h"
 
@@ -13,7 +14,7 @@ namespace tarnloft {
 // the first file is asked for.
 struct MediaServices {
   explicit MediaServices(const FileStore& files)
-      : images(files, lateImages), videos(files, lateVideos) {}
+      : images(files, lateImages), videos(files, lateVideos), specs(files, images, videos, work) {}
 
   LateImages lateImages;
   LateVideos lateVideos;
@@ -23,6 +24,7 @@ struct MediaServices {
   ThumbnailLoader loader{images, work};
   Thumbnails thumbnails{loader};
   Posters posters{videos, work};
+  AssetSpecs specs;
 };
 
 }  // namespace tarnloft

@@ -1,22 +1,12 @@
 #include "workspace/flow/FlowLayout.h"
 
-#include "workspace/tiles/TileFacts.h"
-
 #include <algorithm>
 #include <cmath>
 
 namespace tarnloft {
-namespace {
-
-double heightOf(const Item& item, const FlowMetrics& metrics) {
-  const double named = metrics.tileHeight + FlowMetrics::captionGap + FlowMetrics::nameHeight;
-  return TileFacts::hasSubcaption(item) ? named + FlowMetrics::subcaptionHeight : named;
-}
-
-}  // namespace
 
 void FlowLayout::setOut(const SharedList<Item>& items, double width, const FlowMetrics& metrics,
-                        const std::function<double(int index)>& blockHeight) {
+                        const std::function<double(int index)>& measured) {
   constexpr int gap = FlowMetrics::gap;
   rows_.clear();
   count_ = int(items.size());
@@ -30,7 +20,7 @@ void FlowLayout::setOut(const SharedList<Item>& items, double width, const FlowM
   auto item = items.begin();
   for (const Segment& segment : segmentsOf(items)) {
     if (segment.kind == Segment::Kind::block) {
-      addRow(blockHeight(segment.first), segment.first, 1, true);
+      addRow(measured(segment.first), segment.first, 1, true);
       ++item;
       continue;
     }
@@ -38,7 +28,11 @@ void FlowLayout::setOut(const SharedList<Item>& items, double width, const FlowM
     for (int first = segment.first; first < end; first += columns_) {
       const int count = std::min(columns_, end - first);
       double height = 0;
-      for (int i = 0; i < count; ++i) height = std::max(height, heightOf(*item++, metrics));
+      for (int i = 0; i < count; ++i, ++item) {
+        height = std::max(height, TileHeights::isEstimate(*item, metrics)
+                                      ? measured(first + i)
+                                      : TileHeights::of(*item, metrics, columnWidth_));
+      }
       addRow(height, first, count, false);
     }
   }

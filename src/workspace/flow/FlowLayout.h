@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workspace/flow/Segments.h"
+#include "workspace/flow/TileHeights.h"
 
 #include <QRectF>
 
@@ -8,30 +9,17 @@
 
 namespace tarnloft {
 
-// Sizes of a section's content, in points.
-struct FlowMetrics {
-  double minWidth = 132;  // of a tile
-  double maxWidth = 180;
-  double tileHeight = 96;  // of a tile's card
-
-  static constexpr int gap = 14;         // between tiles, rows and segments
-  static constexpr int captionGap = 6;   // between a card and its name
-  static constexpr int nameHeight = 16;  // of a tile's name
-  static constexpr int subcaptionHeight = 14;
-
-  bool operator==(const FlowMetrics&) const = default;
-};
-
 // Where each item of a section stands: blocks in rows of their own, tiles in columns that fill the
 // width, all tiles of a row as high as its highest. Everything stands on whole points. Setting out
 // costs O(items); each question O(log rows).
 class FlowLayout {
  public:
-  // `blockHeight(index)` is asked for blocks alone.
+  // `measured(index)` is asked for blocks, and for tiles whose told height is an estimate.
   void setOut(const SharedList<Item>& items, double width, const FlowMetrics& metrics,
-              const std::function<double(int index)>& blockHeight);
+              const std::function<double(int index)>& measured);
 
   int count() const { return count_; }
+  double columnWidth() const { return columnWidth_; }
   double height() const { return rows_.empty() ? 0 : rows_.back().bottom(); }
   QRectF rect(int index) const;
   bool isBlock(int index) const { return rows_[rowOf(index)].isBlock; }

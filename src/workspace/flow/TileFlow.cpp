@@ -81,7 +81,7 @@ void TileFlow::setSection(SectionModel* section) {
 void TileFlow::watch(const ItemListModel& items) {
   connect(&items, &ItemListModel::updated, this, &TileFlow::itemsChanged);
   connect(&items, &ItemListModel::dataChanged, this, &TileFlow::showChanged);
-  connect(section_->workspace(), &BrandWorkspace::metricsChanged, this, &TileFlow::layoutChanged);
+  connect(section_->workspace(), &BrandWorkspace::metricsChanged, this, &TileFlow::sizesChanged);
 }
 
 void TileFlow::setViewTop(qreal top) {
@@ -109,7 +109,7 @@ void TileFlow::componentComplete() {
 
 void TileFlow::geometryChange(const QRectF& now, const QRectF& before) {
   QQuickItem::geometryChange(now, before);
-  if (now.width() != before.width()) layoutChanged();
+  if (now.width() != before.width()) sizesChanged();
 }
 
 // The height follows at once, so that the page isn't lower for a moment and scrolls.
@@ -133,30 +133,43 @@ void TileFlow::layoutChanged() {
   polish();
 }
 
+void TileFlow::sizesChanged() {
+  measured_.clear();
+  layoutChanged();
+}
+
 void TileFlow::setOut() {
   if (!section_ || !isComponentComplete()) return;
   isLayoutStale_ = false;
   populated_ = {};
   const BrandWorkspace& workspace = *section_->workspace();
-  layout_.setOut(section_->items()->items(), width(),
-                 {workspace.gridMinWidth(), workspace.gridMaxWidth(), workspace.tileHeight()},
-                 [this](int index) { return blockHeight(index); });
+  metrics_ = {workspace.gridMinWidth(), workspace.gridMaxWidth(), workspace.tileHeight(),
+              workspace.isExpanded()};
+  layout_.setOut(section_->items()->items(), width(), metrics_,
+                 [this](int index) { return measuredHeight(index); });
   setImplicitHeight(layout_.height());
 }
 
-double TileFlow::blockHeight(int index) const {
+bool TileFlow::isMeasured(const Item& item) const {
+  return TileFacts::isBlock(item) || TileHeights::isEstimate(item, metrics_);
+}
+
+double TileFlow::measuredHeight(int index) const {
   const Item& item = section_->items()->items().at(index);
-  const auto measured = blockHeights_.constFind(item.id);
-  return measured == blockHeights_.constEnd() ? estimatedHeight(item, width()) : *measured;
+  const auto measured = measured_.constFind(item.id);
+  if (measured != measured_.constEnd()) return *measured;
+  return TileFacts::isBlock(item) ? estimatedHeight(item, width())
+                                  : TileHeights::of(item, metrics_, layout_.columnWidth());
 }
 
 void TileFlow::updatePolish() {
   if (!section_ || !tile_ || !block_) return;
-  constexpr int mostRounds = 4;  // a block's height may bring others into sight
-  for (int round = 0; round < mostRounds; ++round) {
-    if (isLayoutStale_) setOut();
+  if (isLayoutStale_) setOut();
+  populate();
+  constexpr int mostRounds = 4;  // a measured height may bring others into sight
+  for (int round = 0; round < mostRounds && measureViews(); ++round) {
+    keepPlace([this] { setOut(); });
     populate();
-    if (!measureBlocks()) break;
   }
   placeViews();
   isMoving_ = false;
@@ -235,23 +248,27 @@ int TileFlow::currentIndex() {
   return first;
 }
 
-// True if a block isn't as high as it was laid out.
-bool TileFlow::measureBlocks() {
-  double above = 0;
+// True if a view isn't as high as it was laid out.
+bool TileFlow::measureViews() {
   bool isOff = false;
   live_.forEach([&](LiveTile& live) {
-    if (live.index < 0 || !TileFacts::isBlock(live.tile->item())) return;
-    const QRectF rect = layout_.rect(live.index);
-    live.view->setWidth(rect.width());
+    if (live.index < 0 || !isMeasured(live.tile->item())) return;
+    live.view->setWidth(layout_.rect(live.index).width());
     const double height = std::ceil(live.view->implicitHeight());
-    blockHeights_[live.tile->item().id] = height;
-    if (height == rect.height()) return;
-    isOff = true;
-    if (rect.bottom() < viewTop_) above += height - rect.height();
+    isOff = isOff || height != measuredHeight(live.index);
+    measured_[live.tile->item().id] = height;
   });
-  if (isOff) isLayoutStale_ = true;
-  if (above != 0) emit shifted(above);
   return isOff;
+}
+
+// What is at the top of the strip stays there.
+void TileFlow::keepPlace(const std::function<void()>& change) {
+  const int first = layout_.range(viewTop_, viewTop_ + viewHeight_).first;
+  const bool isAbove = viewTop_ > 0 && first < layout_.count();
+  const double before = isAbove ? layout_.rect(first).top() : 0;
+  change();
+  const double shift = isAbove ? layout_.rect(first).top() - before : 0;
+  if (shift != 0) emit shifted(shift);
 }
 
 void TileFlow::placeViews() {

@@ -68,11 +68,14 @@ class TileFlow : public QQuickItem {
   void itemsChanged(bool areOthers);
   void showChanged(const QModelIndex& first, const QModelIndex& last);
   void layoutChanged();
+  void sizesChanged();
   void setOut();
-  double blockHeight(int index) const;
+  double measuredHeight(int index) const;
   FlowLayout::Range wantedRange();
   void populate();
-  bool measureBlocks();
+  bool isMeasured(const Item& item) const;
+  bool measureViews();
+  void keepPlace(const std::function<void()>& change);
   void placeViews();
   void put(LiveTile& live, const QRectF& rect);
   void advance(double seconds);
@@ -99,8 +102,9 @@ class TileFlow : public QQuickItem {
   FlowLayout layout_;
   FlowLayout::Range populated_;
   double margin_ = 0;  // beyond the strip that is seen, in which views exist as well
-  QHash<QUuid, double> blockHeights_;  // as measured
-  QUuid current_;                      // the one tile that the Tab key stops at
+  FlowMetrics metrics_;
+  QHash<QUuid, double> measured_;  // heights of views that are measured, at this width
+  QUuid current_;                  // the one tile that the Tab key stops at
   LiveTiles live_;
   std::unique_ptr<Clock> clock_;
 };

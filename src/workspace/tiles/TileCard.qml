@@ -12,11 +12,15 @@ Card {
     required property Tile tile
     property bool resting: false // it shows nothing of the pointer
 
+    property bool expanded: false // it tells all of its item
+
     property real captionHeight: 0 // of what stands beneath it and belongs to it
     property bool helped: false
 
     readonly property bool hovering: hover.hovered && !resting
     readonly property bool failed: (content.item as ImageTileContent)?.failed ?? false
+    // What its content asks for.
+    readonly property real naturalHeight: Math.max(tile.workspace.tileHeight, expanded ? content.item?.implicitHeight ?? 0 : 0)
     readonly property string help: failed ? tile.picture.failureHelp : tile.help
     readonly property color backdrop: {
         switch (tile.picture?.backdrop) {
@@ -54,7 +58,7 @@ Card {
         sourceComponent: {
             switch (root.tile.kind) {
             case TileKind.Color:
-                return color;
+                return root.expanded ? wholeColor : color;
             case TileKind.Gradient:
                 return gradient;
             case TileKind.Video:
@@ -69,12 +73,13 @@ Card {
         }
     }
 
+    Component { id: wholeColor; ExpandedColorContent { swatch: root.tile.swatch; swatchHeight: root.tile.workspace.tileHeight; hovering: root.hovering } }
     Component { id: color; ColorTileContent { swatch: root.tile.swatch; hovering: root.hovering } }
     Component { id: gradient; GradientTileContent { facet: root.tile.gradient } }
     Component { id: image; ImageTileContent { facet: root.tile.picture; thumbnails: root.tile.workspace.thumbnails } }
     Component { id: video; VideoTileContent { clip: root.tile.clip; posters: root.tile.workspace.posters } }
     Component { id: font; FontTileContent { face: root.tile.font } }
-    Component { id: code; CodeTileContent { code: root.tile.code } }
+    Component { id: code; CodeTileContent { code: root.tile.code; whole: root.expanded } }
 
     HoverHandler {
         id: hover

@@ -10,10 +10,14 @@ Item {
 
     required property Tile tile
 
+    readonly property bool expanded: tile.workspace.expanded
+    // An expanded colour's card tells its name as well.
+    readonly property real captionHeight: expanded && tile.kind === TileKind.Color ? 0 : tile.subcaption === "" ? 22 : 36
     readonly property bool focused: activeFocus && FocusOrigin.keyboard
     readonly property bool dragged: drag.carries || tile.dragged
     readonly property bool hovering: (hover.hovered || tile.menuOpen) && !dragged
 
+    implicitHeight: card.height + captionHeight + (detail.height > 0 ? 8 + detail.height : 0)
     opacity: tile.dragged ? 0.45 : 1
 
     Accessible.role: Accessible.ListItem
@@ -44,10 +48,11 @@ Item {
         id: card
 
         width: parent.width
-        height: root.tile.workspace.tileHeight
+        height: naturalHeight
         tile: root.tile
+        expanded: root.expanded
         resting: root.dragged
-        captionHeight: root.height - height
+        captionHeight: root.captionHeight
 
         FocusRing {
             shown: root.focused
@@ -60,6 +65,7 @@ Item {
         y: card.height + 6
         width: parent.width
         height: 16
+        visible: root.captionHeight > 0
         text: root.tile.name
         horizontalAlignment: Text.AlignLeft // of right-to-left names too, under the card's edge
         font: Theme.font(12, Font.Medium)
@@ -70,12 +76,23 @@ Item {
         y: card.height + 22
         width: parent.width
         height: 14
-        visible: text !== ""
+        visible: root.captionHeight > 22
         text: root.tile.subcaption
         horizontalAlignment: Text.AlignLeft
         font: Theme.subheadline
         color: Theme.secondaryLabel
         Accessible.ignored: true
+    }
+
+    LazyItem {
+        id: detail
+
+        y: card.height + root.captionHeight + 8
+        width: parent.width
+        active: root.expanded
+        sourceComponent: SpecBlock {
+            tile: root.tile
+        }
     }
 
     // In the middle of the gap, on whole points.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "workspace/flow/TileHeights.h"
 #include "workspace/tiles/facets/TileFacet.h"
 
 namespace tarnloft {
@@ -10,6 +11,8 @@ class CodeFacet : public TileFacet {
   QML_UNCREATABLE("Belongs to a tile")
   // No more of it than a card can show, as laying out a whole file would hold up the window.
   Q_PROPERTY(QString beginning READ beginning NOTIFY changed)
+  // The same of an expanded card.
+  Q_PROPERTY(QString whole READ whole NOTIFY changed)
 
  public:
   using TileFacet::TileFacet;
@@ -18,6 +21,7 @@ class CodeFacet : public TileFacet {
     constexpr qsizetype mostShown = 1500;
     return payload<CodePayload>().value.snippet.left(mostShown);
   }
+  QString whole() const { return payload<CodePayload>().value.snippet.left(TileHeights::mostCode); }
 };
 
 }  // namespace tarnloft

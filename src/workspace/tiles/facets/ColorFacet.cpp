@@ -16,6 +16,28 @@ QString ColorFacet::ink() const {
   return {};
 }
 
+QString ColorFacet::title() const {
+  const ColorValue& value = payload<ColorPayload>().value;
+  return value.name && !value.name->isEmpty() ? *value.name : value.hex;
+}
+
+QStringList ColorFacet::lines() const {
+  const ColorValue& value = payload<ColorPayload>().value;
+  QStringList lines;
+  if (value.name && !value.name->isEmpty()) lines << value.hex.toUpper();
+  for (const FormatVariant& variant : ColorUtil::formatVariants(value.hex)) {
+    if (variant.label == QLatin1String("RGB") || variant.label == QLatin1String("CMYK"))
+      lines << variant.value;
+  }
+  return lines;
+}
+
+QString ColorFacet::spot() const { return payload<ColorPayload>().value.spot.value_or(QString()); }
+
+QString ColorFacet::badge() const {
+  return ColorUtil::wcagBadge(payload<ColorPayload>().value.hex).value_or(QString());
+}
+
 void ColorFacet::clicked() { workspace().commands().copyColor(payload<ColorPayload>().value.hex); }
 
 }  // namespace tarnloft
