@@ -18,17 +18,16 @@ void Posters::Request::cancel() {
 }
 
 Posters::Request Posters::poster(const QString& path, Done done) {
-  constexpr double seconds = 0.1;
-  constexpr int maxPixel = 512;
   Request request;
   request.done_ = std::make_shared<Done>(std::move(done));
   const auto frame = std::make_shared<std::optional<QImage>>();
-  request.task_ = work_.start(
-      [&videos = videos_, path, frame] { *frame = videos.frame(path, seconds, maxPixel); },
-      [frame, waiting = request.done_] {
-        // Taken out first: what it does may end the request.
-        if (const Done taken = std::exchange(*waiting, nullptr)) taken(*frame);
-      });
+  request.task_ = work_.start([&videos = videos_, path,
+                               frame] { *frame = videos.frame(path, posterSeconds, posterPixels); },
+                              [frame, waiting = request.done_] {
+                                // Taken out first: what it does may end the request.
+                                if (const Done taken = std::exchange(*waiting, nullptr))
+                                  taken(*frame);
+                              });
   return request;
 }
 

@@ -8,6 +8,10 @@
 
 namespace tarnloft {
 
+// The moment and the size of the picture that stands for a clip.
+inline constexpr double posterSeconds = 0.1;
+inline constexpr int posterPixels = 512;
+
 struct VideoProperties {
   std::optional<double> duration;  // seconds
   std::optional<QSize> size;       // of the first video track, as stored; none without a track

@@ -70,6 +70,7 @@ bool DesktopServices::finish(std::chrono::milliseconds patience) {
   const auto remaining = [&] { return int(deadline.remainingTime()); };
   workers.clear();
   return media.work.finish(std::chrono::milliseconds(remaining())) &&
+         media.sharedThumbnails.finish(std::chrono::milliseconds(remaining())) &&
          workers.waitForDone(remaining()) && disk.finish(std::chrono::milliseconds(remaining())) &&
          copies.finish({}) && QThreadPool::globalInstance()->waitForDone(remaining());
 }

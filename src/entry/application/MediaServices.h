@@ -1,12 +1,14 @@
 #pragma once
 
 #include "assets/BackgroundWork.h"
+#include "assets/KeptMedia.h"
 #include "assets/PackageMedia.h"
 #include "assets/ThumbnailLoader.h"
 #include "entry/late/LateServices.h"
 #include "pictures/AssetSpecs.h"
 #include "pictures/Posters.h"
 #include "pictures/Thumbnails.h"
+#include "platform/desktop/thumbnails/SharedThumbnails.h"
 
 namespace tarnloft {
 
@@ -14,10 +16,13 @@ namespace tarnloft {
 // the first file is asked for.
 struct MediaServices {
   explicit MediaServices(const FileStore& files)
-      : images(files, lateImages), videos(files, lateVideos), specs(files, images, videos, work) {}
+      : images(files, keptImages), videos(files, keptVideos), specs(files, images, videos, work) {}
 
   LateImages lateImages;
   LateVideos lateVideos;
+  SharedThumbnails sharedThumbnails;
+  KeptImages keptImages{lateImages, sharedThumbnails};
+  KeptVideos keptVideos{lateVideos, sharedThumbnails};
   PackageImages images;
   PackageVideos videos;
   BackgroundWork work;
