@@ -3,13 +3,22 @@
 #include "Process.h"
 #include "Ratio.h"
 #include "assets/BackgroundWork.h"
+#include "assets/ExportEstimate.h"
 #include "assets/ImageExporter.h"
+#include "assets/KeptMedia.h"
+#include "assets/ThumbnailLoader.h"
 #include "platform/desktop/images/VipsImages.h"
+#include "platform/desktop/thumbnails/SharedThumbnails.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QThread>
+
+#include <algorithm>
 
 using namespace tarnloft;
 
@@ -147,6 +156,81 @@ void benchExport(const QByteArray& program) {
              medianSeconds(own) / medianSeconds(reference), Aim::atMost, 1.15);
 }
 
+// Seconds until the pictures of that many tiles are there, of a program that has just started.
+double showing(const QStringList& paths, const QString& cache) {
+  VipsImages images(QStringLiteral(VECTOR_PROGRAM));
+  SharedThumbnails store(cache);
+  KeptImages kept(images, store);
+  BackgroundWork work;
+  ThumbnailLoader loader(kept, work);
+  qsizetype missing = paths.size();
+  std::vector<ThumbnailLoader::Request> requests;
+  QElapsedTimer clock;
+  clock.start();
+  constexpr int tilePixels = 192;
+  for (const QString& path : paths) {
+    requests.push_back(loader.thumbnail(path, tilePixels, [&](const auto& image) {
+      if (!image || --missing == 0) QCoreApplication::exit(image ? 0 : 1);
+    }));
+  }
+  if (QCoreApplication::exec() != 0) qFatal("a picture can't be read");
+  const double seconds = double(clock.nsecsElapsed()) / 1e9;
+  // What waits to be written is bounded; a user looks at the page for longer than that takes.
+  QDeadlineTimer patience(std::chrono::seconds(20));
+  const auto written = [&] { return QDir(cache + "/large").entryList({"*.png"}).size(); };
+  while (written() < paths.size() && !patience.hasExpired()) QThread::msleep(20);
+  return seconds;
+}
+
+void benchSecondOpening(const QString& cache) {
+  constexpr int seen = 40;  // of 200 photos
+  QStringList paths;
+  for (int i = 0; i < seen; ++i) {
+    paths << QDir::current().filePath(QStringLiteral("photo%1.jpg").arg(i));
+    QFile::link(QDir::current().filePath(QStringLiteral("a.jpg")), paths.last());
+  }
+  const double first = showing(paths, cache), second = showing(paths, cache);
+  std::printf("\n%d photos of 24 megapixels: %.2f s at the first opening, %.3f s at the second\n",
+              seen, first, second);
+  printRatio("pictures of a page at its second opening / at its first", second / first, Aim::atMost,
+             0.05);
+}
+
+// The size that an export will have, found while the event loop runs.
+void benchEstimate() {
+  VipsImages images(QStringLiteral(VECTOR_PROGRAM));
+  BackgroundWork work;
+  const ExportChoice choice{ExportFormat::jpeg, {5656, 4243}, 0.85};
+  std::vector<double> alone, estimated;
+  double longest = 0;
+  for (int round = 0; round < 5; ++round) {
+    QElapsedTimer clock;
+    clock.start();
+    (void)ImageExporter::exportImage(images, QStringLiteral("a.jpg"), choice.format,
+                                     choice.pixelSize, choice.quality);
+    alone.push_back(double(clock.nsecsElapsed()) / 1e6);
+    ExportEstimate estimate(images, work, QStringLiteral("a.jpg"), std::chrono::milliseconds(0));
+    clock.start();
+    estimate.setChoice(choice);
+    while (!estimate.text()) {
+      QElapsedTimer turn;
+      turn.start();
+      QCoreApplication::processEvents();
+      longest = std::max(longest, double(turn.nsecsElapsed()) / 1e6);
+      QThread::usleep(200);
+    }
+    estimated.push_back(double(clock.nsecsElapsed()) / 1e6);
+  }
+  std::sort(alone.begin(), alone.end());
+  std::sort(estimated.begin(), estimated.end());
+  std::printf(
+      "\nThe size of a 24-megapixel export: %.0f ms, the conversion alone %.0f ms; longest "
+      "turn of the event loop %.1f ms (aim: at most 16)\n",
+      estimated.at(2), alone.at(2), longest);
+  printRatio("the estimate of an export / the conversion alone", estimated.at(2) / alone.at(2),
+             Aim::atMost, 1.1);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -166,4 +250,6 @@ int main(int argc, char** argv) {
   makePictures(folder);
   benchThumbnails(program, folder);
   benchExport(program);
+  benchSecondOpening(scratch.filePath(QStringLiteral("cache")));
+  benchEstimate();
 }

@@ -80,8 +80,12 @@ T.Button {
         radius: Theme.controlRadius(root.controlSize)
     }
 
-    Help {
-        text: root.help
-        shown: (root.hovered || root.symbolOnly && root.visualFocus) && !root.down
+    LazyItem {
+        anchors.fill: parent
+        active: root.help !== ""
+        sourceComponent: Help {
+            text: root.help
+            shown: (root.hovered || root.symbolOnly && root.visualFocus) && !root.down
+        }
     }
 }

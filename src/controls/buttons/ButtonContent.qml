@@ -21,22 +21,24 @@ Item {
     implicitWidth: (symbol !== "" ? mark.implicitWidth : 0) + gap + (text !== "" ? Math.ceil(label.implicitWidth) : 0)
     implicitHeight: Math.max(mark.implicitHeight, text !== "" ? label.implicitHeight : 0)
 
-    Symbol {
+    LazyItem {
         id: mark
 
         x: root.leading ? 0 : Math.max(0, Math.round((root.width - root.implicitWidth) / 2))
         anchors.verticalCenter: parent.verticalCenter
-        visible: root.symbol !== ""
-        name: root.symbol
-        size: root.symbolSize
-        weight: root.font.weight
-        color: root.symbolColor
+        active: root.symbol !== ""
+        sourceComponent: Symbol {
+            name: root.symbol
+            size: root.symbolSize
+            weight: root.font.weight
+            color: root.symbolColor
+        }
     }
 
     Label {
         id: label
 
-        x: mark.x + (mark.visible ? mark.width + root.gap : 0)
+        x: mark.x + (mark.active ? mark.implicitWidth + root.gap : 0)
         width: Math.min(implicitWidth, root.width - x)
         anchors.verticalCenter: parent.verticalCenter
         visible: root.text !== ""

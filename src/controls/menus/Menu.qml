@@ -13,15 +13,20 @@ T.Menu {
     id: root
 
     property real least: 150 // its least width
+    property bool filling: false // entries are being added, which is told once at the end
     readonly property real natural: {
+        if (filling)
+            return 0;
         let most = 0;
         for (let i = 0; i < count; ++i)
-            most = Math.max(most, itemAt(i).implicitWidth);
+            most = Math.max(most, itemAt(i)?.implicitWidth ?? 0);
         return Math.ceil(Math.min(most, 420));
     }
     readonly property real widest: Math.max(least, natural)
     // Room for check marks, wanted as soon as one entry can have one.
     readonly property bool marked: {
+        if (filling)
+            return false;
         for (let i = 0; i < count; ++i) {
             const entry = itemAt(i) as MenuItem;
             if (entry && entry.checkable)

@@ -54,23 +54,27 @@ T.MenuItem {
         spacing: root.spacing
     }
 
-    indicator: Symbol {
+    indicator: LazyItem {
         x: 8
         anchors.verticalCenter: parent.verticalCenter
-        visible: root.checked
-        name: "checkmark"
-        size: 11
-        weight: Font.DemiBold
-        color: root.ink
+        active: root.checked
+        sourceComponent: Symbol {
+            name: "checkmark"
+            size: 11
+            weight: Font.DemiBold
+            color: root.ink
+        }
     }
 
-    arrow: Symbol {
-        x: root.width - width - 6
+    arrow: LazyItem {
+        x: root.width - implicitWidth - 6
         anchors.verticalCenter: parent.verticalCenter
-        visible: root.subMenu !== null
-        name: "chevron.right"
-        size: 11
-        color: root.chosen ? root.ink : Theme.secondaryLabel
+        active: root.subMenu !== null
+        sourceComponent: Symbol {
+            name: "chevron.right"
+            size: 11
+            color: root.chosen ? root.ink : Theme.secondaryLabel
+        }
     }
 
     background: RoundedRectangle {

@@ -28,14 +28,17 @@ Item {
         color: root.color
     }
 
-    Label {
+    LazyItem {
         id: tail
 
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        text: root.keys
-        font: Theme.callout
-        color: root.keysColor
-        Accessible.ignored: true
+        active: root.keys !== ""
+        sourceComponent: Label {
+            text: root.keys
+            font: Theme.callout
+            color: root.keysColor
+            Accessible.ignored: true
+        }
     }
 }

@@ -19,14 +19,32 @@ MenuOpener {
 
     signal activated(index: int)
 
+    // Of its menu's entries, with their marks.
+    readonly property real widest: {
+        let most = 0;
+        for (let i = 0; i < Math.max(texts.length, options.length); ++i) {
+            const symbol = options[i]?.symbol ? 22 : 0;
+            most = Math.max(most, metrics.advanceWidth(options[i]?.text ?? texts[i] ?? "") + symbol);
+        }
+        return Math.ceil(most) + 38;
+    }
+
+    FontMetrics {
+        id: metrics
+
+        font: Theme.body
+    }
+
     function openMenu() {
+        if (!menu)
+            menu = making.createObject(root) as Menu;
         if (!open)
             menu.popup(root, -24, (height - 25) / 2 - menu.topPadding - 25 * Math.max(0, currentIndex), menu.itemAt(currentIndex) as T.MenuItem);
     }
 
     role: Accessible.ComboBox
-    open: menu.opened
-    implicitWidth: Math.min(menu.natural, 240) + 14
+    open: menu?.opened ?? false
+    implicitWidth: Math.min(widest, 240) + 14
     implicitHeight: Theme.controlHeight(controlSize)
     onMenuRequested: openMenu()
     Keys.onUpPressed: openMenu()
@@ -71,28 +89,33 @@ MenuOpener {
         }
     }
 
-    Help {
-        text: root.help
-        shown: face.hovered && !face.down
+    LazyItem {
+        anchors.fill: parent
+        active: root.help !== ""
+        sourceComponent: Help {
+            text: root.help
+            shown: face.hovered && !face.down
+        }
     }
 
-    Menu {
-        id: menu
+    property Menu menu: null // made at its first opening
+    readonly property Component making: Component {
+        Menu {
+            title: root.accessibleName
+            least: root.width + 14
 
-        title: root.accessibleName
-        least: root.width + 14
+            Repeater {
+                model: root.texts.length > 0 ? root.texts.length : root.options.length
+                delegate: MenuItem {
+                    required property int index
+                    readonly property PickerOption option: root.options[index] ?? null // it may go first
 
-        Repeater {
-            model: root.texts.length > 0 ? root.texts.length : root.options.length
-            delegate: MenuItem {
-                required property int index
-                readonly property PickerOption option: root.options[index] ?? null // it may go first
-
-                text: option?.text ?? root.texts[index] ?? ""
-                symbol: option?.symbol ?? ""
-                checkable: true
-                checked: index === root.currentIndex
-                onTriggered: if (index !== root.currentIndex) root.activated(index)
+                    text: option?.text ?? root.texts[index] ?? ""
+                    symbol: option?.symbol ?? ""
+                    checkable: true
+                    checked: index === root.currentIndex
+                    onTriggered: if (index !== root.currentIndex) root.activated(index)
+                }
             }
         }
     }

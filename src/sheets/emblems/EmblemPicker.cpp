@@ -28,6 +28,8 @@ EmblemPicker::EmblemPicker(const EmblemSubject& subject, const Words& words,
       symbols_(symbolsMatching({})) {
   connect(subject.document(), &BrandDocument::brandChanged, this, &EmblemPicker::follow);
   connect(subject.document(), &QObject::destroyed, this, &SheetModel::finished);
+  connect(this, &EmblemPicker::changed, this, &EmblemPicker::placeChanged);
+  connect(this, &EmblemPicker::queryChanged, this, &EmblemPicker::placeChanged);
   symbol_ = symbols_.first();
   takeDraft();
 }

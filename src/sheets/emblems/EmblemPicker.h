@@ -36,6 +36,7 @@ class EmblemPicker : public tarnloft::SheetModel {
   // What is typed to find a symbol, and the names found.
   Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY queryChanged)
   Q_PROPERTY(QStringList symbols READ symbols NOTIFY queryChanged)
+  Q_PROPERTY(int symbolPlace READ symbolPlace NOTIFY placeChanged)  // of the chosen one, or -1
 
  public:
   // In the order in which they are offered.
@@ -86,8 +87,7 @@ class EmblemPicker : public tarnloft::SheetModel {
   const QString& query() const { return query_; }
   void setQuery(const QString& query);
   const QStringList& symbols() const { return symbols_; }
-  // Where the chosen one stands among those found, or -1.
-  Q_INVOKABLE int symbolRow() const { return int(symbols_.indexOf(symbol())); }
+  int symbolPlace() const { return int(symbols_.indexOf(symbol())); }
   Q_INVOKABLE static QString spoken(const QString& symbol);
   // Emoji that are offered, and how to get at others.
   Q_INVOKABLE static QStringList presets();
@@ -98,6 +98,7 @@ class EmblemPicker : public tarnloft::SheetModel {
  signals:
   void changed();
   void queryChanged();
+  void placeChanged();
 
  private:
   void follow();

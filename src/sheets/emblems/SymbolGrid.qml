@@ -18,9 +18,24 @@ FocusScope {
         picker.symbol = picker.symbols[index];
     }
 
+    readonly property int hovered: hover.hovered ? placeAt(hover.point.position) : -1
+
+    function leftOf(place: int): real {
+        return place % grid.columns * grid.cellWidth;
+    }
+
+    function topOf(place: int): real {
+        return Math.floor(place / grid.columns) * grid.cellHeight;
+    }
+
+    // Of a point in the grid as it is seen; -1 beside all.
+    function placeAt(point: point): int {
+        return grid.indexAt(point.x + grid.contentX, point.y + grid.contentY);
+    }
+
     // The chosen one, or the first.
     function enter() {
-        grid.currentIndex = Math.max(0, picker.symbolRow());
+        grid.currentIndex = Math.max(0, picker.symbolPlace);
         grid.positionViewAtIndex(grid.currentIndex, GridView.Contain);
     }
 
@@ -57,6 +72,7 @@ FocusScope {
         cellWidth: Math.floor(width / columns)
         cellHeight: 40
         clip: true
+        cacheBuffer: 0 // a row takes a millisecond
         boundsBehavior: Flickable.StopAtBounds
         activeFocusOnTab: true
         keyNavigationEnabled: false // an arrow chooses as well
@@ -98,63 +114,80 @@ FocusScope {
             flickable: grid
         }
 
-        delegate: Item {
-            id: cell
+        // Of the chosen one, under all.
+        RoundedRectangle {
+            readonly property int place: root.picker.symbolPlace
 
+            parent: grid.contentItem
+            z: -1
+            visible: place >= 0
+            x: root.leftOf(place) + 2
+            y: root.topOf(place) + 2
+            width: grid.cellWidth - 4
+            height: grid.cellHeight - 4
+            radius: 8
+            color: Theme.accent
+        }
+
+        // Of the one under the pointer.
+        RoundedRectangle {
+            parent: grid.contentItem
+            z: -1
+            visible: root.hovered >= 0 && root.hovered !== root.picker.symbolPlace
+            x: root.leftOf(root.hovered) + 2
+            y: root.topOf(root.hovered) + 2
+            width: grid.cellWidth - 4
+            height: grid.cellHeight - 4
+            radius: 8
+            color: Theme.thin(Theme.primary, 0.08)
+
+            Help {
+                text: parent.visible ? root.picker.spoken(root.picker.symbols[root.hovered] ?? "") : ""
+                shown: parent.visible
+            }
+        }
+
+        // Of the one that the keyboard is at.
+        Item {
+            parent: grid.contentItem
+            x: root.leftOf(grid.currentIndex) + 2
+            y: root.topOf(grid.currentIndex) + 2
+            width: grid.cellWidth - 4
+            height: grid.cellHeight - 4
+
+            FocusRing {
+                shown: grid.activeFocus && FocusOrigin.keyboard && grid.count > 0
+                base: 8
+            }
+        }
+
+        HoverHandler {
+            id: hover
+        }
+
+        TapHandler {
+            onTapped: eventPoint => {
+                grid.forceActiveFocus(Qt.MouseFocusReason);
+                root.choose(root.placeAt(eventPoint.position));
+            }
+        }
+
+        // Many are made at once: a cell is no more than its symbol.
+        delegate: Symbol {
             required property string modelData
             required property int index
-            readonly property bool chosen: modelData === root.picker.symbol
 
             width: grid.cellWidth
             height: grid.cellHeight
+            name: modelData
+            size: 17
+            color: modelData === root.picker.symbol ? Theme.onAccent : Theme.label
+            Accessible.ignored: false
             Accessible.role: Accessible.RadioButton
             Accessible.name: root.picker.spoken(modelData)
             Accessible.checkable: true
-            Accessible.checked: chosen
+            Accessible.checked: modelData === root.picker.symbol
             Accessible.onPressAction: root.choose(index)
-
-            LazyItem {
-                anchors.fill: parent
-                anchors.margins: 2
-                active: cell.chosen || hover.hovered || cell.GridView.isCurrentItem && grid.activeFocus
-                sourceComponent: RoundedRectangle {
-                    radius: 8
-                    color: cell.chosen ? Theme.accent : Theme.thin(Theme.primary, hover.hovered ? 0.08 : 0)
-
-                    FocusRing {
-                        shown: cell.GridView.isCurrentItem && grid.activeFocus && FocusOrigin.keyboard
-                        base: 8
-                        gap: -2
-                    }
-                }
-            }
-
-            Symbol {
-                anchors.centerIn: parent
-                name: cell.modelData
-                size: 17
-                color: cell.chosen ? Theme.onAccent : Theme.label
-            }
-
-            HoverHandler {
-                id: hover
-            }
-
-            TapHandler {
-                onTapped: {
-                    grid.forceActiveFocus(Qt.MouseFocusReason);
-                    root.choose(cell.index);
-                }
-            }
-
-            LazyItem {
-                anchors.fill: parent
-                active: hover.hovered
-                sourceComponent: Help {
-                    text: root.picker.spoken(cell.modelData)
-                    shown: hover.hovered
-                }
-            }
         }
     }
 

@@ -20,6 +20,14 @@ FocusScope {
 
     signal shifted(by: real)
 
+    property TileMenu menu: null // made at its first opening
+
+    function openMenu(tile: Tile, view: Item, at: point) {
+        if (!menu)
+            menu = tileMenu.createObject(root) as TileMenu;
+        menu.show(tile, view, at);
+    }
+
     implicitHeight: content.y + content.height
     visible: section.shown
 
@@ -97,7 +105,7 @@ FocusScope {
             tile: TileContainer {}
             block: BlockItemView {}
             onShifted: by => root.shifted(by)
-            onMenuRequested: (tile, view, at) => (tileMenu.createObject(view, {tile: tile}) as TileMenu).popup(view, at.x, at.y)
+            onMenuRequested: (tile, view, at) => root.openMenu(tile, view, at)
 
             Accessible.role: Accessible.List
             Accessible.name: root.Accessible.name

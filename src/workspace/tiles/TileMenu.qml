@@ -4,53 +4,84 @@ import QtQuick
 import TarnLoft.Controls
 import TarnLoft.Workspace
 
-// What can be done with a tile. Made at each opening.
+// What can be done with a tile: `show` opens it for one. What it is made of serves the next tile
+// again.
 Menu {
     id: root
 
-    required property Tile tile
+    property Tile tile: null
 
-    function fill(menu: Menu, entries: var) {
-        for (const entry of entries) {
-            if (entry.entries.length > 0) {
-                const inner = subMenu.createObject(menu, {title: entry.text}) as Menu;
-                fill(inner, entry.entries);
-                menu.addMenu(inner);
-            } else if (entry.text === "") {
-                menu.addItem(divider.createObject(menu.contentItem) as MenuSeparator);
-            } else if (entry.telling) {
-                menu.addItem(line.createObject(menu.contentItem, {text: entry.text, prominent: entry.prominent}) as MenuTitle);
-            } else {
-                menu.addItem(command.createObject(menu.contentItem, {entry: entry}) as MenuItem);
-            }
-        }
+    function show(tile: Tile, view: Item, at: point) {
+        root.tile = tile;
+        fill(root, tile.menuEntries());
+        popup(view, at.x, at.y);
     }
 
-    title: root.tile.name || root.tile.description
+    function fill(menu: Menu, entries: var) {
+        menu.filling = true;
+        for (let place = 0; place < entries.length; ++place)
+            put(menu, place, entries[place]);
+        while (menu.count > entries.length)
+            drop(menu, menu.count - 1);
+        menu.filling = false;
+    }
+
+    function put(menu: Menu, place: int, entry: var) {
+        if (entry.entries.length > 0) {
+            const inner = menu.menuAt(place) as Menu ?? subMenu.createObject(menu) as Menu;
+            inner.title = entry.text;
+            fill(inner, entry.entries);
+            if (menu.menuAt(place) !== inner) {
+                dropAt(menu, place);
+                menu.insertMenu(place, inner);
+            }
+            return;
+        }
+        const wanted = entry.text === "" ? divider : entry.telling ? line : command;
+        const there = menu.itemAt(place) as TileMenuItem;
+        if (wanted === command && there) {
+            there.entry = entry;
+            return;
+        }
+        if (wanted === divider && menu.itemAt(place) as MenuSeparator)
+            return;
+        dropAt(menu, place);
+        menu.insertItem(place, wanted.createObject(menu.contentItem, {entry: entry}) as Item);
+    }
+
+    function dropAt(menu: Menu, place: int) {
+        if (place < menu.count)
+            drop(menu, place);
+    }
+
+    function drop(menu: Menu, place: int) {
+        if (menu.menuAt(place))
+            menu.takeMenu(place).destroy();
+        else
+            menu.takeItem(place).destroy();
+    }
+
+    title: tile ? tile.name || tile.description : ""
     onAboutToShow: tile.menuOpen = true
-    onAboutToHide: tile.menuOpen = false
-    onClosed: destroy(1000) // behind what its entry does then
-    Component.onCompleted: fill(root, tile.menuEntries())
+    onAboutToHide: if (tile) tile.menuOpen = false
 
     readonly property Component command: Component {
-        MenuItem {
-            required property var entry
-
-            text: entry.text
-            enabled: entry.enabled
-            destructive: entry.destructive
-            checkable: entry.checkable
-            checked: entry.checked
-            onAfterClosing: entry.trigger()
-        }
+        TileMenuItem {}
     }
 
     readonly property Component divider: Component {
-        MenuSeparator {}
+        MenuSeparator {
+            property var entry
+        }
     }
 
     readonly property Component line: Component {
-        MenuTitle {}
+        MenuTitle {
+            required property var entry
+
+            text: entry.text
+            prominent: entry.prominent
+        }
     }
 
     readonly property Component subMenu: Component {

@@ -1,0 +1,232 @@
+// What a tile opens, and what is done in it, in the main window: menus and sheets beside the
+// toolkit's own with three entries or fields; edits in a brand of 10,000 tiles beside one of 20.
+#include "Ratio.h"
+#include "controls/motion/Motion.h"
+#include "sheets/editors/ItemEditorSheet.h"
+#include "shell/TestViews.h"
+#include "workspace/Items.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QGuiApplication>
+#include <QQmlComponent>
+
+#include <algorithm>
+#include <cstdio>
+
+using namespace tarnloft;
+
+namespace {
+
+constexpr int rounds = 15;
+
+double median(std::vector<double> values) {
+  std::sort(values.begin(), values.end());
+  return values.at(values.size() / 2);
+}
+
+double residentMegabytes() {
+  QFile status("/proc/self/statm");
+  if (!status.open(QIODevice::ReadOnly)) return 0;
+  return status.readAll().split(' ').at(1).toDouble() * 4096 / 1e6;
+}
+
+// The window with a brand of so many tiles: colours, then one of each kind that has a sheet.
+struct Bench : Views {
+  Item color = colorItem("Color");
+  Item gradient = Item::create(GradientPayload{
+      {{{QUuid::createUuid(), "#000000", 0}, {QUuid::createUuid(), "#FFFFFF", 1}}, 45, {}}});
+  Item code = Item::create(CodePayload{{"swift", "// Snippet", {}}});
+  Item logo =
+      Item::create(LogoPayload{{"Logo", {{QUuid::createUuid(), {"a.png", "a.png"}, {}, {}}}}});
+
+  explicit Bench(int tiles) {
+    Section section = Section::create("Section");
+    for (const Item& item : {color, gradient, code, logo}) section.items.append(item);
+    for (int i = 4; i < tiles; ++i)
+      section.items.append(i % 3 ? colorItem(QString::number(i)) : imageItem(QString::number(i)));
+    library.add("Acme", {section});
+    start();
+    Motion::of(engine).setReduced(true);
+    frame();
+  }
+
+  ContentModel& content() const { return *window().property("content").value<ContentModel*>(); }
+  BrandWorkspace& workspace() const { return *content().workspace(); }
+  TileCommands& commands() const { return workspace().commands(); }
+  template <class Sheet>
+  Sheet& sheet() const {
+    return *qobject_cast<Sheet*>(content().sheets()->current());
+  }
+  // All that is due, and the frame that shows it.
+  void frame() const {
+    QCoreApplication::processEvents();
+    (void)window().grabWindow();
+  }
+  // What was put off to a later turn of an event loop, which doesn't run here.
+  void settle() const {
+    for (int i = 0; i < 3; ++i) frame();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+  double timed(const std::function<void()>& act) const {
+    QElapsedTimer clock;
+    clock.start();
+    act();
+    frame();
+    return double(clock.nsecsElapsed()) / 1e6;
+  }
+  void closeSheet() const {
+    press(Qt::Key_Escape);
+    settle();
+  }
+};
+
+struct Opening {
+  double first;
+  double later;
+};
+
+Opening opening(const Bench& bench, const std::function<void()>& open,
+                const std::function<void()>& close) {
+  Opening result{bench.timed(open), 0};
+  std::vector<double> later;
+  for (int i = 0; i < rounds; ++i) {
+    close();
+    later.push_back(bench.timed(open));
+  }
+  close();
+  result.later = median(later);
+  return result;
+}
+
+constexpr char menuReference[] = R"(
+  import QtQuick.Controls.Basic
+  Menu { MenuItem { text: "One" } MenuItem { text: "Two" } MenuItem { text: "Three" } })";
+constexpr char sheetReference[] = R"(
+  import QtQuick
+  import QtQuick.Controls.Basic
+  Popup {
+    modal: true; focus: true; x: 200; y: 200
+    Column { TextField { focus: true } TextField {} TextField {} }
+  })";
+
+// A popup of the toolkit's own in the same window, made at each opening.
+Opening reference(Bench& bench, const char* qml) {
+  QObject* popup = nullptr;
+  const auto open = [&] {
+    QQmlComponent component(&bench.engine);
+    component.setData(qml, QUrl());
+    popup = component.createWithInitialProperties(
+        {{"parent", QVariant::fromValue(bench.window().contentItem())}});
+    if (!popup) qFatal("%s", qPrintable(component.errorString()));
+    QMetaObject::invokeMethod(popup, "open");
+  };
+  const auto close = [&] {
+    delete popup;
+    bench.frame();
+  };
+  return opening(bench, open, close);
+}
+
+void compare(const char* what, const Opening& ours, const Opening& theirs) {
+  std::printf("%s: first %.1f ms (toolkit's %.1f), later %.1f ms (%.1f)\n", what, ours.first,
+              theirs.first, ours.later, theirs.later);
+  const QByteArray name(what);
+  printRatio((name + ", first / the toolkit's").constData(), ours.first / theirs.first, Aim::atMost,
+             3);
+  printRatio((name + ", later / the toolkit's").constData(), ours.later / theirs.later, Aim::atMost,
+             1.5);
+}
+
+void benchOpening() {
+  Bench bench(20);
+  const Opening toolkitMenu = reference(bench, menuReference);
+  const Opening toolkitSheet = reference(bench, sheetReference);
+  const auto closeSheet = [&] { bench.closeSheet(); };
+  const auto compareSheet = [&](const char* what, const std::function<void()>& open) {
+    compare(what, opening(bench, open, closeSheet), toolkitSheet);
+  };
+  QQuickItem* const tile = bench.item(row, "Color");
+  compare("a tile's menu",
+          opening(
+              bench, [&] { bench.click(tile, Qt::RightButton); }, closeSheet),
+          toolkitMenu);
+  compareSheet("the colour editor", [&] { bench.commands().edit(bench.color.id); });
+  compareSheet("the gradient editor", [&] { bench.commands().edit(bench.gradient.id); });
+  compareSheet("the code editor", [&] { bench.commands().edit(bench.code.id); });
+  compareSheet("the sheet of a name", [&] { bench.commands().rename(bench.color.id); });
+  compareSheet("the sheet of notes", [&] { bench.commands().editNotes(bench.color.id); });
+  compareSheet("the sheet of a logo set", [&] { bench.commands().editVariants(bench.logo.id); });
+  compareSheet("the emblem picker",
+               [&] { bench.workspace().sections()->models().front()->editEmblem(); });
+
+  double atTen = 0;
+  for (int i = 1; i <= 100; ++i) {
+    bench.commands().edit(i % 2 ? bench.color.id : bench.gradient.id);
+    bench.frame();
+    bench.closeSheet();
+    if (i == 10) atTen = residentMegabytes();
+  }
+  std::printf("memory after 100 sheets: %.1f MB more than after ten (aim: none)\n",
+              residentMegabytes() - atTen);
+}
+
+// Medians, in milliseconds.
+struct Edits {
+  double name;
+  double slider;
+  double expanding;
+};
+
+Edits edits(int tiles) {
+  Bench bench(tiles);
+  std::vector<double> name, slider, expanding;
+  bench.commands().edit(bench.color.id);
+  bench.frame();
+  for (int i = 0; i < 60; ++i) {
+    name.push_back(bench.timed(
+        [&] { bench.sheet<ItemEditorSheet>().color()->setName("Typed " + QString::number(i)); }));
+  }
+  bench.closeSheet();
+  bench.commands().edit(bench.gradient.id);
+  bench.frame();
+  for (int i = 0; i < 60; ++i) {
+    slider.push_back(
+        bench.timed([&] { bench.sheet<ItemEditorSheet>().gradient()->setLocation(0, i / 60.0); }));
+  }
+  bench.closeSheet();
+  LibraryPreferences& preferences = bench.library.store->preferences();
+  for (int i = 0; i < rounds; ++i) {
+    expanding.push_back(bench.timed([&] {
+      preferences.setAssetDisplayMode(AssetDisplayMode::expanded);
+      bench.frame();
+      preferences.setAssetDisplayMode(AssetDisplayMode::compact);
+    }));
+  }
+  return {median(name), median(slider), median(expanding)};
+}
+
+void benchEdits() {
+  const Edits few = edits(20), many = edits(10'000);
+  std::printf(
+      "with 20 tiles and 10,000: a keystroke %.1f and %.1f ms, a slider's step %.1f and "
+      "%.1f ms, expanding and back %.1f and %.1f ms\n",
+      few.name, many.name, few.slider, many.slider, few.expanding, many.expanding);
+  printRatio("a keystroke in a colour's name, 10,000 tiles / 20", many.name / few.name, Aim::atMost,
+             1.5);
+  printRatio("a step of a gradient's slider, 10,000 tiles / 20", many.slider / few.slider,
+             Aim::atMost, 1.5);
+  printRatio("expanding and back, 10,000 tiles / 20", many.expanding / few.expanding, Aim::atMost,
+             2);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qputenv("QT_QUICK_BACKEND", "software");
+  const QGuiApplication application(argc, argv);
+  benchOpening();
+  benchEdits();
+  return 0;
+}
