@@ -66,6 +66,7 @@ class Home:
         self.environment = {
             "HOME": folder, "XDG_CONFIG_HOME": f"{folder}/config",
             "XDG_DATA_HOME": f"{folder}/share", "XDG_STATE_HOME": f"{folder}/state",
+            "XDG_CACHE_HOME": f"{folder}/cache",
             "XDG_RUNTIME_DIR": str(self.runtime), "TMPDIR": folder,
         }
 
