@@ -5,6 +5,7 @@
 #include "library/LibraryStore.h"
 #include "pictures/Posters.h"
 #include "pictures/Thumbnails.h"
+#include "platform/ClipPlayer.h"
 #include "platform/DragSession.h"
 #include "platform/DroppedThing.h"
 #include "platform/Pasteboard.h"
@@ -25,6 +26,7 @@ struct WorkspaceServices {
   FileViewer& viewer;
   Thumbnails& thumbnails;
   Posters& posters;
+  ClipPlayers& clipPlayers;
   BackgroundWork& work;
   ImportServices imports;
   DropReader& drops;

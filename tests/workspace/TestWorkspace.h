@@ -39,6 +39,7 @@ struct TestDesktop {
   TestLibrary library;
   FakeImages images;
   FakeVideos videos;
+  FakeClips clips;
   FakeTypes types;
   FakeFonts fonts;
   ListedPasteboard pasteboard;
@@ -59,6 +60,7 @@ struct TestDesktop {
             .viewer = library.viewer,
             .thumbnails = thumbnails,
             .posters = posters,
+            .clipPlayers = clips,
             .work = work,
             .imports = {types, fonts, workers, {}},
             .drops = drops,

@@ -52,6 +52,7 @@ WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
           .viewer = viewer,
           .thumbnails = media.thumbnails,
           .posters = media.posters,
+          .clipPlayers = media.clipPlayers,
           .work = media.work,
           .imports = {.types = types,
                       .fonts = fonts,
@@ -69,6 +70,7 @@ bool DesktopServices::finish(std::chrono::milliseconds patience) {
   const auto remaining = [&] { return int(deadline.remainingTime()); };
   workers.clear();
   return media.work.finish(std::chrono::milliseconds(remaining())) &&
+         media.clipPlayers.finish(std::chrono::milliseconds(remaining())) &&
          workers.waitForDone(remaining()) && disk.finish(std::chrono::milliseconds(remaining())) &&
          copies.finish({}) && QThreadPool::globalInstance()->waitForDone(remaining());
 }

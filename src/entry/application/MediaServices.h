@@ -13,12 +13,14 @@ namespace tarnloft {
 // the first file is asked for.
 struct MediaServices {
   explicit MediaServices(const FileStore& files)
-      : images(files, lateImages), videos(files, lateVideos) {}
+      : images(files, lateImages), videos(files, lateVideos), clipPlayers(files, lateClipPlayers) {}
 
   LateImages lateImages;
   LateVideos lateVideos;
+  LateClipPlayers lateClipPlayers;
   PackageImages images;
   PackageVideos videos;
+  PackageClipPlayers clipPlayers;
   BackgroundWork work;
   ThumbnailLoader loader{images, work};
   Thumbnails thumbnails{loader};
