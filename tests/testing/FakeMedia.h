@@ -121,8 +121,12 @@ class FakeClips : public ClipPlayers {
       image = picture;
       set([](ClipStatus& status) { ++status.pictures; });
     }
-    void play() override { set([](ClipStatus& status) { status.isPlaying = true; }); }
-    void pause() override { set([](ClipStatus& status) { status.isPlaying = false; }); }
+    void play() override {
+      set([](ClipStatus& status) { status.isPlaying = true; });
+    }
+    void pause() override {
+      set([](ClipStatus& status) { status.isPlaying = false; });
+    }
     void seek(double seconds) override {
       set([&](ClipStatus& status) { status.position = qBound(0.0, seconds, status.duration); });
     }

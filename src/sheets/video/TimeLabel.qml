@@ -10,7 +10,7 @@ Label {
     required property string sample // a time with as many figures as the longest one
 
     width: Math.max(38, Math.ceil(widest.advanceWidth))
-    font: Theme.monospaced(10)
+    font: Theme.subheadline
     color: Theme.secondaryLabel
     elide: Text.ElideNone
 

@@ -13,8 +13,9 @@ class VideoPlayerSheet : public tarnloft::SheetModel {
   QML_UNCREATABLE("Made by those who want it")
   Q_PROPERTY(QString title READ title NOTIFY titleChanged)
   Q_PROPERTY(tarnloft::ClipPlayback* playback READ playback CONSTANT)
-  Q_PROPERTY(QString elapsed READ elapsed NOTIFY timesChanged)      // as "0:07"
-  Q_PROPERTY(QString remaining READ remaining NOTIFY timesChanged)  // as "−1:02"; empty while unknown
+  Q_PROPERTY(QString elapsed READ elapsed NOTIFY timesChanged)  // as "0:07"
+  Q_PROPERTY(
+      QString remaining READ remaining NOTIFY timesChanged)  // as "−1:02"; empty while unknown
 
  public:
   // The item is a video, and the clip at `path` its own. The players are borrowed.
