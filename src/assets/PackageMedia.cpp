@@ -37,4 +37,12 @@ std::optional<QImage> PackageVideos::frame(const QString& path, double seconds, 
   return isInPackage(files_, path) ? videos_.frame(path, seconds, maxPixel) : std::nullopt;
 }
 
+std::unique_ptr<ClipPlayer> PackageClipPlayers::open(const ClipSource& source,
+                                                     std::function<void()> changed) {
+  const auto isAllowed = [&files = files_, source] {
+    return isInPackage(files, source.path) && (!source.isAllowed || source.isAllowed());
+  };
+  return players_.open({source.path, isAllowed}, std::move(changed));
+}
+
 }  // namespace tarnloft

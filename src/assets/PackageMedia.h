@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ClipPlayer.h"
 #include "platform/FileStore.h"
 #include "platform/Images.h"
 #include "platform/Videos.h"
@@ -35,6 +36,21 @@ class PackageVideos : public Videos {
  private:
   const FileStore& files_;
   Videos& videos_;
+};
+
+// The same for clips that are played, by whom the disk is asked too. Main thread.
+class PackageClipPlayers : public ClipPlayers {
+ public:
+  PackageClipPlayers(const FileStore& files, ClipPlayers& players)
+      : files_(files), players_(players) {}
+
+  std::unique_ptr<ClipPlayer> open(const ClipSource& source,
+                                   std::function<void()> changed) override;
+  bool finish(std::chrono::milliseconds patience) override { return players_.finish(patience); }
+
+ private:
+  const FileStore& files_;
+  ClipPlayers& players_;
 };
 
 }  // namespace tarnloft

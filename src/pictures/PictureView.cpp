@@ -1,8 +1,9 @@
 #include "pictures/PictureView.h"
 
+#include "pictures/PixelNode.h"
+
 #include <QPainter>
 #include <QQuickWindow>
-#include <QSGImageNode>
 
 #include <algorithm>
 #include <utility>
@@ -22,47 +23,6 @@ QRect placed(QSize picture, QSize size, PictureView::FillMode mode) {
   return {QPoint((size.width() - scaled.width()) / 2, (size.height() - scaled.height()) / 2),
           scaled};
 }
-
-// A picture whose pixels are those of the screen. Where its item stands between two of them, it is
-// moved by the rest, or it would be smeared over both.
-class PixelNode : public QSGNode {
- public:
-  explicit PixelNode(QSGImageNode* image) : image_(image) {
-    setFlag(UsePreprocess);
-    image->setFlag(OwnedByParent);
-    image->setOwnsTexture(true);
-    image->setFiltering(QSGTexture::Linear);
-    appendChildNode(image);
-  }
-
-  void setPicture(QSGTexture* texture, qreal ratio) {
-    image_->setTexture(texture);
-    size_ = QSizeF(texture->textureSize()) / ratio;
-    ratio_ = ratio;
-    image_->setRect(QRectF(QPointF(), size_));
-  }
-
-  // Before each frame: the items around it may have moved without this one's knowing.
-  void preprocess() override {
-    const QPointF place = placeInScene() * ratio_;
-    const QRectF rect((QPointF(place.toPoint()) - place) / ratio_, size_);
-    if (image_->rect() != rect) image_->setRect(rect);
-  }
-
- private:
-  QPointF placeInScene() const {
-    QPointF place;
-    for (const QSGNode* node = parent(); node; node = node->parent()) {
-      if (node->type() != TransformNodeType) continue;
-      place = static_cast<const QSGTransformNode*>(node)->matrix().map(place);
-    }
-    return place;
-  }
-
-  QSGImageNode* image_;
-  QSizeF size_;
-  qreal ratio_ = 1;
-};
 
 }  // namespace
 

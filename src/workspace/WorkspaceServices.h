@@ -6,6 +6,7 @@
 #include "pictures/AssetSpecs.h"
 #include "pictures/Posters.h"
 #include "pictures/Thumbnails.h"
+#include "platform/ClipPlayer.h"
 #include "platform/DragSession.h"
 #include "platform/DroppedThing.h"
 #include "platform/Pasteboard.h"
@@ -27,6 +28,7 @@ struct WorkspaceServices {
   Thumbnails& thumbnails;
   Posters& posters;
   AssetSpecs& specs;
+  ClipPlayers& clipPlayers;
   BackgroundWork& work;
   ImportServices imports;
   DropReader& drops;

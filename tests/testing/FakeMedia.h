@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ClipPlayer.h"
 #include "platform/Images.h"
 #include "platform/Videos.h"
 
@@ -92,6 +93,59 @@ class FakeVideos : public Videos {
     image.fill(Qt::blue);
     return image;
   }
+};
+
+// Plays no clip, and does what it is told to. Main thread.
+class FakeClips : public ClipPlayers {
+ public:
+  struct Player : ClipPlayer {
+    FakeClips& clips;
+    std::function<void()> tell;
+    ClipStatus now{.state = ClipStatus::State::open, .hasPictures = true, .duration = 60};
+    double volume = 1;
+    int steps = 0;
+    QSize room;
+    QImage image;
+
+    Player(FakeClips& of, std::function<void()> changed) : clips(of), tell(std::move(changed)) {
+      clips.player = this;
+    }
+    ~Player() override { clips.player = nullptr; }
+    Q_DISABLE_COPY_MOVE(Player)
+
+    void set(const std::function<void(ClipStatus&)>& change) {
+      change(now);
+      tell();
+    }
+    void show(const QImage& picture) {
+      image = picture;
+      set([](ClipStatus& status) { ++status.pictures; });
+    }
+    void play() override {
+      set([](ClipStatus& status) { status.isPlaying = true; });
+    }
+    void pause() override {
+      set([](ClipStatus& status) { status.isPlaying = false; });
+    }
+    void seek(double seconds) override {
+      set([&](ClipStatus& status) { status.position = qBound(0.0, seconds, status.duration); });
+    }
+    void step(Step step) override { steps += step == Step::forth ? 1 : -1; }
+    void setVolume(double loudness) override { volume = loudness; }
+    void setRoom(QSize pixels) override { room = pixels; }
+    ClipStatus status() const override { return now; }
+    QImage picture() const override { return image; }
+  };
+
+  Player* player = nullptr;  // the one that was opened last, while it is there
+  QString path;
+
+  std::unique_ptr<ClipPlayer> open(const ClipSource& source,
+                                   std::function<void()> changed) override {
+    path = source.path;
+    return std::make_unique<Player>(*this, std::move(changed));
+  }
+  bool finish(std::chrono::milliseconds) override { return player == nullptr; }
 };
 
 }  // namespace tarnloft

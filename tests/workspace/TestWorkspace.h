@@ -39,6 +39,7 @@ struct TestDesktop {
   TestLibrary library;
   FakeImages images;
   FakeVideos videos;
+  FakeClips clips;
   FakeTypes types;
   FakeFonts fonts;
   ListedPasteboard pasteboard;
@@ -61,6 +62,7 @@ struct TestDesktop {
             .thumbnails = thumbnails,
             .posters = posters,
             .specs = specs,
+            .clipPlayers = clips,
             .work = work,
             .imports = {types, fonts, workers, {}},
             .drops = drops,

@@ -66,7 +66,7 @@ class TestTileMenu : public QObject {
         {"gradient", GradientPayload{}, "Copy CSS Gradient|Rename…|Edit…"},
         {"image", ImagePayload{asset("a.png"), {}},
          "Rename…|Export As…|—|Background|Set as Brand Icon|Set as Section Icon|—|" + file},
-        {"video", VideoPayload{asset("a.mp4"), {}}, "Rename…|—|" + file},
+        {"video", VideoPayload{asset("a.mp4"), {}}, "Rename…|—|Play|" + file},
         {"font by name", FontPayload{{"Inter", {}, {}, {}, {}}}, "Rename…|Attach Font File…|Edit…"},
         {"font", FontPayload{{"Inter", {}, {}, asset("a.otf"), {}}},
          "Rename…|Replace Font File…|" + file + "|Edit…"},

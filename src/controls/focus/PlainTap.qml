@@ -8,9 +8,18 @@ TapHandler {
     id: root
 
     signal clicked(modifiers: int)
+    signal doubleClicked(modifiers: int) // after the second click has been told
+
+    function isPlain(button: int): bool {
+        return button === Qt.LeftButton || button === Qt.NoButton;
+    }
 
     onTapped: (point, button) => {
-        if (button === Qt.LeftButton || button === Qt.NoButton)
+        if (isPlain(button))
             clicked(Number(root.point.modifiers));
+    }
+    onDoubleTapped: (point, button) => {
+        if (isPlain(button))
+            doubleClicked(Number(root.point.modifiers));
     }
 }

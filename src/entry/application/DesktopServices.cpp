@@ -53,6 +53,7 @@ WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
           .thumbnails = media.thumbnails,
           .posters = media.posters,
           .specs = media.specs,
+          .clipPlayers = media.clipPlayers,
           .work = media.work,
           .imports = {.types = types,
                       .fonts = fonts,
@@ -71,6 +72,7 @@ bool DesktopServices::finish(std::chrono::milliseconds patience) {
   workers.clear();
   return media.work.finish(std::chrono::milliseconds(remaining())) &&
          media.sharedThumbnails.finish(std::chrono::milliseconds(remaining())) &&
+         media.clipPlayers.finish(std::chrono::milliseconds(remaining())) &&
          workers.waitForDone(remaining()) && disk.finish(std::chrono::milliseconds(remaining())) &&
          copies.finish({}) && QThreadPool::globalInstance()->waitForDone(remaining());
 }

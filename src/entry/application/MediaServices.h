@@ -16,15 +16,20 @@ namespace tarnloft {
 // the first file is asked for.
 struct MediaServices {
   explicit MediaServices(const FileStore& files)
-      : images(files, keptImages), videos(files, keptVideos), specs(files, images, videos, work) {}
+      : images(files, keptImages),
+        videos(files, keptVideos),
+        clipPlayers(files, lateClipPlayers),
+        specs(files, images, videos, work) {}
 
   LateImages lateImages;
   LateVideos lateVideos;
+  LateClipPlayers lateClipPlayers;
   SharedThumbnails sharedThumbnails;
   KeptImages keptImages{lateImages, sharedThumbnails};
   KeptVideos keptVideos{lateVideos, sharedThumbnails};
   PackageImages images;
   PackageVideos videos;
+  PackageClipPlayers clipPlayers;
   BackgroundWork work;
   ThumbnailLoader loader{images, work};
   Thumbnails thumbnails{loader};

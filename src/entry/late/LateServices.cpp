@@ -1,22 +1,9 @@
 #include "entry/late/LateServices.h"
 
-#include <QCoreApplication>
-
-#include <cstdio>
-#include <dlfcn.h>
+#include "entry/late/ModuleLoading.h"
 
 namespace tarnloft {
 namespace {
-
-template <class Service>
-Service* fromModule(const char* file, const char* entryName) {
-  using Entry = Service* (*)(const QString&);
-  void* const module = ::dlopen(file, RTLD_NOW | RTLD_LOCAL);
-  void* const entry = module ? ::dlsym(module, entryName) : nullptr;
-  if (entry) return reinterpret_cast<Entry>(entry)(QCoreApplication::applicationDirPath());
-  std::fprintf(stderr, "Tarn Loft: %s\n", ::dlerror());
-  return nullptr;
-}
 
 // A local static is made once, whichever thread comes first.
 Archiver* archiver() {
@@ -24,6 +11,26 @@ Archiver* archiver() {
       fromModule<Archiver>("libtarnloft-archives.so", "tarnloftArchiver");
   return loaded;
 }
+
+// In the module of clips, which is loaded by the time that one is seen.
+ClipPlayers* clipPlayers() {
+  static ClipPlayers* const loaded =
+      fromModule<ClipPlayers>("libtarnloft-videos.so", "tarnloftClipPlayers");
+  return loaded;
+}
+
+// Stands for one that can't be made.
+class NoClipPlayer : public ClipPlayer {
+ public:
+  void play() override {}
+  void pause() override {}
+  void seek(double) override {}
+  void step(Step) override {}
+  void setVolume(double) override {}
+  void setRoom(QSize) override {}
+  ClipStatus status() const override { return {.state = ClipStatus::State::broken}; }
+  QImage picture() const override { return {}; }
+};
 
 Images* images() {
   static Images* const loaded = fromModule<Images>("libtarnloft-images.so", "tarnloftImages");
@@ -52,6 +59,17 @@ Result<void> LateArchiver::archive(const QString& folder, FileWriter& target) {
 
 Result<void> LateArchiver::extract(const QString& archive, const QString& folder) {
   return archiver() ? archiver()->extract(archive, folder) : noArchives();
+}
+
+std::unique_ptr<ClipPlayer> LateClipPlayers::open(const ClipSource& source,
+                                                  std::function<void()> changed) {
+  isUsed_ = true;
+  if (clipPlayers()) return clipPlayers()->open(source, std::move(changed));
+  return std::make_unique<NoClipPlayer>();
+}
+
+bool LateClipPlayers::finish(std::chrono::milliseconds patience) {
+  return !isUsed_ || !clipPlayers() || clipPlayers()->finish(patience);
 }
 
 std::optional<ImageProperties> LateImages::properties(const QString& path) {

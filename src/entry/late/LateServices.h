@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Archiver.h"
+#include "platform/ClipPlayer.h"
 #include "platform/Images.h"
 #include "platform/Trash.h"
 #include "platform/Videos.h"
@@ -23,6 +24,17 @@ class LateVideos : public Videos {
  public:
   std::optional<VideoProperties> properties(const QString& path) override;
   std::optional<QImage> frame(const QString& path, double seconds, int maxPixel) override;
+};
+
+// Players of clips; where their library can't be loaded, all clips count as broken.
+class LateClipPlayers : public ClipPlayers {
+ public:
+  std::unique_ptr<ClipPlayer> open(const ClipSource& source,
+                                   std::function<void()> changed) override;
+  bool finish(std::chrono::milliseconds patience) override;
+
+ private:
+  bool isUsed_ = false;
 };
 
 // Archives; all fail where the library can't be loaded.

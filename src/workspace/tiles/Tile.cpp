@@ -40,6 +40,10 @@ void Tile::click(int modifiers) {
   facet_->clicked();
 }
 
+void Tile::doubleClick(int modifiers) {
+  if (!(modifiers & (Qt::ControlModifier | Qt::ShiftModifier))) facet_->doubleClicked();
+}
+
 void Tile::toggleSelected() { workspace()->selection().toggle(item_.id, section_.id()); }
 
 void Tile::drag(QQuickItem* view, const QImage& grabbed, qreal radius) {

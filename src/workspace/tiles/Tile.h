@@ -75,6 +75,8 @@ class Tile : public QObject {
 
   // A click with those keys held down.
   Q_INVOKABLE void click(int modifiers = Qt::NoModifier);
+  // The second click of two, told after it as a click of its own.
+  Q_INVOKABLE void doubleClick(int modifiers = Qt::NoModifier);
   Q_INVOKABLE void toggleSelected();
   // Drags the item under what was grabbed of its view, cut to corners of that radius, made smaller
   // and beside the pointer, so that the place of the drop is seen. Returns when the drag has ended.

@@ -10,6 +10,7 @@
 #include "sheets/editors/ItemEditorSheet.h"
 #include "sheets/exporting/ExportImageSheet.h"
 #include "sheets/logos/LogoSetSheet.h"
+#include "sheets/video/VideoPlayerSheet.h"
 #include "workspace/ToastCenter.h"
 #include "workspace/selection/TileSelection.h"
 
@@ -86,6 +87,16 @@ void TileCommands::editVariants(const QUuid& item) {
                                 [self, item] {
                                   if (self) self->ungroupLogo(item);
                                 }}));
+}
+
+void TileCommands::play(const QUuid& item) {
+  auto binding = bound(item);
+  const auto* const video = binding ? std::get_if<VideoPayload>(&binding->item().payload) : nullptr;
+  if (!video) return;
+  // A name that leads out of the package gives no path: such a clip counts as broken.
+  const auto path = Package::assetPath(document_->packageURL(), video->asset);
+  window_.sheets.show(std::make_unique<VideoPlayerSheet>(std::move(binding), services_.clipPlayers,
+                                                         path.value_or(QString())));
 }
 
 void TileCommands::setBackdrop(const QUuid& item, std::optional<ImageBackground> background) {

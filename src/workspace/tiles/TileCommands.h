@@ -30,6 +30,8 @@ class TileCommands : public QObject {
   void editNotes(const QUuid& item);
   // Of a logo set.
   void editVariants(const QUuid& item);
+  // Opens the sheet that plays a video.
+  void play(const QUuid& item);
 
   void setBackdrop(const QUuid& item, std::optional<ImageBackground> background);
   void setAccent(const QString& hex);

@@ -124,6 +124,7 @@ Item {
             root.forceActiveFocus(Qt.MouseFocusReason);
             root.tile.click(modifiers);
         }
+        onDoubleClicked: modifiers => root.tile.doubleClick(modifiers)
     }
 
     TileDragHandler {

@@ -100,6 +100,7 @@ class Entries {
   void addKind(const VideoPayload& payload) {
     addRename();
     addDivider();
+    addVerb(QStringLiteral("Play"), &TileCommands::play);
     addFile(payload.asset);
   }
 

@@ -56,9 +56,9 @@ int isInterrupted(void* source) { return static_cast<ByteSource*>(source)->isExp
 // One set of decoder options for each stream.
 class DecoderOptions {
  public:
-  explicit DecoderOptions(unsigned count) : options_(count, nullptr) {
+  explicit DecoderOptions(unsigned count, int threads = 1) : options_(count, nullptr) {
     for (AVDictionary*& each : options_) {
-      av_dict_set(&each, "threads", "1", 0);
+      av_dict_set_int(&each, "threads", threads, 0);
       av_dict_set(&each, "max_pixels", mostPixels, 0);
     }
   }
@@ -75,8 +75,8 @@ class DecoderOptions {
 
 }  // namespace
 
-ByteSource::ByteSource(posix::OpenFile file, QDeadlineTimer deadline)
-    : file_(std::move(file)), deadline_(deadline) {
+ByteSource::ByteSource(posix::OpenFile file, Expiry expiry)
+    : file_(std::move(file)), expiry_(std::move(expiry)) {
   auto* const buffer = static_cast<unsigned char*>(av_malloc(bufferSize));
   context_.reset(avio_alloc_context(buffer, bufferSize, 0, this, read, nullptr, seek));
 }
@@ -112,10 +112,14 @@ int64_t ByteSource::seek(void* self, int64_t offset, int whence) {
 }
 
 std::unique_ptr<Clip> Clip::open(const QString& path, QDeadlineTimer deadline) {
+  return open(path, [deadline] { return deadline.hasExpired(); });
+}
+
+std::unique_ptr<Clip> Clip::open(const QString& path, Expiry expiry) {
   setUpLibrary();
   auto file = posix::openRegularFile(path);
   if (!file) return nullptr;
-  std::unique_ptr<Clip> clip(new Clip(std::move(*file), deadline));
+  std::unique_ptr<Clip> clip(new Clip(std::move(*file), std::move(expiry)));
   return clip->openFormat() && clip->findStreams() ? std::move(clip) : nullptr;
 }
 
@@ -158,22 +162,45 @@ AVStream* Clip::videoStream() const {
   return found == end ? nullptr : *found;
 }
 
-void Clip::keepOnly(const AVStream& stream) {
+AVStream* Clip::soundStream() const {
+  const AVStream* const pictures = videoStream();
+  const int index = av_find_best_stream(format_.get(), AVMEDIA_TYPE_AUDIO, -1,
+                                        pictures ? pictures->index : -1, nullptr, 0);
+  return index < 0 ? nullptr : format_->streams[index];
+}
+
+double Clip::start() const {
+  return format_->start_time == AV_NOPTS_VALUE ? 0 : double(format_->start_time) / AV_TIME_BASE;
+}
+
+double Clip::secondsOf(int64_t timestamp, const AVStream& stream) const {
+  return double(timestamp) * av_q2d(stream.time_base) - start();
+}
+
+int64_t Clip::timestampAt(double seconds, const AVStream& stream) const {
+  return int64_t(std::clamp((start() + seconds) / av_q2d(stream.time_base), -1e18, 1e18));
+}
+
+void Clip::keepOnly(const AVStream& stream, const AVStream* other) {
   for (unsigned i = 0; i < format_->nb_streams; ++i) {
-    if (format_->streams[i] != &stream) format_->streams[i]->discard = AVDISCARD_ALL;
+    AVStream* const each = format_->streams[i];
+    if (each != &stream && each != other) each->discard = AVDISCARD_ALL;
   }
 }
 
-bool Clip::read(AVPacket& packet) {
+Clip::Reading Clip::readNext(AVPacket& packet) {
   av_packet_unref(&packet);
-  return !isExpired() && av_read_frame(format_.get(), &packet) >= 0;
+  if (isExpired()) return Reading::failure;
+  const int code = av_read_frame(format_.get(), &packet);
+  if (code >= 0) return Reading::packet;
+  return code == AVERROR_EOF ? Reading::end : Reading::failure;
 }
 
-Decoder openDecoder(const AVStream& stream) {
+Decoder openDecoder(const AVStream& stream, int threads) {
   const AVCodec* const codec = avcodec_find_decoder(stream.codecpar->codec_id);
   if (!codec) return nullptr;
   Decoder decoder(avcodec_alloc_context3(codec));
-  DecoderOptions options(1);
+  DecoderOptions options(1, threads);
   decoder->codec_whitelist = av_strdup(decoders);
   decoder->pkt_timebase = stream.time_base;
   if (avcodec_parameters_to_context(decoder.get(), stream.codecpar) < 0) return nullptr;

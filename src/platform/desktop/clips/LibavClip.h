@@ -5,6 +5,7 @@
 #include <QDeadlineTimer>
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -35,14 +36,17 @@ struct ReleaseScaler {
 };
 using Scaler = std::unique_ptr<SwsContext, ReleaseScaler>;
 
+// Whether the time of some work is up; asked often, on the thread that works.
+using Expiry = std::function<bool()>;
+
 // The bytes of one open file, as libavformat reads them; none any more once the time is up.
 class ByteSource {
  public:
-  ByteSource(posix::OpenFile file, QDeadlineTimer deadline);
+  ByteSource(posix::OpenFile file, Expiry expiry);
 
   // Owned by this.
   AVIOContext* context() const { return context_.get(); }
-  bool isExpired() const { return deadline_.hasExpired(); }
+  bool isExpired() const { return expiry_(); }
 
  private:
   static int read(void* self, uint8_t* buffer, int capacity);
@@ -53,7 +57,7 @@ class ByteSource {
   };
 
   posix::OpenFile file_;
-  QDeadlineTimer deadline_;
+  Expiry expiry_;
   qint64 position_ = 0;
   std::unique_ptr<AVIOContext, ReleaseContext> context_;
 };
@@ -64,22 +68,36 @@ class Clip {
   // Null if the file is none of the containers that are taken, or if the time is up before its
   // streams are known.
   static std::unique_ptr<Clip> open(const QString& path, QDeadlineTimer deadline);
+  static std::unique_ptr<Clip> open(const QString& path, Expiry expiry);
 
   AVFormatContext& format() const { return *format_; }
 
   // The first track of moving pictures; a cover picture is none. Null if there isn't one.
   AVStream* videoStream() const;
+  // The track of sound that goes with it; null if there isn't one.
+  AVStream* soundStream() const;
 
-  // Reads only that stream from now on.
-  void keepOnly(const AVStream& stream);
+  // Seconds from the clip's beginning to that time of a stream, and the other way round.
+  double secondsOf(int64_t timestamp, const AVStream& stream) const;
+  int64_t timestampAt(double seconds, const AVStream& stream) const;
 
-  // The next packet into `packet`; false at the end of the file and of the time.
-  bool read(AVPacket& packet);
+  // Reads only that stream, and the other one if it isn't null, from now on.
+  void keepOnly(const AVStream& stream, const AVStream* other = nullptr);
+
+  enum class Reading { packet, end, failure };
+
+  // The next packet into `packet`. A failure is a broken file or disk, or the end of the time.
+  Reading readNext(AVPacket& packet);
+  // The same; false for all but a packet.
+  bool read(AVPacket& packet) { return readNext(packet) == Reading::packet; }
 
   bool isExpired() const { return source_.isExpired(); }
 
  private:
-  Clip(posix::OpenFile file, QDeadlineTimer deadline) : source_(std::move(file), deadline) {}
+  Clip(posix::OpenFile file, Expiry expiry) : source_(std::move(file), std::move(expiry)) {}
+
+  // When the clip begins, in seconds of its own count.
+  double start() const;
 
   bool openFormat();
   void meetStreams();
@@ -89,7 +107,8 @@ class Clip {
   Format format_;  // goes before the source that it reads
 };
 
-// An open decoder of the stream, on one thread; null if it is of a kind that isn't taken.
-Decoder openDecoder(const AVStream& stream);
+// An open decoder of the stream, which works on so many threads; null if it is of a kind that isn't
+// taken.
+Decoder openDecoder(const AVStream& stream, int threads = 1);
 
 }  // namespace tarnloft::libav

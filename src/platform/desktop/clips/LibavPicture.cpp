@@ -86,11 +86,22 @@ QSize shownSize(QSize stored, AVRational pixelShape, int maxPixel) {
   return (shown * scale).toSize().expandedTo(QSize(1, 1)).boundedTo(QSize(maxPixel, maxPixel));
 }
 
-std::optional<QImage> pictureOf(const AVFrame& frame, QSize size) {
-  const Scaler scaler = makeScaler(frame, size);
+QSize fittedSize(QSize stored, AVRational pixelShape, QSize room) {
+  const QSizeF shown(stored.width() * widthOfPixel(pixelShape), stored.height());
+  const QSize fitted = shown.scaled(room, Qt::KeepAspectRatio).toSize();
+  return fitted.expandedTo(QSize(1, 1)).boundedTo(room.expandedTo(QSize(1, 1)));
+}
+
+std::optional<QImage> PictureMaker::pictureOf(const AVFrame& frame, QSize size) {
+  const Kind kind{QSize(frame.width, frame.height), size, frame.format, frame.colorspace,
+                  frame.color_range};
+  if (!scaler_ || kind_ != kind) {
+    scaler_ = makeScaler(frame, size);
+    kind_ = kind;
+  }
   Frame output = makeOutput(size);
-  if (!scaler || !output) return std::nullopt;
-  if (sws_scale_frame(scaler.get(), output.get(), &frame) < 0) return std::nullopt;
+  if (!scaler_ || !output) return std::nullopt;
+  if (sws_scale_frame(scaler_.get(), output.get(), &frame) < 0) return std::nullopt;
   const auto format =
       isOf(frame, AV_PIX_FMT_FLAG_ALPHA) ? QImage::Format_ARGB32 : QImage::Format_RGB32;
   const AVFrame& filled = *output;

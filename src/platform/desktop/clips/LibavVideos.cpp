@@ -35,13 +35,6 @@ std::optional<QSize> sizeOf(const AVStream* stream) {
   return size.isEmpty() ? std::nullopt : std::optional(size);
 }
 
-// The time `seconds` after the clip's beginning, as the stream counts it.
-int64_t timestampAt(double seconds, const Clip& clip, const AVStream& stream) {
-  const int64_t begin = clip.format().start_time;
-  const double start = begin == AV_NOPTS_VALUE ? 0 : double(begin) / AV_TIME_BASE;
-  return int64_t(std::clamp((start + seconds) / av_q2d(stream.time_base), -1e18, 1e18));
-}
-
 // Takes a decoder's frames until the one that is shown at a moment.
 class FrameAtMoment {
  public:
@@ -72,7 +65,7 @@ Frame decodeFrame(Clip& clip, const AVStream& stream, double seconds) {
   const Decoder decoder = openDecoder(stream);
   if (!decoder) return nullptr;
   clip.keepOnly(stream);
-  FrameAtMoment found(timestampAt(seconds, clip, stream));
+  FrameAtMoment found(clip.timestampAt(seconds, stream));
   const Packet packet(av_packet_alloc());
   while (clip.read(*packet)) {
     if (packet->stream_index != stream.index) continue;
@@ -100,7 +93,7 @@ std::optional<QImage> LibavVideos::frame(const QString& path, double seconds, in
   if (!frame) return std::nullopt;
   const AVRational pixelShape = av_guess_sample_aspect_ratio(&clip->format(), stream, frame.get());
   const QSize size = shownSize(QSize(frame->width, frame->height), pixelShape, maxPixel);
-  const auto picture = pictureOf(*frame, size);
+  const auto picture = PictureMaker().pictureOf(*frame, size);
   if (!picture) return std::nullopt;
   return oriented(*picture, orientationOf(*stream));
 }

@@ -6,4 +6,6 @@ namespace tarnloft {
 
 QString ClipFacet::path() const { return workspace().assetPath(payload<VideoPayload>().asset); }
 
+void ClipFacet::doubleClicked() { workspace().commands().play(item().id); }
+
 }  // namespace tarnloft

@@ -14,6 +14,7 @@ class ClipFacet : public TileFacet {
   using TileFacet::TileFacet;
 
   QString path() const;
+  void doubleClicked() override;  // plays it
 };
 
 }  // namespace tarnloft

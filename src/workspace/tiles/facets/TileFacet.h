@@ -21,6 +21,8 @@ class TileFacet : public QObject {
 
   // The tile was clicked, with nothing held down.
   virtual void clicked() {}
+  // It was clicked for the second time in a row.
+  virtual void doubleClicked() {}
 
   // Of the kind of the tile's item.
   static std::unique_ptr<TileFacet> make(const Tile& tile);

@@ -1,0 +1,9 @@
+#include "entry/late/LateModules.h"
+#include "platform/desktop/clips/player/PulseSound.h"
+
+using namespace tarnloft;
+
+SoundOutputs* tarnloftSounds(const QString& /*programFolder*/) {
+  static PulseSounds sounds;
+  return &sounds;
+}
