@@ -41,7 +41,7 @@ class TheSidebar(Journey):
         tarn = self.start()
         tarn.click("list item", "Birch", button=3)
         tarn.find("menu item", "Rename…")
-        press("Down", "Down", "Down", "Return")
+        press("Down", "Down", "Down", "Down", "Return")
         self.eventually(lambda: rows(tarn), ["Ash", "Birch", "Birch Copy"])
 
         tarn.click("list item", "Ash")

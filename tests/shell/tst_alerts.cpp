@@ -85,7 +85,7 @@ class TestAlerts : public QObject {
 
     // Its buttons come before the page's.
     views.item(button, "New Brand")->forceActiveFocus(Qt::TabFocusReason);
-    for (const char* name : {"Try Again", "Save a Copy…", "Section name"}) {
+    for (const char* name : {"Try Again", "Save a Copy…", "Section Icon"}) {
       views.press(Qt::Key_Tab);
       QCOMPARE(views.focused(), QString(name));
     }
