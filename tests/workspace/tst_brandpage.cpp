@@ -3,6 +3,8 @@
 #include "workspace/Items.h"
 #include "workspace/TestPage.h"
 
+#include <QStyleHints>
+
 using namespace tarnloft;
 
 namespace {
@@ -105,6 +107,25 @@ class TestBrandPage : public QObject {
   Q_OBJECT
 
  private slots:
+  void aSecondClickOnAVideoPlaysIt() {
+    const Item video = Item::create(VideoPayload{{"0.mp4", "a.mp4"}, "Spot"});
+    TestWorkspace test({sectionOf("A", {video, colorItem("red", "#ff0000")})});
+    TestPage page(test);
+    const auto click = [&](const char* name, Qt::KeyboardModifiers modifiers = {}) {
+      QTest::mouseDClick(&page.view, Qt::LeftButton, modifiers, page.middleOf(name));
+      return test.sheets.current() != nullptr;
+    };
+    page.click("Spot");
+    QVERIFY(!test.sheets.current());
+    QTest::qWait(QGuiApplication::styleHints()->mouseDoubleClickInterval() + 1);
+    QVERIFY(!click("red"));
+    QVERIFY(!click("Spot", Qt::ControlModifier));
+    test.selection.toggle(video.id, test.section(0).id());
+    QVERIFY(click("Spot"));
+    QVERIFY(test.clips.path.endsWith("/assets/0.mp4"));
+    QCOMPARE(test.selection.count(), 0);
+  }
+
   void aDragThatTakesTheReleaseAwayIsTheLastOfItsTile() {
     TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), colorItem("b", "#00ff00")})});
     TestPage page(test);

@@ -15,6 +15,7 @@ constexpr double preparedSound = 0.2;  // seconds that are there before playing 
 constexpr auto soundPatience = 1s;     // for a sound server to answer
 constexpr auto deafPatience = 2s;      // for sound that was written to be heard
 constexpr auto diskPatience = 250ms;
+constexpr double mostDelay = 1;   // seconds of pictures behind the sound
 constexpr double early = 0.001;   // seconds; less than anyone sees
 constexpr double instant = 1e-6;  // seconds; times are sums of fractions
 
@@ -97,13 +98,14 @@ bool ClipPresenter::isPrepared() const {
                         writtenEnd_ > session_.target);
 }
 
-// The disk gives nothing, and what there was is used up.
+// What there was is used up, and the disk gives nothing or decoding is far behind.
 bool ClipPresenter::isStarved(Time now) const {
   const auto since = std::chrono::milliseconds(session_.readingSince.load());
   const bool isReading = since.count() > 0 && now.time_since_epoch() - since > diskPatience;
   const bool hasNoPicture = !session_.picturesEnded && session_.pictures.empty();
   const bool hasNoSound = !session_.soundEnded && session_.sound.isEmpty();
-  return isReading && (hasNoPicture || hasNoSound);
+  const bool isBehind = clock_.moment() > session_.picturesEnd + mostDelay;
+  return (hasNoPicture && isBehind) || (isReading && (hasNoPicture || hasNoSound));
 }
 
 void ClipPresenter::feedSound() {
@@ -171,9 +173,9 @@ void ClipPresenter::endIfOver() {
   const bool showsNothing = session_.hasPictures && shownSeeks_ != seeks_;
   if (session_.breaksOff && (showsNothing || (runs_ && clock_.moment() >= end))) {
     session_.state = ClipStatus::State::broken;
-    session_.isPlaying = false;
+    session_.isPlaying = runs_ = false;
   } else if (runs_ && clock_.moment() >= end) {
-    session_.isPlaying = false;
+    session_.isPlaying = runs_ = false;
     session_.isAtEnd = true;
     session_.duration = end;
     clock_.set(end);

@@ -226,6 +226,7 @@ void ClipReader::meet(const AVFrame& frame) {
 bool ClipReader::isLate(double begin, double end) {
   constexpr auto longestPause = 250ms;
   const QMutexLocker lock(&session_.mutex);
+  session_.picturesEnd = end;
   const bool isPresented = session_.isPlaying && session_.seeks == seeks_;
   return isPresented && hasFirst_ && session_.moment > end + (end - begin) &&
          Clock::now() - lastShown_ < longestPause;
