@@ -46,8 +46,8 @@ std::optional<VideoProperties> KeptVideos::properties(const QString& path) {
 std::optional<QImage> KeptVideos::frame(const QString& path, double seconds, int maxPixel) {
   const bool isPoster = seconds == posterSeconds && maxPixel == posterPixels;
   if (!isPoster) return videos_.frame(path, seconds, maxPixel);
-  if (const auto kept = store_.find(path, Size::xLarge, Maker::thisProgram)) return kept;
-  const auto made = videos_.frame(path, seconds, maxPixel);
+  if (auto kept = store_.find(path, Size::xLarge, Maker::thisProgram)) return kept;
+  auto made = videos_.frame(path, seconds, maxPixel);
   if (made) store_.keep(path, Size::xLarge, *made);
   return made;
 }

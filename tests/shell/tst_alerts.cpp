@@ -98,7 +98,7 @@ class TestAlerts : public QObject {
     views.press(Qt::Key_Space);
     QTRY_VERIFY(!views.item(alert, text));
     QTRY_VERIFY(!views.item(button, "Try Again"));
-    QCOMPARE(views.focused(), "Section name");
+    QCOMPARE(views.focused(), "Section Icon");
     QTRY_COMPARE(views.rowDescription("Birch"), QString());
     QVERIFY(contentOf(views.manifest).contains("Birch"));
   }
