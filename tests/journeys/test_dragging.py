@@ -41,9 +41,8 @@ class Dragging(Journey):
         target = self.beside(gtk_partner(
             RIGHT, asks=["text/uri-list", "UTF8_STRING", "image/tiff", "com.quillmoor.tarnloft.item"]))
         Drag(self.card("Mark")).over(RIGHT_MIDDLE).drop()
-        uri, end = data(target, "text/uri-list").decode().split("\r\n")
-        path = pathlib.Path(urllib.parse.unquote(urllib.parse.urlsplit(uri).path))
-        self.assertEqual((path.name, end), ("Mark.png", ""))
+        path = dropped(target)
+        self.assertEqual(path.name, "Mark.png")
         self.assertEqual(path.read_bytes(), self.acme.asset(self.acme.items("Logos")[0]))
         self.assertEqual(data(target, "UTF8_STRING").decode(), str(path))
         self.assertIn(data(target, "image/tiff")[:4], (b"II*\0", b"MM\0*"))
@@ -93,6 +92,32 @@ class Dragging(Journey):
         self.assertEqual(brand.asset(brand.items("Colors")[0]), mark)
         self.assertEqual(self.names("Logos"), ["Mark"])
 
+    def test_sheets_give_and_take_files(self):
+        self.fill("Logos", {"Mark.png": (200, 30, 40)})
+        self.tarn.click("list item", "Mark", button=3)
+        self.tarn.click("menu item", "Export As…")
+        self.tarn.find("dialog", "Export “Mark”")
+        self.tarn.click("push button", "50%")
+        target = self.beside(gtk_partner(RIGHT, asks=["text/uri-list"]))
+        Drag(self.tarn.find("image", "Drag out").middle).over(RIGHT_MIDDLE).drop()
+        self.assertEqual(dropped(target).name, "Mark.png")
+        self.assertNotEqual(dropped(target).read_bytes(), self.acme.asset(self.acme.items("Logos")[0]))
+        target.kill()
+        self.tarn.click("push button", "Cancel")
+
+        self.tarn.click("push button", "Add content to this section", within="Logos")
+        self.tarn.click("menu item", "Logo Set…")
+        self.tarn.click("list item", "Logo")
+        sheet = self.tarn.find("dialog", "Logo set")
+        files = write_pictures(self.home.folder / "set", {"One.png": (9, 9, 9), "Two.png": (8, 8, 8)})
+        self.beside(gtk_partner(LEFT, files))
+        Drag(LEFT_MIDDLE).over(sheet.middle).drop()
+        self.eventually(lambda: [each["role"] for each in self.acme.items("Logos")[1]["value"]["variants"]],
+                        ["primary", "secondary"])
+        target = self.beside(gtk_partner(RIGHT, asks=["text/uri-list"]))
+        Drag(self.tarn.find("image", "Two.png").middle).over(RIGHT_MIDDLE).drop()
+        self.assertEqual(dropped(target).read_bytes(), files[1].read_bytes())
+
     def fill(self, section, colours):
         self.take(section, write_pictures(self.home.folder / "from", colours))
 
@@ -108,6 +133,12 @@ class Dragging(Journey):
 
     def names(self, section):
         return [item["name"] for item in self.acme.items(section)]
+
+
+def dropped(target):
+    """The file that a target got."""
+    uri = data(target, "text/uri-list").decode().split("\r\n")[0]
+    return pathlib.Path(urllib.parse.unquote(urllib.parse.urlsplit(uri).path))
 
 
 def data(target, kind):

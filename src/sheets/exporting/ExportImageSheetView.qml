@@ -13,6 +13,8 @@ Sheet {
 
     readonly property real room: (parent?.width ?? 400) - 2 * (margins + padding) // in a narrow window
 
+    // Its top stands still while the quality comes and goes.
+    y: parent ? Math.round(Math.max(12, (parent.height - 346) * 0.4)) : 0
     accessibleName: title.text
     defaultButton: save
     cancelButton: cancel
