@@ -53,8 +53,8 @@ struct DetailHeight {
   double operator()(const LogoPayload& logo) const {
     constexpr double variant = 40 + 2 + 12;
     const int columns = variantColumns(width);
-    const auto rows = double((logo.value.variants.size() + columns - 1) / columns);
-    return rows == 0 ? 0 : rows * variant + (rows - 1) * variantGap;
+    const qsizetype rows = (logo.value.variants.size() + columns - 1) / columns;
+    return rows == 0 ? 0 : double(rows) * (variant + variantGap) - variantGap;
   }
   template <class Payload>
   double operator()(const Payload&) const {

@@ -26,34 +26,34 @@ struct PlayerSession {
   QWaitCondition forReader, forPresenter;
 
   // What is wanted.
-  bool isPlaying = false;
   double volume = 1;
+  double target = 0;
   QSize room;
   int seeks = 0;  // so many were asked for; what is in the queues is of one of them
-  double target = 0;
-  int steps = 0;            // to pictures that come next
+  int steps = 0;  // to pictures that come next
+  bool isPlaying = false;
   bool hasStepped = false;  // since the last seek
 
   // What was read: of that seek, from its target on.
-  ClipStatus::State state = ClipStatus::State::opening;
-  bool hasPictures = false, hasSound = false;
   double toldDuration = 0;
-  int readSeeks = 0;
+  double picturesEnd = 0;  // where the last one ends that has been read
   std::deque<TimedPicture> pictures;
   SoundQueue sound;
+  ClipStatus::State state = ClipStatus::State::opening;
+  int readSeeks = 0;
+  bool hasPictures = false, hasSound = false;
   bool picturesEnded = false, soundEnded = false;
   bool isLost = false;     // the file can't be read any more
   bool breaksOff = false;  // the file is broken behind what is in the queues
-  double picturesEnd = 0;  // where the last one ends that has been read
 
   // What is presented.
   double moment = 0;
-  bool isWaiting = false;
-  bool isAtEnd = false;
   double duration = 0;    // once the end has been seen
   double showsSince = 0;  // the moment from which the picture is shown
   QImage shown;
   int shownCount = 0;
+  bool isWaiting = false;
+  bool isAtEnd = false;
 
   // Since when the reader waits for the disk, in milliseconds of the steady clock; 0 if it doesn't.
   std::atomic<qint64> readingSince = 0;
