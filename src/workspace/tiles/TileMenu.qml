@@ -12,6 +12,8 @@ Menu {
     property Tile tile: null
 
     function show(tile: Tile, view: Item, at: point) {
+        if (root.tile)
+            root.tile.menuOpen = false; // it may be open for another one
         root.tile = tile;
         fill(root, tile.menuEntries());
         popup(view, at.x, at.y);
@@ -19,46 +21,46 @@ Menu {
 
     function fill(menu: Menu, entries: var) {
         menu.filling = true;
-        for (let place = 0; place < entries.length; ++place)
-            put(menu, place, entries[place]);
+        for (let place = 0; place < entries.length; ++place) {
+            if (entries[place].entries.length > 0)
+                putMenu(menu, place, entries[place]);
+            else
+                putItem(menu, place, entries[place]);
+        }
         while (menu.count > entries.length)
             drop(menu, menu.count - 1);
         menu.filling = false;
     }
 
-    function put(menu: Menu, place: int, entry: var) {
-        if (entry.entries.length > 0) {
-            const inner = menu.menuAt(place) as Menu ?? subMenu.createObject(menu) as Menu;
-            inner.title = entry.text;
-            fill(inner, entry.entries);
-            if (menu.menuAt(place) !== inner) {
-                dropAt(menu, place);
-                menu.insertMenu(place, inner);
-            }
-            return;
-        }
-        const wanted = entry.text === "" ? divider : entry.telling ? line : command;
-        const there = menu.itemAt(place) as TileMenuItem;
-        if (wanted === command && there) {
-            there.entry = entry;
-            return;
-        }
-        if (wanted === divider && menu.itemAt(place) as MenuSeparator)
-            return;
-        dropAt(menu, place);
-        menu.insertItem(place, wanted.createObject(menu.contentItem, {entry: entry}) as Item);
-    }
-
-    function dropAt(menu: Menu, place: int) {
-        if (place < menu.count)
+    function putMenu(menu: Menu, place: int, entry: var) {
+        let inner = menu.menuAt(place) as Menu;
+        if (!inner) {
             drop(menu, place);
+            inner = subMenu.createObject(menu) as Menu;
+            menu.insertMenu(place, inner);
+        }
+        inner.title = entry.text;
+        fill(inner, entry.entries);
     }
 
+    function putItem(menu: Menu, place: int, entry: var) {
+        const wanted = entry.text === "" ? divider : entry.telling ? line : command;
+        const there = menu.itemAt(place);
+        const known = there as TileMenuItem;
+        if (wanted === command && known) {
+            known.entry = entry;
+        } else if (wanted !== divider || !(there as MenuSeparator)) {
+            drop(menu, place);
+            menu.insertItem(place, wanted.createObject(menu.contentItem, {entry: entry}) as Item);
+        }
+    }
+
+    // What stands there, if anything does.
     function drop(menu: Menu, place: int) {
-        if (menu.menuAt(place))
-            menu.takeMenu(place).destroy();
-        else
-            menu.takeItem(place).destroy();
+        const inner = menu.takeMenu(place);
+        const item = inner ? null : menu.takeItem(place);
+        inner?.destroy();
+        item?.destroy();
     }
 
     title: tile ? tile.name || tile.description : ""
