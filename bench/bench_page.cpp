@@ -1,20 +1,15 @@
 // A brand of 10,000 tiles beside one of 20, on the offscreen platform: opening, scrolling, memory.
+#include "Measure.h"
 #include "Ratio.h"
 #include "workspace/Items.h"
 #include "workspace/TestPage.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 #include <QQmlComponent>
 #include <QQuickWindow>
-#include <QtQml/qqmlextensionplugin.h>
 
 #include <algorithm>
 #include <cstdio>
-
-Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
-Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
-Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 using namespace tarnloft;
 
@@ -30,17 +25,6 @@ Section mixedSection(int count) {
                                       : Item::create(CodePayload{{"css", "a {}", name}}));
   }
   return section;
-}
-
-double median(std::vector<double> values) {
-  std::sort(values.begin(), values.end());
-  return values.at(values.size() / 2);
-}
-
-double residentMegabytes() {
-  QFile status("/proc/self/statm");
-  if (!status.open(QIODevice::ReadOnly)) return 0;
-  return status.readAll().split(' ').at(1).toDouble() * 4096 / 1e6;
 }
 
 void open(TestWorkspace& test, TestPage& page, const QString& brand) {

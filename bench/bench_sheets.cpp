@@ -1,5 +1,6 @@
 // What a tile opens, and what is done in it, in the main window: menus and sheets beside the
 // toolkit's own with three entries or fields; edits in a brand of 10,000 tiles beside one of 20.
+#include "Measure.h"
 #include "Ratio.h"
 #include "controls/motion/Motion.h"
 #include "sheets/editors/ItemEditorSheet.h"
@@ -7,11 +8,9 @@
 #include "workspace/Items.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 #include <QGuiApplication>
 #include <QQmlComponent>
 
-#include <algorithm>
 #include <cstdio>
 
 using namespace tarnloft;
@@ -19,17 +18,6 @@ using namespace tarnloft;
 namespace {
 
 constexpr int rounds = 15;
-
-double median(std::vector<double> values) {
-  std::sort(values.begin(), values.end());
-  return values.at(values.size() / 2);
-}
-
-double residentMegabytes() {
-  QFile status("/proc/self/statm");
-  if (!status.open(QIODevice::ReadOnly)) return 0;
-  return status.readAll().split(' ').at(1).toDouble() * 4096 / 1e6;
-}
 
 // The window with a brand of so many tiles: colours, then one of each kind that has a sheet.
 struct Bench : Views {
