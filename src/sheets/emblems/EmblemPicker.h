@@ -30,9 +30,6 @@ class EmblemPicker : public tarnloft::SheetModel {
   Q_PROPERTY(bool useBackground READ usesBackground WRITE setUseBackground NOTIFY changed)
   Q_PROPERTY(QColor swatch READ swatch WRITE setSwatch NOTIFY changed)
   Q_PROPERTY(bool hasImage READ hasImage NOTIFY changed)
-  // Whether the emblem is what its place shows by itself, or explicitly none.
-  Q_PROPERTY(bool isDefault READ isDefault NOTIFY changed)
-  Q_PROPERTY(bool isNone READ isNone NOTIFY changed)
   // What is typed to find a symbol, and the names found.
   Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY queryChanged)
   Q_PROPERTY(QStringList symbols READ symbols NOTIFY queryChanged)
@@ -68,8 +65,6 @@ class EmblemPicker : public tarnloft::SheetModel {
   bool usesBackground() const { return usesBackground_; }
   const QColor& swatch() const { return swatch_; }
   bool hasImage() const { return asset_.has_value(); }
-  bool isDefault() const { return !emblem_; }
-  bool isNone() const { return emblem_ && emblem_->kind == Emblem::Kind::none; }
 
   // Each writes the emblem anew; an image, once there is one.
   void setKind(Kind kind);
