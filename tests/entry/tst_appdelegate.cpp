@@ -27,7 +27,7 @@ class FakeTray : public StatusItem {
 struct Running {
   TestServices disk;
   IniPreferences preferences{disk.path("tarnloft.ini")};
-  MenuBarPrefs prefs{preferences};
+  MenuBarPrefs prefs{preferences, disk.log};
   FakeTray tray;
   int opened = 0;
   int ended = 0;
@@ -51,10 +51,32 @@ class TestAppDelegate : public QObject {
     running.tray.menu.front().run();
     QCOMPARE(running.opened, 2);
     running.prefs.setKeepRunning(false);
-    QVERIFY(!MenuBarPrefs(running.preferences).keepRunning());
+    QVERIFY(!MenuBarPrefs(running.preferences, running.disk.log).keepRunning());
     running.delegate.lastWindowClosed();
     running.tray.menu.back().run();
     QCOMPARE(running.ended, 2);
+  }
+
+  void readsPreferencesOfAnyKind() {
+    TestServices disk;
+    IniPreferences stored(disk.path("tarnloft.ini"));
+    const auto read = [&] { return MenuBarPrefs(stored, disk.log); };
+    QCOMPARE(read().hotKey(), (HotKey{49, 6144}));
+    stored.setText("mb.showType", "true");
+    stored.setText("mb.showColors", "perhaps");
+    stored.setNumber("mb.hotKeyCode", 11);
+    stored.setNumber("mb.hotKeyModifiers", 0);
+    QVERIFY(read().showType() && read().showColors() && !read().showCode());
+    QCOMPARE(read().hotKey(), (HotKey{11, 0}));
+    stored.setNumber("mb.hotKeyCode", 3.5);
+    stored.setText("mb.hotKeyModifiers", "many");
+    QCOMPARE(read().hotKey(), HotKey());
+    QVERIFY(disk.log.lines.isEmpty());
+    for (const double odd : {-1.0, 4294967296.0}) {
+      stored.setNumber("mb.hotKeyCode", odd);
+      QCOMPARE(read().hotKey(), HotKey());
+    }
+    QCOMPARE(disk.log.lines.size(), 2);
   }
 };
 

@@ -60,7 +60,7 @@ TarnLoftApp::TarnLoftApp()
     : library_(services_.forLibrary()),
       theme_(Theme::of(engine_)),
       tint_(library_, theme_),
-      menuBarPrefs_(services_.preferences),
+      menuBarPrefs_(services_.preferences, services_.log),
       mainWindow_(engine_, services_.forWorkspace(library_), services_.state),
       appDelegate_(
           services_.preferences, menuBarPrefs_, services_.statusItem, [this] { openMainWindow(); },
