@@ -17,7 +17,7 @@ below.pictures = ['assets', 'controls', ...below.assets];
 below.sheets = ['pictures', ...below.pictures];
 below.workspace = ['sheets', ...below.sheets];
 below.shell = ['workspace', ...below.workspace];
-below.quickgrab = ['workspace', ...below.workspace];
+below.quickgrab = ['pictures', ...below.pictures];
 below.entry = ['shell', 'quickgrab', ...below.shell];
 
 function* files(folder) {

@@ -4,6 +4,7 @@
 #include "platform/SystemLog.h"
 
 #include <QObject>
+#include <QtQml/qqmlregistration.h>
 
 namespace tarnloft {
 
@@ -20,6 +21,8 @@ struct HotKey {
 // that can't be understood yields the default. Main thread.
 class MenuBarPrefs : public QObject {
   Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("The application has one")
   Q_PROPERTY(bool keepRunning READ keepRunning WRITE setKeepRunning NOTIFY keepRunningChanged)
   Q_PROPERTY(bool showDock READ showDock WRITE setShowDock NOTIFY showDockChanged)
   Q_PROPERTY(bool showColors READ showColors WRITE setShowColors NOTIFY assetTypesChanged)
