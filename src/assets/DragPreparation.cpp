@@ -5,16 +5,17 @@
 
 namespace tarnloft {
 
-void DragPreparation::begin(const QString& key, std::function<DragItem()> work) {
+void DragPreparation::begin(const QString& key, std::function<QList<DragItem>()> work) {
   if (underWay_.valid() && key_ == key) return;
-  const auto task = std::make_shared<std::packaged_task<DragItem()>>(std::move(work));
+  const auto task = std::make_shared<std::packaged_task<QList<DragItem>()>>(std::move(work));
   key_ = key;
   underWay_ = task->get_future();
   QThreadPool::globalInstance()->start([task] { (*task)(); });
 }
 
-std::optional<DragItem> DragPreparation::make(const QString& key, std::function<DragItem()> work,
-                                              std::chrono::milliseconds patience) {
+std::optional<QList<DragItem>> DragPreparation::make(const QString& key,
+                                                     std::function<QList<DragItem>()> work,
+                                                     std::chrono::milliseconds patience) {
   begin(key, std::move(work));
   if (underWay_.wait_for(patience) != std::future_status::ready) return std::nullopt;
   return std::exchange(underWay_, {}).get();

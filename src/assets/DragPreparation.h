@@ -14,15 +14,15 @@ namespace tarnloft {
 class DragPreparation {
  public:
   // Begins, so that the next `make` for that key needn't wait as long.
-  void begin(const QString& key, std::function<DragItem()> work);
+  void begin(const QString& key, std::function<QList<DragItem>()> work);
   // None if it takes longer. It goes on then, and the next call gets it if it is for the same
   // thing, which the key tells from others.
-  std::optional<DragItem> make(const QString& key, std::function<DragItem()> work,
-                               std::chrono::milliseconds patience);
+  std::optional<QList<DragItem>> make(const QString& key, std::function<QList<DragItem>()> work,
+                                      std::chrono::milliseconds patience);
 
  private:
   QString key_;
-  std::shared_future<DragItem> underWay_;  // what was waited for in vain
+  std::shared_future<QList<DragItem>> underWay_;  // what was waited for in vain
 };
 
 }  // namespace tarnloft

@@ -5,6 +5,8 @@
 #include "assets/TiffFlavour.h"
 #include "model/FileName.h"
 
+#include <QSet>
+
 namespace tarnloft::TileDrag {
 namespace {
 
@@ -14,6 +16,13 @@ std::optional<QString> exported(FileStore& files, const PackageReader& package,
   const auto path = package.assetPath(asset);
   if (!path) return std::nullopt;
   return DragFileExport::tempURL(files, *path, asset.originalName);
+}
+
+// "Logo.png" is "Logo 2.png" then.
+QString numbered(const QString& name, int number) {
+  const QString extension = pathExtension(name);
+  return withoutPathExtension(name) + QLatin1Char(' ') + QString::number(number) +
+         (extension.isEmpty() ? QString() : QLatin1Char('.') + extension);
 }
 
 DragItem fileItem(const std::optional<QString>& path, const QString& originalName) {
@@ -52,13 +61,19 @@ DragItem makeDragProvider(const DragServices& services, const PackageReader& pac
                             asset ? fileExportProvider(services, package, *asset) : DragItem());
 }
 
-QStringList exportURLs(FileStore& files, const PackageReader& package, const Section& section,
-                       const QSet<QUuid>& items) {
+QStringList exportURLs(FileStore& files, const PackageReader& package,
+                       const QList<AssetRef>& assets) {
   QStringList urls;
-  for (const Item& item : section.items) {
-    const auto asset = items.contains(item.id) ? item.exportableAsset() : std::nullopt;
-    if (!asset) continue;
-    if (const auto url = exported(files, package, *asset)) urls << *url;
+  QSet<QString> taken;  // folded, as some receivers' disks tell no case
+  for (const AssetRef& asset : assets) {
+    const QString name = lastPathComponent(asset.originalName);
+    QString free = name;
+    for (int number = 2; taken.contains(free.toCaseFolded()); ++number)
+      free = numbered(name, number);
+    const auto url = exported(files, package, {asset.filename, free});
+    if (!url || !files.exists(*url)) continue;
+    taken.insert(free.toCaseFolded());
+    urls << *url;
   }
   return urls;
 }

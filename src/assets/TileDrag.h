@@ -2,12 +2,9 @@
 
 #include "document/PackageReader.h"
 #include "model/Item.h"
-#include "model/Section.h"
 #include "platform/ContentTypes.h"
 #include "platform/DragSession.h"
 #include "platform/Images.h"
-
-#include <QSet>
 
 namespace tarnloft {
 
@@ -33,10 +30,10 @@ DragItem fileExportProvider(const DragServices& services, const PackageReader& p
 // One file of a logo set: the file alone, so that a drop inside the program imports it.
 DragItem variantProvider(FileStore& files, const PackageReader& package, const AssetRef& asset);
 
-// The files of those items of a section that have one, in the section's order. Files of the same
-// name are one file, the last one, listed twice.
-QStringList exportURLs(FileStore& files, const PackageReader& package, const Section& section,
-                       const QSet<QUuid>& items);
+// Copies of those files under their clients' names, in their order; of two with one name the second
+// gets a number. What can't be read is left out.
+QStringList exportURLs(FileStore& files, const PackageReader& package,
+                       const QList<AssetRef>& assets);
 
 // The drag of several files.
 QList<DragItem> providers(const QStringList& urls);

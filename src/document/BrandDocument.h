@@ -122,6 +122,11 @@ class BrandDocument : public QObject {
   void snapshotVersion(const std::optional<QString>& label);
   // Newest first, waiting for the disk. A file that doesn't read is left alone and left out.
   QList<BrandVersion> listVersions() const;
+  // The same without waiting, behind what was asked for before.
+  void listVersions(std::function<void(const QList<BrandVersion>&)> done) const;
+  // The brand that a version holds.
+  void readVersion(const BrandVersion& version,
+                   std::function<void(const Result<Brand>&)> done) const;
   // One undo step, "Restore Version".
   void restoreVersion(const BrandVersion& version, UndoManager* undoManager);
   void deleteVersion(const BrandVersion& version);

@@ -16,6 +16,19 @@ QList<BrandVersion> BrandDocument::listVersions() const {
   return PackageVersions(services_.files, packageURL_).list();
 }
 
+void BrandDocument::listVersions(std::function<void(const QList<BrandVersion>&)> done) const {
+  services_.disk.ask([writer = writer_] { return writer->versions().list(); }, std::move(done),
+                     DiskWork::Patience::none);
+}
+
+void BrandDocument::readVersion(const BrandVersion& version,
+                                std::function<void(const Result<Brand>&)> done) const {
+  services_.disk.ask([writer = writer_, version] { return writer->versions().read(version.url); },
+                     [done = std::move(done)](const Result<VersionEnvelope>& envelope) {
+                       done(envelope.map([](const VersionEnvelope& read) { return read.brand; }));
+                     });
+}
+
 void BrandDocument::restoreVersion(const BrandVersion& version, UndoManager* undoManager) {
   services_.disk.ask(
       [writer = writer_, version] { return writer->versions().read(version.url); },

@@ -4,6 +4,7 @@
 #include "document/Package.h"
 #include "model/FileName.h"
 #include "model/JsonCoding.h"
+#include "model/RecordView.h"
 
 #include <algorithm>
 #include <chrono>
@@ -66,20 +67,25 @@ Result<void> PackageVersions::makeFolder() {
   return Package::makeFolder(files_, folder(), packageURL_);
 }
 
-template <class Visit>
-void PackageVersions::forEach(Visit&& visit) const {
+QStringList PackageVersions::paths() const {
+  QStringList paths;
   for (const QString& name : files_.list(folder()).value_or(QStringList())) {
-    if (!name.endsWith(QLatin1String(".json"))) continue;
-    const QString path = folder() + QLatin1Char('/') + name;
-    if (const auto envelope = read(path)) visit(path, *envelope);
+    if (name.endsWith(QLatin1String(".json"))) paths << folder() + QLatin1Char('/') + name;
   }
+  return paths;
 }
 
+// Checked as a whole, but only what a row needs is taken out.
 QList<BrandVersion> PackageVersions::list() const {
   QList<BrandVersion> versions;
-  forEach([&](const QString& path, const VersionEnvelope& envelope) {
-    versions << BrandVersion{path, envelope.createdAt, envelope.label};
-  });
+  for (const QString& path : paths()) {
+    const auto file = Package::readJson(files_, path, packageURL_);
+    if (!file) continue;
+    const auto envelope = RecordView<VersionEnvelope>::parse(file->bytes);
+    if (!envelope) continue;
+    versions << BrandVersion{path, valueOf<&VersionEnvelope::createdAt>(*envelope),
+                             valueOf<&VersionEnvelope::label>(*envelope)};
+  }
   std::sort(versions.begin(), versions.end(), isNewer);
   return versions;
 }
@@ -123,11 +129,11 @@ Result<void> PackageVersions::keepSynced(const Brand& brand, Timestamp moment) {
 }
 
 bool PackageVersions::holds(const Brand& brand) const {
-  bool found = false;
-  forEach([&](const QString&, const VersionEnvelope& envelope) {
-    found = found || isSameContent(envelope.brand, brand);
+  const QStringList candidates = paths();
+  return std::any_of(candidates.begin(), candidates.end(), [&](const QString& path) {
+    const auto envelope = read(path);
+    return envelope && isSameContent(envelope->brand, brand);
   });
-  return found;
 }
 
 Result<void> PackageVersions::keepBytes(const QString& manifest, Timestamp moment,

@@ -46,8 +46,7 @@ class PackageVersions {
   QString folder() const;
   Result<void> makeFolder();
   bool holds(const Brand& brand) const;
-  template <class Visit>
-  void forEach(Visit&& visit) const;
+  QStringList paths() const;
   void prune(const BrandVersion& justKept);
 
   FileStore& files_;

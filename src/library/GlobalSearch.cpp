@@ -33,6 +33,7 @@ QList<SearchHit> GlobalSearch::hits(const QList<BrandSummary>& rows, const QStri
   const std::string folded = foldedQuery(query);
   QList<SearchHit> hits;
   if (folded.empty()) return hits;
+  const std::lock_guard lock(mutex_);
   std::vector<Kept*> kept;  // null for the open brand; an entry stays where it is
   const SearchableBrand* inMemory = nullptr;
   for (const BrandSummary& row : rows) {
@@ -77,6 +78,7 @@ void GlobalSearch::forgetAllBut(const QList<BrandSummary>& rows) {
 }
 
 qsizetype GlobalSearch::memory() const {
+  const std::lock_guard lock(mutex_);
   qsizetype bytes = 0;
   for (const auto& [packageURL, kept] : kept_) bytes += kept.brand ? kept.brand->memory() : 0;
   return open_ ? bytes + open_->searchable.memory() : bytes;

@@ -4,6 +4,8 @@
 #include "library/SearchableBrand.h"
 #include "platform/FileStore.h"
 
+#include <atomic>
+#include <mutex>
 #include <unordered_map>
 #include <utility>
 
@@ -16,7 +18,7 @@ using BrandAtURL = std::pair<QString, Brand>;
 QList<SearchHit> searchHits(const QList<BrandAtURL>& brands, const QString& query);
 
 // Searches packages on disk as if each query read every manifest anew, but reads only those that
-// have changed since the last one: by the file's identity, size and times.
+// have changed since the last one: by the file's identity, size and times. Any thread.
 class GlobalSearch {
  public:
   explicit GlobalSearch(const FileStore& files) : files_(files) {}
@@ -25,6 +27,11 @@ class GlobalSearch {
   // package that can't be read is left out.
   QList<SearchHit> hits(const QList<BrandSummary>& rows, const QString& openURL, const Brand* open,
                         const QString& query);
+
+  // For queries that each make those before them needless: a query's number, and whether it is the
+  // newest.
+  quint64 begin() { return ++newest_; }
+  bool isNewest(quint64 query) const { return newest_ == query; }
 
   // Bytes held for later queries.
   qsizetype memory() const;
@@ -44,6 +51,8 @@ class GlobalSearch {
   void forgetAllBut(const QList<BrandSummary>& rows);
 
   const FileStore& files_;
+  std::atomic<quint64> newest_ = 0;
+  mutable std::mutex mutex_;                // of all that follows
   std::unordered_map<QString, Kept> kept_;  // by package
   std::optional<KeptOpen> open_;
 };

@@ -32,6 +32,8 @@ struct LibraryServices {
   QString temporaryFolder;
   // For what takes long, such as copies of whole packages.
   DiskWork& copies = immediateDisk();
+  // For what only reads, and would be behind what is written.
+  DiskWork& searches = immediateDisk();
 };
 
 }  // namespace tarnloft

@@ -28,7 +28,7 @@ LibraryStore::LibraryStore(const LibraryServices& services)
       places_(std::make_shared<PackagePlaces>(services.document.files)),
       documentServices_(withPlaces(services.document, places_)),
       preferences_(services.preferences),
-      search_(services.document.files),
+      search_(std::make_shared<GlobalSearch>(services.document.files)),
       libraryURL_(defaultLibraryURL(services)) {
   connect(&preferences_, &LibraryPreferences::appearanceModeChanged, this,
           &LibraryStore::applyAppearance);
@@ -255,7 +255,23 @@ void LibraryStore::setScrollToSection(const std::optional<QUuid>& section) {
 
 QList<SearchHit> LibraryStore::searchAllBrands(const QString& query) {
   const Brand* open = openDocument_ ? &openDocument_->brand() : nullptr;
-  return search_.hits(brands_, selection_.value_or(QString()), open, query);
+  return search_->hits(brands_, selection_.value_or(QString()), open, query);
+}
+
+void LibraryStore::searchAllBrands(const QString& query,
+                                   std::function<void(QList<SearchHit>)> done) {
+  const quint64 number = search_->begin();
+  const auto open = openDocument_ ? std::optional(openDocument_->brand()) : std::nullopt;
+  services_.searches.ask(
+      [search = search_, number, rows = brands_, selected = selection_.value_or(QString()), open,
+       query] {
+        if (!search->isNewest(number)) return QList<SearchHit>();
+        return search->hits(rows, selected, open ? &*open : nullptr, query);
+      },
+      [search = search_, number, done = std::move(done)](QList<SearchHit> hits) {
+        if (search->isNewest(number)) done(std::move(hits));
+      },
+      DiskWork::Patience::none);
 }
 
 void LibraryStore::reveal(const SearchHit& hit) {

@@ -138,6 +138,8 @@ class LibraryStore : public QObject {
 
   // The hits of all brands in display order, edits of the open one that aren't saved included.
   QList<SearchHit> searchAllBrands(const QString& query);
+  // The same away from the main thread. Never called if another query follows before it is done.
+  void searchAllBrands(const QString& query, std::function<void(QList<SearchHit>)> done);
   // Selects the hit's brand and, on the next turn of the event loop, asks for its section.
   void reveal(const SearchHit& hit);
 
@@ -223,7 +225,7 @@ class LibraryStore : public QObject {
   const std::shared_ptr<PackagePlaces> places_;
   const DocumentServices documentServices_;  // with them
   LibraryPreferences preferences_;
-  GlobalSearch search_;
+  const std::shared_ptr<GlobalSearch> search_;  // with the searches under way
   QString libraryURL_;
   QList<BrandSummary> brands_;
   QHash<QString, LibraryListing::Twin> twins_;

@@ -3,7 +3,7 @@
 #include "assets/ItemDrag.h"
 #include "controls/sheets/NameSheet.h"
 #include "document/Package.h"
-#include "workspace/selection/GroupOperations.h"
+#include "sheets/versions/VersionHistorySheet.h"
 
 #include <algorithm>
 #include <utility>
@@ -17,9 +17,12 @@ BrandWorkspace::BrandWorkspace(BrandDocument& document, const WindowParts& windo
       window_(window),
       services_(services),
       commands_(document, window, services),
+      search_(services.library),
+      selected_(document, window, services),
       sections_(*this) {
   connect(&document, &BrandDocument::brandChanged, this, &BrandWorkspace::refreshSoon);
-  connect(&window.selection, &TileSelection::idsChanged, this, &BrandWorkspace::selectionChanged);
+  connect(&document, &BrandDocument::packageURLChanged, this, &BrandWorkspace::placeChanged);
+  connect(&search_, &PageSearch::changed, this, &BrandWorkspace::refresh);
   const auto& preferences = services_.library.preferences();
   connect(&preferences, &LibraryPreferences::tileSizeChanged, this,
           &BrandWorkspace::metricsChanged);
@@ -39,15 +42,14 @@ void BrandWorkspace::refresh() {
   isRefreshDue_ = false;
   if (!document_) return;
   const Brand brand = document_->brand();
-  sections_.setSections(brand.sections, searchText_);
+  const QString filter = search_.filter();
+  sections_.setSections(brand.sections, filter);
+  const auto isShown = [](const auto& section) { return section->isShown(); };
+  const auto& models = sections_.models();
+  const bool isNothingFound =
+      !filter.trimmed().isEmpty() && std::none_of(models.begin(), models.end(), isShown);
+  if (std::exchange(isNothingFound_, isNothingFound) != isNothingFound) emit foundChanged();
   if (std::exchange(name_, brand.name) != brand.name) emit nameChanged();
-}
-
-void BrandWorkspace::setSearchText(const QString& text) {
-  if (searchText_ == text) return;
-  searchText_ = text;
-  emit searchTextChanged();
-  refresh();
 }
 
 double BrandWorkspace::tileHeight() const {
@@ -58,19 +60,30 @@ bool BrandWorkspace::isExpanded() const {
   return services_.library.preferences().assetDisplayMode() == AssetDisplayMode::expanded;
 }
 
-void BrandWorkspace::selectAll() {
-  if (document_)
-    GroupOperations(*document_, window_.selection, window_.undoManager).selectAllInContext();
+void BrandWorkspace::setExpanded(bool expanded) {
+  services_.library.preferences().setAssetDisplayMode(expanded ? AssetDisplayMode::expanded
+                                                               : AssetDisplayMode::compact);
 }
 
-void BrandWorkspace::deleteSelection() {
+int BrandWorkspace::tileSize() const { return int(services_.library.preferences().tileSize()); }
+
+void BrandWorkspace::setTileSize(int size) {
+  services_.library.preferences().setTileSize(TileSize(size));
+}
+
+void BrandWorkspace::rename(const QString& name) {
+  const QString trimmed = name.trimmed();
+  if (!document_ || trimmed.isEmpty() || trimmed == document_->brand().name) return;
+  // It may be shown a moment longer than it is open.
+  if (services_.library.openDocument() == document_) services_.library.renameSelectedBrand(trimmed);
+}
+
+void BrandWorkspace::showVersions() {
   if (!document_) return;
-  const auto told =
-      GroupOperations(*document_, window_.selection, window_.undoManager).bulkDelete();
-  if (told) window_.toasts.show(*told);
+  const auto toast = [&toasts = window_.toasts](const QString& text) { toasts.show(text); };
+  window_.sheets.show(std::make_unique<VersionHistorySheet>(
+      *document_, VersionHistorySheet::Actions{window_.undoManager, window_.sheets, toast}));
 }
-
-void BrandWorkspace::clearSelection() { window_.selection.clear(); }
 
 void BrandWorkspace::askNewSection() {
   const auto add = [document = document_](const QString& name) {

@@ -5,7 +5,8 @@
 #include "workspace/ToastCenter.h"
 #include "workspace/WorkspaceServices.h"
 #include "workspace/page/SectionListModel.h"
-#include "workspace/selection/TileSelection.h"
+#include "workspace/search/PageSearch.h"
+#include "workspace/selection/SelectionActions.h"
 #include "workspace/tiles/TileCommands.h"
 
 #include <QPointer>
@@ -25,12 +26,17 @@ class BrandWorkspace : public QObject {
   QML_UNCREATABLE("Made by the application")
   Q_PROPERTY(QString name READ name NOTIFY nameChanged)
   Q_PROPERTY(tarnloft::SectionListModel* sections READ sections CONSTANT)
-  Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
-  Q_PROPERTY(bool hasSelection READ hasSelection NOTIFY selectionChanged)
+  Q_PROPERTY(tarnloft::PageSearch* search READ search CONSTANT)
+  // The page's own search finds nothing.
+  Q_PROPERTY(bool nothingFound READ isNothingFound NOTIFY foundChanged)
+  Q_PROPERTY(tarnloft::SelectionActions* selected READ selected CONSTANT)
   Q_PROPERTY(double gridMinWidth READ gridMinWidth NOTIFY metricsChanged)
   Q_PROPERTY(double gridMaxWidth READ gridMaxWidth NOTIFY metricsChanged)
   Q_PROPERTY(double tileHeight READ tileHeight NOTIFY metricsChanged)
-  Q_PROPERTY(bool expanded READ isExpanded NOTIFY metricsChanged)  // tiles tell all of their item
+  // Tiles tell all of their item.
+  Q_PROPERTY(bool expanded READ isExpanded WRITE setExpanded NOTIFY metricsChanged)
+  // Small, medium, large: the place of the preference's case.
+  Q_PROPERTY(int tileSize READ tileSize WRITE setTileSize NOTIFY metricsChanged)
   Q_PROPERTY(tarnloft::AssetSpecs* specs READ specs CONSTANT)
   Q_PROPERTY(tarnloft::Thumbnails* thumbnails READ thumbnails CONSTANT)
   Q_PROPERTY(tarnloft::Posters* posters READ posters CONSTANT)
@@ -42,22 +48,24 @@ class BrandWorkspace : public QObject {
 
   const QString& name() const { return name_; }
   SectionListModel* sections() { return &sections_; }
-  const QString& searchText() const { return searchText_; }
-  void setSearchText(const QString& text);
+  PageSearch* search() { return &search_; }
+  bool isNothingFound() const { return isNothingFound_; }
+  SelectionActions* selected() { return &selected_; }
   double gridMinWidth() const { return services_.library.gridMinWidth(); }
   double gridMaxWidth() const { return services_.library.gridMaxWidth(); }
   double tileHeight() const;
   bool isExpanded() const;
+  void setExpanded(bool expanded);
+  int tileSize() const;
+  void setTileSize(int size);
   AssetSpecs* specs() const { return &services_.specs; }
   Thumbnails* thumbnails() const { return &services_.thumbnails; }
   Posters* posters() const { return &services_.posters; }
 
-  bool hasSelection() const { return window_.selection.count() > 0; }
-  // Selects the tiles of the selected section, else of the first one that has any.
-  Q_INVOKABLE void selectAll();
-  // Undoable.
-  Q_INVOKABLE void deleteSelection();
-  Q_INVOKABLE void clearSelection();
+  // Gives the brand that name, without the white space around it; nothing happens if there is none
+  // or it is the brand's already.
+  Q_INVOKABLE void rename(const QString& name);
+  Q_INVOKABLE void showVersions();
   // Asks for a name and appends an empty section, not undoable.
   Q_INVOKABLE void askNewSection();
 
@@ -95,9 +103,10 @@ class BrandWorkspace : public QObject {
 
  signals:
   void nameChanged();
-  void searchTextChanged();
-  void selectionChanged();
+  void foundChanged();
   void metricsChanged();
+  // The package stands elsewhere, and so do its files.
+  void placeChanged();
 
  private:
   void refreshSoon();
@@ -110,7 +119,9 @@ class BrandWorkspace : public QObject {
   const WorkspaceServices services_;
   TileCommands commands_;
   QString name_;
-  QString searchText_;
+  PageSearch search_;
+  SelectionActions selected_;
+  bool isNothingFound_ = false;
   bool isRefreshDue_ = false;
   SectionListModel sections_;
 };

@@ -164,22 +164,16 @@ class TestDragOut : public QObject {
 
   void severalFilesComeInTheSectionsOrder() {
     Dragging dragging;
-    Section section = Section::create("S");
-    section.items = {image(dragging.asset("1", "One.png")),
-                     Item::create(TextPayload{"text"}),
-                     image(dragging.asset("2", "Same.png")),
-                     image(dragging.asset("3", "Same.png")),
-                     image({"lost", "Lost.png"}),
-                     image({"../x", "Outside.png"}),
-                     image(dragging.asset("4", "Not.png"))};
-    QSet<QUuid> selected;
-    for (qsizetype i = 5; i >= 0; --i) selected << section.items.at(i).id;
+    const QList<AssetRef> assets{dragging.asset("1", "One.png"),  dragging.asset("2", "Same.png"),
+                                 dragging.asset("3", "same.PNG"), {"lost", "Lost.png"},
+                                 {"../x", "Outside.png"},         dragging.asset("4", "noname")};
     const QStringList urls =
-        TileDrag::exportURLs(dragging.disk.files, dragging.document->files(), section, selected);
-    const QString same = dragging.folder + "/Same.png";
-    QCOMPARE(urls,
-             QStringList({dragging.folder + "/One.png", same, same, dragging.assetPath("lost")}));
-    QCOMPARE(contentOf(same), "3");
+        TileDrag::exportURLs(dragging.disk.files, dragging.document->files(), assets);
+    QStringList expected;
+    for (const char* name : {"One.png", "Same.png", "same 2.PNG", "noname"})
+      expected << dragging.folder + "/" + name;
+    QCOMPARE(urls, expected);
+    QCOMPARE(contentOf(expected.at(2)), "3");
   }
 };
 

@@ -290,7 +290,7 @@ class TestBrandPage : public QObject {
       return page.focused();
     };
     QString found;
-    for (int tabs = 0; tabs < 10 && found.isEmpty(); ++tabs) found = steps({Qt::Key_Tab});
+    for (int tabs = 0; tabs < 15 && found.isEmpty(); ++tabs) found = steps({Qt::Key_Tab});
     QCOMPARE(found, "0");
     QCOMPARE(steps({Qt::Key_Right, Qt::Key_Right}), "2");
     QCOMPARE(steps({Qt::Key_Down, Qt::Key_Left}), "7");
@@ -462,7 +462,7 @@ class TestBrandPage : public QObject {
     TestWorkspace test({sectionOf("A", {colorItem("Sea"), colorItem("Sand")}),
                         sectionOf("B", {colorItem("Stone")})});
     TestPage page(test);
-    test.workspace->setSearchText("sea");
+    test.workspace->search()->setText("sea");
     page.settle();
     QVERIFY(page.tileNamed("Sea") && !page.tileNamed("Sand"));
     QVERIFY(accessible(page, QAccessible::Grouping, "A"));

@@ -116,10 +116,10 @@ class TestWorkspaceModels : public QObject {
       }
       return names;
     };
-    test.workspace->setSearchText(" hero ");
+    test.workspace->search()->setText(" hero ");
     QCOMPARE(test.shown(0), QStringList{"Hero"});
     QCOMPARE(visible(), "A");
-    test.workspace->setSearchText("  ");
+    test.workspace->search()->setText("  ");
     QCOMPARE(test.shown(0), (QStringList{"Sea", "Hero", "Sand"}));
     QCOMPARE(visible(), "ABC");
   }
@@ -231,8 +231,8 @@ class TestWorkspaceModels : public QObject {
     test.section(0).addColor();
     test.section(0).importImages();
     test.section(0).remove();
-    test.workspace->selectAll();
-    test.workspace->deleteSelection();
+    test.workspace->selected()->selectAll();
+    test.workspace->selected()->remove();
     QVERIFY(!test.workspace->drop(QMimeData(), test.section(0).id()));
     QVERIFY(test.drags.items.isEmpty());
   }

@@ -3,8 +3,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import TarnLoft.Controls
 
-// A field for a search text, with a button that clears it. Esc clears it first and then leaves it
-// to the view. `searching` holds while it has a text or the focus: show a ScopeBar beneath by it.
+// A field for a search text, with a button that clears it. Esc clears it first, then emits `leaving` and
+// goes on to the view. `searching` holds while it has a text or the focus: show a ScopeBar beneath by it.
 //   SearchField { placeholderText: "Search Acme"; onTextEdited: … }
 FocusScope {
     id: root
@@ -17,6 +17,11 @@ FocusScope {
 
     signal textEdited
     signal accepted
+    signal leaving
+
+    function selectAll() {
+        field.selectAll();
+    }
 
     function clear() {
         field.clear();
@@ -26,10 +31,13 @@ FocusScope {
     implicitWidth: 220
     implicitHeight: 28
 
+    Keys.onShortcutOverride: event => event.accepted = event.key === Qt.Key_Escape // not the window's
     Keys.onEscapePressed: event => {
         event.accepted = text !== "";
         if (event.accepted)
             clear();
+        else
+            leaving();
     }
 
     RoundedRectangle {

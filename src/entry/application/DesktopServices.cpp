@@ -32,7 +32,8 @@ LibraryServices DesktopServices::forLibrary() {
           .makeColorSampler = [this] { return makeColorSampler(); },
           .applicationSupport = SupportFolder::applicationSupportFolder(),
           .temporaryFolder = QDir::tempPath(),
-          .copies = copies};
+          .copies = copies,
+          .searches = searches};
 }
 
 WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
@@ -74,7 +75,8 @@ bool DesktopServices::finish(std::chrono::milliseconds patience) {
          media.sharedThumbnails.finish(std::chrono::milliseconds(remaining())) &&
          media.clipPlayers.finish(std::chrono::milliseconds(remaining())) &&
          workers.waitForDone(remaining()) && disk.finish(std::chrono::milliseconds(remaining())) &&
-         copies.finish({}) && QThreadPool::globalInstance()->waitForDone(remaining());
+         searches.finish(std::chrono::milliseconds(remaining())) && copies.finish({}) &&
+         QThreadPool::globalInstance()->waitForDone(remaining());
 }
 
 QString DesktopServices::stateFile() {

@@ -46,6 +46,7 @@ struct DesktopServices {
   MediaServices media{files};
   DiskThread disk;
   DiskThread copies;
+  DiskThread searches;
   QThreadPool workers;  // of what is dropped; waited for before the others go
   MimeDrops drops{workers};
   ImportProgress importProgress;

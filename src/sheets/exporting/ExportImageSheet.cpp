@@ -156,19 +156,21 @@ void ExportImageSheet::save() {
                        });
 }
 
-std::function<DragItem()> ExportImageSheet::dragWork() const {
-  return [&images = services_.images, &files = services_.files, target = target_,
-          choice = choice()] { return ExportHandout::dragItem(images, files, target, choice); };
+std::function<QList<DragItem>()> ExportImageSheet::dragWork() const {
+  return
+      [&images = services_.images, &files = services_.files, target = target_, choice = choice()] {
+        return QList<DragItem>{ExportHandout::dragItem(images, files, target, choice)};
+      };
 }
 
 void ExportImageSheet::prepareDrag() { dragPreparation_.begin(choice().key(), dragWork()); }
 
 void ExportImageSheet::drag(QQuickItem* view, const QImage& grabbed, qreal radius) {
   constexpr std::chrono::seconds patience(10);
-  const auto item = dragPreparation_.make(choice().key(), dragWork(), patience);
-  if (!item || !item->file) return;
-  carryOut(*view, grabbed, radius, [&session = services_.dragSession, item](const DragLook& look) {
-    session.drag({*item}, look);
+  const auto items = dragPreparation_.make(choice().key(), dragWork(), patience);
+  if (!items || !items->first().file) return;
+  carryOut(*view, grabbed, radius, [&session = services_.dragSession, items](const DragLook& look) {
+    session.drag(*items, look);
   });
 }
 

@@ -100,7 +100,7 @@ class ExportImageSheet : public tarnloft::SheetModel {
   void resize(const std::function<void(ExportImageSize&)>& change);
   void followChoice();
   void setBusy(bool busy);
-  std::function<DragItem()> dragWork() const;
+  std::function<QList<DragItem>()> dragWork() const;
 
   const std::unique_ptr<ItemBinding> item_;
   const ExportTarget target_;

@@ -97,10 +97,8 @@ void ContentModel::answerScrollRequest() {
 void ContentModel::renewWorkspace() {
   BrandDocument* const document = library_.openDocument();
   if (!workspace_ && !document) return;
-  const QString package = document ? document->packageURL() : QString();
-  const bool isSame = workspace_ && document && workspace_->document() == document;
-  if (isSame && workspacePackage_ == package) return;
-  workspacePackage_ = package;
+  // A brand whose package has moved keeps its page, with what is scrolled to and selected there.
+  if (workspace_ && document && workspace_->document() == document) return;
   auto old = std::exchange(workspace_, document ? makeWorkspace(*document) : nullptr);
   emit workspaceChanged();
   // The old page goes in turns of its own, its sections behind it, and reads the old one till then.
@@ -135,10 +133,13 @@ void ContentModel::followDocument() {
   }
 }
 
+// A brand whose package has moved is the same one.
 void ContentModel::followSelection() {
-  if (std::exchange(selectedBrand_, library_.selection()) != library_.selection()) {
-    selection_.clear();
-  }
+  if (std::exchange(selectedBrand_, library_.selection()) == library_.selection()) return;
+  const BrandDocument* const open = library_.openDocument();
+  const bool isSame = open && workspace_ && workspace_->document() == open &&
+                      open->packageURL() == library_.selection();
+  if (!isSame) selection_.clear();
 }
 
 }  // namespace tarnloft

@@ -98,7 +98,6 @@ class ContentModel : public QObject {
   QPointer<NameSheet> newBrandSheet_;  // while it is up
   QString newBrandName_;
   std::unique_ptr<BrandWorkspace> workspace_;
-  QString workspacePackage_;              // where its paths lead
   QPointer<BrandDocument> undoDocument_;  // whose steps the undo has
 };
 

@@ -305,6 +305,12 @@ void TileFlow::advance(double seconds) {
   polish();
 }
 
+bool TileFlow::focusFirst() {
+  const int first = layout_.neighbour(0, FlowLayout::Direction::first);
+  if (first >= 0) focusTile(first);
+  return first >= 0;
+}
+
 int TileFlow::focusedIndex() const {
   int index = -1;
   live_.forEach([&](const LiveTile& live) {

@@ -38,6 +38,9 @@ class TileFlow : public QQuickItem {
   void setViewHeight(qreal height);
   void setReachable(bool reachable);
 
+  // Gives the first tile the keyboard; false if there is none.
+  Q_INVOKABLE bool focusFirst();
+
   // Views that exist, those that wait for another item included.
   int liveCount() const { return live_.count(); }
   // Views that have been made since the beginning.

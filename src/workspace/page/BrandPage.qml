@@ -25,12 +25,22 @@ FocusScope {
     // Whether nothing that a click could mean stands there.
     function isGround(at: point): bool {
         for (let item = root, next = item.childAt(at.x, at.y); next; next = item.childAt(at.x, at.y)) {
-            if (next as TileContainer || next as BlockItemView || next as SectionHeader || next as T.Control)
+            if (next as TileContainer || next as BlockItemView || next as SectionHeader || next as SelectionToolbar || next as BrandTitle || next as T.Control)
                 return false;
             at = item.mapToItem(next, at);
             item = next;
         }
         return true;
+    }
+
+    // Gives the keyboard to the first of what the search has found.
+    function focusResults() {
+        if (workspace.search.global)
+            return results.item?.forceActiveFocus(Qt.TabFocusReason);
+        for (let index = 0; index < sections.count; ++index) {
+            if ((sections.itemAt(index) as SectionView).focusFirst())
+                return;
+        }
     }
 
     // Scrolls to that section, which is counted among all.
@@ -40,19 +50,25 @@ FocusScope {
 
     Shortcut {
         sequence: "Ctrl+A"
-        onActivated: root.workspace.selectAll()
+        enabled: !root.workspace.search.global
+        onActivated: root.workspace.selected.selectAll()
     }
 
     Shortcut {
         sequences: ["Delete", "Backspace"]
-        enabled: root.workspace.hasSelection
-        onActivated: root.workspace.deleteSelection()
+        enabled: root.workspace.selected.count > 0
+        onActivated: root.workspace.selected.remove()
     }
 
     Shortcut {
         sequence: "Esc"
-        enabled: root.workspace.hasSelection
-        onActivated: root.workspace.clearSelection()
+        enabled: root.workspace.selected.count > 0
+        onActivated: root.workspace.selected.clear()
+    }
+
+    Shortcut {
+        sequences: ["Ctrl+F"]
+        onActivated: head.focusSearch()
     }
 
     // Takes the keyboard from a name that is being edited, when the page's ground is clicked.
@@ -67,20 +83,30 @@ FocusScope {
             if (!root.isGround(point.position))
                 return;
             ground.forceActiveFocus(Qt.MouseFocusReason);
-            root.workspace.clearSelection();
+            root.workspace.selected.clear();
         }
     }
 
-    Label {
-        id: title
+    DragScroll {
+        anchors.fill: parent
+        head: scroll.y
+        enabled: scroll.visible
+        flickable: scroll
+    }
 
-        x: Math.max(root.contentLeft, root.headStart)
-        y: 14
-        width: root.contentLeft + root.contentWidth - x
-        text: root.workspace.name
-        horizontalAlignment: Text.AlignLeft // of a right-to-left one too
-        font: Theme.font(26, Font.Bold)
-        Accessible.role: Accessible.Heading
+    // Tiles stay where they are seen while the tools of the selection come and go above them.
+    PageHead {
+        id: head
+
+        width: parent.width
+        height: implicitHeight
+        workspace: root.workspace
+        contentLeft: root.contentLeft
+        contentWidth: root.contentWidth
+        headStart: root.headStart
+        onSelectionHeightChanged: scroll.keepPlace()
+        onResultsRequested: root.focusResults()
+        onLeaving: ground.forceActiveFocus(Qt.OtherFocusReason)
     }
 
     Divider {
@@ -91,18 +117,22 @@ FocusScope {
         z: 1
     }
 
-    DragScroll {
-        anchors.fill: parent
-        head: scroll.y
-        flickable: scroll
-    }
-
     ScrollArea {
         id: scroll
 
         anchors.fill: parent
-        anchors.topMargin: title.y + title.implicitHeight + 10
+        anchors.topMargin: head.height
         contentHeight: column.height
+        bottomMargin: head.selectionHeight // so that there is always room for that
+        visible: !root.workspace.search.global
+
+        property real lastSelectionHeight: 0
+
+        function keepPlace() {
+            const by = head.selectionHeight - lastSelectionHeight;
+            lastSelectionHeight = head.selectionHeight;
+            contentY = Math.max(0, contentY + by);
+        }
 
         function showSection(section: Item) {
             glide.to = Math.max(0, Math.min(section.y - 6, contentHeight - height));
@@ -147,6 +177,7 @@ FocusScope {
             Item {
                 width: parent.width
                 height: addSection.height + 4
+                visible: !root.workspace.nothingFound
 
                 Button {
                     id: addSection
@@ -161,6 +192,38 @@ FocusScope {
                     onActiveFocusChanged: if (activeFocus) root.focusedSection = sections.count
                 }
             }
+        }
+    }
+
+    LazyItem {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: scroll.y + (scroll.height - height) * 0.4
+        active: root.workspace.nothingFound && !root.workspace.search.global
+        sourceComponent: EmptyState {
+            symbol: "magnifyingglass"
+            title: "No matches for “" + root.workspace.search.text.trim() + "”"
+            message: "Searching this brand’s items by name, type and value."
+
+            Button {
+                text: "Search All Brands"
+                onClicked: root.workspace.search.scope = PageSearch.AllBrands
+            }
+        }
+    }
+
+    LazyItem {
+        id: results
+
+        anchors.fill: parent
+        anchors.topMargin: head.height
+        active: root.workspace.search.global
+        visible: active
+        sourceComponent: GlobalSearchResults {
+            search: root.workspace.search
+            thumbnails: root.workspace.thumbnails
+            contentLeft: root.contentLeft
+            contentWidth: root.contentWidth
+            onLeaving: head.focusSearch()
         }
     }
 }

@@ -22,6 +22,7 @@ bool holdsColors(const Section& section) {
 
 SectionModel::SectionModel(BrandWorkspace& workspace, const Section& section)
     : QObject(&workspace), workspace_(workspace), section_(section) {
+  connect(&workspace, &BrandWorkspace::placeChanged, this, &SectionModel::changed);
   take(section, QString());
 }
 

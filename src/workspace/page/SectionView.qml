@@ -28,6 +28,11 @@ FocusScope {
         menu.show(tile, view, at);
     }
 
+    // False without tiles.
+    function focusFirst(): bool {
+        return section.shown && flow.focusFirst();
+    }
+
     implicitHeight: content.y + content.height
     visible: section.shown
 

@@ -1,7 +1,5 @@
 #include "workspace/selection/GroupOperations.h"
 
-#include "assets/TileDrag.h"
-
 #include <algorithm>
 
 namespace tarnloft {
@@ -89,10 +87,15 @@ bool GroupOperations::canGroupAsLogo() const {
   return selected >= 2 && selectedImageCount() == selected;
 }
 
-QStringList GroupOperations::selectedExportURLs(FileStore& files) const {
+QList<AssetRef> GroupOperations::selectedExports() const {
   const Section* section = selectedSection();
   if (!section) return {};
-  return TileDrag::exportURLs(files, document_.files(), *section, selection_.ids());
+  QList<AssetRef> assets;
+  for (const Item& item : section->items) {
+    if (!selection_.ids().contains(item.id)) continue;
+    if (const auto asset = item.exportableAsset()) assets << *asset;
+  }
+  return assets;
 }
 
 void GroupOperations::selectAllInContext() {

@@ -18,8 +18,8 @@ class GroupOperations {
   qsizetype selectedImageCount() const;
   // At least two items are selected, and they are images all.
   bool canGroupAsLogo() const;
-  // Copies those files into the drag folder and gives the copies, in the section's order.
-  QStringList selectedExportURLs(FileStore& files) const;
+  // Those files, in the section's order.
+  QList<AssetRef> selectedExports() const;
 
   // Selects the tiles of the selected section, or else of the first one that has any. Blocks of
   // text are no tiles.

@@ -12,6 +12,7 @@ Tile::Tile(SectionModel& section, const Item& item)
   connect(&workspace()->selection(), &TileSelection::idsChanged, this, &Tile::selectionChanged);
   connect(&workspace()->selection(), &TileSelection::sectionIDChanged, this,
           &Tile::selectionChanged);
+  connect(workspace(), &BrandWorkspace::placeChanged, facet_.get(), &TileFacet::changed);
 }
 
 void Tile::setItem(const Item& item) {

@@ -213,8 +213,9 @@ void TileCommands::remove(const QUuid& item) {
 void TileCommands::drag(const QString& key, const QString& name, std::function<DragItem()> prepare,
                         const DragLook& look) {
   constexpr std::chrono::seconds patience(1);
-  const auto drag = dragPreparation_.make(key, std::move(prepare), patience);
-  if (drag) return services_.dragSession.drag({*drag}, look);
+  const auto drag = dragPreparation_.make(
+      key, [prepare = std::move(prepare)] { return QList<DragItem>{prepare()}; }, patience);
+  if (drag) return services_.dragSession.drag(*drag, look);
   tell(QStringLiteral("Still copying “%1” · Drag it again in a moment").arg(name));
 }
 

@@ -1,0 +1,137 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Controls
+import TarnLoft.Sheets
+
+// The versions of a brand, each of which can be looked at before it is restored.
+Sheet {
+    id: root
+
+    required property VersionHistorySheet model
+
+    readonly property real room: (parent?.width ?? 530) - 2 * (margins + padding) // in a narrow window
+
+    accessibleName: "Version History"
+    defaultButton: done
+
+    Column {
+        width: Math.min(430, root.room)
+        spacing: 12
+
+        Item {
+            width: parent.width
+            height: Math.max(heading.height, done.height)
+
+            Symbol {
+                id: mark
+
+                anchors.verticalCenter: parent.verticalCenter
+                name: "clock.arrow.circlepath"
+                size: 20
+                color: Theme.accent
+            }
+
+            Label {
+                id: heading
+
+                anchors.left: mark.right
+                anchors.leftMargin: 10
+                anchors.right: done.left
+                anchors.rightMargin: 12
+                anchors.verticalCenter: parent.verticalCenter
+                text: "Version History"
+                font: Theme.headline
+                horizontalAlignment: Text.AlignLeft
+                Accessible.role: Accessible.Heading
+            }
+
+            Button {
+                id: done
+
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                text: "Done"
+                kind: Button.Prominent
+                onClicked: root.close()
+            }
+        }
+
+        Item {
+            width: parent.width
+            height: label.height
+
+            TextField {
+                id: label
+
+                anchors.left: parent.left
+                anchors.right: save.left
+                anchors.rightMargin: 8
+                focus: true
+                placeholderText: "Snapshot label (optional)"
+                text: root.model.newLabel
+                onTextEdited: root.model.newLabel = text
+                Keys.onReturnPressed: root.model.saveSnapshot()
+                Keys.onEnterPressed: root.model.saveSnapshot()
+            }
+
+            Button {
+                id: save
+
+                anchors.right: parent.right
+                text: "Save Snapshot"
+                onClicked: root.model.saveSnapshot()
+            }
+        }
+
+        Divider {
+            width: parent.width
+        }
+
+        Item {
+            width: parent.width
+            height: 62
+            visible: root.model.versions.count === 0
+
+            Spinner {
+                anchors.centerIn: parent
+                visible: root.model.loading
+            }
+
+            Label {
+                anchors.centerIn: parent
+                visible: !root.model.loading
+                text: "No versions yet."
+                color: Theme.secondaryLabel
+            }
+        }
+
+        ScrollArea {
+            id: scroll
+
+            x: -rows.padding
+            width: parent.width + 2 * rows.padding
+            height: Math.min(320, contentHeight)
+            visible: root.model.versions.count > 0
+            contentHeight: rows.height
+
+            Column {
+                id: rows
+
+                width: scroll.width
+                padding: 3 // for the rings of what has the focus
+                spacing: 6
+                Accessible.role: Accessible.List
+                Accessible.name: "Versions"
+
+                Repeater {
+                    model: root.model.versions
+                    delegate: VersionRow {
+                        width: rows.width - 2 * rows.padding
+                        sheet: root.model
+                    }
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,100 @@
+#include "workspace/search/SearchResults.h"
+
+#include <array>
+#include <utility>
+
+namespace tarnloft {
+namespace {
+
+const QString brandSymbol = QStringLiteral("square.stack.3d.up");
+
+// By the hit's `typeLabel`.
+constexpr std::array<std::pair<const char*, const char*>, 8> symbols{
+    {{"Color", "paintpalette"},
+     {"Gradient", "square.righthalf.filled"},
+     {"Image", "photo"},
+     {"Video", "play.rectangle"},
+     {"Type", "textformat"},
+     {"Code", "chevron.left.forwardslash.chevron.right"},
+     {"Header", "textformat.size.larger"},
+     {"Text", "text.alignleft"}}};
+
+QString symbolOf(const SearchHit& hit) {
+  if (hit.isSection()) return QStringLiteral("rectangle.grid.1x2");
+  for (const auto& [label, symbol] : symbols) {
+    if (hit.typeLabel == QLatin1String(label)) return QLatin1String(symbol);
+  }
+  return QStringLiteral("doc");
+}
+
+}  // namespace
+
+// What has changed in the library meanwhile is looked for again.
+SearchResults::SearchResults(LibraryStore& library) : library_(library) {
+  const auto again = [this] {
+    if (!wanted_.isEmpty()) search(wanted_);
+  };
+  connect(&library, &LibraryStore::brandsChanged, this, again);
+  connect(&library, &LibraryStore::brandChanged, this, again);
+}
+
+void SearchResults::search(const QString& query) {
+  wanted_ = query;
+  if (query.isEmpty()) return show(query, {});
+  library_.searchAllBrands(query, [self = QPointer(this), query](QList<SearchHit> hits) {
+    if (self && self->wanted_ == query) self->show(query, std::move(hits));
+  });
+}
+
+void SearchResults::show(const QString& query, QList<SearchHit> hits) {
+  if (query_ == query && hits_ == hits) return;
+  beginResetModel();
+  query_ = query;
+  hits_ = std::move(hits);
+  groups_.clear();
+  for (int row = 0; row < count(); ++row) {
+    Group& group = groups_[hits_.at(row).brandURL];
+    if (group.count++ == 0) group.first = row;
+  }
+  endResetModel();
+  emit changed();
+}
+
+QString SearchResults::brandName(const QString& package) const {
+  const auto group = groups_.constFind(package);
+  return group == groups_.constEnd() ? QString() : hits_.at(group->first).brandName;
+}
+
+EmblemLook SearchResults::brandEmblem(const QString& package) const {
+  const auto group = groups_.constFind(package);
+  if (group == groups_.constEnd()) return {};
+  return emblemLook(hits_.at(group->first).brandEmblem, {brandSymbol, package, {}, {}});
+}
+
+int SearchResults::hitCount(const QString& package) const { return groups_.value(package).count; }
+
+int SearchResults::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : count();
+}
+
+QVariant SearchResults::data(const QModelIndex& index, int role) const {
+  if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+  const SearchHit& hit = hits_.at(index.row());
+  switch (role) {
+    case Qt::DisplayRole:
+    case TitleRole: return hit.title;
+    case DetailRole:
+      return hit.isSection() ? hit.typeLabel
+                             : hit.typeLabel + QStringLiteral(" · in ") + hit.sectionName;
+    case SymbolRole: return symbolOf(hit);
+    case BrandRole: return hit.brandURL;
+    default: return {};
+  }
+}
+
+QHash<int, QByteArray> SearchResults::roleNames() const {
+  return {
+      {TitleRole, "title"}, {DetailRole, "detail"}, {SymbolRole, "symbol"}, {BrandRole, "brand"}};
+}
+
+}  // namespace tarnloft
