@@ -458,15 +458,69 @@ class TestBrandPage : public QObject {
     QTRY_COMPARE(test.names(0).indexOf("0"), 18);
   }
 
-  void aSearchTakesSectionsOffThePage() {
+  void theSearchIsUsedByKeyboard() {
     TestWorkspace test({sectionOf("A", {colorItem("Sea"), colorItem("Sand")}),
                         sectionOf("B", {colorItem("Stone")})});
     TestPage page(test);
-    test.workspace->search()->setText("sea");
-    page.settle();
+    const auto type = [&](const char* text) {
+      for (; *text; ++text) QTest::keyClick(&page.view, *text);
+      page.settle();
+    };
+    page.key(Qt::Key_F, Qt::ControlModifier);
+    type("sea");
     QVERIFY(page.tileNamed("Sea") && !page.tileNamed("Sand"));
     QVERIFY(accessible(page, QAccessible::Grouping, "A"));
     QVERIFY(!accessible(page, QAccessible::Grouping, "B"));
+    page.key(Qt::Key_Down);
+    QCOMPARE(page.focused(), "Sea");
+    page.key(Qt::Key_F, Qt::ControlModifier);
+    type("zzz");  // in place of what stood there
+    QVERIFY(shows(page.view.contentItem(), "No matches for “zzz”"));
+    page.key(Qt::Key_Escape);
+    page.settle();
+    QVERIFY(page.tileNamed("Stone"));
+    page.key(Qt::Key_Escape);
+    QVERIFY(!page.view.activeFocusItem()->inherits("QQuickTextField"));
+
+    page.key(Qt::Key_F, Qt::ControlModifier);
+    page.settle();
+    type("st");
+    page.key(Qt::Key_Tab);
+    page.key(Qt::Key_Tab);
+    page.key(Qt::Key_Tab);
+    page.key(Qt::Key_Space);
+    page.settle();
+    QVERIFY(test.workspace->search()->isGlobal());
+    QVERIFY(accessible(page, QAccessible::ListItem, "Stone, Color · in B"));
+    page.key(Qt::Key_F, Qt::ControlModifier);
+    page.key(Qt::Key_Down);
+    page.key(Qt::Key_Return);
+    QVERIFY(!test.workspace->search()->isGlobal());
+    page.settle();
+    QVERIFY(page.tileNamed("Sea"));
+  }
+
+  void theTitleIsEdited() {
+    TestWorkspace test({sectionOf("A", {colorItem("a")})});
+    TestPage page(test);
+    const auto edit = [&](auto begin, Qt::Key end) {
+      begin();
+      for (const char letter : {' ', 'N', ' '}) QTest::keyClick(&page.view, letter);
+      page.key(end);
+      page.settle();
+      return test.document().brand().name;
+    };
+    const auto byKey = [&] { page.key(Qt::Key_F2); };
+    const auto byPointer = [&] { QTest::mouseDClick(&page.view, Qt::LeftButton, {}, {40, 30}); };
+    page.click("a", Qt::ControlModifier);
+    while (!accessible(page, QAccessible::Heading, "Acme")->state().focused) page.key(Qt::Key_Tab);
+    QCOMPARE(edit(byKey, Qt::Key_Escape), "Acme");
+    QCOMPARE(selectedNames(test), "a");  // that was the field's
+    QCOMPARE(edit(byKey, Qt::Key_Return), "N");
+    QVERIFY(accessible(page, QAccessible::Heading, "N")->state().focused);
+    test.document().edit([](Brand& brand) { brand.name = "Acme"; });
+    page.settle();
+    QCOMPARE(edit(byPointer, Qt::Key_Tab), "N");
   }
 
   void aPictureThatLeadsOutOfThePackageTellsSo() {

@@ -1,3 +1,5 @@
+#include "controls/sheets/Question.h"
+#include "sheets/versions/VersionHistorySheet.h"
 #include "testing/Cases.h"
 #include "testing/RandomBrand.h"
 #include "workspace/Items.h"
@@ -122,6 +124,130 @@ class TestWorkspaceModels : public QObject {
     test.workspace->search()->setText("  ");
     QCOMPARE(test.shown(0), (QStringList{"Sea", "Hero", "Sand"}));
     QCOMPARE(visible(), "ABC");
+  }
+
+  void theSelectionsToolsFollowItAndAct() {
+    TestWorkspace test({sectionOf("A", {imageItem("a"), imageItem("b"), colorItem("c")}),
+                        sectionOf("", {}), sectionOf("B", {colorItem("x")})});
+    SelectionActions& tools = *test.workspace->selected();
+    const auto select = [&](std::initializer_list<int> items) {
+      tools.clear();
+      for (const int item : items)
+        test.selection.toggle(test.stored(0).items.at(item).id, test.stored(0).id);
+      return QStringList{QString::number(tools.count()), QString::number(tools.exportableCount()),
+                         tools.canGroupAsLogo() ? "logo" : ""};
+    };
+    QCOMPARE(select({2}), (QStringList{"1", "0", ""}));
+    QCOMPARE(tools.targets(), (QStringList{"Untitled Section", "B"}));
+    QCOMPARE(select({0, 2}), (QStringList{"2", "1", ""}));
+    QCOMPARE(select({0, 1}), (QStringList{"2", "2", "logo"}));
+    for (const char* file : {"a", "b"})
+      QVERIFY(
+          writeFile(*test.document().assetPath(imageItem(file).exportableAsset().value()), file));
+    test.document().edit([](Brand& brand) { brand.sections[1].name = "Late"; });
+    test.turn();
+    QCOMPARE(tools.targets(), (QStringList{"Late", "B"}));
+    tools.drag(&view, {}, 0);
+    QCOMPARE(test.drags.items.size(), 2);
+    QVERIFY(test.drags.items.at(0).file != test.drags.items.at(1).file);
+    tools.moveTo(1);
+    QCOMPARE(test.names(2), (QStringList{"x", "a", "b"}));
+    QCOMPARE(tools.count(), 0);
+    test.undo.undo();
+    (void)select({0, 1});
+    tools.groupAsLogo();
+    QCOMPARE(test.toasts.message(), "Grouped 2 into a logo · ⌘Z to undo");
+    QCOMPARE(test.names(0), (QStringList{"a", "c"}));
+  }
+
+  void versionsAreKeptLookedAtAndRestored() {
+    TestWorkspace test({sectionOf("A", {colorItem("a"), colorItem("b"), imageItem("i")})});
+    test.workspace->showVersions();
+    auto& sheet = dynamic_cast<VersionHistorySheet&>(*test.sheets.current());
+    const int before = sheet.versions()->count();
+    sheet.setProperty("newLabel", " First ");
+    sheet.saveSnapshot();
+    QCOMPARE(sheet.versions()->count(), before + 1);
+    QCOMPARE(sheet.versions()->index(0).data(VersionList::TitleRole), " First ");
+    QCOMPARE(sheet.property("newLabel"), "");
+    sheet.choose(0);
+    QCOMPARE(sheet.chosenDifferences(), "The same as now");
+    test.document().edit([](Brand& brand) {
+      brand.name = "Other";
+      brand.sections[0].items = {brand.sections[0].items.at(0), colorItem("c"), textItem("t")};
+      std::get<ColorPayload>(brand.sections[0].items[0].payload).value.hex = "#FFFFFF";
+      brand.sections << sectionOf("B", {});
+    });
+    QCOMPARE(sheet.chosenCounts(), "1 section, 3 items");
+    QCOMPARE(sheet.chosenDifferences(),
+             "Compared with now: Named “Acme”; 1 section less, 1 text less, 1 image more; 1 item "
+             "changed since");
+    const auto answer = [&](Question::Answer given) {
+      sheet.restore(0);
+      auto& question = dynamic_cast<Question&>(*test.sheets.current());
+      QCOMPARE(question.title(),
+               "Restore this version? Your current state is replaced (Ctrl+Z to undo).");
+      question.give(given);
+    };
+    answer(Question::Answer::Dismissed);
+    QCOMPARE(test.document().brand().name, "Other");
+    QCOMPARE(test.sheets.current(), &sheet);
+    answer(Question::Answer::Confirmed);
+    QCOMPARE(test.document().brand().name, "Acme");
+    QCOMPARE(test.toasts.message(), "Restored · ⌘Z to undo");
+    QVERIFY(!test.sheets.current());
+    test.undo.undo();
+    QCOMPARE(test.document().brand().name, "Other");
+
+    test.workspace->showVersions();
+    auto& again = dynamic_cast<VersionHistorySheet&>(*test.sheets.current());
+    QVERIFY(QFile::remove(again.versions()->versions().first().url));
+    again.choose(0);
+    QCOMPARE(again.chosenDifferences(), "This version can’t be read any more.");
+    again.remove(0);
+    QCOMPARE(again.versions()->count(), before);
+    QCOMPARE(again.chosen(), -1);
+    test.library.store->select(std::nullopt);
+    test.turn();
+    QVERIFY(!test.sheets.current());
+  }
+
+  void allBrandsAreSearched() {
+    TestWorkspace test({sectionOf("Blues", {colorItem("Sea blue"), colorItem("Sand")})});
+    test.library.add("Other", {sectionOf("", {headerItem("Blue")})});
+    test.library.store->scan();
+    PageSearch& search = *test.workspace->search();
+    SearchResults& results = *search.results();
+    search.setText("blue");
+    QVERIFY(!search.isGlobal() && results.count() == 0);
+    search.setScope(PageSearch::Scope::AllBrands);
+    QVERIFY(search.isGlobal());
+    QCOMPARE(test.shown(0).size(), 2);  // the page isn't filtered then
+    QStringList rows;
+    for (int row = 0; row < results.count(); ++row) {
+      const auto tell = [&](int role) { return results.index(row).data(role).toString(); };
+      rows << tell(SearchResults::TitleRole) + "|" + tell(SearchResults::DetailRole) + "|" +
+                  tell(SearchResults::SymbolRole);
+    }
+    QCOMPARE(rows, (QStringList{"Blues|Section|rectangle.grid.1x2",
+                                "Sea blue|Color · in Blues|paintpalette",
+                                "Blue|Header · in Untitled Section|textformat.size.larger"}));
+    const QString other = test.library.packagePath("Other");
+    QCOMPARE(results.hitCount(other), 1);
+    QCOMPARE(results.brandName(other), "Other");
+    test.document().edit([](Brand& brand) { brand.sections[0].items = {}; });
+    QCOMPARE(results.count(), 2);  // as it is now
+    search.pick(1);
+    QCOMPARE(test.library.store->selection(), other);
+    test.turn();
+    QVERIFY(test.library.store->scrollToSection());
+    QVERIFY(search.text().isEmpty() && search.scope() == PageSearch::Scope::ThisBrand);
+    for (const char* text : {"", "   ", "zzz\"\n"}) {
+      search.setText(text);
+      search.setScope(PageSearch::Scope::AllBrands);
+      QCOMPARE(search.isGlobal(), QString(text).contains('z'));
+      QCOMPARE(results.count(), 0);
+    }
   }
 
   void clicksSelectOrAct() {

@@ -1,0 +1,171 @@
+// A keystroke in the page's search with 10,000 tiles beside 20, results of all brands on screen,
+// going from brand to brand, and the list of versions; on the offscreen platform.
+#include "Measure.h"
+#include "Ratio.h"
+#include "document/Package.h"
+#include "document/PackageVersions.h"
+#include "model/Json.h"
+#include "testing/RandomBrand.h"
+#include "workspace/Items.h"
+#include "workspace/TestPage.h"
+
+#include <QElapsedTimer>
+
+#include <cstdio>
+#include <simdjson.h>
+
+using namespace tarnloft;
+
+namespace {
+
+double milliseconds(const std::function<void()>& work) {
+  QElapsedTimer clock;
+  clock.start();
+  work();
+  return double(clock.nsecsElapsed()) / 1e6;
+}
+
+Section namedSection(int count) {
+  Section section = Section::create(QStringLiteral("Mixed"));
+  for (int i = 0; i < count; ++i) {
+    const QString name = QStringLiteral("Colour number %1 of the brand").arg(i);
+    section.items.append(i % 2 == 0 ? colorItem(name) : imageItem(name, name + ".png"));
+  }
+  return section;
+}
+
+struct Keystrokes {
+  double median;
+  double longest;
+};
+
+// From the key to the frame that shows what is found.
+Keystrokes keystrokes(TestWorkspace& test, TestPage& page) {
+  std::vector<double> times;
+  for (int round = 0; round < 5; ++round) {
+    const QString text = QStringLiteral("number 1");
+    for (int length = 1; length <= text.size(); ++length) {
+      times.push_back(milliseconds([&] {
+        test.workspace->search()->setText(text.left(length));
+        QCoreApplication::processEvents();
+        (void)page.view.grabWindow();
+      }));
+    }
+    test.workspace->search()->setText({});
+    page.settle();
+    page.settle();
+  }
+  return {median(times), *std::max_element(times.begin(), times.end())};
+}
+
+void compareKeystrokes() {
+  const auto of = [](int count) {
+    TestWorkspace test({namedSection(count)});
+    TestPage page(test);
+    return keystrokes(test, page);
+  };
+  const Keystrokes few = of(20), many = of(10'000);
+  std::printf(
+      "\na keystroke in \"This Brand\": %.1f ms with 20 tiles, %.1f with 10,000; longest %.1f\n",
+      few.median, many.median, many.longest);
+  printRatio("a keystroke in \"This Brand\", 10,000 tiles / 20", many.median / few.median,
+             Aim::atMost, 2);
+}
+
+void searchAll() {
+  constexpr int packages = 1'000;
+  TestWorkspace test({namedSection(300)});
+  for (int i = 0; i < packages; ++i)
+    test.library.add(QString::number(i), RandomBrand(quint32(i)).brand(10, 30).sections);
+  test.library.store->scan();
+  TestPage page(test);
+  PageSearch& search = *test.workspace->search();
+  search.setScope(PageSearch::Scope::AllBrands);
+  search.setText(QStringLiteral("m"));
+  page.settle();
+  std::vector<double> times;
+  for (const char* text : {"ma", "mar", "mark", "mark ", "mark 9", "mark 99", "mark 997"}) {
+    times.push_back(milliseconds([&] {
+      search.setText(QLatin1String(text));
+      QCoreApplication::processEvents();
+      (void)page.view.grabWindow();
+    }));
+  }
+  std::printf(
+      "a keystroke in \"All Brands\", search and frame on one thread: %.1f ms, longest %.1f\n",
+      median(times), *std::max_element(times.begin(), times.end()));
+}
+
+void switchBrands() {
+  TestWorkspace test({namedSection(300)});
+  test.library.add(QStringLiteral("Other"), {namedSection(300)});
+  test.library.add(QStringLiteral("One"), {namedSection(1)});
+  test.library.add(QStringLiteral("Single"), {namedSection(1)});
+  test.library.store->scan();
+  TestPage page(test);
+  const auto open = [&](const QString& brand) {
+    return milliseconds([&] {
+      page.view.setSource(QUrl());
+      test.workspace.reset();
+      test.library.store->select(test.library.packagePath(brand));
+      test.makeWorkspace();
+      page.show(test);
+      (void)page.view.grabWindow();
+    });
+  };
+  std::vector<double> large, small;
+  for (int round = 0; round < 12; ++round) {
+    large.push_back(open(round % 2 ? "Other" : "Acme"));
+    page.settle();
+    small.push_back(open(round % 2 ? "One" : "Single"));
+    page.settle();
+  }
+  std::printf("switching brands: %.1f ms to 300 tiles, %.1f ms to one\n", median(large),
+              median(small));
+  printRatio("switching between brands of 300 tiles / of one", median(large) / median(small),
+             Aim::atMost, 2);
+}
+
+void listVersions() {
+  constexpr int versions = 60;
+  TestServices disk;
+  const QString package = disk.path(QStringLiteral("Large.tarnloft"));
+  QStringList paths;
+  for (int i = 0; i < versions; ++i) {
+    const VersionEnvelope envelope{disk.now + std::chrono::hours(i), std::nullopt,
+                                   RandomBrand(quint32(i)).brand(10, 1'000)};
+    paths << Package::versionsPath(package) + QStringLiteral("/%1.json").arg(i);
+    QByteArray json = "{\"brand\":" + *encode(envelope.brand) + ",\"createdAt\":\"" +
+                      QByteArray::fromStdString(iso8601(envelope.createdAt)) + "\"}";
+    if (!writeFile(paths.last(), json)) std::exit(1);
+  }
+  std::vector<double> lists, reads;
+  for (int round = 0; round < 5; ++round) {
+    lists.push_back(milliseconds([&] {
+      if (PackageVersions(disk.files, package).list().size() != versions) std::exit(1);
+    }));
+    reads.push_back(milliseconds([&] {
+      simdjson::dom::parser parser;
+      for (const QString& path : paths) {
+        QByteArray json = contentOf(path);
+        json.reserve(json.size() + jsonPadding);
+        if (parser.parse(json.constData(), size_t(json.size()), false).error()) std::exit(1);
+      }
+    }));
+  }
+  std::printf("%d versions of 10,000 items: listed in %.0f ms, read and parsed in %.0f ms\n",
+              versions, median(lists), median(reads));
+  printRatio("listing versions / reading and bare parse of their files",
+             median(lists) / median(reads), Aim::atMost, 2);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QGuiApplication application(argc, argv);
+  compareKeystrokes();
+  searchAll();
+  switchBrands();
+  listVersions();
+}
