@@ -272,8 +272,7 @@ class TestBrandPage : public QObject {
     QCOMPARE(page.focused(), "a");
     page.key(Qt::Key_Delete);
     QCOMPARE(test.names(0), (QStringList{"t", "b"}));
-    page.settle();
-    QVERIFY(!page.tileNamed("a"));
+    QTRY_VERIFY(!page.tileNamed("a"));
     QCOMPARE(page.focused(), "b");
     QCOMPARE(test.toasts.message(), "Deleted 1 item · ⌘Z to undo");
     test.undo.undo();
@@ -468,7 +467,7 @@ class TestBrandPage : public QObject {
     };
     page.key(Qt::Key_F, Qt::ControlModifier);
     type("sea");
-    QVERIFY(page.tileNamed("Sea") && !page.tileNamed("Sand"));
+    QTRY_VERIFY(page.tileNamed("Sea") && !page.tileNamed("Sand"));
     QVERIFY(accessible(page, QAccessible::Grouping, "A"));
     QVERIFY(!accessible(page, QAccessible::Grouping, "B"));
     page.key(Qt::Key_Down);

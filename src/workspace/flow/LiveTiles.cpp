@@ -23,6 +23,23 @@ bool LiveTile::isHeld() const {
   return tile->isDragged() || tile->isMenuOpen() || view->hasActiveFocus();
 }
 
+void LiveTile::fadeIn() {
+  isLeaving = false;
+  fade.aim({opaque, 0});
+}
+
+void LiveTile::fadeOut() {
+  isLeaving = true;
+  fade.aim({0, 0});
+}
+
+// At once.
+void LiveTile::show(double opacity) {
+  isLeaving = false;
+  fade.settle({opacity, 0});
+  view->setOpacity(opacity / opaque);
+}
+
 LiveTile* LiveTiles::find(const QUuid& id) const {
   const auto found = live_.find(id);
   return found == live_.end() ? nullptr : found->second.get();
@@ -98,6 +115,7 @@ LiveTiles::Map::iterator LiveTiles::release(Map::iterator entry) {
   live->index = -1;
   live->isPlaced = false;
   live->motion.settle(live->motion.target());
+  live->show(LiveTile::opaque);
   waiting_.push_back(std::move(live));
   return entry;
 }

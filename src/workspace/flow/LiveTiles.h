@@ -21,6 +21,15 @@ struct LiveTile {
   bool isPlaced = false;   // it has stood somewhere as that item
   bool isWatched = false;  // the grid hears of its focus
   SpringMotion motion;
+  SpringMotion fade;       // along x, from 0 to `opaque`
+  bool isLeaving = false;  // its item isn't shown any more, and it fades
+
+  static constexpr double opaque = 100;
+
+  // Both begin from what is seen.
+  void fadeIn();
+  void fadeOut();
+  void show(double opacity);
 
   // It has the keyboard's focus or an open menu, or is being dragged, and so must not go.
   bool isHeld() const;

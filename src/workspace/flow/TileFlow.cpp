@@ -173,6 +173,7 @@ void TileFlow::updatePolish() {
   }
   placeViews();
   isMoving_ = false;
+  hasShown_ = true;
 }
 
 // What is seen is made at once; what is near it, a little in each of the next frames.
@@ -201,12 +202,14 @@ void TileFlow::populate() {
       ++index;
     }
     if (focused >= 0 && focusedIndex() < 0) handOverFocus(focused);
+    live_.forEach([this](LiveTile& live) { letFade(live); });
   }
   const int tabStop = reachable_ ? currentIndex() : -1;
   live_.releaseIf([&](const LiveTile& live) {
     const bool isWanted =
         wanted.contains(live.index) || live.index == tabStop || live.motion.isMoving();
-    return !(isWanted && live.index >= 0) && !live.isHeld();
+    const bool isFading = live.isLeaving && live.fade.isMoving();
+    return !(isWanted && live.index >= 0) && !isFading && !live.isHeld();
   });
   QQuickItem* before = nullptr;
   if (tabStop >= 0 && tabStop < wanted.first) before = show(tabStop, before);
@@ -214,6 +217,21 @@ void TileFlow::populate() {
   if (tabStop >= wanted.last) (void)show(tabStop, before);
   populated_ = wanted;
   isOrderStale_ = false;
+}
+
+// One whose item isn't shown any more fades where it stands, unless others stand there by now.
+void TileFlow::letFade(LiveTile& live) {
+  const bool isInside = live.motion.position().y() + live.view->height() <= layout_.height();
+  if (live.index >= 0 || live.isLeaving || !isMoving_ || !live.isPlaced || !isInside) return;
+  live.fadeOut();
+  clock_->start();
+}
+
+void TileFlow::appear(LiveTile& live) {
+  const bool isNew = !live.isPlaced && !live.isLeaving;
+  if (isNew) live.show(isMoving_ && hasShown_ ? 0 : LiveTile::opaque);
+  live.fadeIn();
+  if (live.fade.isMoving()) clock_->start();
 }
 
 // Makes the item's view exist, behind the other in the order of the Tab key.
@@ -227,6 +245,7 @@ QQuickItem* TileFlow::show(int index, QQuickItem* before) {
     live->isWatched = true;
   }
   live->index = index;
+  if (!live->isPlaced || live->isLeaving) appear(*live);
   if (isOrderStale_ || !live->isPlaced) stack(*live->view, before);
   if (!TileFacts::isBlock(item)) live->view->setActiveFocusOnTab(item.id == current_);
   return live->view;
@@ -294,10 +313,15 @@ void TileFlow::put(LiveTile& live, const QRectF& rect) {
 void TileFlow::advance(double seconds) {
   bool areMoving = false;
   live_.forEach([&](LiveTile& live) {
-    if (!live.motion.isMoving()) return;
-    live.motion.advance(seconds);
-    live.view->setPosition(live.motion.position());
-    areMoving = areMoving || live.motion.isMoving();
+    if (live.fade.isMoving()) {
+      live.fade.advance(seconds);
+      live.view->setOpacity(std::clamp(live.fade.position().x() / LiveTile::opaque, 0.0, 1.0));
+    }
+    if (live.motion.isMoving()) {
+      live.motion.advance(seconds);
+      live.view->setPosition(live.motion.position());
+    }
+    areMoving = areMoving || live.motion.isMoving() || live.fade.isMoving();
   });
   if (areMoving) return;
   clock_->stop();

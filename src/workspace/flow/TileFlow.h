@@ -76,6 +76,8 @@ class TileFlow : public QQuickItem {
   double measuredHeight(int index) const;
   FlowLayout::Range wantedRange();
   void populate();
+  void letFade(LiveTile& live);
+  void appear(LiveTile& live);
   bool isMeasured(const Item& item) const;
   bool measureViews();
   void keepPlace(const std::function<void()>& change);
@@ -102,6 +104,7 @@ class TileFlow : public QQuickItem {
   bool areItemsStale_ = true;
   bool isOrderStale_ = true;  // children may not stand in the order of their items
   bool isMoving_ = false;     // the next placing moves views
+  bool hasShown_ = false;     // those that come now come to others
   FlowLayout layout_;
   FlowLayout::Range populated_;
   double margin_ = 0;  // beyond the strip that is seen, in which views exist as well

@@ -127,6 +127,18 @@ FocusScope {
         visible: !root.workspace.search.global
 
         property real lastSelectionHeight: 0
+        property real placeBefore: -1 // the search; -1 without one
+
+        // What is found stands on top, and the page is back where it was when the search ends.
+        function followSearch() {
+            column.forceLayout();
+            const searching = root.workspace.search.text.trim() !== "";
+            if (searching && placeBefore < 0)
+                placeBefore = contentY;
+            contentY = searching || placeBefore < 0 ? 0 : placeBefore;
+            if (!searching)
+                placeBefore = -1;
+        }
 
         function keepPlace() {
             const by = head.selectionHeight - lastSelectionHeight;
@@ -137,6 +149,14 @@ FocusScope {
         function showSection(section: Item) {
             glide.to = Math.max(0, Math.min(section.y - 6, contentHeight - height));
             glide.restart();
+        }
+
+        Connections {
+            target: root.workspace.search
+
+            function onChanged() {
+                scroll.followSearch();
+            }
         }
 
         NumberAnimation {
