@@ -23,19 +23,8 @@ bool LiveTile::isHeld() const {
   return tile->isDragged() || tile->isMenuOpen() || view->hasActiveFocus();
 }
 
-void LiveTile::fadeIn() {
-  isLeaving = false;
-  fade.aim({opaque, 0});
-}
-
-void LiveTile::fadeOut() {
-  isLeaving = true;
-  fade.aim({0, 0});
-}
-
 // At once.
 void LiveTile::show(double opacity) {
-  isLeaving = false;
   fade.settle({opacity, 0});
   view->setOpacity(opacity / opaque);
 }
@@ -61,7 +50,7 @@ LiveTile* LiveTiles::follow(const Item& item) {
 LiveTile* LiveTiles::obtain(SectionModel& section, const Item& item, QQmlComponent& component,
                             const QSizeF& size) {
   if (LiveTile* live = find(item.id)) return live;
-  auto live = takeWaiting(TileFacts::kind(item));
+  auto live = takeWaiting(item);
   if (live) {
     live->tile->setItem(item);
     live->view->setVisible(true);
@@ -72,12 +61,18 @@ LiveTile* LiveTiles::obtain(SectionModel& section, const Item& item, QQmlCompone
   return live_.emplace(item.id, std::move(live)).first->second.get();
 }
 
-std::unique_ptr<LiveTile> LiveTiles::takeWaiting(TileKind::Kind kind) {
-  const auto found = std::find_if(waiting_.rbegin(), waiting_.rend(),
-                                  [&](const auto& live) { return live->tile->kind() == kind; });
-  if (found == waiting_.rend()) return nullptr;
-  auto live = std::move(*found);
-  waiting_.erase(std::next(found).base());
+// Best the one that showed it, then one that nobody sees.
+std::unique_ptr<LiveTile> LiveTiles::takeWaiting(const Item& item) {
+  const auto fitness = [&](const LiveTile& live) {
+    if (live.tile->kind() != TileFacts::kind(item)) return 0;
+    return live.tile->item().id == item.id ? 3 : live.fade.isMoving() ? 1 : 2;
+  };
+  const auto best = std::max_element(
+      waiting_.begin(), waiting_.end(),
+      [&](const auto& a, const auto& b) { return fitness(*a) < fitness(*b); });
+  if (best == waiting_.end() || fitness(**best) == 0) return nullptr;
+  auto live = std::move(*best);
+  waiting_.erase(best);
   return live;
 }
 
@@ -111,19 +106,27 @@ LiveTiles::Map::iterator LiveTiles::release(Map::iterator entry) {
     end(*live);
     return entry;
   }
-  live->view->setVisible(false);
   live->index = -1;
   live->isPlaced = false;
-  live->motion.settle(live->motion.target());
-  live->show(LiveTile::opaque);
+  live->motion.settle(live->motion.position());
+  if (std::exchange(live->mayFade, false)) {
+    live->fade.aim({0, 0});
+  } else {
+    live->fade.settle({0, 0});
+  }
+  live->view->setVisible(live->fade.isMoving());
   waiting_.push_back(std::move(live));
   return entry;
 }
 
 void LiveTiles::trim(size_t most) {
-  while (waiting_.size() > most) {
-    end(*waiting_.front());
-    waiting_.erase(waiting_.begin());
+  for (auto one = waiting_.begin(); one != waiting_.end() && waiting_.size() > most;) {
+    if (most > 0 && (*one)->fade.isMoving()) {
+      ++one;
+    } else {
+      end(**one);
+      one = waiting_.erase(one);
+    }
   }
 }
 

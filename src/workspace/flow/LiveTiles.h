@@ -21,14 +21,11 @@ struct LiveTile {
   bool isPlaced = false;   // it has stood somewhere as that item
   bool isWatched = false;  // the grid hears of its focus
   SpringMotion motion;
-  SpringMotion fade;       // along x, from 0 to `opaque`
-  bool isLeaving = false;  // its item isn't shown any more, and it fades
+  SpringMotion fade;     // along x, from 0 to `opaque`
+  bool mayFade = false;  // its item has gone: it fades where it is, unless another item needs it
 
   static constexpr double opaque = 100;
 
-  // Both begin from what is seen.
-  void fadeIn();
-  void fadeOut();
   void show(double opacity);
 
   // It has the keyboard's focus or an open menu, or is being dragged, and so must not go.
@@ -43,7 +40,7 @@ class LiveTiles {
   LiveTile* find(const QUuid& id) const;
   // Gives the item's view its present value; null if it has none. A view of another kind ends.
   LiveTile* follow(const Item& item);
-  // The item's view: its own, one that waited, or a new one; null if none can be made.
+  // The item's view: its own, one that waited or was fading, or a new one; null if none can be made.
   LiveTile* obtain(SectionModel& section, const Item& item, QQmlComponent& component,
                    const QSizeF& size);
   // Lets go of the views that pass.
@@ -57,7 +54,14 @@ class LiveTiles {
   void forEach(Visit&& visit) const {
     for (const auto& [id, live] : live_) visit(*live);
   }
-  // Ends waiting views beyond that number.
+  // Those that wait and can still be seen.
+  template <class Visit>
+  void forEachFading(Visit&& visit) const {
+    for (const auto& live : waiting_) {
+      if (live->fade.isMoving()) visit(*live);
+    }
+  }
+  // Ends waiting views beyond that number, but for those that fade.
   void trim(size_t most);
   // Ends all.
   void clear();
@@ -69,7 +73,7 @@ class LiveTiles {
   using Map = std::map<QUuid, std::unique_ptr<LiveTile>>;
 
   Map::iterator release(Map::iterator entry);
-  std::unique_ptr<LiveTile> takeWaiting(TileKind::Kind kind);
+  std::unique_ptr<LiveTile> takeWaiting(const Item& item);
   std::unique_ptr<LiveTile> make(SectionModel& section, const Item& item, QQmlComponent& component,
                                  const QSizeF& size);
 

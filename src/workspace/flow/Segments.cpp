@@ -20,14 +20,4 @@ std::vector<Segment> segmentsOf(const SharedList<Item>& items) {
   return segments;
 }
 
-SharedList<Item> matching(const SharedList<Item>& items, const QString& searchText) {
-  const QString query = searchText.trimmed();
-  if (query.isEmpty()) return items;
-  SharedList<Item> found;
-  for (const Item& item : items) {
-    if (item.matchesSearch(query)) found.append(item);
-  }
-  return found;
-}
-
 }  // namespace tarnloft

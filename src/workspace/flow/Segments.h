@@ -21,7 +21,4 @@ struct Segment {
 
 std::vector<Segment> segmentsOf(const SharedList<Item>& items);
 
-// The items that a search shows: all for a blank text, else those that match it.
-SharedList<Item> matching(const SharedList<Item>& items, const QString& searchText);
-
 }  // namespace tarnloft

@@ -79,6 +79,7 @@ void TileFlow::setSection(SectionModel* section) {
 }
 
 void TileFlow::watch(const ItemListModel& items) {
+  connect(&items, &ItemListModel::modelReset, this, [this] { margin_ = 0; });
   connect(&items, &ItemListModel::updated, this, &TileFlow::itemsChanged);
   connect(&items, &ItemListModel::dataChanged, this, &TileFlow::showChanged);
   connect(section_->workspace(), &BrandWorkspace::metricsChanged, this, &TileFlow::sizesChanged);
@@ -208,9 +209,9 @@ void TileFlow::populate() {
   live_.releaseIf([&](const LiveTile& live) {
     const bool isWanted =
         wanted.contains(live.index) || live.index == tabStop || live.motion.isMoving();
-    const bool isFading = live.isLeaving && live.fade.isMoving();
-    return !(isWanted && live.index >= 0) && !isFading && !live.isHeld();
+    return !(isWanted && live.index >= 0) && !live.isHeld();
   });
+  live_.forEachFading([this](LiveTile&) { clock_->start(); });
   QQuickItem* before = nullptr;
   if (tabStop >= 0 && tabStop < wanted.first) before = show(tabStop, before);
   for (int index = wanted.first; index < wanted.last; ++index) before = show(index, before);
@@ -222,16 +223,14 @@ void TileFlow::populate() {
 // One whose item isn't shown any more fades where it stands, unless others stand there by now.
 void TileFlow::letFade(LiveTile& live) {
   const bool isInside = live.motion.position().y() + live.view->height() <= layout_.height();
-  if (live.index >= 0 || live.isLeaving || !isMoving_ || !live.isPlaced || !isInside) return;
-  live.fadeOut();
-  clock_->start();
+  live.mayFade = live.index < 0 && isMoving_ && live.isPlaced && isInside;
 }
 
 void TileFlow::appear(LiveTile& live) {
-  const bool isNew = !live.isPlaced && !live.isLeaving;
-  if (isNew) live.show(isMoving_ && hasShown_ ? 0 : LiveTile::opaque);
-  live.fadeIn();
-  if (live.fade.isMoving()) clock_->start();
+  const bool isFading = isMoving_ && hasShown_;
+  live.show(isFading ? live.fade.position().x() : LiveTile::opaque);
+  live.fade.aim({LiveTile::opaque, 0});
+  if (isFading) clock_->start();
 }
 
 // Makes the item's view exist, behind the other in the order of the Tab key.
@@ -245,7 +244,7 @@ QQuickItem* TileFlow::show(int index, QQuickItem* before) {
     live->isWatched = true;
   }
   live->index = index;
-  if (!live->isPlaced || live->isLeaving) appear(*live);
+  if (!live->isPlaced) appear(*live);
   if (isOrderStale_ || !live->isPlaced) stack(*live->view, before);
   if (!TileFacts::isBlock(item)) live->view->setActiveFocusOnTab(item.id == current_);
   return live->view;
@@ -312,16 +311,21 @@ void TileFlow::put(LiveTile& live, const QRectF& rect) {
 
 void TileFlow::advance(double seconds) {
   bool areMoving = false;
+  const auto fade = [&](LiveTile& live) {
+    live.fade.advance(seconds);
+    live.view->setOpacity(std::clamp(live.fade.position().x() / LiveTile::opaque, 0.0, 1.0));
+    areMoving = areMoving || live.fade.isMoving();
+  };
   live_.forEach([&](LiveTile& live) {
-    if (live.fade.isMoving()) {
-      live.fade.advance(seconds);
-      live.view->setOpacity(std::clamp(live.fade.position().x() / LiveTile::opaque, 0.0, 1.0));
-    }
-    if (live.motion.isMoving()) {
-      live.motion.advance(seconds);
-      live.view->setPosition(live.motion.position());
-    }
-    areMoving = areMoving || live.motion.isMoving() || live.fade.isMoving();
+    if (live.fade.isMoving()) fade(live);
+    if (!live.motion.isMoving()) return;
+    live.motion.advance(seconds);
+    live.view->setPosition(live.motion.position());
+    areMoving = areMoving || live.motion.isMoving();
+  });
+  live_.forEachFading([&](LiveTile& live) {
+    fade(live);
+    live.view->setVisible(live.fade.isMoving());
   });
   if (areMoving) return;
   clock_->stop();

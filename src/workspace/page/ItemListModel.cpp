@@ -16,6 +16,16 @@ void ItemListModel::setItems(const SharedList<Item>& items) {
   }));
 }
 
+void ItemListModel::replaceItems(const SharedList<Item>& items) {
+  if (items_ == items) return;
+  const int before = count();
+  beginResetModel();
+  items_ = items;
+  endResetModel();
+  if (count() != before) emit countChanged();
+  emit updated(true);
+}
+
 int ItemListModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : int(items_.size());
 }

@@ -27,6 +27,8 @@ class ItemListModel : public tarnloft::RecordListModel {
   const SharedList<Item>& items() const { return items_; }
   int count() const { return int(items_.size()); }
   void setItems(const SharedList<Item>& items);
+  // The same without the single steps, for lists that have little in common.
+  void replaceItems(const SharedList<Item>& items);
 
   int rowCount(const QModelIndex& parent = {}) const override;
   // The display role is the item's name.

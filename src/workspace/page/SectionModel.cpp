@@ -1,9 +1,9 @@
 #include "workspace/page/SectionModel.h"
 
 #include "workspace/BrandWorkspace.h"
-#include "workspace/flow/Segments.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tarnloft {
 namespace {
@@ -21,7 +21,10 @@ bool holdsColors(const Section& section) {
 }  // namespace
 
 SectionModel::SectionModel(BrandWorkspace& workspace, const Section& section)
-    : QObject(&workspace), workspace_(workspace), section_(section) {
+    : QObject(&workspace),
+      workspace_(workspace),
+      section_(section),
+      hasColors_(holdsColors(section)) {
   connect(&workspace, &BrandWorkspace::placeChanged, this, &SectionModel::changed);
   take(section, QString());
 }
@@ -44,10 +47,14 @@ void SectionModel::setSection(const Section& section, const QString& searchText)
 }
 
 void SectionModel::take(const Section& section, const QString& searchText) {
+  const bool isOtherSearch = std::exchange(searchText_, searchText) != searchText;
+  if (!(section_.items == section.items)) hasColors_ = holdsColors(section);
   section_ = section;
-  searchText_ = searchText;
-  hasColors_ = holdsColors(section);
-  items_.setItems(matching(section.items, searchText));
+  if (searchable_ && !(searchable_->items() == section.items)) searchable_.reset();
+  const bool isSearching = !searchText.trimmed().isEmpty();
+  if (isSearching && !searchable_) searchable_.emplace(section.items);
+  const SharedList<Item> shown = isSearching ? searchable_->matching(searchText) : section.items;
+  isOtherSearch ? items_.replaceItems(shown) : items_.setItems(shown);
 }
 
 void SectionModel::setPlace(qsizetype place, qsizetype count) {

@@ -3,6 +3,7 @@
 #include "pictures/EmblemLook.h"
 #include "publish/PaletteExport.h"
 #include "workspace/page/ItemListModel.h"
+#include "workspace/search/SearchableItems.h"
 
 #include <QStringList>
 
@@ -89,6 +90,7 @@ class SectionModel : public QObject {
   Section section_;
   ItemListModel items_;
   QString searchText_;
+  std::optional<SearchableItems> searchable_;  // from the first search on, for as long as it holds
   bool hasColors_ = false;
   qsizetype place_ = 0;
   qsizetype last_ = 0;

@@ -52,9 +52,11 @@ void SearchResults::show(const QString& query, QList<SearchHit> hits) {
   query_ = query;
   hits_ = std::move(hits);
   groups_.clear();
-  for (int row = 0; row < count(); ++row) {
-    Group& group = groups_[hits_.at(row).brandURL];
-    if (group.count++ == 0) group.first = row;
+  for (int row = 0; row < count();) {
+    const QString& brand = hits_.at(row).brandURL;
+    const int first = row;
+    while (row < count() && hits_.at(row).brandURL == brand) ++row;
+    groups_.insert(brand, {first, row - first});
   }
   endResetModel();
   emit changed();

@@ -33,6 +33,8 @@ class SearchResults : public QAbstractListModel {
   const QString& query() const { return query_; }
   // Looks for it; empty ends with no hits at once.
   void search(const QString& query);
+  // The hits of that query, brand by brand.
+  void show(const QString& query, QList<SearchHit> hits);
   const SearchHit& hit(int row) const { return hits_.at(row); }
 
   // Of a brand with hits.
@@ -52,8 +54,6 @@ class SearchResults : public QAbstractListModel {
     int first = 0;
     int count = 0;
   };
-
-  void show(const QString& query, QList<SearchHit> hits);
 
   LibraryStore& library_;
   QString wanted_;
