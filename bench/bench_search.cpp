@@ -97,10 +97,13 @@ void searchAll() {
   for (const char* text : {"ma", "mar", "mark", "mark ", "mark 9", "mark 99", "mark 997"}) {
     const QString query = QLatin1String(text);
     greps.push_back(milliseconds([&] { grep(test.library.disk, query); }));
-    QList<SearchHit> hits;
-    searches.push_back(milliseconds([&] { hits = test.library.store->searchAllBrands(query); }));
+    SearchHits hits;
+    searches.push_back(milliseconds([&] {
+      test.library.store->searchAllBrands(query,
+                                          [&](SearchHits found) { hits = std::move(found); });
+    }));
     shows.push_back(milliseconds([&] {
-      search.results()->show(query, hits);
+      search.results()->show(query, std::move(hits));
       (void)page.view.grabWindow();
     }));
   }

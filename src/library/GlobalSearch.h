@@ -1,7 +1,7 @@
 #pragma once
 
 #include "library/BrandSummary.h"
-#include "library/SearchableBrand.h"
+#include "library/SearchHits.h"
 #include "platform/FileStore.h"
 
 #include <atomic>
@@ -25,8 +25,8 @@ class GlobalSearch {
 
   // `open` is the brand of the row at `openURL`, searched as it is in memory; null for none. A
   // package that can't be read is left out.
-  QList<SearchHit> hits(const QList<BrandSummary>& rows, const QString& openURL, const Brand* open,
-                        const QString& query);
+  SearchHits hits(const QList<BrandSummary>& rows, const QString& openURL, const Brand* open,
+                  const QString& query);
 
   // For queries that each make those before them needless: a query's number, and whether it is the
   // newest.
@@ -39,15 +39,15 @@ class GlobalSearch {
  private:
   struct Kept {
     std::optional<FileIdentity> identity;
-    std::optional<SearchableBrand> brand;  // none for a manifest that can't be read
+    std::shared_ptr<const SearchableBrand> brand;  // null for a manifest that can't be read
   };
   struct KeptOpen {
     Brand brand;
-    SearchableBrand searchable;
+    std::shared_ptr<const SearchableBrand> searchable;
   };
 
-  const SearchableBrand* upToDate(const QString& packageURL, Kept& kept) const;
-  const SearchableBrand* ofOpen(const Brand& brand);
+  void update(const QString& packageURL, Kept& kept) const;
+  std::shared_ptr<const SearchableBrand> ofOpen(const Brand& brand);
   void forgetAllBut(const QList<BrandSummary>& rows);
 
   const FileStore& files_;

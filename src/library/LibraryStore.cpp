@@ -255,20 +255,19 @@ void LibraryStore::setScrollToSection(const std::optional<QUuid>& section) {
 
 QList<SearchHit> LibraryStore::searchAllBrands(const QString& query) {
   const Brand* open = openDocument_ ? &openDocument_->brand() : nullptr;
-  return search_->hits(brands_, selection_.value_or(QString()), open, query);
+  return search_->hits(brands_, selection_.value_or(QString()), open, query).toList();
 }
 
-void LibraryStore::searchAllBrands(const QString& query,
-                                   std::function<void(QList<SearchHit>)> done) {
+void LibraryStore::searchAllBrands(const QString& query, std::function<void(SearchHits)> done) {
   const quint64 number = search_->begin();
   const auto open = openDocument_ ? std::optional(openDocument_->brand()) : std::nullopt;
   services_.searches.ask(
       [search = search_, number, rows = brands_, selected = selection_.value_or(QString()), open,
        query] {
-        if (!search->isNewest(number)) return QList<SearchHit>();
+        if (!search->isNewest(number)) return SearchHits();
         return search->hits(rows, selected, open ? &*open : nullptr, query);
       },
-      [search = search_, number, done = std::move(done)](QList<SearchHit> hits) {
+      [search = search_, number, done = std::move(done)](SearchHits hits) {
         if (search->isNewest(number)) done(std::move(hits));
       },
       DiskWork::Patience::none);

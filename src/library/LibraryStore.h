@@ -139,7 +139,7 @@ class LibraryStore : public QObject {
   // The hits of all brands in display order, edits of the open one that aren't saved included.
   QList<SearchHit> searchAllBrands(const QString& query);
   // The same away from the main thread. Never called if another query follows before it is done.
-  void searchAllBrands(const QString& query, std::function<void(QList<SearchHit>)> done);
+  void searchAllBrands(const QString& query, std::function<void(SearchHits)> done);
   // Selects the hit's brand and, on the next turn of the event loop, asks for its section.
   void reveal(const SearchHit& hit);
 

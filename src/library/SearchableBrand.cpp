@@ -106,8 +106,8 @@ Result<SearchableBrand> SearchableBrand::read(const QByteArray& json) {
   });
 }
 
-void SearchableBrand::appendHits(const QString& packageURL, const std::string& foldedQuery,
-                                 QList<SearchHit>& hits) const {
+std::vector<quint32> SearchableBrand::matches(const std::string& foldedQuery) const {
+  std::vector<quint32> numbers;
   const std::string_view text = folded_;
   const auto find = [&](size_t from) -> std::optional<size_t> {
     const void* place =
@@ -121,12 +121,14 @@ void SearchableBrand::appendHits(const QString& packageURL, const std::string& f
     entry = std::upper_bound(entry, entries_.end(), *place, [](size_t at, const Entry& candidate) {
       return at < candidate.tokensAt;
     });
-    hits << hit(*std::prev(entry), packageURL);
+    numbers.push_back(quint32(entry - entries_.begin() - 1));
     if (entry == entries_.end()) break;
   }
+  return numbers;
 }
 
-SearchHit SearchableBrand::hit(const Entry& entry, const QString& packageURL) const {
+SearchHit SearchableBrand::hit(quint32 number, const QString& packageURL) const {
+  const Entry& entry = entries_[number];
   const SectionRow& section = sections_[entry.section];
   const QString sectionName = shownName(section.name);
   const bool isSection = entry.type == 0;

@@ -18,10 +18,13 @@ class SearchableBrand {
   // Of a manifest. Refuses what can't be decoded as a brand. Any thread.
   static Result<SearchableBrand> read(const QByteArray& json);
 
-  // Appends the brand's hits in stored order, a section's own before those of its items; an item
-  // gives at most one. The query must be folded, in UTF-8 and not empty.
-  void appendHits(const QString& packageURL, const std::string& foldedQuery,
-                  QList<SearchHit>& hits) const;
+  // The numbers of the brand's hits in stored order, a section's own before those of its items; an
+  // item gives at most one. The query must be folded, in UTF-8 and not empty.
+  std::vector<quint32> matches(const std::string& foldedQuery) const;
+  // The hit of that number.
+  SearchHit hit(quint32 number, const QString& packageURL) const;
+  const QString& brandName() const { return brandName_; }
+  const std::optional<Emblem>& brandEmblem() const { return brandEmblem_; }
 
   // Bytes held, without the allocator's own.
   qsizetype memory() const;
@@ -43,7 +46,6 @@ class SearchableBrand {
 
   SearchableBrand() = default;
 
-  SearchHit hit(const Entry& entry, const QString& packageURL) const;
   QString title(const Entry& entry) const;
 
   QString brandName_;

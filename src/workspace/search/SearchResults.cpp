@@ -1,5 +1,6 @@
 #include "workspace/search/SearchResults.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -41,39 +42,41 @@ SearchResults::SearchResults(LibraryStore& library) : library_(library) {
 void SearchResults::search(const QString& query) {
   wanted_ = query;
   if (query.isEmpty()) return show(query, {});
-  library_.searchAllBrands(query, [self = QPointer(this), query](QList<SearchHit> hits) {
+  library_.searchAllBrands(query, [self = QPointer(this), query](SearchHits hits) {
     if (self && self->wanted_ == query) self->show(query, std::move(hits));
   });
 }
 
-void SearchResults::show(const QString& query, QList<SearchHit> hits) {
-  if (query_ == query && hits_ == hits) return;
+void SearchResults::show(const QString& query, SearchHits hits) {
   beginResetModel();
   query_ = query;
   hits_ = std::move(hits);
-  groups_.clear();
-  for (int row = 0; row < count();) {
-    const QString& brand = hits_.at(row).brandURL;
-    const int first = row;
-    while (row < count() && hits_.at(row).brandURL == brand) ++row;
-    groups_.insert(brand, {first, row - first});
-  }
   endResetModel();
   emit changed();
 }
 
+const SearchHits::Group* SearchResults::group(const QString& package) const {
+  const auto& groups = hits_.groups();
+  const auto found = std::find_if(groups.begin(), groups.end(),
+                                  [&](const auto& group) { return group.brandURL == package; });
+  return found == groups.end() ? nullptr : &*found;
+}
+
 QString SearchResults::brandName(const QString& package) const {
-  const auto group = groups_.constFind(package);
-  return group == groups_.constEnd() ? QString() : hits_.at(group->first).brandName;
+  const auto* const found = group(package);
+  return found ? found->brand->brandName() : QString();
 }
 
 EmblemLook SearchResults::brandEmblem(const QString& package) const {
-  const auto group = groups_.constFind(package);
-  if (group == groups_.constEnd()) return {};
-  return emblemLook(hits_.at(group->first).brandEmblem, {brandSymbol, package, {}, {}});
+  const auto* const found = group(package);
+  if (!found) return {};
+  return emblemLook(found->brand->brandEmblem(), {brandSymbol, package, {}, {}});
 }
 
-int SearchResults::hitCount(const QString& package) const { return groups_.value(package).count; }
+int SearchResults::hitCount(const QString& package) const {
+  const auto* const found = group(package);
+  return found ? int(found->numbers.size()) : 0;
+}
 
 int SearchResults::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : count();
@@ -81,7 +84,8 @@ int SearchResults::rowCount(const QModelIndex& parent) const {
 
 QVariant SearchResults::data(const QModelIndex& index, int role) const {
   if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
-  const SearchHit& hit = hits_.at(index.row());
+  if (role == BrandRole) return hits_.groupOf(index.row()).brandURL;
+  const SearchHit hit = hits_.at(index.row());
   switch (role) {
     case Qt::DisplayRole:
     case TitleRole: return hit.title;
@@ -89,7 +93,6 @@ QVariant SearchResults::data(const QModelIndex& index, int role) const {
       return hit.isSection() ? hit.typeLabel
                              : hit.typeLabel + QStringLiteral(" · in ") + hit.sectionName;
     case SymbolRole: return symbolOf(hit);
-    case BrandRole: return hit.brandURL;
     default: return {};
   }
 }

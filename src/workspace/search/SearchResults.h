@@ -34,8 +34,8 @@ class SearchResults : public QAbstractListModel {
   // Looks for it; empty ends with no hits at once.
   void search(const QString& query);
   // The hits of that query, brand by brand.
-  void show(const QString& query, QList<SearchHit> hits);
-  const SearchHit& hit(int row) const { return hits_.at(row); }
+  void show(const QString& query, SearchHits hits);
+  SearchHit hit(int row) const { return hits_.at(row); }
 
   // Of a brand with hits.
   Q_INVOKABLE QString brandName(const QString& package) const;
@@ -50,16 +50,12 @@ class SearchResults : public QAbstractListModel {
   void changed();
 
  private:
-  struct Group {
-    int first = 0;
-    int count = 0;
-  };
+  const SearchHits::Group* group(const QString& package) const;
 
   LibraryStore& library_;
   QString wanted_;
   QString query_;
-  QList<SearchHit> hits_;
-  QHash<QString, Group> groups_;  // by package
+  SearchHits hits_;
 };
 
 }  // namespace tarnloft

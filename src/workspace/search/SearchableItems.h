@@ -8,8 +8,8 @@
 
 namespace tarnloft {
 
-// The items of a section, folded once and packed for searching, so that a keystroke is one walk over
-// a text. By the rules of `Item::matchesSearch`.
+// The items of a section, folded once and packed for searching, so that a keystroke is one walk
+// over a text. By the rules of `Item::matchesSearch`.
 class SearchableItems {
  public:
   explicit SearchableItems(const SharedList<Item>& items);
