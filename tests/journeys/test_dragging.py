@@ -3,7 +3,7 @@ import pathlib
 import unittest
 import urllib.parse
 
-from desktop import Drag, colours_in, press
+from desktop import Drag, click, colours_in, press
 from journey import Journey
 from pictures import write_noise, write_pictures
 from program import Home, gtk_partner
@@ -60,6 +60,15 @@ class Dragging(Journey):
         self.assertIn(data(target, "image/tiff")[:4], (b"II*\0", b"MM\0*"))
         self.assertTrue(data(target, "text/uri-list"))
         self.assertFalse(self.tarn.has_ended())
+
+    def test_a_selection_comes_out_as_files_in_one_drag(self):
+        self.fill("Logos", {"Mark.png": (200, 30, 40), "Seal.png": (30, 60, 200)})
+        click(self.tarn.find("heading", "Acme").middle)
+        press("ctrl+a")
+        target = self.beside(gtk_partner(RIGHT, asks=["text/uri-list"]))
+        Drag(self.tarn.find("label", "Drag out").middle).over(RIGHT_MIDDLE).drop()
+        uris = data(target, "text/uri-list").decode().split()
+        self.assertEqual([pathlib.Path(uri).name for uri in uris], ["Mark.png", "Seal.png"])
 
     def test_within_the_window_tiles_move_between_sections(self):
         self.fill("Logos", {"Mark.png": (200, 30, 40), "Seal.png": (30, 60, 200)})
