@@ -6,9 +6,9 @@ from desktop import press, until, write
 from journey import Journey
 
 # What can be worked with, and the only roles that may say so.
-CONTROLS = {"push button", "check box", "menu item", "text", "list", "list item", "scroll bar",
+CONTROLS = {"push button", "check box", "radio button", "menu item", "text", "list", "list item", "scroll bar",
             "split pane"}
-PRESSED = {"push button", "check box", "menu item", "list item"}
+PRESSED = {"push button", "check box", "radio button", "menu item", "list item"}
 # The Tab key stops once in them, or leaves them to keys of their own.
 COMPOSITES = {"list", "menu bar", "popup menu"}
 
@@ -112,6 +112,9 @@ class TheAccessibleTree(Journey):
             stops.append(f"{focus.role} “{focus.name}”")
             passed |= {key(node) for node in (focus, *around(focus))
                        if node is focus or node.role in COMPOSITES}
+            if focus.role == "radio button":  # the arrows lead to the others
+                passed |= {key(node) for node in tree
+                           if node.role == focus.role and node.parent.name == focus.parent.name}
             self.assertLess(len(stops), 100, f"“{state}” doesn't come round: {stops}")
         missed = [node.path for each, node in seen.items()
                   if each not in passed and not any(one.role in COMPOSITES for one in around(node))]

@@ -29,7 +29,6 @@ FocusScope {
 
     implicitWidth: row.implicitWidth + 2 * inset
     implicitHeight: Theme.controlHeight(controlSize)
-    activeFocusOnTab: true
     opacity: enabled ? 1 : 0.4
 
     function choose(index: int) {
@@ -37,8 +36,14 @@ FocusScope {
             activated(index);
     }
 
-    Keys.onLeftPressed: choose(currentIndex - 1)
-    Keys.onRightPressed: choose(currentIndex + 1)
+    // The focus goes with the choice, which the view may refuse.
+    function chooseByKey(index: int) {
+        choose(index);
+        segments.itemAt(currentIndex)?.forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    Keys.onLeftPressed: chooseByKey(currentIndex - 1)
+    Keys.onRightPressed: chooseByKey(currentIndex + 1)
     Accessible.role: Accessible.Grouping
     Accessible.name: accessibleName
     Accessible.description: chosen?.text || chosen?.help || ""
@@ -94,6 +99,7 @@ FocusScope {
                 width: root.equalWidths ? Math.max(root.widest, (root.width - 2 * root.inset) / root.options.length) : implicitWidth
                 height: root.height - 2 * root.inset
                 chosen: index === root.currentIndex
+                focusPolicy: chosen ? Qt.TabFocus : Qt.NoFocus
                 controlSize: root.controlSize
                 onClicked: root.choose(index)
             }

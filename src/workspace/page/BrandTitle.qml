@@ -31,6 +31,9 @@ FocusScope {
             renamed(name);
     }
 
+    Accessible.role: Accessible.Heading
+    Accessible.name: name
+
     implicitWidth: label.implicitWidth + 8 + mark.width
     implicitHeight: label.implicitHeight
 
@@ -55,10 +58,8 @@ FocusScope {
                 root.beginEditing();
         }
 
-        Accessible.role: Accessible.Heading
-        Accessible.name: root.name
-        Accessible.description: "Press Return to rename"
-        Accessible.focusable: true
+        Accessible.role: Accessible.Button
+        Accessible.name: "Rename “" + root.name + "”"
         Accessible.onPressAction: root.beginEditing()
 
         Label {
