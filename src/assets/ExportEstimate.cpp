@@ -30,6 +30,15 @@ void ExportEstimate::setChoice(const ExportChoice& choice) {
   if (choice.key() == key_) return;
   choice_ = choice;
   key_ = choice.key();
+  begin();
+}
+
+void ExportEstimate::setPath(const QString& path) {
+  path_ = path;
+  if (!text_ && !key_.isEmpty()) begin();
+}
+
+void ExportEstimate::begin() {
   withdraw();
   setText(std::nullopt);
   timer_.start();
@@ -47,14 +56,16 @@ void ExportEstimate::convert() {
                                                       choice.quality);
         if (bytes) *size = bytes->size();
       },
-      [self = QPointer(this), key = key_, size] {
-        if (self && self->key_ == key && *size) self->setText(byteCountText(**size));
+      [self = QPointer(this), key = key_, path = path_, size] {
+        if (!self || self->key_ != key || self->path_ != path) return;
+        *size ? self->setText(byteCountText(**size)) : self->setText(std::nullopt, true);
       });
 }
 
-void ExportEstimate::setText(const std::optional<QString>& text) {
-  if (text == text_) return;
+void ExportEstimate::setText(const std::optional<QString>& text, bool hasFailed) {
+  if (text == text_ && hasFailed == hasFailed_) return;
   text_ = text;
+  hasFailed_ = hasFailed;
   emit textChanged();
 }
 

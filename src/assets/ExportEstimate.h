@@ -32,26 +32,32 @@ class ExportEstimate : public QObject {
 
   // Such as "2.4 MB"; absent until it is known, and for good if the export gives nothing.
   const std::optional<QString>& text() const { return text_; }
+  // The export gave nothing.
+  bool hasFailed() const { return hasFailed_; }
 
   // A choice with another key than the last one makes the text absent at once and starts anew.
   void setChoice(const ExportChoice& choice);
+  // The same picture stands somewhere else now.
+  void setPath(const QString& path);
 
  signals:
   void textChanged();
 
  private:
   void withdraw();
+  void begin();
   void convert();
-  void setText(const std::optional<QString>& text);
+  void setText(const std::optional<QString>& text, bool hasFailed = false);
 
   Images& images_;
   BackgroundWork& work_;
-  const QString path_;
+  QString path_;
   QTimer timer_;
   ExportChoice choice_;
   QString key_;  // of the job that waits or runs, or whose result stands
   BackgroundWork::TaskPtr task_;
   std::optional<QString> text_;
+  bool hasFailed_ = false;
 };
 
 }  // namespace tarnloft

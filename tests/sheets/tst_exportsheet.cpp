@@ -1,5 +1,6 @@
 #include "library/LibraryPreferences.h"
 #include "sheets/exporting/ExportImageSheet.h"
+#include "testing/FakeDragging.h"
 #include "testing/FakeMedia.h"
 #include "testing/TestLibrary.h"
 
@@ -11,23 +12,6 @@ using namespace tarnloft;
 
 namespace {
 
-struct Clipboard : Pasteboard {
-  QStringList types;
-  QList<QByteArray> bytes;
-  void setText(const QString&) override {}
-  void setForms(const QList<PasteboardForm>& forms) override {
-    for (const PasteboardForm& form : forms) {
-      types << form.mimeType;
-      bytes << form.bytes;
-    }
-  }
-};
-
-struct Drags : DragSession {
-  QList<DragItem> items;
-  void drag(const QList<DragItem>& dragged, const DragLook&) override { items = dragged; }
-};
-
 // The sheet for a picture of 1500 by 900 pixels.
 struct ExportTest {
   TestLibrary library;
@@ -37,8 +21,8 @@ struct ExportTest {
   BackgroundWork work{1};
   ThumbnailLoader loader{images, work};
   Thumbnails thumbnails{loader};
-  Clipboard clipboard;
-  Drags drags;
+  ListedPasteboard clipboard;
+  ListedDrags drags;
   QStringList told;
   Item item = Item::create(ImagePayload{{"0.png", "Hero.png"}, {}});
   std::unique_ptr<ExportImageSheet> sheet;
@@ -54,7 +38,8 @@ struct ExportTest {
         ExportTarget{QUuid::createUuid(), path, "Hero", {1500, 900}},
         ExportImageSheet::Services{library.store->preferences(), images, work, library.disk.files,
                                    library.dialogs, clipboard, drags, thumbnails,
-                                   [this](const auto& title, const auto&) { told << title; }});
+                                   [this](const auto& title, const auto&) { told << title; },
+                                   [this](const auto& text) { told << text; }});
   }
   ~ExportTest() { (void)work.finish(std::chrono::seconds(10)); }
 };
@@ -94,8 +79,10 @@ class TestExportSheet : public QObject {
     test.sheet->copy();
     QVERIFY(test.sheet->isBusy());
     QTRY_COMPARE(finished.size(), 1);
-    QCOMPARE(test.clipboard.types, QStringList({"image/jpeg", "image/tiff", "image/png"}));
-    QCOMPARE(test.clipboard.bytes.first(), QByteArray("1 1500"));
+    QStringList types;
+    for (const PasteboardForm& form : test.clipboard.forms) types << form.mimeType;
+    QCOMPARE(types, QStringList({"image/jpeg", "image/tiff", "image/png"}));
+    QCOMPARE(test.clipboard.forms.first().bytes, "1 1500");
     QVERIFY(namesIn(QDir::tempPath() + "/tarnloft-export").filter("-").isEmpty());  // none is left
   }
 
@@ -119,7 +106,11 @@ class TestExportSheet : public QObject {
   void dragsAFileUnderTheClientsName() {
     ExportTest test;
     QQuickItem view;
+    test.images.close();
     test.sheet->prepareDrag();
+    test.sheet->drag(&view, {}, 0);  // which waits for a second
+    QCOMPARE(test.told, QStringList("Still converting “Hero” · Drag it again in a moment"));
+    test.images.open();
     test.sheet->drag(&view, {}, 0);
     QCOMPARE(test.drags.items.size(), 1);
     QVERIFY(test.drags.items.first().file->endsWith("/tarnloft-export/Hero.png"));
@@ -138,8 +129,12 @@ class TestExportSheet : public QObject {
     test.sheet->save();
     QTRY_VERIFY(!test.sheet->isBusy());
     test.sheet->drag(&view, {}, 0);
-    QVERIFY(finished.isEmpty() && test.clipboard.types.isEmpty() && test.drags.items.isEmpty());
+    QVERIFY(finished.isEmpty() && test.clipboard.forms.isEmpty() && test.drags.items.isEmpty());
     QVERIFY(test.library.dialogs.suggested.isEmpty());
+    QCOMPARE(test.told, QStringList(3, "“Hero” couldn't be converted"));
+    QTRY_COMPARE(test.sheet->estimate(), "The file can't be read");
+    test.document->follow(test.library.disk.path("Moved.tarnloft"));
+    QCOMPARE(test.sheet->path(), test.library.disk.path("Moved.tarnloft/assets/broken"));
     test.document->removeItem(test.item.id);
     QTRY_COMPARE(finished.size(), 1);  // the sheet goes with its item
   }

@@ -4,6 +4,7 @@
 #include "assets/ExportHandout.h"
 #include "controls/dragging/Carrying.h"
 #include "document/AtomicWrite.h"
+#include "document/Package.h"
 #include "model/FileName.h"
 
 #include <QPointer>
@@ -40,6 +41,8 @@ ExportImageSheet::ExportImageSheet(std::unique_ptr<ItemBinding> item, const Expo
       estimate_(services.images, services.work, target.url) {
   const LibraryPreferences* const preferences = &services.preferences;
   connect(item_.get(), &ItemBinding::gone, this, &SheetModel::finished);
+  connect(item_->document(), &BrandDocument::packageURLChanged, this,
+          &ExportImageSheet::followPackage);
   connect(preferences, &LibraryPreferences::lastExportFormatChanged, this,
           &ExportImageSheet::followChoice);
   connect(preferences, &LibraryPreferences::lastExportQualityChanged, this,
@@ -50,6 +53,16 @@ ExportImageSheet::ExportImageSheet(std::unique_ptr<ItemBinding> item, const Expo
 
 ExportChoice ExportImageSheet::choice() const {
   return {services_.preferences.lastExportFormat(), size_.pixelSize(), quality()};
+}
+
+// Another machine may rename the brand while the sheet is open.
+void ExportImageSheet::followPackage() {
+  const AssetRef asset{lastPathComponent(target_.url), {}};
+  const auto path = Package::assetPath(item_->document()->packageURL(), asset);
+  if (!path) return;
+  target_.url = *path;
+  estimate_.setPath(*path);
+  emit pathChanged();
 }
 
 void ExportImageSheet::followChoice() {
@@ -65,6 +78,7 @@ QString ExportImageSheet::original() const {
 }
 
 QString ExportImageSheet::estimate() const {
+  if (estimate_.hasFailed()) return QStringLiteral("The file can't be read");
   if (!estimate_.text()) return QStringLiteral("Calculating size…");
   return QStringLiteral("≈ %1 · %2 × %3 · %4")
       .arg(*estimate_.text())
@@ -122,6 +136,10 @@ void ExportImageSheet::setBusy(bool busy) {
   if (std::exchange(isBusy_, busy) != busy) emit busyChanged();
 }
 
+void ExportImageSheet::tellOfFailure() const {
+  services_.toast(QStringLiteral("“%1” couldn't be converted").arg(baseName()));
+}
+
 void ExportImageSheet::copy() {
   if (isBusy_) return;
   setBusy(true);
@@ -132,7 +150,7 @@ void ExportImageSheet::copy() {
       [self = QPointer(this), forms] {
         if (!self) return;
         self->setBusy(false);
-        if (forms->isEmpty()) return;
+        if (forms->isEmpty()) return self->tellOfFailure();
         self->services_.pasteboard.setForms(*forms);
         emit self->finished();
       });
@@ -147,7 +165,7 @@ void ExportImageSheet::save() {
                        [self = QPointer(this), format = choice().format, bytes] {
                          if (!self) return;
                          self->setBusy(false);
-                         if (!*bytes) return;
+                         if (!*bytes) return self->tellOfFailure();
                          const Services services = self->services_;
                          const QString name = ExportHandout::fileName(self->target_, format);
                          emit self->finished();
@@ -161,12 +179,16 @@ std::function<DragItem()> ExportImageSheet::dragWork() const {
           choice = choice()] { return ExportHandout::dragItem(images, files, target, choice); };
 }
 
-void ExportImageSheet::prepareDrag() { dragPreparation_.begin(choice().key(), dragWork()); }
+void ExportImageSheet::prepareDrag() { dragPreparation_.begin(dragKey(), dragWork()); }
 
 void ExportImageSheet::drag(QQuickItem* view, const QImage& grabbed, qreal radius) {
-  constexpr std::chrono::seconds patience(10);
-  const auto item = dragPreparation_.make(choice().key(), dragWork(), patience);
-  if (!item || !item->file) return;
+  constexpr std::chrono::seconds patience(1);
+  const auto item = dragPreparation_.make(dragKey(), dragWork(), patience);
+  if (!item) {
+    return services_.toast(
+        QStringLiteral("Still converting “%1” · Drag it again in a moment").arg(baseName()));
+  }
+  if (!item->file) return tellOfFailure();
   carryOut(*view, grabbed, radius, [&session = services_.dragSession, item](const DragLook& look) {
     session.drag({*item}, look);
   });

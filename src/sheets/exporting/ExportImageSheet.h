@@ -23,7 +23,7 @@ class ExportImageSheet : public tarnloft::SheetModel {
   QML_ELEMENT
   QML_UNCREATABLE("Made by those who want it")
   Q_PROPERTY(QString baseName READ baseName CONSTANT)
-  Q_PROPERTY(QString path READ path CONSTANT)
+  Q_PROPERTY(QString path READ path NOTIFY pathChanged)
   Q_PROPERTY(tarnloft::Thumbnails* thumbnails READ thumbnails CONSTANT)
   Q_PROPERTY(QString original READ original CONSTANT)                // its size, as a line
   Q_PROPERTY(QString estimate READ estimate NOTIFY estimateChanged)  // what will come, as a line
@@ -52,6 +52,8 @@ class ExportImageSheet : public tarnloft::SheetModel {
     Thumbnails& thumbnails;
     // Tells the user why a file couldn't be written, when the sheet may have closed.
     std::function<void(const QString& title, const QString& reason)> tell;
+    // Tells in passing.
+    std::function<void(const QString& text)> toast;
   };
 
   ExportImageSheet(std::unique_ptr<ItemBinding> item, const ExportTarget& target,
@@ -79,7 +81,7 @@ class ExportImageSheet : public tarnloft::SheetModel {
   Q_INVOKABLE void applyPreset(int preset);
   bool isBusy() const { return isBusy_; }
 
-  // Puts it on the clipboard and closes the sheet; stays open if it can't be converted.
+  // Puts it on the clipboard and closes the sheet; stays open, and tells, if it can't be converted.
   Q_INVOKABLE void copy();
   // The same into a file that the user chooses when the sheet has closed.
   Q_INVOKABLE void save();
@@ -92,18 +94,22 @@ class ExportImageSheet : public tarnloft::SheetModel {
 
  signals:
   void changed();
+  void pathChanged();
   void estimateChanged();
   void busyChanged();
 
  private:
   ExportChoice choice() const;
+  void followPackage();
   void resize(const std::function<void(ExportImageSize&)>& change);
   void followChoice();
   void setBusy(bool busy);
+  void tellOfFailure() const;
+  QString dragKey() const { return target_.url + choice().key(); }
   std::function<DragItem()> dragWork() const;
 
   const std::unique_ptr<ItemBinding> item_;
-  const ExportTarget target_;
+  ExportTarget target_;
   const Services services_;
   ExportImageSize size_;
   ExportEstimate estimate_;

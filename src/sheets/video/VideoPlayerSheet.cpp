@@ -7,8 +7,14 @@
 namespace tarnloft {
 
 VideoPlayerSheet::VideoPlayerSheet(std::unique_ptr<ItemBinding> item, ClipPlayers& players,
-                                   const QString& path)
+                                   Preferences& preferences, const QString& path)
     : item_(std::move(item)), playback_(players, path) {
+  const QString volumeKey = QStringLiteral("playerVolume");
+  const double volume = preferences.number(volumeKey).value_or(1);
+  if (volume >= 0 && volume <= 1) playback_.setVolume(volume);
+  connect(&playback_, &ClipPlayback::volumeChanged, this, [this, &preferences, volumeKey] {
+    preferences.setNumber(volumeKey, playback_.volume());
+  });
   connect(item_.get(), &ItemBinding::changed, this, &VideoPlayerSheet::follow);
   connect(item_.get(), &ItemBinding::gone, &playback_, &ClipPlayback::pause);
   connect(item_.get(), &ItemBinding::gone, this, &SheetModel::finished);

@@ -95,8 +95,8 @@ void TileCommands::play(const QUuid& item) {
   if (!video) return;
   // A name that leads out of the package gives no path: such a clip counts as broken.
   const auto path = Package::assetPath(document_->packageURL(), video->asset);
-  window_.sheets.show(std::make_unique<VideoPlayerSheet>(std::move(binding), services_.clipPlayers,
-                                                         path.value_or(QString())));
+  window_.sheets.show(std::make_unique<VideoPlayerSheet>(
+      std::move(binding), services_.clipPlayers, services_.preferences, path.value_or(QString())));
 }
 
 void TileCommands::setBackdrop(const QUuid& item, std::optional<ImageBackground> background) {
@@ -139,12 +139,15 @@ void TileCommands::showExport(const QUuid& item, const ExportTarget& target) {
   const auto tell = [&library = services_.library](const auto& title, const auto& reason) {
     library.tell(title, reason);
   };
+  const auto toast = [self = QPointer(this)](const QString& text) {
+    if (self) self->tell(text);
+  };
   window_.sheets.show(std::make_unique<ExportImageSheet>(
       std::move(binding), target,
       ExportImageSheet::Services{services_.library.preferences(), services_.drags.images,
                                  services_.work, services_.drags.files, services_.dialogs,
                                  services_.pasteboard, services_.dragSession, services_.thumbnails,
-                                 tell}));
+                                 tell, toast}));
 }
 
 void TileCommands::reveal(const AssetRef& asset) {
