@@ -16,9 +16,9 @@ QString ExportChoice::key() const {
       .arg(int(quality * 100));
 }
 
-ExportEstimate::ExportEstimate(Images& images, BackgroundWork& work, QString path,
+ExportEstimate::ExportEstimate(Images& images, BackgroundWork& work, const ExportTarget& target,
                                std::chrono::milliseconds delay)
-    : images_(images), work_(work), path_(std::move(path)) {
+    : images_(images), work_(work), target_(target) {
   timer_.setSingleShot(true);
   timer_.setInterval(delay);
   connect(&timer_, &QTimer::timeout, this, &ExportEstimate::convert);
@@ -30,15 +30,6 @@ void ExportEstimate::setChoice(const ExportChoice& choice) {
   if (choice.key() == key_) return;
   choice_ = choice;
   key_ = choice.key();
-  begin();
-}
-
-void ExportEstimate::setPath(const QString& path) {
-  path_ = path;
-  if (!text_ && !key_.isEmpty()) begin();
-}
-
-void ExportEstimate::begin() {
   withdraw();
   setText(std::nullopt);
   timer_.start();
@@ -51,13 +42,13 @@ void ExportEstimate::withdraw() {
 void ExportEstimate::convert() {
   const auto size = std::make_shared<std::optional<qint64>>();
   task_ = work_.start(
-      [&images = images_, path = path_, choice = choice_, size] {
-        const auto bytes = ImageExporter::exportImage(images, path, choice.format, choice.pixelSize,
-                                                      choice.quality);
+      [&images = images_, target = target_, choice = choice_, size] {
+        const auto bytes = ImageExporter::exportImage(images, target.path(), choice.format,
+                                                      choice.pixelSize, choice.quality);
         if (bytes) *size = bytes->size();
       },
-      [self = QPointer(this), key = key_, path = path_, size] {
-        if (!self || self->key_ != key || self->path_ != path) return;
+      [self = QPointer(this), key = key_, size] {
+        if (!self || self->key_ != key) return;
         *size ? self->setText(byteCountText(**size)) : self->setText(std::nullopt, true);
       });
 }

@@ -26,7 +26,7 @@ class ExportEstimate : public QObject {
   static constexpr std::chrono::milliseconds rest{300};
 
   // Both outlive the estimate and every conversion that it started.
-  ExportEstimate(Images& images, BackgroundWork& work, QString path,
+  ExportEstimate(Images& images, BackgroundWork& work, const ExportTarget& target,
                  std::chrono::milliseconds delay = rest);
   ~ExportEstimate() override;
 
@@ -37,21 +37,18 @@ class ExportEstimate : public QObject {
 
   // A choice with another key than the last one makes the text absent at once and starts anew.
   void setChoice(const ExportChoice& choice);
-  // The same picture stands somewhere else now.
-  void setPath(const QString& path);
 
  signals:
   void textChanged();
 
  private:
   void withdraw();
-  void begin();
   void convert();
   void setText(const std::optional<QString>& text, bool hasFailed = false);
 
   Images& images_;
   BackgroundWork& work_;
-  QString path_;
+  const ExportTarget target_;
   QTimer timer_;
   ExportChoice choice_;
   QString key_;  // of the job that waits or runs, or whose result stands

@@ -112,6 +112,8 @@ class TestVideoPlayer : public QObject {
     test.player().set([](ClipStatus& status) { status.position = 12.6; });
     QTRY_COMPARE(test.sheet->elapsed(), "0:12");
     QCOMPARE(test.sheet->remaining(), "−0:48");
+    test.player().set([](ClipStatus& status) { status.position = status.duration = 2.96; });
+    QTRY_COMPARE(test.sheet->elapsed() + test.sheet->remaining(), "0:03−0:00");
   }
 
   // From the first moment on.

@@ -4,7 +4,6 @@
 #include "assets/ExportHandout.h"
 #include "controls/dragging/Carrying.h"
 #include "document/AtomicWrite.h"
-#include "document/Package.h"
 #include "model/FileName.h"
 
 #include <QPointer>
@@ -13,6 +12,8 @@
 
 namespace tarnloft {
 namespace {
+
+QString cantConvert() { return QStringLiteral("The picture couldn't be converted"); }
 
 // Writes in the background; the sheet that asked for it has gone.
 void saveTo(const ExportImageSheet::Services& services, const QString& path,
@@ -38,11 +39,9 @@ ExportImageSheet::ExportImageSheet(std::unique_ptr<ItemBinding> item, const Expo
       target_(target),
       services_(services),
       size_(target.nativeSize),
-      estimate_(services.images, services.work, target.url) {
+      estimate_(services.images, services.work, target) {
   const LibraryPreferences* const preferences = &services.preferences;
   connect(item_.get(), &ItemBinding::gone, this, &SheetModel::finished);
-  connect(item_->document(), &BrandDocument::packageURLChanged, this,
-          &ExportImageSheet::followPackage);
   connect(preferences, &LibraryPreferences::lastExportFormatChanged, this,
           &ExportImageSheet::followChoice);
   connect(preferences, &LibraryPreferences::lastExportQualityChanged, this,
@@ -55,17 +54,8 @@ ExportChoice ExportImageSheet::choice() const {
   return {services_.preferences.lastExportFormat(), size_.pixelSize(), quality()};
 }
 
-// Another machine may rename the brand while the sheet is open.
-void ExportImageSheet::followPackage() {
-  const AssetRef asset{lastPathComponent(target_.url), {}};
-  const auto path = Package::assetPath(item_->document()->packageURL(), asset);
-  if (!path) return;
-  target_.url = *path;
-  estimate_.setPath(*path);
-  emit pathChanged();
-}
-
 void ExportImageSheet::followChoice() {
+  note_.clear();
   estimate_.setChoice(choice());
   emit changed();
   emit estimateChanged();
@@ -78,6 +68,7 @@ QString ExportImageSheet::original() const {
 }
 
 QString ExportImageSheet::estimate() const {
+  if (!note_.isEmpty()) return note_;
   if (estimate_.hasFailed()) return QStringLiteral("The file can't be read");
   if (!estimate_.text()) return QStringLiteral("Calculating size…");
   return QStringLiteral("≈ %1 · %2 × %3 · %4")
@@ -136,13 +127,14 @@ void ExportImageSheet::setBusy(bool busy) {
   if (std::exchange(isBusy_, busy) != busy) emit busyChanged();
 }
 
-void ExportImageSheet::tellOfFailure() const {
-  services_.toast(QStringLiteral("“%1” couldn't be converted").arg(baseName()));
+void ExportImageSheet::setNote(const QString& note) {
+  if (std::exchange(note_, note) != note) emit estimateChanged();
 }
 
 void ExportImageSheet::copy() {
   if (isBusy_) return;
   setBusy(true);
+  setNote({});
   const auto forms = std::make_shared<QList<PasteboardForm>>();
   services_.work.start(
       [&images = services_.images, &files = services_.files, target = target_, choice = choice(),
@@ -150,7 +142,7 @@ void ExportImageSheet::copy() {
       [self = QPointer(this), forms] {
         if (!self) return;
         self->setBusy(false);
-        if (forms->isEmpty()) return self->tellOfFailure();
+        if (forms->isEmpty()) return self->setNote(cantConvert());
         self->services_.pasteboard.setForms(*forms);
         emit self->finished();
       });
@@ -159,13 +151,14 @@ void ExportImageSheet::copy() {
 void ExportImageSheet::save() {
   if (isBusy_) return;
   setBusy(true);
+  setNote({});
   const auto bytes = std::make_shared<std::optional<QByteArray>>();
   services_.work.start([&images = services_.images, target = target_, choice = choice(),
                         bytes] { *bytes = ExportHandout::bytes(images, target, choice); },
                        [self = QPointer(this), format = choice().format, bytes] {
                          if (!self) return;
                          self->setBusy(false);
-                         if (!*bytes) return self->tellOfFailure();
+                         if (!*bytes) return self->setNote(cantConvert());
                          const Services services = self->services_;
                          const QString name = ExportHandout::fileName(self->target_, format);
                          emit self->finished();
@@ -184,11 +177,9 @@ void ExportImageSheet::prepareDrag() { dragPreparation_.begin(dragKey(), dragWor
 void ExportImageSheet::drag(QQuickItem* view, const QImage& grabbed, qreal radius) {
   constexpr std::chrono::seconds patience(1);
   const auto item = dragPreparation_.make(dragKey(), dragWork(), patience);
-  if (!item) {
-    return services_.toast(
-        QStringLiteral("Still converting “%1” · Drag it again in a moment").arg(baseName()));
-  }
-  if (!item->file) return tellOfFailure();
+  if (!item) return setNote(QStringLiteral("Still converting · Drag it again in a moment"));
+  setNote(item->file ? QString() : cantConvert());
+  if (!item->file) return;
   carryOut(*view, grabbed, radius, [&session = services_.dragSession, item](const DragLook& look) {
     session.drag({*item}, look);
   });

@@ -23,10 +23,11 @@ class ExportImageSheet : public tarnloft::SheetModel {
   QML_ELEMENT
   QML_UNCREATABLE("Made by those who want it")
   Q_PROPERTY(QString baseName READ baseName CONSTANT)
-  Q_PROPERTY(QString path READ path NOTIFY pathChanged)
+  Q_PROPERTY(QString path READ path CONSTANT)
   Q_PROPERTY(tarnloft::Thumbnails* thumbnails READ thumbnails CONSTANT)
-  Q_PROPERTY(QString original READ original CONSTANT)                // its size, as a line
-  Q_PROPERTY(QString estimate READ estimate NOTIFY estimateChanged)  // what will come, as a line
+  Q_PROPERTY(QString original READ original CONSTANT)  // its size, as a line
+  // What will come, or why it doesn't, as a line.
+  Q_PROPERTY(QString estimate READ estimate NOTIFY estimateChanged)
   Q_PROPERTY(QStringList formats READ formats CONSTANT)
   Q_PROPERTY(int format READ format WRITE setFormat NOTIFY changed)  // its place among them
   Q_PROPERTY(QString formatName READ formatName NOTIFY changed)
@@ -52,8 +53,6 @@ class ExportImageSheet : public tarnloft::SheetModel {
     Thumbnails& thumbnails;
     // Tells the user why a file couldn't be written, when the sheet may have closed.
     std::function<void(const QString& title, const QString& reason)> tell;
-    // Tells in passing.
-    std::function<void(const QString& text)> toast;
   };
 
   ExportImageSheet(std::unique_ptr<ItemBinding> item, const ExportTarget& target,
@@ -94,26 +93,26 @@ class ExportImageSheet : public tarnloft::SheetModel {
 
  signals:
   void changed();
-  void pathChanged();
   void estimateChanged();
   void busyChanged();
 
  private:
   ExportChoice choice() const;
-  void followPackage();
   void resize(const std::function<void(ExportImageSize&)>& change);
   void followChoice();
   void setBusy(bool busy);
-  void tellOfFailure() const;
-  QString dragKey() const { return target_.url + choice().key(); }
+  // In the sheet itself, as it lies over all else.
+  void setNote(const QString& note);
+  QString dragKey() const { return target_.path() + choice().key(); }
   std::function<DragItem()> dragWork() const;
 
   const std::unique_ptr<ItemBinding> item_;
-  ExportTarget target_;
+  const ExportTarget target_;
   const Services services_;
   ExportImageSize size_;
   ExportEstimate estimate_;
   DragPreparation dragPreparation_;
+  QString note_;  // what went wrong; empty for nothing
   bool isBusy_ = false;
 };
 

@@ -43,6 +43,7 @@ class VideoPlayerSheet : public tarnloft::SheetModel {
 
  private:
   void follow();
+  int shownSeconds() const;
 
   const std::unique_ptr<ItemBinding> item_;
   QString title_;

@@ -39,8 +39,10 @@ Sheet {
             spacing: 10
 
             PlayerStage {
+                readonly property real natural: Math.round(width * 9 / 16)
+
                 width: parent.width
-                height: Math.max(320, Math.min(Math.round(width * 9 / 16), root.tall))
+                height: width < 520 ? natural : Math.max(320, Math.min(natural, root.tall))
                 focus: true
                 playback: root.playback
             }

@@ -126,11 +126,15 @@ void TileCommands::startExport(const QUuid& item, const AssetRef& asset) {
   const auto path = Package::assetPath(document_->packageURL(), asset);
   if (!path) return;
   const auto target = std::make_shared<ExportTarget>();
-  services_.work.start([&images = services_.drags.images, path = *path, asset,
-                        target] { *target = ExportTarget::create(images, path, asset); },
-                       [self = QPointer(this), item, target] {
-                         if (self) self->showExport(item, *target);
-                       });
+  services_.work.start(
+      [drags = services_.drags, package = document_->packageURL(), path = *path, asset, target] {
+        *target = ExportTarget::create(drags.images, path, asset);
+        const auto folder = drags.files.openFolder(Package::folderOf(path), package);
+        if (folder) target->folder = *folder;
+      },
+      [self = QPointer(this), item, target] {
+        if (self) self->showExport(item, *target);
+      });
 }
 
 void TileCommands::showExport(const QUuid& item, const ExportTarget& target) {
@@ -139,15 +143,12 @@ void TileCommands::showExport(const QUuid& item, const ExportTarget& target) {
   const auto tell = [&library = services_.library](const auto& title, const auto& reason) {
     library.tell(title, reason);
   };
-  const auto toast = [self = QPointer(this)](const QString& text) {
-    if (self) self->tell(text);
-  };
   window_.sheets.show(std::make_unique<ExportImageSheet>(
       std::move(binding), target,
       ExportImageSheet::Services{services_.library.preferences(), services_.drags.images,
                                  services_.work, services_.drags.files, services_.dialogs,
                                  services_.pasteboard, services_.dragSession, services_.thumbnails,
-                                 tell, toast}));
+                                 tell}));
 }
 
 void TileCommands::reveal(const AssetRef& asset) {
