@@ -197,6 +197,8 @@ class TestClipPlayer : public QObject {
     playing.player->seek(1.5);
     playing.player->play();
     time.start();
+    QVERIFY(playing.await([](const auto& status) { return status.position > 2.2; }));
+    QVERIFY2(time.elapsed() > 1100, qPrintable(QString::number(time.elapsed())));  // not 0.7 s
     QVERIFY(playing.awaitEnd());
     QVERIFY2(time.elapsed() > 2500, qPrintable(QString::number(time.elapsed())));  // not 1.5 s
     QVERIFY(std::abs(sound.seconds() - 1.5) < 0.2);
