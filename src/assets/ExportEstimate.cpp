@@ -16,9 +16,9 @@ QString ExportChoice::key() const {
       .arg(int(quality * 100));
 }
 
-ExportEstimate::ExportEstimate(Images& images, BackgroundWork& work, QString path,
+ExportEstimate::ExportEstimate(Images& images, BackgroundWork& work, const ExportTarget& target,
                                std::chrono::milliseconds delay)
-    : images_(images), work_(work), path_(std::move(path)) {
+    : images_(images), work_(work), target_(target) {
   timer_.setSingleShot(true);
   timer_.setInterval(delay);
   connect(&timer_, &QTimer::timeout, this, &ExportEstimate::convert);
@@ -42,19 +42,21 @@ void ExportEstimate::withdraw() {
 void ExportEstimate::convert() {
   const auto size = std::make_shared<std::optional<qint64>>();
   task_ = work_.start(
-      [&images = images_, path = path_, choice = choice_, size] {
-        const auto bytes = ImageExporter::exportImage(images, path, choice.format, choice.pixelSize,
-                                                      choice.quality);
+      [&images = images_, target = target_, choice = choice_, size] {
+        const auto bytes = ImageExporter::exportImage(images, target.path(), choice.format,
+                                                      choice.pixelSize, choice.quality);
         if (bytes) *size = bytes->size();
       },
       [self = QPointer(this), key = key_, size] {
-        if (self && self->key_ == key && *size) self->setText(byteCountText(**size));
+        if (!self || self->key_ != key) return;
+        *size ? self->setText(byteCountText(**size)) : self->setText(std::nullopt, true);
       });
 }
 
-void ExportEstimate::setText(const std::optional<QString>& text) {
-  if (text == text_) return;
+void ExportEstimate::setText(const std::optional<QString>& text, bool hasFailed) {
+  if (text == text_ && hasFailed == hasFailed_) return;
   text_ = text;
+  hasFailed_ = hasFailed;
   emit textChanged();
 }
 

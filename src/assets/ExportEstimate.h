@@ -26,12 +26,14 @@ class ExportEstimate : public QObject {
   static constexpr std::chrono::milliseconds rest{300};
 
   // Both outlive the estimate and every conversion that it started.
-  ExportEstimate(Images& images, BackgroundWork& work, QString path,
+  ExportEstimate(Images& images, BackgroundWork& work, const ExportTarget& target,
                  std::chrono::milliseconds delay = rest);
   ~ExportEstimate() override;
 
   // Such as "2.4 MB"; absent until it is known, and for good if the export gives nothing.
   const std::optional<QString>& text() const { return text_; }
+  // The export gave nothing.
+  bool hasFailed() const { return hasFailed_; }
 
   // A choice with another key than the last one makes the text absent at once and starts anew.
   void setChoice(const ExportChoice& choice);
@@ -42,16 +44,17 @@ class ExportEstimate : public QObject {
  private:
   void withdraw();
   void convert();
-  void setText(const std::optional<QString>& text);
+  void setText(const std::optional<QString>& text, bool hasFailed = false);
 
   Images& images_;
   BackgroundWork& work_;
-  const QString path_;
+  const ExportTarget target_;
   QTimer timer_;
   ExportChoice choice_;
   QString key_;  // of the job that waits or runs, or whose result stands
   BackgroundWork::TaskPtr task_;
   std::optional<QString> text_;
+  bool hasFailed_ = false;
 };
 
 }  // namespace tarnloft

@@ -3,6 +3,7 @@
 #include "assets/ExportFormats.h"
 #include "assets/ImageExporter.h"
 #include "document/AtomicWrite.h"
+#include "document/Package.h"
 #include "model/FileName.h"
 
 namespace tarnloft::ExportHandout {
@@ -23,7 +24,7 @@ std::optional<QString> written(FileStore& files, const QString& name, const QByt
 
 std::optional<QByteArray> bytes(Images& images, const ExportTarget& target,
                                 const ExportChoice& choice) {
-  return ImageExporter::exportImage(images, target.url, choice.format, choice.pixelSize,
+  return ImageExporter::exportImage(images, target.path(), choice.format, choice.pixelSize,
                                     choice.quality);
 }
 
@@ -54,7 +55,10 @@ DragItem dragItem(Images& images, FileStore& files, const ExportTarget& target,
 }
 
 QString fileName(const ExportTarget& target, ExportFormat format) {
-  return target.baseName + QLatin1Char('.') + fileExtension(format);
+  constexpr qsizetype longest = 255;  // bytes that a folder takes for a name
+  const QString extension = QLatin1Char('.') + fileExtension(format);
+  const bool fits = target.baseName.toUtf8().size() + extension.size() <= longest;
+  return (fits ? target.baseName : Package::fileNameFor(target.baseName)) + extension;
 }
 
 }  // namespace tarnloft::ExportHandout

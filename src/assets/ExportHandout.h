@@ -23,7 +23,7 @@ QList<PasteboardForm> forms(Images& images, FileStore& files, const ExportTarget
 DragItem dragItem(Images& images, FileStore& files, const ExportTarget& target,
                   const ExportChoice& choice);
 
-// "Hero.jpg".
+// "Hero.jpg"; shorter where the client's name is too long for a file.
 QString fileName(const ExportTarget& target, ExportFormat format);
 
 }  // namespace tarnloft::ExportHandout

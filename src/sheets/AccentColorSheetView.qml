@@ -10,8 +10,6 @@ Sheet {
 
     required property AccentColorSheet model
 
-    readonly property real room: (parent?.width ?? 320) - 2 * (margins + padding) // in a narrow window
-
     accessibleName: "Brand Accent Color"
     defaultButton: done
 
@@ -21,30 +19,16 @@ Sheet {
         width: Math.min(320, root.room)
         spacing: 16
 
-        Item {
+        SheetHead {
             width: parent.width
-            height: 32
-
-            RoundedRectangle {
-                id: preview
-
+            title: root.accessibleName
+            front: RoundedRectangle {
                 width: 32
                 height: 32
                 radius: 16
                 color: root.model.accent
                 edgeWidth: 1
                 edgeColor: Theme.thin(Theme.primary, 0.08)
-            }
-
-            Label {
-                anchors.left: preview.right
-                anchors.leftMargin: 12
-                anchors.right: parent.right
-                anchors.verticalCenter: parent.verticalCenter
-                text: "Brand Accent Color"
-                font: Theme.headline
-                horizontalAlignment: Text.AlignLeft
-                Accessible.role: Accessible.Heading
             }
         }
 

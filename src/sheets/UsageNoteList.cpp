@@ -3,13 +3,11 @@
 namespace tarnloft {
 
 void UsageNoteList::setNotes(const QList<UsageNote>& notes) {
-  const int before = count();
   carryOut(listDifference(notes_, notes), ListRows<QList<UsageNote>>{notes_, notes});
-  if (count() != before) emit countChanged();
 }
 
 int UsageNoteList::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : count();
+  return parent.isValid() ? 0 : int(notes_.size());
 }
 
 QVariant UsageNoteList::data(const QModelIndex& index, int role) const {

@@ -12,7 +12,6 @@ class UsageNoteList : public tarnloft::RecordListModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Belongs to a sheet")
-  Q_PROPERTY(int count READ count NOTIFY countChanged)
 
  public:
   enum Role {
@@ -22,14 +21,10 @@ class UsageNoteList : public tarnloft::RecordListModel {
 
   const QList<UsageNote>& notes() const { return notes_; }
   void setNotes(const QList<UsageNote>& notes);
-  int count() const { return int(notes_.size()); }
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
   QHash<int, QByteArray> roleNames() const override;
-
- signals:
-  void countChanged();
 
  private:
   QList<UsageNote> notes_;

@@ -10,7 +10,6 @@ Sheet {
 
     required property UsageNotesSheet model
 
-    readonly property real room: (parent?.width ?? 520) - 2 * (margins + padding) // in a narrow window
     property bool adding: false // the next row is the user's, who goes on in it
 
     function add(kind: int) {
@@ -27,51 +26,19 @@ Sheet {
         width: Math.min(460, root.room)
         spacing: 14
 
-        Item {
+        SheetHead {
             width: parent.width
-            height: Math.max(heading.height, done.height)
-
-            Symbol {
-                id: mark
-
-                anchors.verticalCenter: parent.verticalCenter
+            title: root.accessibleName
+            subtitle: root.model.title
+            front: Symbol {
                 name: "checklist"
                 size: 20
                 color: Theme.accent
             }
 
-            Column {
-                id: heading
-
-                anchors.left: mark.right
-                anchors.leftMargin: 10
-                anchors.right: done.left
-                anchors.rightMargin: 12
-                anchors.verticalCenter: parent.verticalCenter
-                spacing: 1
-
-                Label {
-                    width: parent.width
-                    text: "Usage & Notes"
-                    font: Theme.headline
-                    horizontalAlignment: Text.AlignLeft
-                    Accessible.role: Accessible.Heading
-                }
-
-                Label {
-                    width: parent.width
-                    text: root.model.title
-                    font: Theme.subheadline
-                    color: Theme.secondaryLabel
-                    horizontalAlignment: Text.AlignLeft
-                }
-            }
-
             Button {
                 id: done
 
-                anchors.right: parent.right
-                anchors.verticalCenter: parent.verticalCenter
                 text: "Done"
                 kind: Button.Prominent
                 onClicked: root.close()

@@ -3,6 +3,7 @@
 #include "assets/ItemDrag.h"
 #include "controls/sheets/NameSheet.h"
 #include "document/Package.h"
+#include "sheets/emblems/EmblemPicker.h"
 #include "sheets/versions/VersionHistorySheet.h"
 
 #include <algorithm>
@@ -137,7 +138,7 @@ void BrandWorkspace::showEyedropperTip() {
       QStringLiteral("Tip: press ⌃⌘P to keep sampling — colors land in this section"));
 }
 
-void BrandWorkspace::editEmblem(const QUuid& section, const EmblemPicker::Words& words) {
+void BrandWorkspace::editEmblem(const QUuid& section, const EmblemWords& words) {
   if (!document_) return;
   window_.sheets.show(std::make_unique<EmblemPicker>(
       EmblemSubject(*document_, section), words,

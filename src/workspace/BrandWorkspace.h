@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/sheets/SheetHost.h"
-#include "sheets/emblems/EmblemPicker.h"
+#include "sheets/emblems/EmblemWords.h"
 #include "workspace/ToastCenter.h"
 #include "workspace/WorkspaceServices.h"
 #include "workspace/page/SectionListModel.h"
@@ -86,7 +86,7 @@ class BrandWorkspace : public QObject {
   void collectColorsIn(const QUuid& section);
 
   // Opens the sheet that gives the section its emblem.
-  void editEmblem(const QUuid& section, const EmblemPicker::Words& words);
+  void editEmblem(const QUuid& section, const EmblemWords& words);
 
   // Swaps it with the one `step` places on, if there is one.
   void moveSection(const QUuid& section, int step);

@@ -19,7 +19,7 @@ struct Estimate {
   QSignalSpy changes{&estimate, &ExportEstimate::textChanged};
 
   explicit Estimate(const char* path = "a")
-      : estimate(images, work, QString::fromLatin1(path), 0ms) {
+      : estimate(images, work, ExportTarget{{}, QString::fromLatin1(path), {}, {}}, 0ms) {
     images.close();
   }
   ~Estimate() { images.open(); }
@@ -132,7 +132,8 @@ class TestImageExporter : public QObject {
     FakeImages images;
     images.close();
     BackgroundWork work(1);
-    auto estimate = std::make_unique<ExportEstimate>(images, work, "a", 0ms);
+    auto estimate =
+        std::make_unique<ExportEstimate>(images, work, ExportTarget{{}, "a", {}, {}}, 0ms);
     estimate->setChoice({ExportFormat::png, {8, 6}, 1});
     QTRY_COMPARE(images.begun().size(), 1);
     estimate.reset();

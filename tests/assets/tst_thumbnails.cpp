@@ -86,18 +86,6 @@ class TestThumbnails : public QObject {
     QCOMPARE(loader.got.last(), "b");
   }
 
-  void keepsWhatHadBegun() {
-    Loader loader;
-    auto busy = loader.occupy();
-    busy.cancel();
-    const auto other = loader.ask("other");
-    loader.images.open(2);
-    QTRY_COMPARE(loader.got, QStringList("other"));
-    const auto again = loader.ask("busy");
-    QCOMPARE(loader.got.last(), "busy");
-    QCOMPARE(loader.images.begun().size(), 2);
-  }
-
   void forgetsTheLeastRecentlyUsed() {
     Loader loader;
     const auto askFor = [&](int i) { return loader.ask(QByteArray::number(i).constData()); };

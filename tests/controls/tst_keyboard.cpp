@@ -241,17 +241,6 @@ class TestKeyboard : public QObject {
     QCOMPARE(stage.focused(), "opener");
   }
 
-  void aMenuOpenedAndClosedQuicklyKeepsTheFocus() {
-    Stage stage(menus);
-    stage.press(Qt::Key_Tab);
-    for (int i = 0; i < 3; ++i) {
-      stage.press(Qt::Key_Space);
-      QVERIFY(stage.focused() != "opener");
-      stage.press(Qt::Key_Escape);
-      QCOMPARE(stage.focused(), "opener");
-    }
-  }
-
   void aSecondClickClosesTheMenuOfAButton() {
     Stage stage(
         "MenuButton { objectName: 'opener'; text: 'A'\n"
@@ -274,30 +263,6 @@ class TestKeyboard : public QObject {
     QTRY_VERIFY(!stage.log().isEmpty());
     stage.press(Qt::Key_Escape);
     QTRY_COMPARE(stage.focused(), "well");
-  }
-
-  void aSheetOpenedFromAMenuGivesTheFocusBack() {
-    Stage stage(
-        "MenuButton { objectName: 'opener'; text: 'A'\n"
-        "  menu: Menu { MenuItem { text: 'Rename'; onTriggered: naming.open() } } }\n"
-        "Sheet { id: naming; TextField { objectName: 'name'; focus: true } }");
-    stage.press(Qt::Key_Tab);
-    stage.press(Qt::Key_Space);
-    QTest::qWait(200);
-    stage.press(Qt::Key_Down);
-    stage.press(Qt::Key_Return);
-    QTRY_COMPARE(stage.focused(), "name");
-    QTest::qWait(400);  // the menu has gone by now, and leaves the sheet its focus
-    QCOMPARE(stage.focused(), "name");
-    stage.press(Qt::Key_Escape);
-    QTRY_COMPARE(stage.focused(), "opener");
-  }
-
-  void anAmpersandIsALetter() {
-    Stage stage("ListRow { text: 'R&D'; onClicked: log('pressed') }");
-    stage.press(Qt::Key_D, Qt::AltModifier);
-    QTest::qWait(50);
-    QCOMPARE(stage.log(), QString());
   }
 
   void rolesAndNames() {
@@ -326,22 +291,6 @@ class TestKeyboard : public QObject {
         QCOMPARE(node->role(), role);
         QCOMPARE(text(node), name);
       }
-    });
-  }
-
-  void whatOpensAMenuTellsOfIt() {
-    const Cases<QString> cases{
-        {"menu button", "MenuButton { text: 'A'; menu: Menu { MenuItem { text: 'B' } }"},
-        {"pop-up picker", "PopUpPicker { options: [PickerOption { text: 'B' }]"}};
-    cases.check([&](const QString& qml) {
-      QAccessible::setActive(true);
-      Stage stage(named(qml));
-      QAccessibleInterface* node = subject(stage);
-      QVERIFY(!node->state().pressed);
-      node->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-      QTRY_VERIFY(node->state().pressed);
-      stage.press(Qt::Key_Escape);
-      QTRY_VERIFY(!node->state().pressed);
     });
   }
 };

@@ -176,30 +176,6 @@ class TestPointer : public QObject {
     QCOMPARE(stage.log(), QString());
   }
 
-  void aToastComesAndGoes() {
-    Stage stage("Toast { objectName: 'toast'; message: '' }");
-    auto* toast = stage.find<QQuickItem>("toast");
-    QVERIFY(!toast->isVisible());
-    toast->setProperty("message", "Copied #4C6FFF");
-    QTRY_COMPARE(toast->opacity(), 1.0);
-    QCOMPARE(toast->y() + toast->height(), 500.0 - 24);
-    toast->setProperty("message", QString());
-    QTRY_VERIFY(!toast->isVisible());
-  }
-
-  void aClickChoosesASegment() {
-    Stage stage(
-        "SegmentedPicker { objectName: 'picker'; onActivated: index => log(index)\n"
-        "  options: [PickerOption { text: 'A' }, PickerOption { text: 'B' }] }");
-    const auto* picker = stage.find<QQuickItem>("picker");
-    for (const qreal share : {0.75, 0.25})
-      QTest::mouseClick(
-          stage.window(), Qt::LeftButton, {},
-          picker->mapToScene({picker->width() * share, picker->height() / 2}).toPoint());
-    QCOMPARE(stage.log(),
-             "1");  // the view has not stored it: the first is still on
-  }
-
   void theColorPanelRemembersTheHueOfGrey() {
     Stage stage(
         "ColorPanel { objectName: 'panel'; color: '#336699'\n"

@@ -188,23 +188,6 @@ class TestLibraryStore : public QObject {
     QCOMPARE(store.brands().size(), 3);
   }
 
-  void deletesToTheTrash() {
-    TestLibrary library;
-    LibraryStore& store = library.start();
-    for (const char* name : {"a", "b", "c"}) store.createBrand(name);
-    store.openDocument()->edit([](Brand& brand) { brand.name = "pending"; });
-    store.deleteBrand(store.brands().at(0));
-    QCOMPARE(store.selection(), library.packagePath("c"));
-    store.deleteBrand(store.brands().last());
-    QCOMPARE(nameOf(store), "b");
-    store.deleteBrand(store.brands().first());
-    QVERIFY(!store.selection() && !store.openDocument());
-    QTest::qWait(600);
-    QVERIFY(QDir(library.folder).isEmpty());
-    QCOMPARE(QDir(library.disk.path("trash")).entryList(QDir::Dirs | QDir::NoDotAndDotDot),
-             QStringList({"a.tarnloft", "b.tarnloft", "c.tarnloft"}));
-  }
-
   void publishesAndSelects() {
     TestLibrary library;
     LibraryStore& store = library.start();

@@ -96,15 +96,6 @@ class TestAppearance : public QObject {
     QTRY_VERIFY(appearance.isDark());
   }
 
-  void followsThePaletteWithoutAPortal() {
-    DesktopAppearance appearance;
-    QVERIFY(!appearance.isDark());
-    const QSignalSpy changes(&appearance, &DesktopAppearance::darkChanged);
-    colorDesktop(Qt::black, Qt::white);
-    QTRY_VERIFY(appearance.isDark());
-    QCOMPARE(changes.count(), 1);
-  }
-
   void asksThePortalOnce() {
     const Cases<uint, bool, bool> cases{{"dark on a light palette", 1U, false, true},
                                         {"light on a dark palette", 2U, true, false},

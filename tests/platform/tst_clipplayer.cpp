@@ -83,7 +83,7 @@ struct Playing {
     return QTest::qWaitFor([&] { return condition(status()); }, int(patience / 1ms));
   }
   bool awaitPicture() {
-    return await([](const ClipStatus& status) { return status.pictures > 0; });
+    return await([](const auto& status) { return status.pictures > 0; });
   }
   // At that moment.
   QImage pictureAt(double seconds) {
@@ -97,8 +97,7 @@ struct Playing {
     return await([](const ClipStatus& status) { return !status.isPlaying; });
   }
   bool awaitBreak() {
-    return await(
-        [](const ClipStatus& status) { return status.state == ClipStatus::State::broken; });
+    return await([](const auto& status) { return status.state == ClipStatus::State::broken; });
   }
 };
 
@@ -118,27 +117,20 @@ class TestClipPlayer : public QObject {
  private slots:
   // In any order, whatever the container can jump to.
   void showsAtEachMomentWhatPostersShow() {
-    const QList<double> moments{0.35, 0, 0.1, 0.25, 5, 0.15};
     for (const char* name :
-         {"h264.mp4",         "h264.mkv",      "h264.ts",          "h264.flv",
-          "hevc10.mov",       "animation.mov", "av1.mp4",          "mjpeg.avi",
-          "mpeg4.3gp",        "theora.ogv",    "vp8.webm",         "vp9.webm",
-          "no-duration.webm", "wmv2.wmv",      "prores.mov",       "one-frame.mp4",
-          "wide.mp4",         "turned90.mp4",  "mirrored.mp4",     "perceptual.mp4",
-          "wide-colors.mp4",  "glass.mov",     "late-picture.mp4", "cover-and-clip.mkv",
-          "tone.mp4"}) {
+         {"h264.mp4", "h264.ts", "h264.flv", "hevc10.mov", "animation.mov", "mjpeg.avi", "vp9.webm",
+          "no-duration.webm", "wmv2.wmv", "one-frame.mp4", "turned90.mp4", "perceptual.mp4",
+          "glass.mov", "late-picture.mp4", "cover-and-clip.mkv", "tone.mp4"}) {
       Playing playing(name);
       QVERIFY2(playing.awaitPicture(), name);
       QCOMPARE(playing.player->picture(), posterAt(name, 0));
-      for (const double moment :
-           name == std::string("tone.mp4") ? QList<double>{2.95, 0.05, 1.55, 1.95, 2} : moments) {
+      for (const double moment : {0.35, 0.0, 0.1, 0.25, 5.0, 0.15, 2.95, 1.95, 2.0}) {
         const double known = playing.status().duration;
         const double asked = known > 0 ? std::min(moment, known) : moment;
         const QImage shown = playing.pictureAt(moment), expected = posterAt(name, asked);
         QVERIFY2(!shown.isNull() && shown == expected,
                  qPrintable(QString("%1 at %2").arg(name).arg(moment)));
       }
-      QCOMPARE(playing.status().state, ClipStatus::State::open);
       QVERIFY(!playing.status().isPlaying);
     }
   }
@@ -154,22 +146,22 @@ class TestClipPlayer : public QObject {
   }
 
   void playsToItsEndAndThenAnew() {
-    for (const char* name : {"tone.mp4", "h264.mp4", "no-duration.webm"}) {
+    for (const auto& [name, end] :
+         {std::pair("tone.mp4", 3.0), {"no-duration.webm", 0.4}, {"sound-with-cover.m4a", 0.5}}) {
       Playing playing(name);
       QElapsedTimer time;
       time.start();
       playing.player->play();
       QVERIFY(playing.status().isPlaying);
       QVERIFY2(playing.awaitEnd(), name);
-      const double end = name == std::string("tone.mp4") ? 3.0 : 0.4;
       QVERIFY(double(time.elapsed()) >= 1000 * end - 50);
       QVERIFY2(std::abs(playing.status().position - end) < 0.2, name);
       QCOMPARE(playing.status().duration, playing.status().position);
+      QCOMPARE(playing.status().hasPictures, !QString(name).contains("m4a"));
       QCOMPARE(playing.player->picture(), posterAt(name, end));
       QVERIFY(playing.news > 3);
       playing.player->play();
-      QVERIFY(playing.status().position < end / 2);
-      QVERIFY(playing.status().isPlaying);
+      QVERIFY(playing.status().isPlaying && playing.status().position < end / 2);
       QVERIFY2(playing.awaitEnd(), name);
     }
   }
@@ -180,26 +172,21 @@ class TestClipPlayer : public QObject {
     QVERIFY(playing.await([](const auto& status) { return status.position > 0.3; }));
     playing.player->pause();
     QTest::qWait(50);
-    const double moment = playing.status().position;
-    const int pictures = playing.status().pictures;
+    const ClipStatus paused = playing.status();
     QTest::qWait(300);
-    QCOMPARE(playing.status().position, moment);
-    QCOMPARE(playing.status().pictures, pictures);
+    QCOMPARE(playing.status().position, paused.position);
+    QCOMPARE(playing.status().pictures, paused.pictures);
     playing.pictureAt(1.05);
-    const auto stepTo = [&](ClipPlayer::Step step, double shown) {
+    using enum ClipPlayer::Step;
+    for (const auto& [step, shown] :
+         {std::pair(forth, 1.15), {forth, 1.25}, {back, 1.15}, {back, 1.05}, {back, 0.95}}) {
       const int before = playing.status().pictures;
       playing.player->step(step);
-      return playing.await([&](const auto& status) { return status.pictures > before; }) &&
-             playing.player->picture() == posterAt("tone.mp4", shown);
-    };
-    QVERIFY(stepTo(ClipPlayer::Step::forth, 1.15));
-    QVERIFY(stepTo(ClipPlayer::Step::forth, 1.25));
-    QVERIFY(stepTo(ClipPlayer::Step::back, 1.15));
-    QVERIFY(stepTo(ClipPlayer::Step::back, 1.05));
-    QVERIFY(stepTo(ClipPlayer::Step::back, 0.95));
+      QVERIFY(playing.await([&](const auto& status) { return status.pictures > before; }));
+      QCOMPARE(playing.player->picture(), posterAt("tone.mp4", shown));
+    }
     playing.player->play();
     QVERIFY(playing.awaitEnd());
-    QCOMPARE(playing.player->picture(), posterAt("tone.mp4", 3));
   }
 
   void soundLeadsTheClock() {
@@ -210,6 +197,8 @@ class TestClipPlayer : public QObject {
     playing.player->seek(1.5);
     playing.player->play();
     time.start();
+    QVERIFY(playing.await([](const auto& status) { return status.position > 2.2; }));
+    QVERIFY2(time.elapsed() > 1100, qPrintable(QString::number(time.elapsed())));  // not 0.7 s
     QVERIFY(playing.awaitEnd());
     QVERIFY2(time.elapsed() > 2500, qPrintable(QString::number(time.elapsed())));  // not 1.5 s
     QVERIFY(std::abs(sound.seconds() - 1.5) < 0.2);
@@ -237,16 +226,6 @@ class TestClipPlayer : public QObject {
       QVERIFY(playing.awaitEnd());
       QCOMPARE(playing.player->picture(), posterAt("tone.mp4", 3));
     }
-  }
-
-  void playsSoundAlone() {
-    FakeSound sound;
-    Playing playing("sound-with-cover.m4a", &sound);
-    playing.player->play();
-    QVERIFY(playing.awaitEnd());
-    QCOMPARE(playing.status().state, ClipStatus::State::open);
-    QVERIFY(playing.status().hasSound && !playing.status().hasPictures);
-    QVERIFY(std::abs(sound.seconds() - 0.5) < 0.2);
   }
 
   void tellsOfABrokenClip() {

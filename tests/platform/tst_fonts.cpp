@@ -4,7 +4,6 @@
 #include "testing/TestServices.h"
 
 #include <QGuiApplication>
-#include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTest>
 #include <QThread>
@@ -135,29 +134,6 @@ class TestFonts : public QObject {
     fresh.registerForProcess(path);
     QCOMPARE(changes.size(), 0);
     QTRY_COMPARE(changes.size(), 1);
-  }
-
-  void survivesDamage() {
-    TestServices disk;
-    QRandomGenerator random(7);
-    int number = 0;
-    for (const QString& name : QDir(fixtures).entryList({"*.?tf", "*.ttc", "*.woff*"})) {
-      const QByteArray whole = contentOf(fixtures + name);
-      for (int round = 0; round < 20; ++round) {
-        QByteArray damaged = whole;
-        for (int count = random.bounded(1, 8); count > 0; --count) {
-          damaged[random.bounded(int(damaged.size()))] = char(random.bounded(256));
-        }
-        if (round % 4 == 0) damaged.truncate(random.bounded(int(damaged.size())));
-        const QString path = disk.path(QString::number(++number));
-        QVERIFY(writeFile(path, damaged));
-        fonts.registerForProcess(path);
-        if (const auto names = fonts.names(path)) {
-          QVERIFY(!names->family.isEmpty());
-          drawnBox(names->family);
-        }
-      }
-    }
   }
 
  private:

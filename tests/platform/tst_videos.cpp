@@ -212,27 +212,6 @@ class TestVideos : public QObject {
     QVERIFY(!LibavVideos().frame(path, 0.1, 512));
     QVERIFY(peakMemory() - before < 500'000);  // it would be four million
   }
-
-  void survivesDamage() {
-    TestServices disk;
-    const QString path = disk.path("a");
-    QRandomGenerator random(7);
-    for (const QString& name : QDir(fixtures).entryList({"*.m*", "*.webm", "*.ts", "*.[fowa3]*"})) {
-      const QByteArray whole = contentOf(fixtures + name);
-      for (int round = 0; round < 20; ++round) {
-        QByteArray damaged = whole;
-        for (int count = random.bounded(1, 12); count > 0; --count) {
-          damaged[random.bounded(int(damaged.size()))] = char(random.bounded(256));
-        }
-        if (round % 4 == 0) damaged.truncate(random.bounded(int(damaged.size())));
-        QVERIFY(writeFile(path, damaged));
-        const auto properties = LibavVideos().properties(path);
-        const auto picture = LibavVideos().frame(path, 0.1, 32);
-        if (properties && properties->duration) QVERIFY(*properties->duration >= 0);
-        if (picture) QVERIFY(picture->width() <= 32 && picture->height() <= 32);
-      }
-    }
-  }
 };
 
 QTEST_GUILESS_MAIN(TestVideos)

@@ -1,10 +1,13 @@
+#include "document/UndoHistory.h"
 #include "sheets/AccentColorSheet.h"
 #include "sheets/AssetRenameSheet.h"
 #include "sheets/ItemRenaming.h"
+#include "sheets/UsageNotesSheet.h"
 #include "sheets/editors/ItemEditorSheet.h"
 #include "testing/Cases.h"
 #include "testing/TestServices.h"
 
+#include <QAbstractItemModelTester>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -130,15 +133,57 @@ class TestEditors : public QObject {
     sheet.pick(Qt::red);
   }
 
-  void aSheetGoesWithItsItem() {
-    EditorTest test(ColorPayload{{"#123456", {}, {}}});
+  void aNoteIsStoredAtOnce() {
+    using Kind = UsageNotesSheet::Kind;
+    EditorTest test(ColorPayload{{"#123456", "Sea", {}}});
+    // What is stored, as "kind:text".
+    const auto stored = [&] {
+      QStringList result;
+      for (const UsageNote& note : test.now().notes.value_or(QList<UsageNote>())) {
+        result << QString::number(int(note.kind)) + ':' + note.text;
+      }
+      return test.now().notes ? result.join(' ') : "none";
+    };
+    UsageNotesSheet sheet(test.binding());
+    const QAbstractItemModelTester tester(sheet.notes());
+    QCOMPARE(sheet.title(), "Sea");
+    sheet.add(Kind::DoRule);
+    sheet.setText(1, "Clear");
+    sheet.setKind(1, Kind::DontRule);
+    QCOMPARE(stored(), "2:Keep 1:Clear");
+    QCOMPARE(sheet.notes()->index(1).data(UsageNoteList::TextRole), "Clear");
+    sheet.remove(7);
+    sheet.remove(0);
+    QCOMPARE(stored(), "1:Clear");
+    test.document->updateItem(test.item.id, [](Item& item) { item.setUsageNotes({}); });
+    QCOMPARE(sheet.notes()->count(), 0);
+    sheet.add(Kind::Note);
+    sheet.remove(0);
+    QCOMPARE(stored(), "none");
+  }
+
+  void aSheetFollowsItsItemUntilItGoes() {
+    EditorTest test(ColorPayload{{"#123456", "Sea", {}}});
     AssetRenameSheet renaming(test.binding(), [](const QString&) {});
+    UsageNotesSheet notes(test.binding());
     QSignalSpy edited(test.sheet.get(), &SheetModel::finished);
     QSignalSpy renamed(&renaming, &SheetModel::finished);
+    QSignalSpy noted(&notes, &SheetModel::finished);
+    UndoHistory undo;
+    test.document->mutate("Move", &undo, [](Brand& brand) {
+      brand.sections[1].items.append(brand.sections[0].items.takeAt(0));
+    });
+    test.sheet->color()->setName("Lake");
+    QCOMPARE(notes.title(), "Lake");
+    undo.undo();
+    QCoreApplication::processEvents();
+    QCOMPARE(test.now().displayName(), "Lake");
+    QVERIFY(edited.isEmpty() && renamed.isEmpty() && noted.isEmpty());
     test.document->removeItem(test.item.id);
     QCoreApplication::processEvents();
-    QCOMPARE(edited.size() + renamed.size(), 2);
-    test.sheet->color()->setHex("#000000");
+    QCOMPARE(edited.size() + renamed.size() + noted.size(), 3);
+    test.sheet->color()->setHex("#000000");  // while it closes
+    notes.add(UsageNotesSheet::Kind::Note);
     QVERIFY(test.document->brand().sections.at(0).items.isEmpty());
   }
 

@@ -1,10 +1,7 @@
 #include "sheets/emblems/EmblemPicker.h"
 #include "sheets/emblems/EmblemSymbolList.h"
 #include "testing/Cases.h"
-#include "testing/FakeDialogs.h"
-#include "testing/FakeDrops.h"
-#include "testing/FakeMedia.h"
-#include "testing/TestServices.h"
+#include "testing/TestImports.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -16,28 +13,16 @@ namespace {
 using Kind = EmblemPicker::Kind;
 
 // The picker of the first section's emblem.
-struct PickerTest {
-  TestServices disk;
+struct PickerTest : TestImports {
   std::unique_ptr<BrandDocument> document =
       *BrandDocument::create(disk.services(), disk.folder.path(), "Acme");
-  FakeImages images;
-  FakeTypes types;
-  FakeFonts fonts;
-  ScriptedDialogs dialogs;
-  QThreadPool workers;
-  BackgroundWork work{1};
-  ThumbnailLoader loader{images, work};
-  Thumbnails thumbnails{loader};
-  QStringList failed;
   QUuid section = document->brand().sections.at(0).id;
   std::unique_ptr<EmblemPicker> picker;
 
   EmblemPicker& open() {
-    const ImportServices imports{
-        types, fonts, workers, {}, [this](const QStringList& names, auto) { failed << names; }};
     picker = std::make_unique<EmblemPicker>(EmblemSubject(*document, section),
                                             EmblemPicker::Words{"Section Icon", {}, "#4C6FFF"},
-                                            EmblemPicker::Services{dialogs, imports, thumbnails});
+                                            EmblemPicker::Services{dialogs, imports(), thumbnails});
     return *picker;
   }
   std::optional<Emblem> stored() const { return document->brand().sections.at(0).emblem; }

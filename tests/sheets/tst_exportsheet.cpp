@@ -1,5 +1,7 @@
+#include "assets/ExportHandout.h"
 #include "library/LibraryPreferences.h"
 #include "sheets/exporting/ExportImageSheet.h"
+#include "testing/FakeDragging.h"
 #include "testing/FakeMedia.h"
 #include "testing/TestLibrary.h"
 
@@ -11,23 +13,6 @@ using namespace tarnloft;
 
 namespace {
 
-struct Clipboard : Pasteboard {
-  QStringList types;
-  QList<QByteArray> bytes;
-  void setText(const QString&) override {}
-  void setForms(const QList<PasteboardForm>& forms) override {
-    for (const PasteboardForm& form : forms) {
-      types << form.mimeType;
-      bytes << form.bytes;
-    }
-  }
-};
-
-struct Drags : DragSession {
-  QList<DragItem> items;
-  void drag(const QList<DragItem>& dragged, const DragLook&) override { items = dragged; }
-};
-
 // The sheet for a picture of 1500 by 900 pixels.
 struct ExportTest {
   TestLibrary library;
@@ -37,8 +22,8 @@ struct ExportTest {
   BackgroundWork work{1};
   ThumbnailLoader loader{images, work};
   Thumbnails thumbnails{loader};
-  Clipboard clipboard;
-  Drags drags;
+  ListedPasteboard clipboard;
+  ListedDrags drags;
   QStringList told;
   Item item = Item::create(ImagePayload{{"0.png", "Hero.png"}, {}});
   std::unique_ptr<ExportImageSheet> sheet;
@@ -94,8 +79,10 @@ class TestExportSheet : public QObject {
     test.sheet->copy();
     QVERIFY(test.sheet->isBusy());
     QTRY_COMPARE(finished.size(), 1);
-    QCOMPARE(test.clipboard.types, QStringList({"image/jpeg", "image/tiff", "image/png"}));
-    QCOMPARE(test.clipboard.bytes.first(), QByteArray("1 1500"));
+    QStringList types;
+    for (const PasteboardForm& form : test.clipboard.forms) types << form.mimeType;
+    QCOMPARE(types, QStringList({"image/jpeg", "image/tiff", "image/png"}));
+    QCOMPARE(test.clipboard.forms.first().bytes, "1 1500");
     QVERIFY(namesIn(QDir::tempPath() + "/tarnloft-export").filter("-").isEmpty());  // none is left
   }
 
@@ -119,7 +106,11 @@ class TestExportSheet : public QObject {
   void dragsAFileUnderTheClientsName() {
     ExportTest test;
     QQuickItem view;
+    test.images.close();
     test.sheet->prepareDrag();
+    test.sheet->drag(&view, {}, 0);  // which waits for a second
+    QCOMPARE(test.sheet->estimate(), "Still converting · Drag it again in a moment");
+    test.images.open();
     test.sheet->drag(&view, {}, 0);
     QCOMPARE(test.drags.items.size(), 1);
     QVERIFY(test.drags.items.first().file->endsWith("/tarnloft-export/Hero.png"));
@@ -127,6 +118,14 @@ class TestExportSheet : public QObject {
     QFile file(*test.drags.items.first().file);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), "0 1500");
+    const QString folder = test.library.disk.path("a"), moved = test.library.disk.path("b");
+    QVERIFY(QDir().mkpath(folder));
+    const ExportTarget target{
+        {}, folder + "/x", {}, {}, *test.library.disk.files.openFolder(folder, folder)};
+    QVERIFY(QDir().rename(folder, moved));
+    QCOMPARE(target.path(), moved + "/x");
+    const ExportTarget longName{{}, {}, QString(300, u'é'), {}};
+    QVERIFY(writeFile(test.library.disk.path(ExportHandout::fileName(longName, {})), "x"));
   }
 
   void whatCantBeConvertedLeavesTheSheetOpen() {
@@ -138,8 +137,11 @@ class TestExportSheet : public QObject {
     test.sheet->save();
     QTRY_VERIFY(!test.sheet->isBusy());
     test.sheet->drag(&view, {}, 0);
-    QVERIFY(finished.isEmpty() && test.clipboard.types.isEmpty() && test.drags.items.isEmpty());
+    QVERIFY(finished.isEmpty() && test.clipboard.forms.isEmpty() && test.drags.items.isEmpty());
     QVERIFY(test.library.dialogs.suggested.isEmpty());
+    QCOMPARE(test.sheet->estimate(), "The picture couldn't be converted");
+    test.sheet->setWidth(9);
+    QTRY_COMPARE(test.sheet->estimate(), "The file can't be read");
     test.document->removeItem(test.item.id);
     QTRY_COMPARE(finished.size(), 1);  // the sheet goes with its item
   }

@@ -1,9 +1,6 @@
 #include "platform/desktop/dragging/MimeDrops.h"
 #include "sheets/logos/LogoSetSheet.h"
-#include "testing/FakeDialogs.h"
-#include "testing/FakeDrops.h"
-#include "testing/FakeMedia.h"
-#include "testing/TestServices.h"
+#include "testing/TestImports.h"
 
 #include <QMimeData>
 #include <QSignalSpy>
@@ -14,20 +11,11 @@ using namespace tarnloft;
 namespace {
 
 // The sheet of an empty logo set, and four files to put into it.
-struct LogoTest {
-  TestServices disk;
+struct LogoTest : TestImports {
   std::unique_ptr<BrandDocument> document =
       *BrandDocument::create(disk.services(), disk.folder.path(), "Acme");
-  FakeImages images;
-  FakeTypes types;
-  FakeFonts fonts;
-  ScriptedDialogs dialogs;
-  QThreadPool workers;
   MimeDrops drops{workers};
-  BackgroundWork work{1};
-  ThumbnailLoader loader{images, work};
-  Thumbnails thumbnails{loader};
-  QStringList failed, done;
+  QStringList done;
   Item item = Item::create(LogoPayload{{"Logo", {}}});
   std::unique_ptr<LogoSetSheet> sheet;
 
@@ -35,12 +23,10 @@ struct LogoTest {
     document->edit([&](Brand& brand) { brand.sections[0].items = {item}; });
     for (const char* name : {"a.svg", "b.png", "c.png", "d.png"})
       (void)writeFile(disk.path(name), "x");
-    const ImportServices imports{
-        types, fonts, workers, {}, [this](const QStringList& names, auto) { failed << names; }};
-    sheet =
-        std::make_unique<LogoSetSheet>(std::make_unique<ItemBinding>(*document, item.id),
-                                       LogoSetSheet::Services{dialogs, imports, drops, thumbnails},
-                                       LogoSetSheet::Actions{{}, [this] { done << "ungrouped"; }});
+    sheet = std::make_unique<LogoSetSheet>(
+        std::make_unique<ItemBinding>(*document, item.id),
+        LogoSetSheet::Services{dialogs, imports(), drops, thumbnails},
+        LogoSetSheet::Actions{{}, [this] { done << "ungrouped"; }});
   }
   QStringList paths(const QStringList& names) const {
     QStringList result;

@@ -47,7 +47,7 @@ struct PlayerTest {
     window.resize(1000, 760);
     window.show();
     sheet = host.show(std::make_unique<VideoPlayerSheet>(
-        std::make_unique<ItemBinding>(*document, item.id), clips, "/a/clip"));
+        std::make_unique<ItemBinding>(*document, item.id), clips, library.preferences, "/a/clip"));
   }
   ~PlayerTest() { delete window.rootObject(); }
 
@@ -56,7 +56,6 @@ struct PlayerTest {
     QTest::keyClick(&window, key, modifiers);
     QCoreApplication::processEvents();
   }
-  double position() { return player().now.position; }
   QString focused() {
     QQuickItem* const holder = window.activeFocusItem();
     QAccessibleInterface* const told =
@@ -113,63 +112,56 @@ class TestVideoPlayer : public QObject {
     test.player().set([](ClipStatus& status) { status.position = 12.6; });
     QTRY_COMPARE(test.sheet->elapsed(), "0:12");
     QCOMPARE(test.sheet->remaining(), "−0:48");
+    test.player().set([](ClipStatus& status) { status.position = status.duration = 2.96; });
+    QTRY_COMPARE(test.sheet->elapsed() + test.sheet->remaining(), "0:03−0:00");
   }
 
-  void isSteeredByKeysFromTheFirstMoment() {
+  // From the first moment on.
+  void isSteeredByKeys() {
     PlayerTest test;
     QTRY_COMPARE(test.focused(), "Video");
-    test.press(Qt::Key_Space);
-    QVERIFY(!test.player().now.isPlaying);
-    test.press(Qt::Key_Right);
-    test.press(Qt::Key_Right, Qt::ShiftModifier);
-    QCOMPARE(test.position(), 6.0);
-    test.press(Qt::Key_Left, Qt::ShiftModifier);
-    QCOMPARE(test.position(), 5.0);
-    test.press(Qt::Key_End);
-    QCOMPARE(test.position(), 60.0);
-    test.press(Qt::Key_Home);
-    QCOMPARE(test.position(), 0.0);
-    test.press(Qt::Key_Period);
-    QCOMPARE(test.player().steps, 1);
-    test.press(Qt::Key_Comma);
-    test.press(Qt::Key_Comma);
-    QCOMPARE(test.player().steps, -1);
-    test.press(Qt::Key_Space);
-    test.press(Qt::Key_Period);  // not while it plays
-    QCOMPARE(test.player().steps, -1);
-    test.press(Qt::Key_Down);
-    QVERIFY(test.player().volume < 1 && test.player().volume > 0);
-    test.press(Qt::Key_M);
-    QCOMPARE(test.player().volume, 0.0);
-    test.press(Qt::Key_Up);  // what is made louder is heard
-    QCOMPARE(test.player().volume, 1.0);
-  }
-
-  void allIsReachedByTabAndHasAName() {
-    PlayerTest test;
-    QTRY_COMPARE(test.focused(), "Video");
-    QCoreApplication::processEvents();
+    // after the key: whether it plays, where it stands, steps made, how loud
+    struct Step {
+      Qt::Key key;
+      Qt::KeyboardModifiers modifiers;
+      bool isPlaying;
+      double position;
+      int steps;
+      double volume;
+    };
+    for (const Step& step : QList<Step>{{Qt::Key_Space, {}, false, 0, 0, 1},
+                                        {Qt::Key_Right, {}, false, 5, 0, 1},
+                                        {Qt::Key_Right, Qt::ShiftModifier, false, 6, 0, 1},
+                                        {Qt::Key_Left, Qt::ShiftModifier, false, 5, 0, 1},
+                                        {Qt::Key_End, {}, false, 60, 0, 1},
+                                        {Qt::Key_Home, {}, false, 0, 0, 1},
+                                        {Qt::Key_Period, {}, false, 0, 1, 1},
+                                        {Qt::Key_Comma, {}, false, 0, 0, 1},
+                                        {Qt::Key_Space, {}, true, 0, 0, 1},
+                                        {Qt::Key_Period, {}, true, 0, 0, 1},  // not while it plays
+                                        {Qt::Key_Down, {}, true, 0, 0, 0.729},
+                                        {Qt::Key_M, {}, true, 0, 0, 0},
+                                        {Qt::Key_Up, {}, true, 0, 0, 1}}) {  // louder is heard
+      test.press(step.key, step.modifiers);
+      const FakeClips::Player& player = test.player();
+      QCOMPARE(player.now.isPlaying, step.isPlaying);
+      QCOMPARE(player.now.position, step.position);
+      QCOMPARE(player.steps, step.steps);
+      QCOMPARE(player.volume, step.volume);
+    }
     QStringList names;
     for (int i = 0; i < 6; ++i) {
       names << test.focused();
-      if (names.last() == "Position") {
-        test.press(Qt::Key_Right);
-        QCOMPARE(test.position(), 5.0);
-      }
-      if (names.last() == "Volume") {
-        test.press(Qt::Key_Left);
-        QVERIFY(test.player().volume < 1);
-        QCOMPARE(test.position(), 5.0);
-      }
-      if (names.last() == "Pause") {
-        test.press(Qt::Key_Space);
-        QVERIFY(!test.player().now.isPlaying);
-        test.press(Qt::Key_Space);
-        QVERIFY(test.player().now.isPlaying);
-      }
+      if (names.last() == "Position" || names.last() == "Volume") test.press(Qt::Key_Left);
       test.press(Qt::Key_Tab);
     }
     QCOMPARE(names, QStringList({"Video", "Pause", "Position", "Mute", "Volume", "Done"}));
+    QCOMPARE(test.player().now.position, 0.0);
+    QCOMPARE(test.library.preferences.number("playerVolume").value_or(0), 0.9);
+    test.library.preferences.setNumber("playerVolume", 0.5);
+    const VideoPlayerSheet again(std::make_unique<ItemBinding>(*test.document, test.item.id),
+                                 test.clips, test.library.preferences, "/a/clip");
+    QCOMPARE(test.player().volume, 0.125);
   }
 
   void showsThePictureOrWhyThereIsNone() {

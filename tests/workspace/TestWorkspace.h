@@ -4,6 +4,7 @@
 #include "document/UndoHistory.h"
 #include "platform/desktop/dragging/DragData.h"
 #include "platform/desktop/dragging/MimeDrops.h"
+#include "testing/FakeDragging.h"
 #include "testing/FakeDrops.h"
 #include "testing/FakeMedia.h"
 #include "testing/TestLibrary.h"
@@ -12,27 +13,6 @@
 #include <QCoreApplication>
 
 namespace tarnloft {
-
-class ListedPasteboard : public Pasteboard {
- public:
-  QStringList texts;
-  QList<PasteboardForm> forms;
-  void setText(const QString& text) override { texts << text; }
-  void setForms(const QList<PasteboardForm>& all) override { forms = all; }
-};
-
-// Remembers what was dragged; `during` is what happens until the user lets go.
-class ListedDrags : public DragSession {
- public:
-  QList<DragItem> items;
-  QImage picture;
-  std::function<void()> during;
-  void drag(const QList<DragItem>& dragged, const DragLook& look) override {
-    items = dragged;
-    picture = look.picture;
-    if (during) during();
-  }
-};
 
 // A library on the real disk and what brands' pages need of the desktop, which the test plays.
 struct TestDesktop {

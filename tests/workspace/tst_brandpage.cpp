@@ -312,23 +312,6 @@ class TestBrandPage : public QObject {
     QCOMPARE(tabs, 5);  // over the next section's header
   }
 
-  void namesOfSectionsAreEdited() {
-    TestWorkspace test({sectionOf("A", {colorItem("a")})});
-    TestPage page(test);
-    auto* field = accessible(page, QAccessible::EditableText, "Section name");
-    QVERIFY(field);
-    QTest::mouseClick(&page.view, Qt::LeftButton, {}, {60, 76});
-    page.key(Qt::Key_End);
-    for (const char key : "bc") {
-      if (key) QTest::keyClick(&page.view, key);
-    }
-    QCOMPARE(test.stored(0).name, "Abc");
-    page.key(Qt::Key_A, Qt::ControlModifier);  // the field's own text, not the tiles
-    QCOMPARE(selectedNames(test), "");
-    page.key(Qt::Key_Delete);
-    QCOMPARE(test.stored(0).name, "");
-  }
-
   void blocksAreEditedInPlace() {
     TestWorkspace test({sectionOf("A", {textItem("calm"), headerItem("Voice", 2)})});
     TestPage page(test);
@@ -567,36 +550,6 @@ class TestBrandPage : public QObject {
         QVERIFY2(off <= (isEstimate ? told / 10 : 0.5), qPrintable(item.displayName()));
         QVERIFY2(tile->height() >= std::floor(tile->implicitHeight()),
                  qPrintable(item.displayName()));
-      }
-    }
-  }
-
-  // By what is drawn: the symbol's ink against all that is drawn beside it.
-  void aBrokenPicturesWordIsReadableOnEveryBackdrop() {
-    QList<std::optional<ImageBackground>> backdrops{std::nullopt};
-    for (const auto one : allCases<ImageBackground>()) backdrops << one;
-    for (const auto& backdrop : backdrops) {
-      Item item = imageItem("a", "broken.png");
-      item.imageBackground = backdrop;
-      TestWorkspace test({sectionOf("A", {item})});
-      TestPage page(test);
-      QTRY_VERIFY(accessible(page, QAccessible::StaticText, "Couldn't load"));
-      for (const bool dark : {false, true}) {
-        Theme::of(*page.view.engine()).setDark(dark);
-        page.settle();
-        const QImage shown = page.view.grabWindow();
-        const QQuickItem* tile = page.tileNamed("a");
-        const QPoint middle = tile->mapToScene({tile->width() / 2, 48}).toPoint();
-        double best = 0;
-        for (int y = -20; y < 0; ++y) {
-          const QColor ink = shown.pixelColor(middle + QPoint(2, y));
-          double worst = 21;
-          for (int x = 20; x < 40; ++x) {
-            worst = std::min(worst, contrastRatio(ink, shown.pixelColor(middle + QPoint(x, -20))));
-          }
-          best = std::max(best, worst);
-        }
-        QVERIFY2(best >= 4.5, qPrintable(QString::number(best)));
       }
     }
   }

@@ -153,16 +153,6 @@ class TestTileFlow : public QObject {
       QCOMPARE(anchor->mapToItem(page.scroll(), QPointF()).y(), before + 150);
     }
   }
-
-  void anotherTileSizeSetsAllOut() {
-    TestWorkspace test({colorSection("Colors", 30)});
-    TestPage page(test);
-    QCOMPARE(page.tileNamed("6")->x(), 0);
-    test.library.store->preferences().setTileSize(TileSize::small);
-    page.settle();
-    QCOMPARE(page.tileNamed("8")->x(), 0);
-    QCOMPARE(page.tileNamed("8")->y(), 74 + 6 + 16 + 14 + 14);
-  }
 };
 
 QTEST_MAIN(TestTileFlow)

@@ -59,19 +59,6 @@ class TestWorkspaceModels : public QObject {
   Q_OBJECT
 
  private slots:
-  void itemsFollowRandomEdits() {
-    RandomBrand random(7);
-    ItemListModel model;
-    const Tester tester(&model, Tester::FailureReportingMode::QtTest);
-    SharedList<Item> items;
-    for (int round = 0; round < 300; ++round) {
-      items = edited(items, random);
-      model.setItems(items);
-      QVERIFY(model.items() == items);
-      QCOMPARE(model.rowCount(), int(items.size()));
-    }
-  }
-
   void anEditIsOneChangeAndAMoveOneMove() {
     TestWorkspace test({colorSection("Colors", 200), colorSection("More", 20)});
     const Signals rows(*test.section(0).items()), others(*test.section(1).items());
@@ -106,24 +93,6 @@ class TestWorkspaceModels : public QObject {
         QCOMPARE(test.section(i).canMoveDown(), i + 1 < sections.size());
       }
     }
-  }
-
-  void aSearchHidesWhatDoesNotMatch() {
-    TestWorkspace test({sectionOf("A", {colorItem("Sea"), imageItem("Hero"), colorItem("Sand")}),
-                        sectionOf("B", {imageItem("Mark")}), sectionOf("C", {})});
-    const auto visible = [&] {
-      QString names;
-      for (const auto& section : test.workspace->sections()->models()) {
-        if (section->isShown()) names += section->name();
-      }
-      return names;
-    };
-    test.workspace->search()->setText(" hero ");
-    QCOMPARE(test.shown(0), QStringList{"Hero"});
-    QCOMPARE(visible(), "A");
-    test.workspace->search()->setText("  ");
-    QCOMPARE(test.shown(0), (QStringList{"Sea", "Hero", "Sand"}));
-    QCOMPARE(visible(), "ABC");
   }
 
   void theSelectionsToolsFollowItAndAct() {
@@ -381,23 +350,6 @@ class TestWorkspaceModels : public QObject {
     toasts.setUnderWay({});
     QVERIFY(!toasts.message());
     QCOMPARE(ToastCenter::duration, std::chrono::milliseconds(1400));
-  }
-
-  // A busy machine can only make it stay longer.
-  void aSecondToastHasItsOwnTime() {
-    constexpr std::chrono::milliseconds time{200};
-    ToastCenter toasts(time);
-    QElapsedTimer sinceSecond;
-    qint64 shownFor = -1;
-    connect(&toasts, &ToastCenter::messageChanged, this, [&] {
-      if (!toasts.message() && sinceSecond.isValid()) shownFor = sinceSecond.elapsed();
-    });
-    toasts.show("first");
-    QTest::qWait(int(time.count() * 3 / 4));
-    sinceSecond.start();
-    toasts.show("second");
-    QTRY_VERIFY(shownFor >= 0);
-    QVERIFY2(shownFor >= time.count() * 9 / 10, qPrintable(QString::number(shownFor)));
   }
 };
 

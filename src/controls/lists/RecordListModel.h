@@ -13,9 +13,15 @@ namespace tarnloft {
 class RecordListModel : public QAbstractListModel {
   Q_OBJECT
   QML_ANONYMOUS
+  Q_PROPERTY(int count READ count NOTIFY countChanged)
 
  public:
   using QAbstractListModel::QAbstractListModel;
+
+  int count() const { return rowCount(); }
+
+ signals:
+  void countChanged();
 
  protected:
   // Carries out the steps on what the model holds, through
@@ -24,6 +30,7 @@ class RecordListModel : public QAbstractListModel {
   template <class Rows>
   void carryOut(const QList<ListChange>& changes, Rows&& rows, int offset = 0) {
     using Kind = ListChange::Kind;
+    const int before = count();
     for (const ListChange& change : changes) {
       const int from = int(change.from) + offset, to = int(change.to) + offset;
       const int count = int(change.count);
@@ -50,6 +57,7 @@ class RecordListModel : public QAbstractListModel {
           break;
       }
     }
+    if (count() != before) emit countChanged();
   }
 
   // The rows of a plain list on its way to another one.

@@ -17,9 +17,9 @@ Sheet {
     Column {
         spacing: 14
 
-        Label {
-            text: root.model.title
-            font: Theme.headline
+        SheetHead {
+            width: field.width
+            title: root.model.title
         }
 
         TextField {

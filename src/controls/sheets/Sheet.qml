@@ -18,6 +18,7 @@ T.Popup {
     property Button defaultButton: null
     property Button cancelButton: null
     property string accessibleName: ""
+    readonly property real room: (parent?.width ?? 4096) - 2 * (margins + padding) // for the content's width
 
     function pressDefault() {
         if (defaultButton && defaultButton.enabled)

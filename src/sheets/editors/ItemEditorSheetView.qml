@@ -10,8 +10,6 @@ Sheet {
 
     required property ItemEditorSheet model
 
-    readonly property real room: (parent?.width ?? 380) - 2 * (margins + padding) // in a narrow window
-
     accessibleName: model.title
     defaultButton: done
 
@@ -21,10 +19,9 @@ Sheet {
         width: Math.min(340, root.room)
         spacing: 16
 
-        Label {
-            text: root.model.title
-            font: Theme.headline
-            Accessible.role: Accessible.Heading
+        SheetHead {
+            width: parent.width
+            title: root.model.title
         }
 
         LazyItem {

@@ -6,6 +6,7 @@
 #include "pictures/Thumbnails.h"
 #include "platform/FileDialogs.h"
 #include "sheets/emblems/EmblemSubject.h"
+#include "sheets/emblems/EmblemWords.h"
 
 #include <QColor>
 #include <QStringList>
@@ -40,11 +41,7 @@ class EmblemPicker : public tarnloft::SheetModel {
   enum class Kind { Symbol, Emoji, Color, Image };
   Q_ENUM(Kind)
 
-  struct Words {
-    QString title;
-    EmblemPlace place;  // its package is the subject's, whatever stands here
-    QColor tint;        // the ground's colour to begin with
-  };
+  using Words = EmblemWords;
   // Borrowed: all outlive the sheet and the imports that it began.
   struct Services {
     FileDialogs& dialogs;

@@ -13,6 +13,8 @@
 namespace tarnloft {
 namespace {
 
+QString cantConvert() { return QStringLiteral("The picture couldn't be converted"); }
+
 // Writes in the background; the sheet that asked for it has gone.
 void saveTo(const ExportImageSheet::Services& services, const QString& path,
             const QByteArray& bytes) {
@@ -37,7 +39,7 @@ ExportImageSheet::ExportImageSheet(std::unique_ptr<ItemBinding> item, const Expo
       target_(target),
       services_(services),
       size_(target.nativeSize),
-      estimate_(services.images, services.work, target.url) {
+      estimate_(services.images, services.work, target) {
   const LibraryPreferences* const preferences = &services.preferences;
   connect(item_.get(), &ItemBinding::gone, this, &SheetModel::finished);
   connect(preferences, &LibraryPreferences::lastExportFormatChanged, this,
@@ -53,6 +55,7 @@ ExportChoice ExportImageSheet::choice() const {
 }
 
 void ExportImageSheet::followChoice() {
+  note_.clear();
   estimate_.setChoice(choice());
   emit changed();
   emit estimateChanged();
@@ -65,6 +68,8 @@ QString ExportImageSheet::original() const {
 }
 
 QString ExportImageSheet::estimate() const {
+  if (!note_.isEmpty()) return note_;
+  if (estimate_.hasFailed()) return QStringLiteral("The file can't be read");
   if (!estimate_.text()) return QStringLiteral("Calculating size…");
   return QStringLiteral("≈ %1 · %2 × %3 · %4")
       .arg(*estimate_.text())
@@ -122,9 +127,14 @@ void ExportImageSheet::setBusy(bool busy) {
   if (std::exchange(isBusy_, busy) != busy) emit busyChanged();
 }
 
+void ExportImageSheet::setNote(const QString& note) {
+  if (std::exchange(note_, note) != note) emit estimateChanged();
+}
+
 void ExportImageSheet::copy() {
   if (isBusy_) return;
   setBusy(true);
+  setNote({});
   const auto forms = std::make_shared<QList<PasteboardForm>>();
   services_.work.start(
       [&images = services_.images, &files = services_.files, target = target_, choice = choice(),
@@ -132,7 +142,7 @@ void ExportImageSheet::copy() {
       [self = QPointer(this), forms] {
         if (!self) return;
         self->setBusy(false);
-        if (forms->isEmpty()) return;
+        if (forms->isEmpty()) return self->setNote(cantConvert());
         self->services_.pasteboard.setForms(*forms);
         emit self->finished();
       });
@@ -141,13 +151,14 @@ void ExportImageSheet::copy() {
 void ExportImageSheet::save() {
   if (isBusy_) return;
   setBusy(true);
+  setNote({});
   const auto bytes = std::make_shared<std::optional<QByteArray>>();
   services_.work.start([&images = services_.images, target = target_, choice = choice(),
                         bytes] { *bytes = ExportHandout::bytes(images, target, choice); },
                        [self = QPointer(this), format = choice().format, bytes] {
                          if (!self) return;
                          self->setBusy(false);
-                         if (!*bytes) return;
+                         if (!*bytes) return self->setNote(cantConvert());
                          const Services services = self->services_;
                          const QString name = ExportHandout::fileName(self->target_, format);
                          emit self->finished();
@@ -163,12 +174,15 @@ std::function<QList<DragItem>()> ExportImageSheet::dragWork() const {
       };
 }
 
-void ExportImageSheet::prepareDrag() { dragPreparation_.begin(choice().key(), dragWork()); }
+void ExportImageSheet::prepareDrag() { dragPreparation_.begin(dragKey(), dragWork()); }
 
 void ExportImageSheet::drag(QQuickItem* view, const QImage& grabbed, qreal radius) {
-  constexpr std::chrono::seconds patience(10);
-  const auto items = dragPreparation_.make(choice().key(), dragWork(), patience);
-  if (!items || !items->first().file) return;
+  constexpr std::chrono::seconds patience(1);
+  const auto items = dragPreparation_.make(dragKey(), dragWork(), patience);
+  if (!items) return setNote(QStringLiteral("Still converting · Drag it again in a moment"));
+  const bool isConverted = items->first().file.has_value();
+  setNote(isConverted ? QString() : cantConvert());
+  if (!isConverted) return;
   carryOut(*view, grabbed, radius, [&session = services_.dragSession, items](const DragLook& look) {
     session.drag(*items, look);
   });

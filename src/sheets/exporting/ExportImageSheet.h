@@ -25,8 +25,9 @@ class ExportImageSheet : public tarnloft::SheetModel {
   Q_PROPERTY(QString baseName READ baseName CONSTANT)
   Q_PROPERTY(QString path READ path CONSTANT)
   Q_PROPERTY(tarnloft::Thumbnails* thumbnails READ thumbnails CONSTANT)
-  Q_PROPERTY(QString original READ original CONSTANT)                // its size, as a line
-  Q_PROPERTY(QString estimate READ estimate NOTIFY estimateChanged)  // what will come, as a line
+  Q_PROPERTY(QString original READ original CONSTANT)  // its size, as a line
+  // What will come, or why it doesn't, as a line.
+  Q_PROPERTY(QString estimate READ estimate NOTIFY estimateChanged)
   Q_PROPERTY(QStringList formats READ formats CONSTANT)
   Q_PROPERTY(int format READ format WRITE setFormat NOTIFY changed)  // its place among them
   Q_PROPERTY(QString formatName READ formatName NOTIFY changed)
@@ -79,7 +80,7 @@ class ExportImageSheet : public tarnloft::SheetModel {
   Q_INVOKABLE void applyPreset(int preset);
   bool isBusy() const { return isBusy_; }
 
-  // Puts it on the clipboard and closes the sheet; stays open if it can't be converted.
+  // Puts it on the clipboard and closes the sheet; stays open, and tells, if it can't be converted.
   Q_INVOKABLE void copy();
   // The same into a file that the user chooses when the sheet has closed.
   Q_INVOKABLE void save();
@@ -100,6 +101,9 @@ class ExportImageSheet : public tarnloft::SheetModel {
   void resize(const std::function<void(ExportImageSize&)>& change);
   void followChoice();
   void setBusy(bool busy);
+  // In the sheet itself, as it lies over all else.
+  void setNote(const QString& note);
+  QString dragKey() const { return target_.path() + choice().key(); }
   std::function<QList<DragItem>()> dragWork() const;
 
   const std::unique_ptr<ItemBinding> item_;
@@ -108,6 +112,7 @@ class ExportImageSheet : public tarnloft::SheetModel {
   ExportImageSize size_;
   ExportEstimate estimate_;
   DragPreparation dragPreparation_;
+  QString note_;  // what went wrong; empty for nothing
   bool isBusy_ = false;
 };
 

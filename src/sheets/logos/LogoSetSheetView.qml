@@ -10,7 +10,6 @@ Sheet {
 
     required property LogoSetSheet model
 
-    readonly property real room: (parent?.width ?? 430) - 2 * (margins + padding) // in a narrow window
     readonly property bool empty: model.variants.count === 0
 
     accessibleName: "Logo set"
@@ -22,24 +21,15 @@ Sheet {
         width: Math.min(430, root.room)
         spacing: 14
 
-        Item {
+        SheetHead {
             width: parent.width
-            height: done.height
-
-            Symbol {
-                id: mark
-
-                anchors.verticalCenter: parent.verticalCenter
+            front: Symbol {
                 name: "square.stack.3d.up.fill"
                 size: 18
                 color: Theme.accent
             }
-
-            TextField {
-                anchors.left: mark.right
-                anchors.leftMargin: 10
-                anchors.right: done.left
-                anchors.rightMargin: 12
+            field: TextField {
+                width: parent.width
                 focus: true
                 placeholderText: "Logo name"
                 accessibleName: "Logo name"
@@ -51,7 +41,6 @@ Sheet {
             Button {
                 id: done
 
-                anchors.right: parent.right
                 text: "Done"
                 kind: Button.Prominent
                 onClicked: root.close()

@@ -8,15 +8,13 @@
 namespace tarnloft {
 
 void LogoVariantList::setVariants(const QList<LogoVariant>& variants, const QString& packageURL) {
-  const int before = count();
   const bool hasMoved = std::exchange(packageURL_, packageURL) != packageURL;
   carryOut(listDifference(variants_, variants), ListRows<QList<LogoVariant>>{variants_, variants});
   if (hasMoved && count() > 0) emit dataChanged(index(0), index(count() - 1), {PathRole});
-  if (count() != before) emit countChanged();
 }
 
 int LogoVariantList::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : count();
+  return parent.isValid() ? 0 : int(variants_.size());
 }
 
 QVariant LogoVariantList::data(const QModelIndex& index, int role) const {

@@ -12,7 +12,6 @@ class LogoVariantList : public tarnloft::RecordListModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Belongs to what shows the set")
-  Q_PROPERTY(int count READ count NOTIFY countChanged)
 
  public:
   enum Role {
@@ -26,14 +25,10 @@ class LogoVariantList : public tarnloft::RecordListModel {
   const QList<LogoVariant>& variants() const { return variants_; }
   // Of a set in the package at that path.
   void setVariants(const QList<LogoVariant>& variants, const QString& packageURL);
-  int count() const { return int(variants_.size()); }
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
   QHash<int, QByteArray> roleNames() const override;
-
- signals:
-  void countChanged();
 
  private:
   QList<LogoVariant> variants_;

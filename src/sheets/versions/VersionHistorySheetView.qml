@@ -10,8 +10,6 @@ Sheet {
 
     required property VersionHistorySheet model
 
-    readonly property real room: (parent?.width ?? 530) - 2 * (margins + padding) // in a narrow window
-
     accessibleName: "Version History"
     defaultButton: done
 
@@ -19,38 +17,18 @@ Sheet {
         width: Math.min(430, root.room)
         spacing: 12
 
-        Item {
+        SheetHead {
             width: parent.width
-            height: Math.max(heading.height, done.height)
-
-            Symbol {
-                id: mark
-
-                anchors.verticalCenter: parent.verticalCenter
+            title: root.accessibleName
+            front: Symbol {
                 name: "clock.arrow.circlepath"
                 size: 20
                 color: Theme.accent
             }
 
-            Label {
-                id: heading
-
-                anchors.left: mark.right
-                anchors.leftMargin: 10
-                anchors.right: done.left
-                anchors.rightMargin: 12
-                anchors.verticalCenter: parent.verticalCenter
-                text: "Version History"
-                font: Theme.headline
-                horizontalAlignment: Text.AlignLeft
-                Accessible.role: Accessible.Heading
-            }
-
             Button {
                 id: done
 
-                anchors.right: parent.right
-                anchors.verticalCenter: parent.verticalCenter
                 text: "Done"
                 kind: Button.Prominent
                 onClicked: root.close()

@@ -27,17 +27,15 @@ std::vector<QUuid> idsOf(const QList<BrandVersion>& versions) {
 }  // namespace
 
 void VersionList::setVersions(const QList<BrandVersion>& versions) {
-  const int countBefore = count();
   const auto isSame = [&](qsizetype before, qsizetype now) {
     return versions_.at(before) == versions.at(now);
   };
   carryOut(listDifference(idsOf(versions_), idsOf(versions), isSame),
            ListRows<QList<BrandVersion>>{versions_, versions});
-  if (count() != countBefore) emit countChanged();
 }
 
 int VersionList::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : count();
+  return parent.isValid() ? 0 : int(versions_.size());
 }
 
 QString VersionList::dateText(Timestamp moment) {

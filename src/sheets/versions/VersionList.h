@@ -12,7 +12,6 @@ class VersionList : public tarnloft::RecordListModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Belongs to a sheet")
-  Q_PROPERTY(int count READ count NOTIFY countChanged)
 
  public:
   enum Role {
@@ -23,7 +22,6 @@ class VersionList : public tarnloft::RecordListModel {
 
   const QList<BrandVersion>& versions() const { return versions_; }
   void setVersions(const QList<BrandVersion>& versions);
-  int count() const { return int(versions_.size()); }
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
@@ -31,9 +29,6 @@ class VersionList : public tarnloft::RecordListModel {
 
   // In the user's medium date and short time.
   static QString dateText(Timestamp moment);
-
- signals:
-  void countChanged();
 
  private:
   QList<BrandVersion> versions_;

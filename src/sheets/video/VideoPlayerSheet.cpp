@@ -7,8 +7,14 @@
 namespace tarnloft {
 
 VideoPlayerSheet::VideoPlayerSheet(std::unique_ptr<ItemBinding> item, ClipPlayers& players,
-                                   const QString& path)
+                                   Preferences& preferences, const QString& path)
     : item_(std::move(item)), playback_(players, path) {
+  const QString volumeKey = QStringLiteral("playerVolume");
+  const double volume = preferences.number(volumeKey).value_or(1);
+  if (volume >= 0 && volume <= 1) playback_.setVolume(volume);
+  connect(&playback_, &ClipPlayback::volumeChanged, this, [this, &preferences, volumeKey] {
+    preferences.setNumber(volumeKey, playback_.volume());
+  });
   connect(item_.get(), &ItemBinding::changed, this, &VideoPlayerSheet::follow);
   connect(item_.get(), &ItemBinding::gone, &playback_, &ClipPlayback::pause);
   connect(item_.get(), &ItemBinding::gone, this, &SheetModel::finished);
@@ -32,11 +38,17 @@ QString VideoPlayerSheet::timeText(int seconds) {
   return QStringLiteral("%1:%2:%3").arg(hours).arg(minutes, 2, 10, zero).arg(rest);
 }
 
-QString VideoPlayerSheet::elapsed() const { return timeText(int(playback_.position())); }
+// At the end all of it, though it be no whole number of seconds.
+int VideoPlayerSheet::shownSeconds() const {
+  const double position = playback_.position(), duration = playback_.duration();
+  return duration > 0 && position >= duration ? int(std::lround(duration)) : int(position);
+}
+
+QString VideoPlayerSheet::elapsed() const { return timeText(shownSeconds()); }
 
 QString VideoPlayerSheet::remaining() const {
   if (playback_.duration() <= 0) return {};
-  const double rest = playback_.duration() - int(playback_.position());
+  const double rest = playback_.duration() - shownSeconds();
   return QStringLiteral("−") + timeText(std::max(0, int(std::lround(rest))));
 }
 

@@ -3,6 +3,7 @@
 #include "controls/sheets/SheetModel.h"
 #include "document/ItemBinding.h"
 #include "pictures/ClipPlayback.h"
+#include "platform/Preferences.h"
 
 namespace tarnloft {
 
@@ -18,8 +19,10 @@ class VideoPlayerSheet : public tarnloft::SheetModel {
       QString remaining READ remaining NOTIFY timesChanged)  // as "−1:02"; empty while unknown
 
  public:
-  // The item is a video, and the clip at `path` its own. The players are borrowed.
-  VideoPlayerSheet(std::unique_ptr<ItemBinding> item, ClipPlayers& players, const QString& path);
+  // The item is a video, and the clip at `path` its own. How loud it is comes from the preferences
+  // and goes there. The references are borrowed.
+  VideoPlayerSheet(std::unique_ptr<ItemBinding> item, ClipPlayers& players,
+                   Preferences& preferences, const QString& path);
 
   // What the item is called, else what its file was.
   const QString& title() const { return title_; }
@@ -40,6 +43,7 @@ class VideoPlayerSheet : public tarnloft::SheetModel {
 
  private:
   void follow();
+  int shownSeconds() const;
 
   const std::unique_ptr<ItemBinding> item_;
   QString title_;

@@ -5,11 +5,9 @@
 namespace tarnloft {
 
 void ItemListModel::setItems(const SharedList<Item>& items) {
-  const int before = count();
   const auto changes = listDifference(items_, items);
   carryOut(changes, ListRows<SharedList<Item>>{items_, items});
   items_ = items;  // the same list, in the runs that its other holders share
-  if (count() != before) emit countChanged();
   if (changes.isEmpty()) return;
   emit updated(std::any_of(changes.begin(), changes.end(), [](const ListChange& change) {
     return change.kind != ListChange::Kind::change;

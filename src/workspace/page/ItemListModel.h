@@ -14,7 +14,6 @@ class ItemListModel : public tarnloft::RecordListModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Belongs to a section")
-  Q_PROPERTY(int count READ count NOTIFY countChanged)
 
  public:
   enum Role {
@@ -25,7 +24,6 @@ class ItemListModel : public tarnloft::RecordListModel {
   using RecordListModel::RecordListModel;
 
   const SharedList<Item>& items() const { return items_; }
-  int count() const { return int(items_.size()); }
   void setItems(const SharedList<Item>& items);
   // The same without the single steps, for lists that have little in common.
   void replaceItems(const SharedList<Item>& items);
@@ -36,7 +34,6 @@ class ItemListModel : public tarnloft::RecordListModel {
   QHash<int, QByteArray> roleNames() const override;
 
  signals:
-  void countChanged();
   // After all rows of a new list. Otherwise items may have changed where they stand, but are the
   // same.
   void updated(bool areOthers);

@@ -95,8 +95,8 @@ void TileCommands::play(const QUuid& item) {
   if (!video) return;
   // A name that leads out of the package gives no path: such a clip counts as broken.
   const auto path = Package::assetPath(document_->packageURL(), video->asset);
-  window_.sheets.show(std::make_unique<VideoPlayerSheet>(std::move(binding), services_.clipPlayers,
-                                                         path.value_or(QString())));
+  window_.sheets.show(std::make_unique<VideoPlayerSheet>(
+      std::move(binding), services_.clipPlayers, services_.preferences, path.value_or(QString())));
 }
 
 void TileCommands::setBackdrop(const QUuid& item, std::optional<ImageBackground> background) {
@@ -126,11 +126,15 @@ void TileCommands::startExport(const QUuid& item, const AssetRef& asset) {
   const auto path = Package::assetPath(document_->packageURL(), asset);
   if (!path) return;
   const auto target = std::make_shared<ExportTarget>();
-  services_.work.start([&images = services_.drags.images, path = *path, asset,
-                        target] { *target = ExportTarget::create(images, path, asset); },
-                       [self = QPointer(this), item, target] {
-                         if (self) self->showExport(item, *target);
-                       });
+  services_.work.start(
+      [drags = services_.drags, package = document_->packageURL(), path = *path, asset, target] {
+        *target = ExportTarget::create(drags.images, path, asset);
+        const auto folder = drags.files.openFolder(Package::folderOf(path), package);
+        if (folder) target->folder = *folder;
+      },
+      [self = QPointer(this), item, target] {
+        if (self) self->showExport(item, *target);
+      });
 }
 
 void TileCommands::showExport(const QUuid& item, const ExportTarget& target) {
