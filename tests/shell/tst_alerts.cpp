@@ -85,7 +85,7 @@ class TestAlerts : public QObject {
 
     // Its buttons come before the page's.
     views.item(button, "New Brand")->forceActiveFocus(Qt::TabFocusReason);
-    for (const char* name : {"Try Again", "Save a Copy…", "Section Icon"}) {
+    for (const char* name : {"Try Again", "Save a Copy…", "Rename “Birch”"}) {
       views.press(Qt::Key_Tab);
       QCOMPARE(views.focused(), QString(name));
     }
@@ -98,7 +98,7 @@ class TestAlerts : public QObject {
     views.press(Qt::Key_Space);
     QTRY_VERIFY(!views.item(alert, text));
     QTRY_VERIFY(!views.item(button, "Try Again"));
-    QCOMPARE(views.focused(), "Section Icon");
+    QCOMPARE(views.focused(), "Rename “Birch”");
     QTRY_COMPARE(views.rowDescription("Birch"), QString());
     QVERIFY(contentOf(views.manifest).contains("Birch"));
   }
