@@ -26,7 +26,7 @@ class FakeTray : public StatusItem {
 
 struct Running {
   TestServices disk;
-  IniPreferences preferences{disk.path("tarnloft.ini")};
+  IniPreferences preferences{disk.path("tarnloft.ini"), disk.log};
   MenuBarPrefs prefs{preferences, disk.log};
   FakeTray tray;
   int opened = 0;
@@ -59,7 +59,7 @@ class TestAppDelegate : public QObject {
 
   void readsPreferencesOfAnyKind() {
     TestServices disk;
-    IniPreferences stored(disk.path("tarnloft.ini"));
+    IniPreferences stored(disk.path("tarnloft.ini"), disk.log);
     const auto read = [&] { return MenuBarPrefs(stored, disk.log); };
     QCOMPARE(read().hotKey(), (HotKey{49, 6144}));
     stored.setText("mb.showType", "true");

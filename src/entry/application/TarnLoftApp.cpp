@@ -62,9 +62,15 @@ TarnLoftApp::TarnLoftApp()
       tint_(library_, theme_),
       menuBarPrefs_(services_.preferences, services_.log),
       mainWindow_(engine_, services_.forWorkspace(library_), services_.state),
+      settingsWindow_(engine_, {.library = library_,
+                                .menuBar = menuBarPrefs_,
+                                .dialogs = services_.dialogs,
+                                .viewer = services_.viewer,
+                                .statusItem = services_.statusItem,
+                                .taskbar = services_.taskbar}),
       appDelegate_(
-          services_.preferences, menuBarPrefs_, services_.statusItem, [this] { openMainWindow(); },
-          [this] { requestQuit(); }) {
+          services_.preferences, menuBarPrefs_, services_.statusItem, services_.taskbar,
+          [this] { openMainWindow(); }, [this] { requestQuit(); }) {
   services_.tell = [this](const QString& title, const QString& message) {
     library_.tell(title, message);
   };
@@ -88,7 +94,9 @@ TarnLoftApp::TarnLoftApp()
   std::atexit([] {
     if (running) running->saveAll();
   });
-  connect(&mainWindow_, &MainWindow::closed, &appDelegate_, &AppDelegate::lastWindowClosed);
+  connect(&mainWindow_, &MainWindow::settingsRequested, this, &TarnLoftApp::openSettings);
+  connect(&mainWindow_, &MainWindow::closed, this, &TarnLoftApp::windowClosed);
+  connect(&settingsWindow_, &SettingsWindow::closed, this, &TarnLoftApp::windowClosed);
 }
 
 TarnLoftApp::~TarnLoftApp() { running = nullptr; }
@@ -108,6 +116,12 @@ bool TarnLoftApp::openMainWindow() {
           Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
   appDelegate_.showMainWindow();
   return true;
+}
+
+void TarnLoftApp::openSettings() { settingsWindow_.open(mainWindow_.window()); }
+
+void TarnLoftApp::windowClosed() {
+  if (!mainWindow_.window() && !settingsWindow_.window()) appDelegate_.lastWindowClosed();
 }
 
 void TarnLoftApp::firstFrameShown() {
@@ -142,7 +156,9 @@ void TarnLoftApp::quitByForce() {
 // Without its window the program goes on where there is a tray, and tries on to save.
 bool TarnLoftApp::mayCloseWindow() {
   if (isQuitting_) return true;
-  if (!appDelegate_.applicationShouldTerminateAfterLastWindowClosed()) {
+  const bool goesOn =
+      settingsWindow_.window() || !appDelegate_.applicationShouldTerminateAfterLastWindowClosed();
+  if (goesOn) {
     (void)library_.flush(0s);
     return true;
   }
