@@ -21,7 +21,15 @@ class FakeTray : public StatusItem {
     clicked = std::move(onClick);
     menu = std::move(commands);
   }
-  bool isInTray() const override { return true; }
+  bool isThere = true;
+  bool isInTray() const override { return isThere; }
+};
+
+class FakeTaskbar : public Taskbar {
+ public:
+  bool areShown = true;
+  bool canHideWindows() const override { return true; }
+  void setWindowsShown(bool shown) override { areShown = shown; }
 };
 
 struct Running {
@@ -29,9 +37,11 @@ struct Running {
   IniPreferences preferences{disk.path("tarnloft.ini"), disk.log};
   MenuBarPrefs prefs{preferences, disk.log};
   FakeTray tray;
+  FakeTaskbar taskbar;
   int opened = 0;
   int ended = 0;
-  AppDelegate delegate{preferences, prefs, tray, [this] { ++opened; }, [this] { ++ended; }};
+  AppDelegate delegate{preferences,        prefs, tray, taskbar, [this] { ++opened; },
+                       [this] { ++ended; }};
 };
 
 }  // namespace
@@ -55,6 +65,17 @@ class TestAppDelegate : public QObject {
     running.delegate.lastWindowClosed();
     running.tray.menu.back().run();
     QCOMPARE(running.ended, 2);
+  }
+
+  void leavesTheTaskbarOnlyForATray() {
+    Running running;
+    running.prefs.setShowDock(false);
+    QVERIFY(!running.taskbar.areShown);
+    running.prefs.setShowDock(true);
+    QVERIFY(running.taskbar.areShown);
+    running.tray.isThere = false;
+    running.prefs.setShowDock(false);
+    QVERIFY(running.taskbar.areShown);
   }
 
   void readsPreferencesOfAnyKind() {

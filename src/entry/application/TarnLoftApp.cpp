@@ -96,7 +96,7 @@ TarnLoftApp::TarnLoftApp()
   });
   connect(&mainWindow_, &MainWindow::settingsRequested, this, &TarnLoftApp::openSettings);
   connect(&mainWindow_, &MainWindow::closed, this, &TarnLoftApp::windowClosed);
-  connect(&settingsWindow_, &SettingsWindow::closed, this, &TarnLoftApp::windowClosed);
+  connect(&settingsWindow_, &SettingsWindow::closed, this, &TarnLoftApp::settingsClosed);
 }
 
 TarnLoftApp::~TarnLoftApp() { running = nullptr; }
@@ -121,7 +121,14 @@ bool TarnLoftApp::openMainWindow() {
 void TarnLoftApp::openSettings() { settingsWindow_.open(mainWindow_.window()); }
 
 void TarnLoftApp::windowClosed() {
-  if (!mainWindow_.window() && !settingsWindow_.window()) appDelegate_.lastWindowClosed();
+  if (mainWindow_.window() || settingsWindow_.window()) return;
+  appDelegate_.lastWindowClosed();
+}
+
+// Some window managers give the keyboard to none that stands outside of the taskbar.
+void TarnLoftApp::settingsClosed() {
+  if (QQuickWindow* const window = mainWindow_.window()) window->requestActivate();
+  windowClosed();
 }
 
 void TarnLoftApp::firstFrameShown() {

@@ -39,6 +39,7 @@ class TarnLoftApp : public QObject {
   bool openMainWindow();
   void openSettings();
   void windowClosed();
+  void settingsClosed();
   void firstFrameShown();
   void followAppearance();
   void followFocus();

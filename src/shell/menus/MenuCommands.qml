@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import TarnLoft.Shell
 
 // The commands of one menu in their order, with a MenuGroup where one begins.
 //   MenuCommands { title: "File"; ShellCommand { … } MenuGroup {} ShellCommand { … } }

@@ -55,6 +55,7 @@ IniPreferences::IniPreferences(SystemLog& log)
 
 IniPreferences::IniPreferences(const QString& path, SystemLog& log)
     : log_(log), settings_(withoutObstacle(path, log), QSettings::IniFormat) {
+  (void)settings_.allKeys();  // else it is read piece by piece, when it is asked for
   if (settings_.status() == QSettings::FormatError) keepDamaged(path, log);
   tellUnwritable();
 }
