@@ -202,6 +202,8 @@ void benchSettings() {
       settings.open(nullptr);
       (void)settings.window()->grabWindow();
     };
+    settings.prepare();
+    QTest::qWait(100);
     theirs.push_back(bench.timed(openTheirs));
     ours.push_back(bench.timed(openOurs));
   }

@@ -1,6 +1,5 @@
 #include "settings/SettingsWindow.h"
 
-#include <QQmlComponent>
 #include <QQuickWindow>
 #include <QScreen>
 
@@ -16,10 +15,14 @@ constexpr int frameRoom = 60;  // for the desktop's own at both ends of the wind
 }  // namespace
 
 SettingsWindow::SettingsWindow(QQmlEngine& engine, const SettingsServices& services)
-    : engine_(engine), services_(services) {}
+    : services_(services), component_(&engine) {}
 
 // Before what it shows.
 SettingsWindow::~SettingsWindow() { window_.reset(); }
+
+void SettingsWindow::prepare() {
+  if (component_.isNull()) component_.loadUrl(QUrl(url), QQmlComponent::Asynchronous);
+}
 
 void SettingsWindow::open(const QWindow* over) {
   if (!window_) {
@@ -35,12 +38,12 @@ void SettingsWindow::open(const QWindow* over) {
 
 bool SettingsWindow::make() {
   auto model = std::make_unique<SettingsModel>(services_);
-  QQmlComponent component(&engine_, QUrl(url));
-  std::unique_ptr<QObject> made(component.createWithInitialProperties(
+  if (!component_.isReady()) component_.loadUrl(QUrl(url), QQmlComponent::PreferSynchronous);
+  std::unique_ptr<QObject> made(component_.createWithInitialProperties(
       {{QStringLiteral("model"), QVariant::fromValue(model.get())}}));
   window_.reset(qobject_cast<QQuickWindow*>(made.get()));
   if (!window_) {
-    qCritical("%s", qPrintable(component.errorString()));
+    qCritical("%s", qPrintable(component_.errorString()));
     return false;
   }
   made.release();

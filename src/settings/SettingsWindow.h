@@ -2,6 +2,7 @@
 
 #include "settings/SettingsModel.h"
 
+#include <QQmlComponent>
 #include <QQmlEngine>
 
 #include <memory>
@@ -21,6 +22,10 @@ class SettingsWindow : public QObject {
   ~SettingsWindow() override;
   Q_DISABLE_COPY_MOVE(SettingsWindow)
 
+  // Loads its views beside other work, so that its first opening needn't. To be called when there is
+  // time.
+  void prepare();
+
   // Brings it to the front, or opens it in the middle of the other window, where the desktop leaves
   // that to programs; null for none.
   void open(const QWindow* over);
@@ -35,8 +40,8 @@ class SettingsWindow : public QObject {
   void place(const QWindow& over);
   void close();
 
-  QQmlEngine& engine_;
   const SettingsServices services_;
+  QQmlComponent component_;
   std::unique_ptr<SettingsModel> model_;
   std::unique_ptr<QQuickWindow> window_;
 };

@@ -188,8 +188,9 @@ class TestSettings : public QObject {
     Settings settings;
     settings.tray.isThere = false;
     settings.open();
-    QVERIFY(!settings.item("Keep running in the tray")->isEnabled());
-    QVERIFY(!settings.item("Show in taskbar")->isEnabled());
+    QVERIFY(!settings.item("Keep running in the tray"));  // Tab doesn't lead there
+    QVERIFY(!settings.item("Show in taskbar"));
+    QVERIFY(settings.texts().filter("has no tray").size() == 1);
     const QQuickWindow* const first = &settings.window();
     settings.settings->open(nullptr);
     QCOMPARE(&settings.window(), first);
@@ -199,7 +200,7 @@ class TestSettings : public QObject {
     QVERIFY(!settings.settings->window());
     settings.tray.isThere = true;
     settings.settings->open(nullptr);
-    QVERIFY(settings.item("Show in taskbar")->isEnabled());
+    QVERIFY(settings.item("Show in taskbar"));
   }
 };
 

@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QPalette>
 #include <QQuickWindow>
+#include <QTimer>
 
 #include <chrono>
 #include <cstdlib>
@@ -18,6 +19,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
+constexpr auto viewsPatience = 1s;    // behind the first frame, with views that nobody asked for yet
 constexpr auto landingPatience = 2s;  // with what was dropped right before the end
 constexpr auto savingPatience = 5s;   // with each piece of work on the disk, at the end
 constexpr auto threadPatience = 1s;   // with a picture that is being read, which nobody waits for
@@ -134,6 +136,7 @@ void TarnLoftApp::settingsClosed() {
 void TarnLoftApp::firstFrameShown() {
   appDelegate_.installMenuBar();
   services_.media.work.resume();
+  QTimer::singleShot(viewsPatience, &settingsWindow_, &SettingsWindow::prepare);
 }
 
 // What the user dropped right before is theirs already.
