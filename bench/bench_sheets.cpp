@@ -1,8 +1,10 @@
 // What a tile opens, and what is done in it, in the main window: menus and sheets beside the
-// toolkit's own with three entries or fields; edits in a brand of 10,000 tiles beside one of 20.
+// toolkit's own with three entries or fields; the settings beside the smallest window with one
+// control; edits in a brand of 10,000 tiles beside one of 20.
 #include "Measure.h"
 #include "Ratio.h"
 #include "controls/motion/Motion.h"
+#include "settings/SettingsWindow.h"
 #include "sheets/editors/ItemEditorSheet.h"
 #include "shell/TestViews.h"
 #include "workspace/Items.h"
@@ -12,6 +14,9 @@
 #include <QQmlComponent>
 
 #include <cstdio>
+
+Q_IMPORT_QML_PLUGIN(TarnLoft_QuickGrabPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_SettingsPlugin)
 
 using namespace tarnloft;
 
@@ -159,6 +164,55 @@ void benchOpening() {
               residentMegabytes() - atTen);
 }
 
+constexpr char windowReference[] = R"(
+  import QtQuick
+  import QtQuick.Controls.Basic
+  Window { width: 460; height: 640; Button { text: "One" } })";
+
+struct NoTray : StatusItem {
+  void install(const QIcon&, const QString&, std::function<void()>, std::vector<Command>) override {
+  }
+  bool isInTray() const override { return false; }
+};
+
+struct NoTaskbar : Taskbar {
+  bool canHideWindows() const override { return false; }
+  void setWindowsShown(bool) override {}
+};
+
+// Each in a program whose main window is up, until the picture of the new one is there.
+void benchSettings() {
+  std::vector<double> ours, theirs;
+  for (int i = 0; i < rounds; ++i) {
+    Bench bench(20);
+    NoTray tray;
+    NoTaskbar taskbar;
+    MenuBarPrefs menuBar(bench.library.preferences, bench.library.disk.log);
+    SettingsWindow settings(bench.engine, {*bench.library.store, menuBar, bench.library.dialogs,
+                                           bench.library.viewer, tray, taskbar});
+    const auto openTheirs = [&] {
+      QQmlComponent component(&bench.engine);
+      component.setData(windowReference, QUrl());
+      const std::unique_ptr<QObject> made(component.create());
+      auto* const window = qobject_cast<QQuickWindow*>(made.get());
+      window->show();
+      (void)window->grabWindow();
+    };
+    const auto openOurs = [&] {
+      settings.open(nullptr);
+      (void)settings.window()->grabWindow();
+    };
+    settings.prepare();
+    QTest::qWait(100);
+    theirs.push_back(bench.timed(openTheirs));
+    ours.push_back(bench.timed(openOurs));
+  }
+  std::printf("the settings, first: %.1f ms (the smallest window's %.1f)\n", median(ours),
+              median(theirs));
+  printRatio("the settings' first opening / the smallest window with one control",
+             median(ours) / median(theirs), Aim::atMost, 2);
+}
+
 // Medians, in milliseconds.
 struct Edits {
   double name;
@@ -215,6 +269,7 @@ int main(int argc, char** argv) {
   qputenv("QT_QUICK_BACKEND", "software");
   const QGuiApplication application(argc, argv);
   benchOpening();
+  benchSettings();
   benchEdits();
   return 0;
 }

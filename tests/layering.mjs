@@ -18,7 +18,8 @@ below.sheets = ['pictures', ...below.pictures];
 below.workspace = ['sheets', ...below.sheets];
 below.shell = ['workspace', ...below.workspace];
 below.quickgrab = ['pictures', ...below.pictures];
-below.entry = ['shell', 'quickgrab', ...below.shell];
+below.settings = ['quickgrab', ...below.quickgrab];
+below.entry = ['shell', 'settings', 'quickgrab', ...below.shell];
 
 function* files(folder) {
   for (const name of readdirSync(folder)) {

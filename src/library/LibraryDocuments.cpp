@@ -187,7 +187,7 @@ void LibraryStore::dismissNotice() {
 
 void LibraryStore::saveCopy() {
   if (!openDocument_) return;
-  const auto folder = services_.dialogs.chooseFolder();
+  const auto folder = services_.dialogs.chooseFolder({}, {});
   if (!folder || !openDocument_) return;
   const auto copy = [services = services_.document, folder = *folder,
                      brand = openDocument_->brand(),

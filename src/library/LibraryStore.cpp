@@ -1,5 +1,7 @@
 #include "library/LibraryStore.h"
 
+#include "document/Package.h"
+#include "library/LibraryFolder.h"
 #include "library/PickedColor.h"
 
 #include <algorithm>
@@ -50,15 +52,40 @@ QString LibraryStore::defaultLibraryURL(const LibraryServices& services) {
   return chosen.value_or(services.applicationSupport + QStringLiteral("/Tarn Loft/Library"));
 }
 
+// Looked at beside the disk's thread: a disk that doesn't answer keeps nothing from being saved.
 void LibraryStore::setLibraryURL(const QString& path) {
+  wantedLibrary_ = path;
+  services_.copies.ask(
+      [&files = services_.document.files, path] { return LibraryFolder::check(files, path); },
+      [store = QPointer(this), path](const Result<void>& usable) {
+        if (!store || store->wantedLibrary_ != path) return;  // another was chosen meanwhile
+        if (usable) return store->moveTo(path);
+        emit store->libraryRefused(usable.error().message);
+      });
+}
+
+void LibraryStore::moveTo(const QString& folder) {
   select(std::nullopt);
-  libraryURL_ = path;
-  preferences_.setLibraryPath(path);
+  libraryURL_ = folder;
+  preferences_.setLibraryPath(folder);
   brands_.clear();
   isOpening_ = true;
   emit brandsChanged();
   emit libraryURLChanged();
   openLibrary();
+  onDisk([] { return true; }, [this](bool) { tellStranded(); });  // behind the saves
+}
+
+// The rows of the old library don't tell of them any more.
+void LibraryStore::tellStranded() {
+  for (const BrandDocument* const document : documents()) {
+    const QString folder = Package::folderOf(document->packageURL());
+    if (folder == libraryURL_ || document->saveProblem().isEmpty()) continue;
+    tell(QStringLiteral("Changes to “%1” aren't saved").arg(document->brand().name),
+         QStringLiteral("They can't be written to %1: %2. They are kept and tried again until you "
+                        "quit. To save a copy of the brand, choose that folder again.")
+             .arg(quoted(folder), document->saveProblem()));
+  }
 }
 
 // Reads the first brand too: it is what a start shows.

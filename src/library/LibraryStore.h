@@ -33,7 +33,9 @@ class LibraryStore : public QObject {
   // The chosen folder, else "Tarn Loft/Library" in the user's application data.
   static QString defaultLibraryURL(const LibraryServices& services);
   const QString& libraryURL() const { return libraryURL_; }
-  // Changes to another folder, which becomes the chosen one, and selects its first row.
+  // Changes to another folder, which becomes the chosen one, and selects its first row. One that
+  // can't be a library changes nothing, and `libraryRefused` tells. Work of the old one that can't
+  // be saved is kept.
   void setLibraryURL(const QString& path);
 
   // In display order.
@@ -156,6 +158,7 @@ class LibraryStore : public QObject {
 
  signals:
   void libraryURLChanged();
+  void libraryRefused(const QString& reason);
   void brandsChanged();
   void selectionChanged();
   void openDocumentChanged();
@@ -181,6 +184,8 @@ class LibraryStore : public QObject {
   };
 
   // The folder
+  void moveTo(const QString& folder);
+  void tellStranded();
   void openLibrary();
   void libraryOpened(OpenedLibrary&& opened);
   void applyListing(const LibraryListing::Listing& listing);
@@ -227,6 +232,7 @@ class LibraryStore : public QObject {
   LibraryPreferences preferences_;
   const std::shared_ptr<GlobalSearch> search_;  // with the searches under way
   QString libraryURL_;
+  QString wantedLibrary_;  // the folder that is being looked at, or was last
   QList<BrandSummary> brands_;
   QHash<QString, LibraryListing::Twin> twins_;
   bool isOpening_ = true;

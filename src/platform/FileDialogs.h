@@ -29,8 +29,9 @@ class FileDialogs {
   virtual std::optional<QString> openFileOrFolder(const QStringList& mimeTypes,
                                                   const QStringList& folderExtensions) = 0;
 
-  // Asks for a folder that exists. None if the user cancels.
-  virtual std::optional<QString> chooseFolder() = 0;
+  // Asks for a folder that exists. `from` is where the dialog begins, its own choice if empty;
+  // `acceptText` stands on its button, the desktop's word if empty. None if the user cancels.
+  virtual std::optional<QString> chooseFolder(const QString& from, const QString& acceptText) = 0;
 };
 
 }  // namespace tarnloft

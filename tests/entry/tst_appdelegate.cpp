@@ -21,17 +21,27 @@ class FakeTray : public StatusItem {
     clicked = std::move(onClick);
     menu = std::move(commands);
   }
-  bool isInTray() const override { return true; }
+  bool isThere = true;
+  bool isInTray() const override { return isThere; }
+};
+
+class FakeTaskbar : public Taskbar {
+ public:
+  bool areShown = true;
+  bool canHideWindows() const override { return true; }
+  void setWindowsShown(bool shown) override { areShown = shown; }
 };
 
 struct Running {
   TestServices disk;
-  IniPreferences preferences{disk.path("tarnloft.ini")};
+  IniPreferences preferences{disk.path("tarnloft.ini"), disk.log};
   MenuBarPrefs prefs{preferences, disk.log};
   FakeTray tray;
+  FakeTaskbar taskbar;
   int opened = 0;
   int ended = 0;
-  AppDelegate delegate{preferences, prefs, tray, [this] { ++opened; }, [this] { ++ended; }};
+  AppDelegate delegate{preferences,        prefs, tray, taskbar, [this] { ++opened; },
+                       [this] { ++ended; }};
 };
 
 }  // namespace
@@ -57,9 +67,20 @@ class TestAppDelegate : public QObject {
     QCOMPARE(running.ended, 2);
   }
 
+  void leavesTheTaskbarOnlyForATray() {
+    Running running;
+    running.prefs.setShowDock(false);
+    QVERIFY(!running.taskbar.areShown);
+    running.prefs.setShowDock(true);
+    QVERIFY(running.taskbar.areShown);
+    running.tray.isThere = false;
+    running.prefs.setShowDock(false);
+    QVERIFY(running.taskbar.areShown);
+  }
+
   void readsPreferencesOfAnyKind() {
     TestServices disk;
-    IniPreferences stored(disk.path("tarnloft.ini"));
+    IniPreferences stored(disk.path("tarnloft.ini"), disk.log);
     const auto read = [&] { return MenuBarPrefs(stored, disk.log); };
     QCOMPARE(read().hotKey(), (HotKey{49, 6144}));
     stored.setText("mb.showType", "true");

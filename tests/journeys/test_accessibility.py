@@ -6,9 +6,9 @@ from desktop import press, until, write
 from journey import Journey
 
 # What can be worked with, and the only roles that may say so.
-CONTROLS = {"push button", "check box", "radio button", "menu item", "text", "list", "list item", "scroll bar",
-            "split pane"}
-PRESSED = {"push button", "check box", "radio button", "menu item", "list item"}
+CONTROLS = {"push button", "check box", "radio button", "combo box", "menu item", "text", "list",
+            "list item", "scroll bar", "split pane"}
+PRESSED = {"push button", "check box", "radio button", "combo box", "menu item", "list item"}
 # The Tab key stops once in them, or leaves them to keys of their own.
 COMPOSITES = {"list", "menu bar", "popup menu"}
 
@@ -85,6 +85,22 @@ class TheAccessibleTree(Journey):
         tarn.find("label", "No brand selected")
         self.check("no selection", tarn)
         self.tab_round("no selection", tarn)
+
+    def test_the_settings(self):
+        tarn = self.start()
+        tarn.find("push button", "New Brand")
+        press("ctrl+comma")
+        tarn.find("combo box", "Asset view, Compact")
+        self.check("settings", tarn)
+        rows = ["Show in File Manager", "Choose Folder…", "Click a color to copy, HEX",
+                "Asset view, Compact", "Colors", "Logos & images", "Type", "Gradients", "Code",
+                "Theme, System", "Default accent color, #0A84FF"]
+        round = self.tab_round("settings", tarn, "Settings")
+        self.assertEqual(sorted(stop.partition("“")[2][:-1] for stop in round), sorted(rows))
+        tarn.find("check box", "Type").act()
+        self.eventually(lambda: self.home.kept("config/tarnloft.ini").get("mb.showType"), "true")
+        press("Escape")
+        tarn.gone("frame", "Settings")
 
     def check(self, state, tarn):
         tree = tarn.tree

@@ -103,6 +103,30 @@ class TestLibraryStore : public QObject {
     QCOMPARE(library.start().libraryURL(), there);
   }
 
+  void refusesWhatCannotBeALibrary() {
+    const Cases<QString, QString> cases{
+        {"a brand", "Tarn Loft/Library/Here.tarnloft", "is a brand"},
+        {"in a brand", "x.tarnloft/assets", "is a brand"},
+        {"a file", "file", "isn't a folder"},
+        {"in a file", "file/below", "can't be made"},
+        {"read-only", "/proc", "can't be written to"}};
+    cases.check([&](const QString& name, const QString& reason) {
+      TestLibrary library;
+      library.add("Here");
+      QVERIFY(writeFile(library.disk.path("file"), "x"));
+      LibraryStore& store = library.start();
+      QStringList told;
+      connect(&store, &LibraryStore::libraryRefused, this,
+              [&](const QString& why) { told << why; });
+      store.setLibraryURL(name.startsWith('/') ? name : library.disk.path(name));
+      QCOMPARE(told.size(), 1);
+      QVERIFY2(told.first().contains(reason), qPrintable(told.first()));
+      QCOMPARE(store.libraryURL(), library.folder);
+      QVERIFY(store.openDocument());
+      QCOMPARE(library.start().libraryURL(), library.folder);
+    });
+  }
+
   void preferencesOutliveTheProgram() {
     TestLibrary library;
     const auto preferences = [&]() -> LibraryPreferences& { return library.start().preferences(); };

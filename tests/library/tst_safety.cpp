@@ -13,14 +13,15 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// The real disk, which is full or doesn't answer when the test says so.
+// The real disk, which is full where the library is, or doesn't answer when the test says so.
 class BadDisk : public PosixFileStore {
  public:
   bool isFull = false;
   mutable QSemaphore gate{1000};  // each look into a folder passes
 
   Result<std::unique_ptr<FileWriter>> createTemporary(const QString& target) override {
-    if (isFull) return failure(ErrorKind::io, "No space left on device");
+    if (isFull && target.contains("/Tarn Loft/"))
+      return failure(ErrorKind::io, "No space left on device");
     return PosixFileStore::createTemporary(target);
   }
   Result<QStringList> listAll(const QString& folder) const override {
@@ -102,6 +103,10 @@ class TestSafety : public QObject {
     QCOMPARE(safe.open()->brand().accentHex, "#123456");
     QCOMPARE(safe.open()->saveProblem(), "No space left on device");
     safe.store().select(safe.library.packagePath("Beta"));
+    // Also when the library has moved away from it, which is told.
+    safe.store().setLibraryURL(safe.library.disk.path("other"));
+    QCOMPARE(notices.size(), 3);
+    QVERIFY(notices.last().message.contains(safe.library.folder));
     safe.disk.isFull = false;
     safe.store().retrySaves();
     QCOMPARE(safe.accentOnDisk(acme), "#123456");

@@ -3,6 +3,7 @@
 #include "platform/desktop/window/DesktopFileDialogs.h"
 #include "platform/desktop/window/DesktopFileViewer.h"
 #include "testing/Cases.h"
+#include "testing/TestServices.h"
 
 #include <QApplication>
 #include <QDBusArgument>
@@ -212,7 +213,8 @@ class TestWindow : public QObject {
     Plain window;
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
-    IniPreferences state(folder.filePath("state.ini"));
+    ListedLog log;
+    IniPreferences state(folder.filePath("state.ini"), log);
     DesktopFileDialogs dialogs(state);
     const QString parent = "x11:" + QString::number(window.winId(), 16);
 
@@ -225,7 +227,7 @@ class TestWindow : public QObject {
     QCOMPARE(dialogs.openFiles({"image/*"}),
              QStringList({folder.filePath("1.png"), folder.filePath("#.png")}));
     QCOMPARE(dialogs.openFiles({"image/*"}), QStringList());
-    QCOMPARE(dialogs.chooseFolder(), folder.path());
+    QCOMPARE(dialogs.chooseFolder({}, {}), folder.path());
   }
 
   void choosesFilesAndPackages() {
@@ -240,7 +242,8 @@ class TestWindow : public QObject {
       Plain window;
       window.show();
       QVERIFY(QTest::qWaitForWindowExposed(&window));
-      IniPreferences state(folder.filePath("state.ini"));
+      ListedLog log;
+      IniPreferences state(folder.filePath("state.ini"), log);
       state.setText("importDialogFolder", folder.path());
       QTimer user;
       user.callOnTimeout([&] {

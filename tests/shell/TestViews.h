@@ -30,7 +30,7 @@ constexpr auto alert = QAccessible::AlertMessage;
 
 // The main window over a library, driven by keys and the pointer as a user would.
 struct Views : TestShell {
-  IniPreferences state{library.disk.path("state.ini")};
+  IniPreferences state{library.disk.path("state.ini"), library.disk.log};
   QQmlEngine engine;
   std::unique_ptr<AccentTint> tint;
   std::unique_ptr<MainWindow> main;

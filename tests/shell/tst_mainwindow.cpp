@@ -31,15 +31,15 @@ class TestMainWindow : public QObject {
         {"maximised", WindowState{QPoint(-5, 7), {900, 600}, Maximized::yes, 200}},
         {"placed", WindowState{QPoint(0, 0), {2000, 1000}, Maximized::no, 333}}};
     cases.check([&](const WindowState& state) {
-      const TestServices disk;
+      TestServices disk;
       const QString path = disk.path("new folder/state.ini");
       {
-        IniPreferences store(path);
+        IniPreferences store(path, disk.log);
         WindowState{QPoint(1, 1), {1000, 700}, Maximized::yes, 250}.write(store);
         if (!state.position) store.remove("windowX");
         state.write(store);
       }
-      QVERIFY(WindowState::read(IniPreferences(path)) == state);
+      QVERIFY(WindowState::read(IniPreferences(path, disk.log)) == state);
     });
   }
 
@@ -62,8 +62,8 @@ class TestMainWindow : public QObject {
   }
 
   void rightSizesOnce() {
-    const TestServices disk;
-    IniPreferences preferences(disk.path("preferences.ini"));
+    TestServices disk;
+    IniPreferences preferences(disk.path("preferences.ini"), disk.log);
     QWindow window;
     window.resize(990, 700);
     rightSizeWindow(&window, preferences);

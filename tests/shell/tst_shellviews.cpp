@@ -1,5 +1,6 @@
 #include "controls/motion/Motion.h"
 #include "shell/TestViews.h"
+#include "testing/Cases.h"
 #include "workspace/Items.h"
 
 using namespace tarnloft;
@@ -79,8 +80,95 @@ class TestShellViews : public QObject {
     views.press(Qt::Key_Right);
     QTRY_VERIFY(views.item(entry, "Undo"));
     views.press(Qt::Key_Right);
+    QTRY_VERIFY(views.item(entry, "Expanded"));
+    views.press(Qt::Key_Right);
     QTRY_VERIFY(views.item(entry, "Pick Color from Screen"));
     QVERIFY(!views.item(entry, "Pick Color from Screen")->isEnabled());
+    views.press(Qt::Key_Right);
+    QTRY_VERIFY(views.item(entry, "About Tarn Loft"));
+    views.click(views.item(entry, "About Tarn Loft"));
+    QTRY_VERIFY(views.item(dialog, "About Tarn Loft"));
+    QTRY_VERIFY(views.item(row, QString("Qt %1, LGPL 3").arg(QT_VERSION_STR)));
+    views.press(Qt::Key_Escape);
+    QTRY_VERIFY(!views.item(dialog, "About Tarn Loft"));
+    views.press(Qt::Key_Question, Qt::ControlModifier);
+    QTRY_VERIFY(views.item(row, "Import Brand…, Ctrl+Shift+I"));
+  }
+
+  void theViewMenuShowsAndChangesHowThingsAre() {
+    Views views;
+    views.start();
+    LibraryPreferences& preferences = views.library.store->preferences();
+    const auto open = [&] {
+      views.press(Qt::Key_V, Qt::AltModifier);
+      QTRY_VERIFY(views.item(entry, "Expanded"));
+    };
+    const auto isChecked = [&](const char* name) {
+      return QAccessible::queryAccessibleInterface(views.item(entry, name))->state().checked;
+    };
+    open();
+    QVERIFY(isChecked("Compact") && !isChecked("Expanded") && isChecked("Medium"));
+    QVERIFY(views.item(entry, "Large")->isEnabled());
+    preferences.setTileSize(TileSize::small);  // from elsewhere
+    QVERIFY(isChecked("Small") && !isChecked("Medium"));
+    views.click(views.item(entry, "Expanded"));
+    QTRY_COMPARE(preferences.assetDisplayMode(), AssetDisplayMode::expanded);
+    QTRY_VERIFY(!views.item(entry, "Expanded"));
+    open();
+    QVERIFY(isChecked("Expanded") && !isChecked("Compact"));
+    QVERIFY(!views.item(entry, "Large")->isEnabled());
+    views.click(views.item(entry, "Expanded"));  // once more, which changes nothing
+    QTRY_VERIFY(!views.item(entry, "Expanded"));
+    open();
+    QVERIFY(isChecked("Expanded"));
+    views.click(views.item(entry, "Dark"));
+    QTRY_COMPARE(preferences.appearanceMode(), AppearanceMode::dark);
+  }
+
+  // Opened by keys and by the pointer.
+  void theEditMenuWorksOnWhatHasTheKeyboard() {
+    const Cases<bool> cases{{"keys", true}, {"pointer", false}};
+    cases.check([](bool byKeys) {
+      Views views;
+      views.library.add("Acme", {sectionOf("Colors", {colorItem("Sea"), colorItem("Sand")})});
+      views.start();
+      QTRY_VERIFY(views.item(row, "Sea"));
+      const auto choose = [&](const char* name) {
+        if (byKeys) {
+          views.press(Qt::Key_E, Qt::AltModifier);
+        } else {
+          views.click(views.item(entry, "Edit"));
+        }
+        QTRY_VERIFY(views.item(entry, name));
+        QVERIFY2(views.item(entry, name)->isEnabled(), name);
+        views.click(views.item(entry, name));
+        QTRY_VERIFY(!views.item(entry, name));
+      };
+      QQuickItem* const field = views.item(QAccessible::EditableText, "Section name");
+      QVERIFY(field);
+      field->forceActiveFocus(Qt::MouseFocusReason);
+      choose("Select All");
+      QTRY_COMPARE(field->property("selectedText"), "Colors");
+      choose("Copy");
+      choose("Delete");
+      QTRY_COMPARE(field->property("text"), "");
+      choose("Paste");
+      QTRY_COMPARE(field->property("text"), "Colors");
+      QVERIFY(field->hasActiveFocus());
+
+      views.click(views.item(row, "Sand"));
+      views.pasteboard.texts.clear();
+      choose("Copy");
+      QTRY_COMPARE(views.pasteboard.texts.size(), 1);
+      choose("Select All");
+      const auto& selection =
+          *views.window().property("content").value<ContentModel*>()->selection();
+      QTRY_COMPARE(selection.count(), 2);
+      choose("Delete");
+      QTRY_VERIFY(!views.item(row, "Sand"));
+      choose("Undo Delete");
+      QTRY_VERIFY(views.item(row, "Sand"));
+    });
   }
 
   void theMenuOfABrandHasItsEntries() {

@@ -37,7 +37,11 @@ class ScriptedDialogs : public FileDialogs {
     openTypes = types;
     return answer;
   }
-  std::optional<QString> chooseFolder() override { return answer; }
+  QString folderFrom;
+  std::optional<QString> chooseFolder(const QString& from, const QString& /*accept*/) override {
+    folderFrom = from;
+    return answer;
+  }
 };
 
 class ListedViewer : public FileViewer {

@@ -54,7 +54,7 @@ struct TestLibrary {
   TestServices disk;
   FileStore* files = &disk.files;     // a test may put a faulty one in
   DiskWork* work = &immediateDisk();  // or a slow one
-  IniPreferences preferences{disk.path("tarnloft.ini")};
+  IniPreferences preferences{disk.path("tarnloft.ini"), disk.log};
   ListedAppearance appearance;
   CountingBeep beep;
   FolderTrash trash{disk.path("trash")};

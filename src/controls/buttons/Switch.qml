@@ -22,13 +22,15 @@ T.Switch {
     padding: 0
     spacing: 8
     font: Theme.body
-    focusPolicy: Qt.TabFocus
+    focusPolicy: enabled ? Qt.TabFocus : Qt.NoFocus
     opacity: enabled ? 1 : 0.4
 
     Keys.onReturnPressed: turn()
     Keys.onEnterPressed: turn()
     Accessible.role: Accessible.CheckBox
     Accessible.name: accessibleName
+    Accessible.focusable: enabled
+    Accessible.description: enabled ? "" : "Unavailable" // of which the toolkit tells nothing
     Accessible.checkable: true
     Accessible.checked: checked
     Accessible.onPressAction: turn()

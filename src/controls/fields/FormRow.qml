@@ -12,8 +12,11 @@ Item {
     property string note: ""
     default property alias control: trailing.data
 
+    readonly property int head: Math.max(44, trailing.height + 16) // the height beside the control
+    readonly property bool tall: trailing.height > 60 // the text stands at its top then
+
     width: parent?.width ?? 0
-    implicitHeight: Math.max(44, lines.height + 18, trailing.height + 16)
+    implicitHeight: noted.visible ? noted.y + noted.height + 11 : head
 
     Divider {
         x: 12
@@ -21,28 +24,12 @@ Item {
         visible: root.y > 0
     }
 
-    Column {
-        id: lines
-
+    Label {
         x: 12
-        width: root.width - 24 - (root.note === "" || trailing.width > 0 ? trailing.width + 12 : 0)
-        anchors.verticalCenter: parent.verticalCenter
-        spacing: 3
-
-        Label {
-            width: parent.width
-            visible: text !== ""
-            text: root.text
-        }
-
-        Label {
-            width: parent.width
-            visible: text !== ""
-            text: root.note
-            font: Theme.subheadline
-            color: Theme.secondaryLabel
-            wrapMode: Text.Wrap
-        }
+        y: root.tall ? trailing.y + 3 : Math.round((root.head - height) / 2)
+        width: root.width - 36 - trailing.width
+        visible: text !== ""
+        text: root.text
     }
 
     Row {
@@ -50,7 +37,21 @@ Item {
 
         anchors.right: parent.right
         anchors.rightMargin: 12
-        anchors.verticalCenter: parent.verticalCenter
+        y: Math.round((root.head - height) / 2)
         spacing: 8
+    }
+
+    Label {
+        id: noted
+
+        x: 12
+        y: root.head - 5
+        width: root.width - 24
+        visible: text !== ""
+        text: root.note
+        font: Theme.subheadline
+        color: Theme.secondaryLabel
+        wrapMode: Text.Wrap
+        lineHeight: 1.15
     }
 }

@@ -9,9 +9,10 @@ TextField {
 
     readonly property bool elided: !activeFocus && contentWidth > width
 
-    // Where the beginning is what it scrolls to, so that a click meets the letter under it.
+    // Where the beginning is what it scrolls to, so that a click meets the letter under it. While a
+    // menu has the keyboard, what is selected stays.
     function rewind() {
-        if (!activeFocus)
+        if (!activeFocus && focusReason !== Qt.PopupFocusReason)
             cursorPosition = 0;
     }
 

@@ -9,6 +9,8 @@ import TarnLoft.Controls
 T.MenuBar {
     id: root
 
+    property real itemPadding: 9 // at both sides of a title
+
     signal openingByKey // whoever hides the bar shows it
 
     function openByKey(index: int) {

@@ -10,8 +10,8 @@ T.MenuBarItem {
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: 22
-    leftPadding: 9
-    rightPadding: 9
+    leftPadding: (menuBar as MenuBar)?.itemPadding ?? 9
+    rightPadding: leftPadding
     font: Theme.body
     Accessible.ignored: true // the toolkit calls it a menu bar; its text stands for it
 

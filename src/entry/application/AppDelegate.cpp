@@ -8,16 +8,25 @@ namespace tarnloft {
 
 using namespace std::chrono_literals;
 
+namespace {
+constexpr int missesThatCount = 2;
+}
+
 AppDelegate::AppDelegate(Preferences& preferences, const MenuBarPrefs& prefs,
-                         StatusItem& statusItem, std::function<void()> openMainWindow,
-                         std::function<void()> quit)
+                         StatusItem& statusItem, Taskbar& taskbar,
+                         std::function<void()> openMainWindow, std::function<void()> quit)
     : preferences_(preferences),
       prefs_(prefs),
       statusItem_(statusItem),
+      taskbar_(taskbar),
       openMainWindow_(std::move(openMainWindow)),
       quit_(std::move(quit)) {
   trayCheck_.setInterval(3s);
   connect(&trayCheck_, &QTimer::timeout, this, &AppDelegate::checkTray);
+  connect(&prefs, &MenuBarPrefs::showDockChanged, this, &AppDelegate::followShowDock);
+  // The tray isn't there yet; should it not come, a later look will find that.
+  taskbar_.setWindowsShown(prefs.showDock());
+  watchTray();
 }
 
 void AppDelegate::applicationDidFinishLaunching() {
@@ -32,7 +41,8 @@ void AppDelegate::installMenuBar() {
 }
 
 void AppDelegate::showMainWindow() {
-  trayCheck_.stop();
+  isHidden_ = false;
+  watchTray();
   if (!mainWindow_) return openMainWindow_();
   if (mainWindow_->windowStates() & Qt::WindowMinimized) mainWindow_->showNormal();
   mainWindow_->show();
@@ -46,14 +56,28 @@ bool AppDelegate::applicationShouldTerminateAfterLastWindowClosed() const {
 
 void AppDelegate::lastWindowClosed() {
   if (applicationShouldTerminateAfterLastWindowClosed()) return quit_();
+  isHidden_ = true;
   missed_ = 0;
-  trayCheck_.start();
+  watchTray();
+}
+
+void AppDelegate::followShowDock() {
+  missed_ = statusItem_.isInTray() ? 0 : missesThatCount;
+  taskbar_.setWindowsShown(prefs_.showDock() || missed_ > 0);
+  watchTray();
+}
+
+void AppDelegate::watchTray() {
+  if (!isHidden_ && prefs_.showDock()) return trayCheck_.stop();
+  if (!trayCheck_.isActive()) trayCheck_.start();
 }
 
 // A tray that is only being restarted is back by the second look.
 void AppDelegate::checkTray() {
   missed_ = statusItem_.isInTray() ? 0 : missed_ + 1;
-  if (missed_ == 2) showMainWindow();
+  const bool isGone = missed_ >= missesThatCount;
+  taskbar_.setWindowsShown(prefs_.showDock() || isGone);
+  if (isHidden_ && isGone) showMainWindow();
 }
 
 }  // namespace tarnloft

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Taskbar.h"
 #include "quickgrab/MenuBarController.h"
 #include "quickgrab/MenuBarPrefs.h"
 
@@ -12,19 +13,19 @@
 
 namespace tarnloft {
 
-// What belongs to no window: the way back to the main one, the first size of it, and what happens
-// when the last window closes. Main thread.
+// What belongs to no window: the way back to the main one, the first size of it, what happens when
+// the last window closes, and whether the taskbar shows any. Main thread.
 class AppDelegate : public QObject {
  public:
   // Borrowed: all outlive this. `openMainWindow` opens a new main window, and `quit` ends the
   // program.
   AppDelegate(Preferences& preferences, const MenuBarPrefs& prefs, StatusItem& statusItem,
-              std::function<void()> openMainWindow, std::function<void()> quit);
+              Taskbar& taskbar, std::function<void()> openMainWindow, std::function<void()> quit);
 
   // The open main window, or null.
   void setMainWindow(QWindow* window) { mainWindow_ = window; }
 
-  // Sizes the window of a first run a moment later.
+  // Keeps the windows off the taskbar as wanted. Sizes the window of a first run a moment later.
   void applicationDidFinishLaunching();
 
   // Puts the icon into the tray. At most once, however often it is called.
@@ -43,17 +44,21 @@ class AppDelegate : public QObject {
   void lastWindowClosed();
 
  private:
+  void followShowDock();
+  void watchTray();
   void checkTray();
 
   Preferences& preferences_;
   const MenuBarPrefs& prefs_;
   StatusItem& statusItem_;
+  Taskbar& taskbar_;
   const std::function<void()> openMainWindow_;
   const std::function<void()> quit_;
   std::unique_ptr<MenuBarController> menuBar_;
   QPointer<QWindow> mainWindow_;
-  QTimer trayCheck_;  // runs while no window is open
-  int missed_ = 0;    // checks in a row that found no tray
+  bool isHidden_ = false;  // no window is open
+  QTimer trayCheck_;       // runs while the tray alone leads to the program
+  int missed_ = 0;         // checks in a row that found no tray
 };
 
 }  // namespace tarnloft

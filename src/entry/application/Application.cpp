@@ -18,6 +18,7 @@
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_QuickGrabPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_SettingsPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)

@@ -17,6 +17,7 @@
 #include "platform/desktop/window/DesktopMotion.h"
 #include "platform/desktop/window/DesktopPasteboard.h"
 #include "platform/desktop/window/DesktopStatusItem.h"
+#include "platform/desktop/window/DesktopTaskbar.h"
 #include "workspace/WorkspaceServices.h"
 
 #include <QThreadPool>
@@ -29,8 +30,8 @@ struct DesktopServices {
 
   PosixFileStore files;
   Syslog log;
-  IniPreferences preferences;
-  IniPreferences state{stateFile()};  // what windows keep, which is nobody's preference
+  IniPreferences preferences{log};
+  IniPreferences state{stateFile(), log};  // what windows keep, which is nobody's preference
   DesktopBeep beep;
   LateTrash trash;
   LateArchiver archiver;
@@ -40,6 +41,7 @@ struct DesktopServices {
   DesktopMotion motion;
   DesktopPasteboard pasteboard;
   DesktopStatusItem statusItem;
+  DesktopTaskbar taskbar;
   MimeContentTypes types;
   FreeTypeFonts fonts;
   QtDragSession dragSession;

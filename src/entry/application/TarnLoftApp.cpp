@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QPalette>
 #include <QQuickWindow>
+#include <QTimer>
 
 #include <chrono>
 #include <cstdlib>
@@ -18,6 +19,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
+constexpr auto viewsPatience = 1s;    // behind the first frame, with views that nobody asked for yet
 constexpr auto landingPatience = 2s;  // with what was dropped right before the end
 constexpr auto savingPatience = 5s;   // with each piece of work on the disk, at the end
 constexpr auto threadPatience = 1s;   // with a picture that is being read, which nobody waits for
@@ -62,9 +64,15 @@ TarnLoftApp::TarnLoftApp()
       tint_(library_, theme_),
       menuBarPrefs_(services_.preferences, services_.log),
       mainWindow_(engine_, services_.forWorkspace(library_), services_.state),
+      settingsWindow_(engine_, {.library = library_,
+                                .menuBar = menuBarPrefs_,
+                                .dialogs = services_.dialogs,
+                                .viewer = services_.viewer,
+                                .statusItem = services_.statusItem,
+                                .taskbar = services_.taskbar}),
       appDelegate_(
-          services_.preferences, menuBarPrefs_, services_.statusItem, [this] { openMainWindow(); },
-          [this] { requestQuit(); }) {
+          services_.preferences, menuBarPrefs_, services_.statusItem, services_.taskbar,
+          [this] { openMainWindow(); }, [this] { requestQuit(); }) {
   services_.tell = [this](const QString& title, const QString& message) {
     library_.tell(title, message);
   };
@@ -88,7 +96,9 @@ TarnLoftApp::TarnLoftApp()
   std::atexit([] {
     if (running) running->saveAll();
   });
-  connect(&mainWindow_, &MainWindow::closed, &appDelegate_, &AppDelegate::lastWindowClosed);
+  connect(&mainWindow_, &MainWindow::settingsRequested, this, &TarnLoftApp::openSettings);
+  connect(&mainWindow_, &MainWindow::closed, this, &TarnLoftApp::windowClosed);
+  connect(&settingsWindow_, &SettingsWindow::closed, this, &TarnLoftApp::settingsClosed);
 }
 
 TarnLoftApp::~TarnLoftApp() { running = nullptr; }
@@ -110,9 +120,23 @@ bool TarnLoftApp::openMainWindow() {
   return true;
 }
 
+void TarnLoftApp::openSettings() { settingsWindow_.open(mainWindow_.window()); }
+
+void TarnLoftApp::windowClosed() {
+  if (mainWindow_.window() || settingsWindow_.window()) return;
+  appDelegate_.lastWindowClosed();
+}
+
+// Some window managers give the keyboard to none that stands outside of the taskbar.
+void TarnLoftApp::settingsClosed() {
+  if (QQuickWindow* const window = mainWindow_.window()) window->requestActivate();
+  windowClosed();
+}
+
 void TarnLoftApp::firstFrameShown() {
   appDelegate_.installMenuBar();
   services_.media.work.resume();
+  QTimer::singleShot(viewsPatience, &settingsWindow_, &SettingsWindow::prepare);
 }
 
 // What the user dropped right before is theirs already.
@@ -142,7 +166,9 @@ void TarnLoftApp::quitByForce() {
 // Without its window the program goes on where there is a tray, and tries on to save.
 bool TarnLoftApp::mayCloseWindow() {
   if (isQuitting_) return true;
-  if (!appDelegate_.applicationShouldTerminateAfterLastWindowClosed()) {
+  const bool goesOn =
+      settingsWindow_.window() || !appDelegate_.applicationShouldTerminateAfterLastWindowClosed();
+  if (goesOn) {
     (void)library_.flush(0s);
     return true;
   }

@@ -7,6 +7,7 @@
 #include "entry/application/DesktopServices.h"
 #include "library/LibraryStore.h"
 #include "platform/desktop/system/TerminationSignals.h"
+#include "settings/SettingsWindow.h"
 #include "shell/window/AccentTint.h"
 #include "shell/window/MainWindow.h"
 
@@ -36,6 +37,9 @@ class TarnLoftApp : public QObject {
 
  private:
   bool openMainWindow();
+  void openSettings();
+  void windowClosed();
+  void settingsClosed();
   void firstFrameShown();
   void followAppearance();
   void followFocus();
@@ -53,6 +57,7 @@ class TarnLoftApp : public QObject {
   AccentTint tint_;
   MenuBarPrefs menuBarPrefs_;
   MainWindow mainWindow_;
+  SettingsWindow settingsWindow_;
   AppDelegate appDelegate_;
   TerminationSignals terminationSignals_;
   bool isQuitting_ = false;  // whatever isn't saved

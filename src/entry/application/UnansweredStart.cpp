@@ -3,6 +3,7 @@
 #include "controls/theme/Theme.h"
 #include "library/LibraryPreferences.h"
 #include "platform/desktop/system/IniPreferences.h"
+#include "platform/desktop/system/Syslog.h"
 #include "platform/desktop/window/DesktopAppearance.h"
 
 #include <QQmlComponent>
@@ -13,7 +14,8 @@ namespace {
 using Start = RunningInstance::Start;
 
 AppearanceOverride chosenAppearance() {
-  IniPreferences preferences;
+  Syslog log;
+  IniPreferences preferences(log);
   switch (LibraryPreferences(preferences).appearanceMode()) {
     case AppearanceMode::light: return AppearanceOverride::light;
     case AppearanceMode::dark: return AppearanceOverride::dark;

@@ -2,12 +2,13 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import TarnLoft.Controls
+import TarnLoft.Shell
 
 // A menu of the window's commands, whose entries are made when it first opens.
 Menu {
     id: root
 
-    required property var commands // ShellCommands in their order; null for a line between groups
+    required property MenuCommands commands
 
     readonly property Component entry: Component {
         CommandItem {}
@@ -15,11 +16,32 @@ Menu {
     readonly property Component line: Component {
         MenuSeparator {}
     }
+    readonly property Component heading: Component {
+        MenuTitle {}
+    }
 
+    function add(made: QtObject) {
+        addItem(made as Item);
+    }
+
+    function addGroup(group: MenuGroup) {
+        if (count > 0)
+            add(line.createObject(contentItem));
+        if (group.title !== "")
+            add(heading.createObject(contentItem, {text: group.title}));
+    }
+
+    title: commands.title
     onAboutToShow: {
+        commands.opening();
         if (count > 0)
             return;
-        for (const command of commands)
-            addItem(command ? entry.createObject(contentItem, {command: command}) : line.createObject(contentItem));
+        for (let i = 0; i < commands.entries.length; ++i) {
+            const command = commands.entries[i] as ShellCommand;
+            if (command)
+                add(entry.createObject(contentItem, {command: command}));
+            else
+                addGroup(commands.entries[i] as MenuGroup);
+        }
     }
 }

@@ -35,6 +35,7 @@ Rectangle {
 
     LazyItem {
         x: 2
+        width: top.width - 4
         anchors.verticalCenter: top.verticalCenter
         sourceComponent: root.late?.header ?? null
     }

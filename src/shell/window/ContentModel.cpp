@@ -2,6 +2,8 @@
 
 #include "assets/FontManager.h"
 #include "platform/DesktopWords.h"
+#include "shell/help/AboutSheet.h"
+#include "shell/help/ShortcutsSheet.h"
 
 #include <QTimer>
 
@@ -15,6 +17,8 @@ ContentModel::ContentModel(const WorkspaceServices& services, QObject* parent)
       services_(services),
       library_(services.library),
       commands_(library_),
+      edit_(*this),
+      view_(library_.preferences()),
       sidebar_(services, sheets_),
       alerts_(library_, sheets_),
       selectedBrand_(library_.selection()),
@@ -75,6 +79,16 @@ void ContentModel::askNewBrand() {
       newBrandName_, [this](const QString& name) { library_.createBrand(name); }));
   connect(newBrandSheet_, &NameSheet::textChanged, this,
           [this] { newBrandName_ = newBrandSheet_->text(); });
+}
+
+void ContentModel::askNewSection() {
+  if (workspace_) workspace_->askNewSection();
+}
+
+void ContentModel::showAbout() { sheets_.show(std::make_unique<AboutSheet>()); }
+
+void ContentModel::showShortcuts(const QVariantList& ofMenus) {
+  sheets_.show(std::make_unique<ShortcutsSheet>(ofMenus));
 }
 
 void ContentModel::answerRequest() {

@@ -2,7 +2,9 @@
 
 #include "controls/sheets/NameSheet.h"
 #include "shell/alerts/Alerts.h"
+#include "shell/menus/EditCommands.h"
 #include "shell/menus/ShellCommands.h"
+#include "shell/menus/ViewChoices.h"
 #include "shell/menus/WindowUndo.h"
 #include "shell/sidebar/Sidebar.h"
 #include "workspace/BrandWorkspace.h"
@@ -15,6 +17,8 @@ class ContentModel : public QObject {
   QML_ELEMENT
   QML_UNCREATABLE("Each window has one")
   Q_PROPERTY(tarnloft::ShellCommands* commands READ commands CONSTANT)
+  Q_PROPERTY(tarnloft::EditCommands* edit READ edit CONSTANT)
+  Q_PROPERTY(tarnloft::ViewChoices* view READ view CONSTANT)
   Q_PROPERTY(tarnloft::Sidebar* sidebar READ sidebar CONSTANT)
   Q_PROPERTY(tarnloft::WindowUndo* undo READ undo CONSTANT)
   Q_PROPERTY(tarnloft::Alerts* alerts READ alerts CONSTANT)
@@ -45,6 +49,8 @@ class ContentModel : public QObject {
   Q_DISABLE_COPY_MOVE(ContentModel)
 
   ShellCommands* commands() { return &commands_; }
+  EditCommands* edit() { return &edit_; }
+  ViewChoices* view() { return &view_; }
   Sidebar* sidebar() { return &sidebar_; }
   WindowUndo* undo() { return &undo_; }
   Alerts* alerts() { return &alerts_; }
@@ -66,6 +72,11 @@ class ContentModel : public QObject {
   SheetHost* sheets() { return &sheets_; }
   // Asks for a name, beginning with what was typed at its last opening, and makes a brand.
   Q_INVOKABLE void askNewBrand();
+  // Asks for a name and adds a section to the open brand.
+  Q_INVOKABLE void askNewSection();
+  Q_INVOKABLE void showAbout();
+  // With the keys of the window's menus, as `ShortcutsSheet` takes them.
+  Q_INVOKABLE void showShortcuts(const QVariantList& ofMenus);
 
  signals:
   void detailChanged();
@@ -91,6 +102,8 @@ class ContentModel : public QObject {
   ToastCenter toasts_;
   SheetHost sheets_;
   ShellCommands commands_;
+  EditCommands edit_;
+  ViewChoices view_;
   Sidebar sidebar_;
   Alerts alerts_;
   std::optional<QString> selectedBrand_;

@@ -90,6 +90,8 @@ bool MainWindow::make() {
     return false;
   }
   content_ = std::move(content);
+  connect(content_->commands(), &ShellCommands::settingsRequested, this,
+          &MainWindow::settingsRequested);
   isShown_ = false;
   const auto shown = [this] {
     isShown_ = true;

@@ -36,6 +36,7 @@ class MainWindow : public QObject {
   void setMayClose(std::function<bool()> mayClose) { mayClose_ = std::move(mayClose); }
 
  signals:
+  void settingsRequested();
   void closed();
 
  private:

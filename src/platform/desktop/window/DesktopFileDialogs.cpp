@@ -109,6 +109,9 @@ QStringList askToolkit(const FileQuestion& question, QWindow* window) {
     case Kind::folder:
       dialog.setFileMode(QFileDialog::Directory);
       dialog.setOption(QFileDialog::ShowDirsOnly);
+      if (!question.acceptText.isEmpty()) {
+        dialog.setLabelText(QFileDialog::Accept, question.acceptText);
+      }
       break;
   }
   return askToolkit(dialog, question.folder, window);
@@ -128,7 +131,7 @@ QStringList DesktopFileDialogs::remembered(const QString& key, const QStringList
 }
 
 QStringList DesktopFileDialogs::ask(FileQuestion question, const QString& key) {
-  question.folder = folderOf(key);
+  if (question.folder.isEmpty()) question.folder = folderOf(key);
   QWindow* const window = windowInFront();
   const auto chosen = PortalFileChooser().ask(question, window);
   return remembered(key, chosen ? *chosen : askToolkit(question, window));
@@ -140,6 +143,7 @@ std::optional<QString> DesktopFileDialogs::savePath(const QString& suggestedName
                                                     const QString& mimeType) {
   FileQuestion question{FileQuestion::Kind::save,
                         QStringLiteral("Save"),
+                        {},
                         {},
                         QString(suggestedName).replace(QLatin1Char('/'), QLatin1Char('-')),
                         {mimeType}};
@@ -154,13 +158,14 @@ std::optional<QString> DesktopFileDialogs::savePath(const QString& suggestedName
 }
 
 QStringList DesktopFileDialogs::openFiles(const QStringList& mimeTypes) {
-  return ask({FileQuestion::Kind::files, QStringLiteral("Add Files"), {}, {}, mimeTypes},
+  return ask({FileQuestion::Kind::files, QStringLiteral("Add Files"), {}, {}, {}, mimeTypes},
              QStringLiteral("addDialogFolder"));
 }
 
 std::optional<QString> DesktopFileDialogs::openFile(const QStringList& mimeTypes) {
-  return onlyOne(ask({FileQuestion::Kind::file, QStringLiteral("Choose File"), {}, {}, mimeTypes},
-                     QStringLiteral("addDialogFolder")));
+  return onlyOne(
+      ask({FileQuestion::Kind::file, QStringLiteral("Choose File"), {}, {}, {}, mimeTypes},
+          QStringLiteral("addDialogFolder")));
 }
 
 std::optional<QString> DesktopFileDialogs::openFileOrFolder(const QStringList& mimeTypes,
@@ -171,9 +176,11 @@ std::optional<QString> DesktopFileDialogs::openFileOrFolder(const QStringList& m
   return onlyOne(remembered(key, askToolkit(dialog, folderOf(key), windowInFront())));
 }
 
-std::optional<QString> DesktopFileDialogs::chooseFolder() {
-  return onlyOne(ask({FileQuestion::Kind::folder, QStringLiteral("Choose a Folder"), {}, {}, {}},
-                     QStringLiteral("folderDialogFolder")));
+std::optional<QString> DesktopFileDialogs::chooseFolder(const QString& from,
+                                                        const QString& acceptText) {
+  return onlyOne(
+      ask({FileQuestion::Kind::folder, QStringLiteral("Choose a Folder"), from, acceptText, {}, {}},
+          QStringLiteral("folderDialogFolder")));
 }
 
 }  // namespace tarnloft

@@ -19,7 +19,7 @@ class DesktopFileDialogs : public FileDialogs {
   std::optional<QString> openFile(const QStringList& mimeTypes) override;
   std::optional<QString> openFileOrFolder(const QStringList& mimeTypes,
                                           const QStringList& folderExtensions) override;
-  std::optional<QString> chooseFolder() override;
+  std::optional<QString> chooseFolder(const QString& from, const QString& acceptText) override;
 
  private:
   QStringList ask(FileQuestion question, const QString& key);

@@ -83,6 +83,9 @@ QVariantMap optionsOf(const FileQuestion& question, const QString& token) {
   using Kind = FileQuestion::Kind;
   QVariantMap options{{QStringLiteral("handle_token"), token}, {QStringLiteral("modal"), true}};
   if (question.kind == Kind::files) options.insert(QStringLiteral("multiple"), true);
+  if (!question.acceptText.isEmpty()) {
+    options.insert(QStringLiteral("accept_label"), question.acceptText);
+  }
   if (question.kind == Kind::folder) options.insert(QStringLiteral("directory"), true);
   if (question.kind == Kind::save) {
     options.insert(QStringLiteral("current_name"), question.suggestedName);

@@ -18,6 +18,7 @@ struct FileQuestion {
   Kind kind = Kind::files;
   QString title;
   QString folder;         // to begin in; the dialog's own choice if empty
+  QString acceptText;     // the desktop's word if empty
   QString suggestedName;  // of a file to save
   QStringList mimeTypes;  // that the user may choose
 };

@@ -1,5 +1,7 @@
 #include "platform/desktop/window/TrayHost.h"
 
+#include "platform/desktop/window/XServer.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -9,11 +11,7 @@
 #include <QTimer>
 
 #include <chrono>
-#include <cstdlib>
-#include <memory>
-#include <string_view>
 #include <utility>
-#include <xcb/xcb.h>
 
 namespace tarnloft {
 namespace {
@@ -21,21 +19,6 @@ namespace {
 constexpr auto secondThought = std::chrono::seconds(1);
 const auto watcher = QStringLiteral("org.kde.StatusNotifierWatcher");
 const auto watcherPath = QStringLiteral("/StatusNotifierWatcher");
-
-template <class Reply>
-using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
-
-xcb_connection_t* xServer() {
-  const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  return x11 ? x11->connection() : nullptr;
-}
-
-xcb_atom_t atomOf(xcb_connection_t* server, std::string_view name) {
-  const auto cookie = xcb_intern_atom(server, false, uint16_t(name.size()), name.data());
-  const Owned<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(server, cookie, nullptr),
-                                             &std::free);
-  return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
-}
 
 }  // namespace
 
@@ -80,7 +63,7 @@ bool TrayHost::ownsSelection() const {
   xcb_connection_t* const server = selection_ ? xServer() : nullptr;
   if (!server) return false;
   const auto cookie = xcb_get_selection_owner(server, selection_);
-  const Owned<xcb_get_selection_owner_reply_t> reply(
+  const OwnedReply<xcb_get_selection_owner_reply_t> reply(
       xcb_get_selection_owner_reply(server, cookie, nullptr), &std::free);
   return reply && reply->owner != XCB_NONE;
 }

@@ -1,0 +1,40 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Controls
+import TarnLoft.Settings
+
+// The settings window. The program places it and shows it.
+Window {
+    id: root
+
+    required property SettingsModel model
+
+    title: "Settings"
+    flags: Qt.Dialog
+    width: 460
+    height: 640
+    minimumWidth: 460
+    maximumWidth: 460
+    minimumHeight: 240
+    maximumHeight: Math.max(640, view.naturalHeight)
+    color: Theme.windowBackground
+
+    SettingsView {
+        id: view
+
+        anchors.fill: parent
+        model: root.model
+        focus: true
+        Keys.onEscapePressed: root.close()
+    }
+
+    Shortcut {
+        sequence: "Ctrl+W"
+        onActivated: root.close()
+    }
+    Shortcut {
+        sequence: "Ctrl+Q"
+        onActivated: Qt.quit()
+    }
+}

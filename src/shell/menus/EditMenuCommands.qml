@@ -1,0 +1,70 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import TarnLoft.Shell
+
+MenuCommands {
+    id: root
+
+    required property ShellCommands commands
+    required property EditCommands edit
+    required property WindowUndo undo
+
+    title: "Edit"
+    onOpening: edit.refresh()
+
+    ShellCommand {
+        text: root.undo.undoText
+        keys: "Ctrl+Z"
+        enabled: root.undo.canUndo
+        onActivated: root.undo.undo()
+    }
+    ShellCommand {
+        text: root.undo.redoText
+        keys: "Ctrl+Shift+Z"
+        enabled: root.undo.canRedo
+        onActivated: root.undo.redo()
+    }
+    MenuGroup {}
+    ShellCommand {
+        text: "Cut"
+        keys: "Ctrl+X"
+        enabled: root.edit.canCut
+        keysEnabled: false
+        onActivated: root.edit.cut()
+    }
+    ShellCommand {
+        text: "Copy"
+        keys: "Ctrl+C"
+        enabled: root.edit.canCopy
+        keysEnabled: root.edit.copiesTile
+        onActivated: root.edit.copy()
+    }
+    ShellCommand {
+        text: "Paste"
+        keys: "Ctrl+V"
+        enabled: root.edit.canPaste
+        keysEnabled: false
+        onActivated: root.edit.paste()
+    }
+    ShellCommand {
+        text: "Delete"
+        keys: "Del"
+        enabled: root.edit.canDelete
+        keysEnabled: false
+        onActivated: root.edit.remove()
+    }
+    ShellCommand {
+        text: "Select All"
+        keys: "Ctrl+A"
+        enabled: root.edit.canSelectAll
+        keysEnabled: false
+        onActivated: root.edit.selectAll()
+    }
+    MenuGroup {}
+    ShellCommand {
+        text: "Settings…"
+        keys: "Ctrl+,"
+        onActivated: root.commands.openSettings()
+    }
+}
