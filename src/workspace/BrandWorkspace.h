@@ -104,6 +104,8 @@ class BrandWorkspace : public QObject {
  signals:
   void nameChanged();
   void foundChanged();
+  // The page's search field shall have the keyboard.
+  void searchRequested();
   void metricsChanged();
   // The package stands elsewhere, and so do its files.
   void placeChanged();

@@ -44,7 +44,7 @@ bool EditCommands::canPaste() const { return isText() && focused_->property("can
 
 bool EditCommands::canDelete() const {
   if (isText()) return canCut();
-  return content_.workspace() && content_.workspace()->hasSelection();
+  return content_.workspace() && content_.workspace()->selected()->count() > 0;
 }
 
 bool EditCommands::canSelectAll() const {
@@ -78,7 +78,7 @@ void EditCommands::paste() {
 
 void EditCommands::remove() {
   if (!canDelete()) return;
-  if (!isText()) return content_.workspace()->deleteSelection();
+  if (!isText()) return content_.workspace()->selected()->remove();
   // Typing would do the same; a field tells of it as of the user's own change.
   const QVariant start = focused_->property("selectionStart");
   const QVariant end = focused_->property("selectionEnd");
@@ -87,7 +87,7 @@ void EditCommands::remove() {
 
 void EditCommands::selectAll() {
   if (!canSelectAll()) return;
-  isText() ? tellText("selectAll") : content_.workspace()->selectAll();
+  isText() ? tellText("selectAll") : content_.workspace()->selected()->selectAll();
 }
 
 }  // namespace tarnloft

@@ -6,9 +6,9 @@ import TarnLoft.Shell
 MenuCommands {
     id: root
 
-    required property ShellCommands commands
-    required property EditCommands edit
-    required property WindowUndo undo
+    required property ContentModel content
+    readonly property EditCommands edit: content.edit
+    readonly property WindowUndo undo: content.undo
 
     title: "Edit"
     onOpening: edit.refresh()
@@ -63,8 +63,16 @@ MenuCommands {
     }
     MenuGroup {}
     ShellCommand {
+        text: "Find"
+        keys: "Ctrl+F"
+        enabled: root.content.detail === ContentModel.Detail.Brand
+        keysEnabled: false
+        onActivated: root.content.find()
+    }
+    MenuGroup {}
+    ShellCommand {
         text: "Settings…"
         keys: "Ctrl+,"
-        onActivated: root.commands.openSettings()
+        onActivated: root.content.commands.openSettings()
     }
 }

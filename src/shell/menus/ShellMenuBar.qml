@@ -68,14 +68,12 @@ MenuBar {
     EditMenuCommands {
         id: edit
 
-        commands: root.content.commands
-        edit: root.content.edit
-        undo: root.content.undo
+        content: root.content
     }
     ViewCommands {
         id: view
 
-        view: root.content.view
+        content: root.content
     }
     InsertCommands {
         id: insert

@@ -6,7 +6,8 @@ import TarnLoft.Shell
 MenuCommands {
     id: root
 
-    required property ViewChoices view
+    required property ContentModel content
+    readonly property ViewChoices view: content.view
 
     component Mode: ShellCommand {
         required property int mode
@@ -46,4 +47,10 @@ MenuCommands {
     Look { text: "System"; look: 0 }
     Look { text: "Light"; look: 1 }
     Look { text: "Dark"; look: 2 }
+    MenuGroup {}
+    ShellCommand {
+        text: "Version History…"
+        enabled: root.content.detail === ContentModel.Detail.Brand
+        onActivated: root.content.showVersions()
+    }
 }

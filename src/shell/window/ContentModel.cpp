@@ -81,6 +81,14 @@ void ContentModel::askNewBrand() {
           [this] { newBrandName_ = newBrandSheet_->text(); });
 }
 
+void ContentModel::find() {
+  if (workspace_) emit workspace_->searchRequested();
+}
+
+void ContentModel::showVersions() {
+  if (workspace_) workspace_->showVersions();
+}
+
 void ContentModel::askNewSection() {
   if (workspace_) workspace_->askNewSection();
 }

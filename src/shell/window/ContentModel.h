@@ -74,6 +74,9 @@ class ContentModel : public QObject {
   Q_INVOKABLE void askNewBrand();
   // Asks for a name and adds a section to the open brand.
   Q_INVOKABLE void askNewSection();
+  // The search of the open brand's page gets the keyboard.
+  Q_INVOKABLE void find();
+  Q_INVOKABLE void showVersions();
   Q_INVOKABLE void showAbout();
   // With the keys of the window's menus, as `ShortcutsSheet` takes them.
   Q_INVOKABLE void showShortcuts(const QVariantList& ofMenus);

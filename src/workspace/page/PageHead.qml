@@ -33,6 +33,14 @@ FocusScope {
 
     implicitHeight: Math.max(titleBottom, scopesBottom) + 10 + selection.height
 
+    Connections {
+        target: root.workspace
+
+        function onSearchRequested() {
+            root.focusSearch();
+        }
+    }
+
     // A turn later, as the focus may be on its way from the field to the scopes.
     Timer {
         id: followSearch
