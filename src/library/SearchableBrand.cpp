@@ -106,8 +106,8 @@ Result<SearchableBrand> SearchableBrand::read(const QByteArray& json) {
   });
 }
 
-void SearchableBrand::appendHits(const QString& packageURL, const std::string& foldedQuery,
-                                 QList<SearchHit>& hits) const {
+template <class Found>
+void SearchableBrand::walk(const std::string& foldedQuery, Found found) const {
   const std::string_view text = folded_;
   const auto find = [&](size_t from) -> std::optional<size_t> {
     const void* place =
@@ -121,9 +121,20 @@ void SearchableBrand::appendHits(const QString& packageURL, const std::string& f
     entry = std::upper_bound(entry, entries_.end(), *place, [](size_t at, const Entry& candidate) {
       return at < candidate.tokensAt;
     });
-    hits << hit(*std::prev(entry), packageURL);
+    found(*std::prev(entry));
     if (entry == entries_.end()) break;
   }
+}
+
+void SearchableBrand::appendHits(const QString& packageURL, const std::string& foldedQuery,
+                                 QList<SearchHit>& hits) const {
+  walk(foldedQuery, [&](const Entry& entry) { hits << hit(entry, packageURL); });
+}
+
+std::vector<bool> SearchableBrand::matches(const std::string& foldedQuery) const {
+  std::vector<bool> result(entries_.size());
+  walk(foldedQuery, [&](const Entry& entry) { result[size_t(&entry - entries_.data())] = true; });
+  return result;
 }
 
 SearchHit SearchableBrand::hit(const Entry& entry, const QString& packageURL) const {

@@ -23,6 +23,10 @@ class SearchableBrand {
   void appendHits(const QString& packageURL, const std::string& foldedQuery,
                   QList<SearchHit>& hits) const;
 
+  // Whether each entry contains the query, which is as above: each section in stored order, and
+  // behind it each of its items.
+  std::vector<bool> matches(const std::string& foldedQuery) const;
+
   // Bytes held, without the allocator's own.
   qsizetype memory() const;
 
@@ -43,6 +47,9 @@ class SearchableBrand {
 
   SearchableBrand() = default;
 
+  // Calls `found` for each entry that contains the query.
+  template <class Found>
+  void walk(const std::string& foldedQuery, Found found) const;
   SearchHit hit(const Entry& entry, const QString& packageURL) const;
   QString title(const Entry& entry) const;
 
