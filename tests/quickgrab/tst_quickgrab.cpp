@@ -1,4 +1,4 @@
-#include "TestPanel.h"
+#include "quickgrab/TestPanel.h"
 #include "testing/Cases.h"
 
 #include <QAbstractItemModelTester>
@@ -29,10 +29,14 @@ class TestQuickGrab : public QObject {
     Cases<QString, QString, State, QStringList>{
         {"as at first", "cl", "", State::List,
          QStringList{"# Kit 4", "## Colors 2", "color Sky", "color Sea", "## Logos & Images 2",
-                     "media Image", "media Mark"} + bare},
+                     "media Image", "media Mark"} +
+             bare},
         {"one kind alone has no title", "c", "", State::List,
          QStringList{"# Kit 2", "color Sky", "color Sea"} + bare},
-        {"the rest", "tgs", "", State::List,
+        {"the rest",
+         "tgs",
+         "",
+         State::List,
          {"# Kit 3", "## Type 1", "font Inter", "## Gradients 1", "gradient Gradient", "## Code 1",
           "code css"}},
         {"search by any text", "cltgs", " BOLD\n", State::List, {"# Kit 1", "font Inter"}},
@@ -40,13 +44,14 @@ class TestQuickGrab : public QObject {
          QStringList{"# Kit 2", "color Sky", "color Sea"} + bare},
         {"a header is no match", "cl", "Header", State::NoMatches, {}},
         {"no kinds, whatever the search", "", "sky", State::NoTypes, {}},
-    }.check([&](const QString& kinds, const QString& search, State state,
-                const QStringList& shown) {
-      setKinds(kinds);
-      panel.grab->setSearch(search);
-      QCOMPARE(panel.grab->state(), state);
-      QCOMPARE(panel.shown(), shown);
-    });
+    }
+        .check([&](const QString& kinds, const QString& search, State state,
+                   const QStringList& shown) {
+          setKinds(kinds);
+          panel.grab->setSearch(search);
+          QCOMPARE(panel.grab->state(), state);
+          QCOMPARE(panel.shown(), shown);
+        });
     setKinds("cl");
     panel.grab->setSearch("");
     panel.grab->chooseBrand(panel.library.packagePath("Empty"));
@@ -70,11 +75,12 @@ class TestQuickGrab : public QObject {
         {"Inter", "Inter", "Copied Inter"},
         {"Gradient", "linear-gradient(90deg, #000000 0%, #FFFFFF 100%)", "Copied CSS gradient"},
         {"css", "a {\n}", "Copied snippet"},
-    }.check([&](const char* name, const QString& text, const QString& told) {
-      panel.grab->copy(panel.place(name));
-      QCOMPARE(panel.pasteboard.texts.takeLast(), text);
-      QCOMPARE(panel.grab->flashText(), told);
-    });
+    }
+        .check([&](const char* name, const QString& text, const QString& told) {
+          panel.grab->copy(panel.place(name));
+          QCOMPARE(panel.pasteboard.texts.takeLast(), text);
+          QCOMPARE(panel.grab->flashText(), told);
+        });
     panel.grab->copy(panel.place("Mark"));
     QVERIFY(panel.pasteboard.texts.isEmpty());
     panel.grab->copyColor(2);

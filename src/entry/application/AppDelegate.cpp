@@ -9,13 +9,11 @@ namespace tarnloft {
 using namespace std::chrono_literals;
 
 AppDelegate::AppDelegate(Preferences& preferences, const MenuBarPrefs& prefs,
-                         StatusItem& statusItem, std::function<void()> openMainWindow,
-                         std::function<void()> quit)
+                         const StatusItem& statusItem, Actions actions)
     : preferences_(preferences),
       prefs_(prefs),
       statusItem_(statusItem),
-      openMainWindow_(std::move(openMainWindow)),
-      quit_(std::move(quit)) {
+      actions_(std::move(actions)) {
   trayCheck_.setInterval(3s);
   connect(&trayCheck_, &QTimer::timeout, this, &AppDelegate::checkTray);
 }
@@ -26,14 +24,15 @@ void AppDelegate::applicationDidFinishLaunching() {
 
 void AppDelegate::installMenuBar() {
   if (menuBar_) return;
-  menuBar_ = std::make_unique<MenuBarController>(
-      statusItem_, [this] { showMainWindow(); }, quit_);
+  menuBar_ = actions_.makeMenuBar([this] { showMainWindow(); });
   menuBar_->installStatusItem();
+  menuBar_->installHotKey();
+  menuBar_->observePrefs();
 }
 
 void AppDelegate::showMainWindow() {
   trayCheck_.stop();
-  if (!mainWindow_) return openMainWindow_();
+  if (!mainWindow_) return actions_.openMainWindow();
   if (mainWindow_->windowStates() & Qt::WindowMinimized) mainWindow_->showNormal();
   mainWindow_->show();
   mainWindow_->raise();
@@ -45,7 +44,7 @@ bool AppDelegate::applicationShouldTerminateAfterLastWindowClosed() const {
 }
 
 void AppDelegate::lastWindowClosed() {
-  if (applicationShouldTerminateAfterLastWindowClosed()) return quit_();
+  if (applicationShouldTerminateAfterLastWindowClosed()) return actions_.quit();
   missed_ = 0;
   trayCheck_.start();
 }

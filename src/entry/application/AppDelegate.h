@@ -16,10 +16,16 @@ namespace tarnloft {
 // when the last window closes. Main thread.
 class AppDelegate : public QObject {
  public:
-  // Borrowed: all outlive this. `openMainWindow` opens a new main window, and `quit` ends the
-  // program.
-  AppDelegate(Preferences& preferences, const MenuBarPrefs& prefs, StatusItem& statusItem,
-              std::function<void()> openMainWindow, std::function<void()> quit);
+  struct Actions {
+    std::function<void()> openMainWindow;  // a new one
+    std::function<void()> quit;
+    // Makes the presence beside the windows, with a way back to the main one.
+    std::function<std::unique_ptr<MenuBarController>(std::function<void()> onOpenApp)> makeMenuBar;
+  };
+
+  // Borrowed: all outlive this.
+  AppDelegate(Preferences& preferences, const MenuBarPrefs& prefs, const StatusItem& statusItem,
+              Actions actions);
 
   // The open main window, or null.
   void setMainWindow(QWindow* window) { mainWindow_ = window; }
@@ -27,8 +33,10 @@ class AppDelegate : public QObject {
   // Sizes the window of a first run a moment later.
   void applicationDidFinishLaunching();
 
-  // Puts the icon into the tray. At most once, however often it is called.
+  // Puts the icon into the tray and registers the key. At most once, however often it is called.
   void installMenuBar();
+  // Null before that.
+  MenuBarController* menuBar() const { return menuBar_.get(); }
 
   // Brings the main window to the front, or opens it.
   void showMainWindow();
@@ -47,9 +55,8 @@ class AppDelegate : public QObject {
 
   Preferences& preferences_;
   const MenuBarPrefs& prefs_;
-  StatusItem& statusItem_;
-  const std::function<void()> openMainWindow_;
-  const std::function<void()> quit_;
+  const StatusItem& statusItem_;
+  const Actions actions_;
   std::unique_ptr<MenuBarController> menuBar_;
   QPointer<QWindow> mainWindow_;
   QTimer trayCheck_;  // runs while no window is open

@@ -7,6 +7,7 @@
 #include "platform/desktop/files/DiskThread.h"
 #include "platform/desktop/files/PosixFileStore.h"
 #include "platform/desktop/fonts/FreeTypeFonts.h"
+#include "platform/desktop/hotkey/DesktopHotKey.h"
 #include "platform/desktop/system/IniPreferences.h"
 #include "platform/desktop/system/MimeContentTypes.h"
 #include "platform/desktop/system/Syslog.h"
@@ -17,6 +18,7 @@
 #include "platform/desktop/window/DesktopMotion.h"
 #include "platform/desktop/window/DesktopPasteboard.h"
 #include "platform/desktop/window/DesktopStatusItem.h"
+#include "quickgrab/panel/QuickGrab.h"
 #include "workspace/WorkspaceServices.h"
 
 #include <QThreadPool>
@@ -40,6 +42,7 @@ struct DesktopServices {
   DesktopMotion motion;
   DesktopPasteboard pasteboard;
   DesktopStatusItem statusItem;
+  const std::unique_ptr<GlobalHotKey> hotKey = makeDesktopHotKey(log);
   MimeContentTypes types;
   FreeTypeFonts fonts;
   QtDragSession dragSession;
@@ -55,6 +58,7 @@ struct DesktopServices {
 
   LibraryServices forLibrary();
   WorkspaceServices forWorkspace(LibraryStore& library);
+  QuickGrabServices forQuickGrab(LibraryStore& library, MenuBarPrefs& prefs);
 
   // For the end: forgets work that hasn't begun, and waits for threads that use any of this, at
   // most so long. False if some still do.

@@ -3,10 +3,13 @@
 #include "assets/DropImport.h"
 #include "controls/motion/Motion.h"
 #include "controls/symbols/SymbolFont.h"
+#include "platform/desktop/window/ScreenComposition.h"
+#include "platform/desktop/window/WindowActivation.h"
 
 #include <QGuiApplication>
 #include <QPalette>
 #include <QQuickWindow>
+#include <QTimer>
 
 #include <chrono>
 #include <cstdlib>
@@ -21,6 +24,8 @@ using namespace std::chrono_literals;
 constexpr auto landingPatience = 2s;  // with what was dropped right before the end
 constexpr auto savingPatience = 5s;   // with each piece of work on the disk, at the end
 constexpr auto threadPatience = 1s;   // with a picture that is being read, which nobody waits for
+
+constexpr auto panelPause = 1500ms;  // behind the first frame, before the panel's views load
 
 constexpr auto portalPatience =
     30ms;  // with what it tells of light and dark, before the first frame
@@ -56,15 +61,23 @@ TarnLoftApp* running = nullptr;
 
 }  // namespace
 
-TarnLoftApp::TarnLoftApp()
+TarnLoftApp::TarnLoftApp(Opening opening)
     : library_(services_.forLibrary()),
+      opening_(opening),
+      windowViews_(opening == Opening::window
+                       ? std::optional<ViewLoading>(std::in_place, engine_, MainWindow::url())
+                       : std::nullopt),
       theme_(Theme::of(engine_)),
       tint_(library_, theme_),
       menuBarPrefs_(services_.preferences, services_.log),
       mainWindow_(engine_, services_.forWorkspace(library_), services_.state),
-      appDelegate_(
-          services_.preferences, menuBarPrefs_, services_.statusItem, [this] { openMainWindow(); },
-          [this] { requestQuit(); }) {
+      appDelegate_(services_.preferences, menuBarPrefs_, services_.statusItem,
+                   {.openMainWindow = [this] { openMainWindow(); },
+                    .quit = [this] { requestQuit(); },
+                    .makeMenuBar =
+                        [this](std::function<void()> onOpenApp) {
+                          return makeMenuBar(std::move(onOpenApp));
+                        }}) {
   services_.tell = [this](const QString& title, const QString& message) {
     library_.tell(title, message);
   };
@@ -94,9 +107,27 @@ TarnLoftApp::TarnLoftApp()
 TarnLoftApp::~TarnLoftApp() { running = nullptr; }
 
 bool TarnLoftApp::start() {
+  if (opening_ != Opening::window) {
+    appDelegate_.installMenuBar();
+    services_.media.work.resume();
+    if (opening_ == Opening::quickGrab) showQuickGrab();
+    return true;
+  }
   if (!openMainWindow()) return false;
   appDelegate_.applicationDidFinishLaunching();
   return true;
+}
+
+void TarnLoftApp::showQuickGrab() {
+  appDelegate_.installMenuBar();
+  appDelegate_.menuBar()->showPanel();
+}
+
+void TarnLoftApp::perform(const QString& action) {
+  if (action == QLatin1String("quick-grab")) return showQuickGrab();
+  allowActivation();
+  appDelegate_.showMainWindow();
+  if (action == QLatin1String("new-brand")) library_.setNewBrandRequested(true);
 }
 
 bool TarnLoftApp::openMainWindow() {
@@ -113,6 +144,15 @@ bool TarnLoftApp::openMainWindow() {
 void TarnLoftApp::firstFrameShown() {
   appDelegate_.installMenuBar();
   services_.media.work.resume();
+  QTimer::singleShot(panelPause, this, [this] { appDelegate_.menuBar()->panel().prepare(); });
+}
+
+std::unique_ptr<MenuBarController> TarnLoftApp::makeMenuBar(std::function<void()> onOpenApp) {
+  auto panel = std::make_unique<QuickGrabPanel>(
+      engine_, services_.forQuickGrab(library_, menuBarPrefs_), isScreenComposed);
+  return std::make_unique<MenuBarController>(
+      services_.statusItem, *services_.hotKey, menuBarPrefs_, services_.beep, std::move(panel),
+      MenuBarActions{.onOpenApp = std::move(onOpenApp), .onQuit = [this] { requestQuit(); }});
 }
 
 // What the user dropped right before is theirs already.

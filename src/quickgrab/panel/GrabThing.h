@@ -11,9 +11,9 @@ namespace tarnloft {
 class GrabThing {
   Q_GADGET
   QML_VALUE_TYPE(grabThing)
-  Q_PROPERTY(int kind MEMBER kind)     // GrabKind
-  Q_PROPERTY(int place MEMBER place)   // in the layout
-  Q_PROPERTY(QRect room MEMBER room)   // in points, in the list
+  Q_PROPERTY(int kind MEMBER kind)    // GrabKind
+  Q_PROPERTY(int place MEMBER place)  // in the layout
+  Q_PROPERTY(QRect room MEMBER room)  // in points, in the list
   Q_PROPERTY(QString name MEMBER name)
   Q_PROPERTY(QString detail MEMBER detail)  // a font's weight, a snippet; what a header counts
   Q_PROPERTY(QString help MEMBER help)

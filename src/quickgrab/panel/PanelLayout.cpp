@@ -70,8 +70,7 @@ class Builder {
       if (column == 0) ++line_;
       // On whole points, which the columns share out between them.
       const int left = int(std::lround(column * (grid.columnWidth + grid.gap)));
-      const int right =
-          int(std::lround((column + 1) * (grid.columnWidth + grid.gap))) - grid.gap;
+      const int right = int(std::lround((column + 1) * (grid.columnWidth + grid.gap))) - grid.gap;
       place(kind, quint32(i), line_, {left, y_, right - left, grid.height});
     }
     y_ += grid.height;
@@ -97,9 +96,8 @@ PanelLayout::PanelLayout(const std::vector<SectionBlock>& blocks) {
 PanelLayout::Range PanelLayout::between(int top, int bottom) const {
   const auto first = std::ranges::partition_point(
       things, [&](const PlacedThing& thing) { return thing.room.bottom() < top; });
-  const auto last = std::partition_point(first, things.end(), [&](const PlacedThing& thing) {
-    return thing.room.top() < bottom;
-  });
+  const auto last = std::partition_point(
+      first, things.end(), [&](const PlacedThing& thing) { return thing.room.top() < bottom; });
   return {size_t(first - things.begin()), size_t(last - things.begin())};
 }
 

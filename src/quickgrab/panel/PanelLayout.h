@@ -8,16 +8,14 @@
 
 namespace tarnloft {
 
-// What stands in the panel's list.
-class GrabKind {
-  Q_GADGET
-  QML_ELEMENT
-  QML_UNCREATABLE("Names kinds")
+// What stands in the panel's list, for QML: `GrabKind.Color`.
+namespace GrabKind {
+Q_NAMESPACE
+QML_ELEMENT
 
- public:
-  enum Kind { BlockHeader, GroupHeader, Color, Media, Font, Gradient, Code };
-  Q_ENUM(Kind)
-};
+enum Kind { BlockHeader, GroupHeader, Color, Media, Font, Gradient, Code };
+Q_ENUM_NS(Kind)
+}  // namespace GrabKind
 
 // One thing of the list and where it stands, in points from the list's upper left.
 struct PlacedThing {

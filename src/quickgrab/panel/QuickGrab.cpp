@@ -51,9 +51,8 @@ QString beginningOf(const QString& snippet) {
 
 QuickGrab::QuickGrab(const QuickGrabServices& services)
     : services_(services), library_(services.library), prefs_(services.prefs) {
-  for (const auto signal :
-       {&LibraryStore::brandsChanged, &LibraryStore::selectionChanged,
-        &LibraryStore::openDocumentChanged, &LibraryStore::brandChanged}) {
+  for (const auto signal : {&LibraryStore::brandsChanged, &LibraryStore::selectionChanged,
+                            &LibraryStore::openDocumentChanged, &LibraryStore::brandChanged}) {
     connect(&library_, signal, this, &QuickGrab::scheduleUpdate);
   }
   connect(&prefs_, &MenuBarPrefs::assetTypesChanged, this, &QuickGrab::scheduleUpdate);
@@ -375,8 +374,8 @@ std::function<DragItem()> QuickGrab::dragWork(const MediaEntry& entry) const {
 // None if there is no file to be had, which is told where it may be there in a moment.
 std::optional<DragItem> QuickGrab::prepared(const MediaEntry& entry) {
   if (!library_.openDocument()) return std::nullopt;
-  auto item = dragPreparation_.make(packageURL_ + entry.asset.filename, dragWork(entry),
-                                    copyPatience);
+  auto item =
+      dragPreparation_.make(packageURL_ + entry.asset.filename, dragWork(entry), copyPatience);
   if (!item) flash(QStringLiteral("Still copying “%1” · Try again").arg(entry.name));
   return item && item->file ? item : std::nullopt;
 }
