@@ -23,7 +23,7 @@ Mode modeOf(const QStringList& arguments) {
   if (const auto values = valuesOf(QStringLiteral("--seed-logo"), 1, arguments)) {
     return LogoSeedingMode{values->at(0)};
   }
-  return ApplicationMode{};
+  return ApplicationMode{arguments.contains(QStringLiteral("--quick-grab"))};
 }
 
 }  // namespace tarnloft

@@ -25,6 +25,8 @@ struct LogoSeedingMode {
 };
 
 struct ApplicationMode {
+  bool isQuickGrab = false;  // it begins with the panel instead of the main window
+
   bool operator==(const ApplicationMode&) const = default;
 };
 

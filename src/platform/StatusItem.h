@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRect>
 #include <QString>
 
 #include <functional>
@@ -26,6 +27,9 @@ class StatusItem {
 
   // Whether the desktop has a tray just now. Asks it anew: a few milliseconds.
   virtual bool isInTray() const = 0;
+
+  // Where the icon is on the desktop, in points; empty where the desktop doesn't tell.
+  virtual QRect place() const = 0;
 };
 
 }  // namespace tarnloft

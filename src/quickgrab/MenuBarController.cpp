@@ -44,14 +44,50 @@ QPixmap housePixmap(int pixels) {
 
 }  // namespace
 
-MenuBarController::MenuBarController(StatusItem& statusItem, std::function<void()> onOpenApp,
-                                     std::function<void()> onQuit)
-    : statusItem_(statusItem), onOpenApp_(std::move(onOpenApp)), onQuit_(std::move(onQuit)) {}
+MenuBarController::MenuBarController(StatusItem& statusItem, GlobalHotKey& hotKey,
+                                     MenuBarPrefs& prefs, Beep& beep,
+                                     std::unique_ptr<QuickGrabPanel> panel, MenuBarActions actions)
+    : statusItem_(statusItem),
+      hotKey_(hotKey),
+      prefs_(prefs),
+      hotKeySettings_(prefs, hotKey, beep),
+      actions_(std::move(actions)),
+      panel_(std::move(panel)) {
+  QuickGrab& grab = panel_->grab();
+  grab.setHasSettings(bool(actions_.onOpenSettings));
+  connect(&grab, &QuickGrab::openAppRequested, this, [this] { leavePanelFor(actions_.onOpenApp); });
+  connect(&grab, &QuickGrab::openSettingsRequested, this,
+          [this] { leavePanelFor(actions_.onOpenSettings); });
+}
+
+void MenuBarController::leavePanelFor(const std::function<void()>& action) {
+  panel_->close();
+  if (action) action();
+}
 
 void MenuBarController::installStatusItem() {
+  std::vector<StatusItem::Command> menu{{QStringLiteral("Open Tarn Loft"), actions_.onOpenApp},
+                                        {QStringLiteral("Quick Grab"), [this] { showPanel(); }}};
+  if (actions_.onOpenSettings)
+    menu.push_back({QStringLiteral("Settings…"), actions_.onOpenSettings});
+  menu.push_back({QStringLiteral("Quit"), actions_.onQuit});
   statusItem_.install(
-      statusItemImage(), QStringLiteral("Tarn Loft"), onOpenApp_,
-      {{QStringLiteral("Open Tarn Loft"), onOpenApp_}, {QStringLiteral("Quit"), onQuit_}});
+      statusItemImage(), QStringLiteral("Tarn Loft — quick grab"),
+      [this] { panel_->toggle(QuickGrabPanel::By::click, statusItem_.place()); }, std::move(menu));
+}
+
+void MenuBarController::installHotKey() {
+  hotKey_.install([this] { panel_->toggle(QuickGrabPanel::By::key, statusItem_.place()); },
+                  [this] { emit hotKeySettings_.changed(); });
+  hotKeySettings_.updateHotKey();
+}
+
+void MenuBarController::observePrefs() {
+  connect(&prefs_, &MenuBarPrefs::hotKeyChanged, &hotKeySettings_, &HotKeySettings::updateHotKey);
+}
+
+void MenuBarController::showPanel() {
+  if (!panel_->isShown()) panel_->show(statusItem_.place());
 }
 
 QIcon MenuBarController::statusItemImage() {

@@ -55,4 +55,37 @@ FormSection {
             Switch { width: 150; text: "Code"; checked: root.menuBar.showCode; onToggled: root.menuBar.showCode = checked }
         }
     }
+
+    FormRow {
+        text: "Start at login"
+        note: root.model.loginProblem || "Tarn Loft then waits in the tray, without a window."
+
+        Switch {
+            accessibleName: "Start at login"
+            enabled: root.model.hasTray
+            checked: root.model.startsAtLogin
+            onToggled: root.model.startAtLogin(checked)
+        }
+    }
+
+    FormRow {
+        text: "Global shortcut"
+        note: (root.model.hotKey?.problem ?? "") || "Click the field, then press a key combination (with at least one modifier) to summon the grabber from any app. Esc cancels."
+
+        Row {
+            spacing: 8
+
+            HotKeyRecorder {
+                width: Math.max(130, implicitWidth)
+                height: 24
+                settings: root.model.hotKey
+            }
+
+            Button {
+                controlSize: ControlSize.Small
+                text: "Reset"
+                onClicked: root.model.resetHotKey()
+            }
+        }
+    }
 }

@@ -45,6 +45,12 @@ void SettingsModel::chooseFolder() {
   services_.library.setLibraryURL(*folder);
 }
 
+void SettingsModel::startAtLogin(bool start) {
+  const auto changed = services_.loginItem.setOn(start);
+  loginProblem_ = changed ? QString() : changed.error().message;
+  emit loginChanged();
+}
+
 void SettingsModel::setRefusal(const QString& reason) {
   slowness_.stop();
   slowness_.disconnect(this);

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "library/LibraryStore.h"
+#include "platform/LoginItem.h"
 #include "platform/StatusItem.h"
 #include "platform/Taskbar.h"
 #include "quickgrab/MenuBarPrefs.h"
+#include "quickgrab/hotkey/HotKeySettings.h"
 
 #include <QColor>
 #include <QTimer>
@@ -18,6 +20,8 @@ struct SettingsServices {
   FileViewer& viewer;
   const StatusItem& statusItem;
   const Taskbar& taskbar;
+  LoginItem& loginItem;
+  std::function<HotKeySettings*()> hotKey;  // null before the key is registered
 };
 
 // What the settings window shows and changes, each at once; changes from elsewhere show as well.
@@ -42,6 +46,11 @@ class SettingsModel : public QObject {
   Q_PROPERTY(
       QColor defaultAccent READ defaultAccent WRITE setDefaultAccent NOTIFY defaultAccentChanged)
   Q_PROPERTY(tarnloft::MenuBarPrefs* menuBar READ menuBar CONSTANT)
+  Q_PROPERTY(tarnloft::HotKeySettings* hotKey READ hotKey CONSTANT)
+  // The session starts the program, without a window.
+  Q_PROPERTY(bool startsAtLogin READ startsAtLogin NOTIFY loginChanged)
+  // Why that couldn't be changed; empty if it could.
+  Q_PROPERTY(QString loginProblem READ loginProblem NOTIFY loginChanged)
   // Whether the desktop has what the rows of the tray and of the taskbar are about.
   Q_PROPERTY(bool hasTray READ hasTray NOTIFY desktopChanged)
   Q_PROPERTY(bool canLeaveTaskbar READ canLeaveTaskbar NOTIFY desktopChanged)
@@ -65,6 +74,12 @@ class SettingsModel : public QObject {
   void setAssetDisplayMode(int mode);
 
   MenuBarPrefs* menuBar() const { return &services_.menuBar; }
+  HotKeySettings* hotKey() const { return services_.hotKey(); }
+  // Control, Option and Space again.
+  Q_INVOKABLE void resetHotKey() { services_.menuBar.setHotKey({}); }
+  bool startsAtLogin() const { return services_.loginItem.isOn(); }
+  const QString& loginProblem() const { return loginProblem_; }
+  Q_INVOKABLE void startAtLogin(bool start);
   bool hasTray() const { return hasTray_; }
   bool canLeaveTaskbar() const { return hasTray_ && canLeaveTaskbar_; }
 
@@ -82,6 +97,7 @@ class SettingsModel : public QObject {
   void appearanceModeChanged();
   void defaultAccentChanged();
   void desktopChanged();
+  void loginChanged();
 
  private:
   LibraryPreferences& preferences() const { return services_.library.preferences(); }
@@ -90,6 +106,7 @@ class SettingsModel : public QObject {
 
   const SettingsServices services_;
   QString refusal_;
+  QString loginProblem_;
   QTimer slowness_;  // of a folder that is being looked at
   bool hasTray_ = false;
   bool canLeaveTaskbar_ = false;

@@ -1,7 +1,9 @@
 #include "entry/application/AppDelegate.h"
-#include "platform/desktop/system/IniPreferences.h"
-#include "testing/TestServices.h"
+#include "platform/desktop/system/AutostartEntry.h"
+#include "quickgrab/TestPanel.h"
+#include "quickgrab/hotkey/HotKeyFormatter.h"
 
+#include <QQmlEngine>
 #include <QTest>
 
 using namespace tarnloft;
@@ -23,6 +25,7 @@ class FakeTray : public StatusItem {
   }
   bool isThere = true;
   bool isInTray() const override { return isThere; }
+  QRect place() const override { return {}; }
 };
 
 class FakeTaskbar : public Taskbar {
@@ -32,16 +35,43 @@ class FakeTaskbar : public Taskbar {
   void setWindowsShown(bool shown) override { areShown = shown; }
 };
 
+class FakeHotKey : public GlobalHotKey {
+ public:
+  QList<HotKey> asked;
+  State now = State::registered;
+  std::function<void()> changed;
+
+  void install(std::function<void()>, std::function<void()> stateChanged) override {
+    changed = std::move(stateChanged);
+  }
+  void update(quint32 code, quint32 modifiers) override { asked << HotKey{code, modifiers}; }
+  State state() const override { return now; }
+};
+
 struct Running {
-  TestServices disk;
-  IniPreferences preferences{disk.path("tarnloft.ini"), disk.log};
-  MenuBarPrefs prefs{preferences, disk.log};
+  TestPanel panel{{}};
+  QQmlEngine engine;
+  MenuBarPrefs& prefs = *panel.prefs;
   FakeTray tray;
   FakeTaskbar taskbar;
+  FakeHotKey hotKey;
   int opened = 0;
   int ended = 0;
-  AppDelegate delegate{preferences,        prefs, tray, taskbar, [this] { ++opened; },
-                       [this] { ++ended; }};
+  AppDelegate delegate{
+      panel.library.preferences,
+      prefs,
+      tray,
+      taskbar,
+      {.openMainWindow = [this] { ++opened; },
+       .quit = [this] { ++ended; },
+       .makeMenuBar =
+           [this](std::function<void()> onOpenApp) {
+             return std::make_unique<MenuBarController>(
+                 tray, hotKey, prefs, panel.library.beep,
+                 std::make_unique<QuickGrabPanel>(engine, panel.grabServices(),
+                                                  [] { return true; }),
+                 MenuBarActions{.onOpenApp = std::move(onOpenApp), .onQuit = [this] { ++ended; }});
+           }}};
 };
 
 }  // namespace
@@ -57,11 +87,11 @@ class TestAppDelegate : public QObject {
     QCOMPARE(running.tray.installed, 1);
     running.delegate.lastWindowClosed();
     QCOMPARE(running.ended, 0);
-    running.tray.clicked();
     running.tray.menu.front().run();
-    QCOMPARE(running.opened, 2);
+    QCOMPARE(running.opened, 1);
     running.prefs.setKeepRunning(false);
-    QVERIFY(!MenuBarPrefs(running.preferences, running.disk.log).keepRunning());
+    QVERIFY(!MenuBarPrefs(running.panel.library.preferences, running.panel.library.disk.log)
+                 .keepRunning());
     running.delegate.lastWindowClosed();
     running.tray.menu.back().run();
     QCOMPARE(running.ended, 2);
@@ -76,6 +106,54 @@ class TestAppDelegate : public QObject {
     running.tray.isThere = false;
     running.prefs.setShowDock(false);
     QVERIFY(running.taskbar.areShown);
+  }
+
+  // What the settings' row shows and takes, by the numbers of a keyboard of the United States.
+  void recordsAKey() {
+    Running running;
+    running.delegate.installMenuBar();
+    HotKeySettings& settings = running.delegate.menuBar()->hotKeySettings();
+    QCOMPARE(settings.shortcut(), "Ctrl+Alt+Space");
+    QVERIFY(settings.problem().isEmpty());
+    struct Press {
+      const char* name;
+      quint32 keysym, scanCode;
+      Qt::KeyboardModifiers modifiers;
+      HotKey then;
+      bool goesOn;
+    };
+    const HotKey first;
+    for (const Press& press : std::initializer_list<Press>{
+             {"no modifier", 'q', 24, Qt::KeypadModifier, first, true},
+             {"no name", 0xffe5, 0, Qt::ControlModifier, first, true},
+             {"Esc", 0xff1b, 9, Qt::MetaModifier, first, false},
+             {"a letter", 'Q', 24, Qt::ShiftModifier, {12, 0x200}, false},
+             {"by place", '!', 10, Qt::ShiftModifier | Qt::AltModifier, {18, 0xa00}, false},
+             {"another script", 0x6c6, 38, Qt::ControlModifier, {0, 0x1000}, false}}) {
+      settings.setRecording(true);
+      QCOMPARE(running.hotKey.asked.last(), (HotKey{0, 0}));
+      settings.take(press.keysym, press.scanCode, press.modifiers);
+      QVERIFY2(settings.isRecording() == press.goesOn, press.name);
+      QVERIFY2(running.prefs.hotKey() == press.then, press.name);
+      settings.setRecording(false);
+      QCOMPARE(running.hotKey.asked.last(), press.then);
+    }
+    QCOMPARE(running.panel.library.beep.count, 2);
+    QCOMPARE(HotKeyFormatter::modifierString(0x1b00) + HotKeyFormatter::keyName(65),
+             QString("⌃⌥⇧⌘Key 65"));
+    running.hotKey.now = GlobalHotKey::State::taken;
+    running.hotKey.changed();
+    QVERIFY(settings.problem().contains("another program"));
+  }
+
+  void isStartedByTheSession() {
+    TestServices disk;
+    AutostartEntry entry(disk.path("autostart"), "/opt/a \"b\"/tarnloft");
+    const QString file = disk.path("autostart/tarnloft.desktop");
+    QVERIFY(!entry.isOn() && entry.setOn(true) && entry.isOn());
+    QVERIFY(contentOf(file).contains("\"/opt/a \\\\\"b\\\\\"/tarnloft\"\n"));
+    QVERIFY(writeFile(file, contentOf(file) + "Hidden=true\n") && !entry.isOn());
+    QVERIFY(entry.setOn(false) && !QFile::exists(file) && entry.setOn(false));
   }
 
   void readsPreferencesOfAnyKind() {

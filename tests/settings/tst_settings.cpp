@@ -24,6 +24,7 @@ struct FakeTray : StatusItem {
   bool isThere = true;
   void install(const QIcon&, const QString&, std::function<void()>, std::vector<Command>) override {
   }
+  QRect place() const override { return {}; }
   bool isInTray() const override { return isThere; }
 };
 
@@ -32,12 +33,22 @@ struct FakeTaskbar : Taskbar {
   void setWindowsShown(bool) override {}
 };
 
+struct FakeLogin : LoginItem {
+  bool isThere = false;
+  bool isOn() const override { return isThere; }
+  Result<void> setOn(bool on) override {
+    isThere = on;
+    return {};
+  }
+};
+
 // The settings window over a library, used by keys, and read as assistive technology does.
 struct Settings {
   TestLibrary library;
   MenuBarPrefs menuBar{library.preferences, library.disk.log};
   FakeTray tray;
   FakeTaskbar taskbar;
+  FakeLogin login;
   QQmlEngine engine;
   std::unique_ptr<SettingsWindow> settings;
 
@@ -47,8 +58,8 @@ struct Settings {
     prepareTypography();
     library.add("Acme");
     settings = std::make_unique<SettingsWindow>(
-        engine,
-        SettingsServices{library.start(), menuBar, library.dialogs, library.viewer, tray, taskbar});
+        engine, SettingsServices{library.start(), menuBar, library.dialogs, library.viewer, tray,
+                                 taskbar, login, [] { return nullptr; }});
     settings->open(nullptr);
     QVERIFY(QTest::qWaitForWindowActive(&window()));
   }

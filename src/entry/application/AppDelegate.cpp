@@ -13,14 +13,12 @@ constexpr int missesThatCount = 2;
 }
 
 AppDelegate::AppDelegate(Preferences& preferences, const MenuBarPrefs& prefs,
-                         StatusItem& statusItem, Taskbar& taskbar,
-                         std::function<void()> openMainWindow, std::function<void()> quit)
+                         const StatusItem& statusItem, Taskbar& taskbar, Actions actions)
     : preferences_(preferences),
       prefs_(prefs),
       statusItem_(statusItem),
       taskbar_(taskbar),
-      openMainWindow_(std::move(openMainWindow)),
-      quit_(std::move(quit)) {
+      actions_(std::move(actions)) {
   trayCheck_.setInterval(3s);
   connect(&trayCheck_, &QTimer::timeout, this, &AppDelegate::checkTray);
   connect(&prefs, &MenuBarPrefs::showDockChanged, this, &AppDelegate::followShowDock);
@@ -35,15 +33,16 @@ void AppDelegate::applicationDidFinishLaunching() {
 
 void AppDelegate::installMenuBar() {
   if (menuBar_) return;
-  menuBar_ = std::make_unique<MenuBarController>(
-      statusItem_, [this] { showMainWindow(); }, quit_);
+  menuBar_ = actions_.makeMenuBar([this] { showMainWindow(); });
   menuBar_->installStatusItem();
+  menuBar_->installHotKey();
+  menuBar_->observePrefs();
 }
 
 void AppDelegate::showMainWindow() {
   isHidden_ = false;
   watchTray();
-  if (!mainWindow_) return openMainWindow_();
+  if (!mainWindow_) return actions_.openMainWindow();
   if (mainWindow_->windowStates() & Qt::WindowMinimized) mainWindow_->showNormal();
   mainWindow_->show();
   mainWindow_->raise();
@@ -55,7 +54,11 @@ bool AppDelegate::applicationShouldTerminateAfterLastWindowClosed() const {
 }
 
 void AppDelegate::lastWindowClosed() {
-  if (applicationShouldTerminateAfterLastWindowClosed()) return quit_();
+  if (applicationShouldTerminateAfterLastWindowClosed()) return actions_.quit();
+  startHidden();
+}
+
+void AppDelegate::startHidden() {
   isHidden_ = true;
   missed_ = 0;
   watchTray();

@@ -17,10 +17,16 @@ namespace tarnloft {
 // the last window closes, and whether the taskbar shows any. Main thread.
 class AppDelegate : public QObject {
  public:
-  // Borrowed: all outlive this. `openMainWindow` opens a new main window, and `quit` ends the
-  // program.
-  AppDelegate(Preferences& preferences, const MenuBarPrefs& prefs, StatusItem& statusItem,
-              Taskbar& taskbar, std::function<void()> openMainWindow, std::function<void()> quit);
+  struct Actions {
+    std::function<void()> openMainWindow;  // a new one
+    std::function<void()> quit;
+    // Makes the presence beside the windows, with a way back to the main one.
+    std::function<std::unique_ptr<MenuBarController>(std::function<void()> onOpenApp)> makeMenuBar;
+  };
+
+  // Borrowed: all outlive this.
+  AppDelegate(Preferences& preferences, const MenuBarPrefs& prefs, const StatusItem& statusItem,
+              Taskbar& taskbar, Actions actions);
 
   // The open main window, or null.
   void setMainWindow(QWindow* window) { mainWindow_ = window; }
@@ -28,8 +34,13 @@ class AppDelegate : public QObject {
   // Keeps the windows off the taskbar as wanted. Sizes the window of a first run a moment later.
   void applicationDidFinishLaunching();
 
-  // Puts the icon into the tray. At most once, however often it is called.
+  // Puts the icon into the tray and registers the key. At most once, however often it is called.
   void installMenuBar();
+  // Null before that.
+  MenuBarController* menuBar() const { return menuBar_.get(); }
+
+  // There is no window, and a tray shall lead to one for as long as that is so.
+  void startHidden();
 
   // Brings the main window to the front, or opens it.
   void showMainWindow();
@@ -50,10 +61,9 @@ class AppDelegate : public QObject {
 
   Preferences& preferences_;
   const MenuBarPrefs& prefs_;
-  StatusItem& statusItem_;
+  const StatusItem& statusItem_;
   Taskbar& taskbar_;
-  const std::function<void()> openMainWindow_;
-  const std::function<void()> quit_;
+  const Actions actions_;
   std::unique_ptr<MenuBarController> menuBar_;
   QPointer<QWindow> mainWindow_;
   bool isHidden_ = false;  // no window is open

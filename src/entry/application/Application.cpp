@@ -1,12 +1,15 @@
 #include "controls/theme/Typography.h"
 #include "entry/ApplicationModule.h"
+#include "entry/CommandLine.h"
 #include "entry/application/TarnLoftApp.h"
 #include "entry/application/UnansweredStart.h"
 #include "entry/late/LateServices.h"
 #include "entry/selftest/SelfTest.h"
 #include "platform/desktop/files/PosixFileStore.h"
 #include "platform/desktop/instance/RunningInstance.h"
+#include "platform/desktop/system/AutostartEntry.h"
 #include "platform/desktop/system/Syslog.h"
+#include "platform/desktop/window/ApplicationBus.h"
 #include "platform/desktop/window/WindowActivation.h"
 
 #include <QApplication>
@@ -39,12 +42,32 @@ bool hasDisplay() {
   return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
-int runWindows(RunningInstance& instance) {
-  TarnLoftApp app;
+// What the program begins with.
+TarnLoftApp::Opening openingOf(int argc, char** argv) {
+  QStringList arguments;
+  for (int i = 0; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
+  const Mode mode = modeOf(arguments);
+  const auto* const application = std::get_if<ApplicationMode>(&mode);
+  if (application && application->isQuickGrab) return TarnLoftApp::Opening::quickGrab;
+  const bool isHidden = qgetenv(AutostartEntry::startVariable) == AutostartEntry::hidden;
+  return isHidden ? TarnLoftApp::Opening::nothing : TarnLoftApp::Opening::window;
+}
+
+int runWindows(RunningInstance& instance, TarnLoftApp::Opening opening) {
+  TarnLoftApp app(opening);
   QObject::connect(&instance, &RunningInstance::showRequested, &app.appDelegate(), [&app] {
     allowActivation();
     app.appDelegate().applicationShouldHandleReopen();
   });
+  QObject::connect(&instance, &RunningInstance::quickGrabRequested, &app,
+                   &TarnLoftApp::showQuickGrab);
+  ApplicationBus bus;
+  QObject::connect(&bus, &ApplicationBus::activated, &app.appDelegate(), [&app] {
+    allowActivation();
+    app.appDelegate().applicationShouldHandleReopen();
+  });
+  QObject::connect(&bus, &ApplicationBus::actionActivated, &app, &TarnLoftApp::perform);
+  (void)bus.listen();  // nothing is lost without: a second start still finds this one
   if (!instance.listen()) std::fputs("Tarn Loft: a second start won't find this one\n", stderr);
   if (!app.start()) return fail("the interface can't be loaded");
   const int status = QApplication::exec();
@@ -64,8 +87,15 @@ int tarnloftSelfTest(int argc, char** argv) {
 }
 
 int tarnloftApplication(int argc, char** argv) {
+  using Opening = TarnLoftApp::Opening;
+  const Opening opening = openingOf(argc, argv);
   RunningInstance instance(RunningInstance::runtimeFolder());
-  auto start = instance.claim();
+  // A session's start has nothing to ask of a program that runs already.
+  if (opening == Opening::nothing && !instance.tryClaim()) return 0;
+  auto start = opening == Opening::nothing
+                   ? Start::first
+                   : instance.claim(opening == Opening::quickGrab ? RunningInstance::Wish::quickGrab
+                                                                  : RunningInstance::Wish::window);
   if (start == Start::shown) return 0;
   if (start == Start::noAnswer && !hasDisplay()) return fail("it runs already, but doesn't answer");
   QApplication application(argc, argv);
@@ -81,5 +111,5 @@ int tarnloftApplication(int argc, char** argv) {
   }
   // From here on, as the toolkit puts it behind each title that doesn't end with it.
   QApplication::setApplicationDisplayName(QStringLiteral("Tarn Loft"));
-  return runWindows(instance);
+  return runWindows(instance, opening);
 }

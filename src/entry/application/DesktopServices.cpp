@@ -67,6 +67,17 @@ WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
           .dragSession = dragSession};
 }
 
+QuickGrabServices DesktopServices::forQuickGrab(LibraryStore& library, MenuBarPrefs& prefs) {
+  return {.library = library,
+          .prefs = prefs,
+          .pasteboard = pasteboard,
+          .thumbnails = media.thumbnails,
+          .files = files,
+          .dragSession = dragSession,
+          .fonts = fonts,
+          .workers = workers};
+}
+
 bool DesktopServices::finish(std::chrono::milliseconds patience) {
   const QDeadlineTimer deadline(patience);
   const auto remaining = [&] { return int(deadline.remainingTime()); };

@@ -7,6 +7,8 @@
 #include "platform/desktop/files/DiskThread.h"
 #include "platform/desktop/files/PosixFileStore.h"
 #include "platform/desktop/fonts/FreeTypeFonts.h"
+#include "platform/desktop/hotkey/DesktopHotKey.h"
+#include "platform/desktop/system/AutostartEntry.h"
 #include "platform/desktop/system/IniPreferences.h"
 #include "platform/desktop/system/MimeContentTypes.h"
 #include "platform/desktop/system/Syslog.h"
@@ -18,8 +20,10 @@
 #include "platform/desktop/window/DesktopPasteboard.h"
 #include "platform/desktop/window/DesktopStatusItem.h"
 #include "platform/desktop/window/DesktopTaskbar.h"
+#include "quickgrab/panel/QuickGrab.h"
 #include "workspace/WorkspaceServices.h"
 
+#include <QCoreApplication>
 #include <QThreadPool>
 
 namespace tarnloft {
@@ -42,6 +46,8 @@ struct DesktopServices {
   DesktopPasteboard pasteboard;
   DesktopStatusItem statusItem;
   DesktopTaskbar taskbar;
+  AutostartEntry autostart{AutostartEntry::userFolder(), QCoreApplication::applicationFilePath()};
+  const std::unique_ptr<GlobalHotKey> hotKey = makeDesktopHotKey(log);
   MimeContentTypes types;
   FreeTypeFonts fonts;
   QtDragSession dragSession;
@@ -58,6 +64,7 @@ struct DesktopServices {
 
   LibraryServices forLibrary();
   WorkspaceServices forWorkspace(LibraryStore& library);
+  QuickGrabServices forQuickGrab(LibraryStore& library, MenuBarPrefs& prefs);
 
   // For the end: forgets work that hasn't begun, and waits for threads that use any of this, at
   // most so long. False if some still do.

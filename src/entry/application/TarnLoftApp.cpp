@@ -3,6 +3,8 @@
 #include "assets/DropImport.h"
 #include "controls/motion/Motion.h"
 #include "controls/symbols/SymbolFont.h"
+#include "platform/desktop/window/ScreenComposition.h"
+#include "platform/desktop/window/WindowActivation.h"
 
 #include <QGuiApplication>
 #include <QPalette>
@@ -23,6 +25,8 @@ constexpr auto viewsPatience = 1s;    // behind the first frame, with views that
 constexpr auto landingPatience = 2s;  // with what was dropped right before the end
 constexpr auto savingPatience = 5s;   // with each piece of work on the disk, at the end
 constexpr auto threadPatience = 1s;   // with a picture that is being read, which nobody waits for
+
+constexpr auto panelPause = 1500ms;  // behind the first frame, before the panel's views load
 
 constexpr auto portalPatience =
     30ms;  // with what it tells of light and dark, before the first frame
@@ -58,8 +62,12 @@ TarnLoftApp* running = nullptr;
 
 }  // namespace
 
-TarnLoftApp::TarnLoftApp()
+TarnLoftApp::TarnLoftApp(Opening opening)
     : library_(services_.forLibrary()),
+      opening_(opening),
+      windowViews_(opening == Opening::window
+                       ? std::optional<ViewLoading>(std::in_place, engine_, MainWindow::url())
+                       : std::nullopt),
       theme_(Theme::of(engine_)),
       tint_(library_, theme_),
       menuBarPrefs_(services_.preferences, services_.log),
@@ -69,10 +77,20 @@ TarnLoftApp::TarnLoftApp()
                                 .dialogs = services_.dialogs,
                                 .viewer = services_.viewer,
                                 .statusItem = services_.statusItem,
-                                .taskbar = services_.taskbar}),
-      appDelegate_(
-          services_.preferences, menuBarPrefs_, services_.statusItem, services_.taskbar,
-          [this] { openMainWindow(); }, [this] { requestQuit(); }) {
+                                .taskbar = services_.taskbar,
+                                .loginItem = services_.autostart,
+                                .hotKey =
+                                    [this] {
+                                      MenuBarController* const menuBar = appDelegate_.menuBar();
+                                      return menuBar ? &menuBar->hotKeySettings() : nullptr;
+                                    }}),
+      appDelegate_(services_.preferences, menuBarPrefs_, services_.statusItem, services_.taskbar,
+                   {.openMainWindow = [this] { openMainWindow(); },
+                    .quit = [this] { requestQuit(); },
+                    .makeMenuBar =
+                        [this](std::function<void()> onOpenApp) {
+                          return makeMenuBar(std::move(onOpenApp));
+                        }}) {
   services_.tell = [this](const QString& title, const QString& message) {
     library_.tell(title, message);
   };
@@ -104,9 +122,29 @@ TarnLoftApp::TarnLoftApp()
 TarnLoftApp::~TarnLoftApp() { running = nullptr; }
 
 bool TarnLoftApp::start() {
+  if (opening_ != Opening::window) {
+    appDelegate_.installMenuBar();
+    appDelegate_.startHidden();
+    services_.media.work.resume();
+    if (opening_ == Opening::quickGrab) showQuickGrab();
+    return true;
+  }
   if (!openMainWindow()) return false;
   appDelegate_.applicationDidFinishLaunching();
   return true;
+}
+
+void TarnLoftApp::showQuickGrab() {
+  appDelegate_.installMenuBar();
+  appDelegate_.menuBar()->showPanel();
+}
+
+void TarnLoftApp::perform(const QString& action) {
+  if (action == QLatin1String("quick-grab")) return showQuickGrab();
+  if (action == QLatin1String("preferences")) return openSettings();
+  allowActivation();
+  appDelegate_.showMainWindow();
+  if (action == QLatin1String("new-brand")) library_.setNewBrandRequested(true);
 }
 
 bool TarnLoftApp::openMainWindow() {
@@ -137,6 +175,16 @@ void TarnLoftApp::firstFrameShown() {
   appDelegate_.installMenuBar();
   services_.media.work.resume();
   QTimer::singleShot(viewsPatience, &settingsWindow_, &SettingsWindow::prepare);
+  QTimer::singleShot(panelPause, this, [this] { appDelegate_.menuBar()->panel().prepare(); });
+}
+
+std::unique_ptr<MenuBarController> TarnLoftApp::makeMenuBar(std::function<void()> onOpenApp) {
+  auto panel = std::make_unique<QuickGrabPanel>(
+      engine_, services_.forQuickGrab(library_, menuBarPrefs_), isScreenComposed);
+  return std::make_unique<MenuBarController>(
+      services_.statusItem, *services_.hotKey, menuBarPrefs_, services_.beep, std::move(panel),
+      MenuBarActions{.onOpenApp = std::move(onOpenApp), .onOpenSettings = [this] { openSettings(); },
+                     .onQuit = [this] { requestQuit(); }});
 }
 
 // What the user dropped right before is theirs already.

@@ -19,12 +19,21 @@ namespace tarnloft {
 // QApplication. Main thread.
 class TarnLoftApp : public QObject {
  public:
-  TarnLoftApp();
+  // What it begins with.
+  enum class Opening { window, quickGrab, nothing };
+
+  explicit TarnLoftApp(Opening opening = Opening::window);
   ~TarnLoftApp() override;
   Q_DISABLE_COPY_MOVE(TarnLoftApp)
 
-  // Opens the main window. False if it can't be made.
+  // Opens what it begins with. False if that can't be made.
   bool start();
+
+  // Shows the quick grab panel.
+  void showQuickGrab();
+  // Does what the desktop knows by that name: "quick-grab", "new-brand", "preferences". Any other
+  // brings the main window.
+  void perform(const QString& action);
 
   AppDelegate& appDelegate() { return appDelegate_; }
 
@@ -41,6 +50,7 @@ class TarnLoftApp : public QObject {
   void windowClosed();
   void settingsClosed();
   void firstFrameShown();
+  std::unique_ptr<MenuBarController> makeMenuBar(std::function<void()> onOpenApp);
   void followAppearance();
   void followFocus();
   bool mayCloseWindow();
@@ -52,7 +62,8 @@ class TarnLoftApp : public QObject {
   LibraryStore library_;
   DeferredEnds viewEnds_;  // of what the engine leaves
   QQmlEngine engine_;
-  ViewLoading windowViews_{engine_, MainWindow::url()};  // beside all that follows
+  const Opening opening_;
+  std::optional<ViewLoading> windowViews_;  // beside all that follows
   Theme& theme_;
   AccentTint tint_;
   MenuBarPrefs menuBarPrefs_;

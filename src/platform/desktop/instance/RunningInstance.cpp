@@ -13,6 +13,7 @@ constexpr int pause = 20;  // milliseconds between two tries
 constexpr qint64 longestRequest = 4096;
 constexpr auto activationToken = "XDG_ACTIVATION_TOKEN";
 const auto show = QByteArrayLiteral("show ");
+const auto quickGrab = QByteArrayLiteral("quick-grab ");
 
 }  // namespace
 
@@ -24,11 +25,11 @@ RunningInstance::RunningInstance(const QString& folder)
   connect(&server_, &QLocalServer::newConnection, this, &RunningInstance::answerNext);
 }
 
-RunningInstance::Start RunningInstance::claim(std::chrono::milliseconds patience) {
+RunningInstance::Start RunningInstance::claim(Wish wish, std::chrono::milliseconds patience) {
   const QDeadlineTimer deadline(patience);
   do {
     if (tryClaim()) return Start::first;
-    if (askToShow(deadline)) return Start::shown;
+    if (askToShow(wish, deadline)) return Start::shown;
     QThread::msleep(pause);  // it starts or ends just now
   } while (!deadline.hasExpired());
   return Start::noAnswer;
@@ -40,11 +41,11 @@ std::optional<qint64> RunningInstance::holder() const {
   return lock_.getLockInfo(&process, &host, &program) ? std::optional(process) : std::nullopt;
 }
 
-bool RunningInstance::askToShow(const QDeadlineTimer& deadline) const {
+bool RunningInstance::askToShow(Wish wish, const QDeadlineTimer& deadline) const {
   QLocalSocket socket;
   socket.connectToServer(socketPath_);
   if (!socket.waitForConnected(int(deadline.remainingTime()))) return false;
-  socket.write(showRequest());
+  socket.write(showRequest(wish));
   QByteArray answer;
   while (answer != shownAnswer()) {
     if (!socket.waitForReadyRead(int(deadline.remainingTime()))) return false;
@@ -53,8 +54,9 @@ bool RunningInstance::askToShow(const QDeadlineTimer& deadline) const {
   return true;
 }
 
-QByteArray RunningInstance::showRequest() {
-  return show + qgetenv(activationToken).toPercentEncoding() + '\n';
+QByteArray RunningInstance::showRequest(Wish wish) {
+  return (wish == Wish::quickGrab ? quickGrab : show) +
+         qgetenv(activationToken).toPercentEncoding() + '\n';
 }
 
 bool RunningInstance::listen() {
@@ -71,10 +73,12 @@ void RunningInstance::answerNext() {
       return;
     }
     const QByteArray request = socket->readLine(longestRequest);
-    if (!request.startsWith(show)) return socket->abort();
-    const auto token = QByteArray::fromPercentEncoding(request.sliced(show.size()).trimmed());
+    const bool isQuickGrab = request.startsWith(quickGrab);
+    if (!isQuickGrab && !request.startsWith(show)) return socket->abort();
+    const auto token =
+        QByteArray::fromPercentEncoding(request.sliced(request.indexOf(' ') + 1).trimmed());
     if (!token.isEmpty()) qputenv(activationToken, token);
-    emit showRequested();
+    isQuickGrab ? emit quickGrabRequested() : emit showRequested();
     qunsetenv(activationToken);
     socket->write(shownAnswer());
   });

@@ -11,7 +11,7 @@
 namespace tarnloft {
 
 // The user's one running program. The first start holds a lock for as long as it lives, which a
-// crash gives back; each later start asks it to show its window. Main thread.
+// crash gives back; each later start asks it to come forward. Main thread.
 class RunningInstance : public QObject {
   Q_OBJECT
 
@@ -22,12 +22,16 @@ class RunningInstance : public QObject {
     noAnswer  // another one runs and doesn't answer
   };
 
+  // What a later start wants of the running one.
+  enum class Wish { window, quickGrab };
+
   // Lock and socket stand in the folder, which belongs to the user alone.
   explicit RunningInstance(const QString& folder);
 
   // Decides which this process is. Waits for another one that is just starting or ending, at most
   // that long. Needs no application object.
-  Start claim(std::chrono::milliseconds patience = std::chrono::seconds(3));
+  Start claim(Wish wish = Wish::window,
+              std::chrono::milliseconds patience = std::chrono::seconds(3));
 
   // The same without waiting and without asking: true if this process is the first from now on.
   bool tryClaim() { return lock_.tryLock(0); }
@@ -40,7 +44,7 @@ class RunningInstance : public QObject {
   // How a later start asks, and what it is told when the window is shown. The request holds the
   // token by which the launcher lets this process raise a window on Wayland, if there is one.
   const QString& socketPath() const { return socketPath_; }
-  static QByteArray showRequest();
+  static QByteArray showRequest(Wish wish = Wish::window);
   static QByteArray shownAnswer() { return QByteArrayLiteral("shown\n"); }
 
   // The user's folder for files that live as long as the session.
@@ -50,9 +54,11 @@ class RunningInstance : public QObject {
   // Another start asks for the window. Meanwhile its token is the one that the toolkit raises
   // windows with.
   void showRequested();
+  // The same for the quick grab panel.
+  void quickGrabRequested();
 
  private:
-  bool askToShow(const QDeadlineTimer& deadline) const;
+  bool askToShow(Wish wish, const QDeadlineTimer& deadline) const;
   void answerNext();
 
   const QString socketPath_;

@@ -18,6 +18,7 @@ class DesktopStatusItem : public StatusItem {
   void install(const QIcon& icon, const QString& toolTip, std::function<void()> clicked,
                std::vector<Command> menu) override;
   bool isInTray() const override;
+  QRect place() const override { return icon_ ? icon_->geometry() : QRect(); }
 
  private:
   void showInTray();

@@ -1,0 +1,417 @@
+#include "quickgrab/panel/QuickGrab.h"
+
+#include "assets/FontManager.h"
+#include "controls/dragging/Carrying.h"
+#include "pictures/HexColor.h"
+#include "publish/ColorUtil.h"
+
+#include <QPointer>
+#include <QUrl>
+
+#include <chrono>
+#include <utility>
+
+namespace tarnloft {
+namespace {
+
+using namespace std::chrono_literals;
+using Kind = GrabKind::Kind;
+
+constexpr auto flashTime = 1300ms;
+constexpr auto copyPatience = 1s;  // with a file's copy for a drag
+constexpr int beyondSight = 60;    // points above and below that are made ahead
+
+QString groupTitle(Kind kind) {
+  switch (kind) {
+    case Kind::Color: return QStringLiteral("Colors");
+    case Kind::Media: return QStringLiteral("Logos & Images");
+    case Kind::Font: return QStringLiteral("Type");
+    case Kind::Gradient: return QStringLiteral("Gradients");
+    default: return QStringLiteral("Code");
+  }
+}
+
+size_t countOf(const SectionBlock& block, Kind kind) {
+  switch (kind) {
+    case Kind::Color: return block.colors.size();
+    case Kind::Media: return block.media.size();
+    case Kind::Font: return block.fonts.size();
+    case Kind::Gradient: return block.gradients.size();
+    default: return block.codes.size();
+  }
+}
+
+// A row shows one line of it.
+QString beginningOf(const QString& snippet) {
+  constexpr qsizetype most = 120;
+  return snippet.left(most).simplified();
+}
+
+}  // namespace
+
+QuickGrab::QuickGrab(const QuickGrabServices& services)
+    : services_(services), library_(services.library), prefs_(services.prefs) {
+  for (const auto signal : {&LibraryStore::brandsChanged, &LibraryStore::selectionChanged,
+                            &LibraryStore::openDocumentChanged, &LibraryStore::brandChanged}) {
+    connect(&library_, signal, this, &QuickGrab::scheduleUpdate);
+  }
+  connect(&prefs_, &MenuBarPrefs::assetTypesChanged, this, &QuickGrab::scheduleUpdate);
+  connect(&library_.preferences(), &LibraryPreferences::colorCopyFormatChanged, this,
+          &QuickGrab::scheduleUpdate);
+  flashEnd_.setSingleShot(true);
+  flashEnd_.setInterval(flashTime);
+  connect(&flashEnd_, &QTimer::timeout, this, [this] { flash(QString()); });
+}
+
+void QuickGrab::setActive(bool isActive) {
+  if (isActive_ == isActive) return;
+  isActive_ = isActive;
+  if (!isActive) {
+    flash(QString());
+    setCurrentPlace(-1);
+  } else if (isStale_) {
+    update();
+  } else {
+    placeCurrent();
+  }
+}
+
+void QuickGrab::setHasSettings(bool has) {
+  if (std::exchange(hasSettings_, has) != has) emit hasSettingsChanged();
+}
+
+void QuickGrab::setSearch(const QString& text) {
+  if (search_ == text) return;
+  search_ = text;
+  setCurrentPlace(-1);
+  sightTop_ = 0;
+  emit searchChanged();
+  isStale_ ? update() : filter();
+  emit rewound();
+}
+
+// Several changes may come in one turn of the event loop.
+void QuickGrab::scheduleUpdate() {
+  isStale_ = true;
+  if (!isActive_ || std::exchange(isUpdateDue_, true)) return;
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        isUpdateDue_ = false;
+        if (isStale_ && isActive_) update();
+      },
+      Qt::QueuedConnection);
+}
+
+GrabbedKinds QuickGrab::kinds() const {
+  return {prefs_.showColors(), prefs_.showLogos(), prefs_.showType(), prefs_.showGradients(),
+          prefs_.showCode()};
+}
+
+void QuickGrab::update() {
+  isStale_ = false;
+  const BrandDocument* const open = library_.openDocument();
+  const QString package = open ? open->packageURL() : QString();
+  const bool isOther = std::exchange(packageURL_, package) != package;
+  if (isOther) sightTop_ = 0;
+  sections_ = open ? open->brand().sections : QList<Section>();
+  brandSearch_.follow(sections_);
+  registerFonts();
+  filter();
+  emit brandChanged();
+  if (isOther) emit rewound();
+}
+
+void QuickGrab::filter() {
+  const QString query = search_.trimmed();
+  blocks_ = query.isEmpty() ? sectionBlocks(sections_, kinds())
+                            : sectionBlocks(sections_, kinds(), brandSearch_.matches(query));
+  layout_ = PanelLayout(blocks_);
+  placeCurrent();
+  showList();
+  emit changed();
+}
+
+// A font draws by its family from its registration on; it costs, so only where fonts are shown.
+void QuickGrab::registerFonts() {
+  const BrandDocument* const open = library_.openDocument();
+  if (!open || !prefs_.showType() || std::exchange(fontsOf_, packageURL_) == packageURL_) return;
+  services_.workers.start(
+      [brand = open->brand(), package = open->files(), &fonts = services_.fonts] {
+        FontManager::registerAll(brand, package, fonts);
+      });
+}
+
+void QuickGrab::setSight(int top, int height) {
+  sightTop_ = top;
+  sightHeight_ = height;
+  showList();
+}
+
+void QuickGrab::showList() {
+  const auto [first, last] =
+      layout_.between(sightTop_ - beyondSight, sightTop_ + sightHeight_ + beyondSight);
+  QList<GrabThing> things;
+  things.reserve(qsizetype(last - first));
+  for (size_t place = first; place < last; ++place) things << thingAt(place);
+  list_.show(things);
+}
+
+QUuid QuickGrab::idOf(const PlacedThing& thing) const {
+  const SectionBlock& block = blocks_[thing.block];
+  const size_t i = thing.index;
+  switch (thing.kind) {
+    case Kind::Color: return block.colors[i].id;
+    case Kind::Media: return block.media[i].id;
+    case Kind::Font: return block.fonts[i].id;
+    case Kind::Gradient: return block.gradients[i].id;
+    case Kind::Code: return block.codes[i].id;
+    default: break;
+  }
+  // A section's may be an item's as well.
+  QUuid id = block.id;
+  id.data1 ^= 0x5a17u + (thing.kind == Kind::GroupHeader ? 1 + thing.index : 0);
+  return id;
+}
+
+GrabThing QuickGrab::thingAt(size_t place) const {
+  const PlacedThing& at = layout_.things[place];
+  const SectionBlock& block = blocks_[at.block];
+  GrabThing thing;
+  thing.id = idOf(at);
+  thing.kind = at.kind;
+  thing.place = int(place);
+  thing.room = at.room;
+  switch (at.kind) {
+    case Kind::BlockHeader:
+      thing.name = block.name.isEmpty() ? QStringLiteral("Untitled Section") : block.name;
+      thing.detail = QString::number(block.count());
+      break;
+    case Kind::GroupHeader:
+      thing.name = groupTitle(Kind(at.index));
+      thing.detail = QString::number(countOf(block, Kind(at.index)));
+      break;
+    case Kind::Color: {
+      const ColorEntry& entry = block.colors[at.index];
+      thing.name = entry.name.value_or(entry.hex.toUpper());
+      thing.help = QStringLiteral("Click to copy ") + thing.name;
+      thing.detail = ColorUtil::formatted(entry.hex, library_.preferences().colorCopyFormat());
+      thing.color = shownColor(entry.hex);
+      break;
+    }
+    case Kind::Media: {
+      const MediaEntry& entry = block.media[at.index];
+      const BrandDocument* const open = library_.openDocument();
+      thing.name = entry.name;
+      thing.help = QStringLiteral("Drag out to use %1 as a file").arg(entry.name);
+      if (open) thing.source = open->files().assetPath(entry.asset).value_or(QString());
+      break;
+    }
+    case Kind::Font: {
+      const FontEntry& entry = block.fonts[at.index];
+      thing.name = entry.name;
+      thing.detail = entry.weight.value_or(QString());
+      thing.source = entry.family;
+      thing.help = QStringLiteral("Click to copy the font name");
+      break;
+    }
+    case Kind::Gradient: {
+      const GradientEntry& entry = block.gradients[at.index];
+      thing.name = entry.name;
+      thing.gradient.value = entry.value;
+      thing.help = QStringLiteral("Click to copy the CSS gradient");
+      break;
+    }
+    case Kind::Code: {
+      const CodeEntry& entry = block.codes[at.index];
+      thing.name = entry.name;
+      thing.detail = beginningOf(entry.snippet);
+      thing.help = QStringLiteral("Click to copy the snippet");
+      break;
+    }
+  }
+  return thing;
+}
+
+QuickGrab::State QuickGrab::state() const {
+  if (sections_.isEmpty()) return State::NoBrand;
+  if (!prefs_.hasAnyAssetTypeEnabled()) return State::NoTypes;
+  if (!blocks_.empty()) return State::List;
+  return search_.isEmpty() ? State::Nothing : State::NoMatches;
+}
+
+QString QuickGrab::brandName() const {
+  const BrandDocument* const open = library_.openDocument();
+  return open ? open->brand().name : QString();
+}
+
+EmblemLook QuickGrab::emblem() const {
+  const BrandDocument* const open = library_.openDocument();
+  const QString symbol = QStringLiteral("square.grid.2x2");
+  if (!open) return emblemLook(std::nullopt, {symbol, {}, {}, std::nullopt});
+  const Brand& brand = open->brand();
+  const auto accent = brand.accentHex ? std::optional(shownColor(*brand.accentHex)) : std::nullopt;
+  return emblemLook(brand.emblem, {symbol, open->packageURL(), brand.name, accent});
+}
+
+QVariantList QuickGrab::brands() const {
+  QVariantList choices;
+  for (const BrandSummary& brand : library_.brands()) {
+    const bool isSelected = library_.selection() == brand.packageURL;
+    choices << QVariant::fromValue(BrandChoice{brand.name, brand.packageURL, isSelected});
+  }
+  return choices;
+}
+
+void QuickGrab::chooseBrand(const QString& packageURL) {
+  if (library_.selection() != packageURL) library_.select(packageURL);
+}
+
+QRect QuickGrab::currentRoom() const {
+  return current_ < 0 ? QRect() : layout_.things[size_t(current_)].room;
+}
+
+// Where the current entry stands by now; while there is a search, the first one in its place.
+void QuickGrab::placeCurrent() {
+  std::optional<size_t> place;
+  if (!currentID_.isNull()) {
+    for (size_t i = 0; i < layout_.things.size() && !place; ++i) {
+      if (layout_.things[i].isEntry() && idOf(layout_.things[i]) == currentID_) place = i;
+    }
+  }
+  if (!place && !search_.trimmed().isEmpty()) place = layout_.first();
+  setCurrentPlace(place ? int(*place) : -1);
+}
+
+void QuickGrab::setCurrentPlace(int place) {
+  current_ = place;
+  currentID_ = place < 0 ? QUuid() : idOf(layout_.things[size_t(place)]);
+  emit currentChanged();
+}
+
+void QuickGrab::setCurrent(int place) {
+  const bool isEntry = place >= 0 && size_t(place) < layout_.things.size() &&
+                       layout_.things[size_t(place)].isEntry();
+  setCurrentPlace(isEntry ? place : -1);
+}
+
+bool QuickGrab::move(Step step) {
+  PanelLayout::Place place;
+  if (current_ < 0 || step == Step::First) {
+    place = layout_.first();
+  } else {
+    const auto from = size_t(current_);
+    switch (step) {
+      case Step::Left: place = layout_.beside(from, -1); break;
+      case Step::Right: place = layout_.beside(from, 1); break;
+      case Step::Up: place = layout_.above(from); break;
+      case Step::Down: place = layout_.below(from); break;
+      case Step::PageUp:
+      case Step::PageDown: {
+        const int far = layout_.things[from].room.top();
+        for (PanelLayout::Place at = from; at;) {
+          place = at;
+          if (std::abs(layout_.things[*at].room.top() - far) >= sightHeight_ * 3 / 4) break;
+          at = step == Step::PageUp ? layout_.above(*at) : layout_.below(*at);
+        }
+        break;
+      }
+      default: place = layout_.last();
+    }
+  }
+  if (!place) return false;
+  setCurrentPlace(int(*place));
+  return true;
+}
+
+void QuickGrab::copy(int place) {
+  if (place < 0 || size_t(place) >= layout_.things.size()) return;
+  const PlacedThing& at = layout_.things[size_t(place)];
+  const SectionBlock& block = blocks_[at.block];
+  switch (at.kind) {
+    case Kind::Color: {
+      const QString text = ColorUtil::formatted(block.colors[at.index].hex,
+                                                library_.preferences().colorCopyFormat());
+      return copyText(text, text);
+    }
+    case Kind::Font: {
+      const QString& family = block.fonts[at.index].family;
+      return copyText(family, family);
+    }
+    case Kind::Gradient: {
+      const GradientValue& value = block.gradients[at.index].value;
+      if (!value.hasCss()) return flash(QStringLiteral("This gradient can’t be written as CSS"));
+      return copyText(value.cssString(), QStringLiteral("CSS gradient"));
+    }
+    case Kind::Code: return copyText(block.codes[at.index].snippet, QStringLiteral("snippet"));
+    default: return;
+  }
+}
+
+void QuickGrab::copyText(const QString& text, const QString& told) {
+  services_.pasteboard.setText(text);
+  flash(QStringLiteral("Copied ") + told);
+}
+
+void QuickGrab::copyColor(int number) {
+  int count = 0;
+  for (size_t place = 0; place < layout_.things.size(); ++place) {
+    if (layout_.things[place].kind == Kind::Color && ++count == number) return copy(int(place));
+  }
+}
+
+const MediaEntry* QuickGrab::mediaAt(int place) const {
+  if (place < 0 || size_t(place) >= layout_.things.size()) return nullptr;
+  const PlacedThing& at = layout_.things[size_t(place)];
+  return at.kind == Kind::Media ? &blocks_[at.block].media[at.index] : nullptr;
+}
+
+std::function<QList<DragItem>()> QuickGrab::dragWork(const MediaEntry& entry) const {
+  return
+      [&files = services_.files, package = library_.openDocument()->files(), asset = entry.asset] {
+        return QList<DragItem>{TileDrag::variantProvider(files, package, asset)};
+      };
+}
+
+// None if there is no file to be had, which is told where it may be there in a moment.
+std::optional<DragItem> QuickGrab::prepared(const MediaEntry& entry) {
+  if (!library_.openDocument()) return std::nullopt;
+  const auto items =
+      dragPreparation_.make(packageURL_ + entry.asset.filename, dragWork(entry), copyPatience);
+  if (!items) flash(QStringLiteral("Still copying “%1” · Try again").arg(entry.name));
+  return items && items->first().file ? std::optional(items->first()) : std::nullopt;
+}
+
+void QuickGrab::drag(int place, QQuickItem* view, const QImage& grabbed, qreal radius) {
+  const MediaEntry* const entry = mediaAt(place);
+  if (!entry || isDragging_) return;
+  const auto item = prepared(*entry);
+  if (!item) return;
+  const QPointer<QuickGrab> self(this);
+  isDragging_ = true;
+  carryOut(*view, grabbed, radius, [&session = services_.dragSession, item](const DragLook& look) {
+    session.drag({*item}, look);
+  });
+  if (!self) return;
+  isDragging_ = false;
+  emit dragEnded();
+}
+
+void QuickGrab::copyFile(int place) {
+  const MediaEntry* const entry = mediaAt(place);
+  const auto item = entry ? prepared(*entry) : std::nullopt;
+  if (!item) return;
+  const QByteArray url = QUrl::fromLocalFile(*item->file).toEncoded();
+  // The second is how file managers tell a copy from a cut.
+  services_.pasteboard.setForms({{QStringLiteral("text/uri-list"), url + "\r\n"},
+                                 {QStringLiteral("x-special/gnome-copied-files"), "copy\n" + url}});
+  flash(QStringLiteral("Copied ") + entry->asset.originalName);
+}
+
+// A later text has its own full time.
+void QuickGrab::flash(const QString& text) {
+  text.isEmpty() ? flashEnd_.stop() : flashEnd_.start();
+  if (std::exchange(flashText_, text) != text) emit flashTextChanged();
+}
+
+}  // namespace tarnloft

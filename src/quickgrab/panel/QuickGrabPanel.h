@@ -1,0 +1,64 @@
+#pragma once
+
+#include "controls/loading/ViewLoading.h"
+#include "quickgrab/panel/QuickGrab.h"
+
+#include <QElapsedTimer>
+#include <QQuickWindow>
+
+#include <memory>
+#include <optional>
+
+class QQmlEngine;
+
+namespace tarnloft {
+
+// The quick grab panel: a small window without a frame that has the keyboard while it shows, and
+// goes when it loses it, but not while something is dragged out of it. Made at its first showing
+// and kept. Main thread.
+class QuickGrabPanel : public QObject {
+  Q_OBJECT
+
+ public:
+  static constexpr QSize size{340, 480};
+
+  // Borrowed: all outlive this. `isScreenComposed` tells whether what lies behind a translucent
+  // window shows through it.
+  QuickGrabPanel(QQmlEngine& engine, const QuickGrabServices& services,
+                 std::function<bool()> isScreenComposed);
+  ~QuickGrabPanel() override;
+  Q_DISABLE_COPY_MOVE(QuickGrabPanel)
+
+  // Loads its views on the engine's own thread, so that the first showing is quicker.
+  void prepare();
+
+  bool isShown() const { return window_ && window_->isVisible(); }
+  // Beside the anchor, a rectangle of the desktop such as the tray's icon; at the pointer without
+  // one. On a desktop that places windows itself, where it puts it.
+  void show(const QRect& anchor = {});
+  void close();
+  // Closes or shows it. A click on the tray's icon that has itself taken the keyboard, and so
+  // closed the panel, leaves it closed.
+  enum class By { key, click };
+  void toggle(By by, const QRect& anchor = {});
+
+  QuickGrab& grab() { return grab_; }
+  QQuickWindow* window() const { return window_.get(); }
+
+ private:
+  bool make();
+  void place(const QRect& anchor);
+  void followFocus();
+  void checkFocus();
+
+  QQmlEngine& engine_;
+  const std::function<bool()> isScreenComposed_;
+  QuickGrab grab_;
+  std::optional<ViewLoading> loading_;
+  std::unique_ptr<QQuickWindow> window_;
+  bool hadFocus_ = false;    // since it shows
+  QTimer focusLoss_;         // a moment after it
+  QElapsedTimer lostFocus_;  // since it was closed by that
+};
+
+}  // namespace tarnloft

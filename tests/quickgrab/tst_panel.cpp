@@ -1,0 +1,88 @@
+#include "controls/motion/Motion.h"
+#include "controls/theme/Theme.h"
+#include "controls/theme/Typography.h"
+#include "quickgrab/TestPanel.h"
+#include "quickgrab/panel/PanelPlacement.h"
+#include "quickgrab/panel/QuickGrabPanel.h"
+#include "testing/Cases.h"
+
+#include <QAccessible>
+#include <QQmlEngine>
+#include <QRegularExpression>
+#include <QTest>
+#include <QtQml/qqmlextensionplugin.h>
+
+Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_QuickGrabPlugin)
+
+using namespace tarnloft;
+
+// The panel's window, worked by keys and the pointer.
+class TestPanelWindow : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void isWorkedByKeysAlone() {
+    QTest::failOnWarning(QRegularExpression("qrc:|QML|Binding"));
+    QAccessible::setActive(true);
+    prepareTypography();
+    TestPanel desk({sectionOfAll()});
+    writeFile(desk.library.packagePath("Acme") + "/assets/a.png", "picture");
+    QQmlEngine engine;
+    Theme::of(engine);
+    Motion::of(engine).setReduced(true);
+    QuickGrabPanel panel(engine, desk.grabServices(), [] { return true; });
+    const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+      QTest::keyClick(panel.window(), key, modifiers);
+    };
+    const auto copied = [&] {
+      return desk.pasteboard.texts.isEmpty() ? QString() : desk.pasteboard.texts.takeLast();
+    };
+    panel.show();
+    QVERIFY(QTest::qWaitForWindowActive(panel.window()));
+    for (const Qt::Key key : {Qt::Key_S, Qt::Key_E, Qt::Key_A, Qt::Key_Return}) press(key);
+    QCOMPARE(copied(), QString("#0000FF"));
+    press(Qt::Key_Escape);
+    QVERIFY(!panel.isShown());
+    panel.toggle(QuickGrabPanel::By::key);
+    QVERIFY(QTest::qWaitForWindowActive(panel.window()));
+    QCOMPARE(panel.grab().search(), QString("sea"));
+    press(Qt::Key_Delete);  // what was typed last is selected
+    QVERIFY(panel.grab().search().isEmpty());
+    press(Qt::Key_1, Qt::ControlModifier);
+    QCOMPARE(copied(), QString("#AABBCC"));
+    press(Qt::Key_Down);
+    press(Qt::Key_Right);
+    const QAccessibleInterface* const focused =
+        QAccessible::queryAccessibleInterface(panel.window()->activeFocusItem());
+    QVERIFY(focused && focused->role() == QAccessible::ListItem);
+    QCOMPARE(focused->text(QAccessible::Name), QString("Sea"));
+    press(Qt::Key_Space);
+    QCOMPARE(copied(), QString("#0000FF"));
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    QCOMPARE(desk.pasteboard.forms.value(0).mimeType, QString("text/uri-list"));
+    press(Qt::Key_M);
+    QCOMPARE(panel.grab().search(), QString("m"));
+    QTest::mouseClick(panel.window(), Qt::LeftButton, {}, QPoint(3, 3));  // beside the panel
+    QVERIFY(!panel.isShown());
+  }
+
+  void standsBesideItsIcon() {
+    const QRect screen(0, 0, 1000, 800);
+    Cases<QRect, QRect, QPoint>{
+        {"below one at the top", {500, 0, 20, 20}, screen, {339, 24}},
+        {"above one at the bottom", {500, 780, 20, 20}, screen, {339, 296}},
+        {"inside the screen", {990, 790, 1, 1}, screen, {654, 306}},
+        {"on another screen", {1500, 0, 20, 20}, {1000, 0, 1000, 800}, {1339, 24}},
+        {"on one that is too low", {100, 50, 20, 20}, {0, 0, 400, 300}, {6, 6}},
+    }
+        .check([](const QRect& icon, const QRect& on, const QPoint& place) {
+          QCOMPARE(panelPlace(icon, QuickGrabPanel::size, on), place);
+        });
+  }
+};
+
+QTEST_MAIN(TestPanelWindow)
+#include "tst_panel.moc"
