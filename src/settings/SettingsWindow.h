@@ -22,8 +22,8 @@ class SettingsWindow : public QObject {
   ~SettingsWindow() override;
   Q_DISABLE_COPY_MOVE(SettingsWindow)
 
-  // Loads its views beside other work, so that its first opening needn't. To be called when there is
-  // time.
+  // Loads its views beside other work, so that its first opening needn't. To be called when there
+  // is time.
   void prepare();
 
   // Brings it to the front, or opens it in the middle of the other window, where the desktop leaves

@@ -21,7 +21,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto viewsPatience = 1s;    // behind the first frame, with views that nobody asked for yet
+constexpr auto viewsPatience = 1s;  // behind the first frame, with views that nobody asked for yet
 constexpr auto landingPatience = 2s;  // with what was dropped right before the end
 constexpr auto savingPatience = 5s;   // with each piece of work on the disk, at the end
 constexpr auto threadPatience = 1s;   // with a picture that is being read, which nobody waits for
@@ -183,7 +183,8 @@ std::unique_ptr<MenuBarController> TarnLoftApp::makeMenuBar(std::function<void()
       engine_, services_.forQuickGrab(library_, menuBarPrefs_), isScreenComposed);
   return std::make_unique<MenuBarController>(
       services_.statusItem, *services_.hotKey, menuBarPrefs_, services_.beep, std::move(panel),
-      MenuBarActions{.onOpenApp = std::move(onOpenApp), .onOpenSettings = [this] { openSettings(); },
+      MenuBarActions{.onOpenApp = std::move(onOpenApp),
+                     .onOpenSettings = [this] { openSettings(); },
                      .onQuit = [this] { requestQuit(); }});
 }
 

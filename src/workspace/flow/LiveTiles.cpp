@@ -67,9 +67,9 @@ std::unique_ptr<LiveTile> LiveTiles::takeWaiting(const Item& item) {
     if (live.tile->kind() != TileFacts::kind(item)) return 0;
     return live.tile->item().id == item.id ? 3 : live.fade.isMoving() ? 1 : 2;
   };
-  const auto best = std::max_element(
-      waiting_.begin(), waiting_.end(),
-      [&](const auto& a, const auto& b) { return fitness(*a) < fitness(*b); });
+  const auto best =
+      std::max_element(waiting_.begin(), waiting_.end(),
+                       [&](const auto& a, const auto& b) { return fitness(*a) < fitness(*b); });
   if (best == waiting_.end() || fitness(**best) == 0) return nullptr;
   auto live = std::move(*best);
   waiting_.erase(best);

@@ -40,7 +40,8 @@ class LiveTiles {
   LiveTile* find(const QUuid& id) const;
   // Gives the item's view its present value; null if it has none. A view of another kind ends.
   LiveTile* follow(const Item& item);
-  // The item's view: its own, one that waited or was fading, or a new one; null if none can be made.
+  // The item's view: its own, one that waited or was fading, or a new one; null if none can be
+  // made.
   LiveTile* obtain(SectionModel& section, const Item& item, QQmlComponent& component,
                    const QSizeF& size);
   // Lets go of the views that pass.
