@@ -94,7 +94,8 @@ class TheAccessibleTree(Journey):
         self.check("settings", tarn)
         rows = ["Show in File Manager", "Choose Folder…", "Click a color to copy, HEX",
                 "Asset view, Compact", "Colors", "Logos & images", "Type", "Gradients", "Code",
-                "Theme, System", "Default accent color, #0A84FF"]
+                "Quick grab shortcut, Ctrl+Alt+Space", "Reset", "Theme, System",
+                "Default accent color, #0A84FF"]
         round = self.tab_round("settings", tarn, "Settings")
         self.assertEqual(sorted(stop.partition("“")[2][:-1] for stop in round), sorted(rows))
         tarn.find("check box", "Type").act()

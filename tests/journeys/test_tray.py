@@ -67,7 +67,8 @@ class TheTray(Journey):
         self.eventually(item_pids, [tarn.pid])
         until(lambda: any(max(colour) < 150 for colour in colours_in(FIRST_ITEM)), "its icon")
         self.close(tarn)
-        click((12, 12))
+        click((12, 12))  # shows the quick grab panel, which leads back
+        tarn.click("push button", "Open Tarn Loft")
         until(lambda: tarn.is_active, "the window to come back")
 
     def close(self, tarn):
