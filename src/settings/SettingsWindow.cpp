@@ -46,7 +46,7 @@ bool SettingsWindow::make() {
     qCritical("%s", qPrintable(component_.errorString()));
     return false;
   }
-  made.release();
+  (void)made.release();
   model_ = std::move(model);
   // Behind the event, which still uses the window.
   connect(window_.get(), &QQuickWindow::visibleChanged, this, &SettingsWindow::close,
