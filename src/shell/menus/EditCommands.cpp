@@ -2,18 +2,11 @@
 
 #include "shell/window/ContentModel.h"
 #include "workspace/tiles/Tile.h"
+#include "workspace/tiles/TileFacts.h"
 
 #include <algorithm>
 
 namespace tarnloft {
-namespace {
-
-bool isTile(const Item& item) {
-  return !std::holds_alternative<HeaderPayload>(item.payload) &&
-         !std::holds_alternative<TextPayload>(item.payload);
-}
-
-}  // namespace
 
 EditCommands::EditCommands(const ContentModel& content, QObject* parent)
     : QObject(parent), content_(content) {}
@@ -52,7 +45,7 @@ bool EditCommands::canSelectAll() const {
   const BrandWorkspace* const workspace = content_.workspace();
   if (!workspace || !workspace->document()) return false;
   return std::ranges::any_of(workspace->document()->brand().sections, [](const Section& section) {
-    return std::ranges::any_of(section.items, isTile);
+    return !std::ranges::all_of(section.items, TileFacts::isBlock);
   });
 }
 

@@ -1,5 +1,7 @@
 #include "workspace/selection/GroupOperations.h"
 
+#include "workspace/tiles/TileFacts.h"
+
 #include <algorithm>
 
 namespace tarnloft {
@@ -7,15 +9,10 @@ namespace {
 
 bool isImage(const Item& item) { return std::holds_alternative<ImagePayload>(item.payload); }
 
-bool isTile(const Item& item) {
-  return !std::holds_alternative<HeaderPayload>(item.payload) &&
-         !std::holds_alternative<TextPayload>(item.payload);
-}
-
 QList<QUuid> tilesOf(const Section& section) {
   QList<QUuid> ids;
   for (const Item& item : section.items) {
-    if (isTile(item)) ids << item.id;
+    if (!TileFacts::isBlock(item)) ids << item.id;
   }
   return ids;
 }
