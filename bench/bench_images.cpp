@@ -7,7 +7,7 @@
 #include "assets/ImageExporter.h"
 #include "assets/KeptMedia.h"
 #include "assets/ThumbnailLoader.h"
-#include "platform/desktop/images/VipsImages.h"
+#include "platform/desktop/decoding/CagedImages.h"
 #include "platform/desktop/thumbnails/SharedThumbnails.h"
 
 #include <QCoreApplication>
@@ -91,9 +91,13 @@ void makePictures(const QString& folder) {
   }
 }
 
+std::shared_ptr<decoding::DecoderPool> decoders() {
+  return std::make_shared<decoding::DecoderPool>(QStringLiteral(DECODER_PROGRAM));
+}
+
 // The program's own side: what the interface asks for when it shows a folder.
 int makeThumbnails(const QStringList& paths) {
-  VipsImages images(QStringLiteral(VECTOR_PROGRAM));
+  CagedImages images(decoders());
   BackgroundWork work;
   qsizetype missing = paths.size();
   qsizetype failed = 0;
@@ -109,7 +113,7 @@ int makeThumbnails(const QStringList& paths) {
 }
 
 int exportPicture(const QString& source, const QString& target) {
-  VipsImages images(QStringLiteral(VECTOR_PROGRAM));
+  CagedImages images(decoders());
   const auto bytes =
       ImageExporter::exportImage(images, source, ExportFormat::jpeg, {2048, 1536}, 0.85);
   QFile file(target);
@@ -158,7 +162,7 @@ void benchExport(const QByteArray& program) {
 
 // Seconds until the pictures of that many tiles are there, of a program that has just started.
 double showing(const QStringList& paths, const QString& cache) {
-  VipsImages images(QStringLiteral(VECTOR_PROGRAM));
+  CagedImages images(decoders());
   SharedThumbnails store(cache);
   KeptImages kept(images, store);
   BackgroundWork work;
@@ -198,7 +202,7 @@ void benchSecondOpening(const QString& cache) {
 
 // The size that an export will have, found while the event loop runs.
 void benchEstimate() {
-  VipsImages images(QStringLiteral(VECTOR_PROGRAM));
+  CagedImages images(decoders());
   BackgroundWork work;
   const ExportChoice choice{ExportFormat::jpeg, {5656, 4243}, 0.85};
   std::vector<double> alone, estimated;

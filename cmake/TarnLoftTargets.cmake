@@ -53,6 +53,21 @@ function(tarnloft_layer name)
   endif()
 endfunction()
 
+# A library that is loaded while a program runs, of which only the entry is seen.
+function(tarnloft_module name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
+  list(TRANSFORM arg_LINKS PREPEND tarnloft_)
+  add_library(${name} MODULE ${arg_SOURCES})
+  target_link_libraries(${name} PRIVATE ${arg_LINKS})
+  # Only the entries are seen from outside; each other symbol would be looked up at every start.
+  target_link_options(${name} PRIVATE -Wl,--exclude-libs,ALL)
+  set_target_properties(${name} PROPERTIES
+    LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}
+    CXX_VISIBILITY_PRESET hidden
+    BUILD_RPATH "$ORIGIN"
+    INSTALL_RPATH "$ORIGIN")
+endfunction()
+
 # Compiles generated sources of a target some together, as nearly all of their time goes to the
 # toolkit's headers. CMake would leave out those with options of their own.
 function(tarnloft_together target)

@@ -24,9 +24,8 @@ class Fonts {
   virtual std::optional<FontNames> names(const QString& path) = 0;
 
   // Makes the file's faces drawable by their family for as long as the process lives, even if the
-  // file goes, without installing them. Repeats and failures are ignored. Any thread. On the main
-  // thread, a file of ordinary size draws when this returns; a large one is read aside, and it as
-  // well as one of another thread draws once the event loop has come by.
+  // file goes, without installing them: once they are found sound, and the event loop has come by.
+  // Repeats and failures are ignored. Any thread; waits for nothing but the opening of the file.
   virtual void registerForProcess(const QString& path) = 0;
 };
 

@@ -1,4 +1,4 @@
-#include "platform/desktop/images/VipsImages.h"
+#include "platform/desktop/decoding/CagedImages.h"
 #include "testing/Cases.h"
 #include "testing/Pictures.h"
 
@@ -174,7 +174,7 @@ class TestBadImages : public QObject {
   }
 
   TestServices disk_;
-  VipsImages images_{QStringLiteral(VECTOR_PROGRAM)};
+  CagedImages images_{std::make_shared<decoding::DecoderPool>(QStringLiteral(DECODER_PROGRAM))};
 };
 
 QTEST_GUILESS_MAIN(TestBadImages)

@@ -1,4 +1,4 @@
-#include "platform/desktop/clips/LibavVideos.h"
+#include "platform/desktop/decoding/CagedVideos.h"
 #include "testing/Cases.h"
 #include "testing/TestServices.h"
 
@@ -16,6 +16,12 @@ using namespace tarnloft;
 
 namespace {
 
+CagedVideos videos() {
+  static const auto decoders =
+      std::make_shared<decoding::DecoderPool>(QStringLiteral(DECODER_PROGRAM));
+  return CagedVideos(decoders);
+}
+
 const QString fixtures = QStringLiteral(VIDEO_FIXTURES "/");
 
 // The corners of each frame of the fixtures; the last one tells which frame it is.
@@ -30,7 +36,7 @@ bool isNear(QRgb one, QRgb other) {
 }
 
 QRgb colorAt(const QImage& picture, double x, double y) {
-  return picture.pixel(int(x * picture.width()), int(y * picture.height()));
+  return picture.pixelColor(int(x * picture.width()), int(y * picture.height())).rgba();
 }
 
 // The colours in the middle of the four quarters, row by row.
@@ -104,11 +110,11 @@ class TestVideos : public QObject {
         {"sound-with-cover.m4a", {}, 0.5, {}, {}}};
     cases.check([](const QString& file, QSize told, double duration, QSize shown,
                    const Quarters& quarters) {
-      const auto properties = LibavVideos().properties(fixtures + file);
+      const auto properties = videos().properties(fixtures + file);
       QVERIFY(properties);
       QCOMPARE(properties->size.value_or(QSize()), told);
       QVERIFY(std::abs(properties->duration.value_or(-1) - duration) < 0.001);
-      const auto poster = LibavVideos().frame(fixtures + file, 0.1, 512);
+      const auto poster = videos().frame(fixtures + file, 0.1, 512);
       QCOMPARE(poster.has_value(), shown.isValid());
       if (!poster) return;
       QCOMPARE(poster->size(), shown);
@@ -124,7 +130,7 @@ class TestVideos : public QObject {
         {"of high range, B67", "hybrid.mp4", qRgb(168, 168, 168)},
         {"half transparent", "glass.mov", qRgba(220, 40, 40, 128)}};
     cases.check([&](const QString& file, QRgb color) {
-      const auto poster = LibavVideos().frame(fixtures + file, 0.1, 512);
+      const auto poster = videos().frame(fixtures + file, 0.1, 512);
       QVERIFY(poster);
       QVERIFY(areNear(quartersOf(*poster), {color, color, color, color}));
     });
@@ -135,7 +141,7 @@ class TestVideos : public QObject {
                                              {0.25, 2}, {0.35, 3}, {3, 3},    {1e30, 3}};
     for (const char* file : {"h264.mp4", "h264.mkv", "h264.ts", "vp9.webm", "hevc10.mov"}) {
       for (const auto& [seconds, frame] : frames) {
-        const auto picture = LibavVideos().frame(fixtures + file, seconds, 512);
+        const auto picture = videos().frame(fixtures + file, seconds, 512);
         QVERIFY2(picture && isNear(colorAt(*picture, .75, .75), greyOf(frame)), file);
       }
     }
@@ -146,7 +152,7 @@ class TestVideos : public QObject {
                                            {"wide", "wide.mp4", 64, QSize(64, 24)},
                                            {"odd", "odd.mp4", 21, QSize(21, 16)}};
     cases.check([&](const QString& file, int maxPixel, const QSize& size) {
-      const auto picture = LibavVideos().frame(fixtures + file, 0.1, maxPixel);
+      const auto picture = videos().frame(fixtures + file, 0.1, maxPixel);
       QVERIFY(picture);
       QCOMPARE(picture->size(), size);
     });
@@ -168,13 +174,13 @@ class TestVideos : public QObject {
       for (const char* name : {"a.mp4", "a.webm", "a.ts", "a"}) {
         const QString path = disk.path(QString::fromLatin1(name));
         QVERIFY(writeFile(path, content));
-        QVERIFY(!LibavVideos().properties(path));
-        QVERIFY(!LibavVideos().frame(path, 0.1, 512));
+        QVERIFY(!videos().properties(path));
+        QVERIFY(!videos().frame(path, 0.1, 512));
       }
       const QString pipe = disk.path("pipe.mp4");
       QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
       for (const QString& path : {pipe, disk.folder.path(), disk.path("missing.mp4"), QString()}) {
-        QVERIFY(!LibavVideos().properties(path));
+        QVERIFY(!videos().properties(path));
       }
     });
   }
@@ -192,7 +198,7 @@ class TestVideos : public QObject {
       QVERIFY(QDir::setCurrent(disk.folder.path()));
       for (const char* name : {"a.mp4", "a.m3u8"}) {
         QVERIFY(writeFile(disk.path(QString::fromLatin1(name)), content));
-        QVERIFY(!LibavVideos().properties(disk.path(QString::fromLatin1(name))));
+        QVERIFY(!videos().properties(disk.path(QString::fromLatin1(name))));
       }
     });
   }
@@ -208,8 +214,8 @@ class TestVideos : public QObject {
     patch(file, "stsc", 16, many);
     QVERIFY(writeFile(path, file));
     const qint64 before = peakMemory();
-    QCOMPARE(LibavVideos().properties(path)->size, QSize(64, 48));
-    QVERIFY(!LibavVideos().frame(path, 0.1, 512));
+    QCOMPARE(videos().properties(path)->size, QSize(64, 48));
+    QVERIFY(!videos().frame(path, 0.1, 512));
     QVERIFY(peakMemory() - before < 500'000);  // it would be four million
   }
 };

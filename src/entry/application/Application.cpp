@@ -3,8 +3,8 @@
 #include "entry/CommandLine.h"
 #include "entry/application/TarnLoftApp.h"
 #include "entry/application/UnansweredStart.h"
-#include "entry/late/LateServices.h"
 #include "entry/selftest/SelfTest.h"
+#include "platform/desktop/decoding/CagedImages.h"
 #include "platform/desktop/files/PosixFileStore.h"
 #include "platform/desktop/instance/RunningInstance.h"
 #include "platform/desktop/system/AutostartEntry.h"
@@ -82,7 +82,7 @@ int tarnloftSelfTest(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
   PosixFileStore files;
   Syslog log;
-  LateImages images;
+  CagedImages images(std::make_shared<decoding::DecoderPool>(DesktopServices::decoderProgram()));
   return SelfTest::run({files, log}, images) ? 0 : 1;
 }
 

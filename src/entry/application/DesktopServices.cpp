@@ -90,6 +90,10 @@ bool DesktopServices::finish(std::chrono::milliseconds patience) {
          QThreadPool::globalInstance()->waitForDone(remaining());
 }
 
+QString DesktopServices::decoderProgram() {
+  return QCoreApplication::applicationDirPath() + QStringLiteral("/tarnloft-decoder");
+}
+
 QString DesktopServices::stateFile() {
   // The toolkit of this version doesn't know the folder.
   const QString folder = qEnvironmentVariable("XDG_STATE_HOME");

@@ -6,7 +6,7 @@
 #include "platform/desktop/dragging/QtDragSession.h"
 #include "platform/desktop/files/DiskThread.h"
 #include "platform/desktop/files/PosixFileStore.h"
-#include "platform/desktop/fonts/FreeTypeFonts.h"
+#include "platform/desktop/fonts/CheckedFonts.h"
 #include "platform/desktop/hotkey/DesktopHotKey.h"
 #include "platform/desktop/system/AutostartEntry.h"
 #include "platform/desktop/system/IniPreferences.h"
@@ -49,9 +49,11 @@ struct DesktopServices {
   AutostartEntry autostart{AutostartEntry::userFolder(), QCoreApplication::applicationFilePath()};
   const std::unique_ptr<GlobalHotKey> hotKey = makeDesktopHotKey(log);
   MimeContentTypes types;
-  FreeTypeFonts fonts;
+  const std::shared_ptr<decoding::DecoderPool> decoders =
+      std::make_shared<decoding::DecoderPool>(decoderProgram());
+  CheckedFonts fonts{decoders, log};
   QtDragSession dragSession;
-  MediaServices media{files};
+  MediaServices media{files, decoders};
   DiskThread disk;
   DiskThread copies;
   DiskThread searches;
@@ -69,6 +71,9 @@ struct DesktopServices {
   // For the end: forgets work that hasn't begun, and waits for threads that use any of this, at
   // most so long. False if some still do.
   bool finish(std::chrono::milliseconds patience);
+
+  // Beside this one.
+  static QString decoderProgram();
 
   // "tarnloft.ini" in the user's folder for state.
   static QString stateFile();

@@ -8,6 +8,8 @@
 #include "pictures/AssetSpecs.h"
 #include "pictures/Posters.h"
 #include "pictures/Thumbnails.h"
+#include "platform/desktop/decoding/CagedImages.h"
+#include "platform/desktop/decoding/CagedVideos.h"
 #include "platform/desktop/thumbnails/SharedThumbnails.h"
 
 namespace tarnloft {
@@ -15,18 +17,20 @@ namespace tarnloft {
 // Pictures and clips, and the one place that keeps their thumbnails. Nothing of it is loaded before
 // the first file is asked for.
 struct MediaServices {
-  explicit MediaServices(const FileStore& files)
-      : images(files, keptImages),
+  MediaServices(const FileStore& files, const std::shared_ptr<decoding::DecoderPool>& decoders)
+      : cagedImages(decoders),
+        cagedVideos(decoders),
+        images(files, keptImages),
         videos(files, keptVideos),
         clipPlayers(files, lateClipPlayers),
         specs(files, images, videos, work) {}
 
-  LateImages lateImages;
-  LateVideos lateVideos;
+  CagedImages cagedImages;
+  CagedVideos cagedVideos;
   LateClipPlayers lateClipPlayers;
   SharedThumbnails sharedThumbnails;
-  KeptImages keptImages{lateImages, sharedThumbnails};
-  KeptVideos keptVideos{lateVideos, sharedThumbnails};
+  KeptImages keptImages{cagedImages, sharedThumbnails};
+  KeptVideos keptVideos{cagedVideos, sharedThumbnails};
   PackageImages images;
   PackageVideos videos;
   PackageClipPlayers clipPlayers;

@@ -12,10 +12,9 @@ Archiver* archiver() {
   return loaded;
 }
 
-// In the module of clips, which is loaded by the time that one is seen.
 ClipPlayers* clipPlayers() {
   static ClipPlayers* const loaded =
-      fromModule<ClipPlayers>("libtarnloft-videos.so", "tarnloftClipPlayers");
+      fromModule<ClipPlayers>("libtarnloft-players.so", "tarnloftClipPlayers");
   return loaded;
 }
 
@@ -32,18 +31,8 @@ class NoClipPlayer : public ClipPlayer {
   QImage picture() const override { return {}; }
 };
 
-Images* images() {
-  static Images* const loaded = fromModule<Images>("libtarnloft-images.so", "tarnloftImages");
-  return loaded;
-}
-
 Trash* trash() {
   static Trash* const loaded = fromModule<Trash>("libtarnloft-trash.so", "tarnloftTrash");
-  return loaded;
-}
-
-Videos* videos() {
-  static Videos* const loaded = fromModule<Videos>("libtarnloft-videos.so", "tarnloftVideos");
   return loaded;
 }
 
@@ -70,31 +59,6 @@ std::unique_ptr<ClipPlayer> LateClipPlayers::open(const ClipSource& source,
 
 bool LateClipPlayers::finish(std::chrono::milliseconds patience) {
   return !isUsed_ || !clipPlayers() || clipPlayers()->finish(patience);
-}
-
-std::optional<ImageProperties> LateImages::properties(const QString& path) {
-  return images() ? images()->properties(path) : std::nullopt;
-}
-
-std::optional<QSizeF> LateImages::vectorSize(const QString& path) {
-  return images() ? images()->vectorSize(path) : std::nullopt;
-}
-
-std::optional<QImage> LateImages::thumbnail(const QString& path, int maxPixel) {
-  return images() ? images()->thumbnail(path, maxPixel) : std::nullopt;
-}
-
-std::optional<QByteArray> LateImages::convert(const QString& path, ExportFormat format, QSize size,
-                                              double quality) {
-  return images() ? images()->convert(path, format, size, quality) : std::nullopt;
-}
-
-std::optional<VideoProperties> LateVideos::properties(const QString& path) {
-  return videos() ? videos()->properties(path) : std::nullopt;
-}
-
-std::optional<QImage> LateVideos::frame(const QString& path, double seconds, int maxPixel) {
-  return videos() ? videos()->frame(path, seconds, maxPixel) : std::nullopt;
 }
 
 Result<void> LateTrash::moveToTrash(const QString& path) {

@@ -2,29 +2,9 @@
 
 #include "platform/Archiver.h"
 #include "platform/ClipPlayer.h"
-#include "platform/Images.h"
 #include "platform/Trash.h"
-#include "platform/Videos.h"
 
 namespace tarnloft {
-
-// Pictures whose library is loaded at the first call, on the calling thread. Where it can't be, all
-// files count as unreadable.
-class LateImages : public Images {
- public:
-  std::optional<ImageProperties> properties(const QString& path) override;
-  std::optional<QSizeF> vectorSize(const QString& path) override;
-  std::optional<QImage> thumbnail(const QString& path, int maxPixel) override;
-  std::optional<QByteArray> convert(const QString& path, ExportFormat format, QSize size,
-                                    double quality) override;
-};
-
-// The same for clips.
-class LateVideos : public Videos {
- public:
-  std::optional<VideoProperties> properties(const QString& path) override;
-  std::optional<QImage> frame(const QString& path, double seconds, int maxPixel) override;
-};
 
 // Players of clips; where their library can't be loaded, all clips count as broken.
 class LateClipPlayers : public ClipPlayers {

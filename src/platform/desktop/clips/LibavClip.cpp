@@ -111,15 +111,14 @@ int64_t ByteSource::seek(void* self, int64_t offset, int whence) {
   return source.position_ = offset;
 }
 
-std::unique_ptr<Clip> Clip::open(const QString& path, QDeadlineTimer deadline) {
-  return open(path, [deadline] { return deadline.hasExpired(); });
+std::unique_ptr<Clip> Clip::open(const QString& path, Expiry expiry) {
+  auto file = posix::openRegularFile(path);
+  return file ? open(std::move(*file), std::move(expiry)) : nullptr;
 }
 
-std::unique_ptr<Clip> Clip::open(const QString& path, Expiry expiry) {
+std::unique_ptr<Clip> Clip::open(posix::OpenFile file, Expiry expiry) {
   setUpLibrary();
-  auto file = posix::openRegularFile(path);
-  if (!file) return nullptr;
-  std::unique_ptr<Clip> clip(new Clip(std::move(*file), std::move(expiry)));
+  std::unique_ptr<Clip> clip(new Clip(std::move(file), std::move(expiry)));
   return clip->openFormat() && clip->findStreams() ? std::move(clip) : nullptr;
 }
 

@@ -2,7 +2,6 @@
 
 #include "platform/desktop/files/PosixFiles.h"
 
-#include <QDeadlineTimer>
 #include <QString>
 
 #include <functional>
@@ -15,7 +14,7 @@ extern "C" {
 #include <libswscale/swscale.h>
 }
 
-// The pieces that LibavVideos is made of.
+// The pieces that clips are read by.
 namespace tarnloft::libav {
 
 template <auto release>
@@ -67,7 +66,7 @@ class Clip {
  public:
   // Null if the file is none of the containers that are taken, or if the time is up before its
   // streams are known.
-  static std::unique_ptr<Clip> open(const QString& path, QDeadlineTimer deadline);
+  static std::unique_ptr<Clip> open(posix::OpenFile file, Expiry expiry);
   static std::unique_ptr<Clip> open(const QString& path, Expiry expiry);
 
   AVFormatContext& format() const { return *format_; }

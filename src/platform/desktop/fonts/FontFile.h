@@ -11,7 +11,7 @@
 #include FT_FREETYPE_H
 #include FT_MODULE_H
 
-// The pieces that FreeTypeFonts is made of.
+// The pieces that fonts are read by.
 namespace tarnloft::freetype {
 
 // A library of one file's own: it may be used in any thread, and what it allocates has an end.
@@ -42,7 +42,7 @@ using Face = std::unique_ptr<FT_FaceRec_, ReleaseFace>;
 // PostScript Type 1. One thread at a time.
 class FontFile {
  public:
-  // Null if it is no font, or has more faces than any real one.
+  // The bytes are shared. Null if it is no font, or has more faces than any real one.
   static std::unique_ptr<FontFile> open(const QByteArray& bytes);
 
   // Of the first face. What is in the wrong encoding is left out.
@@ -51,10 +51,12 @@ class FontFile {
   // The file as the toolkit is to read it: as it is, or each of its faces without the wrapping.
   QList<QByteArray> unwrapped() const;
 
+  long faceCount() const { return first_->num_faces; }
+  // Goes before this; null if it can't be read.
+  Face openFace(long index) const;
+
  private:
   explicit FontFile(QByteArray bytes) : bytes_(std::move(bytes)) {}
-
-  Face openFace(long index) const;
 
   QByteArray bytes_;
   Library library_;

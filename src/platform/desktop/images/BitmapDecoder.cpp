@@ -7,10 +7,6 @@ namespace {
 
 using vips::VImage;
 
-// No picture is larger; a file of a few megabytes can claim as much.
-constexpr qint64 pixelLimit = 1'000'000'000;
-constexpr qint64 wholeLimit = qint64(1) << 30;  // bytes of one that doesn't stream
-
 const char* loaderOf(ImageKind kind) {
   switch (kind) {
     case ImageKind::png: return "pngload_source";
@@ -22,7 +18,8 @@ const char* loaderOf(ImageKind kind) {
     case ImageKind::bmp:
     case ImageKind::ico:
     case ImageKind::svg:
-    case ImageKind::pdf: break;
+    case ImageKind::pdf:
+    case ImageKind::pixels: break;
   }
   throw vips::VError("not a kind that libvips reads here");
 }
@@ -77,13 +74,15 @@ std::optional<VImage> embeddedThumbnail(const ImageFile& file, const VImage& hea
 
 VImage header(const ImageFile& file) { return open(file); }
 
-std::optional<qint64> footprint(ImageKind kind, const VImage& header) {
-  const qint64 pixels = qint64(header.width()) * header.height();
-  if (pixels > pixelLimit) return std::nullopt;
+std::uint64_t footprint(ImageKind kind, const VImage& header) {
   if (streams(kind, header)) return 0;
-  const qint64 bytesEach = qMax<qint64>(4, qint64(VIPS_IMAGE_SIZEOF_PEL(header.get_image())));
-  return pixels * bytesEach <= wholeLimit ? std::optional(pixels * bytesEach) : std::nullopt;
+  const auto pixels = std::uint64_t(header.width()) * std::uint64_t(header.height());
+  const auto bytesEach =
+      std::max<std::uint64_t>(4, VIPS_IMAGE_SIZEOF_PEL(header.get_image()));
+  return pixels * bytesEach;
 }
+
+int copiesOf(ImageKind kind) { return kind == ImageKind::heif ? 3 : 2; }
 
 VImage load(const ImageFile& file, const VImage& header, QSize target) {
   const double factor = surplus(header, target);

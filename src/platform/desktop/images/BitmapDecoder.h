@@ -15,9 +15,11 @@ namespace BitmapDecoder {
 // The first picture, of which nothing is decoded yet.
 vips::VImage header(const ImageFile& file);
 
-// What decoding needs at once, in bytes: next to nothing where rows stream. None for a picture that
-// is too large to be taken.
-std::optional<qint64> footprint(ImageKind kind, const vips::VImage& header);
+// The pixels that are in memory at once, in bytes: next to none where rows stream.
+std::uint64_t footprint(ImageKind kind, const vips::VImage& header);
+
+// How often the decoder has them, in one form or another; measured.
+int copiesOf(ImageKind kind);
 
 // The first picture, to be decoded at a size of at least `target`, which is smaller than its own
 // where the format can scale while it decodes. Takes the place of its header.

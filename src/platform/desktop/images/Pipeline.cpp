@@ -1,9 +1,6 @@
 #include "platform/desktop/images/Pipeline.h"
 
-#include <QDeadlineTimer>
-
 #include <lcms2.h>
-#include <memory>
 #include <optional>
 
 namespace tarnloft::Pipeline {
@@ -94,24 +91,10 @@ VImage withFourBandsAtMost(const VImage& image) {
   return image.bands() > 4 ? image.extract_band(0, VImage::option()->set("n", 4)) : image;
 }
 
-void stopWhenLate(VipsImage* image, VipsProgress*, QDeadlineTimer* deadline) {
-  if (deadline->hasExpired()) vips_image_set_kill(image, TRUE);
-}
-
 }  // namespace
 
 VImage render(const VImage& image, QSize size) {
   return withFourBandsAtMost(toSrgb(resized(toScalable(image), size)).cast(VIPS_FORMAT_UCHAR));
-}
-
-void limitTime(VImage& image, std::chrono::seconds time) {
-  auto deadline = std::make_unique<QDeadlineTimer>(time);
-  VipsImage* raw = image.get_image();
-  vips_image_set_progress(raw, TRUE);
-  g_signal_connect_data(
-      raw, "eval", G_CALLBACK(stopWhenLate), deadline.release(),
-      [](gpointer data, GClosure*) { delete static_cast<QDeadlineTimer*>(data); },
-      GConnectFlags(0));
 }
 
 }  // namespace tarnloft::Pipeline

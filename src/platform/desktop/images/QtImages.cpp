@@ -7,17 +7,12 @@
 namespace tarnloft::QtImages {
 namespace {
 
-constexpr qint64 fileLimit = qint64(1) << 30;
-constexpr int decodedLimit = 512;  // megabytes
-
 // A reader over the file's bytes.
 class Reader {
  public:
-  explicit Reader(const ImageFile& file)
-      : bytes_(file.readAll(fileLimit).value_or(QByteArray())), buffer_(&bytes_) {
-    if (QImageReader::allocationLimit() < decodedLimit) {
-      QImageReader::setAllocationLimit(decodedLimit);
-    }
+  Reader(const ImageFile& file, const QByteArray& bytes) {
+    QImageReader::setAllocationLimit(0);  // the process has its own
+    buffer_.setData(bytes);
     buffer_.open(QIODevice::ReadOnly);
     reader_.setDecideFormatFromContent(false);
     reader_.setFormat(file.kind() == ImageKind::ico ? "ico" : "bmp");
@@ -25,11 +20,9 @@ class Reader {
   }
   Q_DISABLE_COPY_MOVE(Reader)
 
-  const QByteArray& bytes() const { return bytes_; }
   QImageReader& reader() { return reader_; }
 
  private:
-  QByteArray bytes_;
   QBuffer buffer_;
   QImageReader reader_;
 };
@@ -47,19 +40,19 @@ std::optional<double> dpiOfBmp(const QByteArray& bytes) {
 
 }  // namespace
 
-std::optional<ImageProperties> properties(const ImageFile& file) {
-  Reader source(file);
+std::optional<ImageProperties> properties(const ImageFile& file, const QByteArray& bytes) {
+  Reader source(file, bytes);
   const QSize size = source.reader().size();
   if (size.isEmpty()) return std::nullopt;
   const bool isIco = file.kind() == ImageKind::ico;
   const QImage::Format format = source.reader().imageFormat();
   return ImageProperties{
       size, isIco || QImage::toPixelFormat(format).alphaUsage() == QPixelFormat::UsesAlpha,
-      isIco ? std::nullopt : dpiOfBmp(source.bytes())};
+      isIco ? std::nullopt : dpiOfBmp(bytes)};
 }
 
-std::optional<QImage> read(const ImageFile& file) {
-  Reader source(file);
+std::optional<QImage> read(const ImageFile& file, const QByteArray& bytes) {
+  Reader source(file, bytes);
   const QImage image = source.reader().read();
   if (image.isNull()) return std::nullopt;
   return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_RGBA8888

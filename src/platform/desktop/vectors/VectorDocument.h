@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/desktop/vectors/VectorProtocol.h"
 
 #include <cairo.h>
 #include <memory>

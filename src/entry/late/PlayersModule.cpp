@@ -1,14 +1,8 @@
 #include "entry/late/LateModules.h"
 #include "entry/late/LateSounds.h"
-#include "platform/desktop/clips/LibavVideos.h"
 #include "platform/desktop/clips/player/LibavClipPlayers.h"
 
 using namespace tarnloft;
-
-Videos* tarnloftVideos(const QString& /*programFolder*/) {
-  static LibavVideos videos;
-  return &videos;
-}
 
 ClipPlayers* tarnloftClipPlayers(const QString& /*programFolder*/) {
   static LateSounds sounds;
