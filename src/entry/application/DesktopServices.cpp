@@ -83,6 +83,7 @@ bool DesktopServices::finish(std::chrono::milliseconds patience) {
   const auto remaining = [&] { return int(deadline.remainingTime()); };
   workers.clear();
   return media.work.finish(std::chrono::milliseconds(remaining())) &&
+         fonts.finish(std::chrono::milliseconds(remaining())) &&
          media.sharedThumbnails.finish(std::chrono::milliseconds(remaining())) &&
          media.clipPlayers.finish(std::chrono::milliseconds(remaining())) &&
          workers.waitForDone(remaining()) && disk.finish(std::chrono::milliseconds(remaining())) &&

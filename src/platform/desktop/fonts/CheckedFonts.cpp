@@ -5,7 +5,6 @@
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QMutex>
-#include <QThreadPool>
 
 namespace tarnloft {
 
@@ -54,8 +53,16 @@ class CheckedFonts::Registry {
 };
 
 CheckedFonts::CheckedFonts(std::shared_ptr<DecoderPool> decoders, SystemLog& log)
-    : decoders_(std::move(decoders)), registry_(std::make_shared<Registry>(log)) {}
-CheckedFonts::~CheckedFonts() = default;
+    : decoders_(std::move(decoders)), registry_(std::make_shared<Registry>(log)) {
+  checks_.setMaxThreadCount(2);
+}
+
+CheckedFonts::~CheckedFonts() { checks_.clear(); }
+
+bool CheckedFonts::finish(std::chrono::milliseconds patience) {
+  checks_.clear();
+  return checks_.waitForDone(int(patience.count()));
+}
 
 std::optional<FontNames> CheckedFonts::names(const QString& path) {
   const auto file = posix::openRegularFile(path);
@@ -67,7 +74,7 @@ void CheckedFonts::registerForProcess(const QString& path) {
   auto opened = posix::openRegularFile(path);
   if (!opened || !registry_->enter(posix::identityOf(opened->info))) return;
   const auto file = std::make_shared<posix::OpenFile>(std::move(*opened));
-  QThreadPool::globalInstance()->start([file, decoders = decoders_, registry = registry_] {
+  checks_.start([file, decoders = decoders_, registry = registry_] {
     QMetaObject::invokeMethod(qApp, [registry, fonts = FontChecks::soundFonts(*decoders, *file)] {
       registry->add(fonts);
     });

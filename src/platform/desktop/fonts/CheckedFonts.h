@@ -4,6 +4,9 @@
 #include "platform/SystemLog.h"
 #include "platform/desktop/decoding/DecoderPool.h"
 
+#include <QThreadPool>
+
+#include <chrono>
 #include <memory>
 
 namespace tarnloft {
@@ -19,11 +22,15 @@ class CheckedFonts : public Fonts {
   std::optional<FontNames> names(const QString& path) override;
   void registerForProcess(const QString& path) override;
 
+  // Forgets what hasn't begun and waits for what has, at most so long; false if it still runs.
+  bool finish(std::chrono::milliseconds patience);
+
  private:
   class Registry;
 
   const std::shared_ptr<decoding::DecoderPool> decoders_;
-  const std::shared_ptr<Registry> registry_;  // outlives this while a file is being read aside
+  const std::shared_ptr<Registry> registry_;
+  QThreadPool checks_;  // its own, as the toolkit waits for the common one while it draws
 };
 
 }  // namespace tarnloft

@@ -11,7 +11,7 @@ using namespace decoding;
 namespace {
 
 constexpr DecoderPool::Patience patience{std::chrono::seconds(30), std::chrono::seconds(15)};
-constexpr qint64 largestFile = qint64(128) << 20;
+constexpr qint64 largestFile = qint64(64) << 20;
 constexpr qint64 namesBytes = 64 << 10;
 
 std::unique_ptr<OpenedFile> open(DecoderPool& decoders, const posix::Descriptor& file) {
