@@ -1,4 +1,5 @@
-// Font files of any bytes: reading them and trying them out never crashes, and names are never empty.
+// Font files of any bytes: reading them and trying them out never crashes, and names are never
+// empty.
 #include "Decoding.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {

@@ -1,6 +1,6 @@
-#include "platform/desktop/decoding/CagedVideos.h"
 #include "platform/desktop/clips/player/LibavClipPlayers.h"
 #include "platform/desktop/clips/player/PulseSound.h"
+#include "platform/desktop/decoding/CagedVideos.h"
 #include "testing/TestServices.h"
 
 #include <QElapsedTimer>

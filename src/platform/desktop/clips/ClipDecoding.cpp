@@ -97,10 +97,10 @@ class ClipFile : public ForeignFile {
     const QSize size = shownSize(QSize(frame->width, frame->height), shape, request.width);
     const auto picture = PictureMaker().pictureOf(*frame, size);
     if (!picture) return std::nullopt;
-    const QImage shown = oriented(*picture, orientationOf(*stream))
-                             .convertToFormat(picture->hasAlphaChannel()
-                                                  ? QImage::Format_ARGB32_Premultiplied
-                                                  : QImage::Format_RGB32);
+    const QImage shown =
+        oriented(*picture, orientationOf(*stream))
+            .convertToFormat(picture->hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                                        : QImage::Format_RGB32);
     const auto bytes = size_t(shown.sizeInBytes());  // rows of 4-byte pixels have no padding
     if (bytes > target.size()) return std::nullopt;
     std::memcpy(target.data(), shown.constBits(), bytes);
@@ -118,9 +118,8 @@ class ClipDecoding : public FileDecoder {
   std::unique_ptr<ForeignFile> open(const Request&, int descriptor) override {
     posix::OpenFile file{posix::Descriptor(::dup(descriptor)), {}};
     if (::fstat(file.file.number(), &file.info) != 0) return nullptr;
-    auto clip = Clip::open(std::move(file), [deadline = QDeadlineTimer(mostTime)] {
-      return deadline.hasExpired();
-    });
+    auto clip = Clip::open(std::move(file),
+                           [deadline = QDeadlineTimer(mostTime)] { return deadline.hasExpired(); });
     return clip ? std::make_unique<ClipFile>(std::move(clip)) : nullptr;
   }
 };

@@ -105,8 +105,8 @@ std::optional<QByteArray> encode(OpenedFile& file, ExportFormat format, QSize si
                         .height = size.height(),
                         .format = std::int32_t(format),
                         .quality = quality};
-  const auto product = file.make(request, *target, needs + encodingNeeds(format, size),
-                                 limits::exportMemory);
+  const std::uint64_t all = std::min(needs + encodingNeeds(format, size), limits::exportMemory);
+  const auto product = file.make(request, *target, all, limits::exportMemory);
   return product ? target->read(qint64(product->bytes)) : std::nullopt;
 }
 
@@ -142,18 +142,18 @@ std::optional<QByteArray> CagedImages::convert(const QString& path, ExportFormat
   if (size.isEmpty() || qint64(size.width()) * size.height() > mostTargetPixels) {
     return std::nullopt;
   }
-  const auto opened = openPicture(*decoders_, path, forExports);
+  auto opened = openPicture(*decoders_, path, forExports);
   if (!opened || !isDrawable(*opened)) return std::nullopt;
   const std::uint64_t needs = needsOf(*opened, size);
   if (!opened->isVector()) return encode(*opened->file, format, size, quality, needs);
   const auto pixels = SharedMemory::ofSize(qint64(bytesOf(size)));
   const Request draw{.action = Action::draw, .width = size.width(), .height = size.height()};
   if (!pixels || !opened->file->make(draw, *pixels, needs)) return std::nullopt;
-  const auto drawing = decoders_->open(Role::bitmaps, pixels->descriptor(),
-                                      {.kind = std::int32_t(ImageKind::pixels),
-                                       .width = size.width(),
-                                       .height = size.height()},
-                                      forExports);
+  opened->file = nullptr;  // as it holds memory that the other one may wait for
+  const auto drawing = decoders_->open(
+      Role::bitmaps, pixels->descriptor(),
+      {.kind = std::int32_t(ImageKind::pixels), .width = size.width(), .height = size.height()},
+      forExports);
   return drawing ? encode(*drawing, format, size, quality, needs) : std::nullopt;
 }
 

@@ -7,15 +7,13 @@
 namespace tarnloft::decoding {
 namespace {
 
-constexpr int inMegabytes(std::uint64_t bytes) { return int(bytes / limits::megabyte); }
-
 // What its libraries leak stays bounded.
 constexpr int filesEach = 400;
 constexpr size_t idleEach = 4;
 
 bool isSound(const Product& product, qint64 room) {
-  const bool hasPixels = product.width > 0 && product.height > 0 &&
-                         product.width <= limits::side && product.height <= limits::side;
+  const bool hasPixels = product.width > 0 && product.height > 0 && product.width <= limits::side &&
+                         product.height <= limits::side;
   const qint64 pixelBytes = qint64(product.width) * product.height * 4;
   return product.bytes > 0 && product.bytes <= std::uint64_t(room) &&
          (product.width == 0 || (hasPixels && product.bytes == std::uint64_t(pixelBytes)));
@@ -23,15 +21,7 @@ bool isSound(const Product& product, qint64 room) {
 
 }  // namespace
 
-DecoderPool::Share::Share(DecoderPool& pool, std::uint64_t bytes)
-    : all_(pool.memory_), megabytes_(inMegabytes(std::min(bytes, limits::allMemory))) {
-  all_.acquire(megabytes_);
-}
-
-DecoderPool::Share::~Share() { all_.release(megabytes_); }
-
-DecoderPool::DecoderPool(QString program)
-    : program_(std::move(program)), memory_(inMegabytes(limits::allMemory)) {}
+DecoderPool::DecoderPool(QString program) : program_(std::move(program)) {}
 
 DecoderPool::~DecoderPool() = default;
 
@@ -47,7 +37,7 @@ std::unique_ptr<OpenedFile> DecoderPool::open(Role role, const posix::Descriptor
                                               const Request& request, Patience patience,
                                               std::uint64_t memory) {
   std::unique_ptr<OpenedFile> opened(new OpenedFile(*this, role, patience));
-  opened->share_ = std::make_unique<Share>(*this, memory);
+  opened->share_ = std::make_unique<MemoryBudget::Share>(memory_, memory);
   auto process = take(role);
   if (!process) return nullptr;
   process->begin(patience.time, patience.processorTime);
@@ -92,6 +82,9 @@ std::unique_ptr<DecoderProcess> DecoderPool::take(Role role) {
 void DecoderPool::keep(Role role, std::unique_ptr<DecoderProcess> process) {
   if (process->files() >= filesEach) return;
   const QMutexLocker lock(&mutex_);
+  for (auto& each : idle_) {
+    std::erase_if(each, [](const auto& other) { return !other->isAlive(); });
+  }
   auto& idle = idle_.at(size_t(role));
   if (idle.size() < idleEach) idle.push_back(std::move(process));
 }
@@ -111,7 +104,7 @@ std::optional<Product> OpenedFile::make(const Request& request, const SharedMemo
   if (!process_ || needs > most) return std::nullopt;
   if (needs > memory_) {
     share_ = nullptr;  // before waiting for more, as others may wait for that
-    share_ = std::make_unique<DecoderPool::Share>(pool_, needs);
+    share_ = std::make_unique<MemoryBudget::Share>(pool_.memory_, needs);
     process_->grantMemory(needs);
     memory_ = needs;
   }

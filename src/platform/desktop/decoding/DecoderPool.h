@@ -1,10 +1,10 @@
 #pragma once
 
+#include "platform/desktop/decoding/MemoryBudget.h"
 #include "platform/desktop/decoding/Protocol.h"
 #include "platform/desktop/decoding/SharedMemory.h"
 
 #include <QMutex>
-#include <QSemaphore>
 #include <QString>
 
 #include <array>
@@ -28,19 +28,8 @@ class DecoderPool {
   ~DecoderPool();  // when nothing is open any more
   Q_DISABLE_COPY_MOVE(DecoderPool)
 
-  // Part of the memory of all; making one waits for it.
-  class Share {
-   public:
-    Share(DecoderPool& pool, std::uint64_t bytes);
-    ~Share();
-    Q_DISABLE_COPY_MOVE(Share)
-
-   private:
-    QSemaphore& all_;
-    const int megabytes_;
-  };
-
   const QString& program() const { return program_; }
+  MemoryBudget& memory() { return memory_; }
 
   struct Patience {
     std::chrono::seconds time;           // for each thing that is asked of the file
@@ -48,8 +37,8 @@ class DecoderPool {
   };
 
   // Null if the file can't be read. It may be closed when this returns.
-  std::unique_ptr<OpenedFile> open(Role role, const posix::Descriptor& file,
-                                   const Request& request, Patience patience);
+  std::unique_ptr<OpenedFile> open(Role role, const posix::Descriptor& file, const Request& request,
+                                   Patience patience);
 
   // Starts a decoder for the files that are to come, unless there is one. Doesn't wait for it.
   void warmUp(Role role);
@@ -57,14 +46,13 @@ class DecoderPool {
  private:
   friend class OpenedFile;
 
-  std::unique_ptr<OpenedFile> open(Role role, const posix::Descriptor& file,
-                                   const Request& request, Patience patience,
-                                   std::uint64_t memory);
+  std::unique_ptr<OpenedFile> open(Role role, const posix::Descriptor& file, const Request& request,
+                                   Patience patience, std::uint64_t memory);
   std::unique_ptr<DecoderProcess> take(Role role);
   void keep(Role role, std::unique_ptr<DecoderProcess> process);
 
   const QString program_;
-  QSemaphore memory_;  // megabytes
+  MemoryBudget memory_{limits::allMemory};
   QMutex mutex_;
   std::array<std::vector<std::unique_ptr<DecoderProcess>>, std::size(roleNames)> idle_;
 };
@@ -87,9 +75,9 @@ class OpenedFile {
   DecoderPool& pool_;
   const Role role_;
   const DecoderPool::Patience patience_;
-  std::unique_ptr<DecoderPool::Share> share_;  // given back behind the process
-  std::unique_ptr<DecoderProcess> process_;    // null once it is of no use
-  std::uint64_t memory_ = 0;                   // that it has been granted
+  std::unique_ptr<MemoryBudget::Share> share_;  // given back behind the process
+  std::unique_ptr<DecoderProcess> process_;     // null once it is of no use
+  std::uint64_t memory_ = 0;                    // that it has been granted
   Facts facts_;
 };
 

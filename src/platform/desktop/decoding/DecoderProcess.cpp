@@ -25,8 +25,7 @@ std::unique_ptr<DecoderProcess> DecoderProcess::start(const QString& program, Ro
   posix::Descriptor ours(ends[0]), theirs(ends[1]);
   auto process = ChildProcess::start(program, roleNames[int(role)], theirs.number());
   if (!process) return nullptr;
-  return std::unique_ptr<DecoderProcess>(
-      new DecoderProcess(std::move(process), std::move(ours)));
+  return std::unique_ptr<DecoderProcess>(new DecoderProcess(std::move(process), std::move(ours)));
 }
 
 bool DecoderProcess::isAlive() const {

@@ -31,8 +31,8 @@ enum class Action : std::int32_t {
 
 struct Request {
   Action action = Action::open;
-  std::int32_t kind = 0;    // an `ImageKind`, if it is a picture
-  std::int32_t width = 0;   // for `open`: of plain pixels, `ImageKind::pixels`
+  std::int32_t kind = 0;   // an `ImageKind`, if it is a picture
+  std::int32_t width = 0;  // for `open`: of plain pixels, `ImageKind::pixels`
   std::int32_t height = 0;
   std::int32_t format = 0;  // an `ExportFormat`
   double quality = 0;
@@ -47,8 +47,8 @@ struct Facts {
   double dpi = 0;          // not above 0 for none
   double pointsWidth = 0;  // of a drawing, at 72 to the inch
   double pointsHeight = 0;
-  double duration = -1;     // seconds; below 0 for none
-  std::uint64_t needs = 0;  // bytes that making something of it takes, beyond what a decoder has
+  double duration = -1;        // seconds; below 0 for none
+  std::uint64_t needs = 0;     // bytes that making something of it takes, beyond what a decoder has
   std::uint64_t rowBytes = 0;  // of a picture that is read row by row, and made smaller
 };
 

@@ -40,7 +40,8 @@ std::shared_ptr<uchar> SharedMemory::map(qint64 bytes) const {
   void* const address =
       ::mmap(nullptr, size_t(bytes), PROT_READ, MAP_SHARED, descriptor_->number(), 0);
   if (address == MAP_FAILED) return nullptr;
-  return {static_cast<uchar*>(address), [bytes](uchar* mapped) { ::munmap(mapped, size_t(bytes)); }};
+  return {static_cast<uchar*>(address),
+          [bytes](uchar* mapped) { ::munmap(mapped, size_t(bytes)); }};
 }
 
 std::optional<QByteArray> SharedMemory::read(qint64 bytes) const {

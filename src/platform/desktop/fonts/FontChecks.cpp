@@ -25,8 +25,8 @@ QList<QByteArray> unwrapped(DecoderPool& decoders, const posix::OpenFile& file) 
   const auto target = font ? SharedMemory::ofSize(room) : std::nullopt;
   const auto product =
       target ? font->make({.action = Action::faces}, *target, font->facts().needs) : std::nullopt;
-  QByteArray bytes = product ? target->read(qint64(product->bytes)).value_or(QByteArray())
-                             : QByteArray();
+  QByteArray bytes =
+      product ? target->read(qint64(product->bytes)).value_or(QByteArray()) : QByteArray();
   QList<QByteArray> faces;
   qsizetype place = 0;
   while (place + qsizetype(sizeof(quint64)) <= bytes.size()) {

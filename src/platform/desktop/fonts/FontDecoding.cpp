@@ -22,8 +22,8 @@ class OpenFont : public ForeignFile {
  public:
   explicit OpenFont(int descriptor) : mapped_(descriptor) {
     const auto bytes = mapped_.bytes();
-    font_ = freetype::FontFile::open(
-        QByteArray::fromRawData(bytes.data(), qsizetype(bytes.size())));
+    font_ =
+        freetype::FontFile::open(QByteArray::fromRawData(bytes.data(), qsizetype(bytes.size())));
   }
 
   bool isFont() const { return font_ != nullptr; }

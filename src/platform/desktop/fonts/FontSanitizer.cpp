@@ -10,7 +10,8 @@ using namespace decoding;
 std::optional<SharedMemory> sanitized(DecoderPool& decoders, const posix::Descriptor& font,
                                       qint64 size) {
   constexpr std::chrono::seconds patience{20};
-  const DecoderPool::Share share(decoders, 3 * std::uint64_t(size) + 16 * limits::megabyte);
+  const MemoryBudget::Share share(decoders.memory(),
+                                  3 * std::uint64_t(size) + 16 * limits::megabyte);
   auto target = SharedMemory::growing();
   if (!target) return std::nullopt;
   const auto process = ChildProcess::start(decoders.program(), sanitizerName, font.number(),

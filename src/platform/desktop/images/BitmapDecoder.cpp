@@ -77,8 +77,7 @@ VImage header(const ImageFile& file) { return open(file); }
 std::uint64_t footprint(ImageKind kind, const VImage& header) {
   if (streams(kind, header)) return 0;
   const auto pixels = std::uint64_t(header.width()) * std::uint64_t(header.height());
-  const auto bytesEach =
-      std::max<std::uint64_t>(4, VIPS_IMAGE_SIZEOF_PEL(header.get_image()));
+  const auto bytesEach = std::max<std::uint64_t>(4, VIPS_IMAGE_SIZEOF_PEL(header.get_image()));
   return pixels * bytesEach;
 }
 

@@ -28,8 +28,7 @@ class Bitmap : public ForeignFile {
     const VImage rendered = Pipeline::render(load(size), size);
     if (request.action == Action::draw) return QtView::write(rendered, target);
     if (request.action != Action::encode) return std::nullopt;
-    const QByteArray bytes =
-        encodeImage(rendered, ExportFormat(request.format), request.quality);
+    const QByteArray bytes = encodeImage(rendered, ExportFormat(request.format), request.quality);
     if (size_t(bytes.size()) > target.size()) return std::nullopt;
     std::memcpy(target.data(), bytes.constData(), size_t(bytes.size()));
     return Product{.bytes = std::uint64_t(bytes.size())};
@@ -49,7 +48,8 @@ class VipsBitmap : public Bitmap {
     facts.width = header_.width();
     facts.height = header_.height();
     facts.hasAlpha = header_.has_alpha();
-    const bool toldNothing = header_.xres() == 1;  // the library's default, in pixels per millimetre
+    const bool toldNothing =
+        header_.xres() == 1;  // the library's default, in pixels per millimetre
     if (!toldNothing) facts.dpi = header_.xres() * 25.4;
     const std::uint64_t once = BitmapDecoder::footprint(file_.kind(), header_);
     const auto copies = std::uint64_t(BitmapDecoder::copiesOf(file_.kind()));
@@ -82,7 +82,7 @@ class QtBitmap : public Bitmap {
     facts.height = properties_->size.height();
     facts.hasAlpha = properties_->hasAlpha;
     facts.dpi = properties_->dpi.value_or(0);
-    facts.needs = std::uint64_t(facts.width) * std::uint64_t(facts.height) * 9;
+    facts.needs = std::uint64_t(facts.width) * std::uint64_t(facts.height) * 11;
     return facts;
   }
 

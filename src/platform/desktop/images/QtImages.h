@@ -5,8 +5,8 @@
 
 namespace tarnloft {
 
-// The kinds, whose bytes are given, that the toolkit reads, since libvips reads them only by a loader that it counts as
-// unsafe.
+// The kinds, whose bytes are given, that the toolkit reads, since libvips reads them only by a
+// loader that it counts as unsafe.
 namespace QtImages {
 
 std::optional<ImageProperties> properties(const ImageFile& file, const QByteArray& bytes);

@@ -21,7 +21,8 @@ std::optional<decoding::Product> write(const VImage& image, std::span<std::byte>
   const auto* source = static_cast<const uchar*>(upright.data());
   std::byte* place = target.data();
   for (int y = 0; y < size.height(); ++y) {
-    const QImage row = QImage(source, size.width(), 1, qsizetype(rowBytes), from).convertToFormat(to);
+    const QImage row =
+        QImage(source, size.width(), 1, qsizetype(rowBytes), from).convertToFormat(to);
     std::memcpy(place, row.constBits(), size_t(size.width()) * 4);
     source += rowBytes;
     place += size_t(size.width()) * 4;

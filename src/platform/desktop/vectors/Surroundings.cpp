@@ -21,9 +21,10 @@ void prepareSurroundings() {
   FcConfigSetRescanInterval(nullptr, 0);  // it would look for new fonts where it can't any more
   // A converter that is open stays loaded; each is.
   for (const char* encoding :
-       {"ISO-8859-1", "ISO-8859-2", "ISO-8859-5", "ISO-8859-7", "ISO-8859-9", "ISO-8859-15",
-        "WINDOWS-1250", "WINDOWS-1251", "WINDOWS-1252", "WINDOWS-1253", "WINDOWS-1254", "KOI8-R",
-        "MACINTOSH", "SHIFT_JIS", "EUC-JP", "ISO-2022-JP", "EUC-KR", "GB18030", "GBK", "BIG5"}) {
+       {"ISO-8859-1",   "ISO-8859-2",   "ISO-8859-5",   "ISO-8859-7",   "ISO-8859-9",
+        "ISO-8859-15",  "WINDOWS-1250", "WINDOWS-1251", "WINDOWS-1252", "WINDOWS-1253",
+        "WINDOWS-1254", "KOI8-R",       "MACINTOSH",    "SHIFT_JIS",    "EUC-JP",
+        "ISO-2022-JP",  "EUC-KR",       "GB18030",      "GBK",          "BIG5"}) {
     static_cast<void>(::iconv_open("UTF-8", encoding));
   }
 }

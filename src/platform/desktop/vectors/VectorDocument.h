@@ -1,6 +1,5 @@
 #pragma once
 
-
 #include <cairo.h>
 #include <memory>
 #include <optional>

@@ -32,7 +32,7 @@ std::uint64_t memoryNow() {
 }
 
 bool limitResources(const Cage& cage) {
-  std::signal(SIGXFSZ, SIG_IGN);  // a cache of fonts that can't be written is no reason to end
+  std::signal(SIGXFSZ, SIG_IGN);    // a cache of fonts that can't be written is no reason to end
 #if !defined(__SANITIZE_ADDRESS__)  // which reserves terabytes
   const std::uint64_t now = memoryNow();
   if (now == 0 || !limit(RLIMIT_DATA, now + cage.basicMemory, now + cage.mostMemory)) return false;
@@ -52,8 +52,8 @@ class Filter {
 
   template <class... Conditions>
   void allow(int call, Conditions... conditions) {
-    isSound_ &= seccomp_rule_add(context_, SCMP_ACT_ALLOW, call, sizeof...(conditions),
-                                 conditions...) == 0;
+    isSound_ &=
+        seccomp_rule_add(context_, SCMP_ACT_ALLOW, call, sizeof...(conditions), conditions...) == 0;
   }
   void tellMissing(int call) {
     isSound_ &= seccomp_rule_add(context_, SCMP_ACT_ERRNO(ENOSYS), call, 0) == 0;
@@ -68,8 +68,8 @@ class Filter {
 constexpr int harmlessCalls[] = {
     SCMP_SYS(read), SCMP_SYS(readv), SCMP_SYS(pread64), SCMP_SYS(preadv), SCMP_SYS(lseek),
     SCMP_SYS(write), SCMP_SYS(writev), SCMP_SYS(close), SCMP_SYS(dup), SCMP_SYS(fstat),
-    SCMP_SYS(fadvise64), SCMP_SYS(recvmsg), SCMP_SYS(recvfrom), SCMP_SYS(sendmsg),
-    SCMP_SYS(sendto), SCMP_SYS(poll), SCMP_SYS(ppoll), SCMP_SYS(eventfd2),
+    SCMP_SYS(fadvise64), SCMP_SYS(recvmsg), SCMP_SYS(recvfrom), SCMP_SYS(sendmsg), SCMP_SYS(sendto),
+    SCMP_SYS(poll), SCMP_SYS(ppoll), SCMP_SYS(eventfd2),
     // memory
     SCMP_SYS(munmap), SCMP_SYS(mremap), SCMP_SYS(mprotect), SCMP_SYS(madvise), SCMP_SYS(brk),
     // threads
@@ -77,19 +77,18 @@ constexpr int harmlessCalls[] = {
     SCMP_SYS(sched_yield), SCMP_SYS(sched_getaffinity), SCMP_SYS(getcpu), SCMP_SYS(exit),
     SCMP_SYS(exit_group), SCMP_SYS(gettid), SCMP_SYS(getpid),
     // signals to itself
-    SCMP_SYS(rt_sigaction), SCMP_SYS(rt_sigprocmask), SCMP_SYS(rt_sigreturn),
-    SCMP_SYS(sigaltstack), SCMP_SYS(restart_syscall),
+    SCMP_SYS(rt_sigaction), SCMP_SYS(rt_sigprocmask), SCMP_SYS(rt_sigreturn), SCMP_SYS(sigaltstack),
+    SCMP_SYS(restart_syscall),
     // what it may know
-    SCMP_SYS(clock_gettime), SCMP_SYS(clock_getres), SCMP_SYS(clock_nanosleep),
-    SCMP_SYS(nanosleep), SCMP_SYS(gettimeofday), SCMP_SYS(time), SCMP_SYS(times),
-    SCMP_SYS(getrusage), SCMP_SYS(getrlimit), SCMP_SYS(sysinfo), SCMP_SYS(uname),
-    SCMP_SYS(getrandom), SCMP_SYS(getuid), SCMP_SYS(geteuid), SCMP_SYS(getgid),
-    SCMP_SYS(getegid)};
+    SCMP_SYS(clock_gettime), SCMP_SYS(clock_getres), SCMP_SYS(clock_nanosleep), SCMP_SYS(nanosleep),
+    SCMP_SYS(gettimeofday), SCMP_SYS(time), SCMP_SYS(times), SCMP_SYS(getrusage),
+    SCMP_SYS(getrlimit), SCMP_SYS(sysinfo), SCMP_SYS(uname), SCMP_SYS(getrandom), SCMP_SYS(getuid),
+    SCMP_SYS(geteuid), SCMP_SYS(getgid), SCMP_SYS(getegid)};
 
-constexpr int readingCalls[] = {SCMP_SYS(newfstatat), SCMP_SYS(stat), SCMP_SYS(lstat),
-                                SCMP_SYS(statx), SCMP_SYS(access), SCMP_SYS(faccessat),
+constexpr int readingCalls[] = {SCMP_SYS(newfstatat), SCMP_SYS(stat),     SCMP_SYS(lstat),
+                                SCMP_SYS(statx),      SCMP_SYS(access),   SCMP_SYS(faccessat),
                                 SCMP_SYS(faccessat2), SCMP_SYS(readlink), SCMP_SYS(readlinkat),
-                                SCMP_SYS(getdents64), SCMP_SYS(statfs), SCMP_SYS(fstatfs)};
+                                SCMP_SYS(getdents64), SCMP_SYS(statfs),   SCMP_SYS(fstatfs)};
 
 constexpr int startingCalls[] = {SCMP_SYS(execve), SCMP_SYS(openat), SCMP_SYS(arch_prctl),
                                  SCMP_SYS(set_tid_address), SCMP_SYS(ftruncate)};

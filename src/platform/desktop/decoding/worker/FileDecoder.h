@@ -17,7 +17,8 @@ class ForeignFile {
   virtual ~ForeignFile() = default;
 
   virtual Facts facts() = 0;
-  // What a request other than `open` asks for, in `target`; none if it can't be made or has no room.
+  // What a request other than `open` asks for, in `target`; none if it can't be made or has no
+  // room.
   virtual std::optional<Product> make(const Request& request, std::span<std::byte> target) = 0;
 };
 
@@ -39,7 +40,8 @@ FileDecoder& moduleDecoder();
 
 }  // namespace tarnloft::decoding
 
-// Each role stands in a module of its own with this entry; what it gives lives as long as the process.
+// Each role stands in a module of its own with this entry; what it gives lives as long as the
+// process.
 #define TARNLOFT_DECODER_ENTRY extern "C" __attribute__((visibility("default")))
 
 TARNLOFT_DECODER_ENTRY tarnloft::decoding::FileDecoder* tarnloftDecoder();

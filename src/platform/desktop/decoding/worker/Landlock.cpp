@@ -68,8 +68,8 @@ bool keepTo(const std::vector<Place>& places) {
   const int ruleset = int(::syscall(createRuleset, &rights, sizeof rights, 0u));
   if (ruleset < 0) return false;
   for (const Place& place : places) allow(ruleset, rights.files, place);
-  const bool isBound = ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
-                       ::syscall(restrictSelf, ruleset, 0u) == 0;
+  const bool isBound =
+      ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 && ::syscall(restrictSelf, ruleset, 0u) == 0;
   ::close(ruleset);
   return isBound;
 }
