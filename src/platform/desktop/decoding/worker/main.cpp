@@ -22,6 +22,7 @@ namespace tarnloft::decoding {
 namespace {
 
 constexpr int channel = STDIN_FILENO;
+constexpr int keptMemory = 16 << 20;  // bytes that are free and stay for the next file
 
 // An open file of the parent's; closed on destruction.
 class Attachment {
@@ -136,7 +137,7 @@ class Service {
   void close() {
     file_ = nullptr;
     input_ = Attachment();
-    ::malloc_trim(0);
+    if (::mallinfo2().fordblks > size_t(keptMemory)) ::malloc_trim(0);
   }
 
   FileDecoder& decoder_;
@@ -153,9 +154,10 @@ FileDecoder* load(const char* role) {
   return entry ? reinterpret_cast<Entry>(entry)() : nullptr;
 }
 
-// Stacks count as memory, used or not; and what is freed shall be the system's again.
+// Stacks count as memory, used or not; and much that is freed shall be the system's again.
 void setUpMemory() {
-  ::mallopt(M_MMAP_THRESHOLD, 1 << 20);
+  ::mallopt(M_MMAP_THRESHOLD, 8 << 20);
+  ::mallopt(M_TRIM_THRESHOLD, keptMemory);
   ::mallopt(M_ARENA_MAX, 1);  // each keeps what its threads have freed
   pthread_attr_t attributes;
   pthread_attr_init(&attributes);
