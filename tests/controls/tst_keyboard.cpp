@@ -122,7 +122,7 @@ class TestKeyboard : public QObject {
         {"search", "SearchField { onTextEdited: log(text || 'cleared') }",
          QList<int>{Key_A, Key_Escape, Key_Escape}, "a cleared"},
         {"text area is left by Tab",
-         "Column { TextArea { onEdited: log(text) }\n"
+         "Column { TextArea { onEdited: text => log(text) }\n"
          "  Button { enabled: false }\n"
          "  Button { text: 'A'; onClicked: log('clicked') } }",
          QList<int>{Key_A, Key_Tab, Key_Space}, "a clicked"}};

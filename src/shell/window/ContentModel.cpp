@@ -1,6 +1,7 @@
 #include "shell/window/ContentModel.h"
 
 #include "assets/FontManager.h"
+#include "model/ShownText.h"
 #include "platform/DesktopWords.h"
 #include "shell/help/AboutSheet.h"
 #include "shell/help/ShortcutsSheet.h"
@@ -67,7 +68,8 @@ QVariantList ContentModel::pages() const {
 QString ContentModel::title() const {
   const QString program = QStringLiteral("Tarn Loft");
   const BrandDocument* const open = library_.openDocument();
-  return open ? open->brand().name + QStringLiteral(" — ") + program : program;
+  if (!open) return program;
+  return shownText(open->brand().name, mostInTitle) + QStringLiteral(" — ") + program;
 }
 
 void ContentModel::askNewBrand() {
