@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/DocumentServices.h"
+#include "library/PlainBrands.h"
 #include "platform/Appearance.h"
 #include "platform/Archiver.h"
 #include "platform/Beep.h"
@@ -30,6 +31,10 @@ struct LibraryServices {
   QString applicationSupport;
   // The user's folder for files of the moment.
   QString temporaryFolder;
+  // Where it is kept which brand is being opened; empty for nowhere.
+  QString openingFile = {};
+  // Asked by those who decode the files of packages.
+  std::shared_ptr<PlainBrands> plain = std::make_shared<PlainBrands>();
   // For what takes long, such as copies of whole packages.
   DiskWork& copies = immediateDisk();
   // For what only reads, and would be behind what is written.

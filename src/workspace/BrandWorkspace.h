@@ -77,6 +77,9 @@ class BrandWorkspace : public QObject {
   BrandDocument* document() const { return document_; }  // null once it has gone
   TileSelection& selection() const { return window_.selection; }
 
+  // The brand is shown without its fonts and pictures.
+  bool isPlain() const { return services_.library.isPlain(); }
+
   EmblemLook lookOf(const std::optional<Emblem>& emblem, const QString& defaultSymbol) const;
   // Empty for a name that leads out of the package.
   QString assetPath(const AssetRef& asset) const;

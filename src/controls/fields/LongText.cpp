@@ -15,6 +15,10 @@ qsizetype borderBehind(const QString& text, qsizetype start) {
 
 }  // namespace
 
+QString LongText::firstPart(const QString& text) {
+  return text.size() <= mostUndivided ? text : text.left(borderBehind(text, 0));
+}
+
 void LongText::setText(const QString& text) {
   if (text_ == text) return;
   text_ = text;

@@ -24,6 +24,9 @@ class LongText : public QObject {
 
   using QObject::QObject;
 
+  // What a field shows at first of a text.
+  static QString firstPart(const QString& text);
+
   const QString& text() const { return text_; }
   void setText(const QString& text);
   QString part() const;

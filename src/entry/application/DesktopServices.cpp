@@ -32,6 +32,8 @@ LibraryServices DesktopServices::forLibrary() {
           .makeColorSampler = [this] { return makeColorSampler(); },
           .applicationSupport = SupportFolder::applicationSupportFolder(),
           .temporaryFolder = QDir::tempPath(),
+          .openingFile = stateFile("tarnloft-opening"),
+          .plain = plain,
           .copies = copies,
           .searches = searches};
 }
@@ -90,12 +92,12 @@ bool DesktopServices::finish(std::chrono::milliseconds patience) {
          QThreadPool::globalInstance()->waitForDone(remaining());
 }
 
-QString DesktopServices::stateFile() {
+QString DesktopServices::stateFile(const char* name) {
   // The toolkit of this version doesn't know the folder.
   const QString folder = qEnvironmentVariable("XDG_STATE_HOME");
   const bool usable = QDir::isAbsolutePath(folder);
   return (usable ? folder : QDir::homePath() + QStringLiteral("/.local/state")) +
-         QStringLiteral("/tarnloft.ini");
+         QLatin1Char('/') + QLatin1String(name);
 }
 
 }  // namespace tarnloft

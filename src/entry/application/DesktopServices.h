@@ -51,7 +51,8 @@ struct DesktopServices {
   MimeContentTypes types;
   FreeTypeFonts fonts;
   QtDragSession dragSession;
-  MediaServices media{files};
+  const std::shared_ptr<PlainBrands> plain = std::make_shared<PlainBrands>();
+  MediaServices media{files, *plain};
   DiskThread disk;
   DiskThread copies;
   DiskThread searches;
@@ -70,8 +71,8 @@ struct DesktopServices {
   // most so long. False if some still do.
   bool finish(std::chrono::milliseconds patience);
 
-  // "tarnloft.ini" in the user's folder for state.
-  static QString stateFile();
+  // A file of ours in the user's folder for state.
+  static QString stateFile(const char* name = "tarnloft.ini");
 
  private:
   std::unique_ptr<ColorSampler> makeColorSampler() const;

@@ -15,10 +15,10 @@ namespace tarnloft {
 // Pictures and clips, and the one place that keeps their thumbnails. Nothing of it is loaded before
 // the first file is asked for.
 struct MediaServices {
-  explicit MediaServices(const FileStore& files)
-      : images(files, keptImages),
-        videos(files, keptVideos),
-        clipPlayers(files, lateClipPlayers),
+  MediaServices(const FileStore& files, const PlainBrands& plain)
+      : images(files, keptImages, plain),
+        videos(files, keptVideos, plain),
+        clipPlayers(files, lateClipPlayers, plain),
         specs(files, images, videos, work) {}
 
   LateImages lateImages;

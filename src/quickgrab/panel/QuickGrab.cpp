@@ -136,7 +136,7 @@ void QuickGrab::filter() {
 // A font draws by its family from its registration on; it costs, so only where fonts are shown.
 void QuickGrab::registerFonts() {
   const BrandDocument* const open = library_.openDocument();
-  if (!open || !prefs_.showType() || std::exchange(fontsOf_, packageURL_) == packageURL_) return;
+  if (!open || library_.isPlain() || !prefs_.showType() || std::exchange(fontsOf_, packageURL_) == packageURL_) return;
   services_.workers.start(
       [brand = open->brand(), package = open->files(), &fonts = services_.fonts] {
         FontManager::registerAll(brand, package, fonts);
