@@ -31,14 +31,14 @@ struct LibraryServices {
   QString applicationSupport;
   // The user's folder for files of the moment.
   QString temporaryFolder;
-  // Where it is kept which brand is being opened; empty for nowhere.
-  QString openingFile = {};
-  // Asked by those who decode the files of packages.
-  std::shared_ptr<PlainBrands> plain = std::make_shared<PlainBrands>();
   // For what takes long, such as copies of whole packages.
   DiskWork& copies = immediateDisk();
   // For what only reads, and would be behind what is written.
   DiskWork& searches = immediateDisk();
+  // Where it is kept which brand is being opened; empty for nowhere.
+  QString openingFile = {};
+  // Asked by those who decode the files of packages.
+  std::shared_ptr<PlainBrands> plain = std::make_shared<PlainBrands>();
 };
 
 }  // namespace tarnloft

@@ -32,10 +32,10 @@ LibraryServices DesktopServices::forLibrary() {
           .makeColorSampler = [this] { return makeColorSampler(); },
           .applicationSupport = SupportFolder::applicationSupportFolder(),
           .temporaryFolder = QDir::tempPath(),
-          .openingFile = stateFile("tarnloft-opening"),
-          .plain = plain,
           .copies = copies,
-          .searches = searches};
+          .searches = searches,
+          .openingFile = stateFile("tarnloft-opening"),
+          .plain = plain};
 }
 
 WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
