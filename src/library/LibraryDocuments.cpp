@@ -20,6 +20,7 @@ void LibraryStore::select(const std::optional<QString>& packageURL) {
 void LibraryStore::loadSelection() {
   if (!selection_) return setOpenDocument(nullptr);
   if (openDocument_ && openDocument_->packageURL() == *selection_) return;
+  opening_.begin(*selection_);
   if (auto kept = unsaved_.take(*selection_)) return setOpenDocument(std::move(kept));
   load(*selection_);
   if (!isLoading()) return;
@@ -86,6 +87,7 @@ void LibraryStore::setOpenDocument(std::unique_ptr<BrandDocument> document) {
 
 void LibraryStore::packageMoved(BrandDocument& document) {
   if (&document == openDocument_.get()) {
+    if (selection_) opening_.moved(*selection_, document.packageURL());
     selection_ = document.packageURL();
     emit selectionChanged();
     emit openDocumentChanged();
@@ -172,6 +174,36 @@ void LibraryStore::whenLoaded(const QString& packageURL, std::function<void()> t
   if (selection_ != packageURL) select(packageURL);
   if (!isLoading()) return then();
   afterLoading_ = std::move(then);
+}
+
+const BrandSummary* LibraryStore::endedOpening() const {
+  const auto row = std::ranges::find(brands_, opening_.ended(), &BrandSummary::packageURL);
+  return row == brands_.cend() ? nullptr : &*row;
+}
+
+void LibraryStore::answerEndedOpening(EndedOpening answer) {
+  const QString packageURL = opening_.ended();
+  opening_.answer();
+  if (answer == EndedOpening::open) select(packageURL);
+}
+
+bool LibraryStore::isPlain() const {
+  return openDocument_ && opening_.isPlain(openDocument_->packageURL());
+}
+
+void LibraryStore::showWholly() {
+  if (!isPlain()) return;
+  beginShowing();
+  opening_.trust(openDocument_->packageURL());
+  emit plainChanged();
+}
+
+void LibraryStore::beginShowing() {
+  if (openDocument_) opening_.begin(openDocument_->packageURL());
+}
+
+void LibraryStore::endShowing(std::chrono::milliseconds patience) {
+  if (opening_.end()) (void)services_.document.disk.finish(patience);
 }
 
 void LibraryStore::tell(const QString& title, const QString& message) {

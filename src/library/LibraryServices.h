@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/DocumentServices.h"
+#include "library/PlainBrands.h"
 #include "platform/Appearance.h"
 #include "platform/Archiver.h"
 #include "platform/Beep.h"
@@ -34,6 +35,10 @@ struct LibraryServices {
   DiskWork& copies = immediateDisk();
   // For what only reads, and would be behind what is written.
   DiskWork& searches = immediateDisk();
+  // Where it is kept which brand is being opened; empty for nowhere.
+  QString openingFile = {};
+  // Asked by those who decode the files of packages.
+  std::shared_ptr<PlainBrands> plain = std::make_shared<PlainBrands>();
 };
 
 }  // namespace tarnloft

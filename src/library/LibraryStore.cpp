@@ -30,6 +30,8 @@ LibraryStore::LibraryStore(const LibraryServices& services)
       places_(std::make_shared<PackagePlaces>(services.document.files)),
       documentServices_(withPlaces(services.document, places_)),
       preferences_(services.preferences),
+      opening_(services.document.files, services.document.disk, services.openingFile,
+               services.plain),
       search_(std::make_shared<GlobalSearch>(services.document.files)),
       libraryURL_(defaultLibraryURL(services)) {
   connect(&preferences_, &LibraryPreferences::appearanceModeChanged, this,
@@ -91,13 +93,14 @@ void LibraryStore::tellStranded() {
 // Reads the first brand too: it is what a start shows.
 void LibraryStore::openLibrary() {
   onDisk(
-      [services = documentServices_, folder = libraryURL_, order = preferences_.brandOrder()] {
+      [services = documentServices_, folder = libraryURL_, order = preferences_.brandOrder(),
+       mark = opening_.marking()] {
         FileStore& files = services.files;
         (void)files.makeFolder(folder);
         LibraryListing::renameLegacyPackages(files, folder);
         OpenedLibrary opened{LibraryListing::read(files, folder), std::nullopt};
         const auto rows = LibraryListing::sorted(opened.listing.rows, order);
-        if (rows.isEmpty()) return opened;
+        if (rows.isEmpty() || !mark(rows.first().packageURL)) return opened;
         if (auto first = PackageWriter::open(services, rows.first().packageURL)) {
           opened.first = std::move(*first);
         }
@@ -114,12 +117,15 @@ void LibraryStore::libraryOpened(OpenedLibrary&& opened) {
       },
       [] {}, DiskWork::Patience::none);
   applyListing(opened.listing);
+  emit endedOpeningChanged();
   if (selection_) return;
+  if (!brands_.isEmpty() && opening_.isSuspect(brands_.first().packageURL)) return;
   if (brands_.isEmpty() || !opened.first ||
       opened.first->packageURL != brands_.first().packageURL) {
     return selectFirst();
   }
   selection_ = opened.first->packageURL;
+  opening_.began(*selection_);
   emit selectionChanged();
   setOpenDocument(makeDocument(std::move(*opened.first)));
 }

@@ -7,6 +7,7 @@
 #include "library/LibraryListing.h"
 #include "library/LibraryPreferences.h"
 #include "library/LibraryServices.h"
+#include "library/OpeningWatch.h"
 #include "library/PackagePlaces.h"
 #include "library/UnsavedDocuments.h"
 
@@ -61,6 +62,21 @@ class LibraryStore : public QObject {
   BrandDocument* openDocument() const { return openDocument_.get(); }
   // True while the selected package is being read.
   bool isLoading() const { return selection_ && loading_.contains(*selection_); }
+
+  // --- Brands that ended the program while they were opened. They aren't opened by themselves, and
+  // are shown without their fonts and pictures until the user wants these.
+
+  // The one that the last end left, until it is answered; null for none.
+  const BrandSummary* endedOpening() const;
+  enum class EndedOpening { leave, open };
+  void answerEndedOpening(EndedOpening answer);
+  // The open brand is one of them.
+  bool isPlain() const;
+  void showWholly();
+  // The open brand's page is about to be shown.
+  void beginShowing();
+  // The program ends as it should: what is being opened isn't to blame.
+  void endShowing(std::chrono::milliseconds patience);
 
   // --- Work that isn't on disk
 
@@ -168,6 +184,8 @@ class LibraryStore : public QObject {
   // A document's `saveProblem`, or which there are.
   void unsavedChanged();
   void noticesChanged();
+  void endedOpeningChanged();
+  void plainChanged();  // of the open brand
   void trashRefused(const BrandSummary& brand, const QString& reason);
   void newBrandRequestedChanged();
   void scrollToSectionChanged();
@@ -230,6 +248,7 @@ class LibraryStore : public QObject {
   const std::shared_ptr<PackagePlaces> places_;
   const DocumentServices documentServices_;  // with them
   LibraryPreferences preferences_;
+  OpeningWatch opening_;
   const std::shared_ptr<GlobalSearch> search_;  // with the searches under way
   QString libraryURL_;
   QString wantedLibrary_;  // the folder that is being looked at, or was last

@@ -2,12 +2,15 @@
 
 #include "document/Package.h"
 #include "model/Characters.h"
+#include "model/ShownText.h"
 #include "pictures/HexColor.h"
 #include "pictures/MonogramColor.h"
 #include "publish/ColorUtil.h"
 
 namespace tarnloft {
 namespace {
+
+constexpr qsizetype mostEmoji = 64;  // one may be several code points
 
 using Ground = EmblemStyle::Ground;
 using Ink = EmblemStyle::Ink;
@@ -23,9 +26,9 @@ Ink inkOn(const QString& hex) {
 }
 
 EmblemLook fallback(const EmblemPlace& place) {
-  const QString seed = place.monogramSeed.trimmed();
+  const QString seed = shownText(place.monogramSeed).trimmed();
   if (seed.isEmpty()) return {Ground::NoGround, {}, Mark::Bare, place.defaultSymbol, Ink::Fallback};
-  const QColor color = place.monogramColor.value_or(monogramColor(place.monogramSeed));
+  const QColor color = place.monogramColor.value_or(monogramColor(shownText(place.monogramSeed)));
   return {Ground::Filled, color, Mark::Monogram, firstCharacter(seed).toUpper(), Ink::White};
 }
 
@@ -39,7 +42,7 @@ EmblemLook symbolLook(const Emblem& emblem, const EmblemPlace& place) {
 EmblemLook emojiLook(const Emblem& emblem) {
   const Ground ground = emblem.colorHex ? Ground::Filled : Ground::NoGround;
   return {ground, shownColor(emblem.colorHex.value_or(QString())), Mark::Emoji,
-          emblem.emoji.value_or(QString()), Ink::Primary};
+          emblem.emoji.value_or(QString()).left(mostEmoji), Ink::Primary};
 }
 
 EmblemLook imageLook(const Emblem& emblem, const EmblemPlace& place) {

@@ -128,7 +128,7 @@ void itemHTML(const Item& item, const PageSource& source, PageSink& sink) {
 }
 
 void colorHTML(const ColorValue& color, const QList<UsageNote>& notes, PageSink& sink) {
-  const QString upper = color.hex.toUpper();
+  const QString upper = plainColor(color.hex.toUpper());
   const QByteArray hex = upper.toUtf8();
   sink << "      <div class=\"swatch\" onclick=\"copyHex('" << hex << "')\" title=\"Click to copy "
        << hex << "\">\n"
@@ -145,7 +145,8 @@ void colorHTML(const ColorValue& color, const QList<UsageNote>& notes, PageSink&
        << "      </div>";
 }
 
-void gradientHTML(const GradientValue& gradient, PageSink& sink) {
+void gradientHTML(GradientValue gradient, PageSink& sink) {
+  for (GradientStop& stop : gradient.stops) stop.hex = plainColor(stop.hex.toUpper());
   const QByteArray label = escaped(gradient.name.value_or(QStringLiteral("Gradient")));
   const QString css = gradient.cssString();
   sink << "      <div class=\"swatch\" title=\"" << label << "\">\n"
@@ -158,11 +159,12 @@ void gradientHTML(const GradientValue& gradient, PageSink& sink) {
 void fontHTML(const FontValue& font, const PageSource& source, PageSink& sink) {
   QString sample = font.sampleText.value_or(QString());
   if (sample.isEmpty()) sample = QStringLiteral("The quick brown fox jumps");
-  // The family's quotes end the attribute early. Pages have always stood so.
+  // The family's quotes end the attribute early, and its words become attributes without values.
+  // Pages have always stood so.
   sink << "      <div class=\"type full\">\n"
        << "        <div class=\"spec\" style=\"font-family: " << cssFamily(font.family).toUtf8()
        << ", system-ui;\">" << escaped(sample) << "</div>\n"
-       << "        <div class=\"label\">" << escaped(font.family);
+       << "        <div class=\"label\">" << escaped(plainFamily(font.family));
   if (font.weight) sink << " · " << escaped(*font.weight);
   if (font.asset && writeDataURLBehind(" · <a href=\"", *font.asset, source, sink)) {
     sink << "\" download=\"" << escaped(font.asset->originalName) << "\">Download font</a>";

@@ -11,7 +11,7 @@ namespace tarnloft::BrandPageExporter {
 void sectionHTML(const Section& section, const PageSource& source, PageSink& sink);
 void itemHTML(const Item& item, const PageSource& source, PageSink& sink);
 void colorHTML(const ColorValue& color, const QList<UsageNote>& notes, PageSink& sink);
-void gradientHTML(const GradientValue& gradient, PageSink& sink);
+void gradientHTML(GradientValue gradient, PageSink& sink);
 void fontHTML(const FontValue& font, const PageSource& source, PageSink& sink);
 void logoHTML(const LogoValue& logo, const PageSource& source, const QList<UsageNote>& notes,
               PageSink& sink);

@@ -2,6 +2,8 @@
 
 #include "model/FileName.h"
 
+#include <QRegularExpression>
+
 #include <array>
 #include <modp_b64.h>
 #include <utility>
@@ -72,8 +74,21 @@ QByteArrayView mimeType(const QString& extension) {
   return "application/octet-stream";
 }
 
+QString plainColor(const QString& text) {
+  static const QRegularExpression marks(QStringLiteral("[<>=\"']"));
+  // References to those characters, of which browsers ask no semicolon.
+  static const QRegularExpression references(QStringLiteral("&+(?=#|quot|apos|[lg]t)"),
+                                             QRegularExpression::CaseInsensitiveOption);
+  return QString(text).remove(marks).remove(references);
+}
+
+QString plainFamily(const QString& family) {
+  static const QRegularExpression marks(QStringLiteral("[<>=]"));
+  return QString(family).remove(marks);
+}
+
 QString cssFamily(const QString& family) {
-  QString bare = family;
+  QString bare = plainFamily(family);
   bare.remove(QLatin1Char('"'));
   return QLatin1Char('"') + bare + QLatin1Char('"');
 }

@@ -14,7 +14,15 @@ QByteArray escaped(const QString& text);
 // Of a lower-case file extension; "application/octet-stream" for one that isn't known.
 QByteArrayView mimeType(const QString& extension);
 
-// A font family as it stands in the page's CSS: in double quotes, its own double quotes removed.
+// A colour's text as the page prints it, unescaped, in scripts and styles: without what no colour
+// holds and what could end either, also where it hides in a character reference.
+QString plainColor(const QString& text);
+
+// A font family as the page shows it, without what no family holds and what could end a tag.
+QString plainFamily(const QString& family);
+
+// A font family as it stands in the page's CSS: plain, in double quotes, its own double quotes
+// removed.
 QString cssFamily(const QString& family);
 
 // A data URL that stands in the sink already.

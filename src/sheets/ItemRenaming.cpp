@@ -1,6 +1,7 @@
 #include "sheets/ItemRenaming.h"
 
 #include "model/FileName.h"
+#include "model/ShownText.h"
 
 namespace tarnloft::ItemRenaming {
 namespace {
@@ -27,7 +28,7 @@ std::optional<QString> renameFootnote(const Item& item) {
   return QStringLiteral(
              "Also renames the file handed to other apps when you drag out (keeps its .%1 "
              "extension).")
-      .arg(extension);
+      .arg(shownText(extension));
 }
 
 void applyRename(Item& item, const QString& newName) {

@@ -50,11 +50,11 @@ FocusScope {
             leftPadding: 7
             rightPadding: 7
             topPadding: (Theme.controlHeight(ControlSize.Regular) - Theme.body.pixelSize * 1.2) / 2
-            bottomPadding: topPadding
+            bottomPadding: topPadding + pagerHeight
             placeholderText: "Guidance"
-            text: root.text
+            whole: root.text
             focus: true
-            onEdited: root.sheet.setText(root.index, text)
+            onEdited: text => root.sheet.setText(root.index, text)
         }
     }
 

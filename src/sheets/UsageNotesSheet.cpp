@@ -1,5 +1,7 @@
 #include "sheets/UsageNotesSheet.h"
 
+#include "model/ShownText.h"
+
 #include <utility>
 
 namespace tarnloft {
@@ -12,7 +14,7 @@ UsageNotesSheet::UsageNotesSheet(std::unique_ptr<ItemBinding> item) : item_(std:
 
 void UsageNotesSheet::follow() {
   notes_.setNotes(item_->item().usageNotes());
-  const QString title = item_->item().displayName();
+  const QString title = shownText(item_->item().displayName());
   if (std::exchange(title_, title) != title) emit titleChanged();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/sheets/SheetHost.h"
+#include "model/ShownText.h"
 #include "sheets/emblems/EmblemWords.h"
 #include "workspace/ToastCenter.h"
 #include "workspace/WorkspaceServices.h"
@@ -24,7 +25,8 @@ class BrandWorkspace : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the application")
-  Q_PROPERTY(QString name READ name NOTIFY nameChanged)
+  Q_PROPERTY(QString name READ name NOTIFY nameChanged)  // as it is shown
+  Q_PROPERTY(QString wholeName READ wholeName NOTIFY nameChanged)
   Q_PROPERTY(tarnloft::SectionListModel* sections READ sections CONSTANT)
   Q_PROPERTY(tarnloft::PageSearch* search READ search CONSTANT)
   // The page's own search finds nothing.
@@ -46,7 +48,8 @@ class BrandWorkspace : public QObject {
                  const WorkspaceServices& services, QObject* parent = nullptr);
   ~BrandWorkspace() override;
 
-  const QString& name() const { return name_; }
+  QString name() const { return shownText(name_); }
+  const QString& wholeName() const { return name_; }
   SectionListModel* sections() { return &sections_; }
   PageSearch* search() { return &search_; }
   bool isNothingFound() const { return isNothingFound_; }
@@ -73,6 +76,9 @@ class BrandWorkspace : public QObject {
 
   BrandDocument* document() const { return document_; }  // null once it has gone
   TileSelection& selection() const { return window_.selection; }
+
+  // The brand is shown without its fonts and pictures.
+  bool isPlain() const { return services_.library.isPlain(); }
 
   EmblemLook lookOf(const std::optional<Emblem>& emblem, const QString& defaultSymbol) const;
   // Empty for a name that leads out of the package.

@@ -1,5 +1,7 @@
 #include "workspace/ToastCenter.h"
 
+#include "model/ShownText.h"
+
 #include <utility>
 
 namespace tarnloft {
@@ -12,7 +14,7 @@ ToastCenter::ToastCenter(std::chrono::milliseconds shownFor, QObject* parent) : 
 
 void ToastCenter::show(const QString& text) {
   clearWork_.start();
-  setMessage(text);
+  setMessage(shownText(text));
 }
 
 void ToastCenter::setUnderWay(const QString& text) {

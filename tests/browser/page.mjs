@@ -2,7 +2,7 @@
 // Exits with 77, and says why, where no browser can be had.
 import assert from 'node:assert/strict';
 import { execFileSync } from 'node:child_process';
-import { accessSync, mkdtempSync, readdirSync, readFileSync, rmSync } from 'node:fs';
+import { accessSync, mkdirSync, mkdtempSync, readdirSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
 import { pathToFileURL } from 'node:url';
@@ -81,6 +81,35 @@ const checks = {
   },
 };
 
+// As references, since the page prints colours in capitals.
+const CODE = [...'ran=1'].map(c => `&#${c.charCodeAt(0)};`).join('');
+const HOSTILE = [`');${CODE}//`, `&#39;);${CODE}//`, `&=#x27;);${CODE}//`, '"><img src=x onerror=ran=1>', '</style><script>ran=1</script>',
+  '" onfocus="ran=1" tabindex="1" x="', '" onfocus=ran=1 tabindex=1 x="'];
+
+// A brand whose colours, accent and font family would each run a script.
+function writeHostile(path, manifest, text) {
+  const [section] = manifest.sections, [item] = section.items;
+  const payloads = [{ color: { value: { hex: text } } }, { font: { value: { family: text } } },
+    { gradient: { value: { angle: 0, stops: [{ id: item.id, hex: text, location: 0 }] } } }];
+  const items = payloads.map((payload, i) => ({ id: item.id.slice(0, -1) + i, payload }));
+  mkdirSync(path);
+  writeFileSync(join(path, 'manifest.json'), JSON.stringify({ ...manifest, accentHex: text, sections: [{ ...section, items }] }));
+}
+
+async function checkHostile(browser, folder, manifest) {
+  for (const [i, text] of HOSTILE.entries()) {
+    const path = join(folder, `${i}.tarnloft`);
+    writeHostile(path, manifest, text);
+    execFileSync(program, ['--export-page', path, `${path}.html`]);
+    const { page } = await openPage(browser, `${path}.html`);
+    const ran = await page.evaluate(() => {
+      for (const element of document.querySelectorAll('*')) { element.click(); element.focus(); }
+      return [window.ran, document.scripts.length];
+    });
+    assert.deepEqual(ran, [undefined, 1], `the page runs ${text}`);
+  }
+}
+
 async function openPage(browser, file) {
   const context = await browser.newContext({ permissions: ['clipboard-read', 'clipboard-write'], colorScheme: 'light' });
   const page = await context.newPage();
@@ -107,6 +136,7 @@ try {
       ++passed;
     }
     assert.deepEqual(complaints, [], `${name}: the page complains`);
+    await checkHostile(browser, mkdtempSync(join(folder, 'hostile-')), manifest);
   }
   assert.equal(passed, 2 * Object.keys(checks).length);
   console.log(`${passed} passed, 0 failed`);

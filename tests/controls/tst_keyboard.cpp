@@ -1,4 +1,5 @@
 #include "Stage.h"
+#include "controls/fields/LongText.h"
 #include "controls/theme/Typography.h"
 #include "testing/Cases.h"
 
@@ -122,7 +123,7 @@ class TestKeyboard : public QObject {
         {"search", "SearchField { onTextEdited: log(text || 'cleared') }",
          QList<int>{Key_A, Key_Escape, Key_Escape}, "a cleared"},
         {"text area is left by Tab",
-         "Column { TextArea { onEdited: log(text) }\n"
+         "Column { TextArea { onEdited: text => log(text) }\n"
          "  Button { enabled: false }\n"
          "  Button { text: 'A'; onClicked: log('clicked') } }",
          QList<int>{Key_A, Key_Tab, Key_Space}, "a clicked"}};
@@ -133,6 +134,41 @@ class TestKeyboard : public QObject {
       for (const int key : keys) stage.press(key);
       QTRY_COMPARE(stage.log(), log);
     });
+  }
+
+  void partsOfALongTextMakeTheWhole() {
+    LongText parts;
+    QString whole, edited;
+    for (int i = 0; i < 9000; ++i) whole += i % 7 ? QString::number(i) : "😀\n";
+    parts.setText(whole);
+    connect(&parts, &LongText::edited, [&](const QString& text) { edited = text; });
+    connect(&parts, &LongText::partChanged, [&] { parts.edit("not the user's"); });
+    QString joined;
+    for (int i = 0; i < parts.count(); ++i) {
+      parts.setPlace(i);
+      QVERIFY(parts.part().size() <= LongText::mostInPart && !parts.part().back().isHighSurrogate());
+      joined += parts.part();
+    }
+    QVERIFY(parts.count() > 4 && joined == whole && edited.isEmpty());
+    parts.setPlace(1);
+    const QString old = parts.part();
+    for (const char* text : {"", "short", "a\nb"}) parts.edit(text);
+    QCOMPARE(edited, whole.replace(whole.indexOf(old), old.size(), "a\nb"));
+    parts.setPlace(2);
+    parts.setPlace(1);
+    QVERIFY(parts.part().startsWith("a\nb"));
+  }
+
+  void aFieldNeverStoresACutText() {
+    Stage stage(
+        "TextField { objectName: 'field'; text: 'x'.repeat(9000); onTextEdited: log(length) }");
+    auto* field = stage.find<QQuickItem>("field");
+    stage.press(Qt::Key_Tab);
+    for (const int key : {Qt::Key_A, Qt::Key_Backspace}) stage.press(key);
+    QCOMPARE(stage.log(), "");
+    QMetaObject::invokeMethod(field, "clear");
+    for (const int key : {Qt::Key_A, Qt::Key_B}) stage.press(key);
+    QCOMPARE(stage.log(), "1 2");
   }
 
   void theRingShowsForTheKeyboardAlone() {

@@ -147,6 +147,31 @@ class TestLibraryStore : public QObject {
     QCOMPARE(preferences().lastExportQuality(), 0.85);
   }
 
+  // Each start but the last follows a crash.
+  void aBrandThatEndedTheProgramIsntOpenedByItself() {
+    TestLibrary library;
+    library.openingFile = library.disk.path("state/opening");
+    library.add("A");
+    library.add("B");
+    QVERIFY(library.start().openDocument());
+    LibraryStore* store = &library.start();
+    QVERIFY(!store->openDocument() && store->endedOpening());
+    QCOMPARE(store->endedOpening()->name, "A");
+    store->answerEndedOpening(LibraryStore::EndedOpening::open);
+    QVERIFY(store->openDocument() && store->isPlain() && !store->endedOpening());
+    store->endShowing({});
+    store = &library.start();
+    QVERIFY(!store->openDocument() && !store->endedOpening());
+    store->select(library.packagePath("B"));
+    QVERIFY(store->openDocument() && !store->isPlain());
+    store->select(library.packagePath("A"));
+    QVERIFY(store->isPlain());
+    store->showWholly();
+    QVERIFY(!store->isPlain());
+    store->endShowing({});
+    QVERIFY(library.start().openDocument() && !library.store->isPlain());
+  }
+
   void picksColors() {
     TestLibrary library;
     LibraryStore& store = library.start();

@@ -51,6 +51,7 @@ const HEXES = [
   '#4C6FFF', '#abc', 'fff', '#123456', '#00000080', '4c6fff80', '#000', '#777777', '#767676', '+FF', '#+FF', '-00', '-01', '-00000',
   '+0A0B0', '-0000000', '+FFFFFFF', '+', '#', '', '##FFF', 'nope', ' #abc\n', '\u3000#ABC\u2028', '\u00a0fff', '\ufeff#fff', '# FF', '#\nFFF',
   '#1234', '0xF', '0x1234', '#12345G', '１２３', '#FFFFFFFFFFFFFFFFFF', '#fff\0', 'red', '"><b>', "');x('", 'straße', '&amp;', '1e5', '1_0',
+  '#fff\');run()//', '#FFF&#39;);x(', '&=#x27;', '&&##34;', '&quo"t', '&&l>t&gẗ', '</style><script>run()</script>', 'red" onclick="run()',
 ];
 
 const hex = (rng) => (rng.chance(0.5) ? rng.pick(HEXES)
@@ -122,7 +123,8 @@ function assetMaker(folder, rng) {
 // Records
 
 const ROLES = ['primary', 'secondary', 'mono', 'reversed', 'horizontal', 'stacked', 'icon', 'wordmark', 'emblem'];
-const FAMILIES = ['Inter', 'Inter', 'inter', 'In"ter', '"Inter"', '', 'Noto Sans', '<Serif>', "O'Font"];
+const FAMILIES = ['Inter', 'Inter', 'inter', 'In"ter', '"Inter"', '', 'Noto Sans', '<Serif>', "O'Font", 'Sans" onfocus=run() autofocus x="', '</style><script>',
+  'Noto >Sans=', 'AT&T', '&lt;b&gt;'];
 
 function makeBrand(folder, rng, { wild, images }) {
   const asset = assetMaker(folder, rng);

@@ -24,7 +24,7 @@ export function pageText(folder, { style, homePage, tail }) {
   return [
     '<!DOCTYPE html>\n<html lang="en">\n<head>\n<meta charset="utf-8">\n',
     '<meta name="viewport" content="width=device-width, initial-scale=1">\n',
-    `<title>${escaped(brand.name)} — Brand</title>\n<style>\n:root { --accent: ${brand.accentHex ?? '#111111'}`,
+    `<title>${escaped(brand.name)} — Brand</title>\n<style>\n:root { --accent: ${harmlessColor(brand.accentHex ?? '#111111')}`,
     style, fontFaces(brand, folder),
     '\n</style>\n</head>\n<body>\n<div class="wrap">\n  <header class="brand">\n    <div class="mark">',
     mark(brand, folder),
@@ -79,7 +79,8 @@ function mark(brand, folder) {
   return first ? escaped(first.segment.toUpperCase()) : '';
 }
 
-const cssFamily = (family) => `"${family.replaceAll('"', '')}"`;
+const harmlessFamily = (family) => [...family].filter((c) => !'<>='.includes(c)).join('');
+const cssFamily = (family) => `"${harmlessFamily(family).replaceAll('"', '')}"`;
 
 // The first font with a file speaks for its family, even if that file turns out to be unreadable.
 function fontFaces(brand, folder) {
@@ -149,7 +150,7 @@ function fontHTML({ family, weight, sampleText, asset }, folder) {
     '      <div class="type full">',
     `        <div class="spec" style="font-family: ${cssFamily(family)}, system-ui;">`
       + `${escaped(sampleText || 'The quick brown fox jumps')}</div>`,
-    `        <div class="label">${escaped(family)}${suffix}${link}</div>`,
+    `        <div class="label">${escaped(harmlessFamily(family))}${suffix}${link}</div>`,
     '      </div>',
   ].join('\n');
 }
@@ -220,8 +221,18 @@ export function grade(color) {
   return ratio >= 7 ? 'AAA' : ratio >= 4.5 ? 'AA' : ratio >= 3 ? 'AA Large' : 'Fail';
 }
 
+// Printed as it stands, within a script's quotes too: so neither quotes nor what browsers read as such.
+function harmlessColor(text) {
+  let rest = [...text].filter((c) => !'<>="\''.includes(c)).join('');
+  for (let last; last !== rest;) {
+    last = rest;
+    rest = rest.replace(/&(#|quot|apos|lt|gt)/gi, '$1');
+  }
+  return rest;
+}
+
 function colorHTML({ hex, name, spot }, notes) {
-  const H = hex.toUpperCase();
+  const H = harmlessColor(hex.toUpperCase());
   const color = parseColor(H);
   const badge = color ? `<span class="badge">${grade(color)}</span>` : '';
   return [
@@ -241,7 +252,7 @@ function colorHTML({ hex, name, spot }, notes) {
 
 export function gradientCSS({ stops, angle }) {
   const sorted = [...stops].sort((a, b) => a.location - b.location);
-  const parts = sorted.map(({ hex, location }) => `${hex.toUpperCase()} ${rounded(location * 100)}%`);
+  const parts = sorted.map(({ hex, location }) => `${harmlessColor(hex.toUpperCase())} ${rounded(location * 100)}%`);
   return `linear-gradient(${rounded(angle)}deg, ${parts.join(', ')})`;
 }
 

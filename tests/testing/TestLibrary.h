@@ -63,6 +63,7 @@ struct TestLibrary {
   ListedViewer viewer;
   std::function<void(std::optional<SampledColor>)> pendingPick;
   QString folder = disk.path("Tarn Loft/Library");
+  QString openingFile;  // empty: none of its starts follows a crash
   std::unique_ptr<LibraryStore> store;
 
   LibraryServices services() {
@@ -76,7 +77,10 @@ struct TestLibrary {
             viewer,
             [this] { return std::make_unique<ScriptedSampler>(pendingPick); },
             disk.folder.path(),
-            disk.path("tmp")};
+            disk.path("tmp"),
+            immediateDisk(),
+            immediateDisk(),
+            openingFile};
   }
   // Starts the library anew, as a new run of the program would.
   LibraryStore& start() {

@@ -29,7 +29,7 @@ Page {
     Specimen {
         title: "Several lines"
         TextEditor { width: 300; height: 96; font: Theme.monospaced(12); text: "func tint() -> Color {\n    Color(hex: \"#4C6FFF\")\n}\n\n// one\n// two\n// three"; accessibleName: "Snippet" }
-        TextArea { width: 240; accessibleName: "Text"; text: "Use the full-colour mark on light grounds. On photographs the reversed one reads better."; color: Theme.secondaryLabel }
+        TextArea { width: 240; accessibleName: "Text"; whole: "Use the full-colour mark on light grounds. On photographs the reversed one reads better."; color: Theme.secondaryLabel }
     }
     Specimen {
         title: "Focus"

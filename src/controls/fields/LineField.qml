@@ -24,6 +24,7 @@ TextField {
 
     Label {
         anchors.fill: parent
+        anchors.rightMargin: root.rightPadding
         visible: root.elided
         text: root.text
         font: root.font

@@ -5,11 +5,11 @@ import QtQuick.Templates as T
 import TarnLoft.Controls
 
 // A framed field of several lines that scrolls, for code and long texts.
-//   TextEditor { text: …; font: Theme.monospaced(12); accessibleName: "Snippet"; onEdited: … }
+//   TextEditor { text: …; font: Theme.monospaced(12); accessibleName: "Snippet"; onEdited: text => … }
 FocusScope {
     id: root
 
-    property alias text: area.text
+    property alias text: area.whole
     property alias font: area.font
     property alias placeholderText: area.placeholderText
     property alias accessibleName: area.accessibleName
@@ -17,7 +17,7 @@ FocusScope {
     property alias wrapMode: area.wrapMode
     property int padding: 6
 
-    signal edited
+    signal edited(text: string)
 
     implicitWidth: 240
     implicitHeight: 140
@@ -40,6 +40,6 @@ FocusScope {
 
         focus: true
         padding: root.padding
-        onEdited: root.edited()
+        onEdited: text => root.edited(text)
     }
 }

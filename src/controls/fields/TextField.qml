@@ -7,7 +7,8 @@ import TarnLoft.Controls
 // A field of one line. `placeholderText` is its prompt and, with no `accessibleName`, its name.
 //   TextField { placeholderText: "Brand name"; text: …; onTextEdited: … }
 // Entered by Tab it selects its text. Return emits `accepted` and then goes on to the sheet's
-// default button. A right click offers cut, copy and paste.
+// default button. A right click offers cut, copy and paste. Of a text that is too long for a field
+// the beginning shows, to be cleared alone: it never stands for the whole.
 T.TextField {
     id: root
 
@@ -15,11 +16,15 @@ T.TextField {
     property int controlSize: ControlSize.Regular
     property string accessibleName: placeholderText
     readonly property real fieldPadding: bordered ? 8 : 0
+    readonly property bool cut: length >= maximumLength && !typed
+    property bool typed: false // what it holds is the user's
 
     implicitWidth: bordered ? 200 : Math.max(contentWidth, prompt.implicitWidth) + leftPadding + rightPadding + 2
     implicitHeight: bordered ? Theme.controlHeight(controlSize) : Math.ceil(contentHeight)
     leftPadding: fieldPadding
-    rightPadding: fieldPadding
+    rightPadding: fieldPadding + (cut ? 24 : 0)
+    maximumLength: 4000
+    readOnly: cut
     font: Theme.font(Theme.controlText(controlSize))
     color: Theme.label
     placeholderTextColor: Theme.placeholder
@@ -34,7 +39,11 @@ T.TextField {
         ensureVisible(activeFocus ? cursorPosition : 0);
     }
 
-    onTextChanged: showText()
+    onTextChanged: {
+        typed = false;
+        showText();
+    }
+    onTextEdited: typed = true
     onWidthChanged: showText()
     onActiveFocusChanged: {
         if (activeFocus && (focusReason === Qt.TabFocusReason || focusReason === Qt.BacktabFocusReason))
@@ -64,6 +73,24 @@ T.TextField {
         horizontalAlignment: root.horizontalAlignment
         verticalAlignment: Text.AlignVCenter
         Accessible.ignored: true
+    }
+
+    LazyItem {
+        anchors.right: parent.right
+        anchors.rightMargin: 4
+        anchors.verticalCenter: parent.verticalCenter
+        active: root.cut
+        sourceComponent: Button {
+            kind: Button.Plain
+            symbol: "xmark.circle.fill"
+            help: "Too long to edit here. Clear it to type anew."
+            tint: Theme.secondaryLabel
+            onClicked: {
+                root.clear();
+                root.textEdited();
+                root.forceActiveFocus(Qt.OtherFocusReason);
+            }
+        }
     }
 
     TextEditMenuArea {

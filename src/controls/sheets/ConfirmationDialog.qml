@@ -51,7 +51,7 @@ Sheet {
         Column {
             id: words
 
-            width: Math.min(320, root.room)
+            width: Math.min(Math.max(320, buttons.width), root.room)
             spacing: 7
 
             Label {
@@ -85,6 +85,8 @@ Sheet {
             }
 
             Row {
+                id: buttons
+
                 anchors.right: parent.right
                 spacing: 8
 

@@ -36,7 +36,7 @@ class Question : public SheetModel {
   // Called once, when the question has closed.
   using Answered = std::function<void(Answer)>;
 
-  Question(const Words& words, Answered answered) : words_(words), answered_(std::move(answered)) {}
+  Question(const Words& words, Answered answered);
 
   const QString& title() const { return words_.title; }
   const QString& message() const { return words_.message; }

@@ -33,7 +33,9 @@ LibraryServices DesktopServices::forLibrary() {
           .applicationSupport = SupportFolder::applicationSupportFolder(),
           .temporaryFolder = QDir::tempPath(),
           .copies = copies,
-          .searches = searches};
+          .searches = searches,
+          .openingFile = stateFile("tarnloft-opening"),
+          .plain = plain};
 }
 
 WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
@@ -95,12 +97,12 @@ QString DesktopServices::decoderProgram() {
   return QCoreApplication::applicationDirPath() + QStringLiteral("/tarnloft-decoder");
 }
 
-QString DesktopServices::stateFile() {
+QString DesktopServices::stateFile(const char* name) {
   // The toolkit of this version doesn't know the folder.
   const QString folder = qEnvironmentVariable("XDG_STATE_HOME");
   const bool usable = QDir::isAbsolutePath(folder);
   return (usable ? folder : QDir::homePath() + QStringLiteral("/.local/state")) +
-         QStringLiteral("/tarnloft.ini");
+         QLatin1Char('/') + QLatin1String(name);
 }
 
 }  // namespace tarnloft

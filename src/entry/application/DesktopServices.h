@@ -53,7 +53,8 @@ struct DesktopServices {
       std::make_shared<decoding::DecoderPool>(decoderProgram());
   CheckedFonts fonts{decoders, log};
   QtDragSession dragSession;
-  MediaServices media{files, decoders};
+  const std::shared_ptr<PlainBrands> plain = std::make_shared<PlainBrands>();
+  MediaServices media{files, decoders, *plain};
   DiskThread disk;
   DiskThread copies;
   DiskThread searches;
@@ -75,8 +76,8 @@ struct DesktopServices {
   // Beside this one.
   static QString decoderProgram();
 
-  // "tarnloft.ini" in the user's folder for state.
-  static QString stateFile();
+  // A file of ours in the user's folder for state.
+  static QString stateFile(const char* name = "tarnloft.ini");
 
  private:
   std::unique_ptr<ColorSampler> makeColorSampler() const;

@@ -17,12 +17,13 @@ namespace tarnloft {
 // Pictures and clips, and the one place that keeps their thumbnails. Nothing of it is loaded before
 // the first file is asked for.
 struct MediaServices {
-  MediaServices(const FileStore& files, const std::shared_ptr<decoding::DecoderPool>& decoders)
+  MediaServices(const FileStore& files, const std::shared_ptr<decoding::DecoderPool>& decoders,
+                const PlainBrands& plain)
       : cagedImages(decoders),
         cagedVideos(decoders),
-        images(files, keptImages),
-        videos(files, keptVideos),
-        clipPlayers(files, lateClipPlayers),
+        images(files, keptImages, plain),
+        videos(files, keptVideos, plain),
+        clipPlayers(files, lateClipPlayers, plain),
         specs(files, images, videos, work) {}
 
   CagedImages cagedImages;

@@ -193,6 +193,7 @@ bool TarnLoftApp::saveAll() {
   if (!DropImport::finish(services_.workers, landingPatience)) {
     services_.log.write(QStringLiteral("ended while files were still being added"));
   }
+  library_.endShowing(threadPatience);
   return library_.flush(savingPatience);
 }
 

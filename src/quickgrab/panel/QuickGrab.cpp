@@ -2,6 +2,7 @@
 
 #include "assets/FontManager.h"
 #include "controls/dragging/Carrying.h"
+#include "model/ShownText.h"
 #include "pictures/HexColor.h"
 #include "publish/ColorUtil.h"
 
@@ -135,7 +136,7 @@ void QuickGrab::filter() {
 // A font draws by its family from its registration on; it costs, so only where fonts are shown.
 void QuickGrab::registerFonts() {
   const BrandDocument* const open = library_.openDocument();
-  if (!open || !prefs_.showType() || std::exchange(fontsOf_, packageURL_) == packageURL_) return;
+  if (!open || library_.isPlain() || !prefs_.showType() || std::exchange(fontsOf_, packageURL_) == packageURL_) return;
   services_.workers.start(
       [brand = open->brand(), package = open->files(), &fonts = services_.fonts] {
         FontManager::registerAll(brand, package, fonts);
@@ -184,7 +185,7 @@ GrabThing QuickGrab::thingAt(size_t place) const {
   thing.room = at.room;
   switch (at.kind) {
     case Kind::BlockHeader:
-      thing.name = block.name.isEmpty() ? QStringLiteral("Untitled Section") : block.name;
+      thing.name = block.name.isEmpty() ? QStringLiteral("Untitled Section") : shownText(block.name);
       thing.detail = QString::number(block.count());
       break;
     case Kind::GroupHeader:
@@ -193,38 +194,39 @@ GrabThing QuickGrab::thingAt(size_t place) const {
       break;
     case Kind::Color: {
       const ColorEntry& entry = block.colors[at.index];
-      thing.name = entry.name.value_or(entry.hex.toUpper());
+      thing.name = shownText(entry.name.value_or(entry.hex.toUpper()));
       thing.help = QStringLiteral("Click to copy ") + thing.name;
-      thing.detail = ColorUtil::formatted(entry.hex, library_.preferences().colorCopyFormat());
+      thing.detail =
+          shownText(ColorUtil::formatted(entry.hex, library_.preferences().colorCopyFormat()));
       thing.color = shownColor(entry.hex);
       break;
     }
     case Kind::Media: {
       const MediaEntry& entry = block.media[at.index];
       const BrandDocument* const open = library_.openDocument();
-      thing.name = entry.name;
-      thing.help = QStringLiteral("Drag out to use %1 as a file").arg(entry.name);
+      thing.name = shownText(entry.name);
+      thing.help = QStringLiteral("Drag out to use %1 as a file").arg(thing.name);
       if (open) thing.source = open->files().assetPath(entry.asset).value_or(QString());
       break;
     }
     case Kind::Font: {
       const FontEntry& entry = block.fonts[at.index];
-      thing.name = entry.name;
-      thing.detail = entry.weight.value_or(QString());
-      thing.source = entry.family;
+      thing.name = shownText(entry.name);
+      thing.detail = shownText(entry.weight.value_or(QString()));
+      thing.source = shownText(entry.family);
       thing.help = QStringLiteral("Click to copy the font name");
       break;
     }
     case Kind::Gradient: {
       const GradientEntry& entry = block.gradients[at.index];
-      thing.name = entry.name;
+      thing.name = shownText(entry.name);
       thing.gradient.value = entry.value;
       thing.help = QStringLiteral("Click to copy the CSS gradient");
       break;
     }
     case Kind::Code: {
       const CodeEntry& entry = block.codes[at.index];
-      thing.name = entry.name;
+      thing.name = shownText(entry.name);
       thing.detail = beginningOf(entry.snippet);
       thing.help = QStringLiteral("Click to copy the snippet");
       break;
@@ -242,7 +244,7 @@ QuickGrab::State QuickGrab::state() const {
 
 QString QuickGrab::brandName() const {
   const BrandDocument* const open = library_.openDocument();
-  return open ? open->brand().name : QString();
+  return open ? shownText(open->brand().name) : QString();
 }
 
 EmblemLook QuickGrab::emblem() const {
@@ -258,7 +260,7 @@ QVariantList QuickGrab::brands() const {
   QVariantList choices;
   for (const BrandSummary& brand : library_.brands()) {
     const bool isSelected = library_.selection() == brand.packageURL;
-    choices << QVariant::fromValue(BrandChoice{brand.name, brand.packageURL, isSelected});
+    choices << QVariant::fromValue(BrandChoice{shownText(brand.name), brand.packageURL, isSelected});
   }
   return choices;
 }
@@ -410,8 +412,9 @@ void QuickGrab::copyFile(int place) {
 
 // A later text has its own full time.
 void QuickGrab::flash(const QString& text) {
+  const QString shown = shownText(text);
   text.isEmpty() ? flashEnd_.stop() : flashEnd_.start();
-  if (std::exchange(flashText_, text) != text) emit flashTextChanged();
+  if (std::exchange(flashText_, shown) != shown) emit flashTextChanged();
 }
 
 }  // namespace tarnloft

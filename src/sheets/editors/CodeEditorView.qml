@@ -59,7 +59,7 @@ FocusScope {
             tabInserts: true
             accessibleName: "Snippet"
             text: root.editor.snippet
-            onEdited: root.editor.snippet = text
+            onEdited: text => root.editor.snippet = text
         }
     }
 

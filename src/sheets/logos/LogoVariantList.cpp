@@ -1,6 +1,7 @@
 #include "sheets/logos/LogoVariantList.h"
 
 #include "document/Package.h"
+#include "model/ShownText.h"
 #include "pictures/Backdrop.h"
 
 #include <utility>
@@ -22,7 +23,7 @@ QVariant LogoVariantList::data(const QModelIndex& index, int role) const {
   const LogoVariant& variant = variants_.at(index.row());
   switch (role) {
     case Qt::DisplayRole:
-    case NameRole: return variant.asset.originalName;
+    case NameRole: return shownText(variant.asset.originalName);
     case PathRole: return Package::assetPath(packageURL_, variant.asset).value_or(QString());
     case LabelRole: return label(variant.role);
     case PurposeRole: return int(variant.role);

@@ -1,5 +1,7 @@
 #include "sheets/versions/VersionList.h"
 
+#include "model/ShownText.h"
+
 #include <QDateTime>
 #include <QLocale>
 #include <QRegularExpression>
@@ -50,7 +52,7 @@ QVariant VersionList::data(const QModelIndex& index, int role) const {
   const BrandVersion& version = versions_.at(index.row());
   switch (role) {
     case Qt::DisplayRole:
-    case TitleRole: return version.label.value_or(QStringLiteral("Snapshot"));
+    case TitleRole: return shownText(version.label.value_or(QStringLiteral("Snapshot")));
     case DateRole: return dateText(version.createdAt);
     case SyncedRole: return version.label == PackageVersions::syncedLabel;
     default: return {};

@@ -1,6 +1,7 @@
 #include "sheets/versions/VersionSummary.h"
 
 #include "document/PackageVersions.h"
+#include "model/ShownText.h"
 
 #include <QHash>
 
@@ -80,7 +81,7 @@ QString counts(const Brand& brand) {
 QStringList differences(const Brand& version, const Brand& now) {
   if (isSameContent(version, now)) return {};
   QStringList lines;
-  if (version.name != now.name) lines << QStringLiteral("Named “%1”").arg(version.name);
+  if (version.name != now.name) lines << QStringLiteral("Named “%1”").arg(shownText(version.name));
   QStringList parts;
   appendDifference(parts, version.sections.size(), now.sections.size(), sectionNoun);
   const KindCounts then = kindCounts(version), present = kindCounts(now);

@@ -1,5 +1,7 @@
 #include "sheets/video/VideoPlayerSheet.h"
 
+#include "model/ShownText.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -26,7 +28,7 @@ void VideoPlayerSheet::follow() {
   const auto* const video = std::get_if<VideoPayload>(&item_->item().payload);
   if (!video) return;
   const QString name = video->name.value_or(QString());
-  const QString title = name.isEmpty() ? video->asset.originalName : name;
+  const QString title = shownText(name.isEmpty() ? video->asset.originalName : name);
   if (std::exchange(title_, title) != title) emit titleChanged();
 }
 

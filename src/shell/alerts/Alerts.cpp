@@ -1,5 +1,7 @@
 #include "shell/alerts/Alerts.h"
 
+#include "model/ShownText.h"
+
 namespace tarnloft {
 namespace {
 
@@ -26,12 +28,39 @@ Alerts::Alerts(LibraryStore& library, SheetHost& sheets, QObject* parent)
   connect(store, &LibraryStore::libraryProblemChanged, this, &Alerts::libraryProblemChanged);
   connect(store, &LibraryStore::noticesChanged, this, &Alerts::showNotice);
   connect(store, &LibraryStore::trashRefused, this, &Alerts::tellRefused);
+  connect(store, &LibraryStore::endedOpeningChanged, this, &Alerts::askAboutOpening);
+  connect(store, &LibraryStore::openDocumentChanged, this, &Alerts::plainnessChanged);
+  connect(store, &LibraryStore::plainChanged, this, &Alerts::plainnessChanged);
   showNotice();  // of before this window
+  askAboutOpening();
 }
 
 QString Alerts::saveProblem() const {
   const BrandDocument* const open = library_.openDocument();
   return open ? open->saveProblem() : QString();
+}
+
+QString Alerts::plainness() const {
+  return library_.isPlain() ? QStringLiteral(
+                                  "Shown without its fonts and pictures, as the program ended when "
+                                  "this brand was opened.")
+                            : QString();
+}
+
+void Alerts::askAboutOpening() {
+  const BrandSummary* const brand = library_.endedOpening();
+  if (opening_ || !brand) return;
+  const Question::Words words{
+      .title = QStringLiteral("Tarn Loft ended while “%1” was being opened")
+                   .arg(shownText(brand->name, mostInTitle)),
+      .message = QStringLiteral("One of its fonts or pictures may be the cause. Open the brand "
+                                "without them, or leave it closed; nothing in it is changed."),
+      .confirmText = QStringLiteral("Open Without Fonts and Pictures"),
+      .cancelText = QStringLiteral("Leave Closed")};
+  opening_ = sheets_.show(std::make_unique<Question>(words, [this](Question::Answer answer) {
+    using Ended = LibraryStore::EndedOpening;
+    library_.answerEndedOpening(answer == Question::Answer::Confirmed ? Ended::open : Ended::leave);
+  }));
 }
 
 QString Alerts::libraryProblem() const { return sentence(library_.libraryProblem()); }

@@ -17,6 +17,8 @@ class Alerts : public QObject {
   QML_UNCREATABLE("Each window has one")
   // Why the open brand's changes aren't on disk.
   Q_PROPERTY(QString saveProblem READ saveProblem NOTIFY saveProblemChanged)
+  // Why the open brand is shown without its fonts and pictures.
+  Q_PROPERTY(QString plainness READ plainness NOTIFY plainnessChanged)
   Q_PROPERTY(QString libraryProblem READ libraryProblem NOTIFY libraryProblemChanged)
 
  public:
@@ -27,6 +29,9 @@ class Alerts : public QObject {
   Q_INVOKABLE void retrySave() { library_.retrySaves(); }
   Q_INVOKABLE void saveCopy() { library_.saveCopy(); }
 
+  QString plainness() const;
+  Q_INVOKABLE void showWholly() { library_.showWholly(); }
+
   QString libraryProblem() const;
   Q_INVOKABLE void lookAgain() { library_.scan(); }
 
@@ -36,10 +41,12 @@ class Alerts : public QObject {
  signals:
   void saveProblemChanged();
   void libraryProblemChanged();
+  void plainnessChanged();
   void quitConfirmed();
 
  private:
   void showNotice();
+  void askAboutOpening();
   void tellRefused(const BrandSummary& brand, const QString& reason);
   void askDeleteImmediately(const BrandSummary& brand);
   void quitAnswered(Question::Answer answer);
@@ -48,6 +55,7 @@ class Alerts : public QObject {
   LibraryStore& library_;
   SheetHost& sheets_;
   QPointer<Question> notice_;  // the oldest that hasn't been dismissed
+  QPointer<Question> opening_;
   QPointer<Question> quit_;
 };
 

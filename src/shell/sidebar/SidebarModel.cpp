@@ -1,5 +1,6 @@
 #include "shell/sidebar/SidebarModel.h"
 
+#include "model/ShownText.h"
 #include "model/Uuid.h"
 #include "pictures/HexColor.h"
 
@@ -29,7 +30,7 @@ BrandMark markOf(const BrandSummary& row, const BrandDocument* open) {
 }
 
 QString titleOf(const Section& section) {
-  return section.name.isEmpty() ? QStringLiteral("Untitled Section") : section.name;
+  return section.name.isEmpty() ? QStringLiteral("Untitled Section") : shownText(section.name);
 }
 
 bool isRowOf(const SidebarModel::Row& row, const Section& section) {
@@ -168,7 +169,7 @@ SidebarModel::Row SidebarModel::brandRow(const BrandSummary& brand) const {
   return {brand.brandID,
           Kind::Brand,
           brand.packageURL,
-          brand.name,
+          shownText(brand.name),
           mark.emblem,
           accent ? std::optional(shownColor(*accent)) : std::nullopt,
           library_.selection() == brand.packageURL,

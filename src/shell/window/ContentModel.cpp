@@ -1,6 +1,7 @@
 #include "shell/window/ContentModel.h"
 
 #include "assets/FontManager.h"
+#include "model/ShownText.h"
 #include "platform/DesktopWords.h"
 #include "shell/help/AboutSheet.h"
 #include "shell/help/ShortcutsSheet.h"
@@ -30,9 +31,10 @@ ContentModel::ContentModel(const WorkspaceServices& services, QObject* parent)
   connect(library, &LibraryStore::openDocumentChanged, this, &ContentModel::titleChanged);
   connect(library, &LibraryStore::brandChanged, this, &ContentModel::titleChanged);
   // Several documents may come and go in one turn; each page costs.
-  connect(library, &LibraryStore::openDocumentChanged, this, &ContentModel::renewWorkspace,
+  connect(library, &LibraryStore::openDocumentChanged, this, [this] { renewPage(); },
           Qt::QueuedConnection);
   connect(library, &LibraryStore::openDocumentChanged, this, &ContentModel::followDocument);
+  connect(library, &LibraryStore::plainChanged, this, [this] { renewPage(Renewal::always); });
   connect(library, &LibraryStore::isLoadingChanged, this, &ContentModel::detailChanged);
   connect(library, &LibraryStore::libraryProblemChanged, this, &ContentModel::detailChanged);
   connect(library, &LibraryStore::selectionChanged, this, &ContentModel::followSelection);
@@ -45,7 +47,8 @@ ContentModel::ContentModel(const WorkspaceServices& services, QObject* parent)
     connect(progress, &ImportProgress::textChanged, this, follow);
     follow();
   }
-  renewWorkspace();
+  library_.beginShowing();
+  renewPage();
   answerRequest();
 }
 
@@ -67,7 +70,8 @@ QVariantList ContentModel::pages() const {
 QString ContentModel::title() const {
   const QString program = QStringLiteral("Tarn Loft");
   const BrandDocument* const open = library_.openDocument();
-  return open ? open->brand().name + QStringLiteral(" — ") + program : program;
+  if (!open) return program;
+  return shownText(open->brand().name, mostInTitle) + QStringLiteral(" — ") + program;
 }
 
 void ContentModel::askNewBrand() {
@@ -116,11 +120,12 @@ void ContentModel::answerScrollRequest() {
   library_.setScrollToSection(std::nullopt);
 }
 
-void ContentModel::renewWorkspace() {
+void ContentModel::renewPage(Renewal renewal) {
   BrandDocument* const document = library_.openDocument();
   if (!workspace_ && !document) return;
   // A brand whose package has moved keeps its page, with what is scrolled to and selected there.
-  if (workspace_ && document && workspace_->document() == document) return;
+  const bool isShown = workspace_ && document && workspace_->document() == document;
+  if (isShown && renewal == Renewal::ofAnother) return;
   auto old = std::exchange(workspace_, document ? makeWorkspace(*document) : nullptr);
   emit workspaceChanged();
   // The old page goes in turns of its own, its sections behind it, and reads the old one till then.
@@ -135,6 +140,7 @@ void ContentModel::followFirstFrame() {
 }
 
 void ContentModel::registerFonts(const BrandDocument& document) {
+  if (library_.isPlain()) return;
   services_.imports.workers.start(
       [brand = document.brand(), package = document.files(), &fonts = services_.imports.fonts] {
         FontManager::registerAll(brand, package, fonts);

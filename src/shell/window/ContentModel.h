@@ -93,7 +93,8 @@ class ContentModel : public QObject {
   void answerRequest();
   void answerScrollRequest();
   void followSelection();
-  void renewWorkspace();
+  enum class Renewal { ofAnother, always };
+  void renewPage(Renewal renewal = Renewal::ofAnother);
   void followDocument();
   void registerFonts(const BrandDocument& document);
   std::unique_ptr<BrandWorkspace> makeWorkspace(BrandDocument& document);

@@ -28,7 +28,7 @@ FocusScope {
         id: unfold
 
         x: 14
-        y: unsaved.height + 15
+        y: unsaved.height + plain.height + 15
         z: 1
         active: root.sidebar.folded
         sourceComponent: Button {
@@ -72,6 +72,20 @@ FocusScope {
         }
     }
 
+    WarningBar {
+        id: plain
+
+        y: unsaved.height
+        width: parent.width
+        message: root.content.alerts.plainness
+
+        Button {
+            text: "Show Them"
+            controlSize: ControlSize.Small
+            onClicked: root.content.alerts.showWholly()
+        }
+    }
+
     // Another brand gets another page, with fresh state.
     Repeater {
         model: root.content.pages
@@ -81,7 +95,7 @@ FocusScope {
             required property BrandWorkspace modelData
 
             anchors.fill: parent
-            anchors.topMargin: unsaved.height
+            anchors.topMargin: unsaved.height + plain.height
             workspace: modelData
             headStart: unfold.active ? unfold.x + unfold.width + 6 : 0
 

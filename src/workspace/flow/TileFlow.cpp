@@ -1,5 +1,6 @@
 #include "workspace/flow/TileFlow.h"
 
+#include "controls/fields/LongText.h"
 #include "controls/theme/Typography.h"
 #include "workspace/BrandWorkspace.h"
 
@@ -37,7 +38,8 @@ double estimatedHeight(const Item& item, double width) {
   width = std::min(width - 24, 680.0);
   const QFontMetricsF metrics(interfaceFont(13));
   double lines = 0;
-  for (const QString& paragraph : text->body.split(QLatin1Char('\n'))) {
+  const QString shown = LongText::firstPart(text->body);
+  for (const QString& paragraph : shown.split(QLatin1Char('\n'))) {
     lines += std::max(1.0, std::ceil(metrics.horizontalAdvance(paragraph) / std::max(width, 1.0)));
   }
   return std::ceil(lines * metrics.height());

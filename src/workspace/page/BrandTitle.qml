@@ -9,6 +9,7 @@ FocusScope {
     id: root
 
     required property string name
+    required property string wholeName // which is too long to show, if it is another
     readonly property font titleFont: Theme.font(26, Font.Bold)
 
     signal renamed(name: string)
@@ -102,16 +103,18 @@ FocusScope {
         sourceComponent: TextField {
             bordered: false
             placeholderText: "Brand name"
-            text: root.name
+            text: root.wholeName
             font: root.titleFont
             horizontalAlignment: TextInput.AlignLeft
             focus: true
 
+            readonly property string typedName: cut ? "" : text
+
             Keys.onShortcutOverride: event => event.accepted = event.key === Qt.Key_Escape // not the page's
-            Keys.onReturnPressed: root.endEditing(text)
-            Keys.onEnterPressed: root.endEditing(text)
+            Keys.onReturnPressed: root.endEditing(typedName)
+            Keys.onEnterPressed: root.endEditing(typedName)
             Keys.onEscapePressed: root.endEditing("")
-            onActiveFocusChanged: if (!activeFocus && Window.active) root.endEditing(text)
+            onActiveFocusChanged: if (!activeFocus && Window.active) root.endEditing(typedName)
             Component.onCompleted: selectAll()
         }
     }

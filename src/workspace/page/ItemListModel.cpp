@@ -1,5 +1,7 @@
 #include "workspace/page/ItemListModel.h"
 
+#include "model/ShownText.h"
+
 #include <algorithm>
 
 namespace tarnloft {
@@ -32,7 +34,7 @@ QVariant ItemListModel::data(const QModelIndex& index, int role) const {
   if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
   const Item& item = items_.at(index.row());
   switch (role) {
-    case Qt::DisplayRole: return item.displayName();
+    case Qt::DisplayRole: return shownText(item.displayName());
     case IdRole: return item.id;
     case KindRole: return QVariant::fromValue(TileFacts::kind(item));
     default: return {};

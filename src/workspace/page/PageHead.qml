@@ -59,6 +59,7 @@ FocusScope {
         width: editing ? room : Math.min(room, implicitWidth)
         height: implicitHeight
         name: root.workspace.name
+        wholeName: root.workspace.wholeName
         visible: !root.search.global
         onRenamed: name => root.workspace.rename(name)
     }

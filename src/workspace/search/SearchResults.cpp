@@ -1,5 +1,7 @@
 #include "workspace/search/SearchResults.h"
 
+#include "model/ShownText.h"
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -64,7 +66,7 @@ const SearchHits::Group* SearchResults::group(const QString& package) const {
 
 QString SearchResults::brandName(const QString& package) const {
   const auto* const found = group(package);
-  return found ? found->brand->brandName() : QString();
+  return found ? shownText(found->brand->brandName()) : QString();
 }
 
 EmblemLook SearchResults::brandEmblem(const QString& package) const {
@@ -88,10 +90,10 @@ QVariant SearchResults::data(const QModelIndex& index, int role) const {
   const SearchHit hit = hits_.at(index.row());
   switch (role) {
     case Qt::DisplayRole:
-    case TitleRole: return hit.title;
+    case TitleRole: return shownText(hit.title);
     case DetailRole:
       return hit.isSection() ? hit.typeLabel
-                             : hit.typeLabel + QStringLiteral(" · in ") + hit.sectionName;
+                             : hit.typeLabel + QStringLiteral(" · in ") + shownText(hit.sectionName);
     case SymbolRole: return symbolOf(hit);
     default: return {};
   }

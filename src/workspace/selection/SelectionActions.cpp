@@ -1,6 +1,7 @@
 #include "workspace/selection/SelectionActions.h"
 
 #include "controls/dragging/Carrying.h"
+#include "model/ShownText.h"
 #include "workspace/ToastCenter.h"
 
 #include <utility>
@@ -49,7 +50,8 @@ SelectionActions::Facts SelectionActions::facts() const {
   Facts facts{count, int(operations.exportableCount()), operations.canGroupAsLogo(), {}, {}};
   for (const Section& section : document_->brand().sections) {
     if (section.id == window_.selection.sectionID()) continue;
-    facts.targets << (section.name.isEmpty() ? QStringLiteral("Untitled Section") : section.name);
+    facts.targets << (section.name.isEmpty() ? QStringLiteral("Untitled Section")
+                                               : shownText(section.name));
     facts.targetIDs << section.id;
   }
   return facts;

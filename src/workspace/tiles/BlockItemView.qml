@@ -168,9 +168,9 @@ FocusScope {
 
         TextArea {
             placeholderText: "Text"
-            text: root.tile.block.text
+            whole: root.tile.block.text
             color: Theme.secondaryLabel
-            onEdited: root.tile.block.setText(text)
+            onEdited: text => root.tile.block.setText(text)
             Accessible.selectable: true
             Accessible.selected: root.tile.selected
         }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/ShownText.h"
 #include "workspace/page/SectionModel.h"
 #include "workspace/tiles/facets/BlockFacet.h"
 #include "workspace/tiles/facets/ClipFacet.h"
@@ -57,7 +58,7 @@ class Tile : public QObject {
   BrandWorkspace* workspace() const { return section_.workspace(); }
   SectionModel* section() const { return &section_; }
   TileKind::Kind kind() const { return TileFacts::kind(item_); }
-  QString name() const { return item_.displayName(); }
+  QString name() const { return shownText(item_.displayName()); }
   QString subcaption() const { return TileFacts::subcaption(item_).value_or(QString()); }
   QString help() const { return TileFacts::helpText(item_); }
   QString description() const { return TileFacts::accessibilityDescription(item_); }

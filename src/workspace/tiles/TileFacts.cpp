@@ -1,12 +1,14 @@
 #include "workspace/tiles/TileFacts.h"
 
+#include "model/ShownText.h"
+
 namespace tarnloft::TileFacts {
 namespace {
 
 using Kind = TileKind::Kind;
 
 std::optional<QString> unlessEmpty(const QString& text) {
-  return text.isEmpty() ? std::nullopt : std::optional(text);
+  return text.isEmpty() ? std::nullopt : std::optional(shownText(text));
 }
 
 QString variantCount(const LogoValue& logo) {
@@ -35,7 +37,7 @@ std::optional<QString> subcaption(const Item& item) {
   using Text = std::optional<QString>;
   return std::visit(
       Overloaded{[](const ColorPayload& color) -> Text {
-                   return color.value.name ? Text(color.value.hex.toUpper()) : Text();
+                   return color.value.name ? Text(shownText(color.value.hex).toUpper()) : Text();
                  },
                  [](const FontPayload& font) { return fontSubcaption(font.value); },
                  [](const CodePayload& code) { return unlessEmpty(code.value.language); },
@@ -63,18 +65,18 @@ QString notesText(const Item& item) {
 
 QString helpText(const Item& item) {
   if (const auto* color = std::get_if<ColorPayload>(&item.payload)) {
-    return QStringLiteral("Click to copy ") + color->value.hex.toUpper();
+    return QStringLiteral("Click to copy ") + shownText(color->value.hex).toUpper();
   }
   return kind(item) == Kind::Image ? QStringLiteral("Drag into another app to use") : QString();
 }
 
 QString accessibilityDescription(const Item& item) {
-  const QString name = item.displayName();
+  const QString name = shownText(item.displayName());
   return std::visit(
       Overloaded{[](const HeaderPayload&) { return QString(); },
                  [](const TextPayload&) { return QString(); },
                  [&](const ColorPayload& color) {
-                   return QStringLiteral("Color, %1, hex %2").arg(name, color.value.hex);
+                   return QStringLiteral("Color, %1, hex %2").arg(name, shownText(color.value.hex));
                  },
                  [&](const GradientPayload& gradient) {
                    return gradient.value.name ? QStringLiteral("Gradient, ") + name
@@ -103,8 +105,10 @@ Backdrop::Kind backdrop(const Item& item) {
 }
 
 std::optional<QString> pictureName(const Item& item) {
-  if (const auto* image = std::get_if<ImagePayload>(&item.payload)) return image->name;
-  return item.displayName();
+  if (const auto* image = std::get_if<ImagePayload>(&item.payload)) {
+    return image->name ? std::optional(shownText(*image->name)) : std::nullopt;
+  }
+  return shownText(item.displayName());
 }
 
 }  // namespace tarnloft::TileFacts

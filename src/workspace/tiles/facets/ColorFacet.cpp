@@ -1,5 +1,6 @@
 #include "workspace/tiles/facets/ColorFacet.h"
 
+#include "model/ShownText.h"
 #include "pictures/HexColor.h"
 #include "workspace/BrandWorkspace.h"
 
@@ -18,13 +19,13 @@ QString ColorFacet::ink() const {
 
 QString ColorFacet::title() const {
   const ColorValue& value = payload<ColorPayload>().value;
-  return value.name && !value.name->isEmpty() ? *value.name : value.hex;
+  return shownText(value.name && !value.name->isEmpty() ? *value.name : value.hex);
 }
 
 QStringList ColorFacet::lines() const {
   const ColorValue& value = payload<ColorPayload>().value;
   QStringList lines;
-  if (value.name && !value.name->isEmpty()) lines << value.hex.toUpper();
+  if (value.name && !value.name->isEmpty()) lines << shownText(value.hex).toUpper();
   for (const FormatVariant& variant : ColorUtil::formatVariants(value.hex)) {
     if (variant.label == QLatin1String("RGB") || variant.label == QLatin1String("CMYK"))
       lines << variant.value;
@@ -32,7 +33,9 @@ QStringList ColorFacet::lines() const {
   return lines;
 }
 
-QString ColorFacet::spot() const { return payload<ColorPayload>().value.spot.value_or(QString()); }
+QString ColorFacet::spot() const {
+  return shownText(payload<ColorPayload>().value.spot.value_or(QString()));
+}
 
 QString ColorFacet::badge() const {
   return ColorUtil::wcagBadge(payload<ColorPayload>().value.hex).value_or(QString());

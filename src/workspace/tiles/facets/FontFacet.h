@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/ShownText.h"
 #include "workspace/tiles/facets/TileFacet.h"
 
 namespace tarnloft {
@@ -16,7 +17,7 @@ class FontFacet : public TileFacet {
  public:
   using TileFacet::TileFacet;
 
-  QString family() const { return payload<FontPayload>().value.family; }
+  QString family() const { return shownText(payload<FontPayload>().value.family); }
   bool hasFile() const { return payload<FontPayload>().value.asset.has_value(); }
   QString path() const;
 };

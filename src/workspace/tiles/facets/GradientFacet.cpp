@@ -1,5 +1,6 @@
 #include "workspace/tiles/facets/GradientFacet.h"
 
+#include "model/ShownText.h"
 #include "pictures/HexColor.h"
 #include "workspace/BrandWorkspace.h"
 
@@ -22,7 +23,7 @@ QList<QColor> GradientFacet::stopColors() const {
 
 QStringList GradientFacet::stopHexes() const {
   QStringList hexes;
-  for (const GradientStop& stop : sortedStops()) hexes << stop.hex;
+  for (const GradientStop& stop : sortedStops()) hexes << shownText(stop.hex);
   return hexes;
 }
 

@@ -10,6 +10,7 @@ QString PictureFacet::path() const {
 }
 
 QString PictureFacet::failureHelp() const {
+  if (workspace().isPlain()) return QStringLiteral("The brand is shown without its pictures.");
   const auto name = TileFacts::pictureName(item());
   if (!name) {
     return QStringLiteral("Couldn't load this image — the file may be corrupt. Re-import it.");
