@@ -1,5 +1,6 @@
 // A file of 1 GB dragged out of a package, on a file system that shares blocks and on one that
 // doesn't, beside `cp`; and how long a drop of many files keeps the event loop from turning.
+#include "Measure.h"
 #include "Ratio.h"
 #include "assets/DragFileExport.h"
 #include "assets/DropImport.h"
@@ -27,11 +28,6 @@ double seconds(const std::function<void()>& work) {
   clock.start();
   work();
   return double(clock.nsecsElapsed()) / 1e9;
-}
-
-double median(std::vector<double> values) {
-  std::sort(values.begin(), values.end());
-  return values[values.size() / 2];
 }
 
 double best(const std::vector<double>& values) {

@@ -1,5 +1,7 @@
 // A library of 1,000 packages of 300 items: listing it and searching it, beside reading the same
 // files and ripgrep.
+#include "Grep.h"
+#include "Measure.h"
 #include "Ratio.h"
 #include "document/Package.h"
 #include "library/GlobalSearch.h"
@@ -9,9 +11,7 @@
 #include "testing/TestServices.h"
 
 #include <QElapsedTimer>
-#include <QProcess>
 
-#include <algorithm>
 #include <simdjson.h>
 #include <vector>
 
@@ -26,11 +26,6 @@ double seconds(const std::function<void()>& work) {
   clock.start();
   work();
   return double(clock.nsecsElapsed()) / 1e9;
-}
-
-double median(std::vector<double> values) {
-  std::sort(values.begin(), values.end());
-  return values[values.size() / 2];
 }
 
 QStringList makeLibrary(const TestServices& disk, qint64& bytes) {
@@ -54,18 +49,6 @@ void readAndParse(const QStringList& manifests) {
   }
 }
 
-void grep(const TestServices& disk, const QString& query) {
-  QProcess rg;
-  rg.setStandardOutputFile(QProcess::nullDevice());
-  rg.start(QStringLiteral("rg"),
-           {QStringLiteral("-i"), QStringLiteral("-F"), QStringLiteral("--no-ignore"),
-            QStringLiteral("-g"), QStringLiteral("manifest.json"), query, disk.folder.path()});
-  if (!rg.waitForFinished(-1) || rg.exitCode() > 1) {
-    std::fprintf(stderr, "ripgrep failed\n");
-    std::exit(1);
-  }
-}
-
 }  // namespace
 
 int main() {
@@ -81,7 +64,7 @@ int main() {
     scans.push_back(seconds([&] {
       rows = LibraryListing::sorted(LibraryListing::read(disk.files, disk.folder.path()), {});
     }));
-    greps.push_back(seconds([&] { grep(disk, query); }));
+    greps.push_back(seconds([&] { grepManifests(disk.folder.path(), query); }));
     GlobalSearch search(disk.files);
     firsts.push_back(seconds([&] { found = search.hits(rows, {}, nullptr, query).size(); }));
     laters.push_back(seconds([&] { (void)search.hits(rows, {}, nullptr, query); }));

@@ -1,5 +1,6 @@
 // A keystroke in the page's search with 10,000 tiles beside 20, results of all brands on screen,
 // going from brand to brand, and the list of versions; on the offscreen platform.
+#include "Grep.h"
 #include "Measure.h"
 #include "Ratio.h"
 #include "document/Package.h"
@@ -10,7 +11,6 @@
 #include "workspace/TestPage.h"
 
 #include <QElapsedTimer>
-#include <QProcess>
 
 #include <cstdio>
 #include <simdjson.h>
@@ -33,15 +33,6 @@ Section namedSection(int count) {
     section.items.append(i % 2 == 0 ? colorItem(name) : imageItem(name, name + ".png"));
   }
   return section;
-}
-
-void grep(const TestServices& disk, const QString& query) {
-  QProcess rg;
-  rg.setStandardOutputFile(QProcess::nullDevice());
-  rg.start(QStringLiteral("rg"),
-           {QStringLiteral("-i"), QStringLiteral("-F"), QStringLiteral("--no-ignore"),
-            QStringLiteral("-g"), QStringLiteral("manifest.json"), query, disk.folder.path()});
-  if (!rg.waitForFinished(-1) || rg.exitCode() > 1) std::exit(1);
 }
 
 struct Keystrokes {
@@ -96,7 +87,7 @@ void searchAll() {
   std::vector<double> greps, searches, shows;
   for (const char* text : {"ma", "mar", "mark", "mark ", "mark 9", "mark 99", "mark 997"}) {
     const QString query = QLatin1String(text);
-    greps.push_back(milliseconds([&] { grep(test.library.disk, query); }));
+    greps.push_back(milliseconds([&] { grepManifests(test.library.disk.folder.path(), query); }));
     SearchHits hits;
     searches.push_back(milliseconds([&] {
       test.library.store->searchAllBrands(query,

@@ -25,6 +25,9 @@ class StatusItem {
   virtual void install(const QIcon& icon, const QString& toolTip, std::function<void()> clicked,
                        std::vector<Command> menu) = 0;
 
+  // Closes the menu, if it is the program's own and open: it has the keyboard.
+  virtual void closeMenu() {}
+
   // Whether the desktop has a tray just now. Asks it anew: a few milliseconds.
   virtual bool isInTray() const = 0;
 

@@ -73,11 +73,11 @@ void MenuBarController::installStatusItem() {
   menu.push_back({QStringLiteral("Quit"), actions_.onQuit});
   statusItem_.install(
       statusItemImage(), QStringLiteral("Tarn Loft — quick grab"),
-      [this] { panel_->toggle(QuickGrabPanel::By::click, statusItem_.place()); }, std::move(menu));
+      [this] { toggle(QuickGrabPanel::By::click); }, std::move(menu));
 }
 
 void MenuBarController::installHotKey() {
-  hotKey_.install([this] { panel_->toggle(QuickGrabPanel::By::key, statusItem_.place()); },
+  hotKey_.install([this] { toggle(QuickGrabPanel::By::key); },
                   [this] { emit hotKeySettings_.changed(); });
   hotKeySettings_.updateHotKey();
 }
@@ -86,13 +86,19 @@ void MenuBarController::observePrefs() {
   connect(&prefs_, &MenuBarPrefs::hotKeyChanged, &hotKeySettings_, &HotKeySettings::updateHotKey);
 }
 
+void MenuBarController::toggle(QuickGrabPanel::By by) {
+  statusItem_.closeMenu();
+  panel_->toggle(by, statusItem_.place());
+}
+
 void MenuBarController::showPanel() {
+  statusItem_.closeMenu();
   if (!panel_->isShown()) panel_->show(statusItem_.place());
 }
 
 QIcon MenuBarController::statusItemImage() {
   QIcon icon;
-  for (const int pixels : {18, 22, 24, 32, 36, 44, 48, 64}) icon.addPixmap(housePixmap(pixels));
+  for (const int pixels : {16, 18, 20, 22, 24, 28, 32, 36, 44, 48, 64}) icon.addPixmap(housePixmap(pixels));
   return icon;
 }
 

@@ -39,6 +39,7 @@ class MenuBarController : public QObject {
   static QIcon statusItemImage();
 
  private:
+  void toggle(QuickGrabPanel::By by);
   void leavePanelFor(const std::function<void()>& action);
 
   StatusItem& statusItem_;

@@ -124,6 +124,7 @@ void QuickGrabPanel::close() {
 }
 
 void QuickGrabPanel::toggle(By by, const QRect& anchor) {
+  if (grab_.isDragging()) return;
   if (isShown()) return close();
   if (by == By::click && lostFocus_.isValid() && lostFocus_.elapsed() < sameClick.count()) {
     return lostFocus_.invalidate();

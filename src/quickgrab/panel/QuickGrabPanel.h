@@ -38,7 +38,7 @@ class QuickGrabPanel : public QObject {
   void show(const QRect& anchor = {});
   void close();
   // Closes or shows it. A click on the tray's icon that has itself taken the keyboard, and so
-  // closed the panel, leaves it closed.
+  // closed the panel, leaves it closed. Nothing during a drag.
   enum class By { key, click };
   void toggle(By by, const QRect& anchor = {});
 

@@ -163,8 +163,9 @@ bool ServerHotKey::nativeEventFilter(const QByteArray& type, void* message, qint
     if ((isMapping || what <= mapChanged) && modifiers_ != 0) keyboardChange_.start();
   } else if (kind == XCB_KEY_PRESS || kind == XCB_KEY_RELEASE) {
     const auto* const key = static_cast<xcb_key_press_event_t*>(message);
+    // It comes to the screen, or to a menu of ours that has the whole keyboard.
     const bool isOurs = std::ranges::any_of(grabs_, [&](const Grab& held) {
-      return held.key == key->detail && held.root == key->event &&
+      return held.key == key->detail && held.root == key->root &&
              (kind == XCB_KEY_RELEASE ||
               (held.modifiers & eachModifier) == (key->state & eachModifier));
     });

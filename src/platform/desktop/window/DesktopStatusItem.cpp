@@ -26,6 +26,10 @@ void DesktopStatusItem::showInTray() {
   icon_->show();
 }
 
+void DesktopStatusItem::closeMenu() {
+  if (menu_) menu_->close();
+}
+
 bool DesktopStatusItem::isInTray() const { return icon_ && host_->isThere(); }
 
 }  // namespace tarnloft

@@ -17,6 +17,7 @@ class DesktopStatusItem : public StatusItem {
  public:
   void install(const QIcon& icon, const QString& toolTip, std::function<void()> clicked,
                std::vector<Command> menu) override;
+  void closeMenu() override;
   bool isInTray() const override;
   QRect place() const override { return icon_ ? icon_->geometry() : QRect(); }
 
