@@ -3,7 +3,7 @@
 
 using namespace tarnloft;
 
-Archiver* tarnloftArchiver(const QString& /*programFolder*/) {
+Archiver* tarnloftArchiver(const QString& /*moduleFolder*/) {
   static ZipArchiver archiver;
   return &archiver;
 }

@@ -3,7 +3,7 @@
 
 using namespace tarnloft;
 
-Images* tarnloftImages(const QString& programFolder) {
-  static VipsImages images(programFolder + QStringLiteral("/tarnloft-vectors"));
+Images* tarnloftImages(const QString& moduleFolder) {
+  static VipsImages images(moduleFolder + QStringLiteral("/tarnloft-vectors"));
   return &images;
 }

@@ -3,7 +3,7 @@
 
 using namespace tarnloft;
 
-Trash* tarnloftTrash(const QString& /*programFolder*/) {
+Trash* tarnloftTrash(const QString& /*moduleFolder*/) {
   static GioTrash trash;
   return &trash;
 }

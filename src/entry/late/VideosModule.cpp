@@ -5,12 +5,12 @@
 
 using namespace tarnloft;
 
-Videos* tarnloftVideos(const QString& /*programFolder*/) {
+Videos* tarnloftVideos(const QString& /*moduleFolder*/) {
   static LibavVideos videos;
   return &videos;
 }
 
-ClipPlayers* tarnloftClipPlayers(const QString& /*programFolder*/) {
+ClipPlayers* tarnloftClipPlayers(const QString& /*moduleFolder*/) {
   static LateSounds sounds;
   static LibavClipPlayers players(&sounds);
   return &players;
