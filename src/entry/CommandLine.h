@@ -31,8 +31,8 @@ struct ApplicationMode {
   bool operator==(const ApplicationMode&) const = default;
 };
 
-// What a running program, or one that is being started, can be asked for: `--quick-grab` and so on, on
-// the bus by the bare name.
+// What a running program, or one that is being started, can be asked for: `--quick-grab` and so on,
+// on the bus by the bare name.
 inline constexpr std::array actions{u"quick-grab", u"new-brand", u"preferences"};
 
 using Mode = std::variant<SelfTestMode, PageExportMode, LogoSeedingMode, ApplicationMode>;

@@ -10,7 +10,6 @@
 #include "platform/desktop/system/AutostartEntry.h"
 #include "platform/desktop/system/Syslog.h"
 #include "platform/desktop/window/ApplicationBus.h"
-#include "platform/desktop/window/WindowActivation.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -67,9 +66,8 @@ QIcon windowIcon() {
 
 int runWindows(RunningInstance& instance, TarnLoftApp::Opening opening, const QString& action) {
   TarnLoftApp app(opening);
-  QObject::connect(&instance, &RunningInstance::requested, &app, [&app](const QByteArray& asked) {
-    app.perform(QString::fromLatin1(asked));
-  });
+  QObject::connect(&instance, &RunningInstance::requested, &app,
+                   [&app](const QByteArray& asked) { app.perform(QString::fromLatin1(asked)); });
   ApplicationBus bus;
   QObject::connect(&bus, &ApplicationBus::activated, &app, [&app] { app.perform({}); });
   QObject::connect(&bus, &ApplicationBus::actionActivated, &app, &TarnLoftApp::perform);

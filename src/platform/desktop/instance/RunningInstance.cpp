@@ -62,8 +62,8 @@ bool RunningInstance::askToShow(const QByteArray& action, const QDeadlineTimer& 
 }
 
 QByteArray RunningInstance::showRequest(const QByteArray& action) {
-  return (action.isEmpty() ? show : action) + ' ' +
-         qgetenv(activationToken).toPercentEncoding() + '\n';
+  return (action.isEmpty() ? show : action) + ' ' + qgetenv(activationToken).toPercentEncoding() +
+         '\n';
 }
 
 bool RunningInstance::listen() {
