@@ -57,8 +57,8 @@ class Installed(Journey):
     def test_actions_start_it_by_the_bus_and_reach_it_by_a_second_start(self):
         bus.ask("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
                 "UpdateActivationEnvironment", "(a{ss})",
-                self.home.environment | {"DISPLAY": os.environ["DISPLAY"],
-                                         "QT_QUICK_BACKEND": "software"})
+                self.home.environment | {"QT_QUICK_BACKEND": "software"} |
+                {name: os.environ[name] for name in ("DISPLAY", "XAUTHORITY")})
         start_by_bus("preferences")
         pid = bus.ask("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
                       "GetConnectionUnixProcessID", "(s)", NAME)
