@@ -66,6 +66,7 @@ function(tarnloft_module name)
     CXX_VISIBILITY_PRESET hidden
     BUILD_RPATH "$ORIGIN"
     INSTALL_RPATH "$ORIGIN")
+  install(TARGETS ${name} LIBRARY DESTINATION ${TARNLOFT_MODULES})
 endfunction()
 
 # Compiles generated sources of a target some together, as nearly all of their time goes to the

@@ -23,7 +23,11 @@ Mode modeOf(const QStringList& arguments) {
   if (const auto values = valuesOf(QStringLiteral("--seed-logo"), 1, arguments)) {
     return LogoSeedingMode{values->at(0)};
   }
-  return ApplicationMode{arguments.contains(QStringLiteral("--quick-grab"))};
+  for (const char16_t* const action : actions) {
+    const QString name = QString::fromUtf16(action);
+    if (arguments.contains(QStringLiteral("--") + name)) return ApplicationMode{name};
+  }
+  return ApplicationMode{};
 }
 
 }  // namespace tarnloft

@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <array>
 #include <variant>
 
 namespace tarnloft {
@@ -25,10 +26,14 @@ struct LogoSeedingMode {
 };
 
 struct ApplicationMode {
-  bool isQuickGrab = false;  // it begins with the panel instead of the main window
+  QString action;  // what it begins with instead of the main window alone: one of `actions`
 
   bool operator==(const ApplicationMode&) const = default;
 };
+
+// What a running program, or one that is being started, can be asked for: `--quick-grab` and so on,
+// on the bus by the bare name.
+inline constexpr std::array actions{u"quick-grab", u"new-brand", u"preferences"};
 
 using Mode = std::variant<SelfTestMode, PageExportMode, LogoSeedingMode, ApplicationMode>;
 

@@ -46,7 +46,7 @@ void ignoreRelativeFolders() {
   }
 }
 
-// Looks beside the program and where packages put such modules.
+// Looks beside the program, or for an installed one in its folder of modules.
 int runInModule(const char* entryName, int argc, char** argv) {
   void* const module = ::dlopen("libtarnloft-application.so", RTLD_LAZY | RTLD_LOCAL);
   void* const entry = module ? ::dlsym(module, entryName) : nullptr;

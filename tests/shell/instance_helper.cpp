@@ -45,7 +45,7 @@ int main(int argc, char** argv) {
   const QStringList words = QCoreApplication::arguments().mid(1);
   RunningInstance instance(words.first());
   if (words.last() == QLatin1String("deaf")) std::signal(SIGTERM, SIG_IGN);
-  Start start = instance.claim(RunningInstance::Wish::window,
+  Start start = instance.claim({},
                                std::chrono::milliseconds(words.value(1, "10000").toInt()));
   if (start == Start::noAnswer) {
     say("no answer");
@@ -53,7 +53,7 @@ int main(int argc, char** argv) {
   }
   if (start == Start::shown) say("shown");
   if (start != Start::first) return start == Start::shown ? 0 : 1;
-  QObject::connect(&instance, &RunningInstance::showRequested, [] { say("asked"); });
+  QObject::connect(&instance, &RunningInstance::requested, [] { say("asked"); });
   if (!instance.listen()) return 2;
   say("first");
   return QCoreApplication::exec();

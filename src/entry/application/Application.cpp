@@ -10,9 +10,9 @@
 #include "platform/desktop/system/AutostartEntry.h"
 #include "platform/desktop/system/Syslog.h"
 #include "platform/desktop/window/ApplicationBus.h"
-#include "platform/desktop/window/WindowActivation.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QtQml/qqmlextensionplugin.h>
 
 #include <cstdio>
@@ -42,34 +42,39 @@ bool hasDisplay() {
   return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
-// What the program begins with.
-TarnLoftApp::Opening openingOf(int argc, char** argv) {
+// What this start is asked for beside the window.
+QString actionOf(int argc, char** argv) {
   QStringList arguments;
   for (int i = 0; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
   const Mode mode = modeOf(arguments);
   const auto* const application = std::get_if<ApplicationMode>(&mode);
-  if (application && application->isQuickGrab) return TarnLoftApp::Opening::quickGrab;
-  const bool isHidden = qgetenv(AutostartEntry::startVariable) == AutostartEntry::hidden;
-  return isHidden ? TarnLoftApp::Opening::nothing : TarnLoftApp::Opening::window;
+  return application ? application->action : QString();
 }
 
-int runWindows(RunningInstance& instance, TarnLoftApp::Opening opening) {
+// Some actions have a window of their own.
+TarnLoftApp::Opening openingOf(const QString& action, bool isHidden) {
+  const bool isNothing = action.isEmpty() ? isHidden : action != QLatin1String("new-brand");
+  return isNothing ? TarnLoftApp::Opening::nothing : TarnLoftApp::Opening::window;
+}
+
+QIcon windowIcon() {
+  QIcon icon;
+  for (const char* const size : {"16", "24", "32", "48", "64", "128"})
+    icon.addFile(QStringLiteral(":/tarnloft/icons/%1.png").arg(QLatin1String(size)));
+  return icon;
+}
+
+int runWindows(RunningInstance& instance, TarnLoftApp::Opening opening, const QString& action) {
   TarnLoftApp app(opening);
-  QObject::connect(&instance, &RunningInstance::showRequested, &app.appDelegate(), [&app] {
-    allowActivation();
-    app.appDelegate().applicationShouldHandleReopen();
-  });
-  QObject::connect(&instance, &RunningInstance::quickGrabRequested, &app,
-                   &TarnLoftApp::showQuickGrab);
+  QObject::connect(&instance, &RunningInstance::requested, &app,
+                   [&app](const QByteArray& asked) { app.perform(QString::fromLatin1(asked)); });
   ApplicationBus bus;
-  QObject::connect(&bus, &ApplicationBus::activated, &app.appDelegate(), [&app] {
-    allowActivation();
-    app.appDelegate().applicationShouldHandleReopen();
-  });
+  QObject::connect(&bus, &ApplicationBus::activated, &app, [&app] { app.perform({}); });
   QObject::connect(&bus, &ApplicationBus::actionActivated, &app, &TarnLoftApp::perform);
   (void)bus.listen();  // nothing is lost without: a second start still finds this one
   if (!instance.listen()) std::fputs("Tarn Loft: a second start won't find this one\n", stderr);
   if (!app.start()) return fail("the interface can't be loaded");
+  if (!action.isEmpty()) app.perform(action);
   const int status = QApplication::exec();
   // All is saved by now, and the system takes the rest.
   if (!app.finish()) std::_Exit(status);
@@ -87,20 +92,18 @@ int tarnloftSelfTest(int argc, char** argv) {
 }
 
 int tarnloftApplication(int argc, char** argv) {
-  using Opening = TarnLoftApp::Opening;
-  const Opening opening = openingOf(argc, argv);
+  const QString action = actionOf(argc, argv);
+  const bool isHidden = qgetenv(AutostartEntry::startVariable) == AutostartEntry::hidden;
   RunningInstance instance(RunningInstance::runtimeFolder());
   // A session's start has nothing to ask of a program that runs already.
-  if (opening == Opening::nothing && !instance.tryClaim()) return 0;
-  auto start = opening == Opening::nothing
-                   ? Start::first
-                   : instance.claim(opening == Opening::quickGrab ? RunningInstance::Wish::quickGrab
-                                                                  : RunningInstance::Wish::window);
+  const bool asksNothing = isHidden && action.isEmpty();
+  if (asksNothing && !instance.tryClaim()) return 0;
+  auto start = asksNothing ? Start::first : instance.claim(action.toLatin1());
   if (start == Start::shown) return 0;
   if (start == Start::noAnswer && !hasDisplay()) return fail("it runs already, but doesn't answer");
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("tarnloft"));
-  QApplication::setDesktopFileName(QStringLiteral("tarnloft"));
+  QApplication::setDesktopFileName(ApplicationBus::name());  // by which taskbars know its windows
   QApplication::setQuitOnLastWindowClosed(false);
   prepareTypography();
   if (start == Start::noAnswer) start = UnansweredStart(instance).ask();
@@ -111,5 +114,8 @@ int tarnloftApplication(int argc, char** argv) {
   }
   // From here on, as the toolkit puts it behind each title that doesn't end with it.
   QApplication::setApplicationDisplayName(QStringLiteral("Tarn Loft"));
-  return runWindows(instance, opening);
+  // Wayland's desktops take it from the desktop file.
+  if (QGuiApplication::platformName() == QLatin1String("xcb"))
+    QApplication::setWindowIcon(windowIcon());
+  return runWindows(instance, openingOf(action, isHidden), action);
 }

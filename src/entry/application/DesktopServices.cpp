@@ -5,6 +5,9 @@
 
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QFileInfo>
+
+#include <dlfcn.h>
 
 namespace tarnloft {
 
@@ -93,8 +96,14 @@ bool DesktopServices::finish(std::chrono::milliseconds patience) {
          QThreadPool::globalInstance()->waitForDone(remaining());
 }
 
+// That of the module which holds this, wherever it was installed.
 QString DesktopServices::decoderProgram() {
-  return QCoreApplication::applicationDirPath() + QStringLiteral("/tarnloft-decoder");
+  Dl_info module;
+  if (::dladdr(reinterpret_cast<const void*>(&DesktopServices::decoderProgram), &module) == 0) {
+    return {};
+  }
+  const QFileInfo file(QFile::decodeName(module.dli_fname));
+  return file.absolutePath() + QStringLiteral("/tarnloft-decoder");
 }
 
 QString DesktopServices::stateFile(const char* name) {

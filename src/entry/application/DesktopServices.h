@@ -73,7 +73,7 @@ struct DesktopServices {
   // most so long. False if some still do.
   bool finish(std::chrono::milliseconds patience);
 
-  // Beside this one.
+  // Beside the module that holds this.
   static QString decoderProgram();
 
   // A file of ours in the user's folder for state.

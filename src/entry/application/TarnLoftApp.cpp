@@ -126,7 +126,6 @@ bool TarnLoftApp::start() {
     appDelegate_.installMenuBar();
     appDelegate_.startHidden();
     services_.media.work.resume();
-    if (opening_ == Opening::quickGrab) showQuickGrab();
     return true;
   }
   if (!openMainWindow()) return false;
@@ -143,7 +142,7 @@ void TarnLoftApp::perform(const QString& action) {
   if (action == QLatin1String("quick-grab")) return showQuickGrab();
   if (action == QLatin1String("preferences")) return openSettings();
   allowActivation();
-  appDelegate_.showMainWindow();
+  appDelegate_.applicationShouldHandleReopen();
   if (action == QLatin1String("new-brand")) library_.setNewBrandRequested(true);
 }
 

@@ -20,9 +20,9 @@ namespace tarnloft {
 class TarnLoftApp : public QObject {
  public:
   // What it begins with.
-  enum class Opening { window, quickGrab, nothing };
+  enum class Opening { window, nothing };
 
-  explicit TarnLoftApp(Opening opening = Opening::window);
+  explicit TarnLoftApp(Opening opening);
   ~TarnLoftApp() override;
   Q_DISABLE_COPY_MOVE(TarnLoftApp)
 

@@ -3,7 +3,7 @@
 
 using namespace tarnloft;
 
-Archiver* tarnloftArchiver(const QString& /*programFolder*/) {
+Archiver* tarnloftArchiver() {
   static ZipArchiver archiver;
   return &archiver;
 }

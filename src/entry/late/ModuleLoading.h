@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QCoreApplication>
-
 #include <cstdio>
 #include <dlfcn.h>
 
@@ -11,10 +9,10 @@ namespace tarnloft {
 // looks at the program's output.
 template <class Service>
 Service* fromModule(const char* file, const char* entryName) {
-  using Entry = Service* (*)(const QString&);
+  using Entry = Service* (*)();
   void* const module = ::dlopen(file, RTLD_NOW | RTLD_LOCAL);
   void* const entry = module ? ::dlsym(module, entryName) : nullptr;
-  if (entry) return reinterpret_cast<Entry>(entry)(QCoreApplication::applicationDirPath());
+  if (entry) return reinterpret_cast<Entry>(entry)();
   std::fprintf(stderr, "Tarn Loft: %s\n", ::dlerror());
   return nullptr;
 }

@@ -4,7 +4,7 @@
 
 using namespace tarnloft;
 
-ClipPlayers* tarnloftClipPlayers(const QString& /*programFolder*/) {
+ClipPlayers* tarnloftClipPlayers() {
   static LateSounds sounds;
   static LibavClipPlayers players(&sounds);
   return &players;

@@ -3,7 +3,7 @@
 
 using namespace tarnloft;
 
-SoundOutputs* tarnloftSounds(const QString& /*programFolder*/) {
+SoundOutputs* tarnloftSounds() {
   static PulseSounds sounds;
   return &sounds;
 }

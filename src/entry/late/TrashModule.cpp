@@ -3,7 +3,7 @@
 
 using namespace tarnloft;
 
-Trash* tarnloftTrash(const QString& /*programFolder*/) {
+Trash* tarnloftTrash() {
   static GioTrash trash;
   return &trash;
 }

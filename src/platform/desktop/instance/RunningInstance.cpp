@@ -6,14 +6,20 @@
 #include <QStandardPaths>
 #include <QThread>
 
+#include <algorithm>
+
 namespace tarnloft {
 namespace {
 
 constexpr int pause = 20;  // milliseconds between two tries
 constexpr qint64 longestRequest = 4096;
 constexpr auto activationToken = "XDG_ACTIVATION_TOKEN";
-const auto show = QByteArrayLiteral("show ");
-const auto quickGrab = QByteArrayLiteral("quick-grab ");
+const auto show = QByteArrayLiteral("show");
+
+bool isAction(const QByteArray& word) {
+  const auto isPart = [](char c) { return (c >= 'a' && c <= 'z') || c == '-'; };
+  return !word.isEmpty() && std::all_of(word.begin(), word.end(), isPart);
+}
 
 }  // namespace
 
@@ -25,11 +31,12 @@ RunningInstance::RunningInstance(const QString& folder)
   connect(&server_, &QLocalServer::newConnection, this, &RunningInstance::answerNext);
 }
 
-RunningInstance::Start RunningInstance::claim(Wish wish, std::chrono::milliseconds patience) {
+RunningInstance::Start RunningInstance::claim(const QByteArray& action,
+                                              std::chrono::milliseconds patience) {
   const QDeadlineTimer deadline(patience);
   do {
     if (tryClaim()) return Start::first;
-    if (askToShow(wish, deadline)) return Start::shown;
+    if (askToShow(action, deadline)) return Start::shown;
     QThread::msleep(pause);  // it starts or ends just now
   } while (!deadline.hasExpired());
   return Start::noAnswer;
@@ -41,11 +48,11 @@ std::optional<qint64> RunningInstance::holder() const {
   return lock_.getLockInfo(&process, &host, &program) ? std::optional(process) : std::nullopt;
 }
 
-bool RunningInstance::askToShow(Wish wish, const QDeadlineTimer& deadline) const {
+bool RunningInstance::askToShow(const QByteArray& action, const QDeadlineTimer& deadline) const {
   QLocalSocket socket;
   socket.connectToServer(socketPath_);
   if (!socket.waitForConnected(int(deadline.remainingTime()))) return false;
-  socket.write(showRequest(wish));
+  socket.write(showRequest(action));
   QByteArray answer;
   while (answer != shownAnswer()) {
     if (!socket.waitForReadyRead(int(deadline.remainingTime()))) return false;
@@ -54,9 +61,9 @@ bool RunningInstance::askToShow(Wish wish, const QDeadlineTimer& deadline) const
   return true;
 }
 
-QByteArray RunningInstance::showRequest(Wish wish) {
-  return (wish == Wish::quickGrab ? quickGrab : show) +
-         qgetenv(activationToken).toPercentEncoding() + '\n';
+QByteArray RunningInstance::showRequest(const QByteArray& action) {
+  return (action.isEmpty() ? show : action) + ' ' + qgetenv(activationToken).toPercentEncoding() +
+         '\n';
 }
 
 bool RunningInstance::listen() {
@@ -73,12 +80,12 @@ void RunningInstance::answerNext() {
       return;
     }
     const QByteArray request = socket->readLine(longestRequest);
-    const bool isQuickGrab = request.startsWith(quickGrab);
-    if (!isQuickGrab && !request.startsWith(show)) return socket->abort();
-    const auto token =
-        QByteArray::fromPercentEncoding(request.sliced(request.indexOf(' ') + 1).trimmed());
+    const qsizetype end = request.indexOf(' ');
+    const QByteArray action = request.first(std::max<qsizetype>(end, 0));
+    if (!isAction(action)) return socket->abort();
+    const auto token = QByteArray::fromPercentEncoding(request.sliced(end + 1).trimmed());
     if (!token.isEmpty()) qputenv(activationToken, token);
-    isQuickGrab ? emit quickGrabRequested() : emit showRequested();
+    emit requested(action == show ? QByteArray() : action);
     qunsetenv(activationToken);
     socket->write(shownAnswer());
   });

@@ -22,15 +22,13 @@ class RunningInstance : public QObject {
     noAnswer  // another one runs and doesn't answer
   };
 
-  // What a later start wants of the running one.
-  enum class Wish { window, quickGrab };
-
   // Lock and socket stand in the folder, which belongs to the user alone.
   explicit RunningInstance(const QString& folder);
 
   // Decides which this process is. Waits for another one that is just starting or ending, at most
-  // that long. Needs no application object.
-  Start claim(Wish wish = Wish::window,
+  // that long. The action is what it is asked to do, in small letters and hyphens; none shows its
+  // window. Needs no application object.
+  Start claim(const QByteArray& action = {},
               std::chrono::milliseconds patience = std::chrono::seconds(3));
 
   // The same without waiting and without asking: true if this process is the first from now on.
@@ -44,21 +42,19 @@ class RunningInstance : public QObject {
   // How a later start asks, and what it is told when the window is shown. The request holds the
   // token by which the launcher lets this process raise a window on Wayland, if there is one.
   const QString& socketPath() const { return socketPath_; }
-  static QByteArray showRequest(Wish wish = Wish::window);
+  static QByteArray showRequest(const QByteArray& action = {});
   static QByteArray shownAnswer() { return QByteArrayLiteral("shown\n"); }
 
   // The user's folder for files that live as long as the session.
   static QString runtimeFolder();
 
  signals:
-  // Another start asks for the window. Meanwhile its token is the one that the toolkit raises
-  // windows with.
-  void showRequested();
-  // The same for the quick grab panel.
-  void quickGrabRequested();
+  // Another start asks for that action, or by none for the window. Meanwhile its token is the one
+  // that the toolkit raises windows with.
+  void requested(const QByteArray& action);
 
  private:
-  bool askToShow(Wish wish, const QDeadlineTimer& deadline) const;
+  bool askToShow(const QByteArray& action, const QDeadlineTimer& deadline) const;
   void answerNext();
 
   const QString socketPath_;

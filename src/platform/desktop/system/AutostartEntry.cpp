@@ -44,7 +44,7 @@ Result<void> AutostartEntry::setOn(bool isOn) {
   const QString text =
       QStringLiteral(
           "[Desktop Entry]\nType=Application\nName=Tarn Loft\n"
-          "Exec=env %1=%2 %3\nIcon=tarnloft\nX-GNOME-Autostart-enabled=true\n")
+          "Exec=env %1=%2 %3\nIcon=com.quillmoor.tarnloft\nX-GNOME-Autostart-enabled=true\n")
           .arg(QLatin1String(startVariable), QLatin1String(hidden), quoted(program_));
   QSaveFile file(path_);
   QDir().mkpath(QFileInfo(path_).path());
