@@ -173,11 +173,17 @@ struct NoTray : StatusItem {
   void install(const QIcon&, const QString&, std::function<void()>, std::vector<Command>) override {
   }
   bool isInTray() const override { return false; }
+  QRect place() const override { return {}; }
 };
 
 struct NoTaskbar : Taskbar {
   bool canHideWindows() const override { return false; }
   void setWindowsShown(bool) override {}
+};
+
+struct NoLogin : LoginItem {
+  bool isOn() const override { return false; }
+  Result<void> setOn(bool) override { return {}; }
 };
 
 // Each in a program whose main window is up, until the picture of the new one is there.
@@ -187,9 +193,11 @@ void benchSettings() {
     Bench bench(20);
     NoTray tray;
     NoTaskbar taskbar;
+    NoLogin login;
     MenuBarPrefs menuBar(bench.library.preferences, bench.library.disk.log);
-    SettingsWindow settings(bench.engine, {*bench.library.store, menuBar, bench.library.dialogs,
-                                           bench.library.viewer, tray, taskbar});
+    SettingsWindow settings(
+        bench.engine, {*bench.library.store, menuBar, bench.library.dialogs, bench.library.viewer,
+                       tray, taskbar, login, [] { return nullptr; }});
     const auto openTheirs = [&] {
       QQmlComponent component(&bench.engine);
       component.setData(windowReference, QUrl());

@@ -85,6 +85,19 @@ void LibraryStore::setOpenDocument(std::unique_ptr<BrandDocument> document) {
   unsaved_.keep(std::move(old));
 }
 
+void LibraryStore::followOpenPackage() {
+  if (!openDocument_) return;
+  onDisk(
+      [&files = services_.document.files, folder = libraryURL_,
+       package = openDocument_->packageURL()]() -> std::optional<LibraryListing::Listing> {
+        if (files.isFolder(package)) return std::nullopt;
+        return LibraryListing::read(files, folder);
+      },
+      [this](const auto& listing) {
+        if (listing) applyListing(*listing);
+      });
+}
+
 void LibraryStore::packageMoved(BrandDocument& document) {
   if (&document == openDocument_.get()) {
     if (selection_) opening_.moved(*selection_, document.packageURL());

@@ -60,6 +60,9 @@ class LibraryStore : public QObject {
   // Null if none is open. Owned by the store; it goes with the next selection, but not before its
   // work is on disk.
   BrandDocument* openDocument() const { return openDocument_.get(); }
+  // Looks whether its package still stands where it was seen, and follows it if another program
+  // has renamed it. To be called before its files are read for something new.
+  void followOpenPackage();
   // True while the selected package is being read.
   bool isLoading() const { return selection_ && loading_.contains(*selection_); }
 

@@ -256,6 +256,29 @@ class TestShellViews : public QObject {
     QCOMPARE(views.window().property("sidebarWidth").toDouble(), width);
   }
 
+  void thePageHasTheEditMenusKeys() {
+    Views views;
+    views.library.add("Acme", {sectionOf("A", {colorItem("a"), colorItem("b")})});
+    views.start();
+    QTRY_VERIFY(views.item(row, "a"));
+    const auto items = [&] {
+      return views.library.store->openDocument()->brand().sections.first().items.size();
+    };
+    for (const auto key : {Qt::Key_Delete, Qt::Key_Backspace}) {
+      QTest::mouseClick(&views.window(), Qt::LeftButton, Qt::ControlModifier,
+                        Views::centerOf(views.item(row, "a")));
+      views.press(key);
+      QCOMPARE(items(), 1);
+      views.press(Qt::Key_Z, Qt::ControlModifier);
+      QTRY_VERIFY(views.item(row, "a"));
+    }
+    views.press(Qt::Key_F, Qt::ControlModifier);
+    QVERIFY(views.window().activeFocusItem()->inherits("QQuickTextField"));
+    views.press(Qt::Key_A, Qt::ControlModifier);  // the field's
+    views.press(Qt::Key_Delete);
+    QCOMPARE(items(), 2);
+  }
+
   void aFoldedSidebarHasTheMenus() {
     Views views;
     views.library.add("Acme");

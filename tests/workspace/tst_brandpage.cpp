@@ -253,13 +253,11 @@ class TestBrandPage : public QObject {
     QTRY_VERIFY_WITH_TIMEOUT(!tells("Click to copy #FF0000"), patience);
   }
 
-  void keysSelectDeleteAndClear() {
+  void keysSelectAndClear() {
     TestWorkspace test({sectionOf("A", {textItem("t"), colorItem("a"), colorItem("b")}),
                         sectionOf("B", {colorItem("x")})});
     TestPage page(test);
-    page.key(Qt::Key_Delete);
-    QCOMPARE(test.names(0).size(), 3);
-    page.key(Qt::Key_A, Qt::ControlModifier);
+    test.workspace->selected()->selectAll();
     QCOMPARE(selectedNames(test), "ab");
     page.key(Qt::Key_Escape);
     QCOMPARE(selectedNames(test), "");
@@ -270,7 +268,7 @@ class TestBrandPage : public QObject {
     page.key(Qt::Key_Space, Qt::ControlModifier);
     page.key(Qt::Key_Left);
     QCOMPARE(page.focused(), "a");
-    page.key(Qt::Key_Delete);
+    test.workspace->selected()->remove();
     QCOMPARE(test.names(0), (QStringList{"t", "b"}));
     QTRY_VERIFY(!page.tileNamed("a"));
     QCOMPARE(page.focused(), "b");
@@ -302,7 +300,7 @@ class TestBrandPage : public QObject {
     page.settle();
     QVERIFY(steps({Qt::Key_Backtab}).isEmpty());  // the heading, behind which stands its button
     QCOMPARE(steps({Qt::Key_Tab, Qt::Key_Tab}), "0");
-    page.key(Qt::Key_A, Qt::ControlModifier);  // each tile shows a check box, which is no stop
+    test.workspace->selected()->selectAll();  // each tile shows a check box, which is no stop
     int tabs = 0;
     while (tabs < 10 && page.focused() != "x") {
       page.settle();
@@ -448,14 +446,14 @@ class TestBrandPage : public QObject {
       for (; *text; ++text) QTest::keyClick(&page.view, *text);
       page.settle();
     };
-    page.key(Qt::Key_F, Qt::ControlModifier);
+    emit test.workspace->searchRequested();
     type("sea");
     QTRY_VERIFY(page.tileNamed("Sea") && !page.tileNamed("Sand"));
     QVERIFY(accessible(page, QAccessible::Grouping, "A"));
     QVERIFY(!accessible(page, QAccessible::Grouping, "B"));
     page.key(Qt::Key_Down);
     QCOMPARE(page.focused(), "Sea");
-    page.key(Qt::Key_F, Qt::ControlModifier);
+    emit test.workspace->searchRequested();
     type("zzz");  // in place of what stood there
     QVERIFY(shows(page.view.contentItem(), "No matches for “zzz”"));
     page.key(Qt::Key_Escape);
@@ -464,7 +462,7 @@ class TestBrandPage : public QObject {
     page.key(Qt::Key_Escape);
     QVERIFY(!page.view.activeFocusItem()->inherits("QQuickTextField"));
 
-    page.key(Qt::Key_F, Qt::ControlModifier);
+    emit test.workspace->searchRequested();
     page.settle();
     type("st");
     page.key(Qt::Key_Tab);
@@ -474,7 +472,7 @@ class TestBrandPage : public QObject {
     page.settle();
     QVERIFY(test.workspace->search()->isGlobal());
     QVERIFY(accessible(page, QAccessible::ListItem, "Stone, Color · in B"));
-    page.key(Qt::Key_F, Qt::ControlModifier);
+    emit test.workspace->searchRequested();
     page.key(Qt::Key_Down);
     page.key(Qt::Key_Return);
     QVERIFY(!test.workspace->search()->isGlobal());

@@ -238,6 +238,7 @@ void TarnLoftApp::askToQuit() {
 void TarnLoftApp::followFocus() {
   if (!QGuiApplication::focusWindow()) return;
   library_.retrySaves();
+  library_.followOpenPackage();
   if (!library_.libraryProblem().isEmpty()) library_.scan();
 }
 

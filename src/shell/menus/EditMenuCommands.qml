@@ -2,11 +2,14 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import TarnLoft.Shell
+import TarnLoft.Workspace
 
+// Fields take the keys of what is done with text by themselves; here they mean the page's tiles.
 MenuCommands {
     id: root
 
     required property ContentModel content
+    readonly property BrandWorkspace page: content.pages[0] ?? null
     readonly property EditCommands edit: content.edit
     readonly property WindowUndo undo: content.undo
 
@@ -50,15 +53,16 @@ MenuCommands {
     ShellCommand {
         text: "Delete"
         keys: "Del"
+        otherKeys: "Backspace"
         enabled: root.edit.canDelete
-        keysEnabled: false
+        keysEnabled: (root.page?.selected.count ?? 0) > 0
         onActivated: root.edit.remove()
     }
     ShellCommand {
         text: "Select All"
         keys: "Ctrl+A"
         enabled: root.edit.canSelectAll
-        keysEnabled: false
+        keysEnabled: root.page?.search.global === false
         onActivated: root.edit.selectAll()
     }
     MenuGroup {}
@@ -66,7 +70,6 @@ MenuCommands {
         text: "Find"
         keys: "Ctrl+F"
         enabled: root.content.detail === ContentModel.Detail.Brand
-        keysEnabled: false
         onActivated: root.content.find()
     }
     MenuGroup {}

@@ -8,6 +8,7 @@ QtObject {
 
     required property string text
     property string keys: ""
+    property string otherKeys: "" // do the same, and no menu shows them
     property bool enabled: true
     property bool checkable: false // one of several, or on and off
     property bool checked: false
@@ -17,7 +18,7 @@ QtObject {
 
     readonly property Shortcut shortcut: Shortcut {
         enabled: root.keysEnabled && root.keys !== ""
-        sequences: [root.keys]
+        sequences: [root.keys, root.otherKeys]
         onActivated: root.activated()
     }
 }

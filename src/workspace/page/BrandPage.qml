@@ -12,9 +12,6 @@ FocusScope {
 
     required property BrandWorkspace workspace
 
-    // Of the section that has the keyboard, or of the place behind all; -1 for neither.
-    property int focusedSection: -1
-
     // What the window needs at the start of the head, in front of the title.
     property real headStart: 0
 
@@ -37,38 +34,18 @@ FocusScope {
     function focusResults() {
         if (workspace.search.global)
             return results.item?.forceActiveFocus(Qt.TabFocusReason);
-        for (let index = 0; index < sections.count; ++index) {
-            if ((sections.itemAt(index) as SectionView).focusFirst())
-                return;
-        }
+        scroll.focusFirst();
     }
 
     // Scrolls to that section, which is counted among all.
     function showSection(index: int) {
-        scroll.showSection(sections.itemAt(index));
-    }
-
-    Shortcut {
-        sequence: "Ctrl+A"
-        enabled: !root.workspace.search.global
-        onActivated: root.workspace.selected.selectAll()
-    }
-
-    Shortcut {
-        sequences: ["Delete", "Backspace"]
-        enabled: root.workspace.selected.count > 0
-        onActivated: root.workspace.selected.remove()
+        scroll.showSection(index);
     }
 
     Shortcut {
         sequence: "Esc"
         enabled: root.workspace.selected.count > 0
         onActivated: root.workspace.selected.clear()
-    }
-
-    Shortcut {
-        sequences: ["Ctrl+F"]
-        onActivated: head.focusSearch()
     }
 
     // Takes the keyboard from a name that is being edited, when the page's ground is clicked.
@@ -94,7 +71,6 @@ FocusScope {
         flickable: scroll
     }
 
-    // Tiles stay where they are seen while the tools of the selection come and go above them.
     PageHead {
         id: head
 
@@ -104,7 +80,6 @@ FocusScope {
         contentLeft: root.contentLeft
         contentWidth: root.contentWidth
         headStart: root.headStart
-        onSelectionHeightChanged: scroll.keepPlace()
         onResultsRequested: root.focusResults()
         onLeaving: ground.forceActiveFocus(Qt.OtherFocusReason)
     }
@@ -117,102 +92,16 @@ FocusScope {
         z: 1
     }
 
-    ScrollArea {
+    PageScroll {
         id: scroll
 
         anchors.fill: parent
         anchors.topMargin: head.height
-        contentHeight: column.height
-        bottomMargin: head.selectionHeight // so that there is always room for that
+        workspace: root.workspace
+        contentLeft: root.contentLeft
+        contentWidth: root.contentWidth
+        selectionHeight: head.selectionHeight
         visible: !root.workspace.search.global
-
-        property real lastSelectionHeight: 0
-        property real placeBefore: -1 // the search; -1 without one
-
-        // What is found stands on top, and the page is back where it was when the search ends.
-        function followSearch() {
-            column.forceLayout();
-            const searching = root.workspace.search.text.trim() !== "";
-            if (searching && placeBefore < 0)
-                placeBefore = contentY;
-            contentY = searching || placeBefore < 0 ? 0 : placeBefore;
-            if (!searching)
-                placeBefore = -1;
-        }
-
-        function keepPlace() {
-            const by = head.selectionHeight - lastSelectionHeight;
-            lastSelectionHeight = head.selectionHeight;
-            contentY = Math.max(0, contentY + by);
-        }
-
-        function showSection(section: Item) {
-            glide.to = Math.max(0, Math.min(section.y - 6, contentHeight - height));
-            glide.restart();
-        }
-
-        Connections {
-            target: root.workspace.search
-
-            function onChanged() {
-                scroll.followSearch();
-            }
-        }
-
-        NumberAnimation {
-            id: glide
-
-            target: scroll
-            property: "contentY"
-            duration: Motion.time(250)
-            easing.type: Easing.InOutQuad
-        }
-
-        Column {
-            id: column
-
-            x: root.contentLeft
-            width: root.contentWidth
-            topPadding: 6
-            bottomPadding: 28
-            spacing: 28
-
-            Repeater {
-                id: sections
-
-                model: root.workspace.sections
-                delegate: SectionView {
-                    required property int index
-
-                    width: column.width
-                    margin: column.x
-                    reachable: root.focusedSection >= 0 && Math.abs(index - root.focusedSection) <= 1
-                    viewTop: scroll.contentY - y
-                    viewHeight: scroll.height
-                    onShifted: by => scroll.contentY += by
-                    onActiveFocusChanged: if (activeFocus) root.focusedSection = index
-                }
-            }
-
-            Item {
-                width: parent.width
-                height: addSection.height + 4
-                visible: !root.workspace.nothingFound
-
-                Button {
-                    id: addSection
-
-                    x: -8
-                    y: 4
-                    text: "Add Section"
-                    symbol: "plus"
-                    kind: Button.Borderless
-                    tint: Theme.secondaryLabel
-                    onClicked: root.workspace.askNewSection()
-                    onActiveFocusChanged: if (activeFocus) root.focusedSection = sections.count
-                }
-            }
-        }
     }
 
     LazyItem {

@@ -44,7 +44,9 @@ void TileCommands::copyColor(const QString& hex) {
   copy(text, text);
 }
 
+// Of an item whose files are about to be read.
 std::unique_ptr<ItemBinding> TileCommands::bound(const QUuid& item) const {
+  services_.library.followOpenPackage();
   if (!document_ || !document_->brand().placeOf(item)) return nullptr;
   return std::make_unique<ItemBinding>(*document_, item);
 }
@@ -122,6 +124,7 @@ void TileCommands::setSectionIcon(const AssetRef& asset, const QUuid& section) {
 
 // The file is looked at in the background: its disk may be slow.
 void TileCommands::startExport(const QUuid& item, const AssetRef& asset) {
+  services_.library.followOpenPackage();
   if (!document_) return;
   const auto path = Package::assetPath(document_->packageURL(), asset);
   if (!path) return;
@@ -152,6 +155,7 @@ void TileCommands::showExport(const QUuid& item, const ExportTarget& target) {
 }
 
 void TileCommands::reveal(const AssetRef& asset) {
+  services_.library.followOpenPackage();
   if (!document_) return;
   if (const auto path = Package::assetPath(document_->packageURL(), asset))
     services_.viewer.reveal(*path);
