@@ -146,7 +146,8 @@ class TestKeyboard : public QObject {
     QString joined;
     for (int i = 0; i < parts.count(); ++i) {
       parts.setPlace(i);
-      QVERIFY(parts.part().size() <= LongText::mostInPart && !parts.part().back().isHighSurrogate());
+      QVERIFY(parts.part().size() <= LongText::mostInPart &&
+              !parts.part().back().isHighSurrogate());
       joined += parts.part();
     }
     QVERIFY(parts.count() > 4 && joined == whole && edited.isEmpty());
