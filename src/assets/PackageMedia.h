@@ -18,8 +18,8 @@ struct PackageMediaSource {
 
 // Pictures of packages' assets, named by their paths: a file that leads out of its package counts
 // as one that can't be read. The disk is asked here, where the file is read, because whoever shows
-// a picture must not wait for it. So do the files of a brand that is shown without them. Borrows what
-// it is given; any thread.
+// a picture must not wait for it. So do the files of a brand that is shown without them. Borrows
+// what it is given; any thread.
 class PackageImages : public Images {
  public:
   PackageImages(const FileStore& files, Images& images, const PlainBrands& plain)

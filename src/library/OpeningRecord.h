@@ -6,9 +6,9 @@
 
 namespace tarnloft {
 
-// What is remembered of brands that were being opened when the program ended. It stands in a file of
-// the user's state, written before a package is read and again once its page has stood for a while
-// or the program ends as it should.
+// What is remembered of brands that were being opened when the program ended. It stands in a file
+// of the user's state, written before a package is read and again once its page has stood for a
+// while or the program ends as it should.
 struct OpeningRecord {
   QString opening;       // the package; empty for none
   QStringList suspects;  // packages that ended the program, until they have stood as a whole

@@ -26,9 +26,7 @@ class OpeningWatch : public QObject {
   // The package whose opening ended the program, until it is answered; empty for none.
   const QString& ended() const { return ended_; }
   void answer() { ended_.clear(); }
-  bool isSuspect(const QString& packageURL) const {
-    return record_.suspects.contains(packageURL);
-  }
+  bool isSuspect(const QString& packageURL) const { return record_.suspects.contains(packageURL); }
   bool isPlain(const QString& packageURL) const { return plain_->contains(packageURL); }
   // It shall be shown as a whole.
   void trust(const QString& packageURL) { plain_->remove(packageURL); }

@@ -82,7 +82,8 @@ void BrandPageExporter::fontFaceBlock(const Brand& brand, const PageSource& sour
 void BrandPageExporter::writePage(const PageSource& source, PageSink& sink) {
   const Brand& brand = source.brand;
   sink << BrandPageText::head << escaped(brand.name) << " — Brand</title>\n<style>\n"
-       << ":root { --accent: " << plainColor(brand.accentHex.value_or(QStringLiteral("#111111"))).toUtf8()
+       << ":root { --accent: "
+       << plainColor(brand.accentHex.value_or(QStringLiteral("#111111"))).toUtf8()
        << BrandPageText::styleSheet;
   fontFaceBlock(brand, source, sink);
   sink << BrandPageText::bodyStart;

@@ -110,8 +110,8 @@ QString DesktopServices::stateFile(const char* name) {
   // The toolkit of this version doesn't know the folder.
   const QString folder = qEnvironmentVariable("XDG_STATE_HOME");
   const bool usable = QDir::isAbsolutePath(folder);
-  return (usable ? folder : QDir::homePath() + QStringLiteral("/.local/state")) +
-         QLatin1Char('/') + QLatin1String(name);
+  return (usable ? folder : QDir::homePath() + QStringLiteral("/.local/state")) + QLatin1Char('/') +
+         QLatin1String(name);
 }
 
 }  // namespace tarnloft

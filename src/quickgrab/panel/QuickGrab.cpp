@@ -136,7 +136,9 @@ void QuickGrab::filter() {
 // A font draws by its family from its registration on; it costs, so only where fonts are shown.
 void QuickGrab::registerFonts() {
   const BrandDocument* const open = library_.openDocument();
-  if (!open || library_.isPlain() || !prefs_.showType() || std::exchange(fontsOf_, packageURL_) == packageURL_) return;
+  if (!open || library_.isPlain() || !prefs_.showType() ||
+      std::exchange(fontsOf_, packageURL_) == packageURL_)
+    return;
   services_.workers.start(
       [brand = open->brand(), package = open->files(), &fonts = services_.fonts] {
         FontManager::registerAll(brand, package, fonts);
@@ -185,7 +187,8 @@ GrabThing QuickGrab::thingAt(size_t place) const {
   thing.room = at.room;
   switch (at.kind) {
     case Kind::BlockHeader:
-      thing.name = block.name.isEmpty() ? QStringLiteral("Untitled Section") : shownText(block.name);
+      thing.name =
+          block.name.isEmpty() ? QStringLiteral("Untitled Section") : shownText(block.name);
       thing.detail = QString::number(block.count());
       break;
     case Kind::GroupHeader:
@@ -260,7 +263,8 @@ QVariantList QuickGrab::brands() const {
   QVariantList choices;
   for (const BrandSummary& brand : library_.brands()) {
     const bool isSelected = library_.selection() == brand.packageURL;
-    choices << QVariant::fromValue(BrandChoice{shownText(brand.name), brand.packageURL, isSelected});
+    choices << QVariant::fromValue(
+        BrandChoice{shownText(brand.name), brand.packageURL, isSelected});
   }
   return choices;
 }

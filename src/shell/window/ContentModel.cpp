@@ -31,8 +31,9 @@ ContentModel::ContentModel(const WorkspaceServices& services, QObject* parent)
   connect(library, &LibraryStore::openDocumentChanged, this, &ContentModel::titleChanged);
   connect(library, &LibraryStore::brandChanged, this, &ContentModel::titleChanged);
   // Several documents may come and go in one turn; each page costs.
-  connect(library, &LibraryStore::openDocumentChanged, this, [this] { renewPage(); },
-          Qt::QueuedConnection);
+  connect(
+      library, &LibraryStore::openDocumentChanged, this, [this] { renewPage(); },
+      Qt::QueuedConnection);
   connect(library, &LibraryStore::openDocumentChanged, this, &ContentModel::followDocument);
   connect(library, &LibraryStore::plainChanged, this, [this] { renewPage(Renewal::always); });
   connect(library, &LibraryStore::isLoadingChanged, this, &ContentModel::detailChanged);

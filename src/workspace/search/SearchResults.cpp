@@ -92,8 +92,9 @@ QVariant SearchResults::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
     case TitleRole: return shownText(hit.title);
     case DetailRole:
-      return hit.isSection() ? hit.typeLabel
-                             : hit.typeLabel + QStringLiteral(" · in ") + shownText(hit.sectionName);
+      return hit.isSection()
+                 ? hit.typeLabel
+                 : hit.typeLabel + QStringLiteral(" · in ") + shownText(hit.sectionName);
     case SymbolRole: return symbolOf(hit);
     default: return {};
   }

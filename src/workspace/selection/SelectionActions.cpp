@@ -51,7 +51,7 @@ SelectionActions::Facts SelectionActions::facts() const {
   for (const Section& section : document_->brand().sections) {
     if (section.id == window_.selection.sectionID()) continue;
     facts.targets << (section.name.isEmpty() ? QStringLiteral("Untitled Section")
-                                               : shownText(section.name));
+                                             : shownText(section.name, mostInMenu));
     facts.targetIDs << section.id;
   }
   return facts;

@@ -1,6 +1,7 @@
 #include "workspace/tiles/TileMenuEntries.h"
 
 #include "model/ById.h"
+#include "model/ShownText.h"
 #include "platform/DesktopWords.h"
 #include "publish/ColorUtil.h"
 #include "workspace/tiles/TileCommands.h"
@@ -25,7 +26,8 @@ class Entries {
   // Runs `verb(TileCommands&)`.
   template <class Verb>
   MenuEntry& add(const QString& text, Verb&& verb) {
-    entries_ << MenuEntry{.text = inDesktopWords(text), .run = [commands = commands_, verb] {
+    entries_ << MenuEntry{.text = inDesktopWords(shownText(text, mostInMenu)),
+                          .run = [commands = commands_, verb] {
                             if (commands) verb(*commands);
                           }};
     return entries_.last();
