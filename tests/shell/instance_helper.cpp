@@ -45,8 +45,7 @@ int main(int argc, char** argv) {
   const QStringList words = QCoreApplication::arguments().mid(1);
   RunningInstance instance(words.first());
   if (words.last() == QLatin1String("deaf")) std::signal(SIGTERM, SIG_IGN);
-  Start start = instance.claim({},
-                               std::chrono::milliseconds(words.value(1, "10000").toInt()));
+  Start start = instance.claim({}, std::chrono::milliseconds(words.value(1, "10000").toInt()));
   if (start == Start::noAnswer) {
     say("no answer");
     if (words.size() > 2) start = endOther(instance);

@@ -114,7 +114,7 @@ class TestTileFlow : public QObject {
   }
 
   void takesTheHeightOfItsBlocks() {
-    const QString long_ = QString("many words ").repeated(100);
+    const QString long_ = QString("many words ").repeated(40);
     TestWorkspace test({sectionOf("A", {textItem(long_), colorItem("below")})});
     TestPage page(test);
     const QQuickItem* text = page.tileNamed(long_);

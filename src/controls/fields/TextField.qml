@@ -16,15 +16,15 @@ T.TextField {
     property int controlSize: ControlSize.Regular
     property string accessibleName: placeholderText
     readonly property real fieldPadding: bordered ? 8 : 0
-    readonly property bool cut: length >= maximumLength && !typed
+    readonly property bool isCut: length >= maximumLength && !typed
     property bool typed: false // what it holds is the user's
 
     implicitWidth: bordered ? 200 : Math.max(contentWidth, prompt.implicitWidth) + leftPadding + rightPadding + 2
     implicitHeight: bordered ? Theme.controlHeight(controlSize) : Math.ceil(contentHeight)
     leftPadding: fieldPadding
-    rightPadding: fieldPadding + (cut ? 24 : 0)
+    rightPadding: fieldPadding + (isCut ? 24 : 0)
     maximumLength: 4000
-    readOnly: cut
+    readOnly: isCut
     font: Theme.font(Theme.controlText(controlSize))
     color: Theme.label
     placeholderTextColor: Theme.placeholder
@@ -79,7 +79,7 @@ T.TextField {
         anchors.right: parent.right
         anchors.rightMargin: 4
         anchors.verticalCenter: parent.verticalCenter
-        active: root.cut
+        active: root.isCut
         sourceComponent: Button {
             kind: Button.Plain
             symbol: "xmark.circle.fill"

@@ -16,9 +16,12 @@ constexpr qint64 longestRequest = 4096;
 constexpr auto activationToken = "XDG_ACTIVATION_TOKEN";
 const auto show = QByteArrayLiteral("show");
 
-bool isAction(const QByteArray& word) {
-  const auto isPart = [](char c) { return (c >= 'a' && c <= 'z') || c == '-'; };
-  return !word.isEmpty() && std::all_of(word.begin(), word.end(), isPart);
+const auto perform = QByteArrayLiteral("do:");  // and the action's name
+
+// What a start may ask for; none for anything else that comes by the socket.
+std::optional<QByteArray> actionOf(const QByteArray& word) {
+  if (word == show) return QByteArray();
+  return word.startsWith(perform) ? std::optional(word.sliced(perform.size())) : std::nullopt;
 }
 
 }  // namespace
@@ -62,8 +65,8 @@ bool RunningInstance::askToShow(const QByteArray& action, const QDeadlineTimer& 
 }
 
 QByteArray RunningInstance::showRequest(const QByteArray& action) {
-  return (action.isEmpty() ? show : action) + ' ' + qgetenv(activationToken).toPercentEncoding() +
-         '\n';
+  return (action.isEmpty() ? show : perform + action) + ' ' +
+         qgetenv(activationToken).toPercentEncoding() + '\n';
 }
 
 bool RunningInstance::listen() {
@@ -81,11 +84,11 @@ void RunningInstance::answerNext() {
     }
     const QByteArray request = socket->readLine(longestRequest);
     const qsizetype end = request.indexOf(' ');
-    const QByteArray action = request.first(std::max<qsizetype>(end, 0));
-    if (!isAction(action)) return socket->abort();
+    const auto action = actionOf(request.first(std::max<qsizetype>(end, 0)));
+    if (!action) return socket->abort();
     const auto token = QByteArray::fromPercentEncoding(request.sliced(end + 1).trimmed());
     if (!token.isEmpty()) qputenv(activationToken, token);
-    emit requested(action == show ? QByteArray() : action);
+    emit requested(*action);
     qunsetenv(activationToken);
     socket->write(shownAnswer());
   });
