@@ -98,7 +98,8 @@ void MenuBarController::showPanel() {
 
 QIcon MenuBarController::statusItemImage() {
   QIcon icon;
-  for (const int pixels : {16, 18, 20, 22, 24, 28, 32, 36, 44, 48, 64}) icon.addPixmap(housePixmap(pixels));
+  for (const int pixels : {16, 18, 20, 22, 24, 28, 32, 36, 44, 48, 64})
+    icon.addPixmap(housePixmap(pixels));
   return icon;
 }
 
