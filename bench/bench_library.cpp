@@ -62,7 +62,7 @@ int main() {
   for (int round = 0; round < 5; ++round) {
     reads.push_back(seconds([&] { readAndParse(manifests); }));
     scans.push_back(seconds([&] {
-      rows = LibraryListing::sorted(LibraryListing::read(disk.files, disk.folder.path()), {});
+      rows = LibraryListing::sorted(LibraryListing::read(disk.files, disk.folder.path()).rows, {});
     }));
     greps.push_back(seconds([&] { grepManifests(disk.folder.path(), query); }));
     GlobalSearch search(disk.files);

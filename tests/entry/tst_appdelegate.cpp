@@ -4,6 +4,7 @@
 #include "quickgrab/hotkey/HotKeyFormatter.h"
 
 #include <QQmlEngine>
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace tarnloft;
@@ -142,7 +143,9 @@ class TestAppDelegate : public QObject {
     QCOMPARE(HotKeyFormatter::modifierString(0x1b00) + HotKeyFormatter::keyName(65),
              QString("⌃⌥⇧⌘Key 65"));
     running.hotKey.now = GlobalHotKey::State::taken;
+    const QSignalSpy told(&settings, &HotKeySettings::changed);
     running.hotKey.changed();
+    QCOMPARE(told.size(), 1);
     QVERIFY(settings.problem().contains("another program"));
   }
 

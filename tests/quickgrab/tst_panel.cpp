@@ -67,6 +67,10 @@ class TestPanelWindow : public QObject {
     QCOMPARE(panel.grab().search(), QString("m"));
     QTest::mouseClick(panel.window(), Qt::LeftButton, {}, QPoint(3, 3));  // beside the panel
     QVERIFY(!panel.isShown());
+    for (const bool shows : {true, false, true}) {
+      panel.toggle(QuickGrabPanel::By::key);
+      QCOMPARE(panel.isShown(), shows);
+    }
   }
 
   void standsBesideItsIcon() {

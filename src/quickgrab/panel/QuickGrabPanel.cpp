@@ -7,7 +7,6 @@
 #include <QCursor>
 #include <QGuiApplication>
 #include <QPainter>
-#include <QQmlComponent>
 #include <QQmlEngine>
 #include <QScreen>
 
@@ -64,7 +63,18 @@ QuickGrabPanel::~QuickGrabPanel() {
 }
 
 void QuickGrabPanel::prepare() {
-  if (!window_ && !loading_) loading_.emplace(engine_, url());
+  if (window_ || component_) return;
+  component_ = std::make_unique<QQmlComponent>(&engine_, url(), QQmlComponent::Asynchronous);
+  connect(component_.get(), &QQmlComponent::statusChanged, this, &QuickGrabPanel::makeAhead,
+          Qt::QueuedConnection);
+}
+
+// With what it will show, so that the first key finds it as a later one does.
+void QuickGrabPanel::makeAhead() {
+  if (window_ || !component_ || !component_->isReady()) return;
+  grab_.setActive(true);
+  make();
+  grab_.setActive(false);
 }
 
 bool QuickGrabPanel::make() {
@@ -73,7 +83,7 @@ bool QuickGrabPanel::make() {
   std::unique_ptr<QObject> made(component.createWithInitialProperties(
       {{QStringLiteral("grab"), QVariant::fromValue(&grab_)}}));
   window_.reset(qobject_cast<QQuickWindow*>(made.release()));
-  loading_.reset();
+  component_.reset();
   if (!window_) {
     qCritical("%s", qPrintable(component.errorString()));
     return false;

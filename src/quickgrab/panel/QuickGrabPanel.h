@@ -1,13 +1,12 @@
 #pragma once
 
-#include "controls/loading/ViewLoading.h"
 #include "quickgrab/panel/QuickGrab.h"
 
 #include <QElapsedTimer>
+#include <QQmlComponent>
 #include <QQuickWindow>
 
 #include <memory>
-#include <optional>
 
 class QQmlEngine;
 
@@ -29,7 +28,8 @@ class QuickGrabPanel : public QObject {
   ~QuickGrabPanel() override;
   Q_DISABLE_COPY_MOVE(QuickGrabPanel)
 
-  // Loads its views on the engine's own thread, so that the first showing is quicker.
+  // Loads its views on the engine's own thread and makes them, so that the first showing is
+  // quicker.
   void prepare();
 
   bool isShown() const { return window_ && window_->isVisible(); }
@@ -46,6 +46,7 @@ class QuickGrabPanel : public QObject {
   QQuickWindow* window() const { return window_.get(); }
 
  private:
+  void makeAhead();
   bool make();
   void place(const QRect& anchor);
   void followFocus();
@@ -54,7 +55,7 @@ class QuickGrabPanel : public QObject {
   QQmlEngine& engine_;
   const std::function<bool()> isScreenComposed_;
   QuickGrab grab_;
-  std::optional<ViewLoading> loading_;
+  std::unique_ptr<QQmlComponent> component_;  // while it loads
   std::unique_ptr<QQuickWindow> window_;
   bool hadFocus_ = false;    // since it shows
   QTimer focusLoss_;         // a moment after it
