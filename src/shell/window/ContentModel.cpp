@@ -69,7 +69,7 @@ QVariantList ContentModel::pages() const {
 }
 
 QString ContentModel::title() const {
-  const QString program = QStringLiteral("Tarn Loft");
+  QString program = QStringLiteral("Tarn Loft");
   const BrandDocument* const open = library_.openDocument();
   if (!open) return program;
   return shownText(open->brand().name, mostInTitle) + QStringLiteral(" — ") + program;

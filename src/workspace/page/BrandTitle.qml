@@ -108,7 +108,7 @@ FocusScope {
             horizontalAlignment: TextInput.AlignLeft
             focus: true
 
-            readonly property string typedName: cut ? "" : text
+            readonly property string typedName: isCut ? "" : text
 
             Keys.onShortcutOverride: event => event.accepted = event.key === Qt.Key_Escape // not the page's
             Keys.onReturnPressed: root.endEditing(typedName)

@@ -104,15 +104,15 @@ void allowThreads(Filter& filter) {
   // told to be missing, and the C library falls back on the old one.
   filter.allow(SCMP_SYS(clone), SCMP_A0(SCMP_CMP_MASKED_EQ, CLONE_THREAD, CLONE_THREAD));
   filter.tellMissing(SCMP_SYS(clone3));
-  filter.allow(SCMP_SYS(tgkill), SCMP_A0(SCMP_CMP_EQ, scmp_datum_t(::getpid())));
-  filter.allow(SCMP_SYS(prctl), SCMP_A0(SCMP_CMP_EQ, PR_SET_NAME));
+  filter.allow(SCMP_SYS(tgkill), SCMP_A0(SCMP_CMP_EQ, scmp_datum_t(::getpid()), 0));
+  filter.allow(SCMP_SYS(prctl), SCMP_A0(SCMP_CMP_EQ, PR_SET_NAME, 0));
 }
 
 void allowQuestions(Filter& filter) {
-  filter.allow(SCMP_SYS(prlimit64), SCMP_A0(SCMP_CMP_EQ, 0), SCMP_A2(SCMP_CMP_EQ, 0));
+  filter.allow(SCMP_SYS(prlimit64), SCMP_A0(SCMP_CMP_EQ, 0, 0), SCMP_A2(SCMP_CMP_EQ, 0, 0));
   filter.allow(SCMP_SYS(newfstatat), SCMP_A3(SCMP_CMP_MASKED_EQ, AT_EMPTY_PATH, AT_EMPTY_PATH));
   for (const int command : {F_GETFL, F_GETFD, F_SETFD, F_DUPFD, F_DUPFD_CLOEXEC}) {
-    filter.allow(SCMP_SYS(fcntl), SCMP_A1(SCMP_CMP_EQ, scmp_datum_t(command)));
+    filter.allow(SCMP_SYS(fcntl), SCMP_A1(SCMP_CMP_EQ, scmp_datum_t(command), 0));
   }
 }
 
