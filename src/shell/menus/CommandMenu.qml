@@ -20,15 +20,15 @@ Menu {
         MenuTitle {}
     }
 
-    function add(made: QtObject) {
-        addItem(made as Item);
+    function add(made: Item) {
+        addItem(made);
     }
 
     function addGroup(group: MenuGroup) {
         if (count > 0)
-            add(line.createObject(contentItem));
+            add(line.createObject(contentItem) as Item);
         if (group.title !== "")
-            add(heading.createObject(contentItem, {text: group.title}));
+            add(heading.createObject(contentItem, {text: group.title}) as Item);
     }
 
     title: commands.title
@@ -39,7 +39,7 @@ Menu {
         for (let i = 0; i < commands.entries.length; ++i) {
             const command = commands.entries[i] as ShellCommand;
             if (command)
-                add(entry.createObject(contentItem, {command: command}));
+                add(entry.createObject(contentItem, {command: command}) as Item);
             else
                 addGroup(commands.entries[i] as MenuGroup);
         }
