@@ -56,14 +56,6 @@ std::unique_ptr<OpenedFile> DecoderPool::open(Role role, const posix::Descriptor
   return opened;
 }
 
-void DecoderPool::warmUp(Role role) {
-  {
-    const QMutexLocker lock(&mutex_);
-    if (!idle_.at(size_t(role)).empty()) return;
-  }
-  if (auto process = DecoderProcess::start(program_, role)) keep(role, std::move(process));
-}
-
 std::unique_ptr<DecoderProcess> DecoderPool::take(Role role) {
   std::vector<std::unique_ptr<DecoderProcess>> ended;
   {

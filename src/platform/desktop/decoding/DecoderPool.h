@@ -40,9 +40,6 @@ class DecoderPool {
   std::unique_ptr<OpenedFile> open(Role role, const posix::Descriptor& file, const Request& request,
                                    Patience patience);
 
-  // Starts a decoder for the files that are to come, unless there is one. Doesn't wait for it.
-  void warmUp(Role role);
-
  private:
   friend class OpenedFile;
 

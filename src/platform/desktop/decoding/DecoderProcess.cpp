@@ -30,9 +30,7 @@ std::unique_ptr<DecoderProcess> DecoderProcess::start(const QString& program, Ro
 
 bool DecoderProcess::isAlive() const {
   pollfd state{socket_.number(), POLLIN, 0};
-  if (::poll(&state, 1, 0) == 0) return true;
-  const bool hasEnded = (state.revents & (POLLHUP | POLLERR)) != 0;
-  return !hasEnded && !isReady_;  // it speaks only when asked, but for its first word
+  return ::poll(&state, 1, 0) == 0;  // it speaks only when asked
 }
 
 bool DecoderProcess::awaitReady() {

@@ -20,7 +20,7 @@ class DecoderProcess {
   static std::unique_ptr<DecoderProcess> start(const QString& program, Role role);
   Q_DISABLE_COPY_MOVE(DecoderProcess)
 
-  // False once it has ended by itself.
+  // False once it has ended by itself. When it is ready.
   bool isAlive() const;
   int files() const { return files_; }  // that it has had
 
