@@ -72,6 +72,10 @@ void BrandWorkspace::setTileSize(int size) {
   services_.library.preferences().setTileSize(TileSize(size));
 }
 
+FlowMetrics BrandWorkspace::flowMetrics() const {
+  return {gridMinWidth(), gridMaxWidth(), tileHeight(), isExpanded()};
+}
+
 void BrandWorkspace::rename(const QString& name) {
   const QString trimmed = name.trimmed();
   if (!document_ || trimmed.isEmpty() || trimmed == document_->brand().name) return;

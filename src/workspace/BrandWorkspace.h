@@ -5,6 +5,7 @@
 #include "sheets/emblems/EmblemWords.h"
 #include "workspace/ToastCenter.h"
 #include "workspace/WorkspaceServices.h"
+#include "workspace/flow/TileHeights.h"
 #include "workspace/page/SectionListModel.h"
 #include "workspace/search/PageSearch.h"
 #include "workspace/selection/SelectionActions.h"
@@ -76,6 +77,8 @@ class BrandWorkspace : public QObject {
 
   BrandDocument* document() const { return document_; }  // null once it has gone
   TileSelection& selection() const { return window_.selection; }
+
+  FlowMetrics flowMetrics() const;
 
   // The brand is shown without its fonts and pictures.
   bool isPlain() const { return services_.library.isPlain(); }

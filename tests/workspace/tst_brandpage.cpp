@@ -2,6 +2,7 @@
 #include "testing/Cases.h"
 #include "workspace/Items.h"
 #include "workspace/TestPage.h"
+#include "workspace/page/SectionColumn.h"
 
 #include <QStyleHints>
 
@@ -550,6 +551,43 @@ class TestBrandPage : public QObject {
                  qPrintable(item.displayName()));
       }
     }
+  }
+
+  // What is seen moves by what was scrolled, though nothing above it has been laid out before.
+  void ofManySectionsThoseNearExist() {
+    QList<Section> sections;
+    for (int i = 0; i < 1000; ++i) {
+      sections << sectionOf(QString::number(i),
+                            {colorItem(QString("tile %1").arg(i)),
+                             textItem(QString("WORDS, MANY ").repeated(1 + 40 * (i % 3)))});
+    }
+    TestWorkspace test(sections);
+    TestPage page(test);
+    auto* const column = page.view.rootObject()->findChild<SectionColumn*>();
+    page.click("tile 0");
+    QTest::mouseMove(&page.view, {5, 5});
+    for (const int wanted : {500, 999}) {
+      QVERIFY(QMetaObject::invokeMethod(page.view.rootObject(), "showSection", Q_ARG(int, wanted)));
+      const auto there = [&] { return page.tileNamed(QString("tile %1").arg(wanted)); };
+      QTRY_VERIFY(there() && page.view.rootObject()->contains(there()->mapToScene({})));
+    }
+    QCOMPARE(page.focused(), "tile 0");  // it is far away by now, and has the keyboard
+    for (int i = 990; i > 965; --i) {
+      page.settle();
+      const auto seen = [&] { return page.tileNamed(QString("tile %1").arg(i)); };
+      page.scroll()->setProperty("contentY", column->topOf(i));
+      page.settle();
+      QVERIFY(seen());
+      const double before = seen()->mapToScene({}).y();
+      const double top = page.scroll()->property("contentY").toDouble();
+      page.scroll()->setProperty("contentY", top - 300);
+      page.settle();
+      QCOMPARE(seen()->mapToScene({}).y(), before + 300);
+    }
+    QVERIFY(column->liveCount() < 60);
+    test.section(965).remove();
+    page.settle();
+    QVERIFY(!page.tileNamed("tile 965"));
   }
 
   void sectionsComeGoAndMove() {

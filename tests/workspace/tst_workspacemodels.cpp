@@ -1,3 +1,4 @@
+#include "controls/sheets/ChoiceSheet.h"
 #include "controls/sheets/Question.h"
 #include "sheets/versions/VersionHistorySheet.h"
 #include "testing/Cases.h"
@@ -127,6 +128,21 @@ class TestWorkspaceModels : public QObject {
     tools.groupAsLogo();
     QCOMPARE(test.toasts.message(), "Grouped 2 into a logo · ⌘Z to undo");
     QCOMPARE(test.names(0), (QStringList{"a", "c"}));
+
+    // Of more sections than a menu holds one is found by its name.
+    test.document().edit([](Brand& brand) {
+      for (int i = 0; i < 60; ++i) brand.sections.insert(1, sectionOf(QString::number(i), {}));
+    });
+    (void)select({1});
+    QVERIFY(tools.hasManyTargets() && tools.targets().isEmpty());
+    tools.askTarget();
+    auto& choice = dynamic_cast<ChoiceSheet&>(*test.sheets.current());
+    choice.setFilter("UNTITLED");
+    QCOMPARE(choice.names(), QStringList{"Untitled Section"});
+    choice.setFilter("b");
+    QCOMPARE(choice.names(), QStringList{"B"});
+    choice.choose(0);
+    QCOMPARE(test.names(62), (QStringList{"x", "c"}));
   }
 
   void versionsAreKeptLookedAtAndRestored() {

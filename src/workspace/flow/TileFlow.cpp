@@ -1,10 +1,7 @@
 #include "workspace/flow/TileFlow.h"
 
-#include "controls/fields/LongText.h"
-#include "controls/theme/Typography.h"
 #include "workspace/BrandWorkspace.h"
 
-#include <QFontMetricsF>
 #include <QKeyEvent>
 
 #include <algorithm>
@@ -30,20 +27,6 @@ class TileFlow::Clock : public QAbstractAnimation {
 };
 
 namespace {
-
-// Of a block that isn't measured yet: near enough for what is out of sight.
-double estimatedHeight(const Item& item, double width) {
-  const auto* text = std::get_if<TextPayload>(&item.payload);
-  if (!text) return 34;
-  width = std::min(width - 24, 680.0);
-  const QFontMetricsF metrics(interfaceFont(13));
-  double lines = 0;
-  const QString shown = LongText::firstPart(text->body);
-  for (const QString& paragraph : shown.split(QLatin1Char('\n'))) {
-    lines += std::max(1.0, std::ceil(metrics.horizontalAdvance(paragraph) / std::max(width, 1.0)));
-  }
-  return std::ceil(lines * metrics.height());
-}
 
 std::optional<FlowLayout::Direction> directionOf(int key) {
   using Direction = FlowLayout::Direction;
@@ -145,9 +128,7 @@ void TileFlow::setOut() {
   if (!section_ || !isComponentComplete()) return;
   isLayoutStale_ = false;
   populated_ = {};
-  const BrandWorkspace& workspace = *section_->workspace();
-  metrics_ = {workspace.gridMinWidth(), workspace.gridMaxWidth(), workspace.tileHeight(),
-              workspace.isExpanded()};
+  metrics_ = section_->workspace()->flowMetrics();
   layout_.setOut(section_->items()->items(), width(), metrics_,
                  [this](int index) { return measuredHeight(index); });
   setImplicitHeight(layout_.height());
@@ -161,8 +142,7 @@ double TileFlow::measuredHeight(int index) const {
   const Item& item = section_->items()->items().at(index);
   const auto measured = measured_.constFind(item.id);
   if (measured != measured_.constEnd()) return *measured;
-  return TileFacts::isBlock(item) ? estimatedHeight(item, width())
-                                  : TileHeights::of(item, metrics_, layout_.columnWidth());
+  return TileHeights::estimate(item, metrics_, width(), layout_.columnWidth());
 }
 
 void TileFlow::updatePolish() {
@@ -339,6 +319,12 @@ bool TileFlow::focusFirst() {
   const int first = layout_.neighbour(0, FlowLayout::Direction::first);
   if (first >= 0) focusTile(first);
   return first >= 0;
+}
+
+bool TileFlow::isHeld() const {
+  bool isHeld = false;
+  live_.forEach([&](const LiveTile& live) { isHeld = isHeld || live.isHeld(); });
+  return isHeld;
 }
 
 int TileFlow::focusedIndex() const {

@@ -41,6 +41,8 @@ class TileFlow : public QQuickItem {
   // Gives the first tile the keyboard; false if there is none.
   Q_INVOKABLE bool focusFirst();
 
+  // A view has the keyboard or an open menu, or is being dragged.
+  bool isHeld() const;
   // Views that exist, those that wait for another item included.
   int liveCount() const { return live_.count(); }
   // Views that have been made since the beginning.

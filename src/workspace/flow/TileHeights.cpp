@@ -1,5 +1,6 @@
 #include "workspace/flow/TileHeights.h"
 
+#include "controls/fields/LongText.h"
 #include "controls/theme/Typography.h"
 #include "publish/ColorUtil.h"
 #include "workspace/tiles/TileFacts.h"
@@ -64,6 +65,16 @@ struct DetailHeight {
   static constexpr double specLine = 14;
 };
 
+double textBlock(const QString& body, double width) {
+  static const QFontMetricsF metrics(interfaceFont(13));
+  static const double letter = metrics.averageCharWidth();
+  const double letters = std::max(1.0, std::min(width - 24, 680.0) / letter);
+  double lines = 0;
+  for (const QStringView paragraph : QStringView(LongText::firstPart(body)).split(u'\n'))
+    lines += std::max(1.0, std::ceil(double(paragraph.size()) / letters));
+  return std::ceil(lines * metrics.height());
+}
+
 double captionHeight(const Item& item) {
   const int named = FlowMetrics::captionGap + FlowMetrics::nameHeight;
   return TileFacts::hasSubcaption(item) ? named + FlowMetrics::subcaptionHeight : named;
@@ -86,6 +97,13 @@ double of(const Item& item, const FlowMetrics& metrics, double width) {
   }
   const double detail = std::visit(DetailHeight{width}, item.payload);
   return metrics.tileHeight + captionHeight(item) + (detail > 0 ? detailGap + detail : 0);
+}
+
+double estimate(const Item& item, const FlowMetrics& metrics, double width, double columnWidth) {
+  constexpr double heading = 34;
+  if (const auto* text = std::get_if<TextPayload>(&item.payload))
+    return textBlock(text->body, width);
+  return TileFacts::isBlock(item) ? heading : of(item, metrics, columnWidth);
 }
 
 bool isEstimate(const Item& item, const FlowMetrics& metrics) {

@@ -29,6 +29,10 @@ double of(const Item& item, const FlowMetrics& metrics, double width);
 // lines break.
 bool isEstimate(const Item& item, const FlowMetrics& metrics);
 
+// Of any item that no view has measured yet, in a flow and a column of those widths: near enough
+// for what is out of sight.
+double estimate(const Item& item, const FlowMetrics& metrics, double width, double columnWidth);
+
 // How many variants of a logo set stand side by side in that width.
 int variantColumns(double width);
 

@@ -13,27 +13,23 @@ ScrollArea {
     property real contentWidth: width
     property real selectionHeight: 0 // of the tools of the selection, which come and go above it
 
-    // Of the section that has the keyboard, or of the place behind all; -1 for neither.
-    property int focusedSection: -1
-
     property real lastSelectionHeight: 0
     property real placeBefore: -1 // the search; -1 without one
 
     // Gives the first tile the keyboard.
     function focusFirst() {
-        for (let index = 0; index < sections.count; ++index) {
-            if ((sections.itemAt(index) as SectionView).focusFirst())
-                return;
-        }
+        (column.firstWithTiles() as SectionView)?.focusFirst();
     }
 
     // Scrolls to that section, which is counted among all.
     function showSection(index: int) {
-        glide.to = Math.max(0, Math.min(sections.itemAt(index).y - 6, contentHeight - height));
+        glide.stop();
+        glide.row = index;
+        glide.start = contentY;
         glide.restart();
     }
 
-    contentHeight: column.height
+    contentHeight: content.height
     bottomMargin: selectionHeight // so that there is always room for that
 
     // Tiles stay where they are seen.
@@ -49,6 +45,7 @@ ScrollArea {
 
         function onChanged() {
             column.forceLayout();
+            content.forceLayout();
             const searching = root.workspace.search.text.trim() !== "";
             if (searching && root.placeBefore < 0)
                 root.placeBefore = root.contentY;
@@ -58,17 +55,28 @@ ScrollArea {
         }
     }
 
+    // What stands above the section may turn out to be of another height on the way.
     NumberAnimation {
         id: glide
 
-        target: root
-        property: "contentY"
+        property int row: 0
+        property real start: 0
+        property real share: 0 // of the way
+
+        target: glide
+        property: "share"
+        from: 0
+        to: 1
         duration: Motion.time(250)
         easing.type: Easing.InOutQuad
+        onShareChanged: {
+            const end = Math.min(column.y + column.topOf(row) - 6, root.contentHeight - root.height);
+            root.contentY = start + (Math.max(0, end) - start) * share;
+        }
     }
 
     Column {
-        id: column
+        id: content
 
         x: root.contentLeft
         width: root.contentWidth
@@ -76,20 +84,22 @@ ScrollArea {
         bottomPadding: 28
         spacing: 28
 
-        Repeater {
-            id: sections
+        SectionColumn {
+            id: column
 
-            model: root.workspace.sections
-            delegate: SectionView {
-                required property int index
-
+            width: parent.width
+            height: implicitHeight
+            visible: height > 0
+            sections: root.workspace.sections
+            viewTop: root.contentY - y
+            viewHeight: root.height
+            onShifted: by => root.contentY += by
+            view: SectionView {
                 width: column.width
-                margin: column.x
-                reachable: root.focusedSection >= 0 && Math.abs(index - root.focusedSection) <= 1
-                viewTop: root.contentY - y
-                viewHeight: root.height
+                margin: content.x
+                viewTop: column.viewTop - y
+                viewHeight: column.viewHeight
                 onShifted: by => root.contentY += by
-                onActiveFocusChanged: if (activeFocus) root.focusedSection = index
             }
         }
 
@@ -108,7 +118,7 @@ ScrollArea {
                 kind: Button.Borderless
                 tint: Theme.secondaryLabel
                 onClicked: root.workspace.askNewSection()
-                onActiveFocusChanged: if (activeFocus) root.focusedSection = sections.count
+                onActiveFocusChanged: if (activeFocus) column.focusedRow = root.workspace.sections.count
             }
         }
     }

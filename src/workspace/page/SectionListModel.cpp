@@ -54,6 +54,7 @@ void SectionListModel::setSections(const QList<Section>& sections, const QString
     models_[size_t(i)]->setSection(sections.at(i), searchText);
     models_[size_t(i)]->setPlace(i, sections.size());
   }
+  emit updated();
 }
 
 void SectionListModel::rearrange(const QList<Section>& sections) {

@@ -24,12 +24,17 @@ class SectionListModel : public tarnloft::RecordListModel {
   explicit SectionListModel(BrandWorkspace& workspace) : workspace_(workspace) {}
   ~SectionListModel() override;
 
+  BrandWorkspace& workspace() const { return workspace_; }
   void setSections(const QList<Section>& sections, const QString& searchText);
   const std::vector<std::unique_ptr<SectionModel>>& models() const { return models_; }
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role = SectionRole) const override;
   QHash<int, QByteArray> roleNames() const override;
+
+ signals:
+  // After all rows of a new list, and what is shown in each.
+  void updated();
 
  private:
   struct Rows;

@@ -36,6 +36,7 @@ class SectionModel : public QObject {
   const Section& section() const { return section_; }
   BrandWorkspace* workspace() const { return &workspace_; }
   ItemListModel* items() { return &items_; }
+  const SharedList<Item>& shownItems() const { return items_.items(); }
   // Of all its items, in order.
   QList<QUuid> itemOrder() const;
 

@@ -1,6 +1,8 @@
 #include "workspace/selection/SelectionActions.h"
 
 #include "controls/dragging/Carrying.h"
+#include "controls/sheets/ChoiceSheet.h"
+#include "controls/sheets/SheetHost.h"
 #include "model/ShownText.h"
 #include "workspace/ToastCenter.h"
 
@@ -47,14 +49,24 @@ SelectionActions::Facts SelectionActions::facts() const {
   const int count = window_.selection.count();
   if (!document_ || count == 0) return {};
   const GroupOperations operations = this->operations();
-  Facts facts{count, int(operations.exportableCount()), operations.canGroupAsLogo(), {}, {}};
+  Facts facts;
+  facts.count = count;
+  facts.exportable = int(operations.exportableCount());
+  facts.canGroup = operations.canGroupAsLogo();
+  constexpr qsizetype mostTargets = 40;  // in a menu
+  facts.hasManyTargets = document_->brand().sections.size() > mostTargets;
+  if (!facts.hasManyTargets) findTargets(facts.targets, facts.targetIDs);
+  return facts;
+}
+
+// The sections that the selected tiles aren't in.
+void SelectionActions::findTargets(QStringList& names, QList<QUuid>& ids) const {
   for (const Section& section : document_->brand().sections) {
     if (section.id == window_.selection.sectionID()) continue;
-    facts.targets << (section.name.isEmpty() ? QStringLiteral("Untitled Section")
-                                             : shownText(section.name, mostInMenu));
-    facts.targetIDs << section.id;
+    names << (section.name.isEmpty() ? QStringLiteral("Untitled Section")
+                                     : shownText(section.name, mostInMenu));
+    ids << section.id;
   }
-  return facts;
 }
 
 void SelectionActions::selectAll() {
@@ -75,6 +87,21 @@ void SelectionActions::duplicate() {
 void SelectionActions::moveTo(int target) {
   if (document_ && target >= 0 && target < facts_.targetIDs.size())
     operations().bulkMove(facts_.targetIDs.at(target));
+}
+
+void SelectionActions::askTarget() {
+  if (!document_ || facts_.count == 0) return;
+  QStringList names;
+  QList<QUuid> ids;
+  findTargets(names, ids);
+  const auto move = [this, ids](qsizetype place) {
+    if (document_) operations().bulkMove(ids.at(place));
+  };
+  auto* const sheet = window_.sheets.show(std::make_unique<ChoiceSheet>(
+      ChoiceSheet::Words{QStringLiteral("Move to…"), QStringLiteral("Find a section")}, names,
+      move));
+  connect(this, &SelectionActions::changed, sheet, &SheetModel::finished);
+  connect(this, &QObject::destroyed, sheet, &SheetModel::finished);
 }
 
 void SelectionActions::remove() {

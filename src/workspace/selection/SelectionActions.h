@@ -23,8 +23,10 @@ class SelectionActions : public QObject {
   // Items among them that have a file to hand out.
   Q_PROPERTY(int exportableCount READ exportableCount NOTIFY changed)
   Q_PROPERTY(bool canGroupAsLogo READ canGroupAsLogo NOTIFY changed)
-  // The names of the sections that they can be moved to.
+  // The names of the sections that they can be moved to, to stand in a menu; none if they are too
+  // many for one.
   Q_PROPERTY(QStringList targets READ targets NOTIFY changed)
+  Q_PROPERTY(bool hasManyTargets READ hasManyTargets NOTIFY changed)
 
  public:
   // All is borrowed and outlives it, but for the document.
@@ -35,6 +37,7 @@ class SelectionActions : public QObject {
   int exportableCount() const { return facts_.exportable; }
   bool canGroupAsLogo() const { return facts_.canGroup; }
   const QStringList& targets() const { return facts_.targets; }
+  bool hasManyTargets() const { return facts_.hasManyTargets; }
 
   // Selects the tiles of the selected section, else of the first one that has any.
   Q_INVOKABLE void selectAll();
@@ -45,6 +48,8 @@ class SelectionActions : public QObject {
   Q_INVOKABLE void duplicate();
   // `target` counts among `targets`.
   Q_INVOKABLE void moveTo(int target);
+  // Asks for one of all sections.
+  Q_INVOKABLE void askTarget();
   Q_INVOKABLE void remove();
 
   // Drags all files out, under their clients' names; returns when the drag has ended. `view` is
@@ -59,6 +64,7 @@ class SelectionActions : public QObject {
     int count = 0;
     int exportable = 0;
     bool canGroup = false;
+    bool hasManyTargets = false;
     QStringList targets;
     QList<QUuid> targetIDs;
 
@@ -68,6 +74,7 @@ class SelectionActions : public QObject {
   void refreshSoon();
   void refresh();
   Facts facts() const;
+  void findTargets(QStringList& names, QList<QUuid>& ids) const;
   GroupOperations operations() const;
 
   const QPointer<BrandDocument> document_;

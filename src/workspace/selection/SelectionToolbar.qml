@@ -69,8 +69,17 @@ Item {
                     onClicked: root.selected.duplicate()
                 }
 
+                Button {
+                    anchors.verticalCenter: parent.verticalCenter
+                    visible: root.selected.hasManyTargets
+                    controlSize: ControlSize.Small
+                    text: "Move to…"
+                    onClicked: root.selected.askTarget()
+                }
+
                 MenuButton {
                     anchors.verticalCenter: parent.verticalCenter
+                    visible: !root.selected.hasManyTargets
                     controlSize: ControlSize.Small
                     text: "Move to…"
                     enabled: root.selected.targets.length > 0
