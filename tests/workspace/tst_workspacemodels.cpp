@@ -137,8 +137,8 @@ class TestWorkspaceModels : public QObject {
     QVERIFY(tools.hasManyTargets() && tools.targets().isEmpty());
     tools.askTarget();
     auto& choice = dynamic_cast<ChoiceSheet&>(*test.sheets.current());
-    choice.setFilter("UNTITLED");
-    QCOMPARE(choice.names(), QStringList{"Untitled Section"});
+    choice.setFilter("LATE");
+    QCOMPARE(choice.names(), QStringList{"Late"});
     choice.setFilter("b");
     QCOMPARE(choice.names(), QStringList{"B"});
     choice.choose(0);
