@@ -117,9 +117,11 @@ void LibraryStore::libraryOpened(OpenedLibrary&& opened) {
       },
       [] {}, DiskWork::Patience::none);
   applyListing(opened.listing);
+  const bool isFirstSuspect =
+      !brands_.isEmpty() && opening_.isSuspect(brands_.first().packageURL);
+  if (!selection_ && isFirstSuspect) opening_.ask(brands_.first().packageURL);
   emit endedOpeningChanged();
-  if (selection_) return;
-  if (!brands_.isEmpty() && opening_.isSuspect(brands_.first().packageURL)) return;
+  if (selection_ || isFirstSuspect) return;
   if (brands_.isEmpty() || !opened.first ||
       opened.first->packageURL != brands_.first().packageURL) {
     return selectFirst();

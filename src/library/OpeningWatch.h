@@ -25,6 +25,10 @@ class OpeningWatch : public QObject {
 
   // The package whose opening ended the program, until it is answered; empty for none.
   const QString& ended() const { return ended_; }
+  // That suspect isn't opened by itself: unless there is another question, it is one.
+  void ask(const QString& packageURL) {
+    if (ended_.isEmpty()) ended_ = packageURL;
+  }
   void answer() { ended_.clear(); }
   bool isSuspect(const QString& packageURL) const { return record_.suspects.contains(packageURL); }
   bool isPlain(const QString& packageURL) const { return plain_->contains(packageURL); }

@@ -7,7 +7,10 @@
 namespace tarnloft {
 
 void ThumbnailView::setThumbnails(Thumbnails* thumbnails) {
-  if (std::exchange(thumbnails_, thumbnails) == thumbnails) return;
+  if (thumbnails_ == thumbnails) return;
+  if (thumbnails_) thumbnails_->disconnect(this);
+  thumbnails_ = thumbnails;
+  if (thumbnails_) connect(thumbnails_, &Thumbnails::retried, this, &ThumbnailView::retry);
   emit thumbnailsChanged();
   restart();
 }
@@ -37,6 +40,10 @@ void ThumbnailView::restart() {
   if (hasPicture()) setPicture({});
   setState(LoadState::Loading);
   polish();
+}
+
+void ThumbnailView::retry() {
+  if (state_ == LoadState::Failed) restart();
 }
 
 // Sizes come in steps, so that a window that is being resized doesn't decode at each of them; what

@@ -46,6 +46,7 @@ class ThumbnailView : public tarnloft::PictureView {
 
  private:
   void restart();
+  void retry();
   int wantedPixels() const;
   void receive(const std::optional<QImage>& image);
   void setState(LoadState state);

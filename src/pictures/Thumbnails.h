@@ -18,6 +18,11 @@ class Thumbnails : public QObject {
       : QObject(parent), loader_(loader) {}
 
   ThumbnailLoader& loader() const { return loader_; }
+  // Files that could not be read may be read now.
+  void retry() { emit retried(); }
+
+ signals:
+  void retried();
 
  private:
   ThumbnailLoader& loader_;

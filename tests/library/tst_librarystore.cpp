@@ -161,6 +161,8 @@ class TestLibraryStore : public QObject {
     QVERIFY(store->openDocument() && store->isPlain() && !store->endedOpening());
     store->endShowing({});
     store = &library.start();
+    QVERIFY(!store->openDocument() && store->endedOpening());  // it hasn't stood as a whole
+    store->answerEndedOpening(LibraryStore::EndedOpening::leave);
     QVERIFY(!store->openDocument() && !store->endedOpening());
     store->select(library.packagePath("B"));
     QVERIFY(store->openDocument() && !store->isPlain());

@@ -36,6 +36,7 @@ ContentModel::ContentModel(const WorkspaceServices& services, QObject* parent)
       Qt::QueuedConnection);
   connect(library, &LibraryStore::openDocumentChanged, this, &ContentModel::followDocument);
   connect(library, &LibraryStore::plainChanged, this, [this] { renewPage(Renewal::always); });
+  connect(library, &LibraryStore::plainChanged, &services_.thumbnails, &Thumbnails::retry);
   connect(library, &LibraryStore::isLoadingChanged, this, &ContentModel::detailChanged);
   connect(library, &LibraryStore::libraryProblemChanged, this, &ContentModel::detailChanged);
   connect(library, &LibraryStore::selectionChanged, this, &ContentModel::followSelection);
