@@ -13,7 +13,8 @@ Cost exported(FileStore& files, const QString& package, const QString& archive) 
   QElapsedTimer clock;
   clock.start();
   const auto written = writeAtomically(files, archive, Durability::atomic, [&](FileWriter& file) {
-    return ZipArchiver().archive(package, file);
+    Progress progress;
+    return ZipArchiver().archive(package, file, progress);
   });
   if (!written) std::exit(1);
   return {double(clock.nsecsElapsed()) / 1e9, 0};

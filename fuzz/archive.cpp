@@ -18,7 +18,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   if (!QDir().mkpath(target) || !file.open(QIODevice::WriteOnly)) std::abort();
   file.write(reinterpret_cast<const char*>(data), qint64(size));
   file.close();
-  (void)ZipArchiver({1 << 20, 0, 100}).extract(archive, target);
+  Progress progress;
+  (void)ZipArchiver({1 << 20, 0, 100}).extract(archive, target, progress);
   const auto all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
   if (QDir(folder.path()).entryList(all).size() != 2) std::abort();
   if (QDir(folder.filePath(QStringLiteral("deep"))).entryList(all).size() != 1) std::abort();

@@ -8,7 +8,9 @@ namespace tarnloft {
 bool QuickModes::exportPage(const PageExportMode& mode, const DocumentServices& services) {
   const auto document = BrandDocument::load(services, mode.packageURL);
   if (!document) return false;
-  return BrandPageExporter::writeFile(*document, services.files, mode.outputPath).has_value();
+  Progress untold;
+  return BrandPageExporter::writeFile(*document, services.files, mode.outputPath, untold)
+      .has_value();
 }
 
 bool QuickModes::seedLogo(const LogoSeedingMode& mode, const DocumentServices& services) {

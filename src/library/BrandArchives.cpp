@@ -2,6 +2,7 @@
 #include "document/Package.h"
 #include "library/LibraryStore.h"
 #include "model/FileName.h"
+#include "model/ShownText.h"
 #include "model/Uuid.h"
 
 #include <algorithm>
@@ -19,8 +20,8 @@ struct PackageImport {
   QString temporaryFolder;
 
   // Gives the package's new path.
-  Result<QString> bringIn(const QString& path) const {
-    return Package::isPackagePath(path) ? copyIn(path) : unpack(path);
+  Result<QString> bringIn(const QString& path, Progress& progress) const {
+    return Package::isPackagePath(path) ? copyIn(path, progress) : unpack(path, progress);
   }
 
  private:
@@ -29,24 +30,24 @@ struct PackageImport {
                                      withoutPathExtension(lastPathComponent(package)));
   }
 
-  Result<QString> copyIn(const QString& package) const {
+  Result<QString> copyIn(const QString& package, Progress& progress) const {
     const QString target = targetFor(package);
-    return services.files.copyFolder(package, target).map([&] { return adopt(target); });
+    return services.files.copyFolder(package, target, progress).map([&] { return adopt(target); });
   }
 
-  Result<QString> unpack(const QString& archive) const {
+  Result<QString> unpack(const QString& archive, Progress& progress) const {
     const QString folder =
         temporaryFolder + QStringLiteral("/ys-import-") + canonicalString(QUuid::createUuid());
     auto brought = services.files
                        .makeFolder(folder)
                        // Half a package would pass for a whole one.
-                       .and_then([&] { return archiver.extract(archive, folder); })
-                       .and_then([&] { return bringFrom(folder); });
+                       .and_then([&] { return archiver.extract(archive, folder, progress); })
+                       .and_then([&] { return bringFrom(folder, progress); });
     (void)services.files.removeFolder(folder);
     return brought;
   }
 
-  Result<QString> bringFrom(const QString& folder) const {
+  Result<QString> bringFrom(const QString& folder, Progress& progress) const {
     const auto found = findYewstack(folder);
     if (!found) return failure(ErrorKind::notFound, QStringLiteral("It holds no brand."));
     if (auto synced = services.files.syncTree(*found); !synced) {
@@ -55,7 +56,7 @@ struct PackageImport {
     const QString target = targetFor(*found);
     if (services.files.moveFolder(*found, target)) return adopt(target);
     // The temporary folder often stands on another file system.
-    return copyIn(*found);
+    return copyIn(*found, progress);
   }
 
   std::optional<QString> findYewstack(const QString& folder) const {
@@ -85,8 +86,8 @@ struct PackageImport {
 
 void LibraryStore::exportBrand(const BrandSummary& brand) {
   const QString packageURL = brand.packageURL;
-  const auto path =
-      services_.dialogs.savePath(brand.name + QStringLiteral(".tarnloft.zip"), zipType);
+  const auto path = services_.dialogs.savePath(
+      Package::fileNameFor(brand.name) + QStringLiteral(".tarnloft.zip"), zipType);
   if (!path) return;
   const auto done = [this, path = *path, name = brand.name](const Result<void>& exported) {
     services_.viewer.reveal(path);
@@ -95,15 +96,14 @@ void LibraryStore::exportBrand(const BrandSummary& brand) {
   };
   // Replaced only by a whole archive. Not synced: it can be made again, and may weigh gigabytes.
   const auto write = [&files = services_.document.files, &archiver = services_.archiver, packageURL,
-                      path = *path] {
-    return writeAtomically(files, path, Durability::atomic,
-                           [&](FileWriter& file) { return archiver.archive(packageURL, file); });
-  };
-  whenSaved(packageURL, [this, write, done](const Result<void>& saved) {
-    if (!saved) return done(saved);
-    services_.copies.ask(write, [store = QPointer(this), done](const Result<void>& exported) {
-      if (store) done(exported);
+                      path = *path](Progress& progress) {
+    return writeAtomically(files, path, Durability::atomic, [&](FileWriter& file) {
+      return archiver.archive(packageURL, file, progress);
     });
+  };
+  whenSaved(packageURL, [this, write, done, name = brand.name](const Result<void>& saved) {
+    if (!saved) return done(saved);
+    copy(QStringLiteral("Exporting “%1”…").arg(shownText(name, mostInTitle)), write, done);
   });
 }
 
@@ -122,14 +122,15 @@ void LibraryStore::importBrand() {
 void LibraryStore::importBrandArchive(const QString& path) {
   const PackageImport import{services_.document, services_.archiver, libraryURL_,
                              services_.temporaryFolder};
-  const auto bringIn = [import, places = places_, path] {
-    return places->checkFolder().and_then([&] { return import.bringIn(path); });
+  const QString name = lastPathComponent(path);
+  const auto bringIn = [import, places = places_, path](Progress& progress) {
+    return places->checkFolder().and_then([&] { return import.bringIn(path, progress); });
   };
-  change(services_.copies, bringIn, [this, path](const Result<QString>& packageURL) {
-    if (packageURL) return select(*packageURL);
-    tell(QStringLiteral("“%1” couldn't be imported").arg(lastPathComponent(path)),
-         packageURL.error().message);
-  });
+  copyIn(QStringLiteral("Importing “%1”…").arg(name), bringIn,
+         [this, name](const Result<QString>& packageURL) {
+           if (packageURL) return select(*packageURL);
+           tell(QStringLiteral("“%1” couldn't be imported").arg(name), packageURL.error().message);
+         });
 }
 
 }  // namespace tarnloft

@@ -1,5 +1,6 @@
 #include "document/Package.h"
 #include "library/LibraryStore.h"
+#include "model/ShownText.h"
 #include "publish/BrandPageExporter.h"
 
 namespace tarnloft {
@@ -48,10 +49,10 @@ void LibraryStore::renameOpenBrand(const QString& name) {
 void LibraryStore::duplicateBrand(const BrandSummary& brand) {
   const QString name = brand.name + QStringLiteral(" Copy");
   const auto duplicate = [services = services_.document, packageURL = brand.packageURL,
-                          folder = libraryURL_, name]() -> Result<QString> {
+                          folder = libraryURL_, name](Progress& progress) -> Result<QString> {
     FileStore& files = services.files;
     QString target = Package::uniquePackageURL(files, folder, name);
-    if (auto copied = files.copyFolder(packageURL, target); !copied) {
+    if (auto copied = files.copyFolder(packageURL, target, progress); !copied) {
       return tl::unexpected(copied.error());
     }
     (void)PackageWriter::editClosed(services, target, [&](Brand& value) {
@@ -64,9 +65,10 @@ void LibraryStore::duplicateBrand(const BrandSummary& brand) {
     services_.document.log.write(QStringLiteral("failed to duplicate brand: ") + error.message);
     tell(QStringLiteral("“%1” couldn't be duplicated").arg(original), error.message);
   };
-  whenSaved(brand.packageURL, [this, duplicate, failed](const Result<void>& saved) {
+  const QString told = QStringLiteral("Duplicating “%1”…").arg(shownText(brand.name, mostInTitle));
+  whenSaved(brand.packageURL, [this, duplicate, failed, told](const Result<void>& saved) {
     if (!saved) return failed(saved.error());
-    change(services_.copies, duplicate, [this, failed](const Result<QString>& target) {
+    copyIn(told, duplicate, [this, failed](const Result<QString>& target) {
       target ? select(*target) : failed(target.error());
     });
   });
@@ -123,12 +125,20 @@ void LibraryStore::exportBrandPage(const BrandSummary& brand) {
 
 void LibraryStore::exportOpenBrandPage() {
   if (!openDocument_) return;
-  BrandPageExporter::exportPage(
-      *openDocument_, services_.document.files, services_.dialogs, services_.viewer,
-      services_.copies, [store = QPointer(this)](const Error& error) {
-        if (!store) return;
-        store->tell(QStringLiteral("The brand page couldn't be exported"), error.message);
-      });
+  const PageSource source = *openDocument_;
+  const auto path = services_.dialogs.savePath(
+      BrandPageExporter::suggestedFileName(source.brand.name), QStringLiteral("text/html"));
+  if (!path) return;
+  const auto write = [source, &files = services_.document.files, path = *path](Progress& progress) {
+    return BrandPageExporter::writeFile(source, files, path, progress);
+  };
+  const QString told =
+      QStringLiteral("Exporting the page of “%1”…").arg(shownText(source.brand.name, mostInTitle));
+  copy(told, write, [this, path = *path](const Result<void>& written) {
+    services_.viewer.reveal(path);
+    if (!written)
+      tell(QStringLiteral("The brand page couldn't be exported"), written.error().message);
+  });
 }
 
 }  // namespace tarnloft

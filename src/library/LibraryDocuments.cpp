@@ -234,22 +234,21 @@ void LibraryStore::saveCopy() {
   if (!openDocument_) return;
   const auto folder = services_.dialogs.chooseFolder({}, {});
   if (!folder || !openDocument_) return;
-  const auto copy = [services = services_.document, folder = *folder,
-                     brand = openDocument_->brand(),
-                     packageURL = openDocument_->packageURL()]() -> Result<QString> {
+  const auto copyTo =
+      [services = services_.document, folder = *folder, brand = openDocument_->brand(),
+       packageURL = openDocument_->packageURL()](Progress& progress) -> Result<QString> {
     FileStore& files = services.files;
     QString target = Package::uniquePackageURL(files, folder, brand.name);
-    const auto made = files.isFolder(packageURL) ? files.copyFolder(packageURL, target)
+    const auto made = files.isFolder(packageURL) ? files.copyFolder(packageURL, target, progress)
                                                  : files.makeFolder(target);
     if (!made) return tl::unexpected(made.error());
     return PackageWriter::writeClosed(services, target, brand).map([&] {
       return std::move(target);
     });
   };
-  services_.copies.ask(copy, [store = QPointer(this)](const Result<QString>& target) {
-    if (!store) return;
-    if (target) return store->services_.viewer.reveal(*target);
-    store->tell(QStringLiteral("The copy couldn't be saved"), target.error().message);
+  copy(QStringLiteral("Saving a copy…"), copyTo, [this](const Result<QString>& target) {
+    if (target) return services_.viewer.reveal(*target);
+    tell(QStringLiteral("The copy couldn't be saved"), target.error().message);
   });
 }
 

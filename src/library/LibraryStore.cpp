@@ -117,8 +117,7 @@ void LibraryStore::libraryOpened(OpenedLibrary&& opened) {
       },
       [] {}, DiskWork::Patience::none);
   applyListing(opened.listing);
-  const bool isFirstSuspect =
-      !brands_.isEmpty() && opening_.isSuspect(brands_.first().packageURL);
+  const bool isFirstSuspect = !brands_.isEmpty() && opening_.isSuspect(brands_.first().packageURL);
   if (!selection_ && isFirstSuspect) opening_.ask(brands_.first().packageURL);
   emit endedOpeningChanged();
   if (selection_ || isFirstSuspect) return;

@@ -7,6 +7,7 @@
 #include "library/LibraryListing.h"
 #include "library/LibraryPreferences.h"
 #include "library/LibraryServices.h"
+#include "library/LongWork.h"
 #include "library/OpeningWatch.h"
 #include "library/PackagePlaces.h"
 #include "library/UnsavedDocuments.h"
@@ -139,6 +140,8 @@ class LibraryStore : public QObject {
   // --- Preferences
 
   LibraryPreferences& preferences() { return preferences_; }
+  // Exports, imports and copies under way.
+  LongWork& longWork() { return longWork_; }
 
   // Bounds of a tile's width in the grid, in points.
   double gridMinWidth() const;
@@ -224,6 +227,13 @@ class LibraryStore : public QObject {
   // `brands` as they are by then.
   template <class Work, class Done>
   void change(DiskWork& disk, Work work, Done done);
+  // Does `work(progress)` among the copies, told as that text. `done` isn't called if the user has
+  // ended it.
+  template <class Work, class Done>
+  void copy(const QString& text, Work work, Done done);
+  // The same for what changes the library.
+  template <class Work, class Done>
+  void copyIn(const QString& text, Work work, Done done);
 
   // Documents
   void selectFirst();
@@ -252,6 +262,7 @@ class LibraryStore : public QObject {
   const DocumentServices documentServices_;  // with them
   LibraryPreferences preferences_;
   OpeningWatch opening_;
+  LongWork longWork_;
   const std::shared_ptr<GlobalSearch> search_;  // with the searches under way
   QString libraryURL_;
   QString wantedLibrary_;  // the folder that is being looked at, or was last
@@ -290,6 +301,31 @@ void LibraryStore::change(DiskWork& disk, Work work, Done done) {
   };
   const bool mayTakeLong = &disk != &services_.document.disk;
   mayTakeLong ? disk.ask(std::move(both), std::move(end)) : onDisk(std::move(both), std::move(end));
+}
+
+template <class Work, class Done>
+void LibraryStore::copy(const QString& text, Work work, Done done) {
+  const auto progress = longWork_.begin(text);
+  services_.copies.ask([work = std::move(work), progress] { return work(*progress); },
+                       [store = QPointer(this), done = std::move(done), progress](auto&& made) {
+                         if (!store) return;
+                         store->longWork_.end(progress);
+                         const bool isCancelled =
+                             !made && made.error().kind == ErrorKind::cancelled;
+                         if (!isCancelled) done(std::forward<decltype(made)>(made));
+                       });
+}
+
+template <class Work, class Done>
+void LibraryStore::copyIn(const QString& text, Work work, Done done) {
+  const auto progress = longWork_.begin(text);
+  change(
+      services_.copies, [work = std::move(work), progress] { return work(*progress); },
+      [this, done = std::move(done), progress](auto&& made) {
+        longWork_.end(progress);
+        const bool isCancelled = !made && made.error().kind == ErrorKind::cancelled;
+        if (!isCancelled) done(std::forward<decltype(made)>(made));
+      });
 }
 
 template <class Work, class Done>

@@ -13,6 +13,7 @@ enum class ErrorKind {
   tooLarge,    // a file beyond its limit
   malformed,   // text that doesn't read
   unwritable,  // a value that has no written form
+  cancelled,   // by the user
 };
 
 // Why an operation failed: a kind for the program, and a sentence for a person.

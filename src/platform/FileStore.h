@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Error.h"
+#include "platform/Progress.h"
 
 #include <QByteArray>
 #include <QByteArrayView>
@@ -43,6 +43,8 @@ class FileWriter {
   virtual Result<void> write(QByteArrayView bytes) = 0;
   // Writes `length` bytes that stand in the file from `offset` on once more, at its end.
   virtual Result<void> repeat(qint64 offset, qint64 length) = 0;
+  // Writes over what stands in the file from `offset` on.
+  virtual Result<void> overwrite(qint64 offset, QByteArrayView bytes) = 0;
   // Cuts the file back to `size` bytes; writing goes on from there.
   virtual Result<void> truncate(qint64 size) = 0;
   // Returns when the content is on the medium.
@@ -127,7 +129,13 @@ class FileStore {
   // Copies a folder with all that is in it, hidden files included, to a path where nothing stands:
   // files as `copyFile` does, links as links, sockets and the like not at all. The copy appears
   // whole, by a rename, and survives a power cut once the call returns; on failure nothing is left.
-  virtual Result<void> copyFolder(const QString& source, const QString& target) = 0;
+  // Tells `progress` of bytes.
+  virtual Result<void> copyFolder(const QString& source, const QString& target,
+                                  Progress& progress) = 0;
+  Result<void> copyFolder(const QString& source, const QString& target) {
+    Progress untold;
+    return copyFolder(source, target, untold);
+  }
 
   // Makes a new, empty file in the folder of `target`, with the rights that `target` has or a new
   // file would get, and its owner's right to read and write: without a name where the file system

@@ -120,16 +120,19 @@ QString BrandPageExporter::html(const PageSource& source) {
 }
 
 Result<void> BrandPageExporter::writeFile(const PageSource& source, FileStore& files,
-                                          const QString& path) {
+                                          const QString& path, Progress& progress) {
   if (!canPublish(source.brand)) {
     return failure(ErrorKind::unwritable,
                    QStringLiteral("A gradient has numbers without CSS form"));
   }
   const auto target = files.resolved(path);
   if (!target) return tl::unexpected(target.error());
+  qint64 items = 0;
+  for (const Section& section : source.brand.sections) items += section.items.size();
+  progress.expect(items);
   // Not synced: a page can be made again, and may weigh gigabytes.
   return writeAtomically(files, *target, Durability::atomic, [&](FileWriter& file) {
-    FileSink sink(file);
+    FileSink sink(file, progress);
     writePage(source, sink);
     return sink.finish();
   });
@@ -137,19 +140,6 @@ Result<void> BrandPageExporter::writeFile(const PageSource& source, FileStore& f
 
 QString BrandPageExporter::suggestedFileName(const QString& brandName) {
   return Package::fileNameFor(brandName) + QStringLiteral(" Brand Page.html");
-}
-
-void BrandPageExporter::exportPage(const PageSource& source, FileStore& files, FileDialogs& dialogs,
-                                   FileViewer& viewer, DiskWork& disk,
-                                   std::function<void(const Error&)> failed) {
-  const auto path =
-      dialogs.savePath(suggestedFileName(source.brand.name), QStringLiteral("text/html"));
-  if (!path) return;
-  disk.ask([source, &files, path = *path] { return writeFile(source, files, path); },
-           [&viewer, path = *path, failed = std::move(failed)](const Result<void>& written) {
-             viewer.reveal(path);
-             if (!written) failed(written.error());
-           });
 }
 
 }  // namespace tarnloft

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "platform/FileDialogs.h"
-#include "platform/FileViewer.h"
 #include "publish/PageSink.h"
 #include "publish/PageSource.h"
 
@@ -22,16 +20,13 @@ QString html(const PageSource& source);
 // The whole page, piece by piece: memory stays flat whatever the assets weigh.
 void writePage(const PageSource& source, PageSink& sink);
 
-// Writes the page to a file atomically, if it can be published. A link at `path` is followed.
-Result<void> writeFile(const PageSource& source, FileStore& files, const QString& path);
+// Writes the page to a file atomically, if it can be published. A link at `path` is followed. Tells
+// `progress` of items.
+Result<void> writeFile(const PageSource& source, FileStore& files, const QString& path,
+                       Progress& progress);
 
 // "Acme Brand Page.html": the brand's name made fit for a file's.
 QString suggestedFileName(const QString& brandName);
-
-// Asks where to, writes the page there by `disk` and reveals it, also if writing failed, of which
-// `failed` is told.
-void exportPage(const PageSource& source, FileStore& files, FileDialogs& dialogs,
-                FileViewer& viewer, DiskWork& disk, std::function<void(const Error&)> failed);
 
 // The `@font-face` rules: one for each family, of its first font item that has a file.
 void fontFaceBlock(const Brand& brand, const PageSource& source, PageSink& sink);

@@ -95,6 +95,7 @@ void sectionHTML(const Section& section, const PageSource& source, PageSink& sin
   for (const Item& item : section.items) {
     sink << separator;
     itemHTML(item, source, sink);
+    sink.tellItems(1);
     separator = "\n";
   }
   sink << "\n    </div>\n  </section>";

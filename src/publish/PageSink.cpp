@@ -11,21 +11,31 @@ void MemorySink::repeat(qint64 position, qint64 length) {
   bytes_.append(QByteArrayView(bytes_).sliced(position, length));
 }
 
-FileSink::FileSink(FileWriter& file) : file_(file) { buffer_.reserve(bufferSize); }
+FileSink::FileSink(FileWriter& file, Progress& progress) : file_(file), progress_(progress) {
+  buffer_.reserve(bufferSize);
+}
+
+void FileSink::tellItems(qsizetype count) {
+  if (status_) status_ = progress_.advance(count);
+}
+
+void FileSink::hand(QByteArrayView utf8) {
+  tellItems(0);
+  if (status_) status_ = file_.write(utf8);
+  handedOn_ += utf8.size();
+}
 
 void FileSink::write(QByteArrayView utf8) {
   if (buffer_.size() + utf8.size() > bufferSize) flush();
   if (utf8.size() < bufferSize) {
     buffer_.append(utf8);
-  } else if (status_) {
-    status_ = file_.write(utf8);
-    handedOn_ += utf8.size();
+  } else {
+    hand(utf8);
   }
 }
 
 void FileSink::flush() {
-  if (status_) status_ = file_.write(buffer_);
-  handedOn_ += buffer_.size();
+  hand(buffer_);
   buffer_.resize(0);
 }
 

@@ -24,6 +24,8 @@ class PageSink {
   // Appends `length` bytes that were written from `position` on.
   virtual void repeat(qint64 position, qint64 length) = 0;
   virtual bool failed() const = 0;
+  // So many of the page's items have been written.
+  virtual void tellItems(qsizetype /*count*/) {}
 
  private:
   virtual void write(QByteArrayView utf8) = 0;
@@ -45,10 +47,10 @@ class MemorySink : public PageSink {
   QByteArray bytes_;
 };
 
-// Hands the page on to a file through a small buffer.
+// Hands the page on to a file through a small buffer, for as long as it is wanted.
 class FileSink : public PageSink {
  public:
-  explicit FileSink(FileWriter& file);
+  FileSink(FileWriter& file, Progress& progress);
 
   // Hands on what is still buffered; gives the first error of all that was written.
   Result<void> finish();
@@ -57,12 +59,15 @@ class FileSink : public PageSink {
   void rewind(qint64 position) override;
   void repeat(qint64 position, qint64 length) override;
   bool failed() const override { return !status_; }
+  void tellItems(qsizetype count) override;
 
  private:
   void write(QByteArrayView utf8) override;
+  void hand(QByteArrayView utf8);
   void flush();
 
   FileWriter& file_;
+  Progress& progress_;
   QByteArray buffer_;
   qint64 handedOn_ = 0;  // bytes that the file has
   Result<void> status_;

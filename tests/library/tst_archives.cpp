@@ -199,8 +199,10 @@ class TestArchives : public QObject {
       }
       ZipArchiver archiver(limits);
       QVERIFY(QDir().mkpath(import.library.disk.path("out")));
-      QCOMPARE(archiver.extract(import.archive, import.library.disk.path("out")).has_value(),
-               imports);
+      Progress progress;
+      QCOMPARE(
+          archiver.extract(import.archive, import.library.disk.path("out"), progress).has_value(),
+          imports);
     });
   }
 
@@ -211,7 +213,8 @@ class TestArchives : public QObject {
       zip.folder("A.tarnloft/", 0).file("A.tarnloft/a.png", "x", 0040);
     }
     const QString out = import.library.disk.path("out");
-    QVERIFY(QDir().mkpath(out) && ZipArchiver().extract(import.archive, out));
+    Progress progress;
+    QVERIFY(QDir().mkpath(out) && ZipArchiver().extract(import.archive, out, progress));
     struct stat info;
     QCOMPARE(::stat(QFile::encodeName(out + "/A.tarnloft/a.png").constData(), &info), 0);
     QCOMPARE(info.st_mode & 07777, 0640u);

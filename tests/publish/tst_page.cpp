@@ -18,6 +18,7 @@ struct Page {
   FaultyStore store;
   std::unique_ptr<BrandDocument> document;
   QString path = disk.path("page.html");
+  Progress progress;
 
   Page() {
     const DocumentServices services{store, disk.log, [this] { return disk.now; }};
@@ -57,7 +58,7 @@ class TestPage : public QObject {
     page.addAsset(picture, QByteArray(1'000'000, 'x'));
     page.document->setBrand(random.brand(3, 40));
     page.setItems(everyUseOfAFile());
-    QVERIFY(BrandPageExporter::writeFile(*page.document, page.store, page.path));
+    QVERIFY(BrandPageExporter::writeFile(*page.document, page.store, page.path, page.progress));
     QCOMPARE(contentOf(page.path), BrandPageExporter::html(*page.document).toUtf8());
     QVERIFY(page.strays().isEmpty());
   }
@@ -85,7 +86,7 @@ class TestPage : public QObject {
     QVERIFY(BrandPageExporter::html(*page.document).contains(str("Download font")));
     page.store.fault = FaultyStore::Fault::failReads;
     QCOMPARE(BrandPageExporter::html(*page.document), missing);
-    QVERIFY(BrandPageExporter::writeFile(*page.document, page.store, page.path));
+    QVERIFY(BrandPageExporter::writeFile(*page.document, page.store, page.path, page.progress));
     QCOMPARE(contentOf(page.path), missing.toUtf8());
   }
 
@@ -94,14 +95,14 @@ class TestPage : public QObject {
     page.addAsset(picture, QByteArray(3'000'000, 'x'));
     page.setItems(everyUseOfAFile());
     page.store.steps = 0;
-    QVERIFY(BrandPageExporter::writeFile(*page.document, page.store, page.path));
+    QVERIFY(BrandPageExporter::writeFile(*page.document, page.store, page.path, page.progress));
     const int steps = page.store.steps;
     QVERIFY(writeFile(page.path, "old"));
     for (int step = 1; step <= steps; ++step) {
       page.store.fault = FaultyStore::Fault::failStep;
       page.store.atStep = step;
       page.store.steps = 0;
-      QVERIFY(!BrandPageExporter::writeFile(*page.document, page.store, page.path));
+      QVERIFY(!BrandPageExporter::writeFile(*page.document, page.store, page.path, page.progress));
       QCOMPARE(contentOf(page.path), QByteArray("old"));
       QVERIFY(page.strays().isEmpty());
     }

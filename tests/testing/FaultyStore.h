@@ -45,8 +45,10 @@ class FaultyStore : public PosixFileStore {
   Result<void> copyFile(const QString& source, const QString& target) override {
     return step() ? PosixFileStore::copyFile(source, target) : tl::unexpected(fullDisk());
   }
-  Result<void> copyFolder(const QString& source, const QString& target) override {
-    return step() ? PosixFileStore::copyFolder(source, target) : tl::unexpected(fullDisk());
+  Result<void> copyFolder(const QString& source, const QString& target,
+                          Progress& progress) override {
+    return step() ? PosixFileStore::copyFolder(source, target, progress)
+                  : tl::unexpected(fullDisk());
   }
   Result<std::unique_ptr<FileWriter>> createTemporary(const QString& target) override {
     if (!step()) return tl::unexpected(fullDisk());
@@ -107,6 +109,9 @@ class FaultyStore : public PosixFileStore {
     }
     Result<void> repeat(qint64 offset, qint64 length) override {
       return store_.step() ? file_->repeat(offset, length) : tl::unexpected(fullDisk());
+    }
+    Result<void> overwrite(qint64 offset, QByteArrayView bytes) override {
+      return store_.step() ? file_->overwrite(offset, bytes) : tl::unexpected(fullDisk());
     }
     Result<void> truncate(qint64 size) override {
       return store_.step() ? file_->truncate(size) : tl::unexpected(fullDisk());

@@ -42,12 +42,13 @@ tl::unexpected<Error> noArchives() {
 
 }  // namespace
 
-Result<void> LateArchiver::archive(const QString& folder, FileWriter& target) {
-  return archiver() ? archiver()->archive(folder, target) : noArchives();
+Result<void> LateArchiver::archive(const QString& folder, FileWriter& target, Progress& progress) {
+  return archiver() ? archiver()->archive(folder, target, progress) : noArchives();
 }
 
-Result<void> LateArchiver::extract(const QString& archive, const QString& folder) {
-  return archiver() ? archiver()->extract(archive, folder) : noArchives();
+Result<void> LateArchiver::extract(const QString& archive, const QString& folder,
+                                   Progress& progress) {
+  return archiver() ? archiver()->extract(archive, folder, progress) : noArchives();
 }
 
 std::unique_ptr<ClipPlayer> LateClipPlayers::open(const ClipSource& source,

@@ -20,8 +20,8 @@ class LateClipPlayers : public ClipPlayers {
 // Archives; all fail where the library can't be loaded.
 class LateArchiver : public Archiver {
  public:
-  Result<void> archive(const QString& folder, FileWriter& target) override;
-  Result<void> extract(const QString& archive, const QString& folder) override;
+  Result<void> archive(const QString& folder, FileWriter& target, Progress& progress) override;
+  Result<void> extract(const QString& archive, const QString& folder, Progress& progress) override;
 };
 
 // The trash; nothing can be thrown away where the library can't be loaded.

@@ -22,6 +22,7 @@ ContentModel::ContentModel(const WorkspaceServices& services, QObject* parent)
       view_(library_.preferences()),
       sidebar_(services, sheets_),
       alerts_(library_, sheets_),
+      work_(library_.longWork()),
       selectedBrand_(library_.selection()),
       undoDocument_(library_.openDocument()) {
   library_.setHostUndoManager(&undo_);

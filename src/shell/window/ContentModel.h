@@ -7,6 +7,7 @@
 #include "shell/menus/ViewChoices.h"
 #include "shell/menus/WindowUndo.h"
 #include "shell/sidebar/Sidebar.h"
+#include "shell/window/WorkLine.h"
 #include "workspace/BrandWorkspace.h"
 
 namespace tarnloft {
@@ -22,6 +23,7 @@ class ContentModel : public QObject {
   Q_PROPERTY(tarnloft::Sidebar* sidebar READ sidebar CONSTANT)
   Q_PROPERTY(tarnloft::WindowUndo* undo READ undo CONSTANT)
   Q_PROPERTY(tarnloft::Alerts* alerts READ alerts CONSTANT)
+  Q_PROPERTY(tarnloft::WorkLine* work READ work CONSTANT)
   // The open brand's workspace, in a list for what repeats a page for it; empty for none. The
   // module of its type isn't among this one's imports, as it would be loaded with it, before the
   // first frame.
@@ -54,6 +56,7 @@ class ContentModel : public QObject {
   Sidebar* sidebar() { return &sidebar_; }
   WindowUndo* undo() { return &undo_; }
   Alerts* alerts() { return &alerts_; }
+  WorkLine* work() { return &work_; }
   TileSelection* selection() { return &selection_; }
   ToastCenter* toasts() { return &toasts_; }
   // The window has shown a frame: the open brand's fonts come, each of which has all text laid out
@@ -110,6 +113,7 @@ class ContentModel : public QObject {
   ViewChoices view_;
   Sidebar sidebar_;
   Alerts alerts_;
+  WorkLine work_;
   std::optional<QString> selectedBrand_;
   bool isFrameShown_ = false;
   QPointer<NameSheet> newBrandSheet_;  // while it is up

@@ -16,6 +16,17 @@ Item {
         sourceComponent: Item {
             ToastView {
                 message: root.content.toast
+                bottomDistance: root.content.work.text !== "" ? 84 : 24
+            }
+        }
+    }
+
+    LazyItem {
+        anchors.fill: parent
+        active: root.content.work.text !== "" || item !== null // from the first one on
+        sourceComponent: Item {
+            WorkLineView {
+                work: root.content.work
             }
         }
     }

@@ -17,8 +17,8 @@ class ZipArchiver : public Archiver {
  public:
   explicit ZipArchiver(const UnpackLimits& limits = {}) : limits_(limits) {}
 
-  Result<void> archive(const QString& folder, FileWriter& target) override;
-  Result<void> extract(const QString& archive, const QString& folder) override;
+  Result<void> archive(const QString& folder, FileWriter& target, Progress& progress) override;
+  Result<void> extract(const QString& archive, const QString& folder, Progress& progress) override;
 
  private:
   const UnpackLimits limits_;

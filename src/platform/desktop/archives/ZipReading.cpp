@@ -78,13 +78,16 @@ bool isForeignClutter(const QByteArrayList& parts) {
 
 class ZipReader {
  public:
-  ZipReader(const QString& folder, const UnpackLimits& limits)
-      : folder_(QFile::encodeName(QFileInfo(folder).canonicalFilePath())), limits_(limits) {}
+  ZipReader(const QString& folder, const UnpackLimits& limits, Progress& progress)
+      : folder_(QFile::encodeName(QFileInfo(folder).canonicalFilePath())),
+        limits_(limits),
+        progress_(progress) {}
 
   Result<void> read(const QString& path) {
     // An empty path would unpack into the root of the file system.
     if (folder_.isEmpty()) return failure(ErrorKind::io, QStringLiteral("There is no such folder"));
     left_ = limits_.size + limits_.growth * QFileInfo(path).size();
+    progress_.expect(QFileInfo(path).size());
     ::archive_read_support_format_zip(in_.get());
     ::archive_write_disk_set_options(out_.get(), ARCHIVE_EXTRACT_TIME | ARCHIVE_EXTRACT_PERM |
                                                      ARCHIVE_EXTRACT_SECURE_SYMLINKS |
@@ -158,6 +161,8 @@ class ZipReader {
         return whole ? Result<void>() : refused("A file is shorter than it claims");
       }
       if (status < ARCHIVE_OK) return failureOf(in_.get());
+      const qint64 before = std::exchange(taken_, ::archive_filter_bytes(in_.get(), -1));
+      if (auto wanted = progress_.advance(taken_ - before); !wanted) return wanted;
       total = offset + la_int64_t(count);
       left_ -= qint64(count);
       if (left_ < 0) return refused("The archive grows too large");
@@ -169,17 +174,20 @@ class ZipReader {
 
   const QByteArray folder_;
   const UnpackLimits& limits_;
+  Progress& progress_;
   Archive in_{::archive_read_new()};
   Archive out_{::archive_write_disk_new()};
   QSet<QByteArray> files_;
-  qint64 left_ = 0;  // bytes that may still be unpacked
+  qint64 left_ = 0;   // bytes that may still be unpacked
+  qint64 taken_ = 0;  // bytes of the archive
 };
 
 }  // namespace
 
-Result<void> ZipArchiver::extract(const QString& archive, const QString& folder) {
+Result<void> ZipArchiver::extract(const QString& archive, const QString& folder,
+                                  Progress& progress) {
   const zip::Utf8Names names;
-  return ZipReader(folder, limits_).read(archive);
+  return ZipReader(folder, limits_, progress).read(archive);
 }
 
 }  // namespace tarnloft

@@ -1,15 +1,16 @@
-#include "platform/desktop/archives/LibArchive.h"
+#include "platform/desktop/archives/DeflatedPiece.h"
 #include "platform/desktop/archives/ZipArchiver.h"
+#include "platform/desktop/archives/ZipFile.h"
 #include "platform/desktop/files/PosixFiles.h"
 
-#include <QByteArray>
 #include <QDir>
 #include <QFile>
+#include <QThreadPool>
 
 #include <cerrno>
 #include <climits>
-#include <fcntl.h>
-#include <optional>
+#include <deque>
+#include <future>
 #include <vector>
 
 namespace tarnloft {
@@ -18,117 +19,185 @@ namespace {
 using namespace posix;
 using namespace zip;
 
-// Assets are mostly compressed already: level 6 takes three times as long for hardly a byte less.
-constexpr const char* options = "zip:compression-level=1,zip:hdrcharset=UTF-8";
-constexpr size_t pieceSize = 1 << 20;
+constexpr qsizetype pieceSize = 1 << 20;
 
-struct Output {
-  FileWriter& file;
-  std::optional<Error> error;
+// What is archived, found before anything is written, so that its amount is known.
+struct Source {
+  QByteArray path;
+  QByteArray name;  // in the archive
+  struct stat info;
 };
 
-la_ssize_t writeOut(archive* /*unused*/, void* client, const void* bytes, size_t count) {
-  auto& output = *static_cast<Output*>(client);
-  const auto written = output.file.write({static_cast<const char*>(bytes), qsizetype(count)});
-  if (written) return la_ssize_t(count);
-  output.error = written.error();
-  return -1;
+// All that stands at the path: folders in front of what is in them, sockets and the like left out.
+Result<void> collect(const QByteArray& path, const QByteArray& name, std::vector<Source>& sources) {
+  Source source{path, name, {}};
+  if (::lstat(path.constData(), &source.info) != 0) return systemFailure(errno);
+  const mode_t mode = source.info.st_mode;
+  if (S_ISREG(mode) || S_ISLNK(mode)) sources.push_back(source);
+  if (!S_ISDIR(mode)) return {};
+  source.name += '/';
+  source.info.st_size = 0;
+  sources.push_back(source);
+  const auto everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+  const QDir folder(QFile::decodeName(path));
+  if (!folder.isReadable()) return systemFailure(EACCES);
+  for (const QString& entry : folder.entryList(everything, QDir::Name)) {
+    const QByteArray inside = '/' + QFile::encodeName(entry);
+    if (auto added = collect(path + inside, name + inside, sources); !added) return added;
+  }
+  return {};
 }
 
-// Adds files and folders, one after the other, under names relative to the archived folder's own.
+tl::unexpected<Error> changedMeanwhile() {
+  return failure(ErrorKind::io, QStringLiteral("A file was changed while it was archived"));
+}
+
+// At most so many bytes from there; fewer at the file's end.
+Result<QByteArray> readPiece(const Descriptor& file, qint64 offset, qint64 most) {
+  QByteArray piece(qsizetype(most), Qt::Uninitialized);
+  qsizetype filled = 0;
+  while (filled < piece.size()) {
+    const ssize_t count = ::pread(file.number(), piece.data() + filled,
+                                  size_t(piece.size() - filled), offset + filled);
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) return systemFailure(errno);
+    if (count == 0) break;
+    filled += count;
+  }
+  piece.truncate(filled);
+  return piece;
+}
+
+// By what stands at some places of the file.
+Result<Method> methodFor(const Descriptor& file, qint64 size) {
+  constexpr qint64 places = 8, sample = 16 * 1024;
+  QByteArray samples;
+  for (qint64 place = 0; place < places; ++place) {
+    const auto read = readPiece(file, std::max<qint64>(0, size - sample) * place / (places - 1),
+                                std::min(sample, size));
+    if (!read) return tl::unexpected(read.error());
+    samples += *read;
+    if (size <= sample) break;
+  }
+  return isCompressedAlready(samples) ? Method::store : Method::deflate;
+}
+
+// Adds files and folders, one after the other. This thread reads and writes, the others compress:
+// pieces wait in their order until they are written, over the ends of files too.
 class ZipWriter {
  public:
-  explicit ZipWriter(FileWriter& target) : output_{target, {}} {}
+  ZipWriter(FileWriter& target, Progress& progress) : zip_(target), progress_(progress) {
+    workers_.setThreadPriority(QThread::LowPriority);
+    mostPieces_ = 2 * size_t(workers_.maxThreadCount()) + 2;
+  }
 
-  Result<void> write(const QString& folder) {
-    archive* const out = handle_.get();
-    if (::archive_write_set_format_zip(out) != ARCHIVE_OK ||
-        ::archive_write_set_options(out, options) != ARCHIVE_OK ||
-        ::archive_write_set_bytes_in_last_block(out, 1) != ARCHIVE_OK ||
-        ::archive_write_open2(out, &output_, nullptr, writeOut, nullptr, nullptr) != ARCHIVE_OK) {
-      return failed();
-    }
-    const QByteArray path = QFile::encodeName(folder);
-    auto added = add(path, path.mid(path.lastIndexOf('/') + 1));
-    if (!added) return added;
-    return ::archive_write_close(out) == ARCHIVE_OK ? Result<void>() : failed();
+  Result<void> write(const QByteArray& folder) {
+    std::vector<Source> sources;
+    return collect(folder, folder.mid(folder.lastIndexOf('/') + 1), sources).and_then([&] {
+      qint64 amount = 0;
+      for (const Source& source : sources) amount += source.info.st_size;
+      progress_.expect(amount);
+      return addAll(sources);
+    });
   }
 
  private:
-  tl::unexpected<Error> failed() const {
-    return output_.error ? tl::unexpected(*output_.error) : failureOf(handle_.get());
-  }
+  struct Piece {
+    const Source* source;
+    Method method;
+    bool isFirst;
+    bool isLast;
+    std::future<DeflatedPiece> made;
+  };
 
-  Result<void> add(const QByteArray& path, const QByteArray& name) {
-    struct stat info;
-    if (::lstat(path.constData(), &info) != 0) return systemFailure(errno);
-    if (S_ISDIR(info.st_mode)) return addFolder(path, name, info);
-    if (S_ISLNK(info.st_mode)) return addLink(path, name, info);
-    if (S_ISREG(info.st_mode)) return addFile(path, name);
-    return {};
-  }
-
-  Result<void> addFolder(const QByteArray& path, const QByteArray& name, const struct stat& info) {
-    if (auto begun = begin(name, info, {}); !begun) return begun;
-    const auto everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-    const QDir folder(QFile::decodeName(path));
-    if (!folder.isReadable()) return systemFailure(EACCES);
-    for (const QString& entry : folder.entryList(everything, QDir::Name)) {
-      const QByteArray inside = '/' + QFile::encodeName(entry);
-      if (auto added = add(path + inside, name + inside); !added) return added;
+  Result<void> addAll(std::vector<Source>& sources) {
+    for (Source& source : sources) {
+      if (auto added = add(source); !added) return added;
     }
-    return {};
-  }
-
-  Result<void> addLink(const QByteArray& path, const QByteArray& name, const struct stat& info) {
-    QByteArray target(PATH_MAX, Qt::Uninitialized);
-    const ssize_t length = ::readlink(path.constData(), target.data(), size_t(target.size()));
-    if (length < 0) return systemFailure(errno);
-    return begin(name, info, target.left(length));
-  }
-
-  Result<void> addFile(const QByteArray& path, const QByteArray& name) {
-    const Descriptor file(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
-    if (!file.isOpen()) return systemFailure(errno);
-    struct stat info;
-    if (::fstat(file.number(), &info) != 0) return systemFailure(errno);
-    if (auto begun = begin(name, info, {}); !begun) return begun;
-    for (qint64 left = info.st_size;;) {
-      const ssize_t count = ::read(file.number(), buffer_.data(), buffer_.size());
-      if (count < 0 && errno == EINTR) continue;
-      if (count < 0) return systemFailure(errno);
-      left -= count;
-      // An entry whose length isn't the one it told would be refused by those who read it.
-      if (left < 0 || (count == 0 && left > 0)) return changedMeanwhile();
-      if (count == 0) return {};
-      if (::archive_write_data(handle_.get(), buffer_.data(), size_t(count)) < 0) return failed();
+    while (!pieces_.empty()) {
+      if (auto written = writeFirst(); !written) return written;
     }
+    return zip_.finish();
   }
 
-  static tl::unexpected<Error> changedMeanwhile() {
-    return failure(ErrorKind::io, QStringLiteral("A file was changed while it was archived"));
+  Result<void> add(Source& source) {
+    if (S_ISREG(source.info.st_mode)) return addFile(source);
+    QByteArray content;
+    if (S_ISLNK(source.info.st_mode)) {
+      const auto target = linkContent(source.path);
+      if (!target) return tl::unexpected(target.error());
+      content = *target;
+    }
+    return push({&source, Method::store, true, true, {}}, [content] { return stored(content); });
   }
 
-  Result<void> begin(const QByteArray& name, const struct stat& info,
-                     const QByteArray& linkTarget) {
-    const Entry entry(::archive_entry_new());
-    ::archive_entry_copy_stat(entry.get(), &info);
-    ::archive_entry_copy_pathname(entry.get(), name.constData());
-    if (S_ISLNK(info.st_mode)) ::archive_entry_copy_symlink(entry.get(), linkTarget.constData());
-    if (::archive_write_header(handle_.get(), entry.get()) >= ARCHIVE_WARN) return {};
-    return failed();
+  Result<void> addFile(Source& source) {
+    const Descriptor file(
+        ::open(source.path.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+    // It may have been replaced since it was found.
+    if (!file.isOpen() || ::fstat(file.number(), &source.info) != 0) return systemFailure(errno);
+    const qint64 size = source.info.st_size;
+    const auto method = methodFor(file, size);
+    if (!method) return tl::unexpected(method.error());
+    QByteArray before;
+    for (qint64 offset = 0;;) {
+      const qint64 wanted = std::min<qint64>(pieceSize, size - offset);
+      const auto piece = readPiece(file, offset, wanted);
+      if (!piece) return tl::unexpected(piece.error());
+      if (piece->size() != wanted) return changedMeanwhile();
+      const bool isFirst = offset == 0, isLast = (offset += wanted) == size;
+      auto pushed = push({&source, *method, isFirst, isLast, {}}, [piece = *piece, before, isLast,
+                                                                   method = *method] {
+        return method == Method::store ? stored(piece) : deflated(piece, before, isLast);
+      });
+      if (!pushed) return pushed;
+      if (isLast) break;
+      before = piece->last(std::min(reach, piece->size()));
+    }
+    struct stat now;
+    if (::fstat(file.number(), &now) != 0) return systemFailure(errno);
+    return now.st_size == size ? Result<void>() : changedMeanwhile();
   }
 
-  Output output_;
-  Archive handle_{::archive_write_new()};
-  std::vector<char> buffer_ = std::vector<char>(pieceSize);
+  Result<void> push(Piece piece, std::function<DeflatedPiece()> make) {
+    auto task = std::make_shared<std::packaged_task<DeflatedPiece()>>(std::move(make));
+    piece.made = task->get_future();
+    pieces_.push_back(std::move(piece));
+    workers_.start([task] { (*task)(); });
+    return pieces_.size() < mostPieces_ ? Result<void>() : writeFirst();
+  }
+
+  Result<void> writeFirst() {
+    Piece piece = std::move(pieces_.front());
+    pieces_.pop_front();
+    const DeflatedPiece made = piece.made.get();
+    if (made.length > 0 && made.bytes.isEmpty()) return systemFailure(ENOMEM);
+    if (piece.isFirst) {
+      size_ = 0;
+      checksum_ = 0;
+      const auto begun = zip_.begin(piece.source->name, piece.source->info, piece.method);
+      if (!begun) return begun;
+    }
+    size_ += made.length;
+    checksum_ = checksumBehind(checksum_, made);
+    if (auto written = zip_.write(made.bytes); !written) return written;
+    if (auto wanted = progress_.advance(made.length); !wanted) return wanted;
+    return piece.isLast ? zip_.end(size_, checksum_) : Result<void>();
+  }
+
+  ZipFile zip_;
+  Progress& progress_;
+  size_t mostPieces_;
+  std::deque<Piece> pieces_;
+  qint64 size_ = 0;  // of what the entry that is written was made from so far
+  unsigned long checksum_ = 0;
+  QThreadPool workers_;  // ends first
 };
 
 }  // namespace
 
-Result<void> ZipArchiver::archive(const QString& folder, FileWriter& target) {
-  const zip::Utf8Names names;
-  return ZipWriter(target).write(folder);
+Result<void> ZipArchiver::archive(const QString& folder, FileWriter& target, Progress& progress) {
+  return ZipWriter(target, progress).write(QFile::encodeName(folder));
 }
 
 }  // namespace tarnloft

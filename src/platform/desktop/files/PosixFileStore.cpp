@@ -143,7 +143,8 @@ Result<void> PosixFileStore::copyFile(const QString& source, const QString& targ
   });
 }
 
-Result<void> PosixFileStore::copyFolder(const QString& source, const QString& target) {
+Result<void> PosixFileStore::copyFolder(const QString& source, const QString& target,
+                                        Progress& progress) {
   const auto from = native(source), to = native(target);
   if (!from || !to) return systemFailure(EINVAL);
   const QByteArray temporary = folderOf(*to) + temporaryName();
@@ -152,7 +153,8 @@ Result<void> PosixFileStore::copyFolder(const QString& source, const QString& ta
     if (!synced) (void)renameToFree(AT_FDCWD, *to, AT_FDCWD, temporary);
     return synced;
   };
-  auto copied = copyTree(*from, temporary)
+  progress.expect(sizeOfTree(*from));
+  auto copied = copyTree(*from, temporary, progress)
                     .and_then([&] { return posix::syncTree(temporary); })
                     .and_then([&] { return renameToFree(AT_FDCWD, temporary, AT_FDCWD, *to); })
                     .and_then(settle);

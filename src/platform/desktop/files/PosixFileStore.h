@@ -20,7 +20,9 @@ class PosixFileStore : public FileStore {
   Result<void> makeFolder(const QString& path) override;
   Result<QString> makeTemporaryFolder(const QString& name) override;
   Result<void> copyFile(const QString& source, const QString& target) override;
-  Result<void> copyFolder(const QString& source, const QString& target) override;
+  using FileStore::copyFolder;
+  Result<void> copyFolder(const QString& source, const QString& target,
+                          Progress& progress) override;
   Result<std::unique_ptr<FileWriter>> createTemporary(const QString& target) override;
   Result<void> replace(FileWriter& temporary, const QString& target) override;
   Result<Replaced> exchange(FileWriter& temporary, const QString& target) override;

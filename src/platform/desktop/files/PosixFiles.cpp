@@ -43,18 +43,20 @@ bool sharesBlocks(const Descriptor& source, const Descriptor& target) {
 }
 
 // False with nothing copied where the system can't copy between the two files.
-Result<bool> copiedBySystem(const Descriptor& source, const Descriptor& target) {
-  constexpr size_t piece = size_t(1) << 30;
+Result<bool> copiedBySystem(const Descriptor& source, const Descriptor& target,
+                            Progress& progress) {
+  constexpr size_t piece = size_t(1) << 26;
   for (bool begun = false;; begun = true) {
     const ssize_t count =
         ::copy_file_range(source.number(), nullptr, target.number(), nullptr, piece, 0);
     if (count == 0) return begun;  // an empty first piece may be a file that can't tell its size
     if (count < 0 && !begun) return false;
     if (count < 0) return systemFailure(errno);
+    if (auto wanted = progress.advance(count); !wanted) return tl::unexpected(wanted.error());
   }
 }
 
-Result<void> copiedByHand(const Descriptor& source, const Descriptor& target) {
+Result<void> copiedByHand(const Descriptor& source, const Descriptor& target, Progress& progress) {
   std::vector<char> buffer(1 << 20);
   for (;;) {
     const ssize_t count = ::read(source.number(), buffer.data(), buffer.size());
@@ -62,6 +64,7 @@ Result<void> copiedByHand(const Descriptor& source, const Descriptor& target) {
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) return systemFailure(errno);
     if (auto written = writeAll(target, {buffer.data(), count}); !written) return written;
+    if (auto wanted = progress.advance(count); !wanted) return wanted;
   }
 }
 
@@ -237,12 +240,12 @@ Result<void> writeAll(const Descriptor& file, QByteArrayView bytes) {
   return {};
 }
 
-Result<void> copyContent(const Descriptor& source, const Descriptor& target) {
+Result<void> copyContent(const Descriptor& source, const Descriptor& target, Progress& progress) {
   if (sharesBlocks(source, target)) return {};
-  const auto copied = copiedBySystem(source, target);
+  const auto copied = copiedBySystem(source, target, progress);
   if (!copied) return tl::unexpected(copied.error());
   if (*copied) return {};
-  return copiedByHand(source, target);
+  return copiedByHand(source, target, progress);
 }
 
 }  // namespace tarnloft::posix

@@ -84,6 +84,6 @@ constexpr mode_t newFileMode = 0666;  // as far as the user's mask lets it throu
 Result<void> writeAll(const Descriptor& file, QByteArrayView bytes);
 
 // Copies the whole content, by shared blocks or inside of the system where that can be done.
-Result<void> copyContent(const Descriptor& source, const Descriptor& target);
+Result<void> copyContent(const Descriptor& source, const Descriptor& target, Progress& progress);
 
 }  // namespace tarnloft::posix

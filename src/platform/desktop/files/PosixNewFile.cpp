@@ -75,13 +75,13 @@ Result<NewFile> NewFile::make(Descriptor folder, mode_t rights) {
   return NewFile(std::move(folder), Descriptor(file), name);
 }
 
-Result<NewFile> NewFile::copyOf(const QByteArray& source, Descriptor folder) {
+Result<NewFile> NewFile::copyOf(const QByteArray& source, Descriptor folder, Progress& progress) {
   if (!folder.isOpen()) return systemFailure(errno);
   const auto in = openRegularFile(source);
   if (!in) return tl::unexpected(in.error());
   auto copy = make(std::move(folder), (in->info.st_mode & 0777) | 0600);
   if (!copy) return copy;
-  if (auto copied = copyContent(in->file, copy->file()); !copied) {
+  if (auto copied = copyContent(in->file, copy->file(), progress); !copied) {
     return tl::unexpected(copied.error());
   }
   setRightsAndTimes(copy->file(), in->info);
@@ -148,6 +148,18 @@ Result<void> PosixWriter::repeat(qint64 offset, qint64 length) {
     if (auto written = write({buffer.data(), count}); !written) return written;
     offset += count;
     length -= count;
+  }
+  return {};
+}
+
+Result<void> PosixWriter::overwrite(qint64 offset, QByteArrayView bytes) {
+  while (!bytes.isEmpty()) {
+    const ssize_t count =
+        ::pwrite(new_.file().number(), bytes.data(), size_t(bytes.size()), offset);
+    if (count < 0 && errno == EINTR) continue;
+    if (count <= 0) return systemFailure(count < 0 ? errno : EIO);
+    offset += count;
+    bytes = bytes.sliced(count);
   }
   return {};
 }

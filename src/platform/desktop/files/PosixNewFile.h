@@ -30,7 +30,11 @@ class NewFile {
   // An empty file with those rights, as far as the user's mask lets them through.
   static Result<NewFile> make(Descriptor folder, mode_t rights);
   // A copy of a regular file, links to it followed, with its rights and times.
-  static Result<NewFile> copyOf(const QByteArray& source, Descriptor folder);
+  static Result<NewFile> copyOf(const QByteArray& source, Descriptor folder, Progress& progress);
+  static Result<NewFile> copyOf(const QByteArray& source, Descriptor folder) {
+    Progress untold;
+    return copyOf(source, std::move(folder), untold);
+  }
 
   NewFile(NewFile&& other) noexcept;
   NewFile(const NewFile&) = delete;
@@ -66,6 +70,7 @@ class PosixWriter : public FileWriter {
 
   Result<void> write(QByteArrayView bytes) override { return writeAll(new_.file(), bytes); }
   Result<void> repeat(qint64 offset, qint64 length) override;
+  Result<void> overwrite(qint64 offset, QByteArrayView bytes) override;
   Result<void> truncate(qint64 size) override;
   Result<void> sync() override { return synced(new_.file()); }
   FileIdentity identity() const override;

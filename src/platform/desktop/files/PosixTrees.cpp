@@ -22,12 +22,12 @@ Result<Descriptor> openFolder(const QByteArray& path) {
   return folder;
 }
 
-Result<void> copyEntry(const QByteArray& source, const QByteArray& target) {
+Result<void> copyEntry(const QByteArray& source, const QByteArray& target, Progress& progress) {
   struct stat info;
   if (::lstat(source.constData(), &info) != 0) return systemFailure(errno);
-  if (S_ISDIR(info.st_mode)) return copyTree(source, target);
+  if (S_ISDIR(info.st_mode)) return copyTree(source, target, progress);
   if (S_ISREG(info.st_mode)) {
-    return NewFile::copyOf(source, openParent(target)).and_then([&](NewFile copy) {
+    return NewFile::copyOf(source, openParent(target), progress).and_then([&](NewFile copy) {
       return copy.appearAs(nameOf(target));
     });
   }
@@ -92,7 +92,7 @@ Result<QByteArrayList> namesIn(const QByteArray& folder) {
   return names;
 }
 
-Result<void> copyTree(const QByteArray& source, const QByteArray& target) {
+Result<void> copyTree(const QByteArray& source, const QByteArray& target, Progress& progress) {
   struct stat info;
   if (::stat(source.constData(), &info) != 0) return systemFailure(errno);
   const auto names = namesIn(source);
@@ -100,9 +100,21 @@ Result<void> copyTree(const QByteArray& source, const QByteArray& target) {
   if (::mkdir(target.constData(), 0700) != 0) return systemFailure(errno);
   for (const QByteArray& name : *names) {
     const QByteArray inside = '/' + name;
-    if (auto copied = copyEntry(source + inside, target + inside); !copied) return copied;
+    if (auto copied = copyEntry(source + inside, target + inside, progress); !copied) return copied;
   }
   return openFolder(target).map([&](const Descriptor& copy) { setRightsAndTimes(copy, info); });
+}
+
+qint64 sizeOfTree(const QByteArray& path) {
+  qint64 size = 0;
+  for (const QByteArray& name : namesIn(path).value_or(QByteArrayList())) {
+    const QByteArray inside = path + '/' + name;
+    struct stat info;
+    if (::lstat(inside.constData(), &info) != 0) continue;
+    if (S_ISREG(info.st_mode)) size += info.st_size;
+    if (S_ISDIR(info.st_mode)) size += sizeOfTree(inside);
+  }
+  return size;
 }
 
 Result<void> removeTree(const QByteArray& path) {

@@ -14,7 +14,10 @@ namespace tarnloft::posix {
 Result<QByteArrayList> namesIn(const QByteArray& folder);
 
 // See FileStore::copyFolder; leaves what was copied by then on failure.
-Result<void> copyTree(const QByteArray& source, const QByteArray& target);
+Result<void> copyTree(const QByteArray& source, const QByteArray& target, Progress& progress);
+
+// Of all files in a folder together, in bytes; of those that can be seen.
+qint64 sizeOfTree(const QByteArray& path);
 
 // Removes a file, a link or a folder with all that can be removed in it.
 Result<void> removeTree(const QByteArray& path);
