@@ -1,8 +1,12 @@
+#include "document/AtomicWrite.h"
+#include "platform/desktop/archives/ZipArchiver.h"
+#include "publish/BrandPageExporter.h"
 #include "testing/Cases.h"
 #include "testing/ForeignZip.h"
 #include "testing/TestLibrary.h"
 
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QTest>
 
 #include <fcntl.h>
@@ -60,7 +64,12 @@ class TestArchives : public QObject {
     QVERIFY(writeFile(archive, "an older file"));
     LibraryStore& store = library.start();
     BrandDocument* const document = store.createBrand("Acmé 北");
-    QVERIFY(document->importImageData(QByteArray(3'000'000, 'p'), "a.png", "png"));
+    // Over several pieces: what shrinks to nothing, to a half, and not at all; and nothing.
+    QByteArray random(2'500'000, Qt::Uninitialized);
+    QRandomGenerator(7).fillRange(reinterpret_cast<quint32*>(random.data()), random.size() / 4);
+    for (const QByteArray& bytes :
+         {QByteArray(3'000'000, 'p'), random.toHex(), random, QByteArray()})
+      QVERIFY(document->importImageData(bytes, "a.png", "png"));
     document->saveNow();
     store.exportSelectedBrand();  // cancelled
     QVERIFY(library.viewer.revealed.isEmpty());
@@ -75,6 +84,36 @@ class TestArchives : public QObject {
       QCOMPARE(namesIn(out), QStringList(QFileInfo(package).fileName()));
       QVERIFY(runs("diff", {"-r", package, out + '/' + QFileInfo(package).fileName()}, out));
     }
+    const qint64 size = QFileInfo(archive).size();
+    QVERIFY(size > 2 * random.size() && size < 2.4 * random.size());
+  }
+
+  void whatIsCancelledLeavesNothing() {
+    TestLibrary library;
+    library.add("Acme");
+    QVERIFY(writeFile(library.packagePath("Acme") + "/assets/a.png", "picture"));
+    const QString package = library.packagePath("Acme"), archive = library.disk.path("a.zip");
+    ZipArchiver archiver;
+    Progress progress;
+    const auto write = [&] {
+      return writeAtomically(
+          library.disk.files, archive, Durability::atomic,
+          [&](FileWriter& file) { return archiver.archive(package, file, progress); });
+    };
+    QVERIFY(write());
+    QCOMPARE(progress.share(), 1);
+    progress.cancel();
+    QVERIFY(QFile::rename(archive, archive + ".whole") && QDir().mkpath(library.disk.path("out")));
+    const auto page =
+        BrandPageExporter::writeFile(*BrandDocument::load(library.disk.services(), package),
+                                     library.disk.files, archive, progress);
+    for (const Result<void>& made :
+         {write(), page,
+          library.disk.files.copyFolder(package, library.disk.path("copy"), progress),
+          archiver.extract(archive + ".whole", library.disk.path("out"), progress)}) {
+      QVERIFY(!made && made.error().kind == ErrorKind::cancelled);
+    }
+    QVERIFY(!QFile::exists(archive) && !QFile::exists(library.disk.path("copy")));
   }
 
   void keepsTimesRightsAndLinks() {
