@@ -7,9 +7,10 @@ namespace {
 
 // Behind the last line feed in the part's second half, or where no character is split.
 qsizetype borderBehind(const QString& text, qsizetype start) {
+  constexpr qsizetype half = LongText::mostInPart / 2;
   const qsizetype end = start + LongText::mostInPart;
-  const qsizetype lineFeed = text.lastIndexOf(QLatin1Char('\n'), end - 1);
-  if (lineFeed >= start + LongText::mostInPart / 2) return lineFeed + 1;
+  const qsizetype lineFeed = QStringView(text).sliced(end - half, half).lastIndexOf(u'\n');
+  if (lineFeed >= 0) return end - half + lineFeed + 1;
   return text.at(end - 1).isHighSurrogate() ? end - 1 : end;
 }
 
