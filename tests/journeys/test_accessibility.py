@@ -50,6 +50,7 @@ class TheAccessibleTree(Journey):
         until(lambda: "selected" in tarn.find(*tile).states, "a selected tile")
         self.check("a selection", tarn)
         press("Escape")
+        tarn.gone("tool bar", "Selection")
         self.tab_round("a brand", tarn)
 
     def test_menus_and_questions(self):

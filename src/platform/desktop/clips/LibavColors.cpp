@@ -24,7 +24,7 @@ constexpr Primaries television{{0.708, 0.292}, {0.170, 0.797}, {0.131, 0.046}}; 
 
 // None for those that are sRGB's, or as good as that.
 std::optional<Primaries> primariesOf(const AVFrame& frame) {
-  switch (frame.color_primaries) {
+  switch (numberOf(frame.color_primaries)) {
     case AVCOL_PRI_BT2020: return television;
     case AVCOL_PRI_SMPTE431:
     case AVCOL_PRI_SMPTE432: return cinema;
@@ -71,7 +71,7 @@ Curve curveOf(double (*lightOf)(double)) {
 }
 
 // Null for a picture without a high range.
-const Curve* curveOf(AVColorTransferCharacteristic transfer) {
+const Curve* curveOf(int transfer) {
   static const Curve perceptual = curveOf(lightOfPerceptual), hybrid = curveOf(lightOfHybrid);
   if (transfer == AVCOL_TRC_SMPTE2084) return &perceptual;
   return transfer == AVCOL_TRC_ARIB_STD_B67 ? &hybrid : nullptr;
@@ -91,7 +91,7 @@ void apply(const Curve& curve, QImage& picture) {
 
 QImage inStandardColors(const QImage& picture, const AVFrame& frame) {
   QImage converted = picture;
-  if (const Curve* curve = curveOf(frame.color_trc)) apply(*curve, converted);
+  if (const Curve* curve = curveOf(numberOf(frame.color_trc))) apply(*curve, converted);
   const auto primaries = primariesOf(frame);
   if (!primaries) return converted;
   const auto& [red, green, blue] = *primaries;

@@ -24,7 +24,8 @@ double widthOfPixel(AVRational shape) {
 
 // The coefficients of a frame that doesn't tell them are by custom those of its size.
 int colorspaceOf(const AVFrame& frame) {
-  if (frame.colorspace != AVCOL_SPC_UNSPECIFIED) return frame.colorspace;
+  const int told = numberOf(frame.colorspace);
+  if (told != AVCOL_SPC_UNSPECIFIED) return told;
   return frame.width >= 1280 || frame.height > 576 ? AVCOL_SPC_BT709 : AVCOL_SPC_SMPTE170M;
 }
 
@@ -41,7 +42,7 @@ void setColors(SwsContext* scaler, const AVFrame& frame) {
                                &contrast, &saturation) < 0) {
     return;
   }
-  if (frame.color_range == AVCOL_RANGE_JPEG) fullRange = 1;
+  if (numberOf(frame.color_range) == AVCOL_RANGE_JPEG) fullRange = 1;
   sws_setColorspaceDetails(scaler, sws_getCoefficients(colorspaceOf(frame)), fullRange,
                            sws_getCoefficients(SWS_CS_DEFAULT), outputRange, brightness, contrast,
                            saturation);
@@ -93,8 +94,8 @@ QSize fittedSize(QSize stored, AVRational pixelShape, QSize room) {
 }
 
 std::optional<QImage> PictureMaker::pictureOf(const AVFrame& frame, QSize size) {
-  const Kind kind{QSize(frame.width, frame.height), size, frame.format, frame.colorspace,
-                  frame.color_range};
+  const Kind kind{QSize(frame.width, frame.height), size, frame.format, numberOf(frame.colorspace),
+                  numberOf(frame.color_range)};
   if (!scaler_ || kind_ != kind) {
     scaler_ = makeScaler(frame, size);
     kind_ = kind;

@@ -25,6 +25,8 @@ void startVips() {
   vips_cache_set_max(0);
 }
 
+void unref(VipsBlob* blob) { vips_area_unref(VIPS_AREA(blob)); }
+
 // Loaders and savers load their own libraries and tables at their first use.
 void tryEachKind() {
   std::array<char, 64> nothing{};
@@ -32,8 +34,10 @@ void tryEachKind() {
                              "webpload_buffer", "tiffload_buffer", "heifload_buffer"}) {
     try {
       vips::VImage out;
-      VipsBlob* const blob = vips_blob_new(nullptr, nothing.data(), nothing.size());
-      vips::VImage::call(loader, vips::VImage::option()->set("buffer", blob)->set("out", &out));
+      const std::unique_ptr<VipsBlob, decltype(&unref)> blob(
+          vips_blob_new(nullptr, nothing.data(), nothing.size()), unref);
+      vips::VImage::call(loader,
+                         vips::VImage::option()->set("buffer", blob.get())->set("out", &out));
     } catch (const vips::VError&) {
       vips_error_clear();
     }
