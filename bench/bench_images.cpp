@@ -213,7 +213,8 @@ void benchEstimate() {
     (void)ImageExporter::exportImage(images, QStringLiteral("a.jpg"), choice.format,
                                      choice.pixelSize, choice.quality);
     alone.push_back(double(clock.nsecsElapsed()) / 1e6);
-    ExportEstimate estimate(images, work, QStringLiteral("a.jpg"), std::chrono::milliseconds(0));
+    const ExportTarget target{{}, QStringLiteral("a.jpg"), {}, {}};
+    ExportEstimate estimate(images, work, target, std::chrono::milliseconds(0));
     clock.start();
     estimate.setChoice(choice);
     while (!estimate.text()) {
