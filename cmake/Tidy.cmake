@@ -1,8 +1,8 @@
 # The target `tidy`: clang-tidy over every source in two passes (tidy.mjs). Most checks run over some
 # sources together, again when a source or a header has changed. The analyzer of paths takes longer
-# than all else here: it runs over each source once a change of it or of a header without a source that
-# it includes, and what it found clean is recorded in
-# analysed.txt, which is committed.
+# than all else here: it runs over each source once a change of it, and over some of those that include a
+# header without a source once a change of that; what it found clean is recorded in analysed.txt, which
+# is committed.
 file(GLOB_RECURSE tidy_headers CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/*.h)
 set(tidy_program ${CMAKE_SOURCE_DIR}/cmake/tidy.mjs)
 set(tidy_together 16)
