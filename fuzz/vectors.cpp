@@ -2,6 +2,11 @@
 #include "Decoding.h"
 #include "platform/desktop/images/ImageKind.h"
 
+// Kept for as long as the process lives: converters that are opened ahead, and the desktop's fonts.
+extern "C" const char* __lsan_default_suppressions() {
+  return "leak:iconv_open\nleak:libfontconfig\n";
+}
+
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace tarnloft;
   using namespace tarnloft::decoding;
