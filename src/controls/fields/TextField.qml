@@ -16,8 +16,8 @@ T.TextField {
     property int controlSize: ControlSize.Regular
     property string accessibleName: placeholderText
     readonly property real fieldPadding: bordered ? 8 : 0
-    readonly property bool isCut: length >= maximumLength && !typed
-    property bool typed: false // what it holds is the user's
+    readonly property bool isCut: length >= maximumLength && text !== typed
+    property string typed: "" // the user's last
 
     implicitWidth: bordered ? 200 : Math.max(contentWidth, prompt.implicitWidth) + leftPadding + rightPadding + 2
     implicitHeight: bordered ? Theme.controlHeight(controlSize) : Math.ceil(contentHeight)
@@ -39,11 +39,8 @@ T.TextField {
         ensureVisible(activeFocus ? cursorPosition : 0);
     }
 
-    onTextChanged: {
-        typed = false;
-        showText();
-    }
-    onTextEdited: typed = true
+    onTextChanged: showText()
+    onTextEdited: typed = text
     onWidthChanged: showText()
     onActiveFocusChanged: {
         if (activeFocus && (focusReason === Qt.TabFocusReason || focusReason === Qt.BacktabFocusReason))

@@ -34,6 +34,8 @@ Column {
         font: root.titleFont
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.Wrap
+        maximumLineCount: 3 // of what was searched for
+        elide: Text.ElideRight
     }
 
     Label {
