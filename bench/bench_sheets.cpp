@@ -173,6 +173,7 @@ constexpr char windowReference[] = R"(
 struct NoTray : StatusItem {
   void install(const QIcon&, const QString&, std::function<void()>, std::vector<Command>) override {
   }
+  void followTray(std::function<void()>) override {}
   bool isInTray() const override { return false; }
   QRect place() const override { return {}; }
 };

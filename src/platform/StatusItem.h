@@ -28,6 +28,9 @@ class StatusItem {
   // Closes the menu, if it is the program's own and open: it has the keyboard.
   virtual void closeMenu() {}
 
+  // Runs that whenever a tray has come or gone. Once.
+  virtual void followTray(std::function<void()> changed) = 0;
+
   // Whether the desktop has a tray just now. Asks it anew: a few milliseconds.
   virtual bool isInTray() const = 0;
 

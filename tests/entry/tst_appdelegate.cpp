@@ -25,6 +25,8 @@ class FakeTray : public StatusItem {
     menu = std::move(commands);
   }
   bool isThere = true;
+  std::function<void()> changed;
+  void followTray(std::function<void()> call) override { changed = std::move(call); }
   bool isInTray() const override { return isThere; }
   QRect place() const override { return {}; }
 };
@@ -107,6 +109,9 @@ class TestAppDelegate : public QObject {
     running.tray.isThere = false;
     running.prefs.setShowDock(false);
     QVERIFY(running.taskbar.areShown);
+    running.tray.isThere = true;
+    running.tray.changed();
+    QVERIFY(!running.taskbar.areShown);
   }
 
   // What the settings' row shows and takes, by the numbers of a keyboard of the United States.

@@ -53,7 +53,7 @@ inline Section sectionOfAll() {
        Item::create(ImagePayload{{"a.png", ".png"}, std::nullopt}),
        Item::create(LogoPayload{{"Mark", {{QUuid::createUuid(), {"m.svg", "m.svg"}, {}, {}}}}}),
        Item::create(LogoPayload{{"Nothing", {}}}),
-       Item::create(FontPayload{{"Inter", "Bold", {}, {}, {}}}),
+       Item::create(FontPayload{{"Inter", "Bold", {}, {}, "Text face"}}),
        Item::create(GradientPayload{
            {{{QUuid::createUuid(), "#000000", 0}, {QUuid::createUuid(), "#FFFFFF", 1}}, 90, {}}}),
        Item::create(CodePayload{{"css", "a {\n}", {}}})});

@@ -73,6 +73,25 @@ class TestPanelWindow : public QObject {
     }
   }
 
+  // It goes with the keyboard; the click that took that doesn't bring it back, but the next one
+  // does.
+  void goesWithTheKeyboard() {
+    prepareTypography();
+    TestPanel desk({sectionOfAll()});
+    QQmlEngine engine;
+    QuickGrabPanel panel(engine, desk.grabServices(), [] { return true; });
+    QWindow other;
+    panel.show();
+    QVERIFY(QTest::qWaitForWindowActive(panel.window()));
+    other.show();
+    other.requestActivate();
+    QTRY_VERIFY(!panel.isShown());
+    for (const bool shows : {false, true}) {
+      panel.toggle(QuickGrabPanel::By::click);
+      QCOMPARE(panel.isShown(), shows);
+    }
+  }
+
   void standsBesideItsIcon() {
     const QRect screen(0, 0, 1000, 800);
     Cases<QRect, QRect, QPoint>{

@@ -37,9 +37,9 @@ class TestQuickGrab : public QObject {
          "tgs",
          "",
          State::List,
-         {"# Kit 3", "## Type 1", "font Inter", "## Gradients 1", "gradient Gradient", "## Code 1",
-          "code css"}},
-        {"search by any text", "cltgs", " BOLD\n", State::List, {"# Kit 1", "font Inter"}},
+         {"# Kit 3", "## Type 1", "font Text face", "## Gradients 1", "gradient Gradient",
+          "## Code 1", "code css"}},
+        {"search by any text", "cltgs", " BOLD\n", State::List, {"# Kit 1", "font Text face"}},
         {"spaces match all", "c", "  ", State::List,
          QStringList{"# Kit 2", "color Sky", "color Sea"} + bare},
         {"a header is no match", "cl", "Header", State::NoMatches, {}},
@@ -72,7 +72,7 @@ class TestQuickGrab : public QObject {
     QCoreApplication::processEvents();
     Cases<QString, QString>{
         {"Sky", "#AABBCC", "Copied #AABBCC"},
-        {"Inter", "Inter", "Copied Inter"},
+        {"Text face", "Inter", "Copied Inter"},
         {"Gradient", "linear-gradient(90deg, #000000 0%, #FFFFFF 100%)", "Copied CSS gradient"},
         {"css", "a {\n}", "Copied snippet"},
     }
@@ -81,6 +81,8 @@ class TestQuickGrab : public QObject {
           QCOMPARE(panel.pasteboard.texts.takeLast(), text);
           QCOMPARE(panel.grab->flashText(), told);
         });
+    const auto& things = panel.grab->things()->things();
+    QCOMPARE(things.last().detail, QString("a { }"));  // a row has one line
     panel.grab->copy(panel.place("Mark"));
     QVERIFY(panel.pasteboard.texts.isEmpty());
     panel.grab->copyColor(2);

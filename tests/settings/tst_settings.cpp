@@ -25,6 +25,7 @@ struct FakeTray : StatusItem {
   void install(const QIcon&, const QString&, std::function<void()>, std::vector<Command>) override {
   }
   QRect place() const override { return {}; }
+  void followTray(std::function<void()>) override {}
   bool isInTray() const override { return isThere; }
 };
 
@@ -202,6 +203,8 @@ class TestSettings : public QObject {
     QVERIFY(!settings.item("Keep running in the tray"));  // Tab doesn't lead there
     QVERIFY(!settings.item("Show in taskbar"));
     QVERIFY(settings.texts().filter("has no tray").size() == 1);
+    settings.tray.isThere = true;
+    QTRY_VERIFY(settings.item("Keep running in the tray"));
     const QQuickWindow* const first = &settings.window();
     settings.settings->open(nullptr);
     QCOMPARE(&settings.window(), first);
@@ -209,7 +212,6 @@ class TestSettings : public QObject {
     settings.press(Qt::Key_Escape);
     QTRY_COMPARE(closed.size(), 1);
     QVERIFY(!settings.settings->window());
-    settings.tray.isThere = true;
     settings.settings->open(nullptr);
     QVERIFY(settings.item("Show in taskbar"));
   }

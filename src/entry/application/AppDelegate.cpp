@@ -9,22 +9,23 @@ namespace tarnloft {
 using namespace std::chrono_literals;
 
 namespace {
-constexpr int missesThatCount = 2;
+constexpr auto trayPatience = 6s;  // one that is only being restarted is back by then
 }
 
 AppDelegate::AppDelegate(Preferences& preferences, const MenuBarPrefs& prefs,
-                         const StatusItem& statusItem, Taskbar& taskbar, Actions actions)
+                         StatusItem& statusItem, Taskbar& taskbar, Actions actions)
     : preferences_(preferences),
       prefs_(prefs),
       statusItem_(statusItem),
       taskbar_(taskbar),
       actions_(std::move(actions)) {
-  trayCheck_.setInterval(3s);
-  connect(&trayCheck_, &QTimer::timeout, this, &AppDelegate::checkTray);
+  trayPatience_.setSingleShot(true);
+  trayPatience_.setInterval(trayPatience);
+  connect(&trayPatience_, &QTimer::timeout, this, &AppDelegate::giveUpTray);
+  statusItem_.followTray([this] { followTray(); });
   connect(&prefs, &MenuBarPrefs::showDockChanged, this, &AppDelegate::followShowDock);
-  // The tray isn't there yet; should it not come, a later look will find that.
   taskbar_.setWindowsShown(prefs.showDock());
-  watchTray();
+  trayPatience_.start();  // the icon isn't there yet
 }
 
 void AppDelegate::applicationDidFinishLaunching() {
@@ -41,7 +42,6 @@ void AppDelegate::installMenuBar() {
 
 void AppDelegate::showMainWindow() {
   isHidden_ = false;
-  watchTray();
   if (!mainWindow_) return actions_.openMainWindow();
   if (mainWindow_->windowStates() & Qt::WindowMinimized) mainWindow_->showNormal();
   mainWindow_->show();
@@ -60,27 +60,26 @@ void AppDelegate::lastWindowClosed() {
 
 void AppDelegate::startHidden() {
   isHidden_ = true;
-  missed_ = 0;
-  watchTray();
+  isTrayGone_ = false;
+  trayPatience_.start();
 }
 
 void AppDelegate::followShowDock() {
-  missed_ = statusItem_.isInTray() ? 0 : missesThatCount;
-  taskbar_.setWindowsShown(prefs_.showDock() || missed_ > 0);
-  watchTray();
+  isTrayGone_ = !statusItem_.isInTray();
+  taskbar_.setWindowsShown(prefs_.showDock() || isTrayGone_);
 }
 
-void AppDelegate::watchTray() {
-  if (!isHidden_ && prefs_.showDock()) return trayCheck_.stop();
-  if (!trayCheck_.isActive()) trayCheck_.start();
+void AppDelegate::followTray() {
+  if (!statusItem_.isInTray()) return trayPatience_.start();
+  trayPatience_.stop();
+  isTrayGone_ = false;
+  taskbar_.setWindowsShown(prefs_.showDock());
 }
 
-// A tray that is only being restarted is back by the second look.
-void AppDelegate::checkTray() {
-  missed_ = statusItem_.isInTray() ? 0 : missed_ + 1;
-  const bool isGone = missed_ >= missesThatCount;
-  taskbar_.setWindowsShown(prefs_.showDock() || isGone);
-  if (isHidden_ && isGone) showMainWindow();
+void AppDelegate::giveUpTray() {
+  isTrayGone_ = !statusItem_.isInTray();
+  taskbar_.setWindowsShown(prefs_.showDock() || isTrayGone_);
+  if (isHidden_ && isTrayGone_) showMainWindow();
 }
 
 }  // namespace tarnloft

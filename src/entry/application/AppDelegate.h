@@ -25,7 +25,7 @@ class AppDelegate : public QObject {
   };
 
   // Borrowed: all outlive this.
-  AppDelegate(Preferences& preferences, const MenuBarPrefs& prefs, const StatusItem& statusItem,
+  AppDelegate(Preferences& preferences, const MenuBarPrefs& prefs, StatusItem& statusItem,
               Taskbar& taskbar, Actions actions);
 
   // The open main window, or null.
@@ -56,19 +56,19 @@ class AppDelegate : public QObject {
 
  private:
   void followShowDock();
-  void watchTray();
-  void checkTray();
+  void followTray();
+  void giveUpTray();
 
   Preferences& preferences_;
   const MenuBarPrefs& prefs_;
-  const StatusItem& statusItem_;
+  StatusItem& statusItem_;
   Taskbar& taskbar_;
   const Actions actions_;
   std::unique_ptr<MenuBarController> menuBar_;
   QPointer<QWindow> mainWindow_;
-  bool isHidden_ = false;  // no window is open
-  QTimer trayCheck_;       // runs while the tray alone leads to the program
-  int missed_ = 0;         // checks in a row that found no tray
+  bool isHidden_ = false;    // no window is open
+  QTimer trayPatience_;      // with a tray that has gone or has yet to come
+  bool isTrayGone_ = false;  // for longer than that
 };
 
 }  // namespace tarnloft

@@ -2,8 +2,6 @@
 
 #include "model/SearchText.h"
 
-#include <QThreadPool>
-
 namespace tarnloft {
 
 void BrandSearch::follow(const QList<Section>& sections) {
@@ -16,7 +14,7 @@ void BrandSearch::follow(const QList<Section>& sections) {
     return std::make_shared<const SearchableBrand>(brand);
   });
   folded_ = task->get_future();
-  QThreadPool::globalInstance()->start([task] { (*task)(); });
+  threads_.start([task] { (*task)(); });
 }
 
 BrandSearch::Matches BrandSearch::matches(const QString& query) const {

@@ -2,6 +2,8 @@
 
 #include "library/SearchableBrand.h"
 
+#include <QThreadPool>
+
 #include <future>
 #include <memory>
 
@@ -31,6 +33,7 @@ class BrandSearch {
 
  private:
   QList<Section> sections_;
+  QThreadPool threads_;  // its own: the toolkit waits for the common one while it draws
   std::shared_future<std::shared_ptr<const SearchableBrand>> folded_;
 };
 

@@ -4,7 +4,6 @@
 #include "controls/dragging/Carrying.h"
 #include "model/ShownText.h"
 #include "pictures/HexColor.h"
-#include "publish/ColorUtil.h"
 
 #include <QPointer>
 #include <QUrl>
@@ -16,37 +15,10 @@ namespace tarnloft {
 namespace {
 
 using namespace std::chrono_literals;
-using Kind = GrabKind::Kind;
 
 constexpr auto flashTime = 1300ms;
 constexpr auto copyPatience = 1s;  // with a file's copy for a drag
 constexpr int beyondSight = 60;    // points above and below that are made ahead
-
-QString groupTitle(Kind kind) {
-  switch (kind) {
-    case Kind::Color: return QStringLiteral("Colors");
-    case Kind::Media: return QStringLiteral("Logos & Images");
-    case Kind::Font: return QStringLiteral("Type");
-    case Kind::Gradient: return QStringLiteral("Gradients");
-    default: return QStringLiteral("Code");
-  }
-}
-
-size_t countOf(const SectionBlock& block, Kind kind) {
-  switch (kind) {
-    case Kind::Color: return block.colors.size();
-    case Kind::Media: return block.media.size();
-    case Kind::Font: return block.fonts.size();
-    case Kind::Gradient: return block.gradients.size();
-    default: return block.codes.size();
-  }
-}
-
-// A row shows one line of it.
-QString beginningOf(const QString& snippet) {
-  constexpr qsizetype most = 120;
-  return snippet.left(most).simplified();
-}
 
 }  // namespace
 
@@ -125,9 +97,9 @@ void QuickGrab::update() {
 
 void QuickGrab::filter() {
   const QString query = search_.trimmed();
-  blocks_ = query.isEmpty() ? sectionBlocks(sections_, kinds())
-                            : sectionBlocks(sections_, kinds(), brandSearch_.matches(query));
-  layout_ = PanelLayout(blocks_);
+  content_ =
+      GrabContent(query.isEmpty() ? sectionBlocks(sections_, kinds())
+                                  : sectionBlocks(sections_, kinds(), brandSearch_.matches(query)));
   placeCurrent();
   showList();
   emit changed();
@@ -153,95 +125,20 @@ void QuickGrab::setSight(int top, int height) {
 
 void QuickGrab::showList() {
   const auto [first, last] =
-      layout_.between(sightTop_ - beyondSight, sightTop_ + sightHeight_ + beyondSight);
+      layout().between(sightTop_ - beyondSight, sightTop_ + sightHeight_ + beyondSight);
+  const BrandDocument* const open = library_.openDocument();
+  const GrabContent::Look look{library_.preferences().colorCopyFormat(),
+                               open ? std::optional(open->files()) : std::nullopt};
   QList<GrabThing> things;
   things.reserve(qsizetype(last - first));
-  for (size_t place = first; place < last; ++place) things << thingAt(place);
+  for (size_t place = first; place < last; ++place) things << content_.thing(place, look);
   list_.show(things);
-}
-
-QUuid QuickGrab::idOf(const PlacedThing& thing) const {
-  const SectionBlock& block = blocks_[thing.block];
-  const size_t i = thing.index;
-  switch (thing.kind) {
-    case Kind::Color: return block.colors[i].id;
-    case Kind::Media: return block.media[i].id;
-    case Kind::Font: return block.fonts[i].id;
-    case Kind::Gradient: return block.gradients[i].id;
-    case Kind::Code: return block.codes[i].id;
-    default: break;
-  }
-  // A section's may be an item's as well.
-  QUuid id = block.id;
-  id.data1 ^= 0x5a17u + (thing.kind == Kind::GroupHeader ? 1 + thing.index : 0);
-  return id;
-}
-
-GrabThing QuickGrab::thingAt(size_t place) const {
-  const PlacedThing& at = layout_.things[place];
-  const SectionBlock& block = blocks_[at.block];
-  GrabThing thing;
-  thing.id = idOf(at);
-  thing.kind = at.kind;
-  thing.place = int(place);
-  thing.room = at.room;
-  switch (at.kind) {
-    case Kind::BlockHeader:
-      thing.name =
-          block.name.isEmpty() ? QStringLiteral("Untitled Section") : shownText(block.name);
-      thing.detail = QString::number(block.count());
-      break;
-    case Kind::GroupHeader:
-      thing.name = groupTitle(Kind(at.index));
-      thing.detail = QString::number(countOf(block, Kind(at.index)));
-      break;
-    case Kind::Color: {
-      const ColorEntry& entry = block.colors[at.index];
-      thing.name = shownText(entry.name.value_or(entry.hex.toUpper()));
-      thing.help = QStringLiteral("Click to copy ") + thing.name;
-      thing.detail =
-          shownText(ColorUtil::formatted(entry.hex, library_.preferences().colorCopyFormat()));
-      thing.color = shownColor(entry.hex);
-      break;
-    }
-    case Kind::Media: {
-      const MediaEntry& entry = block.media[at.index];
-      const BrandDocument* const open = library_.openDocument();
-      thing.name = shownText(entry.name);
-      thing.help = QStringLiteral("Drag out to use %1 as a file").arg(thing.name);
-      if (open) thing.source = open->files().assetPath(entry.asset).value_or(QString());
-      break;
-    }
-    case Kind::Font: {
-      const FontEntry& entry = block.fonts[at.index];
-      thing.name = shownText(entry.name);
-      thing.detail = shownText(entry.weight.value_or(QString()));
-      thing.source = shownText(entry.family);
-      thing.help = QStringLiteral("Click to copy the font name");
-      break;
-    }
-    case Kind::Gradient: {
-      const GradientEntry& entry = block.gradients[at.index];
-      thing.name = shownText(entry.name);
-      thing.gradient.value = entry.value;
-      thing.help = QStringLiteral("Click to copy the CSS gradient");
-      break;
-    }
-    case Kind::Code: {
-      const CodeEntry& entry = block.codes[at.index];
-      thing.name = shownText(entry.name);
-      thing.detail = beginningOf(entry.snippet);
-      thing.help = QStringLiteral("Click to copy the snippet");
-      break;
-    }
-  }
-  return thing;
 }
 
 QuickGrab::State QuickGrab::state() const {
   if (sections_.isEmpty()) return State::NoBrand;
   if (!prefs_.hasAnyAssetTypeEnabled()) return State::NoTypes;
-  if (!blocks_.empty()) return State::List;
+  if (!content_.isEmpty()) return State::List;
   return search_.isEmpty() ? State::Nothing : State::NoMatches;
 }
 
@@ -274,55 +171,55 @@ void QuickGrab::chooseBrand(const QString& packageURL) {
 }
 
 QRect QuickGrab::currentRoom() const {
-  return current_ < 0 ? QRect() : layout_.things[size_t(current_)].room;
+  return current_ < 0 ? QRect() : layout().things[size_t(current_)].room;
 }
 
 // Where the current entry stands by now; while there is a search, the first one in its place.
 void QuickGrab::placeCurrent() {
   std::optional<size_t> place;
   if (!currentID_.isNull()) {
-    for (size_t i = 0; i < layout_.things.size() && !place; ++i) {
-      if (layout_.things[i].isEntry() && idOf(layout_.things[i]) == currentID_) place = i;
+    for (size_t i = 0; i < layout().things.size() && !place; ++i) {
+      if (layout().things[i].isEntry() && content_.idOf(i) == currentID_) place = i;
     }
   }
-  if (!place && !search_.trimmed().isEmpty()) place = layout_.first();
+  if (!place && !search_.trimmed().isEmpty()) place = layout().first();
   setCurrentPlace(place ? int(*place) : -1);
 }
 
 void QuickGrab::setCurrentPlace(int place) {
   current_ = place;
-  currentID_ = place < 0 ? QUuid() : idOf(layout_.things[size_t(place)]);
+  currentID_ = place < 0 ? QUuid() : content_.idOf(size_t(place));
   emit currentChanged();
 }
 
 void QuickGrab::setCurrent(int place) {
-  const bool isEntry = place >= 0 && size_t(place) < layout_.things.size() &&
-                       layout_.things[size_t(place)].isEntry();
+  const bool isEntry = place >= 0 && size_t(place) < layout().things.size() &&
+                       layout().things[size_t(place)].isEntry();
   setCurrentPlace(isEntry ? place : -1);
 }
 
 bool QuickGrab::move(Step step) {
   PanelLayout::Place place;
   if (current_ < 0 || step == Step::First) {
-    place = layout_.first();
+    place = layout().first();
   } else {
     const auto from = size_t(current_);
     switch (step) {
-      case Step::Left: place = layout_.beside(from, -1); break;
-      case Step::Right: place = layout_.beside(from, 1); break;
-      case Step::Up: place = layout_.above(from); break;
-      case Step::Down: place = layout_.below(from); break;
+      case Step::Left: place = layout().beside(from, -1); break;
+      case Step::Right: place = layout().beside(from, 1); break;
+      case Step::Up: place = layout().above(from); break;
+      case Step::Down: place = layout().below(from); break;
       case Step::PageUp:
       case Step::PageDown: {
-        const int far = layout_.things[from].room.top();
+        const int far = layout().things[from].room.top();
         for (PanelLayout::Place at = from; at;) {
           place = at;
-          if (std::abs(layout_.things[*at].room.top() - far) >= sightHeight_ * 3 / 4) break;
-          at = step == Step::PageUp ? layout_.above(*at) : layout_.below(*at);
+          if (std::abs(layout().things[*at].room.top() - far) >= sightHeight_ * 3 / 4) break;
+          at = step == Step::PageUp ? layout().above(*at) : layout().below(*at);
         }
         break;
       }
-      default: place = layout_.last();
+      default: place = layout().last();
     }
   }
   if (!place) return false;
@@ -331,46 +228,13 @@ bool QuickGrab::move(Step step) {
 }
 
 void QuickGrab::copy(int place) {
-  if (place < 0 || size_t(place) >= layout_.things.size()) return;
-  const PlacedThing& at = layout_.things[size_t(place)];
-  const SectionBlock& block = blocks_[at.block];
-  switch (at.kind) {
-    case Kind::Color: {
-      const QString text = ColorUtil::formatted(block.colors[at.index].hex,
-                                                library_.preferences().colorCopyFormat());
-      return copyText(text, text);
-    }
-    case Kind::Font: {
-      const QString& family = block.fonts[at.index].family;
-      return copyText(family, family);
-    }
-    case Kind::Gradient: {
-      const GradientValue& value = block.gradients[at.index].value;
-      if (!value.hasCss()) return flash(QStringLiteral("This gradient can’t be written as CSS"));
-      return copyText(value.cssString(), QStringLiteral("CSS gradient"));
-    }
-    case Kind::Code: return copyText(block.codes[at.index].snippet, QStringLiteral("snippet"));
-    default: return;
-  }
+  const auto copied = content_.copyOf(place, library_.preferences().colorCopyFormat());
+  if (!copied) return;
+  if (copied->text) services_.pasteboard.setText(*copied->text);
+  flash(copied->told);
 }
 
-void QuickGrab::copyText(const QString& text, const QString& told) {
-  services_.pasteboard.setText(text);
-  flash(QStringLiteral("Copied ") + told);
-}
-
-void QuickGrab::copyColor(int number) {
-  int count = 0;
-  for (size_t place = 0; place < layout_.things.size(); ++place) {
-    if (layout_.things[place].kind == Kind::Color && ++count == number) return copy(int(place));
-  }
-}
-
-const MediaEntry* QuickGrab::mediaAt(int place) const {
-  if (place < 0 || size_t(place) >= layout_.things.size()) return nullptr;
-  const PlacedThing& at = layout_.things[size_t(place)];
-  return at.kind == Kind::Media ? &blocks_[at.block].media[at.index] : nullptr;
-}
+void QuickGrab::copyColor(int number) { copy(content_.colorPlace(number)); }
 
 std::function<QList<DragItem>()> QuickGrab::dragWork(const MediaEntry& entry) const {
   return
@@ -389,7 +253,7 @@ std::optional<DragItem> QuickGrab::prepared(const MediaEntry& entry) {
 }
 
 void QuickGrab::drag(int place, QQuickItem* view, const QImage& grabbed, qreal radius) {
-  const MediaEntry* const entry = mediaAt(place);
+  const MediaEntry* const entry = content_.media(place);
   if (!entry || isDragging_) return;
   const auto item = prepared(*entry);
   if (!item) return;
@@ -404,7 +268,7 @@ void QuickGrab::drag(int place, QQuickItem* view, const QImage& grabbed, qreal r
 }
 
 void QuickGrab::copyFile(int place) {
-  const MediaEntry* const entry = mediaAt(place);
+  const MediaEntry* const entry = content_.media(place);
   const auto item = entry ? prepared(*entry) : std::nullopt;
   if (!item) return;
   const QByteArray url = QUrl::fromLocalFile(*item->file).toEncoded();

@@ -9,6 +9,7 @@
 #include "platform/Pasteboard.h"
 #include "quickgrab/MenuBarPrefs.h"
 #include "quickgrab/panel/BrandSearch.h"
+#include "quickgrab/panel/GrabContent.h"
 #include "quickgrab/panel/GrabList.h"
 
 #include <QQuickItem>
@@ -72,7 +73,7 @@ class QuickGrab : public QObject {
   EmblemLook emblem() const;
   QVariantList brands() const;
   GrabList* things() { return &list_; }
-  int contentHeight() const { return layout_.height; }
+  int contentHeight() const { return layout().height; }
   int current() const { return current_; }
   QRect currentRoom() const;
   const QString& flashText() const { return flashText_; }
@@ -116,12 +117,9 @@ class QuickGrab : public QObject {
   void registerFonts();
   void placeCurrent();
   void setCurrentPlace(int place);
-  GrabThing thingAt(size_t place) const;
-  QUuid idOf(const PlacedThing& thing) const;
-  const MediaEntry* mediaAt(int place) const;
+  const PanelLayout& layout() const { return content_.layout(); }
   std::function<QList<DragItem>()> dragWork(const MediaEntry& entry) const;
   std::optional<DragItem> prepared(const MediaEntry& entry);
-  void copyText(const QString& text, const QString& told);
   void flash(const QString& text);
   GrabbedKinds kinds() const;
 
@@ -137,8 +135,7 @@ class QuickGrab : public QObject {
   BrandSearch brandSearch_;
   QString packageURL_;
   QList<Section> sections_;
-  std::vector<SectionBlock> blocks_;
-  PanelLayout layout_{blocks_};
+  GrabContent content_;
   GrabList list_;
   int sightTop_ = 0;
   int sightHeight_ = 480;

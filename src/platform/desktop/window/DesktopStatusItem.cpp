@@ -6,7 +6,10 @@ void DesktopStatusItem::install(const QIcon& icon, const QString& toolTip,
                                 std::function<void()> clicked, std::vector<Command> menu) {
   look_ = {icon, toolTip, std::move(clicked), std::move(menu)};
   host_.emplace();
-  QObject::connect(&*host_, &TrayHost::changed, &*host_, [this] { showInTray(); });
+  QObject::connect(&*host_, &TrayHost::changed, &*host_, [this] {
+    showInTray();
+    if (trayChanged_) trayChanged_();
+  });
   showInTray();
 }
 

@@ -18,6 +18,7 @@ class DesktopStatusItem : public StatusItem {
   void install(const QIcon& icon, const QString& toolTip, std::function<void()> clicked,
                std::vector<Command> menu) override;
   void closeMenu() override;
+  void followTray(std::function<void()> changed) override { trayChanged_ = std::move(changed); }
   bool isInTray() const override;
   QRect place() const override { return icon_ ? icon_->geometry() : QRect(); }
 
@@ -32,6 +33,7 @@ class DesktopStatusItem : public StatusItem {
   };
 
   Look look_;
+  std::function<void()> trayChanged_;
   std::optional<TrayHost> host_;
   std::unique_ptr<QMenu> menu_;
   std::unique_ptr<QSystemTrayIcon> icon_;  // uses the menu

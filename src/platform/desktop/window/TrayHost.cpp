@@ -34,6 +34,7 @@ TrayHost::TrayHost()
   if (xcb_connection_t* const server = xServer()) {
     selection_ = atomOf(server, "_NET_SYSTEM_TRAY_S0");
     managerMessage_ = atomOf(server, "MANAGER");
+    watchOwner();
     qGuiApp->installNativeEventFilter(this);
   }
 }
@@ -57,15 +58,26 @@ void TrayHost::setOnBus(bool isOnBus) {
   if (std::exchange(isOnBus_, isOnBus) != isOnBus) emit changed();
 }
 
-bool TrayHost::isThere() const { return isOnBus_ || ownsSelection(); }
+bool TrayHost::isThere() const { return isOnBus_ || owner() != XCB_NONE; }
 
-bool TrayHost::ownsSelection() const {
+uint32_t TrayHost::owner() const {
   xcb_connection_t* const server = selection_ ? xServer() : nullptr;
-  if (!server) return false;
+  if (!server) return XCB_NONE;
   const auto cookie = xcb_get_selection_owner(server, selection_);
   const OwnedReply<xcb_get_selection_owner_reply_t> reply(
       xcb_get_selection_owner_reply(server, cookie, nullptr), &std::free);
-  return reply && reply->owner != XCB_NONE;
+  return reply ? reply->owner : XCB_NONE;
+}
+
+// A tray that ends says nothing, but its window goes.
+void TrayHost::watchOwner() {
+  owner_ = owner();
+  if (owner_ == XCB_NONE) return;
+  const uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+  const auto cookie =
+      xcb_change_window_attributes_checked(xServer(), owner_, XCB_CW_EVENT_MASK, &events);
+  const OwnedReply<xcb_generic_error_t> error(xcb_request_check(xServer(), cookie), &std::free);
+  if (error) owner_ = XCB_NONE;  // gone already
 }
 
 // A tray that starts on X11 says so to everybody. Many a tray is on the bus too, a little later,
@@ -73,10 +85,19 @@ bool TrayHost::ownsSelection() const {
 bool TrayHost::nativeEventFilter(const QByteArray& type, void* message, qintptr*) {
   if (type != "xcb_generic_event_t") return false;
   const auto* const event = static_cast<xcb_generic_event_t*>(message);
-  if ((event->response_type & 0x7f) != XCB_CLIENT_MESSAGE) return false;
-  const auto* const told = static_cast<xcb_client_message_event_t*>(message);
-  if (told->type == managerMessage_ && told->data.data32[1] == selection_) {
-    QTimer::singleShot(secondThought, this, &TrayHost::changed);
+  const int kind = event->response_type & 0x7f;
+  if (kind == XCB_DESTROY_NOTIFY) {
+    const auto* const ended = static_cast<xcb_destroy_notify_event_t*>(message);
+    if (owner_ != XCB_NONE && ended->window == owner_) {
+      owner_ = XCB_NONE;
+      QMetaObject::invokeMethod(this, &TrayHost::changed, Qt::QueuedConnection);
+    }
+  } else if (kind == XCB_CLIENT_MESSAGE) {
+    const auto* const told = static_cast<xcb_client_message_event_t*>(message);
+    if (told->type == managerMessage_ && told->data.data32[1] == selection_) {
+      watchOwner();
+      QTimer::singleShot(secondThought, this, &TrayHost::changed);
+    }
   }
   return false;
 }

@@ -20,7 +20,7 @@ class TrayHost : public QObject, private QAbstractNativeEventFilter {
   bool isThere() const;
 
  signals:
-  // A tray has come, or one on the bus has gone.
+  // A tray has come or gone.
   void changed();
 
  private slots:
@@ -28,7 +28,8 @@ class TrayHost : public QObject, private QAbstractNativeEventFilter {
 
  private:
   void setOnBus(bool isOnBus);
-  bool ownsSelection() const;
+  uint32_t owner() const;
+  void watchOwner();
   bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
 
   QDBusServiceWatcher busTray_;
@@ -36,6 +37,7 @@ class TrayHost : public QObject, private QAbstractNativeEventFilter {
   // Of the X server; 0 elsewhere.
   uint32_t selection_ = 0;
   uint32_t managerMessage_ = 0;
+  uint32_t owner_ = 0;  // the tray's window, whose end is watched
 };
 
 }  // namespace tarnloft
