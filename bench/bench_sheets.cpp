@@ -7,6 +7,7 @@
 #include "settings/SettingsWindow.h"
 #include "sheets/editors/ItemEditorSheet.h"
 #include "shell/TestViews.h"
+#include "testing/FakeUpdater.h"
 #include "workspace/Items.h"
 
 #include <QElapsedTimer>
@@ -17,6 +18,7 @@
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_QuickGrabPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_SettingsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_UpdatesPlugin)
 
 using namespace tarnloft;
 
@@ -197,9 +199,12 @@ void benchSettings() {
     NoTaskbar taskbar;
     NoLogin login;
     MenuBarPrefs menuBar(bench.library.preferences, bench.library.disk.log);
+    FakeUpdater updater;
+    UpdaterViewModel updates(updater, bench.library.preferences, systemNow);
+    updates.start();
     SettingsWindow settings(
         bench.engine, {*bench.library.store, menuBar, bench.library.dialogs, bench.library.viewer,
-                       tray, taskbar, login, [] { return nullptr; }});
+                       tray, taskbar, login, updates, [] { return nullptr; }});
     const auto openTheirs = [&] {
       QQmlComponent component(&bench.engine);
       component.setData(windowReference, QUrl());

@@ -125,14 +125,17 @@ function(tarnloft_qml_module target name)
 endfunction()
 
 # One test program: NAME.cpp, the layers that it tests, and the shared helpers. With DISPLAY it runs
-# with an X server and a session bus of its own.
+# with an X server and a session bus of its own, with BUS with the latter alone.
 function(tarnloft_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "DISPLAY" "" "LINKS;DEFINITIONS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "BUS;DISPLAY" "" "LINKS;DEFINITIONS")
   list(TRANSFORM arg_LINKS PREPEND tarnloft_)
   add_executable(${name} ${name}.cpp)
   target_link_libraries(${name} PRIVATE Qt6::Test tarnloft_testing ${arg_LINKS})
   target_compile_definitions(${name} PRIVATE ${arg_DEFINITIONS})
   set(launcher "")
+  if(arg_BUS)
+    set(launcher ${CMAKE_SOURCE_DIR}/tests/testing/with-session)
+  endif()
   if(arg_DISPLAY)
     set(launcher ${CMAKE_SOURCE_DIR}/tests/testing/with-display)
   endif()

@@ -12,13 +12,14 @@ below.document = ['platform', ...below.platform];
 below.publish = ['document', ...below.document];
 below.library = ['publish', ...below.publish];
 below.assets = ['library', ...below.library];
+below.updates = ['platform', ...below.platform];
 below.controls = ['platform', ...below.platform];
 below.pictures = ['assets', 'controls', ...below.assets];
 below.sheets = ['pictures', ...below.pictures];
 below.workspace = ['sheets', ...below.sheets];
-below.shell = ['workspace', ...below.workspace];
+below.shell = ['workspace', 'updates', ...below.workspace];
 below.quickgrab = ['pictures', ...below.pictures];
-below.settings = ['quickgrab', ...below.quickgrab];
+below.settings = ['quickgrab', 'updates', ...below.quickgrab];
 below.entry = ['shell', 'settings', 'quickgrab', ...below.shell];
 
 function* files(folder) {

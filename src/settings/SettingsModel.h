@@ -6,6 +6,7 @@
 #include "platform/Taskbar.h"
 #include "quickgrab/MenuBarPrefs.h"
 #include "quickgrab/hotkey/HotKeySettings.h"
+#include "updates/UpdaterViewModel.h"
 
 #include <QColor>
 #include <QTimer>
@@ -21,6 +22,7 @@ struct SettingsServices {
   const StatusItem& statusItem;
   const Taskbar& taskbar;
   LoginItem& loginItem;
+  UpdaterViewModel& updater;
   std::function<HotKeySettings*()> hotKey;  // null before the key is registered
 };
 
@@ -45,6 +47,7 @@ class SettingsModel : public QObject {
   Q_PROPERTY(QStringList colorCopyFormats READ colorCopyFormats CONSTANT)
   Q_PROPERTY(
       QColor defaultAccent READ defaultAccent WRITE setDefaultAccent NOTIFY defaultAccentChanged)
+  Q_PROPERTY(tarnloft::UpdaterViewModel* updater READ updater CONSTANT)
   Q_PROPERTY(tarnloft::MenuBarPrefs* menuBar READ menuBar CONSTANT)
   Q_PROPERTY(tarnloft::HotKeySettings* hotKey READ hotKey CONSTANT)
   // The session starts the program, without a window.
@@ -72,6 +75,8 @@ class SettingsModel : public QObject {
   static QStringList colorCopyFormats();
   int assetDisplayMode() const { return int(preferences().assetDisplayMode()); }
   void setAssetDisplayMode(int mode);
+
+  UpdaterViewModel* updater() const { return &services_.updater; }
 
   MenuBarPrefs* menuBar() const { return &services_.menuBar; }
   HotKeySettings* hotKey() const { return services_.hotKey(); }

@@ -12,6 +12,11 @@ FocusScope {
     required property SettingsModel model
     readonly property real naturalHeight: form.height
 
+    // Scrolls to what is said of updates.
+    function showUpdates() {
+        area.reveal(updates);
+    }
+
     Accessible.role: Accessible.Pane
     Accessible.name: "Settings"
 
@@ -32,6 +37,14 @@ FocusScope {
 
             LibrarySection {
                 width: parent.width
+                model: root.model
+            }
+
+            UpdateSection {
+                id: updates
+
+                width: parent.width
+                visible: root.model.updater.isThere
                 model: root.model
             }
 

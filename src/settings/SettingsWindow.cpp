@@ -36,6 +36,11 @@ void SettingsWindow::open(const QWindow* over) {
   window_->requestActivate();
 }
 
+void SettingsWindow::openAtUpdates(const QWindow* over) {
+  open(over);
+  if (window_) QMetaObject::invokeMethod(window_.get(), "showUpdates");
+}
+
 bool SettingsWindow::make() {
   auto model = std::make_unique<SettingsModel>(services_);
   if (!component_.isReady()) component_.loadUrl(QUrl(url), QQmlComponent::PreferSynchronous);

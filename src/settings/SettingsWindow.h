@@ -29,6 +29,8 @@ class SettingsWindow : public QObject {
   // Brings it to the front, or opens it in the middle of the other window, where the desktop leaves
   // that to programs; null for none.
   void open(const QWindow* over);
+  // The same, at what it says of updates.
+  void openAtUpdates(const QWindow* over);
   // Null while it is closed.
   QQuickWindow* window() const { return window_.get(); }
 

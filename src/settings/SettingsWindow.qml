@@ -10,6 +10,10 @@ Window {
 
     required property SettingsModel model
 
+    function showUpdates() {
+        view.showUpdates();
+    }
+
     title: "Settings"
     flags: Qt.Dialog
     width: 460

@@ -1,6 +1,7 @@
 #include "controls/theme/Typography.h"
 #include "settings/SettingsWindow.h"
 #include "testing/Cases.h"
+#include "testing/FakeUpdater.h"
 #include "testing/TestLibrary.h"
 
 #include <QAccessible>
@@ -15,6 +16,7 @@ Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_QuickGrabPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_SettingsPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_UpdatesPlugin)
 
 using namespace tarnloft;
 
@@ -50,6 +52,8 @@ struct Settings {
   FakeTray tray;
   FakeTaskbar taskbar;
   FakeLogin login;
+  FakeUpdater updater;
+  UpdaterViewModel updates{updater, library.preferences, [this] { return library.disk.now; }};
   QQmlEngine engine;
   std::unique_ptr<SettingsWindow> settings;
 
@@ -60,7 +64,7 @@ struct Settings {
     library.add("Acme");
     settings = std::make_unique<SettingsWindow>(
         engine, SettingsServices{library.start(), menuBar, library.dialogs, library.viewer, tray,
-                                 taskbar, login, [] { return nullptr; }});
+                                 taskbar, login, updates, [] { return nullptr; }});
     settings->open(nullptr);
     QVERIFY(QTest::qWaitForWindowActive(&window()));
   }
@@ -194,6 +198,38 @@ class TestSettings : public QObject {
     QVERIFY(QDir().rename(library.disk.path("gone"), library.disk.path("there")));
     settings.use("Try Again", {Qt::Key_Space});
     QTRY_VERIFY(!settings.texts().contains(problem));
+  }
+
+  void updatesAreAskedForAndInstalled() {
+    Settings settings;
+    FakeUpdater& updater = settings.updater;
+    settings.open();
+    QVERIFY(!settings.texts().contains("Software Update"));
+    settings.updates.start();
+    const auto find = [&](const Result<std::optional<Updater::Update>>& found) {
+      settings.use("Check for Updates Now…", {Qt::Key_Space});
+      QTRY_VERIFY(settings.texts().contains("Looking for updates…"));
+      std::exchange(updater.found, nullptr)(found);
+    };
+    find(failure(ErrorKind::io, "no network"));
+    QTRY_VERIFY(settings.texts().contains("Updates couldn't be looked for: no network"));
+    find(std::nullopt);
+    QVERIFY(settings.texts().contains("Tarn Loft is up to date."));
+    find(Updater::Update{"0.2", "Faster.", {}});
+    QVERIFY(settings.texts().contains("Faster."));
+    settings.use("Install", {Qt::Key_Space});
+    updater.progress(40);
+    QVERIFY(settings.texts().contains("40 %"));
+    updater.ended({});
+    QSignalSpy relaunches(&settings.updates, &UpdaterViewModel::relaunchRequested);
+    settings.use("Relaunch", {Qt::Key_Space});
+    QCOMPARE(relaunches.size(), 1);
+    // The second switch keeps its value while the first one has the say.
+    settings.use("Download and install updates automatically", {Qt::Key_Space});
+    settings.use("Check for updates automatically", {Qt::Key_Space});
+    QVERIFY(!settings.updates.checksForUpdates() && settings.updates.downloadsUpdates());
+    QVERIFY(!settings.item("Download and install updates automatically"));
+    QVERIFY(settings.texts().filter("only asks you to relaunch").size() == 1);
   }
 
   void opensOnceAndTellsWhatTheDesktopLacks() {

@@ -32,6 +32,7 @@ constexpr auto alert = QAccessible::AlertMessage;
 struct Views : TestShell {
   IniPreferences state{library.disk.path("state.ini"), library.disk.log};
   QQmlEngine engine;
+  UpdaterViewModel* updater = nullptr;  // a test may put one in
   std::unique_ptr<AccentTint> tint;
   std::unique_ptr<MainWindow> main;
 
@@ -43,7 +44,7 @@ struct Views : TestShell {
     Theme& theme = Theme::of(engine);
     LibraryStore& store = library.start();
     tint = std::make_unique<AccentTint>(store, theme);
-    main = std::make_unique<MainWindow>(engine, services(), state);
+    main = std::make_unique<MainWindow>(engine, services(), state, updater);
     QVERIFY(main->open());
     QVERIFY(QTest::qWaitForWindowActive(&window()));
     QTRY_VERIFY(window().property("late").value<QObject*>());

@@ -1,5 +1,6 @@
 #include "shell/TestViews.h"
 #include "testing/Cases.h"
+#include "testing/FakeUpdater.h"
 
 #include <QSignalSpy>
 
@@ -184,6 +185,47 @@ class TestAlerts : public QObject {
       QCOMPARE(views.library.names().size(), left);
       QCOMPARE(QFile::exists(views.manifest), !views.library.names().isEmpty());
     });
+  }
+
+  void asksAboutUpdates() {
+    Alarmed views;
+    FakeUpdater updater;
+    UpdaterViewModel updates(updater, views.library.preferences,
+                             [&] { return views.library.disk.now; });
+    views.updater = &updates;
+    views.start();
+    const QString offer = "Tarn Loft 0.2 is available",
+                  installed = "A new version of Tarn Loft is installed";
+    const auto isInMenu = [&] {
+      views.press(Qt::Key_H, Qt::AltModifier);
+      const auto isOpen = [&] { return views.item(entry, "About Tarn Loft") != nullptr; };
+      bool isThere = QTest::qWaitFor(isOpen) && views.item(entry, "Check for Updates…");
+      views.press(Qt::Key_Escape);
+      return QTest::qWaitFor([&] { return !isOpen(); }) && isThere;
+    };
+    QVERIFY(!isInMenu());
+    updates.start();
+    QVERIFY(isInMenu());
+
+    const auto find = [&] {
+      updates.checkIfDue();
+      std::exchange(updater.found, nullptr)(Updater::Update{"0.2", "Faster.", {}});
+      QTRY_VERIFY(views.item(dialog, offer));
+    };
+    find();
+    QVERIFY(views.shows("Faster."));
+    updates.dismissNews();  // as the settings do
+    QTRY_VERIFY(!views.item(dialog, offer));
+    QCOMPARE(updater.asked, QStringList("clock checks"));
+    views.library.preferences.remove("updates.told");
+    views.library.disk.now += std::chrono::hours(24);
+    find();
+    views.answer(offer, "Install");
+    QTRY_COMPARE(updater.asked.last(), "user installs 0.2");
+    QSignalSpy relaunches(&updates, &UpdaterViewModel::relaunchRequested);
+    updater.ended({});
+    views.answer(installed, "Relaunch");
+    QTRY_COMPARE(relaunches.size(), 1);
   }
 
   void asksBeforeItQuits() {

@@ -12,11 +12,14 @@
 #include "platform/desktop/window/ApplicationBus.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QIcon>
 #include <QtQml/qqmlextensionplugin.h>
 
+#include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <unistd.h>
 
 Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_PicturesPlugin)
@@ -24,6 +27,7 @@ Q_IMPORT_QML_PLUGIN(TarnLoft_QuickGrabPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_SettingsPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_SheetsPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_ShellPlugin)
+Q_IMPORT_QML_PLUGIN(TarnLoft_UpdatesPlugin)
 Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 
 using namespace tarnloft;
@@ -64,7 +68,19 @@ QIcon windowIcon() {
   return icon;
 }
 
+// In this very process, which a session's supervisor goes on knowing. Comes back only if that
+// fails.
+void startAnew(RunningInstance& instance, QByteArray program) {
+  instance.release();
+  qunsetenv(AutostartEntry::startVariable);
+  const std::array<char*, 2> arguments{program.data(), nullptr};
+  ::execv(program.constData(), arguments.data());
+  std::perror("Tarn Loft: can't be started anew");
+}
+
 int runWindows(RunningInstance& instance, TarnLoftApp::Opening opening, const QString& action) {
+  // As long as it is known: the file may be replaced by a newer one.
+  const QByteArray program = QFile::encodeName(QCoreApplication::applicationFilePath());
   TarnLoftApp app(opening);
   QObject::connect(&instance, &RunningInstance::requested, &app,
                    [&app](const QByteArray& asked) { app.perform(QString::fromLatin1(asked)); });
@@ -76,8 +92,10 @@ int runWindows(RunningInstance& instance, TarnLoftApp::Opening opening, const QS
   if (!app.start()) return fail("the interface can't be loaded");
   if (!action.isEmpty()) app.perform(action);
   const int status = QApplication::exec();
+  const bool isFinished = app.finish();
+  if (app.sequel() == TarnLoftApp::Sequel::newStart) startAnew(instance, program);
   // All is saved by now, and the system takes the rest.
-  if (!app.finish()) std::_Exit(status);
+  if (!isFinished) std::_Exit(status);
   return status;
 }
 

@@ -106,6 +106,8 @@ QString DesktopServices::decoderProgram() {
   return file.absolutePath() + QStringLiteral("/tarnloft-decoder");
 }
 
+QString DesktopServices::package() { return QStringLiteral(TARNLOFT_PACKAGE); }
+
 QString DesktopServices::stateFile(const char* name) {
   // The toolkit of this version doesn't know the folder.
   const QString folder = qEnvironmentVariable("XDG_STATE_HOME");

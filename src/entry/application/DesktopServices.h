@@ -12,6 +12,7 @@
 #include "platform/desktop/system/IniPreferences.h"
 #include "platform/desktop/system/MimeContentTypes.h"
 #include "platform/desktop/system/Syslog.h"
+#include "platform/desktop/updates/PackageKitUpdater.h"
 #include "platform/desktop/window/DesktopAppearance.h"
 #include "platform/desktop/window/DesktopBeep.h"
 #include "platform/desktop/window/DesktopFileDialogs.h"
@@ -61,6 +62,7 @@ struct DesktopServices {
   QThreadPool workers;  // of what is dropped; waited for before the others go
   MimeDrops drops{workers};
   ImportProgress importProgress;
+  PackageKitUpdater updater{QDBusConnection::systemBus, package()};
 
   // Tells the user that something failed: the library's, once there is one.
   std::function<void(const QString& title, const QString& message)> tell;
@@ -75,6 +77,9 @@ struct DesktopServices {
 
   // Beside the module that holds this.
   static QString decoderProgram();
+
+  // That which this was built for; empty for none.
+  static QString package();
 
   // A file of ours in the user's folder for state.
   static QString stateFile(const char* name = "tarnloft.ini");

@@ -71,7 +71,8 @@ TarnLoftApp::TarnLoftApp(Opening opening)
       theme_(Theme::of(engine_)),
       tint_(library_, theme_),
       menuBarPrefs_(services_.preferences, services_.log),
-      mainWindow_(engine_, services_.forWorkspace(library_), services_.state),
+      updater_(services_.updater, services_.preferences, systemNow),
+      mainWindow_(engine_, services_.forWorkspace(library_), services_.state, &updater_),
       settingsWindow_(engine_, {.library = library_,
                                 .menuBar = menuBarPrefs_,
                                 .dialogs = services_.dialogs,
@@ -79,6 +80,7 @@ TarnLoftApp::TarnLoftApp(Opening opening)
                                 .statusItem = services_.statusItem,
                                 .taskbar = services_.taskbar,
                                 .loginItem = services_.autostart,
+                                .updater = updater_,
                                 .hotKey =
                                     [this] {
                                       MenuBarController* const menuBar = appDelegate_.menuBar();
@@ -102,8 +104,13 @@ TarnLoftApp::TarnLoftApp(Opening opening)
           &TarnLoftApp::followAppearance);
   services_.motion.follow(
       [&motion = Motion::of(engine_)](bool reduced) { motion.setReduced(reduced); });
-  connect(&engine_, &QQmlEngine::quit, this, &TarnLoftApp::requestQuit);
-  connect(&terminationSignals_, &TerminationSignals::requested, this, &TarnLoftApp::quitByForce);
+  connect(&engine_, &QQmlEngine::quit, this, [this] { requestQuit(); });
+  connect(&terminationSignals_, &TerminationSignals::requested, this, [this] {
+    sequel_ = Sequel::none;
+    quitByForce();
+  });
+  connect(&updater_, &UpdaterViewModel::relaunchRequested, this,
+          [this] { requestQuit(Sequel::newStart); });
   connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &TarnLoftApp::saveAll);
   connect(qGuiApp, &QGuiApplication::aboutToQuit, this, [this] {
     if (!isQuitting_) saveAll();
@@ -115,6 +122,7 @@ TarnLoftApp::TarnLoftApp(Opening opening)
     if (running) running->saveAll();
   });
   connect(&mainWindow_, &MainWindow::settingsRequested, this, &TarnLoftApp::openSettings);
+  connect(&mainWindow_, &MainWindow::updateCheckRequested, this, &TarnLoftApp::checkForUpdates);
   connect(&mainWindow_, &MainWindow::closed, this, &TarnLoftApp::windowClosed);
   connect(&settingsWindow_, &SettingsWindow::closed, this, &TarnLoftApp::settingsClosed);
 }
@@ -126,6 +134,7 @@ bool TarnLoftApp::start() {
     appDelegate_.installMenuBar();
     appDelegate_.startHidden();
     services_.media.work.resume();
+    updater_.start();
     return true;
   }
   if (!openMainWindow()) return false;
@@ -159,6 +168,11 @@ bool TarnLoftApp::openMainWindow() {
 
 void TarnLoftApp::openSettings() { settingsWindow_.open(mainWindow_.window()); }
 
+void TarnLoftApp::checkForUpdates() {
+  settingsWindow_.openAtUpdates(mainWindow_.window());
+  updater_.checkForUpdates();
+}
+
 void TarnLoftApp::windowClosed() {
   if (mainWindow_.window() || settingsWindow_.window()) return;
   appDelegate_.lastWindowClosed();
@@ -172,6 +186,7 @@ void TarnLoftApp::settingsClosed() {
 
 void TarnLoftApp::firstFrameShown() {
   appDelegate_.installMenuBar();
+  updater_.start();
   services_.media.work.resume();
   QTimer::singleShot(viewsPatience, &settingsWindow_, &SettingsWindow::prepare);
   QTimer::singleShot(panelPause, this, [this] { appDelegate_.menuBar()->panel().prepare(); });
@@ -196,7 +211,8 @@ bool TarnLoftApp::saveAll() {
   return library_.flush(savingPatience);
 }
 
-void TarnLoftApp::requestQuit() {
+void TarnLoftApp::requestQuit(Sequel sequel) {
+  sequel_ = sequel;
   if (!isQuitting_ && !saveAll()) return askToQuit();
   isQuitting_ = true;
   QCoreApplication::quit();

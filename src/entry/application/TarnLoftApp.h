@@ -10,6 +10,7 @@
 #include "settings/SettingsWindow.h"
 #include "shell/window/AccentTint.h"
 #include "shell/window/MainWindow.h"
+#include "updates/UpdaterViewModel.h"
 
 #include <QQmlEngine>
 
@@ -21,6 +22,9 @@ class TarnLoftApp : public QObject {
  public:
   // What it begins with.
   enum class Opening { window, nothing };
+
+  // What shall be when it has ended.
+  enum class Sequel { none, newStart };
 
   explicit TarnLoftApp(Opening opening);
   ~TarnLoftApp() override;
@@ -38,7 +42,8 @@ class TarnLoftApp : public QObject {
   AppDelegate& appDelegate() { return appDelegate_; }
 
   // Quits once all that the user did is on disk, else asks.
-  void requestQuit();
+  void requestQuit(Sequel sequel = Sequel::none);
+  Sequel sequel() const { return sequel_; }
 
   // To be called behind the event loop: waits a moment for threads at work. False if some still
   // are, held up by a disk: nothing that they use may go then, this object included.
@@ -47,6 +52,7 @@ class TarnLoftApp : public QObject {
  private:
   bool openMainWindow();
   void openSettings();
+  void checkForUpdates();
   void windowClosed();
   void settingsClosed();
   void firstFrameShown();
@@ -67,11 +73,13 @@ class TarnLoftApp : public QObject {
   Theme& theme_;
   AccentTint tint_;
   MenuBarPrefs menuBarPrefs_;
+  UpdaterViewModel updater_;
   MainWindow mainWindow_;
   SettingsWindow settingsWindow_;
   AppDelegate appDelegate_;
   TerminationSignals terminationSignals_;
   bool isQuitting_ = false;  // whatever isn't saved
+  Sequel sequel_ = Sequel::none;
 };
 
 }  // namespace tarnloft

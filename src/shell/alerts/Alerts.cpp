@@ -2,13 +2,30 @@
 
 #include "model/ShownText.h"
 
+#include <utility>
+
 namespace tarnloft {
 namespace {
+
+constexpr qsizetype mostOfChanges = 400;  // characters; the settings show all of it
 
 // Reasons come from many places, the system among them, with and without a full stop.
 QString sentence(const QString& text) {
   const bool hasEnd = text.isEmpty() || QStringLiteral(".!?…”").contains(text.back());
   return hasEnd ? text : text + QLatin1Char('.');
+}
+
+Question::Words updateWords(const UpdaterViewModel& updater) {
+  if (updater.news() == UpdaterViewModel::News::installed) {
+    return {.title = QStringLiteral("A new version of Tarn Loft is installed"),
+            .message = QStringLiteral("It runs when you relaunch. All of your work is saved."),
+            .confirmText = QStringLiteral("Relaunch"),
+            .cancelText = QStringLiteral("Later")};
+  }
+  return {.title = QStringLiteral("Tarn Loft %1 is available").arg(updater.version()),
+          .message = shownText(updater.changes(), mostOfChanges),
+          .confirmText = QStringLiteral("Install"),
+          .cancelText = QStringLiteral("Later")};
 }
 
 QString quitTitle(const QStringList& brands) {
@@ -19,8 +36,8 @@ QString quitTitle(const QStringList& brands) {
 
 }  // namespace
 
-Alerts::Alerts(LibraryStore& library, SheetHost& sheets, QObject* parent)
-    : QObject(parent), library_(library), sheets_(sheets) {
+Alerts::Alerts(LibraryStore& library, SheetHost& sheets, UpdaterViewModel* updater, QObject* parent)
+    : QObject(parent), library_(library), sheets_(sheets), updater_(updater) {
   const LibraryStore* const store = &library;
   connect(store, &LibraryStore::unsavedChanged, this, &Alerts::saveProblemChanged);
   connect(store, &LibraryStore::unsavedChanged, this, &Alerts::renewQuitQuestion);
@@ -33,6 +50,9 @@ Alerts::Alerts(LibraryStore& library, SheetHost& sheets, QObject* parent)
   connect(store, &LibraryStore::plainChanged, this, &Alerts::plainnessChanged);
   showNotice();  // of before this window
   askAboutOpening();
+  if (!updater) return;
+  connect(updater, &UpdaterViewModel::newsChanged, this, &Alerts::askAboutUpdate);
+  askAboutUpdate();
 }
 
 QString Alerts::saveProblem() const {
@@ -118,6 +138,23 @@ void Alerts::quitAnswered(Question::Answer answer) {
   quit_.clear();
   if (answer == Question::Answer::Alternative) retrySave();
   if (answer == Question::Answer::Confirmed) emit quitConfirmed();
+}
+
+// What is asked about may have been answered in the settings; then the question goes.
+void Alerts::askAboutUpdate() {
+  using News = UpdaterViewModel::News;
+  const int number = ++updatesAsked_;
+  if (update_) std::exchange(update_, nullptr)->give(Question::Answer::Dismissed);
+  const News news = updater_->news();
+  if (news == News::none) return;
+  const auto answered = [this, news, number](Question::Answer answer) {
+    if (number != updatesAsked_) return;
+    update_.clear();
+    updater_->dismissNews();
+    if (answer != Question::Answer::Confirmed) return;
+    news == News::installed ? updater_->relaunch() : updater_->install();
+  };
+  update_ = sheets_.show(std::make_unique<Question>(updateWords(*updater_), answered));
 }
 
 // What is asked about may have been saved since.

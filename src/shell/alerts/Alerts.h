@@ -3,6 +3,7 @@
 #include "controls/sheets/Question.h"
 #include "controls/sheets/SheetHost.h"
 #include "library/LibraryStore.h"
+#include "updates/UpdaterViewModel.h"
 
 #include <QPointer>
 
@@ -10,7 +11,8 @@ namespace tarnloft {
 
 // What a window tells of work that failed, and what it asks then: the bar over a brand that can't
 // be saved, the library that isn't there, notices, and the questions behind a trash that isn't to
-// be had and before quitting with unsaved work. Texts are empty while there is nothing to tell.
+// be had and before quitting with unsaved work, and what it asks about updates. Texts are empty
+// while there is nothing to tell.
 class Alerts : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -22,8 +24,9 @@ class Alerts : public QObject {
   Q_PROPERTY(QString libraryProblem READ libraryProblem NOTIFY libraryProblemChanged)
 
  public:
-  // Borrowed: both outlive this.
-  Alerts(LibraryStore& library, SheetHost& sheets, QObject* parent = nullptr);
+  // Borrowed: all outlive this. The updater may be null.
+  Alerts(LibraryStore& library, SheetHost& sheets, UpdaterViewModel* updater = nullptr,
+         QObject* parent = nullptr);
 
   QString saveProblem() const;
   Q_INVOKABLE void retrySave() { library_.retrySaves(); }
@@ -51,9 +54,13 @@ class Alerts : public QObject {
   void askDeleteImmediately(const BrandSummary& brand);
   void quitAnswered(Question::Answer answer);
   void renewQuitQuestion();
+  void askAboutUpdate();
 
   LibraryStore& library_;
   SheetHost& sheets_;
+  UpdaterViewModel* const updater_;
+  QPointer<Question> update_;
+  int updatesAsked_ = 0;       // questions, of which the newest counts
   QPointer<Question> notice_;  // the oldest that hasn't been dismissed
   QPointer<Question> opening_;
   QPointer<Question> quit_;

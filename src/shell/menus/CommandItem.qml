@@ -12,6 +12,7 @@ MenuItem {
 
     text: command.text
     shortcut: command.keys
+    visible: command.visible
     enabled: command.enabled
     checkable: command.checkable
     onAfterClosing: command.activated()

@@ -21,4 +21,10 @@ MenuCommands {
         text: "About Tarn Loft"
         onActivated: root.content.showAbout()
     }
+    ShellCommand {
+        text: "Check for Updates…"
+        visible: root.content.commands.hasUpdater
+        enabled: root.content.commands.canCheckForUpdates
+        onActivated: root.content.commands.checkForUpdates()
+    }
 }

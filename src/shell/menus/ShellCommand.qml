@@ -9,6 +9,7 @@ QtObject {
     required property string text
     property string keys: ""
     property string otherKeys: "" // do the same, and no menu shows them
+    property bool visible: true // false where the desktop lacks what it needs
     property bool enabled: true
     property bool checkable: false // one of several, or on and off
     property bool checked: false

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "library/LibraryStore.h"
+#include "updates/UpdaterViewModel.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
@@ -17,12 +18,20 @@ class ShellCommands : public QObject {
   // The path of its package; empty for none.
   Q_PROPERTY(QString selectedBrand READ selectedBrand NOTIFY hasSelectionChanged)
 
+  // Whether there are updates to be looked for at all, and whether just now.
+  Q_PROPERTY(bool hasUpdater READ hasUpdater NOTIFY updaterChanged)
+  Q_PROPERTY(bool canCheckForUpdates READ canCheckForUpdates NOTIFY updaterChanged)
+
  public:
-  // Borrowed: it outlives this.
-  explicit ShellCommands(LibraryStore& library, QObject* parent = nullptr);
+  // Borrowed: both outlive this. The updater may be null.
+  explicit ShellCommands(LibraryStore& library, UpdaterViewModel* updater = nullptr,
+                         QObject* parent = nullptr);
 
   bool hasSelection() const { return library_.selection().has_value(); }
   QString selectedBrand() const { return library_.selection().value_or(QString()); }
+
+  bool hasUpdater() const { return updater_ && updater_->isThere(); }
+  bool canCheckForUpdates() const { return updater_ && updater_->canCheckForUpdates(); }
 
   Q_INVOKABLE void newBrand() { library_.setNewBrandRequested(true); }
   Q_INVOKABLE void importBrand() { library_.importBrand(); }
@@ -30,14 +39,19 @@ class ShellCommands : public QObject {
   // Nothing happens while no document is open.
   Q_INVOKABLE void exportBrandPage() { library_.exportOpenBrandPage(); }
   Q_INVOKABLE void openSettings() { emit settingsRequested(); }
+  // What comes of it shows in the settings.
+  Q_INVOKABLE void checkForUpdates() { emit updateCheckRequested(); }
   Q_INVOKABLE void pickColorFromScreen() { library_.pickColorFromScreen(); }
 
  signals:
   void hasSelectionChanged();
   void settingsRequested();
+  void updaterChanged();
+  void updateCheckRequested();
 
  private:
   LibraryStore& library_;
+  UpdaterViewModel* const updater_;
 };
 
 }  // namespace tarnloft

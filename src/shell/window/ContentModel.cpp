@@ -13,15 +13,16 @@
 
 namespace tarnloft {
 
-ContentModel::ContentModel(const WorkspaceServices& services, QObject* parent)
+ContentModel::ContentModel(const WorkspaceServices& services, UpdaterViewModel* updater,
+                           QObject* parent)
     : QObject(parent),
       services_(services),
       library_(services.library),
-      commands_(library_),
+      commands_(library_, updater),
       edit_(*this),
       view_(library_.preferences()),
       sidebar_(services, sheets_),
-      alerts_(library_, sheets_),
+      alerts_(library_, sheets_, updater),
       work_(library_.longWork()),
       selectedBrand_(library_.selection()),
       undoDocument_(library_.openDocument()) {

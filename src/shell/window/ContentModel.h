@@ -45,8 +45,9 @@ class ContentModel : public QObject {
   };
   Q_ENUM(Detail)
 
-  // Borrowed: all of the services outlive the content.
-  explicit ContentModel(const WorkspaceServices& services, QObject* parent = nullptr);
+  // Borrowed: all of the services outlive the content. Without an updater it tells of no updates.
+  explicit ContentModel(const WorkspaceServices& services, UpdaterViewModel* updater = nullptr,
+                        QObject* parent = nullptr);
   ~ContentModel() override;
   Q_DISABLE_COPY_MOVE(ContentModel)
 

@@ -47,8 +47,9 @@ void loadFonts() {
 
 }  // namespace
 
-MainWindow::MainWindow(QQmlEngine& engine, const WorkspaceServices& services, Preferences& state)
-    : engine_(engine), services_(services), state_(state), lateViews_(&engine) {
+MainWindow::MainWindow(QQmlEngine& engine, const WorkspaceServices& services, Preferences& state,
+                       UpdaterViewModel* updater)
+    : engine_(engine), services_(services), state_(state), updater_(updater), lateViews_(&engine) {
   settled_.setSingleShot(true);
   settled_.setInterval(400);
   connect(&settled_, &QTimer::timeout, this, &MainWindow::remember);
@@ -77,7 +78,7 @@ bool MainWindow::open() {
 }
 
 bool MainWindow::make() {
-  auto content = std::make_unique<ContentModel>(services_);
+  auto content = std::make_unique<ContentModel>(services_, updater_);
   loadFonts();
   QQmlComponent component(&engine_, url());
   const WindowState state = WindowState::read(state_).fitting(screenRooms());
@@ -92,6 +93,8 @@ bool MainWindow::make() {
   content_ = std::move(content);
   connect(content_->commands(), &ShellCommands::settingsRequested, this,
           &MainWindow::settingsRequested);
+  connect(content_->commands(), &ShellCommands::updateCheckRequested, this,
+          &MainWindow::updateCheckRequested);
   isShown_ = false;
   const auto shown = [this] {
     isShown_ = true;

@@ -17,8 +17,9 @@ class MainWindow : public QObject {
   Q_OBJECT
 
  public:
-  // Borrowed: all outlive this. `state` holds what the window keeps.
-  MainWindow(QQmlEngine& engine, const WorkspaceServices& services, Preferences& state);
+  // Borrowed: all outlive this. `state` holds what the window keeps; `updater` may be null.
+  MainWindow(QQmlEngine& engine, const WorkspaceServices& services, Preferences& state,
+             UpdaterViewModel* updater = nullptr);
   ~MainWindow() override;
   Q_DISABLE_COPY_MOVE(MainWindow)
 
@@ -37,6 +38,7 @@ class MainWindow : public QObject {
 
  signals:
   void settingsRequested();
+  void updateCheckRequested();
   void closed();
 
  private:
@@ -51,6 +53,7 @@ class MainWindow : public QObject {
   QQmlEngine& engine_;
   const WorkspaceServices services_;
   Preferences& state_;
+  UpdaterViewModel* const updater_;
   std::function<bool()> mayClose_ = [] { return true; };
   std::unique_ptr<ContentModel> content_;
   std::unique_ptr<QQuickWindow> window_;

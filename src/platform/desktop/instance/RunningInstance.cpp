@@ -74,6 +74,11 @@ bool RunningInstance::listen() {
   return server_.listen(socketPath_);
 }
 
+void RunningInstance::release() {
+  server_.close();
+  lock_.unlock();
+}
+
 void RunningInstance::answerNext() {
   QLocalSocket* const socket = server_.nextPendingConnection();
   connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);

@@ -39,6 +39,9 @@ class RunningInstance : public QObject {
   // The first instance's: answers other starts from now on. Needs an application object.
   bool listen();
 
+  // Lets a next start be the first one, before this process ends.
+  void release();
+
   // How a later start asks, and what it is told when the window is shown. The request holds the
   // token by which the launcher lets this process raise a window on Wayland, if there is one.
   const QString& socketPath() const { return socketPath_; }

@@ -1,0 +1,208 @@
+#include "platform/desktop/system/IniPreferences.h"
+#include "testing/Cases.h"
+#include "testing/FakeUpdater.h"
+#include "testing/TestServices.h"
+#include "updates/ChangeText.h"
+#include "updates/UpdaterViewModel.h"
+
+using namespace tarnloft;
+using namespace std::chrono_literals;
+using State = UpdaterViewModel::State;
+using News = UpdaterViewModel::News;
+
+namespace {
+
+const Updater::Update newer{"0.2", "text", "tarnloft;0.2;amd64;source"};
+
+struct Updates {
+  TestServices disk;
+  IniPreferences preferences{disk.path("tarnloft.ini"), disk.log};
+  FakeUpdater updater;
+  UpdaterViewModel model{updater, preferences, [this] { return disk.now; }};
+
+  Updates() { model.start(); }
+  void find(const std::optional<Updater::Update>& update) {
+    std::exchange(updater.found, nullptr)(update);
+  }
+  void end(const Result<void>& result = {}) { updater.ended(result); }
+  void lookAndFind(const std::optional<Updater::Update>& update) {
+    model.checkIfDue();
+    find(update);
+  }
+};
+
+const auto lacksPassword = failure(ErrorKind::refused, "Not authorized");
+const auto broken = failure(ErrorKind::io, "No network");
+
+}  // namespace
+
+class TestUpdates : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void looksOnceADayIfThatIsWanted() {
+    const Cases<std::function<void(Updates&)>, bool> cases{
+        {"never before", [](Updates&) {}, true},
+        {"just before", [](Updates& it) { it.lookAndFind({}); }, false},
+        {"nearly a day before",
+         [](Updates& it) {
+           it.lookAndFind({});
+           it.disk.now += 24h - 1s;
+         },
+         false},
+        {"a day before",
+         [](Updates& it) {
+           it.lookAndFind({});
+           it.disk.now += 24h;
+         },
+         true},
+        {"the clock was set back",
+         [](Updates& it) {
+           it.lookAndFind({});
+           it.disk.now -= 1h;
+         },
+         true},
+        {"in vain",
+         [](Updates& it) {
+           it.model.checkIfDue();
+           it.updater.found(broken);
+         },
+         true},
+        {"still at it", [](Updates& it) { it.model.checkIfDue(); }, false},
+        {"not wanted", [](Updates& it) { it.model.setChecksForUpdates(false); }, false}};
+    cases.check([](const auto& before, bool looks) {
+      Updates updates;
+      before(updates);
+      updates.updater.asked.clear();
+      updates.model.checkIfDue();
+      QCOMPARE(updates.updater.asked, looks ? QStringList("clock checks") : QStringList());
+    });
+  }
+
+  void isSilentWithoutAnUpdater() {
+    Updates updates;
+    FakeUpdater none;
+    none.isThere = false;
+    UpdaterViewModel model(none, updates.preferences, [&] { return updates.disk.now; });
+    model.start();
+    model.checkIfDue();
+    model.checkForUpdates();
+    QVERIFY(!model.isThere() && !model.canCheckForUpdates() && none.asked.isEmpty());
+  }
+
+  void whatAUserAskedForIsToldWhereTheyAsked() {
+    Updates updates;
+    updates.model.setDownloadsUpdates(true);
+    updates.model.checkForUpdates();
+    QVERIFY(!updates.model.canCheckForUpdates());
+    updates.find(newer);
+    QCOMPARE(updates.model.status(), "Tarn Loft 0.2 is available.");
+    QCOMPARE(updates.model.news(), News::none);
+    updates.model.install();
+    updates.updater.progress(40);
+    QCOMPARE(updates.model.percent(), 40);
+    updates.end();
+    QCOMPARE(updates.updater.asked, QStringList({"user checks", "user installs 0.2"}));
+    QCOMPARE(updates.model.news(), News::installed);
+    QCOMPARE(updates.model.state(), State::Installed);
+  }
+
+  void aVersionIsOfferedUntilItIsPutOff() {
+    Updates updates;
+    for (const auto& [version, news] :
+         {std::pair("0.2", News::available), {"0.2", News::none}, {"0.3", News::available}}) {
+      updates.lookAndFind(Updater::Update{version, {}, {}});
+      QCOMPARE(updates.model.news(), news);
+      updates.model.dismissNews();
+      updates.disk.now += 48h;
+    }
+  }
+
+  void installsAloneIfThatIsWanted() {
+    struct Way {
+      Result<void> downloaded, installed;
+    };
+    const Cases<Way, QStringList, State, News, QString> cases{
+        {"as it should",
+         {},
+         {"clock downloads 0.2", "clock installs 0.2"},
+         State::Installed,
+         News::installed,
+         ""},
+        {"a password is wanted",
+         {{}, lacksPassword},
+         {"clock downloads 0.2", "clock installs 0.2"},
+         State::Available,
+         News::available,
+         ""},
+        {"no network",
+         {broken, {}},
+         {"clock downloads 0.2"},
+         State::Available,
+         News::none,
+         "The update couldn't be downloaded: No network"},
+        {"damaged",
+         {{}, broken},
+         {"clock downloads 0.2", "clock installs 0.2"},
+         State::Available,
+         News::none,
+         "The update couldn't be installed: No network"}};
+    cases.check([](const Way& way, const QStringList& asked, State state, News news,
+                   const QString& problem) {
+      Updates updates;
+      updates.model.setDownloadsUpdates(true);
+      updates.lookAndFind(newer);
+      updates.end(way.downloaded);
+      if (way.downloaded) updates.end(way.installed);
+      QCOMPARE(updates.updater.asked, QStringList("clock checks") + asked);
+      QCOMPARE(updates.model.state(), state);
+      QCOMPARE(updates.model.news(), news);
+      QCOMPARE(updates.model.problem(), problem);
+    });
+  }
+
+  void aFailureIsToldAndACancelledOneIsNot() {
+    Updates updates;
+    updates.model.checkForUpdates();
+    std::exchange(updates.updater.found, nullptr)(broken);
+    QCOMPARE(updates.model.problem(), "Updates couldn't be looked for: No network");
+    updates.model.checkForUpdates();
+    QCOMPARE(updates.model.problem(), QString());
+    updates.model.cancel();
+    QCOMPARE(updates.model.problem(), QString());
+    QCOMPARE(updates.model.state(), State::Idle);
+    updates.model.checkForUpdates();
+    updates.find(newer);
+    updates.model.install();
+    updates.end(lacksPassword);
+    QCOMPARE(updates.model.problem(), "The update couldn't be installed: Not authorized");
+    QVERIFY(updates.model.canCheckForUpdates());
+  }
+
+  void whatOthersHaveInstalledWaitsForANewStart() {
+    Updates updates;
+    updates.updater.isOther = true;
+    updates.lookAndFind({});
+    QCOMPARE(updates.model.news(), News::installed);
+    updates.disk.now += 48h;
+    updates.model.checkIfDue();
+    QCOMPARE(updates.updater.asked.size(), 1);
+  }
+
+  void changesReadAsLists() {
+    const Cases<QString, QString> cases{
+        {"two versions",
+         "tarnloft (0.3) unstable; urgency=medium\n\n  * One that\n    goes on.\n  * Two\n\n"
+         " -- Them <a@b.c>  Mon, 01 Jan 2026 00:00:00 +0000\n\n"
+         "tarnloft (0.2~1) stable; urgency=low\n\n  * Three\n\n -- Them <a@b.c>  x\n",
+         "0.3\n• One that goes on.\n• Two\n\n0.2~1\n• Three"},
+        {"another form", "Faster.\n\nSafer.\n", "Faster.\n\nSafer."},
+        {"none", "", ""}};
+    cases.check([](const QString& changelog, const QString& text) {
+      QCOMPARE(readableChanges(changelog), text);
+    });
+  }
+};
+
+QTEST_GUILESS_MAIN(TestUpdates)
+#include "tst_updates.moc"
