@@ -12,7 +12,7 @@ LongWork::LongWork() {
 }
 
 std::shared_ptr<Progress> LongWork::begin(const QString& text) {
-  const auto progress = std::make_shared<Progress>();
+  auto progress = std::make_shared<Progress>();
   pieces_.push_back({text, progress, std::chrono::steady_clock::now()});
   look_.start();
   return progress;

@@ -32,7 +32,7 @@ double secondsOf(Timestamp moment) {
 
 }  // namespace
 
-UpdaterViewModel::UpdaterViewModel(Updater& updater, Preferences& preferences, Clock clock)
+UpdaterViewModel::UpdaterViewModel(SystemUpdater& updater, Preferences& preferences, Clock clock)
     : updater_(updater), preferences_(preferences), clock_(std::move(clock)) {
   connect(&schedule_, &QTimer::timeout, this, [this] {
     schedule_.setInterval(nextLook);
@@ -94,7 +94,8 @@ void UpdaterViewModel::check(Asker asker) {
   });
 }
 
-void UpdaterViewModel::checked(Asker asker, const Result<std::optional<Updater::Update>>& found) {
+void UpdaterViewModel::checked(Asker asker,
+                               const Result<std::optional<SystemUpdater::Update>>& found) {
   if (!found) {
     const bool isKnown = update_.has_value();
     return fail(isKnown ? State::Available : State::Idle,
@@ -171,7 +172,7 @@ void UpdaterViewModel::become(State state) {
   emit changed();
 }
 
-Updater::Progress UpdaterViewModel::follow() {
+SystemUpdater::Progress UpdaterViewModel::follow() {
   return [self = QPointer(this)](int percent) {
     if (!self) return;
     self->percent_ = percent;

@@ -2,7 +2,7 @@
 
 #include "model/Timestamp.h"
 #include "platform/Preferences.h"
-#include "platform/Updater.h"
+#include "platform/SystemUpdater.h"
 
 #include <QObject>
 #include <QTimer>
@@ -40,7 +40,7 @@ class UpdaterViewModel : public QObject {
   enum class News { none, available, installed };
 
   // Borrowed: both outlive this.
-  UpdaterViewModel(Updater& updater, Preferences& preferences, Clock clock);
+  UpdaterViewModel(SystemUpdater& updater, Preferences& preferences, Clock clock);
 
   // Asks whether there is an updater, and looks for updates from then on; the first call counts.
   void start();
@@ -77,12 +77,12 @@ class UpdaterViewModel : public QObject {
   void relaunchRequested();
 
  private:
-  using Asker = Updater::Asker;
+  using Asker = SystemUpdater::Asker;
 
   bool isBusy() const;
   bool isDue() const;
   void check(Asker asker);
-  void checked(Asker asker, const Result<std::optional<Updater::Update>>& found);
+  void checked(Asker asker, const Result<std::optional<SystemUpdater::Update>>& found);
   void offer(Asker asker);
   void installAlone();
   void install(Asker asker);
@@ -90,16 +90,16 @@ class UpdaterViewModel : public QObject {
   void fail(State state, const QString& what, const Error& error);
   void tell(News news);
   void become(State state);
-  Updater::Progress follow();
+  SystemUpdater::Progress follow();
 
-  Updater& updater_;
+  SystemUpdater& updater_;
   Preferences& preferences_;
   const Clock clock_;
   QTimer schedule_;
   bool isStarted_ = false;
   bool isThere_ = false;
   State state_ = State::Idle;
-  std::optional<Updater::Update> update_;
+  std::optional<SystemUpdater::Update> update_;
   int percent_ = 0;
   bool isCancelled_ = false;
   QString problem_;

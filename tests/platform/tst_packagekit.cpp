@@ -107,7 +107,7 @@ struct Service {
   Q_DISABLE_COPY_MOVE(Service)
 };
 
-std::string sayOf(const Result<std::optional<Updater::Update>>& found) {
+std::string sayOf(const Result<std::optional<SystemUpdater::Update>>& found) {
   if (!found) {
     const bool isRefused = found.error().kind == ErrorKind::refused;
     return (isRefused ? "refused: " : "") + found.error().message.toStdString();
@@ -123,9 +123,9 @@ struct Asked {
   explicit Asked(std::chrono::milliseconds patience = 1min)
       : updater(QDBusConnection::sessionBus, "tarnloft", patience) {}
   void check() {
-    updater.check(Updater::Asker::user, [this](const auto& found) { end = sayOf(found); });
+    updater.check(SystemUpdater::Asker::user, [this](const auto& found) { end = sayOf(found); });
   }
-  void install(Updater::Asker asker) {
+  void install(SystemUpdater::Asker asker) {
     updater.install(
         {"0.2", {}, updateID}, asker, [this](int each) { percents << each; },
         [this](const Result<void>& result) {
@@ -193,10 +193,10 @@ class TestPackageKit : public QObject {
   }
 
   void installsWhatTheSourcesVouchFor() {
-    const Cases<Updater::Asker, QString> cases{
-        {"a user", Updater::Asker::user, "interactive=true"},
-        {"the clock", Updater::Asker::clock, "interactive=false"}};
-    cases.check([](Updater::Asker asker, const QString& hint) {
+    const Cases<SystemUpdater::Asker, QString> cases{
+        {"a user", SystemUpdater::Asker::user, "interactive=true"},
+        {"the clock", SystemUpdater::Asker::clock, "interactive=false"}};
+    cases.check([](SystemUpdater::Asker asker, const QString& hint) {
       Service service;
       service.transaction.answers["UpdatePackages"] = {percentage(40), percentage(percentUnknown),
                                                        finished};

@@ -206,7 +206,7 @@ class TestSettings : public QObject {
     settings.open();
     QVERIFY(!settings.texts().contains("Software Update"));
     settings.updates.start();
-    const auto find = [&](const Result<std::optional<Updater::Update>>& found) {
+    const auto find = [&](const Result<std::optional<SystemUpdater::Update>>& found) {
       settings.use("Check for Updates Now…", {Qt::Key_Space});
       QTRY_VERIFY(settings.texts().contains("Looking for updates…"));
       std::exchange(updater.found, nullptr)(found);
@@ -215,7 +215,7 @@ class TestSettings : public QObject {
     QTRY_VERIFY(settings.texts().contains("Updates couldn't be looked for: no network"));
     find(std::nullopt);
     QVERIFY(settings.texts().contains("Tarn Loft is up to date."));
-    find(Updater::Update{"0.2", "Faster.", {}});
+    find(SystemUpdater::Update{"0.2", "Faster.", {}});
     QVERIFY(settings.texts().contains("Faster."));
     settings.use("Install", {Qt::Key_Space});
     updater.progress(40);

@@ -209,7 +209,7 @@ class TestAlerts : public QObject {
 
     const auto find = [&] {
       updates.checkIfDue();
-      std::exchange(updater.found, nullptr)(Updater::Update{"0.2", "Faster.", {}});
+      std::exchange(updater.found, nullptr)(SystemUpdater::Update{"0.2", "Faster.", {}});
       QTRY_VERIFY(views.item(dialog, offer));
     };
     find();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Updater.h"
+#include "platform/SystemUpdater.h"
 
 #include <QStringList>
 
@@ -9,7 +9,7 @@
 namespace tarnloft {
 
 // Ends each piece of work when the test says how.
-class FakeUpdater : public Updater {
+class FakeUpdater : public SystemUpdater {
  public:
   bool isThere = true;
   bool isOther = false;

@@ -12,7 +12,7 @@ using News = UpdaterViewModel::News;
 
 namespace {
 
-const Updater::Update newer{"0.2", "text", "tarnloft;0.2;amd64;source"};
+const SystemUpdater::Update newer{"0.2", "text", "tarnloft;0.2;amd64;source"};
 
 struct Updates {
   TestServices disk;
@@ -21,11 +21,11 @@ struct Updates {
   UpdaterViewModel model{updater, preferences, [this] { return disk.now; }};
 
   Updates() { model.start(); }
-  void find(const std::optional<Updater::Update>& update) {
+  void find(const std::optional<SystemUpdater::Update>& update) {
     std::exchange(updater.found, nullptr)(update);
   }
   void end(const Result<void>& result = {}) { updater.ended(result); }
-  void lookAndFind(const std::optional<Updater::Update>& update) {
+  void lookAndFind(const std::optional<SystemUpdater::Update>& update) {
     model.checkIfDue();
     find(update);
   }
@@ -111,7 +111,7 @@ class TestUpdates : public QObject {
     Updates updates;
     for (const auto& [version, news] :
          {std::pair("0.2", News::available), {"0.2", News::none}, {"0.3", News::available}}) {
-      updates.lookAndFind(Updater::Update{version, {}, {}});
+      updates.lookAndFind(SystemUpdater::Update{version, {}, {}});
       QCOMPARE(updates.model.news(), news);
       updates.model.dismissNews();
       updates.disk.now += 48h;

@@ -122,7 +122,7 @@ void SectionColumn::follow() {
 
 void SectionColumn::rebuildRows() {
   QHash<SectionModel*, Row> known;
-  for (Row& row : rows_) known.insert(row.section, std::move(row));
+  for (const Row& row : rows_) known.insert(row.section, row);
   rows_.clear();
   live_.clear();
   if (!sections_) return;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Updater.h"
+#include "platform/SystemUpdater.h"
 #include "platform/desktop/updates/PackageTransaction.h"
 
 #include <memory>
@@ -9,7 +9,7 @@ namespace tarnloft {
 
 // Updates through PackageKit, which fetches and checks packages as the system's sources say and
 // asks for passwords by itself.
-class PackageKitUpdater : public QObject, public Updater {
+class PackageKitUpdater : public QObject, public SystemUpdater {
  public:
   // The bus on which the service is, made when it is first needed; and the name of the package
   // that holds this program, empty for none.

@@ -12,7 +12,7 @@ namespace tarnloft {
 // The desktop's service that keeps installed programs up to date from the system's own sources, as
 // far as it concerns this one. Main thread. Nothing here waits: each end comes later, once, and
 // `cancel` brings it forward. One piece of work at a time.
-class Updater {
+class SystemUpdater {
  public:
   struct Update {
     QString version;
@@ -29,7 +29,7 @@ class Updater {
   using Progress = std::function<void(int percent)>;
   using Ended = std::function<void(Result<void>)>;
 
-  virtual ~Updater() = default;
+  virtual ~SystemUpdater() = default;
 
   // `isThere` runs, once, if the program came as a package and the service can be had.
   virtual void look(std::function<void()> isThere) = 0;
