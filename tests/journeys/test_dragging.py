@@ -113,6 +113,7 @@ class Dragging(Journey):
         self.assertNotEqual(dropped(target).read_bytes(), self.acme.asset(self.acme.items("Logos")[0]))
         target.kill()
         self.tarn.click("push button", "Cancel")
+        self.tarn.gone("dialog", "Export “Mark”")
 
         self.tarn.click("push button", "Add content to this section", within="Logos")
         self.tarn.click("menu item", "Logo Set…")

@@ -175,7 +175,7 @@ class ZipWriter {
     if (piece.isFirst) {
       size_ = 0;
       checksum_ = 0;
-      const auto begun = zip_.begin(piece.source->name, piece.source->info, piece.method);
+      auto begun = zip_.begin(piece.source->name, piece.source->info, piece.method);
       if (!begun) return begun;
     }
     size_ += made.length;
