@@ -47,6 +47,9 @@ class SystemUpdater {
 
   // Another version stands where the running one was started from, whoever put it there.
   virtual bool isReplaced() const = 0;
+
+  // `replaced` runs, once, when that has come about.
+  virtual void watch(std::function<void()> replaced) = 0;
 };
 
 }  // namespace tarnloft

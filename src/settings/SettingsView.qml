@@ -14,6 +14,7 @@ FocusScope {
 
     // Scrolls to what is said of updates.
     function showUpdates() {
+        form.forceLayout();
         area.reveal(updates);
     }
 

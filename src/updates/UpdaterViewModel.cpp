@@ -1,5 +1,6 @@
 #include "updates/UpdaterViewModel.h"
 
+#include "model/ShownText.h"
 #include "updates/ChangeText.h"
 
 #include <QDateTime>
@@ -21,6 +22,8 @@ const QLatin1String toldKey("updates.told");        // the version that the user
 
 const QLatin1String yes("true");
 const QLatin1String no("false");
+
+constexpr qsizetype mostOfChanges = 8000;  // characters
 
 constexpr auto firstLook = 1min;  // behind the start, with which it shall not compete
 constexpr auto nextLook = 1h;     // at the clock, as a machine may sleep for a day
@@ -46,6 +49,9 @@ void UpdaterViewModel::start() {
     if (!self) return;
     self->isThere_ = true;
     self->schedule_.start(firstLook);
+    self->updater_.watch([self] {
+      if (self && !self->isBusy()) self->replaced();
+    });
     emit self->changed();
   });
 }
@@ -105,6 +111,11 @@ void UpdaterViewModel::checked(Asker asker,
   update_ = *found;
   if (update_) return offer(asker);
   if (!updater_.isReplaced()) return become(State::UpToDate);
+  replaced();
+}
+
+void UpdaterViewModel::replaced() {
+  if (state_ == State::Installed) return;
   become(State::Installed);
   tell(News::installed);
 }
@@ -129,7 +140,9 @@ void UpdaterViewModel::installAlone() {
 }
 
 void UpdaterViewModel::install() {
-  if (state_ == State::Available) install(Asker::user);
+  if (state_ != State::Available) return;
+  install(Asker::user);
+  emit installationBegun();
 }
 
 void UpdaterViewModel::install(Asker asker) {
@@ -142,10 +155,7 @@ void UpdaterViewModel::install(Asker asker) {
 }
 
 void UpdaterViewModel::installed(Asker asker, const Result<void>& result) {
-  if (result) {
-    become(State::Installed);
-    return tell(News::installed);
-  }
+  if (result) return replaced();
   const bool takesUser = asker == Asker::clock && result.error().kind == ErrorKind::refused;
   if (!takesUser) {
     return fail(State::Available, QStringLiteral("The update couldn't be installed"),
@@ -160,7 +170,9 @@ void UpdaterViewModel::cancel() {
   updater_.cancel();
 }
 
+// Another program may have installed it meanwhile.
 void UpdaterViewModel::fail(State state, const QString& what, const Error& error) {
+  if (updater_.isReplaced()) return replaced();
   if (!isCancelled_) problem_ = what + QStringLiteral(": ") + error.message;
   become(state);
 }
@@ -191,7 +203,7 @@ void UpdaterViewModel::dismissNews() {
 }
 
 QString UpdaterViewModel::changes() const {
-  return update_ ? readableChanges(update_->changes) : QString();
+  return update_ ? shownText(readableChanges(update_->changes), mostOfChanges) : QString();
 }
 
 QString UpdaterViewModel::status() const {

@@ -75,6 +75,8 @@ class UpdaterViewModel : public QObject {
   void changed();
   void newsChanged();
   void relaunchRequested();
+  // The user wants the update: how that goes, and what fails, is to be seen in the settings.
+  void installationBegun();
 
  private:
   using Asker = SystemUpdater::Asker;
@@ -87,6 +89,7 @@ class UpdaterViewModel : public QObject {
   void installAlone();
   void install(Asker asker);
   void installed(Asker asker, const Result<void>& result);
+  void replaced();
   void fail(State state, const QString& what, const Error& error);
   void tell(News news);
   void become(State state);

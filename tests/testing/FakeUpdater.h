@@ -17,6 +17,7 @@ class FakeUpdater : public SystemUpdater {
   Found found;
   Ended ended;
   Progress progress;
+  std::function<void()> replaced;
 
   void look(std::function<void()> isThereNow) override {
     if (isThere) isThereNow();
@@ -41,6 +42,7 @@ class FakeUpdater : public SystemUpdater {
     ended(cancelled);
   }
   bool isReplaced() const override { return isOther; }
+  void watch(std::function<void()> replacedNow) override { replaced = std::move(replacedNow); }
 
  private:
   void note(Asker asker, const QString& what) {

@@ -189,6 +189,26 @@ class TestUpdates : public QObject {
     QCOMPARE(updates.updater.asked.size(), 1);
   }
 
+  void aReplacedProgramIsToldOfAtOnce() {
+    const Cases<std::function<void(Updates&)>, News> cases{
+        {"at rest", [](Updates&) {}, News::installed},
+        {"an update is known", [](Updates& it) { it.lookAndFind(newer); }, News::installed},
+        {"looking for one", [](Updates& it) { it.model.checkForUpdates(); }, News::none},
+        {"what was looked for can't be had",
+         [](Updates& it) {
+           it.model.checkForUpdates();
+           it.updater.isOther = true;
+           it.updater.found(broken);
+         },
+         News::installed}};
+    cases.check([](const auto& before, News news) {
+      Updates updates;
+      before(updates);
+      updates.updater.replaced();
+      QCOMPARE(updates.model.news(), news);
+    });
+  }
+
   void changesReadAsLists() {
     const Cases<QString, QString> cases{
         {"two versions",

@@ -19,7 +19,7 @@ Flickable {
         if (top - room < contentY)
             contentY = Math.max(0, top - room);
         else if (top + item.height + room > contentY + height)
-            contentY = Math.min(most, top + item.height + room - height);
+            contentY = Math.min(most, top - room, top + item.height + room - height);
     }
 
     function holds(item: Item): bool {

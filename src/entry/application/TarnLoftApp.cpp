@@ -111,6 +111,8 @@ TarnLoftApp::TarnLoftApp(Opening opening)
   });
   connect(&updater_, &UpdaterViewModel::relaunchRequested, this,
           [this] { requestQuit(Sequel::newStart); });
+  connect(&updater_, &UpdaterViewModel::installationBegun, this,
+          [this] { settingsWindow_.openAtUpdates(mainWindow_.window()); });
   connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &TarnLoftApp::saveAll);
   connect(qGuiApp, &QGuiApplication::aboutToQuit, this, [this] {
     if (!isQuitting_) saveAll();

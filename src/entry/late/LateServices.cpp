@@ -1,6 +1,7 @@
 #include "entry/late/LateServices.h"
 
 #include "entry/late/ModuleLoading.h"
+#include "platform/desktop/system/ProgramFile.h"
 
 namespace tarnloft {
 namespace {
@@ -36,9 +37,16 @@ Trash* trash() {
   return loaded;
 }
 
-tl::unexpected<Error> noArchives() {
-  return failure(ErrorKind::io, QStringLiteral("The library of archives can't be loaded"));
+tl::unexpected<Error> cannotLoad(const char* what) {
+  if (isProgramReplaced()) {
+    return failure(ErrorKind::io,
+                   QStringLiteral("A new version of Tarn Loft is installed. Relaunch it first"));
+  }
+  return failure(ErrorKind::io,
+                 QStringLiteral("The library of %1 can't be loaded").arg(QLatin1String(what)));
 }
+
+tl::unexpected<Error> noArchives() { return cannotLoad("archives"); }
 
 }  // namespace
 
@@ -64,7 +72,7 @@ bool LateClipPlayers::finish(std::chrono::milliseconds patience) {
 
 Result<void> LateTrash::moveToTrash(const QString& path) {
   if (trash()) return trash()->moveToTrash(path);
-  return failure(ErrorKind::io, QStringLiteral("The library of the trash can't be loaded"));
+  return cannotLoad("the trash");
 }
 
 }  // namespace tarnloft

@@ -34,8 +34,8 @@ bool DecoderProcess::isAlive() const {
 }
 
 bool DecoderProcess::awaitReady() {
-  Reply word;
-  if (!isReady_) isReady_ = receive(word);
+  Hello word;
+  if (!isReady_) isReady_ = receive(word) && word == Hello{};
   return isReady_;
 }
 
@@ -84,9 +84,10 @@ bool DecoderProcess::send(const Request& request, int descriptor) {
          ::sendmsg(socket_.number(), &message, MSG_NOSIGNAL | MSG_DONTWAIT) == ssize_t(sizeof copy);
 }
 
-bool DecoderProcess::receive(Reply& reply) {
-  char* next = reinterpret_cast<char*>(&reply);
-  size_t left = sizeof reply;
+template <class Word>
+bool DecoderProcess::receive(Word& word) {
+  char* next = reinterpret_cast<char*>(&word);
+  size_t left = sizeof word;
   while (left > 0) {
     if (!await(POLLIN)) return false;
     const ssize_t received = ::recv(socket_.number(), next, left, MSG_DONTWAIT);

@@ -26,7 +26,8 @@ class DecoderProcess {
 
   // From now on all must be through within the time, a part of which it may use the processor.
   void begin(std::chrono::seconds time, std::chrono::seconds processorTime);
-  // Waits for it to have loaded its libraries and to be shut in. False if that fails.
+  // Waits for it to have loaded its libraries and to be shut in. False if that fails, or if it is
+  // of another version.
   bool awaitReady();
   // So much it may have beyond what it needs for itself. When it is ready.
   void grantMemory(std::uint64_t bytes);
@@ -41,7 +42,8 @@ class DecoderProcess {
   DecoderProcess(std::unique_ptr<ChildProcess> process, posix::Descriptor socket)
       : process_(std::move(process)), socket_(std::move(socket)) {}
   bool send(const Request& request, int descriptor);
-  bool receive(Reply& reply);
+  template <class Word>
+  bool receive(Word& word);
   bool await(short events);
 
   const std::unique_ptr<ChildProcess> process_;

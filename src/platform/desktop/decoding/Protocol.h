@@ -4,8 +4,8 @@
 
 // What passes between this program and its decoders, over a local socket: requests one way, replies
 // the other, files and memory for what is made as descriptors. Both are of one build, on one
-// machine, so that plain structures will do. A reply is a foreign file's word: nothing in it is
-// trusted.
+// machine, so that plain structures will do; an update under a running program is seen by `Hello`.
+// A reply is a foreign file's word: nothing in it is trusted.
 namespace tarnloft::decoding {
 
 // What one running decoder can read. Each has its libraries alone.
@@ -60,11 +60,18 @@ struct Product {
   std::uint64_t bytes = 0;
 };
 
-// The first one comes unasked, from a decoder that is ready.
 struct Reply {
   std::int32_t isSound = 0;  // else the file can't be read
   Facts facts;
   Product product;
+};
+
+// Comes unasked, from a decoder that is ready. One of another version may tell another layout.
+struct Hello {
+  static constexpr std::uint32_t revision = 1;  // grows with a change that the sizes don't tell
+  std::uint32_t layout = (revision << 20) + (sizeof(Request) << 10) + sizeof(Reply);
+
+  bool operator==(const Hello&) const = default;
 };
 
 // What a file may cost before it counts as hostile.

@@ -1,8 +1,10 @@
 #include "platform/desktop/updates/PackageKitUpdater.h"
 
+#include "platform/desktop/system/ProgramFile.h"
+
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QFile>
+#include <QTimer>
 
 #include <memory>
 #include <utility>
@@ -15,6 +17,9 @@ constexpr uint infoBlocked = 9;
 constexpr quint64 anyPackage = 0;
 constexpr quint64 onlyTrusted = 1 << 1;
 constexpr quint64 onlyDownload = 1 << 3;
+
+// All of a package's files stand by then.
+constexpr auto settling = std::chrono::seconds(5);
 
 QString partOf(const QString& id, int part) { return id.section(QLatin1Char(';'), part, part); }
 
@@ -118,10 +123,19 @@ void PackageKitUpdater::cancel() {
   if (transaction_) transaction_->cancel();
 }
 
-// The system tells so where the file that a process was started from has lost its name.
-bool PackageKitUpdater::isReplaced() const {
-  return QFile::symLinkTarget(QStringLiteral("/proc/self/exe"))
-      .endsWith(QLatin1String(" (deleted)"));
+bool PackageKitUpdater::isReplaced() const { return isProgramReplaced(); }
+
+void PackageKitUpdater::watch(std::function<void()> replaced) {
+  auto* const settled = new QTimer(this);
+  settled->setSingleShot(true);
+  connect(settled, &QTimer::timeout, this, [replaced = std::move(replaced), settled] {
+    if (!isProgramReplaced()) return;
+    settled->deleteLater();
+    replaced();
+  });
+  connect(&program_, &QFileSystemWatcher::fileChanged, settled,
+          [settled] { settled->start(settling); });
+  program_.addPath(programFile());
 }
 
 }  // namespace tarnloft

@@ -3,6 +3,8 @@
 #include "platform/SystemUpdater.h"
 #include "platform/desktop/updates/PackageTransaction.h"
 
+#include <QFileSystemWatcher>
+
 #include <memory>
 
 namespace tarnloft {
@@ -24,6 +26,7 @@ class PackageKitUpdater : public QObject, public SystemUpdater {
   void install(const Update& update, Asker asker, Progress progress, Ended ended) override;
   void cancel() override;
   bool isReplaced() const override;
+  void watch(std::function<void()> replaced) override;
 
  private:
   void askBus(const QString& method, const std::function<void()>& isThere);
@@ -38,6 +41,7 @@ class PackageKitUpdater : public QObject, public SystemUpdater {
   const std::chrono::milliseconds patience_;
   std::unique_ptr<PackageTransaction> transaction_;
   bool isFound_ = false;
+  QFileSystemWatcher program_;
 };
 
 }  // namespace tarnloft

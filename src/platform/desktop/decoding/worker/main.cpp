@@ -96,8 +96,9 @@ bool receive(Request& request, Attachment& attachment) {
   return true;
 }
 
-bool send(const Reply& reply) {
-  return ::send(channel, &reply, sizeof reply, MSG_NOSIGNAL) == ssize_t(sizeof reply);
+template <class Word>
+bool send(const Word& word) {
+  return ::send(channel, &word, sizeof word, MSG_NOSIGNAL) == ssize_t(sizeof word);
 }
 
 // What is open, and what is made of it.
@@ -175,7 +176,7 @@ int run(const char* role) {
   cage.folders = decoder->folders();
   cage.basicMemory = limits::basicMemory;
   cage.mostMemory = limits::exportMemory;
-  if (!confine(cage) || !send(Reply{})) return 1;
+  if (!confine(cage) || !send(Hello{})) return 1;
   Service service(*decoder);
   Request request;
   Attachment attachment;
