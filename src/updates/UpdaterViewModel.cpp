@@ -134,8 +134,7 @@ void UpdaterViewModel::installAlone() {
   updater_.download(*update_, follow(), [self = QPointer(this)](const Result<void>& result) {
     if (!self) return;
     if (result) return self->install(Asker::clock);
-    self->fail(State::Available, QStringLiteral("The update couldn't be downloaded"),
-               result.error());
+    self->failAlone(QStringLiteral("The update couldn't be downloaded"), result.error());
   });
 }
 
@@ -156,11 +155,14 @@ void UpdaterViewModel::install(Asker asker) {
 
 void UpdaterViewModel::installed(Asker asker, const Result<void>& result) {
   if (result) return replaced();
-  const bool takesUser = asker == Asker::clock && result.error().kind == ErrorKind::refused;
-  if (!takesUser) {
-    return fail(State::Available, QStringLiteral("The update couldn't be installed"),
-                result.error());
-  }
+  const auto what = QStringLiteral("The update couldn't be installed");
+  asker == Asker::clock ? failAlone(what, result.error())
+                        : fail(State::Available, what, result.error());
+}
+
+// What is refused to a clock may be granted to a user.
+void UpdaterViewModel::failAlone(const QString& what, const Error& error) {
+  if (error.kind != ErrorKind::refused) return fail(State::Available, what, error);
   become(State::Available);
   if (preferences_.text(toldKey) != version()) tell(News::available);
 }

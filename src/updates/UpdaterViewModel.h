@@ -90,6 +90,7 @@ class UpdaterViewModel : public QObject {
   void install(Asker asker);
   void installed(Asker asker, const Result<void>& result);
   void replaced();
+  void failAlone(const QString& what, const Error& error);
   void fail(State state, const QString& what, const Error& error);
   void tell(News news);
   void become(State state);

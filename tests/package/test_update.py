@@ -7,6 +7,11 @@ import subprocess
 import time
 import unittest
 
+import gi
+
+gi.require_version("Gdk", "3.0")
+from gi.repository import Gdk
+
 from desktop import until, visible_window
 from journey import Journey
 
@@ -20,7 +25,9 @@ def installed():
 
 
 def picture(name):
-    subprocess.run(["xwd", "-silent", "-root", "-out", PICTURES / f"{name}.xwd"], check=True)
+    root = Gdk.get_default_root_window()
+    size = root.get_width(), root.get_height()
+    Gdk.pixbuf_get_from_window(root, 0, 0, *size).savev(f"{PICTURES}/{name}.png", "png", [], [])
 
 
 def slowly(condition, what, patience=150):
