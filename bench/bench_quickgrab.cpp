@@ -4,6 +4,7 @@
 #include "Measure.h"
 #include "Ratio.h"
 #include "controls/motion/Motion.h"
+#include "controls/symbols/SymbolFont.h"
 #include "controls/theme/Theme.h"
 #include "controls/theme/Typography.h"
 #include "quickgrab/TestPanel.h"
@@ -151,7 +152,9 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("QT_QUICK_BACKEND", "software");
   const QGuiApplication application(argc, argv);
+  qInstallMessageHandler([](auto, const auto&, const QString&) {});  // what the platform can't do
   prepareTypography();
+  symbols::fontFamily();  // as the program does, before any text, which it would lay out again
   compareShowing();
   const double few = Panel(20).typing();
   const double many = Panel(10'000).typing();

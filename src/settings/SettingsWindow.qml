@@ -27,7 +27,9 @@ Window {
     SettingsView {
         id: view
 
-        anchors.fill: parent
+        // The window's own size is known before that of its content, which would be laid out twice.
+        width: root.width
+        height: root.height
         model: root.model
         focus: true
         Keys.onEscapePressed: root.close()

@@ -222,8 +222,7 @@ QString UpdaterViewModel::status() const {
     case State::Available: return named + QStringLiteral(" is available.");
     case State::Downloading: return QStringLiteral("Downloading ") + named + QStringLiteral("…");
     case State::Installing: return QStringLiteral("Installing ") + named + QStringLiteral("…");
-    case State::Installed:
-      return QStringLiteral("A new version is installed. Relaunch Tarn Loft to use it.");
+    case State::Installed: return QStringLiteral("A new version is installed.");
   }
   return {};
 }

@@ -1,5 +1,7 @@
 #include "controls/drawing/RoundedNodes.h"
 
+#include <QCache>
+#include <QImage>
 #include <QPainter>
 #include <QPainterPath>
 #include <QQuickWindow>
@@ -18,6 +20,90 @@ QPainterPath pathOf(const RoundedOutline& outline) {
   QPainterPath path;
   path.addRoundedRect(outline.rectangle, outline.radius, outline.radius);
   return path;
+}
+
+void paint(QPainter& painter, const RoundedShape& shape, const RoundedOutline& placed) {
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.fillPath(pathOf(shape.filled(placed)), shape.fill);
+  if (placed.edge <= 0 || shape.edge.alpha() == 0) return;
+  QPainterPath edge = pathOf(placed);
+  edge.addPath(pathOf(placed.inset(placed.edge)));
+  painter.fillPath(edge, shape.edge);
+}
+
+// The four corners of a shape side by side, in pixels.
+struct CornerLook {
+  int side = 0;  // of one corner
+  qreal radius = 0;
+  int edge = 0;
+  QRgb fill = 0;
+  QRgb edgeColor = 0;
+
+  friend bool operator==(const CornerLook&, const CornerLook&) = default;
+  friend size_t qHash(const CornerLook& look, size_t seed) {
+    return qHashMulti(seed, look.side, look.radius, look.edge, look.fill, look.edgeColor);
+  }
+};
+
+// Smoothed paths take most of a frame's time, and the same few corners come again and again.
+QImage cornersOf(const CornerLook& look, const RoundedShape& shape) {
+  constexpr int mostKept = 512 << 10;  // bytes
+  static QCache<CornerLook, QImage> kept(mostKept);
+  if (const QImage* const found = kept.object(look)) return *found;
+  QImage image(2 * look.side, 2 * look.side, QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  paint(painter, shape, {QRectF(image.rect()), look.radius, qreal(look.edge)});
+  painter.end();
+  kept.insert(look, new QImage(image), image.sizeInBytes());
+  return image;
+}
+
+// The same where the outline lies on whole pixels, with its corners as pictures and its straight
+// parts as plain rectangles. False if it doesn't, or is all corners.
+bool paintOnPixels(QPainter& painter, const RoundedShape& shape, const RoundedOutline& placed) {
+  constexpr qreal hair = 1e-3;
+  const QTransform toPixels = painter.deviceTransform();
+  const QRectF exact = toPixels.mapRect(placed.rectangle);
+  const QRect all = exact.toRect();
+  const qreal scale = toPixels.m11();
+  const bool isWhole = std::abs(exact.left() - all.left()) < hair &&
+                       std::abs(exact.top() - all.top()) < hair &&
+                       std::abs(exact.right() - all.right() - 1) < hair &&
+                       std::abs(exact.bottom() - all.bottom() - 1) < hair;
+  const int edge = shape.edge.alpha() > 0 ? qRound(placed.edge * scale) : 0;
+  const qreal radius = placed.radius * scale;
+  const int side = std::max(int(std::ceil(radius - hair)), edge);
+  const QRect flat = all.adjusted(side, side, -side, -side);
+  if (toPixels.type() > QTransform::TxScale || !isWhole || flat.isEmpty()) return false;
+
+  painter.resetTransform();
+  painter.setTransform(painter.deviceTransform().inverted());  // which knows the scale
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  const auto bands = [&](int depth, const QColor& color) {
+    painter.fillRect(flat.left(), all.top(), flat.width(), depth, color);
+    painter.fillRect(flat.left(), all.bottom() + 1 - depth, flat.width(), depth, color);
+  };
+  if (shape.fill.alpha() > 0) {
+    painter.fillRect(all.left(), flat.top(), all.width(), flat.height(), shape.fill);
+    bands(side, shape.fill);
+  }
+  if (edge > 0) {
+    painter.fillRect(all.left(), flat.top(), edge, flat.height(), shape.edge);
+    painter.fillRect(all.right() + 1 - edge, flat.top(), edge, flat.height(), shape.edge);
+    bands(edge, shape.edge);
+  }
+  if (side == 0) return true;
+  const QImage corners =
+      cornersOf({side, radius, edge, shape.fill.rgba(), shape.edge.rgba()}, shape);
+  for (const int right : {0, 1}) {
+    for (const int below : {0, 1}) {
+      const QPoint place(right ? flat.right() + 1 : all.left(),
+                         below ? flat.bottom() + 1 : all.top());
+      painter.drawImage(place, corners, QRect(right * side, below * side, side, side));
+    }
+  }
+  return true;
 }
 
 // Triangles between rings of the same number of points.
@@ -118,14 +204,9 @@ void PaintedRoundedNode::render(const RenderState* state) {
   painter->setClipRegion(*state->clipRegion(), Qt::ReplaceClip);
   painter->setTransform(matrix()->toTransform());
   painter->setOpacity(inheritedOpacity());
-  painter->setRenderHint(QPainter::Antialiasing);
   const RoundedOutline placed =
       shape_.outline.onPixels(painter->deviceTransform(), painter->device()->devicePixelRatioF());
-  painter->fillPath(pathOf(shape_.filled(placed)), shape_.fill);
-  if (placed.edge <= 0 || shape_.edge.alpha() == 0) return;
-  QPainterPath edge = pathOf(placed);
-  edge.addPath(pathOf(placed.inset(placed.edge)));
-  painter->fillPath(edge, shape_.edge);
+  if (!paintOnPixels(*painter, shape_, placed)) paint(*painter, shape_, placed);
 }
 
 MeshedRoundedNode::MeshedRoundedNode()

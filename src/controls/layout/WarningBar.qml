@@ -58,8 +58,9 @@ FocusScope {
         id: panel
 
         readonly property int padding: 9
-        readonly property real contentHeight: root.stacked ? label.height + 7 + buttons.height
-                                                           : Math.max(label.height, buttons.height)
+        readonly property real contentHeight: root.stacked && buttons.height > 0
+                                              ? label.height + 7 + buttons.height
+                                              : Math.max(label.height, buttons.height)
 
         x: root.sideMargin
         y: root.height - root.bottomMargin - height

@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QQmlEngine>
+#include <QQuickItem>
 #include <QScreen>
 
 #include <chrono>
@@ -73,7 +74,7 @@ void QuickGrabPanel::prepare() {
 void QuickGrabPanel::makeAhead() {
   if (window_ || !component_ || !component_->isReady()) return;
   grab_.setActive(true);
-  make();
+  if (make()) place({});
   grab_.setActive(false);
 }
 
@@ -116,6 +117,7 @@ void QuickGrabPanel::place(const QRect& anchor) {
   window_->setMinimumSize(whole);  // one that may be resized is tiled by some desktops
   window_->setMaximumSize(whole);
   window_->resize(whole);
+  window_->contentItem()->setSize(whole);  // else only once the window is there
   window_->setPosition(panelPlace(beside, size, screen->availableGeometry()) - QPoint(rim, rim));
   // There it tells where clicks are the panel's, elsewhere what of the window is there at all.
   const QRect panel(QPoint(rim, rim), size);
