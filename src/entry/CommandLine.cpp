@@ -1,9 +1,14 @@
 #include "entry/CommandLine.h"
 
+#include <QDir>
+
+#include <algorithm>
 #include <optional>
 
 namespace tarnloft {
 namespace {
+
+const auto filesMark = QByteArrayLiteral("open:");
 
 // The `count` arguments right behind the option's first occurrence.
 std::optional<QStringList> valuesOf(const QString& option, qsizetype count,
@@ -25,9 +30,29 @@ Mode modeOf(const QStringList& arguments) {
   }
   for (const char16_t* const action : actions) {
     const QString name = QString::fromUtf16(action);
-    if (arguments.contains(QStringLiteral("--") + name)) return ApplicationMode{name};
+    if (arguments.contains(QStringLiteral("--") + name)) return ApplicationMode{name, {}};
   }
-  return ApplicationMode{};
+  const QStringList values = arguments.mid(1);
+  const bool hasOption = std::any_of(values.cbegin(), values.cend(), [](const QString& each) {
+    return each.startsWith(QLatin1Char('-'));
+  });
+  return ApplicationMode{{}, hasOption ? QStringList() : values};
+}
+
+QByteArray wordOf(const ApplicationMode& asked) {
+  if (asked.files.isEmpty()) return asked.action.toLatin1();
+  QByteArrayList paths;
+  for (const QString& file : asked.files)
+    paths << QDir::cleanPath(QDir().absoluteFilePath(file)).toUtf8().toPercentEncoding();
+  return filesMark + paths.join(',');
+}
+
+ApplicationMode askedBy(const QByteArray& word) {
+  if (!word.startsWith(filesMark)) return {QString::fromLatin1(word), {}};
+  QStringList files;
+  for (const QByteArray& path : word.sliced(filesMark.size()).split(','))
+    files << QString::fromUtf8(QByteArray::fromPercentEncoding(path));
+  return {{}, files};
 }
 
 }  // namespace tarnloft

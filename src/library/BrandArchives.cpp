@@ -5,6 +5,8 @@
 #include "model/ShownText.h"
 #include "model/Uuid.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 
 namespace tarnloft {
@@ -117,6 +119,11 @@ void LibraryStore::exportSelectedBrand() {
 void LibraryStore::importBrand() {
   const auto path = services_.dialogs.openFileOrFolder({zipType}, Package::pathExtensions());
   if (path) importBrandArchive(*path);
+}
+
+void LibraryStore::openFile(const QString& path) {
+  const bool isOurs = QFileInfo(path).path() == libraryURL_;
+  isOurs ? select(path) : importBrandArchive(path);
 }
 
 void LibraryStore::importBrandArchive(const QString& path) {

@@ -133,6 +133,8 @@ class LibraryStore : public QObject {
   // Asks for an archive or a package and adds it as a brand with an id of its own, named after its
   // package; selects it. An archive without a whole package in it adds nothing.
   void importBrand();
+  // The same for a file that was opened from elsewhere; a package of the library's is selected.
+  void openFile(const QString& path);
 
   // Selects the brand, and calls `then` once its document is open or couldn't be opened.
   void whenLoaded(const QString& packageURL, std::function<void()> then);

@@ -1,7 +1,10 @@
 """One running program, and its end."""
 import os
+import shutil
+import subprocess
 import unittest
 
+import bus
 from desktop import click, press, until, visible_window
 from journey import Journey
 from program import Process, Program, gtk_partner
@@ -23,6 +26,35 @@ class OneInstance(Journey):
                 self.assertEqual(second.wait(), 0)
                 until(lambda: tarn.is_active, "the first start's window in front")
                 self.assertFalse(tarn.has_ended())
+
+    def test_an_archive_is_opened_in_the_first_one(self):
+        self.home.add_brand("Acme", ["Colors"])
+        self.home.add_brand("Fox & Co", [])
+        elsewhere = self.home.folder / "a folder, with “words”"
+        elsewhere.mkdir()
+        archive = elsewhere / "Nörd.tarnloft.zip"
+        packed = self.home.library / "Nörd.tarnloft"
+        (self.home.library / "Acme.tarnloft").rename(packed)
+        subprocess.run(["bsdtar", "--format=zip", "-cf", archive, "-C", packed.parent, packed.name],
+                       check=True)
+        shutil.rmtree(packed)
+        tarn = self.start()
+        tarn.find("heading", "Fox & Co")
+        for ask in (lambda: self.assertEqual(self.second(elsewhere, archive.name), 0),
+                    lambda: bus.ask("com.quillmoor.tarnloft", "/com/quillmoor/tarnloft",
+                                    "org.freedesktop.Application", "Open", "(asa{sv})",
+                                    [archive.as_uri()], {})):
+            before = set(self.home.brand_names())
+            ask()
+            added = until(lambda: set(self.home.brand_names()) - before, "the brand")
+            tarn.find("heading", added.pop())
+        self.assertEqual(self.second("/", self.home.library / "Fox & Co.tarnloft"), 0)
+        tarn.find("heading", "Fox & Co")
+        self.assertEqual(len(self.home.brand_names()), 3)
+
+    def second(self, folder, file):
+        return subprocess.run([os.environ["TARNLOFT"], file], cwd=folder, timeout=20,
+                              env=os.environ | self.home.environment).returncode
 
     def test_one_that_does_not_answer_is_waited_for(self):
         tarn = self.start()

@@ -47,17 +47,20 @@ bool hasDisplay() {
 }
 
 // What this start is asked for beside the window.
-QString actionOf(int argc, char** argv) {
+ApplicationMode askedOf(int argc, char** argv) {
   QStringList arguments;
   for (int i = 0; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
   const Mode mode = modeOf(arguments);
   const auto* const application = std::get_if<ApplicationMode>(&mode);
-  return application ? application->action : QString();
+  return application ? *application : ApplicationMode();
 }
 
+bool asksNothing(const ApplicationMode& asked) { return asked == ApplicationMode(); }
+
 // Some actions have a window of their own.
-TarnLoftApp::Opening openingOf(const QString& action, bool isHidden) {
-  const bool isNothing = action.isEmpty() ? isHidden : action != QLatin1String("new-brand");
+TarnLoftApp::Opening openingOf(const ApplicationMode& asked, bool isHidden) {
+  const bool hasOwn = !asked.action.isEmpty() && asked.action != QLatin1String("new-brand");
+  const bool isNothing = hasOwn || (isHidden && asksNothing(asked));
   return isNothing ? TarnLoftApp::Opening::nothing : TarnLoftApp::Opening::window;
 }
 
@@ -78,19 +81,24 @@ void startAnew(RunningInstance& instance, QByteArray program) {
   std::perror("Tarn Loft: can't be started anew");
 }
 
-int runWindows(RunningInstance& instance, TarnLoftApp::Opening opening, const QString& action) {
+int runWindows(RunningInstance& instance, TarnLoftApp::Opening opening,
+               const ApplicationMode& first) {
   // As long as it is known: the file may be replaced by a newer one.
   const QByteArray program = QFile::encodeName(QCoreApplication::applicationFilePath());
   TarnLoftApp app(opening);
+  const auto answer = [&app](const ApplicationMode& asked) {
+    asked.files.isEmpty() ? app.perform(asked.action) : app.open(asked.files);
+  };
   QObject::connect(&instance, &RunningInstance::requested, &app,
-                   [&app](const QByteArray& asked) { app.perform(QString::fromLatin1(asked)); });
+                   [answer](const QByteArray& word) { answer(askedBy(word)); });
   ApplicationBus bus;
   QObject::connect(&bus, &ApplicationBus::activated, &app, [&app] { app.perform({}); });
   QObject::connect(&bus, &ApplicationBus::actionActivated, &app, &TarnLoftApp::perform);
+  QObject::connect(&bus, &ApplicationBus::opened, &app, &TarnLoftApp::open);
   (void)bus.listen();  // nothing is lost without: a second start still finds this one
   if (!instance.listen()) std::fputs("Tarn Loft: a second start won't find this one\n", stderr);
   if (!app.start()) return fail("the interface can't be loaded");
-  if (!action.isEmpty()) app.perform(action);
+  if (!asksNothing(first)) answer(askedBy(wordOf(first)));
   const int status = QApplication::exec();
   const bool isFinished = app.finish();
   if (app.sequel() == TarnLoftApp::Sequel::newStart) startAnew(instance, program);
@@ -110,13 +118,13 @@ int tarnloftSelfTest(int argc, char** argv) {
 }
 
 int tarnloftApplication(int argc, char** argv) {
-  const QString action = actionOf(argc, argv);
+  const ApplicationMode asked = askedOf(argc, argv);
   const bool isHidden = qgetenv(AutostartEntry::startVariable) == AutostartEntry::hidden;
   RunningInstance instance(RunningInstance::runtimeFolder());
   // A session's start has nothing to ask of a program that runs already.
-  const bool asksNothing = isHidden && action.isEmpty();
-  if (asksNothing && !instance.tryClaim()) return 0;
-  auto start = asksNothing ? Start::first : instance.claim(action.toLatin1());
+  const bool isSilent = isHidden && asksNothing(asked);
+  if (isSilent && !instance.tryClaim()) return 0;
+  auto start = isSilent ? Start::first : instance.claim(wordOf(asked));
   if (start == Start::shown) return 0;
   if (start == Start::noAnswer && !hasDisplay()) return fail("it runs already, but doesn't answer");
   QApplication application(argc, argv);
@@ -135,5 +143,5 @@ int tarnloftApplication(int argc, char** argv) {
   // Wayland's desktops take it from the desktop file.
   if (QGuiApplication::platformName() == QLatin1String("xcb"))
     QApplication::setWindowIcon(windowIcon());
-  return runWindows(instance, openingOf(action, isHidden), action);
+  return runWindows(instance, openingOf(asked, isHidden), asked);
 }

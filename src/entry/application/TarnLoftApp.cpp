@@ -157,6 +157,11 @@ void TarnLoftApp::perform(const QString& action) {
   if (action == QLatin1String("new-brand")) library_.setNewBrandRequested(true);
 }
 
+void TarnLoftApp::open(const QStringList& paths) {
+  perform({});
+  for (const QString& path : paths) library_.openFile(path);
+}
+
 bool TarnLoftApp::openMainWindow() {
   services_.appearance.settle(portalPatience);
   if (!mainWindow_.open()) return false;

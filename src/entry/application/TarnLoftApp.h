@@ -38,6 +38,8 @@ class TarnLoftApp : public QObject {
   // Does what the desktop knows by that name: "quick-grab", "new-brand", "preferences". Any other
   // brings the main window.
   void perform(const QString& action);
+  // Brings the main window, and the archives and packages at these paths into the library.
+  void open(const QStringList& paths);
 
   AppDelegate& appDelegate() { return appDelegate_; }
 

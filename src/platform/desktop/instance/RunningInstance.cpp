@@ -12,7 +12,7 @@ namespace tarnloft {
 namespace {
 
 constexpr int pause = 20;  // milliseconds between two tries
-constexpr qint64 longestRequest = 4096;
+constexpr qint64 longestRequest = 64 << 10;
 constexpr auto activationToken = "XDG_ACTIVATION_TOKEN";
 const auto show = QByteArrayLiteral("show");
 

@@ -26,7 +26,7 @@ class RunningInstance : public QObject {
   explicit RunningInstance(const QString& folder);
 
   // Decides which this process is. Waits for another one that is just starting or ending, at most
-  // that long. The action is what it is asked to do, in small letters and hyphens; none shows its
+  // that long. The action is what it is asked to do, a word without spaces; none shows its
   // window. Needs no application object.
   Start claim(const QByteArray& action = {},
               std::chrono::milliseconds patience = std::chrono::seconds(3));

@@ -1,6 +1,7 @@
 #include "platform/desktop/window/ApplicationBus.h"
 
 #include <QDBusConnection>
+#include <QUrl>
 
 namespace tarnloft {
 namespace {
@@ -33,8 +34,13 @@ void ApplicationBus::Activate(const QVariantMap& platformData) {
   emit activated();
 }
 
-void ApplicationBus::Open(const QStringList&, const QVariantMap& platformData) {
-  Activate(platformData);
+// Those that aren't this machine's files are left out.
+void ApplicationBus::Open(const QStringList& files, const QVariantMap& platformData) {
+  const LentToken token(platformData);
+  QStringList paths;
+  for (const QString& file : files) paths << QUrl(file).toLocalFile();
+  paths.removeAll(QString());
+  emit opened(paths);
 }
 
 void ApplicationBus::ActivateAction(const QString& action, const QVariantList&,

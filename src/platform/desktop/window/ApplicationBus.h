@@ -29,6 +29,7 @@ class ApplicationBus : public QObject {
   // During these the caller's token is the one with which the toolkit raises windows.
   void activated();
   void actionActivated(const QString& action);
+  void opened(const QStringList& paths);
 };
 
 }  // namespace tarnloft
