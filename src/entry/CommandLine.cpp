@@ -36,14 +36,18 @@ Mode modeOf(const QStringList& arguments) {
   const bool hasOption = std::any_of(values.cbegin(), values.cend(), [](const QString& each) {
     return each.startsWith(QLatin1Char('-'));
   });
-  return ApplicationMode{{}, hasOption ? QStringList() : values};
+  QStringList files;
+  if (!hasOption) {
+    for (const QString& value : values)
+      files << QDir::cleanPath(QDir::current().absoluteFilePath(value));
+  }
+  return ApplicationMode{{}, files};
 }
 
 QByteArray wordOf(const ApplicationMode& asked) {
   if (asked.files.isEmpty()) return asked.action.toLatin1();
   QByteArrayList paths;
-  for (const QString& file : asked.files)
-    paths << QDir::cleanPath(QDir().absoluteFilePath(file)).toUtf8().toPercentEncoding();
+  for (const QString& file : asked.files) paths << file.toUtf8().toPercentEncoding();
   return filesMark + paths.join(',');
 }
 

@@ -27,7 +27,7 @@ struct LogoSeedingMode {
 
 struct ApplicationMode {
   QString action;     // what it begins with instead of the main window alone: one of `actions`
-  QStringList files;  // to open in the main window; with an action none
+  QStringList files;  // absolute paths, to open in the main window; with an action none
 
   bool operator==(const ApplicationMode&) const = default;
 };
@@ -39,11 +39,11 @@ inline constexpr std::array actions{u"quick-grab", u"new-brand", u"preferences"}
 using Mode = std::variant<SelfTestMode, PageExportMode, LogoSeedingMode, ApplicationMode>;
 
 // What the arguments ask for, the program's own path included in them. An option with too few
-// values behind it is passed over. Files are opened where there is no option at all.
+// values behind it is passed over. Files are opened where there is no option at all; relative paths
+// are taken from this process's folder.
 Mode modeOf(const QStringList& arguments);
 
 // What a start asks of the program that runs already, as one word without spaces, and back.
-// Relative paths are taken from this process's folder.
 QByteArray wordOf(const ApplicationMode& asked);
 ApplicationMode askedBy(const QByteArray& word);
 

@@ -122,8 +122,13 @@ void LibraryStore::importBrand() {
 }
 
 void LibraryStore::openFile(const QString& path) {
-  const bool isOurs = QFileInfo(path).path() == libraryURL_;
-  isOurs ? select(path) : importBrandArchive(path);
+  // By another way to the same folder, too: behind the dot links are followed.
+  const auto folderOf = [&files = services_.document.files](const QString& folder) {
+    return files.identity(folder + QStringLiteral("/."));
+  };
+  const auto home = folderOf(libraryURL_);
+  const bool isOurs = home && folderOf(QFileInfo(path).path()) == home;
+  isOurs ? select(libraryURL_ + QLatin1Char('/') + lastPathComponent(path)) : importBrandArchive(path);
 }
 
 void LibraryStore::importBrandArchive(const QString& path) {

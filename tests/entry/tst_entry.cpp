@@ -1,4 +1,6 @@
+#include "entry/CommandLine.h"
 #include "entry/SupportFolder.h"
+#include "testing/Cases.h"
 #include "testing/FaultyStore.h"
 #include "testing/TestServices.h"
 
@@ -10,6 +12,25 @@ class TestEntry : public QObject {
   Q_OBJECT
 
  private slots:
+  // What a start asks for, and hands to the program that runs already.
+  void knowsWhatAStartAsksFor() {
+    const QString here = QDir::currentPath();
+    const Cases<QStringList, ApplicationMode> cases{
+        {"nothing", {}, {}},
+        {"action", {"--preferences", "a.zip"}, {"preferences", {}}},
+        {"unknown option", {"a.zip", "-x"}, {}},
+        {"files",
+         {"/tmp/a, b%2C.zip", "../c\n\u00e9.tarnloft/"},
+         {{}, {"/tmp/a, b%2C.zip", QFileInfo(here).path() + "/c\n\u00e9.tarnloft"}}},
+    };
+    cases.check([](const QStringList& arguments, const ApplicationMode& asked) {
+      QVERIFY(modeOf(QStringList("tarnloft") + arguments) == Mode(asked));
+      const QByteArray word = wordOf(asked);
+      QVERIFY(askedBy(word) == asked);
+      QVERIFY(!word.contains(' ') && !word.contains('\n'));
+    });
+  }
+
   void takesTheOldFolderOverWhereThereIsNoNewOne() {
     TestServices disk;
     const auto migrate = [&] {

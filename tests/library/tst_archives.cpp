@@ -140,6 +140,27 @@ class TestArchives : public QObject {
     QCOMPARE(QFileInfo(copy + "/assets/link").symLinkTarget(), copy + "/assets/a.png");
   }
 
+  // A package of the library's own is shown, by whichever way to its folder it was opened.
+  void opensFiles() {
+    TestLibrary library;
+    library.add("Acme");
+    const QString own = library.packagePath("Acme"), link = library.disk.path("link");
+    const QString home = QFileInfo(own).path(), foreign = library.disk.path("Foreign.tarnloft");
+    QVERIFY(QFile::link(home, link) && QDir().mkpath(foreign));
+    QVERIFY(writeFile(foreign + "/brand.json", manifest("Foreign")));
+    library.start();
+    const Cases<QString, QString> cases{
+        {"own", own, own},
+        {"own by a link", link + "/Acme.tarnloft", own},
+        {"foreign", foreign, library.packagePath("Foreign")},
+    };
+    cases.check([&](const QString& path, const QString& selected) {
+      library.store->openFile(path);
+      QCOMPARE(library.store->selection(), selected);
+      QCOMPARE(QDir(home).entryList({"*.tarnloft"}).size(), selected == own ? 1 : 2);
+    });
+  }
+
   void readsWhatOtherToolsWrite() {
     const Cases<QString, QStringList> cases{
         {"zip", "zip", QStringList{"-qry", "foreign.zip", "Acmé.tarnloft"}},

@@ -98,7 +98,7 @@ int runWindows(RunningInstance& instance, TarnLoftApp::Opening opening,
   (void)bus.listen();  // nothing is lost without: a second start still finds this one
   if (!instance.listen()) std::fputs("Tarn Loft: a second start won't find this one\n", stderr);
   if (!app.start()) return fail("the interface can't be loaded");
-  if (!asksNothing(first)) answer(askedBy(wordOf(first)));
+  if (!asksNothing(first)) answer(first);
   const int status = QApplication::exec();
   const bool isFinished = app.finish();
   if (app.sequel() == TarnLoftApp::Sequel::newStart) startAnew(instance, program);
