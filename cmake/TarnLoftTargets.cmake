@@ -88,6 +88,10 @@ function(tarnloft_together target)
   endforeach()
 endfunction()
 
+get_target_property(view_compiler Qt6::qmlcachegen LOCATION)
+find_package(Perl REQUIRED)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/compile-view.in ${CMAKE_BINARY_DIR}/compile-view @ONLY)
+
 # The QML module TarnLoft.NAME of a library, which it makes: SOURCES and QML_FILES as for
 # qt_add_qml_module, LINKS as above, IMPORTS the modules whose types its C++ shows. A program that
 # uses the module links TARGET and TARGETplugin and says Q_IMPORT_QML_PLUGIN(TarnLoft_NAMEPlugin).
@@ -107,6 +111,8 @@ function(tarnloft_qml_module target name)
     set_source_files_properties(${view} PROPERTIES QT_RESOURCE_ALIAS ${name_alone})
   endforeach()
   qt_add_library(${target} STATIC)
+  set_target_properties(${target} PROPERTIES
+    QT_QMLCACHEGEN_EXECUTABLE ${CMAKE_BINARY_DIR}/compile-view)
   qt_add_qml_module(${target}
     URI TarnLoft.${name}
     VERSION 1.0
