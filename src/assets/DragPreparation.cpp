@@ -10,7 +10,7 @@ void DragPreparation::begin(const QString& key, std::function<QList<DragItem>()>
   const auto task = std::make_shared<std::packaged_task<QList<DragItem>()>>(std::move(work));
   key_ = key;
   underWay_ = task->get_future();
-  QThreadPool::globalInstance()->start([task] { (*task)(); });
+  threads_.start([task] { (*task)(); });
 }
 
 std::optional<QList<DragItem>> DragPreparation::make(const QString& key,

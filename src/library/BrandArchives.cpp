@@ -128,7 +128,8 @@ void LibraryStore::openFile(const QString& path) {
   };
   const auto home = folderOf(libraryURL_);
   const bool isOurs = home && folderOf(QFileInfo(path).path()) == home;
-  isOurs ? select(libraryURL_ + QLatin1Char('/') + lastPathComponent(path)) : importBrandArchive(path);
+  isOurs ? select(libraryURL_ + QLatin1Char('/') + lastPathComponent(path))
+         : importBrandArchive(path);
 }
 
 void LibraryStore::importBrandArchive(const QString& path) {

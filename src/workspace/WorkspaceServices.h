@@ -33,6 +33,7 @@ struct WorkspaceServices {
   ImportServices imports;
   DropReader& drops;
   DragServices drags;
+  QThreadPool& dragThreads;  // for DragPreparation
   DragSession& dragSession;
 };
 

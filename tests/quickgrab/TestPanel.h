@@ -21,8 +21,8 @@ struct TestPanel : TestDesktop {
     grab->setActive(true);
   }
   QuickGrabServices grabServices() {
-    return {*library.store,     *prefs, pasteboard, thumbnails,
-            library.disk.files, drags,  fonts,      workers};
+    return {*library.store, *prefs, pasteboard, thumbnails, library.disk.files,
+            drags,          fonts,  workers,    dragThreads};
   }
   // Each thing in sight as "kind name", a header with its count.
   QStringList shown() const {

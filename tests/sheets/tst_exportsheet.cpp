@@ -24,6 +24,7 @@ struct ExportTest {
   Thumbnails thumbnails{loader};
   ListedPasteboard clipboard;
   ListedDrags drags;
+  QThreadPool dragThreads;
   QStringList told;
   Item item = Item::create(ImagePayload{{"0.png", "Hero.png"}, {}});
   std::unique_ptr<ExportImageSheet> sheet;
@@ -38,7 +39,7 @@ struct ExportTest {
         std::make_unique<ItemBinding>(*document, item.id),
         ExportTarget{QUuid::createUuid(), path, "Hero", {1500, 900}},
         ExportImageSheet::Services{library.store->preferences(), images, work, library.disk.files,
-                                   library.dialogs, clipboard, drags, thumbnails,
+                                   library.dialogs, clipboard, drags, dragThreads, thumbnails,
                                    [this](const auto& title, const auto&) { told << title; }});
   }
   ~ExportTest() { (void)work.finish(std::chrono::seconds(10)); }

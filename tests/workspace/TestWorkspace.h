@@ -25,6 +25,7 @@ struct TestDesktop {
   ListedPasteboard pasteboard;
   ListedDrags drags;
   QThreadPool workers;
+  QThreadPool dragThreads;
   BackgroundWork work{1};
   ThumbnailLoader loader{images, work};
   Thumbnails thumbnails{loader};
@@ -47,6 +48,7 @@ struct TestDesktop {
             .imports = {types, fonts, workers, {}},
             .drops = drops,
             .drags = {library.disk.files, types, images},
+            .dragThreads = dragThreads,
             .dragSession = drags};
   }
 };

@@ -69,6 +69,7 @@ WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
                       .progress = &importProgress},
           .drops = drops,
           .drags = {.files = files, .types = types, .images = media.images},
+          .dragThreads = dragThreads,
           .dragSession = dragSession};
 }
 
@@ -80,7 +81,8 @@ QuickGrabServices DesktopServices::forQuickGrab(LibraryStore& library, MenuBarPr
           .files = files,
           .dragSession = dragSession,
           .fonts = fonts,
-          .workers = workers};
+          .workers = workers,
+          .dragThreads = dragThreads};
 }
 
 bool DesktopServices::finish(std::chrono::milliseconds patience) {
@@ -93,7 +95,7 @@ bool DesktopServices::finish(std::chrono::milliseconds patience) {
          media.clipPlayers.finish(std::chrono::milliseconds(remaining())) &&
          workers.waitForDone(remaining()) && disk.finish(std::chrono::milliseconds(remaining())) &&
          searches.finish(std::chrono::milliseconds(remaining())) && copies.finish({}) &&
-         QThreadPool::globalInstance()->waitForDone(remaining());
+         dragThreads.waitForDone(remaining());
 }
 
 // That of the module which holds this, wherever it was installed.

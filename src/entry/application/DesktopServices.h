@@ -59,7 +59,8 @@ struct DesktopServices {
   DiskThread disk;
   DiskThread copies;
   DiskThread searches;
-  QThreadPool workers;  // of what is dropped; waited for before the others go
+  QThreadPool workers;      // of what is dropped; waited for before the others go
+  QThreadPool dragThreads;  // not the common one: the toolkit waits for that while it draws
   MimeDrops drops{workers};
   ImportProgress importProgress;
   PackageKitUpdater updater{QDBusConnection::systemBus, package()};

@@ -27,6 +27,7 @@ struct QuickGrabServices {
   DragSession& dragSession;
   Fonts& fonts;
   QThreadPool& workers;
+  QThreadPool& dragThreads;  // for DragPreparation
 };
 
 // What the quick grab panel shows and does: the open brand reduced to what can be grabbed at once,
@@ -143,7 +144,7 @@ class QuickGrab : public QObject {
   QUuid currentID_;
   QString flashText_;
   QTimer flashEnd_;
-  DragPreparation dragPreparation_;
+  DragPreparation dragPreparation_{services_.dragThreads};
   QString fontsOf_;  // the package whose fonts are registered
 };
 

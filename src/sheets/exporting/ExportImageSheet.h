@@ -50,6 +50,7 @@ class ExportImageSheet : public tarnloft::SheetModel {
     FileDialogs& dialogs;
     Pasteboard& pasteboard;
     DragSession& dragSession;
+    QThreadPool& dragThreads;  // for DragPreparation
     Thumbnails& thumbnails;
     // Tells the user why a file couldn't be written, when the sheet may have closed.
     std::function<void(const QString& title, const QString& reason)> tell;
@@ -111,7 +112,7 @@ class ExportImageSheet : public tarnloft::SheetModel {
   const Services services_;
   ExportImageSize size_;
   ExportEstimate estimate_;
-  DragPreparation dragPreparation_;
+  DragPreparation dragPreparation_{services_.dragThreads};
   QString note_;  // what went wrong; empty for nothing
   bool isBusy_ = false;
 };

@@ -82,7 +82,7 @@ class SelectionActions : public QObject {
   const WorkspaceServices services_;
   Facts facts_;
   bool isRefreshDue_ = false;
-  DragPreparation dragPreparation_;
+  DragPreparation dragPreparation_{services_.dragThreads};
 };
 
 }  // namespace tarnloft

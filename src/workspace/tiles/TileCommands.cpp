@@ -150,8 +150,8 @@ void TileCommands::showExport(const QUuid& item, const ExportTarget& target) {
       std::move(binding), target,
       ExportImageSheet::Services{services_.library.preferences(), services_.drags.images,
                                  services_.work, services_.drags.files, services_.dialogs,
-                                 services_.pasteboard, services_.dragSession, services_.thumbnails,
-                                 tell}));
+                                 services_.pasteboard, services_.dragSession, services_.dragThreads,
+                                 services_.thumbnails, tell}));
 }
 
 void TileCommands::reveal(const AssetRef& asset) {

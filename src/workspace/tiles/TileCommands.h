@@ -74,7 +74,7 @@ class TileCommands : public QObject {
   QPointer<BrandDocument> document_;
   const WindowParts window_;
   const WorkspaceServices services_;
-  DragPreparation dragPreparation_;
+  DragPreparation dragPreparation_{services_.dragThreads};
 };
 
 }  // namespace tarnloft
