@@ -3,7 +3,6 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QPointingDevice>
 #include <QQmlContext>
 #include <QQmlExpression>
 #include <QWheelEvent>
@@ -122,28 +121,6 @@ class TestPointer : public QObject {
       stage.press(Qt::Key_F10, Qt::ShiftModifier);
       QTRY_COMPARE(stage.log(), "requested Delete requested");
     });
-  }
-
-  void aMouseTakenForATouchpadHasItsButtons() {
-    using Capability = QInputDevice::Capability;
-    const QPointingDevice pad("touchpad", 1, QInputDevice::DeviceType::TouchPad,
-                              QPointingDevice::PointerType::Finger,
-                              Capability::Position | Capability::MouseEmulation, 1, 3);
-    Stage stage(
-        "TextArea { objectName: 'field'; text: 'Acme'; width: 200\n"
-        "  ContextMenuArea { onRequested: log('menu'); menu: Menu {} } }");
-    const QPointF place(20, 10);
-    for (const auto button : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton}) {
-      QCOMPARE(stage.log(), QString());
-      QCOMPARE(stage.find<QQuickItem>("field")->hasActiveFocus(), button != Qt::LeftButton);
-      for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        const bool isDown = type == QEvent::MouseButtonPress;
-        QMouseEvent event(type, place, stage.window()->mapToGlobal(place), button,
-                          isDown ? button : Qt::NoButton, {}, &pad);
-        QCoreApplication::sendEvent(stage.window(), &event);
-      }
-    }
-    QCOMPARE(stage.log(), "menu");
   }
 
   void textItemsHaveAMenu() {

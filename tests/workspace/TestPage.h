@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/pointing/TouchpadMouse.h"
 #include "controls/theme/Theme.h"
 #include "workspace/TestWorkspace.h"
 #include "workspace/dragging/DropTarget.h"
@@ -30,6 +31,7 @@ class TestPage {
     QTest::failOnWarning(QRegularExpression("."));
     QAccessible::setActive(true);
     Theme::of(*view.engine());
+    view.installEventFilter(&padMouse_);
     view.setResizeMode(QQuickView::SizeRootObjectToView);
     view.resize(1000, 760);
     show(test);
@@ -124,6 +126,7 @@ class TestPage {
                        Capability::Position | Capability::MouseEmulation,
                        1,
                        3};
+  TouchpadMouse padMouse_;
   const bool isKnown_ = (QWindowSystemInterface::registerInputDevice(&pad_), true);
   quint64 time_ = 0;
 

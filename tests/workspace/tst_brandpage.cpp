@@ -153,10 +153,10 @@ class TestBrandPage : public QObject {
     TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), textItem("calm")})});
     TestPage page(test);
     const QPoint tile = page.middleOf("a");
-    for (const auto other : {Qt::RightButton, Qt::MiddleButton}) {
-      page.padDrag(other, tile, tile);
+    const auto* const shown = page.tileNamed("a")->property("tile").value<Tile*>();
+    for (const QPoint& to : {tile, tile + QPoint(40, 20)}) {
+      page.padDrag(Qt::MiddleButton, tile, to);
       QCOMPARE(copied(test), "");
-      page.padDrag(other, tile, tile + QPoint(40, 20));
       QVERIFY(test.drags.items.isEmpty());
     }
     page.padDrag(Qt::LeftButton, tile, tile);
@@ -173,6 +173,11 @@ class TestBrandPage : public QObject {
     QTest::touchEvent(&page.view, screen.get()).press(1, tile, &page.view);
     QTest::touchEvent(&page.view, screen.get()).release(1, tile, &page.view);
     QCOMPARE(test.pasteboard.texts.size(), 2);  // a finger's tap still counts
+    page.padDrag(Qt::RightButton, tile);
+    QVERIFY(shown->isMenuOpen());
+    QCOMPARE(test.pasteboard.texts.size(), 2);
+    page.key(Qt::Key_Escape);
+    QTest::qWait(300);  // it fades
     page.padDrag(Qt::RightButton, page.tileNamed("calm")->mapToScene({300, 8}).toPoint());
     QVERIFY(!page.tileNamed("calm")->hasActiveFocus());
   }

@@ -12,19 +12,16 @@ DragHandler {
 
     signal carried(grabbed: var)
 
-    // Not by another button, which the toolkit takes too from a mouse reported as a touchpad.
-    readonly property bool carries: active && Number(centroid.pressedButtons) <= Qt.LeftButton
-
     // The picture is there a frame later, when the button may be up again.
     function start() {
         const ratio = view.Screen.devicePixelRatio;
         const size = Qt.size(Math.round(view.width * ratio), Math.round(view.height * ratio));
         view.grabToImage(result => {
-            if (carries)
+            if (active)
                 carried(result.image);
         }, size);
     }
 
     target: null
-    onCarriesChanged: if (carries) start()
+    onActiveChanged: if (active) start()
 }

@@ -27,7 +27,6 @@ Item {
     anchors.fill: parent
     Accessible.ignored: true
 
-    // No handler of taps, which takes any button of a mouse that the desktop reports as a touchpad.
     MouseArea {
         anchors.fill: parent
         acceptedButtons: Qt.RightButton

@@ -1,3 +1,4 @@
+#include "controls/pointing/TouchpadMouse.h"
 #include "controls/theme/Typography.h"
 #include "entry/ApplicationModule.h"
 #include "entry/CommandLine.h"
@@ -128,6 +129,8 @@ int tarnloftApplication(int argc, char** argv) {
   if (start == Start::shown) return 0;
   if (start == Start::noAnswer && !hasDisplay()) return fail("it runs already, but doesn't answer");
   QApplication application(argc, argv);
+  TouchpadMouse touchpadMouse;
+  application.installEventFilter(&touchpadMouse);
   QApplication::setApplicationName(QStringLiteral("tarnloft"));
   QApplication::setDesktopFileName(ApplicationBus::name());  // by which taskbars know its windows
   QApplication::setQuitOnLastWindowClosed(false);

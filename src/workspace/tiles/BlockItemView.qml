@@ -18,7 +18,7 @@ FocusScope {
     readonly property int above: isHeading ? 10 : 0 // so that it stands nearer to what it heads
     readonly property LineField heading: field.item as LineField
     readonly property TextArea paragraph: field.item as TextArea
-    readonly property bool held: gripDrag.carries || restDrag.carries
+    readonly property bool held: gripDrag.active || restDrag.active
 
     function typeAtEnd() {
         field.item.forceActiveFocus(Qt.MouseFocusReason);

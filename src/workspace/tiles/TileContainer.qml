@@ -14,7 +14,7 @@ Item {
     // An expanded colour's card tells its name as well.
     readonly property real captionHeight: expanded && tile.kind === TileKind.Color ? 0 : tile.subcaption === "" ? 22 : 36
     readonly property bool focused: activeFocus && FocusOrigin.keyboard
-    readonly property bool dragged: drag.carries || tile.dragged
+    readonly property bool dragged: drag.active || tile.dragged
     readonly property bool hovering: (hover.hovered || tile.menuOpen) && !dragged
 
     implicitHeight: card.height + captionHeight + (detail.height > 0 ? 8 + detail.height : 0)
