@@ -15,26 +15,32 @@ class Arrivals {
  public:
   Arrivals(const ImportServices& services, AssetImport import, BrandDocument& document)
       : services_(services), import_(std::move(import)), document_(&document) {
+    QStringList names;
     for (const QString& path : import_.paths) {
-      if (progress_) progress_->begin(lastPathComponent(path));
+      names << lastPathComponent(path);
+      work_.measure(path, services_.workers);
     }
+    work_.begin(names);
   }
 
   const ImportServices& services() const { return services_; }
   const AssetImport& import() const { return import_; }
+  Progress& progress() const { return work_.progress(); }
 
   void end(qsizetype file, const Result<AssetRef>& asset) {
     const QString name = lastPathComponent(import_.paths.at(file));
-    if (progress_) progress_->end(name);
-    if (!asset) {
+    if (!asset && asset.error().kind == ErrorKind::cancelled) {
+      // as the user wants it
+    } else if (!asset) {
       fail(name, asset.error().message);
     } else if (!document_) {
       fail(name, QStringLiteral("Its brand was closed while it was copied."));
     } else {
       import_.arrived(*asset);
     }
-    const bool isLast = file + 1 == import_.paths.size();
-    if (isLast && !failed_.isEmpty() && services_.failed) services_.failed(failed_, reason_);
+    if (file + 1 < import_.paths.size()) return;
+    work_.end();
+    if (!failed_.isEmpty() && services_.failed) services_.failed(failed_, reason_);
   }
 
  private:
@@ -46,15 +52,16 @@ class Arrivals {
   const ImportServices services_;
   const AssetImport import_;
   const QPointer<BrandDocument> document_;
-  const QPointer<ImportProgress> progress_{services_.progress};
+  ImportWork work_{services_.told};
   QStringList failed_;
   QString reason_;  // of the first one
 };
 
 // Worker.
-Result<AssetRef> bringIn(const AssetFolder& folder, const QString& path,
-                         const AssetImport& import) {
-  auto asset = folder.copyIn(path);
+Result<AssetRef> bringIn(const AssetFolder& folder, const QString& path, const AssetImport& import,
+                         Progress& progress) {
+  if (auto wanted = progress.advance(0); !wanted) return tl::unexpected(wanted.error());
+  auto asset = folder.copyIn(path, progress);
   if (!asset || !import.read) return asset;
   if (const auto copy = folder.pathOf(*asset)) import.read(*copy);
   return asset;
@@ -75,7 +82,7 @@ void importAssets(const ImportServices& services, const AssetImport& import,
     arrivals->services().workers.start([arrivals, each, folder = *folder] {
       each([&](qsizetype i) {
         const QString& path = arrivals->import().paths.at(i);
-        const auto asset = bringIn(folder, path, arrivals->import());
+        const auto asset = bringIn(folder, path, arrivals->import(), arrivals->progress());
         QMetaObject::invokeMethod(
             QCoreApplication::instance(), [arrivals, i, asset] { arrivals->end(i, asset); },
             Qt::QueuedConnection);

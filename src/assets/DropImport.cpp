@@ -31,9 +31,15 @@ class Import {
   ItemLanding::Place take(const QString& name) {
     names_ << name;
     ++open_;
-    if (progress_) progress_->begin(name);
     return landing_.take();
   }
+
+  // Once all have their places; some may have come to their end by now.
+  void tell() {
+    if (open_ > 0) work_.begin(names_);
+  }
+  void measure(const QString& path) const { work_.measure(path, services_.workers); }
+  Progress& progress() const { return work_.progress(); }
 
   // The folder, or why there is none.
   void begin(Result<AssetFolder> folder) {
@@ -49,36 +55,36 @@ class Import {
   // For what can't be told from nothing.
   void drop(ItemLanding::Place place) {
     landing_.land(place, std::nullopt);
-    ended(place);
+    ended();
   }
 
  private:
-  void ended(ItemLanding::Place place) {
-    if (progress_) progress_->end(names_.at(qsizetype(place)));
-    if (--open_ == 0 && !failed_.isEmpty() && services_.failed) {
+  void ended() {
+    if (--open_ > 0) return;
+    work_.end();
+    if (!failed_.isEmpty() && services_.failed)
       services_.failed(std::exchange(failed_, {}), reason_);
-    }
   }
 
   const ImportServices services_;
-  const QPointer<ImportProgress> progress_{services_.progress};
+  ImportWork work_{services_.told};
   ItemLanding landing_;
   std::optional<Result<AssetFolder>> folder_;
   std::vector<std::function<void()>> waiting_;
-  QStringList names_;  // by their places
-  int open_ = 0;       // places that nothing has landed on
+  QStringList names_;
+  int open_ = 0;  // places that nothing has landed on
   QStringList failed_;
   QString reason_;  // of the first one
 };
 using SharedImport = std::shared_ptr<Import>;
 
 void Import::land(ItemLanding::Place place, const QString& name, const Result<Item>& item) {
-  if (!item) {
+  if (!item && item.error().kind != ErrorKind::cancelled) {
     if (failed_.isEmpty()) reason_ = item.error().message;
     failed_ << name;
   }
   landing_.land(place, item ? std::optional(*item) : std::nullopt);
-  ended(place);
+  ended();
 }
 
 SharedImport begin(const ImportServices& services, const QUuid& section, BrandDocument& document) {
@@ -110,12 +116,14 @@ FileKind automaticKind(const ContentTypes& types, const QString& path) {
 
 // Worker.
 Result<ImportedFile> bringIn(const ImportServices& services, const AssetFolder& folder,
-                             const QString& path, std::optional<FileKind> kind) {
+                             const QString& path, std::optional<FileKind> kind,
+                             Progress& progress) {
+  if (auto wanted = progress.advance(0); !wanted) return tl::unexpected(wanted.error());
   ImportedFile file{kind ? *kind : automaticKind(services.types, path),
                     {},
                     lastPathComponent(withoutPathExtension(path)),
                     std::nullopt};
-  auto asset = folder.copyIn(path);
+  auto asset = folder.copyIn(path, progress);
   if (!asset) return tl::unexpected(asset.error());
   file.asset = *asset;
   const auto copy = folder.pathOf(file.asset);
@@ -146,11 +154,11 @@ Item itemOf(const ImportedFile& file) { return Item::create(payloadOf(file)); }
 
 // `work` is a worker's, and gets the folder.
 template <class Work, class Land>
-void inFolder(const SharedImport& import, Work work, Land land) {
-  import->whenBegun([import, work = std::move(work), land = std::move(land)] {
+void inFolder(const SharedImport& import, const Work& work, const Land& land) {
+  import->whenBegun([import, work, land] {
     const auto& folder = import->folder();
   if (!folder) return land(tl::unexpected(folder.error()));
-  const auto inIt = [work, folder = *folder] { return work(folder); };
+  const auto inIt = [work, opened = *folder] { return work(opened); };
   inBackground(import->services().workers, inIt, land);
 });
 }  // namespace
@@ -158,8 +166,9 @@ void inFolder(const SharedImport& import, Work work, Land land) {
 // `kind` is what the user chose; by content and extension if there is none.
 void importFile(const SharedImport& import, ItemLanding::Place place, const QString& path,
                 std::optional<FileKind> kind) {
+  import->measure(path);
   const auto work = [import, path, kind](const AssetFolder& folder) {
-    return bringIn(import->services(), folder, path, kind);
+    return bringIn(import->services(), folder, path, kind, import->progress());
   };
   const QString name = lastPathComponent(path);
   const auto land = [import, place, name](const Result<ImportedFile>& file) {
@@ -228,6 +237,7 @@ void importChosen(const ImportServices& services, const QStringList& paths, File
   for (const QString& path : paths) {
     importFile(import, import->take(lastPathComponent(path)), path, kind);
   }
+  import->tell();
 }
 
 }  // namespace tarnloft::DropImport
@@ -253,6 +263,7 @@ bool handle(const ImportServices& services, const DroppedThings& things, const Q
     // A file comes as the file that it is, even where the source offers its picture too.
     thing->conforms(DropType::fileURL) ? loadFile(import, *thing) : loadImage(import, *thing);
   }
+  import->tell();
   return true;
 }
 

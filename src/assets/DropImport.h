@@ -1,6 +1,6 @@
 #pragma once
 
-#include "assets/ImportProgress.h"
+#include "assets/ImportWork.h"
 #include "assets/ItemLanding.h"
 #include "platform/ContentTypes.h"
 #include "platform/DroppedThing.h"
@@ -21,13 +21,14 @@ struct ImportServices {
   AddToClosed addToClosed;
   // Told of the files of one call that couldn't be brought in, and why the first of them couldn't.
   std::function<void(const QStringList& names, const QString& reason)> failed = nullptr;
-  ImportProgress* progress = nullptr;
+  LongWork* told = nullptr;  // by which what takes long is told, and may be ended
 };
 
 // Files and pictures become items of a section. Main thread; files are copied and read by the
 // workers, and an item comes into being, without an undo step, when its copy is whole. The items of
 // one call land in its order, at the section's end, even when the document has been closed by then.
-// What can't be brought in makes no item and is told; what isn't there at all isn't.
+// What can't be brought in makes no item and is told; what isn't there at all, and what the user
+// ended, isn't.
 namespace DropImport {
 
 enum class MediaKind { image, video };

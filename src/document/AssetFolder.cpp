@@ -12,11 +12,11 @@ Result<AssetFolder> AssetFolder::make(FileStore& files, const QString& packageUR
       .map([](std::shared_ptr<OpenFolder> folder) { return AssetFolder(std::move(folder)); });
 }
 
-Result<AssetRef> AssetFolder::copyIn(const QString& source) const {
+Result<AssetRef> AssetFolder::copyIn(const QString& source, Progress& progress) const {
   const QString extension = pathExtension(source);
   AssetRef asset{Package::newAssetName(extension.isEmpty() ? QStringLiteral("dat") : extension),
                  lastPathComponent(source)};
-  return folder_->copyIn(source, asset.filename).map([&] { return asset; });
+  return folder_->copyIn(source, asset.filename, progress).map([&] { return asset; });
 }
 
 Result<AssetRef> AssetFolder::write(const QByteArray& data, const QString& originalName,

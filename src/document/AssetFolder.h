@@ -15,7 +15,7 @@ class AssetFolder {
 
   // Copies a file in under a new name that keeps its extension, or has "dat". Like `write`, it
   // fails if the folder was deleted since: nothing revives a package.
-  Result<AssetRef> copyIn(const QString& source) const;
+  Result<AssetRef> copyIn(const QString& source, Progress& progress) const;
   // Writes bytes under a new name with that extension.
   Result<AssetRef> write(const QByteArray& data, const QString& originalName,
                          const QString& extension) const;

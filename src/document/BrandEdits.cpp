@@ -111,7 +111,8 @@ void BrandDocument::openAssetFolder(std::function<void(const Result<AssetFolder>
 
 Result<AssetRef> BrandDocument::importAsset(const QString& source) {
   return AssetFolder::make(services_.files, packageURL_).and_then([&](const AssetFolder& folder) {
-    return folder.copyIn(source);
+    Progress progress;
+    return folder.copyIn(source, progress);
   });
 }
 

@@ -142,7 +142,8 @@ Result<void> PackageVersions::keepBytes(const QString& manifest, Timestamp momen
   const auto folder = files_.openFolder(this->folder(), packageURL_);
   if (!folder) return tl::unexpected(folder.error());
   const QString path = freePath(files_, this->folder(), moment, extension);
-  return (*folder)->copyIn(manifest, lastPathComponent(path));
+  Progress progress;
+  return (*folder)->copyIn(manifest, lastPathComponent(path), progress);
 }
 
 Result<void> PackageVersions::keepNewer(const QString& manifest, Timestamp moment) {

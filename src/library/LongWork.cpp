@@ -13,9 +13,13 @@ LongWork::LongWork() {
 
 std::shared_ptr<Progress> LongWork::begin(const QString& text) {
   auto progress = std::make_shared<Progress>();
+  begin(progress, text);
+  return progress;
+}
+
+void LongWork::begin(const std::shared_ptr<Progress>& progress, const QString& text) {
   pieces_.push_back({text, progress, std::chrono::steady_clock::now()});
   look_.start();
-  return progress;
 }
 
 void LongWork::end(const std::shared_ptr<Progress>& progress) {

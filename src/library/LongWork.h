@@ -19,6 +19,7 @@ class LongWork : public QObject {
 
   // For work that begins now, to be told by whoever does it; `text` is such as "Exporting “Acme”…".
   std::shared_ptr<Progress> begin(const QString& text);
+  void begin(const std::shared_ptr<Progress>& progress, const QString& text);
   // It has ended, however that was.
   void end(const std::shared_ptr<Progress>& progress);
 

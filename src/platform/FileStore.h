@@ -62,7 +62,7 @@ class OpenFolder {
   virtual ~OpenFolder() = default;
 
   // Copies a regular file in, links to it followed, with its rights and times.
-  virtual Result<void> copyIn(const QString& source, const QString& name) = 0;
+  virtual Result<void> copyIn(const QString& source, const QString& name, Progress& progress) = 0;
   virtual Result<void> writeIn(QByteArrayView bytes, const QString& name) = 0;
   // Where the folder stands now; fails if it was deleted.
   virtual Result<QString> path() const = 0;

@@ -13,8 +13,8 @@ namespace tarnloft {
 // wanted, told by those who asked for it. Any thread.
 class Progress {
  public:
-  // So much is to be done in all, in a unit of the work's own.
-  void expect(qint64 amount) { expected_ = amount; }
+  // So much more is to be done, in a unit of the work's own.
+  void expect(qint64 amount) { expected_ += amount; }
   // So much more has been done. Fails if nothing more is wanted; the work ends then, and leaves
   // nothing.
   Result<void> advance(qint64 amount) {

@@ -9,21 +9,12 @@ namespace tarnloft {
 ToastCenter::ToastCenter(std::chrono::milliseconds shownFor, QObject* parent) : QObject(parent) {
   clearWork_.setSingleShot(true);
   clearWork_.setInterval(shownFor);
-  connect(&clearWork_, &QTimer::timeout, this, &ToastCenter::showUnderWay);
+  connect(&clearWork_, &QTimer::timeout, this, [this] { setMessage(std::nullopt); });
 }
 
 void ToastCenter::show(const QString& text) {
   clearWork_.start();
   setMessage(shownText(text));
-}
-
-void ToastCenter::setUnderWay(const QString& text) {
-  underWay_ = text;
-  if (!clearWork_.isActive()) showUnderWay();
-}
-
-void ToastCenter::showUnderWay() {
-  setMessage(underWay_.isEmpty() ? std::nullopt : std::optional(underWay_));
 }
 
 void ToastCenter::setMessage(const std::optional<QString>& message) {

@@ -28,18 +28,13 @@ class ToastCenter : public QObject {
   // Replaces what is shown and begins its time anew.
   Q_INVOKABLE void show(const QString& text);
 
-  // What is under way, shown whenever nothing else is; empty when it has ended.
-  void setUnderWay(const QString& text);
-
  signals:
   void messageChanged();
 
  private:
   void setMessage(const std::optional<QString>& message);
-  void showUnderWay();
 
   std::optional<QString> message_;
-  QString underWay_;
   QTimer clearWork_;
 };
 

@@ -26,6 +26,7 @@ struct Dropping {
       *BrandDocument::create({held, log}, disk.folder.path(), "Acme");
   QList<QPair<QUuid, QList<Item>>> addedToClosed;
   QList<QStringList> failed;
+  LongWork told;
 
   Dropping() {
     workers.setMaxThreadCount(4);
@@ -35,11 +36,14 @@ struct Dropping {
   }
   ~Dropping() { finish(); }
   ImportServices services() {
-    return {types, fonts, workers,
+    return {types,
+            fonts,
+            workers,
             [this](const BrandPlace&, const QUuid& section, const auto& items) {
               addedToClosed << qMakePair(section, items);
             },
-            [this](const QStringList& names, const QString&) { failed << names; }};
+            [this](const QStringList& names, const QString&) { failed << names; },
+            &told};
   }
   std::shared_ptr<FakeThing> file(const QString& name, const QByteArray& content = "content") {
     writeFile(disk.path("from/" + name), content);
@@ -228,6 +232,20 @@ class TestDropImport : public QObject {
     QCOMPARE(dropping.failed.size(), 1);
     const QStringList& names = dropping.failed.first();
     QCOMPARE(QSet<QString>(names.begin(), names.end()), QSet<QString>({"missing.png", folder}));
+  }
+
+  void theUserEndsWhatTakesLong() {
+    Dropping dropping;
+    for (const char* name : {"x.png", "y.png"}) dropping.held.hold(name);
+    QVERIFY(dropping.drop({dropping.file("x.png"), dropping.file("y.png")}));
+    QTRY_COMPARE(dropping.told.text(), "Adding 2 files…");
+    dropping.told.cancel();
+    for (const char* name : {"x.png", "y.png"}) dropping.held.release(name);
+    dropping.finish();
+    QCOMPARE(dropping.told.text(), "");
+    QCOMPARE(dropping.shape(), "S:a,b T:");
+    QCOMPARE(QDir(dropping.assets()).entryList(QDir::Files | QDir::Hidden), QStringList());
+    QVERIFY(dropping.failed.isEmpty());
   }
 
   void aClosedDocumentsItemsGoToItsBrand() {

@@ -70,7 +70,8 @@ const QList<QPair<const char*, Making>> makings{
                   auto& folder) { return files.copyFile(source, folder + "/new").has_value(); }},
     {"copied in",
      [](auto& files, auto& source, auto& folder) {
-       return (*files.openFolder(folder, folder))->copyIn(source, "new").has_value();
+       Progress progress;
+       return (*files.openFolder(folder, folder))->copyIn(source, "new", progress).has_value();
      }},
     {"written in",
      [](auto& files, auto& source, auto& folder) {
@@ -285,7 +286,9 @@ class TestFileStore : public QObject {
     setRights(disk.path("from"), 0500);
     QVERIFY(disk.files.copyFile(source, disk.path("copy")));
     QVERIFY(disk.files.copyFolder(disk.path("from"), disk.path("tree")));
-    QVERIFY((*disk.files.openFolder(disk.path("tree"), disk.path("tree")))->copyIn(source, "in"));
+    const auto tree = disk.files.openFolder(disk.path("tree"), disk.path("tree"));
+    Progress progress;
+    QVERIFY((*tree)->copyIn(source, "in", progress));
     QVERIFY(written(disk.files, disk.path("replaced"), "new"));
     for (const char* name : {"copy", "tree/file", "tree/in", "replaced"}) {
       QCOMPARE(rightsOf(disk.path(name)), mode_t(0640));

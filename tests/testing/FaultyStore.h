@@ -149,8 +149,8 @@ class FaultyStore : public PosixFileStore {
     Folder(const FaultyStore& store, std::shared_ptr<OpenFolder> folder)
         : store_(store), folder_(std::move(folder)) {}
 
-    Result<void> copyIn(const QString& source, const QString& name) override {
-      return store_.step() ? folder_->copyIn(source, name) : tl::unexpected(fullDisk());
+    Result<void> copyIn(const QString& source, const QString& name, Progress& progress) override {
+      return store_.step() ? folder_->copyIn(source, name, progress) : tl::unexpected(fullDisk());
     }
     Result<void> writeIn(QByteArrayView bytes, const QString& name) override {
       return store_.step() ? folder_->writeIn(bytes, name) : tl::unexpected(fullDisk());

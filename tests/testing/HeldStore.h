@@ -42,9 +42,9 @@ class HeldStore : public PosixFileStore {
    public:
     Folder(const HeldStore& store, std::shared_ptr<OpenFolder> inner)
         : store_(store), inner_(std::move(inner)) {}
-    Result<void> copyIn(const QString& source, const QString& name) override {
+    Result<void> copyIn(const QString& source, const QString& name, Progress& progress) override {
       store_.await(source);
-      return inner_->copyIn(source, name);
+      return inner_->copyIn(source, name, progress);
     }
     Result<void> writeIn(QByteArrayView bytes, const QString& name) override {
       return inner_->writeIn(bytes, name);

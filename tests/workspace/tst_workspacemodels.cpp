@@ -357,14 +357,6 @@ class TestWorkspaceModels : public QObject {
     QCOMPARE(toasts.message(), "second");
     QTRY_VERIFY(!toasts.message());
     QCOMPARE(changes.count(), 3);
-
-    toasts.setUnderWay("Adding");
-    toasts.show("third");
-    toasts.setUnderWay("Adding 2");
-    QCOMPARE(toasts.message(), "third");
-    QTRY_COMPARE(toasts.message(), "Adding 2");
-    toasts.setUnderWay({});
-    QVERIFY(!toasts.message());
     QCOMPARE(ToastCenter::duration, std::chrono::milliseconds(1400));
   }
 };

@@ -66,7 +66,7 @@ WorkspaceServices DesktopServices::forWorkspace(LibraryStore& library) {
                       .workers = workers,
                       .addToClosed = landLate,
                       .failed = tellFailed,
-                      .progress = &importProgress},
+                      .told = &library.longWork()},
           .drops = drops,
           .drags = {.files = files, .types = types, .images = media.images},
           .dragThreads = dragThreads,

@@ -62,7 +62,6 @@ struct DesktopServices {
   QThreadPool workers;      // of what is dropped; waited for before the others go
   QThreadPool dragThreads;  // not the common one: the toolkit waits for that while it draws
   MimeDrops drops{workers};
-  ImportProgress importProgress;
   PackageKitUpdater updater{QDBusConnection::systemBus, package()};
 
   // Tells the user that something failed: the library's, once there is one.

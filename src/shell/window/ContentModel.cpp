@@ -46,11 +46,6 @@ ContentModel::ContentModel(const WorkspaceServices& services, UpdaterViewModel* 
   connect(library, &LibraryStore::scrollToSectionChanged, this, &ContentModel::answerScrollRequest,
           Qt::QueuedConnection);
   connect(&toasts_, &ToastCenter::messageChanged, this, &ContentModel::toastChanged);
-  if (const ImportProgress* const progress = services.imports.progress) {
-    const auto follow = [this, progress] { toasts_.setUnderWay(progress->text()); };
-    connect(progress, &ImportProgress::textChanged, this, follow);
-    follow();
-  }
   library_.beginShowing();
   renewPage();
   answerRequest();

@@ -26,11 +26,12 @@ Result<void> settle(NewFile file, const QByteArray& name, const Descriptor& fold
 
 }  // namespace
 
-Result<void> PosixOpenFolder::copyIn(const QString& source, const QString& name) {
+Result<void> PosixOpenFolder::copyIn(const QString& source, const QString& name,
+                                     Progress& progress) {
   const auto from = native(source);
   const auto plain = plainName(name);
   if (!from || !plain) return from ? tl::unexpected(plain.error()) : systemFailure(EINVAL);
-  return NewFile::copyOf(*from, folder_.duplicate()).and_then([&](NewFile copy) {
+  return NewFile::copyOf(*from, folder_.duplicate(), progress).and_then([&](NewFile copy) {
     return settle(std::move(copy), *plain, folder_);
   });
 }

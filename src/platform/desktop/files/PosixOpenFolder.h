@@ -8,7 +8,7 @@ class PosixOpenFolder : public OpenFolder {
  public:
   explicit PosixOpenFolder(Descriptor folder) : folder_(std::move(folder)) {}
 
-  Result<void> copyIn(const QString& source, const QString& name) override;
+  Result<void> copyIn(const QString& source, const QString& name, Progress& progress) override;
   Result<void> writeIn(QByteArrayView bytes, const QString& name) override;
   Result<QString> path() const override;
 
