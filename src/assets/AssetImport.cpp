@@ -29,10 +29,8 @@ class Arrivals {
 
   void end(qsizetype file, const Result<AssetRef>& asset) {
     const QString name = lastPathComponent(import_.paths.at(file));
-    if (!asset && asset.error().kind == ErrorKind::cancelled) {
-      // as the user wants it
-    } else if (!asset) {
-      fail(name, asset.error().message);
+    if (!asset) {
+      if (asset.error().kind != ErrorKind::cancelled) fail(name, asset.error().message);
     } else if (!document_) {
       fail(name, QStringLiteral("Its brand was closed while it was copied."));
     } else {

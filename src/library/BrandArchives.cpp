@@ -121,15 +121,22 @@ void LibraryStore::importBrand() {
   if (path) importBrandArchive(*path);
 }
 
+// By another way to the library's folder, too. Its disk may not answer: not the main thread's nor
+// the saves' to ask.
 void LibraryStore::openFile(const QString& path) {
-  // By another way to the same folder, too: behind the dot links are followed.
-  const auto folderOf = [&files = services_.document.files](const QString& folder) {
-    return files.identity(folder + QStringLiteral("/."));
+  const QString home = libraryURL_, folder = QFileInfo(path).path();
+  const auto isOurs = [&files = services_.document.files, home, folder] {
+    const auto followed = [&files](const QString& one) {
+      return files.identity(one + QStringLiteral("/."));  // behind the dot links are followed
+    };
+    const auto ours = followed(home);
+    return folder == home || (ours && followed(folder) == ours);
   };
-  const auto home = folderOf(libraryURL_);
-  const bool isOurs = home && folderOf(QFileInfo(path).path()) == home;
-  isOurs ? select(libraryURL_ + QLatin1Char('/') + lastPathComponent(path))
-         : importBrandArchive(path);
+  services_.copies.ask(isOurs, [store = QPointer(this), path, home](bool itIs) {
+    if (!store) return;
+    itIs ? store->select(home + QLatin1Char('/') + lastPathComponent(path))
+         : store->importBrandArchive(path);
+  });
 }
 
 void LibraryStore::importBrandArchive(const QString& path) {
