@@ -1,3 +1,4 @@
+#include "platform/desktop/hotkey/PortalHotKey.h"
 #include "platform/desktop/system/IniPreferences.h"
 #include "platform/desktop/window/DesktopColorSampler.h"
 #include "platform/desktop/window/DesktopFileDialogs.h"
@@ -10,6 +11,7 @@
 #include <QDBusConnection>
 #include <QDBusContext>
 #include <QDBusMessage>
+#include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDir>
 #include <QFileDialog>
@@ -88,20 +90,72 @@ class FakeFileChooser : public QObject, public QDBusContext {
   }
 };
 
+struct Shortcut {
+  QString id;
+  QVariantMap properties;
+};
+
+QDBusArgument& operator<<(QDBusArgument& out, const Shortcut& shortcut) {
+  out.beginStructure();
+  out << shortcut.id << shortcut.properties;
+  out.endStructure();
+  return out;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& in, Shortcut& shortcut) {
+  in.beginStructure();
+  in >> shortcut.id >> shortcut.properties;
+  in.endStructure();
+  return in;
+}
+
+// A desktop that keeps the first combination that it was told for an ID, as some do.
+class FakeShortcuts : public QObject, public QDBusContext {
+  Q_OBJECT
+  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.GlobalShortcuts")
+
+ public:
+  FakeShortcuts() {
+    qDBusRegisterMetaType<Shortcut>();
+    qDBusRegisterMetaType<QList<Shortcut>>();
+  }
+
+ public slots:
+  QDBusObjectPath CreateSession(const QVariantMap& options) {
+    const auto asked = qdbus_cast<QList<Shortcut>>(options.value("shortcuts"));
+    id_ = asked.constFirst().id;
+    if (!kept_.contains(id_)) kept_[id_] = asked.constFirst().properties["preferred_trigger"];
+    return answered(*this, options, 0, {{"session_handle", "/session"}});
+  }
+  QDBusObjectPath ListShortcuts(const QDBusObjectPath& /*session*/, const QVariantMap& options) {
+    const QList<Shortcut> list{{id_, {{"trigger_description", kept_[id_]}}}};
+    return answered(*this, options, 0, {{"shortcuts", QVariant::fromValue(list)}});
+  }
+
+ private:
+  QString id_;  // of the session
+  QVariantMap kept_;
+};
+
 namespace {
 
 // A service of another program, as far as the bus knows.
 struct Service {
   QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "other");
   QString name;
+  QString path;
 
-  Service(const QString& serviceName, const QString& path, QObject* object) : name(serviceName) {
+  Service(const QString& serviceName, const QString& objectPath, QObject* object)
+      : name(serviceName), path(objectPath) {
     if (!bus.registerObject(path, object, QDBusConnection::ExportAllSlots) ||
         !bus.registerService(name)) {
       qFatal("no session bus");
     }
   }
-  ~Service() { bus.unregisterService(name); }
+  ~Service() {
+    bus.unregisterService(name);
+    bus.unregisterObject(path);
+  }
   Q_DISABLE_COPY_MOVE(Service)
 };
 
@@ -157,6 +211,30 @@ class TestWindow : public QObject {
     QTRY_COMPARE(manager.shown.size(), 1);
     QCOMPARE(QUrl::fromEncoded(manager.shown.first().toLatin1()).toLocalFile(), file.fileName());
     QCOMPARE(viewer.opened.size(), 1);
+  }
+
+  // Also another key than the first, and behind a portal that has ended and started again.
+  void hasAKeyByThePortal() {
+    const QString name("org.freedesktop.portal.Desktop");
+    const QString path("/org/freedesktop/portal/desktop");
+    using State = GlobalHotKey::State;
+    FakeShortcuts shortcuts;
+    ListedLog log;
+    PortalHotKey key(log);
+    QList<State> states;
+    key.install([] {}, [&] { states << key.state(); });
+    {
+      const Service service(name, path, &shortcuts);
+      for (const auto& [code, trigger] : {std::pair(49u, "CTRL+ALT+space"), {40u, "CTRL+ALT+k"}}) {
+        key.update(code, HotKeyModifier::control | HotKeyModifier::option);
+        QTRY_COMPARE(key.state(), State::registered);
+        QCOMPARE(key.trigger(), trigger);
+      }
+      states.clear();
+    }
+    const Service service(name, path, &shortcuts);
+    QTRY_COMPARE(states, (QList{State::waiting, State::registered}));
+    QCOMPARE(log.lines, QStringList());
   }
 
   void picksByThePortal() {

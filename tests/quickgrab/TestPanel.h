@@ -33,6 +33,7 @@ struct TestPanel : TestDesktop {
       result << QStringLiteral("%1 %2").arg(
           QStringList{"#", "##", "color", "media", "font", "gradient", "code"}.at(thing.kind),
           isHeader ? thing.name + ' ' + thing.detail : thing.name);
+      if (thing.backdrop == Backdrop::Dark) result.last() += " on dark";
     }
     return result;
   }
@@ -51,7 +52,8 @@ inline Section sectionOfAll() {
       {headerItem("Header"), colorItem("Sky", "#aabbcc"), colorItem("Sea", "#0000ff"),
        textItem("Text"), videoItem("Film"),
        Item::create(ImagePayload{{"a.png", ".png"}, std::nullopt}),
-       Item::create(LogoPayload{{"Mark", {{QUuid::createUuid(), {"m.svg", "m.svg"}, {}, {}}}}}),
+       Item::create(LogoPayload{
+           {"Mark", {{QUuid::createUuid(), {"m.svg", "m.svg"}, {}, ImageBackground::dark}}}}),
        Item::create(LogoPayload{{"Nothing", {}}}),
        Item::create(FontPayload{{"Inter", "Bold", {}, {}, "Text face"}}),
        Item::create(GradientPayload{

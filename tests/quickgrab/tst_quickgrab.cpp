@@ -29,7 +29,7 @@ class TestQuickGrab : public QObject {
     Cases<QString, QString, State, QStringList>{
         {"as at first", "cl", "", State::List,
          QStringList{"# Kit 4", "## Colors 2", "color Sky", "color Sea", "## Logos & Images 2",
-                     "media Image", "media Mark"} +
+                     "media Image", "media Mark on dark"} +
              bare},
         {"one kind alone has no title", "c", "", State::List,
          QStringList{"# Kit 2", "color Sky", "color Sea"} + bare},

@@ -88,6 +88,7 @@ GrabThing GrabContent::thing(size_t place, const Look& look) const {
       const MediaEntry& entry = block.media[at.index];
       thing.name = shownText(entry.name);
       thing.help = QStringLiteral("Drag out to use %1 as a file").arg(thing.name);
+      thing.backdrop = Backdrop::of(entry.background);
       if (look.files) thing.source = look.files->assetPath(entry.asset).value_or(QString());
       break;
     }

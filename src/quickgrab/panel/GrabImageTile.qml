@@ -20,11 +20,20 @@ Item {
         width: parent.width
         height: 58
 
-        // Opaque, since it is carried away.
+        // Opaque, since it is carried away; on the backdrop that was chosen for the picture, so that
+        // white marks are seen here too.
         RoundedRectangle {
             anchors.fill: parent
             radius: 8
-            color: Theme.menuBackground
+            color: root.thing.backdrop === Backdrop.Dark ? Qt.hsva(0, 0, 0.16, 1) : root.thing.backdrop === Backdrop.White ? "white" : Theme.menuBackground
+        }
+
+        LazyItem {
+            anchors.fill: parent
+            active: root.thing.backdrop === Backdrop.Checkerboard
+            sourceComponent: CheckerboardView {
+                radius: 8
+            }
         }
 
         RoundedRectangle {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pictures/Backdrop.h"
 #include "pictures/GradientView.h"
 #include "quickgrab/panel/PanelLayout.h"
 
@@ -20,6 +21,7 @@ class GrabThing {
   Q_PROPERTY(QColor color MEMBER color)
   Q_PROPERTY(tarnloft::GradientLook gradient MEMBER gradient)
   Q_PROPERTY(QString source MEMBER source)  // a picture's path, a font's family
+  Q_PROPERTY(int backdrop MEMBER backdrop)  // Backdrop
 
  public:
   QUuid id;  // told apart from those of the list's other things
@@ -32,6 +34,7 @@ class GrabThing {
   QColor color;
   GradientLook gradient;
   QString source;
+  int backdrop = Backdrop::Default;
 
   bool operator==(const GrabThing&) const = default;
 };

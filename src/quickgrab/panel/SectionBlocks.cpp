@@ -24,10 +24,12 @@ void append(SectionBlock& block, const Item& item, const GrabbedKinds& kinds) {
           [&](const LogoPayload& logo) {
             if (!kinds.logos) return;
             const auto primary = logo.value.primary();
-            if (primary) block.media.push_back({id, logo.value.name, primary->asset});
+            if (!primary) return;
+            block.media.push_back({id, logo.value.name, primary->asset, primary->background});
           },
           [&](const ImagePayload& image) {
-            if (kinds.logos) block.media.push_back({id, imageName(image), image.asset});
+            if (!kinds.logos) return;
+            block.media.push_back({id, imageName(image), image.asset, item.imageBackground});
           },
           [&](const FontPayload& font) {
             const FontValue& value = font.value;

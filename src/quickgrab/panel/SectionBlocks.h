@@ -20,6 +20,7 @@ struct MediaEntry {
   QUuid id;
   QString name;
   AssetRef asset;  // the image's, or that of the logo's primary variant
+  std::optional<ImageBackground> background = std::nullopt;  // likewise
 
   bool operator==(const MediaEntry&) const = default;
 };

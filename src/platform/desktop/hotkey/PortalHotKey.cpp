@@ -24,7 +24,7 @@ namespace {
 const QString portal = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString desktop = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString shortcutsPortal = QStringLiteral("org.freedesktop.portal.GlobalShortcuts");
-const QString ownID = QStringLiteral("quick-grab");
+constexpr int restingTime = 1000;  // milliseconds, before a portal that has gone is asked again
 
 // By the portal's standard for shortcuts: "CTRL+ALT+space". Empty for a key without a name.
 QString written(quint32 keyCode, quint32 modifiers) {
@@ -38,19 +38,23 @@ QString written(quint32 keyCode, quint32 modifiers) {
   return text + key->symbol.toString();
 }
 
+// One for each combination: a desktop keeps the first that it was told for an ID, whatever later
+// sessions wish for.
+QString idFor(const QString& wished) { return QLatin1String("quick-grab ") + wished; }
+
 QVariant listOf(const QString& wished) {
   return QVariant::fromValue(
-      QList<PortalShortcut>{{ownID,
+      QList<PortalShortcut>{{idFor(wished),
                              {{QStringLiteral("description"), QStringLiteral("Quick Grab")},
                               {QStringLiteral("preferred_trigger"), wished}}}});
 }
 
 // None if the answer doesn't know the key; empty for a key without a combination.
-std::optional<QString> triggerIn(const QVariantMap& results) {
+std::optional<QString> triggerIn(const QVariantMap& results, const QString& id) {
   const QVariant list = results.value(QStringLiteral("shortcuts"));
   if (!list.canConvert<QDBusArgument>()) return std::nullopt;
   for (const PortalShortcut& shortcut : qdbus_cast<QList<PortalShortcut>>(list)) {
-    if (shortcut.id == ownID)
+    if (shortcut.id == id)
       return shortcut.properties.value(QStringLiteral("trigger_description")).toString();
   }
   return std::nullopt;
@@ -95,6 +99,15 @@ void PortalHotKey::install(std::function<void()> pressed, std::function<void()> 
   QDBusConnection::sessionBus().connect(portal, desktop, shortcutsPortal,
                                         QStringLiteral("Activated"), this,
                                         SLOT(activated(QDBusMessage)));
+  connect(&living_, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
+    session_.clear();
+    if (state_ == State::waiting) setState(State::unavailable);  // ended over the question
+    if (state_ != State::registered && state_ != State::taken) return;
+    setState(State::waiting);
+    rest_.start(restingTime);
+  });
+  rest_.setSingleShot(true);
+  connect(&rest_, &QTimer::timeout, this, &PortalHotKey::makeSession);
 }
 
 void PortalHotKey::update(quint32 keyCode, quint32 modifiers) {
@@ -102,6 +115,10 @@ void PortalHotKey::update(quint32 keyCode, quint32 modifiers) {
   wished_ = modifiers ? written(keyCode, modifiers) : QString();
   if (wished_.isEmpty()) return setState(modifiers ? State::unavailable : State::off);
   setState(State::waiting);
+  makeSession();
+}
+
+void PortalHotKey::makeSession() {
   // With the key right away, as one desktop binds it only then without asking the user.
   ask(QStringLiteral("CreateSession"), {},
       {{QStringLiteral("session_handle_token"), QStringLiteral("tarnloft")},
@@ -145,7 +162,7 @@ void PortalHotKey::listed(const QDBusMessage& message) {
   if (!isAwaited(message)) return;
   const Answer answer = answerOf(message);
   if (answer.code != 0) return fail(answer.code);
-  const auto trigger = triggerIn(answer.results);
+  const auto trigger = triggerIn(answer.results, idFor(wished_));
   if (trigger) return setState(trigger->isEmpty() ? State::taken : State::registered, *trigger);
   // The desktop may ask the user, who may take their time.
   ask(QStringLiteral("BindShortcuts"),
@@ -157,17 +174,18 @@ void PortalHotKey::bound(const QDBusMessage& message) {
   if (!isAwaited(message)) return;
   const Answer answer = answerOf(message);
   if (answer.code != 0) return fail(answer.code);
-  const QString trigger = triggerIn(answer.results).value_or(QString());
+  const QString trigger = triggerIn(answer.results, idFor(wished_)).value_or(QString());
   setState(trigger.isEmpty() ? State::taken : State::registered, trigger);
 }
 
 void PortalHotKey::activated(const QDBusMessage& message) {
   const QVariantList arguments = message.arguments();
-  if (arguments.size() < 2 || arguments.at(1).toString() != ownID) return;
+  if (arguments.size() < 2 || arguments.at(1).toString() != idFor(wished_)) return;
   if (qvariant_cast<QDBusObjectPath>(arguments.at(0)).path() == session_) pressed_();
 }
 
 void PortalHotKey::closeSession() {
+  rest_.stop();
   awaited_.clear();
   if (session_.isEmpty()) return;
   QDBusConnection::sessionBus().asyncCall(call(std::exchange(session_, QString()),

@@ -3,8 +3,11 @@
 #include "platform/GlobalHotKey.h"
 #include "platform/SystemLog.h"
 
+#include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusServiceWatcher>
 #include <QObject>
+#include <QTimer>
 
 namespace tarnloft {
 
@@ -31,11 +34,16 @@ class PortalHotKey : public QObject, public GlobalHotKey {
   // Its answer comes to the slot, unless another question or another key has come in between.
   void ask(const QString& method, QVariantList arguments, QVariantMap options, const char* slot);
   bool isAwaited(const QDBusMessage& message) const;
+  void makeSession();
   void closeSession();
   void fail(uint code);
   void setState(State state, const QString& trigger = {});
 
   SystemLog& log_;
+  QDBusServiceWatcher living_{QStringLiteral("org.freedesktop.portal.Desktop"),
+                              QDBusConnection::sessionBus(),
+                              QDBusServiceWatcher::WatchForUnregistration};
+  QTimer rest_;
   std::function<void()> pressed_;
   std::function<void()> stateChanged_;
   QString wished_;   // as the portal writes it
