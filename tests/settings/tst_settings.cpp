@@ -166,6 +166,16 @@ class TestSettings : public QObject {
     QTRY_VERIFY(preferences.defaultAccentHex() != "#112233");
   }
 
+  void aPressElsewhereEndsTheRecording() {
+    Settings settings;
+    settings.open();
+    const QString recording("Quick grab shortcut, Type a shortcut…");
+    settings.use("Quick grab shortcut", {Qt::Key_Space});
+    QVERIFY(settings.texts().contains(recording));
+    QTest::mouseClick(&settings.window(), Qt::LeftButton, {}, {4, 4});
+    QVERIFY(!settings.texts().contains(recording));
+  }
+
   void aFolderIsChosenOrRefused() {
     Settings settings;
     settings.open();

@@ -3,12 +3,16 @@
 #include "quickgrab/hotkey/HotKeySettings.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPointer>
 #include <QQuickItem>
+#include <QQuickWindow>
 
 namespace tarnloft {
 
 // An item that hands its keys to the settings while they record one, as QML isn't told the window
-// system's numbers of a key.
+// system's numbers of a key. A press elsewhere in the window ends the recording, also where nothing
+// takes the focus.
 class KeyCatcher : public QQuickItem {
   Q_OBJECT
   QML_ELEMENT
@@ -34,6 +38,21 @@ class KeyCatcher : public QQuickItem {
     if (!isRecording() || isModifier(event->key())) return;
     settings_->take(event->nativeVirtualKey(), event->nativeScanCode(), event->modifiers());
   }
+  void itemChange(ItemChange change, const ItemChangeData& value) override {
+    if (change == ItemSceneChange) {
+      if (window_) window_->removeEventFilter(this);
+      window_ = value.window;
+      if (window_) window_->installEventFilter(this);
+    }
+    QQuickItem::itemChange(change, value);
+  }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::MouseButtonPress && isRecording()) {
+      const QPointF at = static_cast<QMouseEvent*>(event)->scenePosition();
+      if (!contains(mapFromScene(at))) settings_->setRecording(false);
+    }
+    return QQuickItem::eventFilter(watched, event);
+  }
 
  private:
   bool isRecording() const { return settings_ && settings_->isRecording(); }
@@ -43,6 +62,7 @@ class KeyCatcher : public QQuickItem {
   }
 
   HotKeySettings* settings_ = nullptr;
+  QPointer<QQuickWindow> window_;
 };
 
 }  // namespace tarnloft
