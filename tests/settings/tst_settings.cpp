@@ -45,6 +45,12 @@ struct FakeLogin : LoginItem {
   }
 };
 
+struct FakeHotKey : GlobalHotKey {
+  void install(std::function<void()>, std::function<void()>) override {}
+  void update(quint32, quint32) override {}
+  State state() const override { return State::registered; }
+};
+
 // The settings window over a library, used by keys, and read as assistive technology does.
 struct Settings {
   TestLibrary library;
@@ -52,6 +58,8 @@ struct Settings {
   FakeTray tray;
   FakeTaskbar taskbar;
   FakeLogin login;
+  FakeHotKey hotKey;
+  HotKeySettings hotKeySettings{menuBar, hotKey, library.beep};
   FakeUpdater updater;
   UpdaterViewModel updates{updater, library.preferences, [this] { return library.disk.now; }};
   QQmlEngine engine;
@@ -64,7 +72,7 @@ struct Settings {
     library.add("Acme");
     settings = std::make_unique<SettingsWindow>(
         engine, SettingsServices{library.start(), menuBar, library.dialogs, library.viewer, tray,
-                                 taskbar, login, updates, [] { return nullptr; }});
+                                 taskbar, login, updates, [this] { return &hotKeySettings; }});
     settings->open(nullptr);
     QVERIFY(QTest::qWaitForWindowActive(&window()));
   }
