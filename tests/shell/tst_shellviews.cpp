@@ -105,6 +105,7 @@ class TestShellViews : public QObject {
     const auto open = [&] {
       views.press(Qt::Key_V, Qt::AltModifier);
       QTRY_VERIFY(views.item(entry, "Expanded"));
+      (void)views.window().grabWindow();  // the entries have their places then
     };
     const auto isChecked = [&](const char* name) {
       return QAccessible::queryAccessibleInterface(views.item(entry, name))->state().checked;

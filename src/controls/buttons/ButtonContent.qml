@@ -18,6 +18,7 @@ Item {
 
     readonly property real gap: text !== "" && symbol !== "" ? spacing : 0
 
+    enabled: false // presses and moves of the pointer needn't look here
     implicitWidth: (symbol !== "" ? mark.implicitWidth : 0) + gap + (text !== "" ? Math.ceil(label.implicitWidth) : 0)
     implicitHeight: Math.max(mark.implicitHeight, text !== "" ? label.implicitHeight : 0)
 

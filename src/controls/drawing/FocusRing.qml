@@ -15,6 +15,7 @@ RoundedRectangle {
     anchors.fill: parent
     anchors.margins: -2 - gap
     visible: shown
+    enabled: false
     radius: base + 2 + gap
     color: "transparent"
     edgeWidth: 2

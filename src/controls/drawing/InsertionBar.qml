@@ -10,6 +10,7 @@ RoundedRectangle {
     property bool flat: false
 
     visible: shown
+    enabled: false
     implicitWidth: flat ? 100 : 3
     implicitHeight: flat ? 3 : 100
     radius: 2

@@ -16,6 +16,7 @@ Item {
 
     implicitWidth: Math.round(size * 1.25)
     implicitHeight: implicitWidth
+    enabled: false // presses and moves of the pointer needn't look here
 
     Accessible.ignored: true
 

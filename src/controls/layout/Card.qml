@@ -15,6 +15,7 @@ Item {
 
     RoundedRectangle {
         anchors.fill: parent
+        enabled: false
         radius: root.radius
         color: root.color
     }
@@ -28,6 +29,7 @@ Item {
     // Ground inside the stroke, which would be lost on content of its colour.
     RoundedRectangle {
         anchors.fill: parent
+        enabled: false
         anchors.margins: 2
         visible: root.selected
         radius: root.radius - 2
@@ -38,6 +40,7 @@ Item {
 
     RoundedRectangle {
         anchors.fill: parent
+        enabled: false
         radius: root.radius
         color: "transparent"
         edgeWidth: root.selected ? 3 : 1

@@ -18,6 +18,7 @@ Item {
         radius: root.radius
         blur: root.blur
         drop: root.drop
+        strength: Theme.dark ? 0.5 : 0.2
     }
 
     RoundedRectangle {

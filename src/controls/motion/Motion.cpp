@@ -21,12 +21,18 @@ void Motion::setReduced(bool reduced) {
 }
 
 int Motion::duration(double response, double dampingFraction) const {
-  return time(
-      static_cast<int>(std::lround(Spring{response, dampingFraction}.settlingTime() * 1000)));
+  return time(curve({response, dampingFraction}).milliseconds);
 }
 
 QEasingCurve Motion::easing(double response, double dampingFraction) const {
-  return Spring{response, dampingFraction}.easing();
+  return curve({response, dampingFraction}).easing;
+}
+
+const Motion::Curve& Motion::curve(const Spring& spring) const {
+  for (const Curve& known : curves_)
+    if (known.spring == spring) return known;
+  const int milliseconds = static_cast<int>(std::lround(spring.settlingTime() * 1000));
+  return curves_.emplace_back(Curve{spring, milliseconds, spring.easing()});
 }
 
 }  // namespace tarnloft

@@ -6,6 +6,8 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
+#include <deque>
+
 class QJSEngine;
 class QQmlEngine;
 
@@ -41,7 +43,16 @@ class Motion : public QObject {
  private:
   explicit Motion(QObject* parent) : QObject(parent) {}
 
+  // Of a spring that views use: there are few, and each takes a thousand steps to find.
+  struct Curve {
+    Spring spring;
+    int milliseconds;
+    QEasingCurve easing;
+  };
+  const Curve& curve(const Spring& spring) const;
+
   bool reduced_ = false;
+  mutable std::deque<Curve> curves_;
 };
 
 }  // namespace tarnloft

@@ -10,6 +10,8 @@ struct Spring {
   double response = 0.5;
   double dampingFraction = 1;
 
+  bool operator==(const Spring&) const = default;
+
   // Where its end is, seen from where it comes to rest, and the rate of that per second.
   struct State {
     double offset;

@@ -1,7 +1,6 @@
 #include "controls/theme/Theme.h"
 
 #include "controls/buttons/ControlSize.h"
-#include "controls/drawing/ShadowProvider.h"
 #include "controls/theme/Typography.h"
 
 #include <QQmlEngine>
@@ -32,7 +31,6 @@ Theme::Theme(QObject* parent)
 
 Theme& Theme::of(QQmlEngine& engine) {
   if (auto* theme = engine.findChild<Theme*>(QString(), Qt::FindDirectChildrenOnly)) return *theme;
-  engine.addImageProvider(ShadowProvider::name(), new ShadowProvider);
   return *new Theme(&engine);
 }
 

@@ -55,6 +55,7 @@ Card {
         id: content
 
         anchors.fill: parent
+        enabled: root.failed || root.expanded // else there is nothing in it for the pointer
         sourceComponent: {
             switch (root.tile.kind) {
             case TileKind.Color:

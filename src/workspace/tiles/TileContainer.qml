@@ -66,6 +66,7 @@ Item {
         width: parent.width
         height: 16
         visible: root.captionHeight > 0
+        enabled: false
         text: root.tile.name
         horizontalAlignment: Text.AlignLeft // of right-to-left names too, under the card's edge
         font: Theme.font(12, Font.Medium)
@@ -77,6 +78,7 @@ Item {
         width: parent.width
         height: 14
         visible: root.captionHeight > 22
+        enabled: false
         text: root.tile.subcaption
         horizontalAlignment: Text.AlignLeft
         font: Theme.subheadline

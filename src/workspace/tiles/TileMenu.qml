@@ -44,15 +44,25 @@ Menu {
     }
 
     function putItem(menu: Menu, place: int, entry: var) {
-        const wanted = entry.text === "" ? divider : entry.telling ? line : command;
         const there = menu.itemAt(place);
-        const known = there as TileMenuItem;
-        if (wanted === command && known) {
-            known.entry = entry;
-        } else if (wanted !== divider || !(there as MenuSeparator)) {
-            drop(menu, place);
-            menu.insertItem(place, wanted.createObject(menu.contentItem, {entry: entry}) as Item);
+        if (entry.text === "") {
+            if (!(there as MenuSeparator))
+                put(menu, place, divider, {});
+        } else if (entry.telling) {
+            if (there as TileMenuLine)
+                (there as TileMenuLine).entry = entry;
+            else
+                put(menu, place, line, {entry: entry});
+        } else if (there as TileMenuItem) {
+            (there as TileMenuItem).entry = entry;
+        } else {
+            put(menu, place, command, {entry: entry});
         }
+    }
+
+    function put(menu: Menu, place: int, component: Component, properties: var) {
+        drop(menu, place);
+        menu.insertItem(place, component.createObject(menu.contentItem, properties) as Item);
     }
 
     // What stands there, if anything does.
@@ -72,18 +82,11 @@ Menu {
     }
 
     readonly property Component divider: Component {
-        MenuSeparator {
-            property var entry
-        }
+        MenuSeparator {}
     }
 
     readonly property Component line: Component {
-        MenuTitle {
-            required property var entry
-
-            text: entry.text
-            prominent: entry.prominent
-        }
+        TileMenuLine {}
     }
 
     readonly property Component subMenu: Component {
