@@ -43,6 +43,8 @@ struct Bench : Views {
     library.add("Acme", {section});
     start();
     Motion::of(engine).setReduced(true);
+    main->prepareSheets();
+    QTest::qWait(500);
     frame();
   }
 

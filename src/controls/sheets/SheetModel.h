@@ -21,16 +21,15 @@ class SheetModel : public QObject {
   // type.
   virtual QString view() const = 0;
 
+  // Of the file of that name in the module of that name.
+  static QString viewURL(const char* module, const char* name);
+
   // It has left the window, and goes after this.
   virtual void ended() {}
 
  signals:
   // It isn't wanted any more: its subject has gone, or its work is done. The host closes it.
   void finished();
-
- protected:
-  // Of the file of that name in the module of that name.
-  static QString viewURL(const char* module, const char* name);
 };
 
 }  // namespace tarnloft

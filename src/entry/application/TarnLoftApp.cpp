@@ -195,7 +195,10 @@ void TarnLoftApp::firstFrameShown() {
   appDelegate_.installMenuBar();
   updater_.start();
   services_.media.work.resume();
-  QTimer::singleShot(viewsPatience, &settingsWindow_, &SettingsWindow::prepare);
+  QTimer::singleShot(viewsPatience, this, [this] {
+    mainWindow_.prepareSheets();
+    settingsWindow_.prepare();
+  });
   QTimer::singleShot(panelPause, this, [this] { appDelegate_.menuBar()->panel().prepare(); });
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sheets/SheetViews.h"
 #include "shell/window/ContentModel.h"
 #include "shell/window/WindowState.h"
 
@@ -29,6 +30,8 @@ class MainWindow : public QObject {
   // Opens the window where it stood last; nothing if it is open. What its first frame does without
   // follows. False if its views can't be made, which a broken installation alone explains.
   bool open();
+  // Loads the views of its sheets beside other work. To be called when there is time.
+  void prepareSheets() { sheetViews_.load(engine_); }
   // Null while it is closed.
   QQuickWindow* window() const { return window_.get(); }
   // Null while it is closed.
@@ -58,6 +61,7 @@ class MainWindow : public QObject {
   std::unique_ptr<ContentModel> content_;
   std::unique_ptr<QQuickWindow> window_;
   QQmlComponent lateViews_;
+  SheetViews sheetViews_;
   bool isShown_ = false;  // the window has shown a frame
   QTimer settled_;        // a moment after the last change of the window's place
 };
