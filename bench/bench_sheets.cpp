@@ -72,6 +72,8 @@ struct Bench : Views {
     frame();
     return double(clock.nsecsElapsed()) / 1e6;
   }
+  void rightPress(QPoint at) const { QTest::mousePress(&window(), Qt::RightButton, {}, at); }
+  void rightRelease(QPoint at) const { QTest::mouseRelease(&window(), Qt::RightButton, {}, at); }
   void closeSheet() const {
     press(Qt::Key_Escape);
     settle();
@@ -96,9 +98,20 @@ Opening opening(const Bench& bench, const std::function<void()>& open,
   return result;
 }
 
+// By a press as well: the window asks all its items for whom it is, whatever it opens.
 constexpr char menuReference[] = R"(
+  import QtQuick
   import QtQuick.Controls.Basic
-  Menu { MenuItem { text: "One" } MenuItem { text: "Two" } MenuItem { text: "Three" } })";
+  MouseArea {
+    id: place
+    property Menu opened
+    width: 40; height: 40; acceptedButtons: Qt.RightButton
+    onPressed: { opened = three.createObject(place); opened.popup() }
+    Component {
+      id: three
+      Menu { MenuItem { text: "One" } MenuItem { text: "Two" } MenuItem { text: "Three" } }
+    }
+  })";
 constexpr char sheetReference[] = R"(
   import QtQuick
   import QtQuick.Controls.Basic
@@ -107,15 +120,32 @@ constexpr char sheetReference[] = R"(
     Column { TextField { focus: true } TextField {} TextField {} }
   })";
 
-// A popup of the toolkit's own in the same window, made at each opening.
-Opening reference(Bench& bench, const char* qml) {
+std::unique_ptr<QObject> made(Bench& bench, const char* qml) {
+  QQmlComponent component(&bench.engine);
+  component.setData(qml, QUrl());
+  std::unique_ptr<QObject> object(component.createWithInitialProperties(
+      {{"parent", QVariant::fromValue(bench.window().contentItem())}}));
+  if (!object) qFatal("%s", qPrintable(component.errorString()));
+  return object;
+}
+
+// A menu and a popup of the toolkit's own in the same window, made at each opening.
+Opening referenceMenu(Bench& bench) {
+  const auto place = made(bench, menuReference);
+  bench.frame();
+  const auto open = [&] { bench.rightPress({20, 20}); };
+  const auto close = [&] {
+    bench.rightRelease({20, 20});
+    delete place->property("opened").value<QObject*>();
+    bench.frame();
+  };
+  return opening(bench, open, close);
+}
+
+Opening referencePopup(Bench& bench) {
   QObject* popup = nullptr;
   const auto open = [&] {
-    QQmlComponent component(&bench.engine);
-    component.setData(qml, QUrl());
-    popup = component.createWithInitialProperties(
-        {{"parent", QVariant::fromValue(bench.window().contentItem())}});
-    if (!popup) qFatal("%s", qPrintable(component.errorString()));
+    popup = made(bench, sheetReference).release();
     QMetaObject::invokeMethod(popup, "open");
   };
   const auto close = [&] {
@@ -137,16 +167,20 @@ void compare(const char* what, const Opening& ours, const Opening& theirs) {
 
 void benchOpening() {
   Bench bench(20);
-  const Opening toolkitMenu = reference(bench, menuReference);
-  const Opening toolkitSheet = reference(bench, sheetReference);
+  const Opening toolkitMenu = referenceMenu(bench);
+  const Opening toolkitSheet = referencePopup(bench);
   const auto closeSheet = [&] { bench.closeSheet(); };
   const auto compareSheet = [&](const char* what, const std::function<void()>& open) {
     compare(what, opening(bench, open, closeSheet), toolkitSheet);
   };
-  QQuickItem* const tile = bench.item(row, "Color");
+  const QPoint tile = Bench::centerOf(bench.item(row, "Color"));
+  const auto closeMenu = [&] {
+    bench.rightRelease(tile);
+    bench.closeSheet();
+  };
   compare("a tile's menu",
           opening(
-              bench, [&] { bench.click(tile, Qt::RightButton); }, closeSheet),
+              bench, [&] { bench.rightPress(tile); }, closeMenu),
           toolkitMenu);
   compareSheet("the colour editor", [&] { bench.commands().edit(bench.color.id); });
   compareSheet("the gradient editor", [&] { bench.commands().edit(bench.gradient.id); });

@@ -20,5 +20,4 @@ RoundedRectangle {
     color: "transparent"
     edgeWidth: 2
     edgeColor: Theme.focusRing
-    Accessible.ignored: true
 }

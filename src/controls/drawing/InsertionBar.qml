@@ -15,5 +15,4 @@ RoundedRectangle {
     implicitHeight: flat ? 3 : 100
     radius: 2
     color: Theme.accent
-    Accessible.ignored: true
 }

@@ -18,8 +18,6 @@ Item {
     implicitHeight: implicitWidth
     enabled: false // presses and moves of the pointer needn't look here
 
-    Accessible.ignored: true
-
     Text {
         readonly property int em: Math.round(root.size * 1.25)
 
@@ -31,6 +29,5 @@ Item {
         text: SymbolGlyphs.text(root.name)
         color: root.color
         textFormat: Text.PlainText
-        Accessible.ignored: true
     }
 }

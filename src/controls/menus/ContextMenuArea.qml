@@ -25,7 +25,6 @@ Item {
     }
 
     anchors.fill: parent
-    Accessible.ignored: true
 
     MouseArea {
         anchors.fill: parent

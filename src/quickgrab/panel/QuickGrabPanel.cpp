@@ -74,7 +74,11 @@ void QuickGrabPanel::prepare() {
 void QuickGrabPanel::makeAhead() {
   if (window_ || !component_ || !component_->isReady()) return;
   grab_.setActive(true);
-  if (make()) place({});
+  if (make()) {
+    place({});
+    // Its fonts, glyphs and nodes. The other scene graphs would begin anew for the screen.
+    if (QQuickWindow::sceneGraphBackend() == QLatin1String("software")) (void)window_->grabWindow();
+  }
   grab_.setActive(false);
 }
 

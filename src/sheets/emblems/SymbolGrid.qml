@@ -182,7 +182,6 @@ FocusScope {
             name: modelData
             size: 17
             color: modelData === root.picker.symbol ? Theme.onAccent : Theme.label
-            Accessible.ignored: false
             Accessible.role: Accessible.RadioButton
             Accessible.name: root.picker.spoken(modelData)
             Accessible.checkable: true
