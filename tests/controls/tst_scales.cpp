@@ -92,6 +92,35 @@ class TestScales : public QObject {
     });
   }
 
+  // Whether it is large enough to be pieced together or not: dark beside its caster, falling off
+  // smoothly and alike on both sides.
+  void shadowsFallOffEvenly() {
+    const Cases<QSize> cases{{"large", QSize(200, 160)}, {"small", QSize(60, 50)}};
+    cases.check([&](const QSize& size) {
+      Stage stage(QString("Rectangle { anchors.fill: parent; color: 'white'\n"
+                          "Shadow { anchors.fill: card; radius: 10; blur: 10; strength: 0.5 }\n"
+                          "Rectangle { id: card; x: 80; y: 80; width: %1; height: %2; radius: 10\n"
+                          "  color: 'black' } }")
+                      .arg(size.width())
+                      .arg(size.height()));
+      QVERIFY(stage.ready());
+      const qreal ratio = stage.window()->effectiveDevicePixelRatio();
+      const QImage window = stage.window()->grabWindow().convertToFormat(QImage::Format_RGB32);
+      const QImage shown =
+          window.copy(QRect((QPointF(40, 40) * ratio).toPoint(), ((size + QSize(80, 80)) * ratio)));
+      int before = 255;
+      for (int x = 0; x < int(38 * ratio); ++x) {
+        const int middle = shown.height() / 2;
+        const int grey = qGray(shown.pixel(x, middle));
+        QVERIFY2(grey <= before && before - grey <= 12, qPrintable(QString::number(x)));
+        const int other = qGray(shown.pixel(shown.width() - 1 - x, middle));
+        QVERIFY2(std::abs(grey - other) <= 16, qPrintable(QString::number(x)));
+        before = grey;
+      }
+      QVERIFY2(before < 230, qPrintable(QString::number(before)));
+    });
+  }
+
   void emojiAreInColor() {
     const Cases<QString, QString> cases{{"in a text", "body", "R&D 🌿"},
                                         {"in a large text", "largeTitle", "R&D 🌿"},
