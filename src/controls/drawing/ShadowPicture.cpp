@@ -99,8 +99,8 @@ ShadowPicture ShadowPicture::of(const ShadowLook& look, QSize bounds) {
   const bool isStretched = bounds.width() >= least && bounds.height() >= least;
   const Key key{look, isStretched ? QSize() : bounds};
   if (const ShadowPicture* const found = kept.object(key)) return *found;
-  const ShadowPicture made(shadow(look, isStretched ? QSize(least, least) : bounds),
-                           isStretched ? look.border() : 0);
+  ShadowPicture made(shadow(look, isStretched ? QSize(least, least) : bounds),
+                     isStretched ? look.border() : 0);
   kept.insert(key, new ShadowPicture(made), made.image_.sizeInBytes());
   return made;
 }
