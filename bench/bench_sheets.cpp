@@ -131,9 +131,11 @@ std::unique_ptr<QObject> made(Bench& bench, const char* qml) {
 
 // A menu and a popup of the toolkit's own in the same window, made at each opening.
 Opening referenceMenu(Bench& bench) {
-  const auto place = made(bench, menuReference);
-  bench.frame();
-  const auto open = [&] { bench.rightPress({20, 20}); };
+  std::unique_ptr<QObject> place;
+  const auto open = [&] {
+    if (!place) place = made(bench, menuReference);  // ours loads at its first opening as well
+    bench.rightPress({20, 20});
+  };
   const auto close = [&] {
     bench.rightRelease({20, 20});
     delete place->property("opened").value<QObject*>();
