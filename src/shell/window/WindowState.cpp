@@ -74,10 +74,11 @@ WindowState WindowState::fitting(const QList<QRect>& screens) const {
 void rightSizeWindow(QWindow* window, Preferences& preferences) {
   if (preferences.text(keys::didRightSizeWindow) == yes) return;
   if (window && window->frameGeometry().width() < 1000) {
-    window->resize(WindowState::defaultSize);
-    const QRect content({}, WindowState::defaultSize);
-    QRect frame = content.marginsAdded(window->frameMargins());
-    frame.moveCenter(window->screen()->availableGeometry().center());
+    const QRect room = window->screen()->availableGeometry();
+    window->resize(WindowState().fitting({room}).size);
+    QRect frame = window->geometry().marginsAdded(window->frameMargins());
+    frame.moveCenter(room.center());
+    frame.moveTop(std::max(frame.top(), room.top()));
     window->setFramePosition(frame.topLeft());
   }
   preferences.setText(keys::didRightSizeWindow, yes);

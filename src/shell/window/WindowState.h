@@ -34,7 +34,8 @@ struct WindowState {
 };
 
 // Once in a user's life: a window narrower than 1000 points, as an early version may have left it,
-// gets the default size in the middle of its screen. Null counts as done.
+// gets the default size in the middle of its screen, or what of it that has room for. Null counts
+// as done.
 void rightSizeWindow(QWindow* window, Preferences& preferences);
 
 }  // namespace tarnloft
