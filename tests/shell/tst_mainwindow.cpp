@@ -68,7 +68,7 @@ class TestMainWindow : public QObject {
     window.resize(990, 700);
     rightSizeWindow(&window, preferences);
     const QRect room = window.screen()->availableGeometry();
-    QCOMPARE(window.size(), WindowState::defaultSize.boundedTo(room.size()).expandedTo({860, 580}));
+    QVERIFY(window.height() + 60 <= room.height());  // with a title bar and a panel
     QVERIFY(window.framePosition().y() >= room.top());
     window.resize(900, 700);
     rightSizeWindow(&window, preferences);

@@ -32,6 +32,11 @@ QRect titleBar(QPoint position, QSize size) { return {position, QSize(size.width
 
 }  // namespace
 
+QSize WindowState::firstSize(QSize room) {
+  constexpr QSize besides(0, 90);
+  return defaultSize.boundedTo(room - besides).expandedTo(minimumSize);
+}
+
 WindowState WindowState::read(const Preferences& store) {
   WindowState state;
   const auto x = coordinate(store, keys::x);
@@ -67,7 +72,8 @@ WindowState WindowState::fitting(const QList<QRect>& screens) const {
   if (screen == screens.cend()) state.position.reset();
   if (screens.isEmpty()) return state;
   const QRect& room = screen == screens.cend() ? screens.first() : *screen;
-  state.size = size.boundedTo(room.size()).expandedTo(minimumSize);
+  state.size = size == defaultSize ? firstSize(room.size())
+                                   : size.boundedTo(room.size()).expandedTo(minimumSize);
   return state;
 }
 
@@ -75,7 +81,7 @@ void rightSizeWindow(QWindow* window, Preferences& preferences) {
   if (preferences.text(keys::didRightSizeWindow) == yes) return;
   if (window && window->frameGeometry().width() < 1000) {
     const QRect room = window->screen()->availableGeometry();
-    window->resize(WindowState().fitting({room}).size);
+    window->resize(WindowState::firstSize(room.size()));
     QRect frame = window->geometry().marginsAdded(window->frameMargins());
     frame.moveCenter(room.center());
     frame.moveTop(std::max(frame.top(), room.top()));

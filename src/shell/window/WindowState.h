@@ -24,6 +24,10 @@ struct WindowState {
 
   bool operator==(const WindowState&) const = default;
 
+  // As large as the default, where a screen of that room has place for it beside a title bar and a
+  // panel: on Wayland the room is the whole screen.
+  static QSize firstSize(QSize room);
+
   // What can't be understood takes its default.
   static WindowState read(const Preferences& store);
   void write(Preferences& store) const;
