@@ -13,6 +13,7 @@
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QQmlComponent>
+#include <QSignalSpy>
 
 #include <cstdio>
 
@@ -243,17 +244,22 @@ void benchSettings() {
     SettingsWindow settings(
         bench.engine, {*bench.library.store, menuBar, bench.library.dialogs, bench.library.viewer,
                        tray, taskbar, login, updates, [] { return nullptr; }});
+    // The frame of the showing itself: what was drawn ahead isn't on the screen.
+    const auto awaitFrame = [](const QQuickWindow& window) {
+      const QSignalSpy frames(&window, &QQuickWindow::frameSwapped);
+      while (frames.isEmpty()) QCoreApplication::processEvents();
+    };
     const auto openTheirs = [&] {
       QQmlComponent component(&bench.engine);
       component.setData(windowReference, QUrl());
       const std::unique_ptr<QObject> made(component.create());
       auto* const window = qobject_cast<QQuickWindow*>(made.get());
       window->show();
-      (void)window->grabWindow();
+      awaitFrame(*window);
     };
     const auto openOurs = [&] {
       settings.open(nullptr);
-      (void)settings.window()->grabWindow();
+      awaitFrame(*settings.window());
     };
     settings.prepare();
     QTest::qWait(100);

@@ -28,8 +28,14 @@ SettingsModel::SettingsModel(const SettingsServices& services, QObject* parent)
   slowness_.setInterval(1500ms);
   desktopCheck_.setInterval(3s);
   connect(&desktopCheck_, &QTimer::timeout, this, &SettingsModel::lookAtDesktop);
-  desktopCheck_.start();
   lookAtDesktop();
+}
+
+void SettingsModel::followDesktop() {
+  lookAtDesktop();
+  desktopCheck_.start();
+  emit loginChanged();
+  emit desktopChanged();
 }
 
 void SettingsModel::chooseFolder() {

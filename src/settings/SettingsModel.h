@@ -49,7 +49,7 @@ class SettingsModel : public QObject {
       QColor defaultAccent READ defaultAccent WRITE setDefaultAccent NOTIFY defaultAccentChanged)
   Q_PROPERTY(tarnloft::UpdaterViewModel* updater READ updater CONSTANT)
   Q_PROPERTY(tarnloft::MenuBarPrefs* menuBar READ menuBar CONSTANT)
-  Q_PROPERTY(tarnloft::HotKeySettings* hotKey READ hotKey CONSTANT)
+  Q_PROPERTY(tarnloft::HotKeySettings* hotKey READ hotKey NOTIFY desktopChanged)
   // The session starts the program, without a window.
   Q_PROPERTY(bool startsAtLogin READ startsAtLogin NOTIFY loginChanged)
   // Why that couldn't be changed; empty if it could.
@@ -60,6 +60,9 @@ class SettingsModel : public QObject {
 
  public:
   explicit SettingsModel(const SettingsServices& services, QObject* parent = nullptr);
+
+  // What tells of no change is looked at, now and again: from the window's showing on.
+  void followDesktop();
 
   const QString& location() const { return services_.library.libraryURL(); }
   const QString& refusal() const { return refusal_; }

@@ -2,77 +2,95 @@
 
 #include <QQuickWindow>
 #include <QScreen>
+#include <QTimer>
 
 #include <algorithm>
+#include <chrono>
 
 namespace tarnloft {
 namespace {
 
 const auto url = QStringLiteral("qrc:/qt-project.org/imports/TarnLoft/Settings/SettingsWindow.qml");
 
+using namespace std::chrono_literals;
+
+constexpr auto remaking = 1s;  // behind a closing, for the next opening
 constexpr int frameRoom = 60;  // for the desktop's own at both ends of the window
 
 }  // namespace
 
 SettingsWindow::SettingsWindow(QQmlEngine& engine, const SettingsServices& services)
-    : services_(services), component_(&engine) {}
+    : services_(services), component_(&engine) {
+  connect(&component_, &QQmlComponent::statusChanged, this, &SettingsWindow::makeAhead,
+          Qt::QueuedConnection);
+}
 
-// Before what it shows.
-SettingsWindow::~SettingsWindow() { window_.reset(); }
+SettingsWindow::~SettingsWindow() = default;
 
 void SettingsWindow::prepare() {
   if (component_.isNull()) component_.loadUrl(QUrl(url), QQmlComponent::Asynchronous);
 }
 
+void SettingsWindow::makeAhead() {
+  if (shown_ || ahead_ || !component_.isReady()) return;
+  ahead_ = make();
+  // Its fonts, glyphs and nodes. The other scene graphs would begin anew for the screen.
+  const bool keeps = QQuickWindow::sceneGraphBackend() == QLatin1String("software");
+  if (ahead_ && keeps) (void)ahead_->window->grabWindow();
+}
+
 void SettingsWindow::open(const QWindow* over) {
-  if (!window_) {
-    if (!make()) return;
+  if (!shown_) {
+    shown_ = ahead_ ? std::move(ahead_) : make();
+    if (!shown_) return;
+    shown_->model->followDesktop();
+    // Behind the event, which still uses the window.
+    connect(window(), &QQuickWindow::visibleChanged, this, &SettingsWindow::close,
+            Qt::QueuedConnection);
     if (over && over->isVisible()) place(*over);
-  } else if (window_->windowStates() & Qt::WindowMinimized) {
-    window_->showNormal();
+  } else if (window()->windowStates() & Qt::WindowMinimized) {
+    window()->showNormal();
   }
-  window_->show();
-  window_->raise();
-  window_->requestActivate();
+  window()->show();
+  window()->raise();
+  window()->requestActivate();
 }
 
 void SettingsWindow::openAtUpdates(const QWindow* over) {
   open(over);
-  if (window_) QMetaObject::invokeMethod(window_.get(), "showUpdates");
+  if (shown_) QMetaObject::invokeMethod(window(), "showUpdates");
 }
 
-bool SettingsWindow::make() {
-  auto model = std::make_unique<SettingsModel>(services_);
+std::unique_ptr<SettingsWindow::View> SettingsWindow::make() {
+  auto view = std::make_unique<View>();
+  view->model = std::make_unique<SettingsModel>(services_);
   if (!component_.isReady()) component_.loadUrl(QUrl(url), QQmlComponent::PreferSynchronous);
   std::unique_ptr<QObject> made(component_.createWithInitialProperties(
-      {{QStringLiteral("model"), QVariant::fromValue(model.get())}}));
-  window_.reset(qobject_cast<QQuickWindow*>(made.get()));
-  if (!window_) {
+      {{QStringLiteral("model"), QVariant::fromValue(view->model.get())}}));
+  view->window.reset(qobject_cast<QQuickWindow*>(made.get()));
+  if (!view->window) {
     qCritical("%s", qPrintable(component_.errorString()));
-    return false;
+    return nullptr;
   }
   (void)made.release();
-  model_ = std::move(model);
-  // Behind the event, which still uses the window.
-  connect(window_.get(), &QQuickWindow::visibleChanged, this, &SettingsWindow::close,
-          Qt::QueuedConnection);
-  return true;
+  return view;
 }
 
 void SettingsWindow::place(const QWindow& over) {
   const QRect room = over.screen()->availableGeometry();
-  window_->setScreen(over.screen());
-  window_->resize(window_->width(), std::min(window_->height(), room.height() - frameRoom));
-  QRect frame({}, window_->size());
+  QQuickWindow& window = *shown_->window;
+  window.setScreen(over.screen());
+  window.resize(window.width(), std::min(window.height(), room.height() - frameRoom));
+  QRect frame({}, window.size());
   frame.moveCenter(over.geometry().center());
   frame.moveTop(std::max(frame.top(), room.top() + frameRoom / 2));
-  window_->setFramePosition(frame.topLeft());
+  window.setFramePosition(frame.topLeft());
 }
 
 void SettingsWindow::close() {
-  if (!window_ || window_->isVisible()) return;
-  window_.reset();
-  model_.reset();
+  if (!shown_ || window()->isVisible()) return;
+  shown_.reset();
+  QTimer::singleShot(remaking, this, &SettingsWindow::makeAhead);
   emit closed();
 }
 

@@ -65,7 +65,8 @@ struct Settings {
   QQmlEngine engine;
   std::unique_ptr<SettingsWindow> settings;
 
-  void open() {
+  // Made ahead and then shown, behind what happens between the two.
+  void open(const std::function<void()>& meanwhile = [] {}) {
     QTest::failOnWarning(QRegularExpression("qrc:|QML|Binding"));
     QAccessible::setActive(true);
     prepareTypography();
@@ -73,7 +74,11 @@ struct Settings {
     settings = std::make_unique<SettingsWindow>(
         engine, SettingsServices{library.start(), menuBar, library.dialogs, library.viewer, tray,
                                  taskbar, login, updates, [this] { return &hotKeySettings; }});
+    settings->prepare();
+    QTRY_COMPARE(QGuiApplication::allWindows().size(), 1);
+    meanwhile();
     settings->open(nullptr);
+    QCOMPARE(QGuiApplication::allWindows().size(), 1);
     QVERIFY(QTest::qWaitForWindowActive(&window()));
   }
   QQuickWindow& window() const { return *settings->window(); }
@@ -252,13 +257,16 @@ class TestSettings : public QObject {
 
   void opensOnceAndTellsWhatTheDesktopLacks() {
     Settings settings;
-    settings.tray.isThere = false;
-    settings.open();
+    settings.open([&] {
+      settings.tray.isThere = false;
+      settings.login.isThere = true;
+    });
     QVERIFY(!settings.item("Keep running in the tray"));  // Tab doesn't lead there
     QVERIFY(!settings.item("Show in taskbar"));
     QVERIFY(settings.texts().filter("has no tray").size() == 1);
     settings.tray.isThere = true;
     QTRY_VERIFY(settings.item("Keep running in the tray"));
+    QVERIFY(settings.isChecked("Start at login"));
     const QQuickWindow* const first = &settings.window();
     settings.settings->open(nullptr);
     QCOMPARE(&settings.window(), first);
