@@ -5,9 +5,12 @@
 #include <QKeyEvent>
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace tarnloft {
+
+using namespace std::chrono_literals;
 
 // Runs while views are on their way, once a frame.
 class TileFlow::Clock : public QAbstractAnimation {
@@ -46,6 +49,12 @@ std::optional<FlowLayout::Direction> directionOf(int key) {
 TileFlow::TileFlow(QQuickItem* parent)
     : QQuickItem(parent), live_(*this), clock_(std::make_unique<Clock>(*this)) {
   setAcceptedMouseButtons(Qt::RightButton);
+  tidying_.setSingleShot(true);
+  tidying_.setInterval(1s);
+  tidying_.callOnTimeout(this, [this] {
+    constexpr size_t mostWaiting = 12;
+    live_.trim(mostWaiting);
+  });
 }
 
 TileFlow::~TileFlow() = default;
@@ -275,8 +284,7 @@ void TileFlow::placeViews() {
   live_.forEach([this](LiveTile& live) {
     if (live.index >= 0) put(live, layout_.rect(live.index));
   });
-  constexpr size_t mostWaiting = 12;
-  live_.trim(mostWaiting);
+  tidying_.start();
 }
 
 void TileFlow::put(LiveTile& live, const QRectF& rect) {

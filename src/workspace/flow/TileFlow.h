@@ -4,6 +4,7 @@
 #include "workspace/flow/LiveTiles.h"
 
 #include <QAbstractAnimation>
+#include <QTimer>
 
 namespace tarnloft {
 
@@ -115,6 +116,7 @@ class TileFlow : public QQuickItem {
   QUuid current_;                  // the one tile that the Tab key stops at
   LiveTiles live_;
   std::unique_ptr<Clock> clock_;
+  QTimer tidying_;  // of views that wait, at rest: the next letter may need them again
 };
 
 }  // namespace tarnloft
