@@ -170,10 +170,6 @@ void QuickGrab::chooseBrand(const QString& packageURL) {
   if (library_.selection() != packageURL) library_.select(packageURL);
 }
 
-QRect QuickGrab::currentRoom() const {
-  return current_ < 0 ? QRect() : layout().things[size_t(current_)].room;
-}
-
 // Where the current entry stands by now; while there is a search, the first one in its place.
 void QuickGrab::placeCurrent() {
   std::optional<size_t> place;
@@ -186,10 +182,12 @@ void QuickGrab::placeCurrent() {
   setCurrentPlace(place ? int(*place) : -1);
 }
 
+// All that shows asks then whether it is the one.
 void QuickGrab::setCurrentPlace(int place) {
-  current_ = place;
+  const int before = std::exchange(current_, place);
   currentID_ = place < 0 ? QUuid() : content_.idOf(size_t(place));
-  emit currentChanged();
+  const QRect room = place < 0 ? QRect() : layout().things[size_t(place)].room;
+  if (std::exchange(currentRoom_, room) != room || before != place) emit currentChanged();
 }
 
 void QuickGrab::setCurrent(int place) {

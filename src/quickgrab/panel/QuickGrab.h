@@ -76,7 +76,7 @@ class QuickGrab : public QObject {
   GrabList* things() { return &list_; }
   int contentHeight() const { return layout().height; }
   int current() const { return current_; }
-  QRect currentRoom() const;
+  const QRect& currentRoom() const { return currentRoom_; }
   const QString& flashText() const { return flashText_; }
   Thumbnails* thumbnails() const { return &services_.thumbnails; }
 
@@ -142,6 +142,7 @@ class QuickGrab : public QObject {
   int sightHeight_ = 480;
   int current_ = -1;
   QUuid currentID_;
+  QRect currentRoom_;
   QString flashText_;
   QTimer flashEnd_;
   DragPreparation dragPreparation_{services_.dragThreads};
