@@ -27,7 +27,7 @@ struct TestPanel : TestDesktop {
   // Each thing in sight as "kind name", a header with its count.
   QStringList shown() const {
     QStringList result;
-    for (const GrabThing& thing : grab->things()->things()) {
+    for (const GrabThing& thing : grab->things()) {
       const bool isHeader =
           thing.kind == GrabKind::BlockHeader || thing.kind == GrabKind::GroupHeader;
       result << QStringLiteral("%1 %2").arg(
@@ -39,7 +39,7 @@ struct TestPanel : TestDesktop {
   }
   // The place of the thing of that name.
   int place(const QString& name) const {
-    for (const GrabThing& thing : grab->things()->things())
+    for (const GrabThing& thing : grab->things())
       if (thing.name == name) return thing.place;
     return -1;
   }

@@ -2,12 +2,14 @@
 #include "controls/theme/Theme.h"
 #include "controls/theme/Typography.h"
 #include "quickgrab/TestPanel.h"
+#include "quickgrab/panel/GrabViews.h"
 #include "quickgrab/panel/PanelPlacement.h"
 #include "quickgrab/panel/QuickGrabPanel.h"
 #include "testing/Cases.h"
 
 #include <QAccessible>
 #include <QQmlEngine>
+#include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QTest>
 #include <QtQml/qqmlextensionplugin.h>
@@ -71,6 +73,41 @@ class TestPanelWindow : public QObject {
       panel.toggle(QuickGrabPanel::By::key);
       QCOMPARE(panel.isShown(), shows);
     }
+  }
+
+  // Views turn from one thing into another, but none under a press.
+  void viewsFollowWhatIsTyped() {
+    QTest::failOnWarning(QRegularExpression("qrc:|QML|Binding"));
+    prepareTypography();
+    TestPanel desk(
+        {sectionOfAll(), colorSection("Greys", 30), sectionOf("More", {textItem("Sun")})});
+    for (const auto set : {&MenuBarPrefs::setShowType, &MenuBarPrefs::setShowCode})
+      (*desk.prefs.*set)(true);
+    QQmlEngine engine;
+    QuickGrabPanel panel(engine, desk.grabServices(), [] { return true; });
+    panel.show();
+    QVERIFY(QTest::qWaitForWindowActive(panel.window()));
+    const auto* const views = panel.window()->findChild<GrabViews*>();
+    QRandomGenerator random(7);
+    for (int round = 0; round < 60; ++round) {
+      const QStringList texts{"", "", "s", "se", "i", "a", "2", "greys", "nothing"};
+      panel.grab().setSearch(texts.at(random.bounded(texts.size())));
+      QList<GrabThing> shown;
+      for (const QQuickItem* const view : views->childItems()) {
+        if (!view->isVisible()) continue;
+        shown << view->property("thing").value<GrabThing>();
+        QCOMPARE(view->position().toPoint(), shown.last().room.topLeft());
+      }
+      QCOMPARE(shown, panel.grab().things());
+    }
+    panel.grab().setSearch("sky");
+    const QPoint at = views->mapToScene(panel.grab().things().last().room.center()).toPoint();
+    QTest::mousePress(panel.window(), Qt::LeftButton, {}, at);
+    panel.grab().setSearch("sea");  // which stands there now
+    QTest::mouseRelease(panel.window(), Qt::LeftButton, {}, at);
+    QVERIFY(desk.pasteboard.texts.isEmpty());
+    QTest::mouseClick(panel.window(), Qt::LeftButton, {}, at);
+    QCOMPARE(desk.pasteboard.texts, QStringList{"#0000FF"});
   }
 
   // It goes with the keyboard; the click that took that doesn't bring it back, but the next one

@@ -1,7 +1,6 @@
 #include "quickgrab/TestPanel.h"
 #include "testing/Cases.h"
 
-#include <QAbstractItemModelTester>
 #include <QTest>
 
 using namespace tarnloft;
@@ -16,7 +15,6 @@ class TestQuickGrab : public QObject {
   // What the switches and the search leave of a brand.
   void reducesTheBrand() {
     TestPanel panel({sectionOfAll(), colorSection("Bare", 1), Section::create("None")});
-    const QAbstractItemModelTester tester(panel.grab->things());
     const auto setKinds = [&](const QString& kinds) {
       panel.prefs->setShowColors(kinds.contains('c'));
       panel.prefs->setShowLogos(kinds.contains('l'));
@@ -81,7 +79,7 @@ class TestQuickGrab : public QObject {
           QCOMPARE(panel.pasteboard.texts.takeLast(), text);
           QCOMPARE(panel.grab->flashText(), told);
         });
-    const auto& things = panel.grab->things()->things();
+    const auto& things = panel.grab->things();
     QCOMPARE(things.last().detail, QString("a { }"));  // a row has one line
     panel.grab->copy(panel.place("Mark"));
     QVERIFY(panel.pasteboard.texts.isEmpty());

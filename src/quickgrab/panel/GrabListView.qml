@@ -65,16 +65,13 @@ FocusScope {
         onHeightChanged: look()
         Component.onCompleted: look()
 
-        Item {
+        GrabViews {
             x: area.margin
             y: area.margin
-
-            Repeater {
-                model: root.grab.things
-                delegate: GrabThingView {
-                    grab: root.grab
-                    keyboard: root.marked || root.activeFocus && FocusOrigin.keyboard
-                }
+            grab: root.grab
+            view: GrabThingView {
+                grab: root.grab
+                keyboard: root.marked || root.activeFocus && FocusOrigin.keyboard
             }
         }
     }

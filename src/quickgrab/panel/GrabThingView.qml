@@ -12,6 +12,7 @@ Item {
     required property QuickGrab grab
     required property bool keyboard // the list is worked in by keys
 
+    readonly property bool held: tap.pressed // by a press that is for this thing
     readonly property bool isEntry: thing.kind !== GrabKind.BlockHeader && thing.kind !== GrabKind.GroupHeader
     readonly property bool isMedia: thing.kind === GrabKind.Media
     readonly property bool isCurrent: isEntry && grab.current === thing.place

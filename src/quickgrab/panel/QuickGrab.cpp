@@ -132,7 +132,7 @@ void QuickGrab::showList() {
   QList<GrabThing> things;
   things.reserve(qsizetype(last - first));
   for (size_t place = first; place < last; ++place) things << content_.thing(place, look);
-  list_.show(things);
+  if (std::exchange(things_, things) != things) emit thingsChanged();
 }
 
 QuickGrab::State QuickGrab::state() const {

@@ -10,7 +10,7 @@
 #include "quickgrab/MenuBarPrefs.h"
 #include "quickgrab/panel/BrandSearch.h"
 #include "quickgrab/panel/GrabContent.h"
-#include "quickgrab/panel/GrabList.h"
+#include "quickgrab/panel/GrabThing.h"
 
 #include <QQuickItem>
 #include <QTimer>
@@ -42,7 +42,6 @@ class QuickGrab : public QObject {
   Q_PROPERTY(QString brandName READ brandName NOTIFY brandChanged)
   Q_PROPERTY(tarnloft::EmblemLook emblem READ emblem NOTIFY brandChanged)
   Q_PROPERTY(QVariantList brands READ brands NOTIFY brandChanged)  // of BrandChoice
-  Q_PROPERTY(tarnloft::GrabList* things READ things CONSTANT)
   Q_PROPERTY(int contentHeight READ contentHeight NOTIFY changed)
   Q_PROPERTY(int current READ current NOTIFY currentChanged)  // an entry's place, or -1
   Q_PROPERTY(QRect currentRoom READ currentRoom NOTIFY currentChanged)
@@ -73,7 +72,8 @@ class QuickGrab : public QObject {
   QString brandName() const;
   EmblemLook emblem() const;
   QVariantList brands() const;
-  GrabList* things() { return &list_; }
+  // Those in sight, and a little beyond.
+  const QList<GrabThing>& things() const { return things_; }
   int contentHeight() const { return layout().height; }
   int current() const { return current_; }
   const QRect& currentRoom() const { return currentRoom_; }
@@ -97,6 +97,7 @@ class QuickGrab : public QObject {
 
  signals:
   void changed();
+  void thingsChanged();
   void brandChanged();
   void searchChanged();
   // The list is another one: it is shown from its top.
@@ -137,7 +138,7 @@ class QuickGrab : public QObject {
   QString packageURL_;
   QList<Section> sections_;
   GrabContent content_;
-  GrabList list_;
+  QList<GrabThing> things_;
   int sightTop_ = 0;
   int sightHeight_ = 480;
   int current_ = -1;
