@@ -55,7 +55,8 @@ QList<Section> sections(int items, int others = std::numeric_limits<int>::max())
 struct Panel {
   TestPanel desk;
   QQmlEngine engine;
-  QuickGrabPanel panel{engine, desk.grabServices(), [] { return true; }};
+  QuickGrabPanel panel{[this]() -> QQmlEngine& { return engine; }, desk.grabServices(),
+                       [] { return true; }};
 
   explicit Panel(const QList<Section>& sections) : desk(sections) {
     desk.grab->setActive(false);

@@ -84,6 +84,11 @@ int main() {
   QThread::sleep(1);
   const Program waiting(QStringLiteral(RESTING_WINDOW), environment);
   environment.insert(QStringLiteral("TARNLOFT_START"), QStringLiteral("hidden"));
+  {
+    // A session starts what its user has used before: the brands have their order.
+    const Program before(QStringLiteral(TARNLOFT_PROGRAM), environment);
+    QThread::sleep(5);
+  }
   const Program ours(QStringLiteral(TARNLOFT_PROGRAM), environment);
   QThread::sleep(settling);
   const Use before = ours.use(), theirsBefore = waiting.use();

@@ -71,8 +71,8 @@ struct Running {
            [this](std::function<void()> onOpenApp) {
              return std::make_unique<MenuBarController>(
                  tray, hotKey, prefs, panel.library.beep,
-                 std::make_unique<QuickGrabPanel>(engine, panel.grabServices(),
-                                                  [] { return true; }),
+                 std::make_unique<QuickGrabPanel>([&]() -> QQmlEngine& { return engine; },
+                                                  panel.grabServices(), [] { return true; }),
                  MenuBarActions{.onOpenApp = std::move(onOpenApp), .onQuit = [this] { ++ended; }});
            }}};
 };

@@ -34,7 +34,8 @@ class TestPanelWindow : public QObject {
     QQmlEngine engine;
     Theme::of(engine);
     Motion::of(engine).setReduced(true);
-    QuickGrabPanel panel(engine, desk.grabServices(), [] { return true; });
+    QuickGrabPanel panel([&]() -> QQmlEngine& { return engine; }, desk.grabServices(),
+                         [] { return true; });
     const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
       QTest::keyClick(panel.window(), key, modifiers);
     };
@@ -84,7 +85,8 @@ class TestPanelWindow : public QObject {
     for (const auto set : {&MenuBarPrefs::setShowType, &MenuBarPrefs::setShowCode})
       (*desk.prefs.*set)(true);
     QQmlEngine engine;
-    QuickGrabPanel panel(engine, desk.grabServices(), [] { return true; });
+    QuickGrabPanel panel([&]() -> QQmlEngine& { return engine; }, desk.grabServices(),
+                         [] { return true; });
     panel.show();
     QVERIFY(QTest::qWaitForWindowActive(panel.window()));
     const auto* const views = panel.window()->findChild<GrabViews*>();
@@ -116,7 +118,8 @@ class TestPanelWindow : public QObject {
     prepareTypography();
     TestPanel desk({sectionOfAll()});
     QQmlEngine engine;
-    QuickGrabPanel panel(engine, desk.grabServices(), [] { return true; });
+    QuickGrabPanel panel([&]() -> QQmlEngine& { return engine; }, desk.grabServices(),
+                         [] { return true; });
     QWindow other;
     panel.show();
     QVERIFY(QTest::qWaitForWindowActive(panel.window()));

@@ -1,8 +1,7 @@
 #include "entry/application/TarnLoftApp.h"
 
 #include "assets/DropImport.h"
-#include "controls/motion/Motion.h"
-#include "controls/symbols/SymbolFont.h"
+#include "pictures/HexColor.h"
 #include "platform/desktop/window/ScreenComposition.h"
 #include "platform/desktop/window/WindowActivation.h"
 
@@ -32,27 +31,27 @@ constexpr auto portalPatience =
     30ms;  // with what it tells of light and dark, before the first frame
 
 // The theme's colours as the toolkit's own drawing wants them.
-QPalette toolkitColors(const Theme& theme) {
+QPalette toolkitColors(const Palette& palette) {
   QPalette colors;
   using Role = QPalette::ColorRole;
   for (const auto& [role, color] : std::initializer_list<std::pair<Role, QColor>>{
-           {Role::Window, theme.windowBackground()},
-           {Role::WindowText, theme.label()},
-           {Role::Base, theme.textBackground()},
-           {Role::AlternateBase, theme.controlBackground()},
-           {Role::Text, theme.label()},
-           {Role::PlaceholderText, theme.placeholder()},
-           {Role::Button, theme.controlBackground()},
-           {Role::ButtonText, theme.label()},
-           {Role::ToolTipBase, theme.menuBackground()},
-           {Role::ToolTipText, theme.label()},
-           {Role::Highlight, theme.accentFill()},
-           {Role::HighlightedText, theme.onAccent()},
-           {Role::Link, theme.accentText()}}) {
+           {Role::Window, palette.windowBackground},
+           {Role::WindowText, palette.label},
+           {Role::Base, palette.textBackground},
+           {Role::AlternateBase, palette.controlBackground},
+           {Role::Text, palette.label},
+           {Role::PlaceholderText, palette.placeholder},
+           {Role::Button, palette.controlBackground},
+           {Role::ButtonText, palette.label},
+           {Role::ToolTipBase, palette.menuBackground},
+           {Role::ToolTipText, palette.label},
+           {Role::Highlight, palette.accentFill},
+           {Role::HighlightedText, palette.onAccent},
+           {Role::Link, palette.accentText}}) {
     colors.setColor(role, color);
   }
   for (const Role role : {Role::WindowText, Role::Text, Role::ButtonText}) {
-    colors.setColor(QPalette::Disabled, role, theme.tertiaryLabel());
+    colors.setColor(QPalette::Disabled, role, palette.tertiaryLabel);
   }
   return colors;
 }
@@ -65,27 +64,8 @@ TarnLoftApp* running = nullptr;
 TarnLoftApp::TarnLoftApp(Opening opening)
     : library_(services_.forLibrary()),
       opening_(opening),
-      windowViews_(opening == Opening::window
-                       ? std::optional<ViewLoading>(std::in_place, engine_, MainWindow::url())
-                       : std::nullopt),
-      theme_(Theme::of(engine_)),
-      tint_(library_, theme_),
       menuBarPrefs_(services_.preferences, services_.log),
       updater_(services_.updater, services_.preferences, systemNow),
-      mainWindow_(engine_, services_.forWorkspace(library_), services_.state, &updater_),
-      settingsWindow_(engine_, {.library = library_,
-                                .menuBar = menuBarPrefs_,
-                                .dialogs = services_.dialogs,
-                                .viewer = services_.viewer,
-                                .statusItem = services_.statusItem,
-                                .taskbar = services_.taskbar,
-                                .loginItem = services_.autostart,
-                                .updater = updater_,
-                                .hotKey =
-                                    [this] {
-                                      MenuBarController* const menuBar = appDelegate_.menuBar();
-                                      return menuBar ? &menuBar->hotKeySettings() : nullptr;
-                                    }}),
       appDelegate_(services_.preferences, menuBarPrefs_, services_.statusItem, services_.taskbar,
                    {.openMainWindow = [this] { openMainWindow(); },
                     .quit = [this] { requestQuit(); },
@@ -96,37 +76,57 @@ TarnLoftApp::TarnLoftApp(Opening opening)
   services_.tell = [this](const QString& title, const QString& message) {
     library_.tell(title, message);
   };
-  symbols::fontFamily();  // registered before any text, which it would lay out again
-  ViewLoading::answer();
   services_.media.work.hold();  // the first frame has the cores to itself
-  followAppearance();
+  if (opening_ == Opening::window) {
+    (void)windows();
+  } else {
+    followAppearance();
+  }
   connect(&services_.appearance, &DesktopAppearance::darkChanged, this,
           &TarnLoftApp::followAppearance);
-  services_.motion.follow(
-      [&motion = Motion::of(engine_)](bool reduced) { motion.setReduced(reduced); });
-  connect(&engine_, &QQmlEngine::quit, this, [this] { requestQuit(); });
   connect(&terminationSignals_, &TerminationSignals::requested, this, [this] {
     sequel_ = Sequel::none;
     quitByForce();
   });
   connect(&updater_, &UpdaterViewModel::relaunchRequested, this,
           [this] { requestQuit(Sequel::newStart); });
-  connect(&updater_, &UpdaterViewModel::installationBegun, this,
-          [this] { settingsWindow_.openAtUpdates(mainWindow_.window()); });
+  connect(&updater_, &UpdaterViewModel::installationBegun, this, &TarnLoftApp::showUpdates);
   connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &TarnLoftApp::saveAll);
   connect(qGuiApp, &QGuiApplication::aboutToQuit, this, [this] {
     if (!isQuitting_) saveAll();
   });
   connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &TarnLoftApp::followFocus);
-  mainWindow_.setMayClose([this] { return mayCloseWindow(); });
   running = this;
   std::atexit([] {
     if (running) running->saveAll();
   });
-  connect(&mainWindow_, &MainWindow::settingsRequested, this, &TarnLoftApp::openSettings);
-  connect(&mainWindow_, &MainWindow::updateCheckRequested, this, &TarnLoftApp::checkForUpdates);
-  connect(&mainWindow_, &MainWindow::closed, this, &TarnLoftApp::windowClosed);
-  connect(&settingsWindow_, &SettingsWindow::closed, this, &TarnLoftApp::settingsClosed);
+}
+
+AppWindows& TarnLoftApp::windows() {
+  if (windows_) return *windows_;
+  const auto hotKey = [this] {
+    MenuBarController* const menuBar = appDelegate_.menuBar();
+    return menuBar ? &menuBar->hotKeySettings() : nullptr;
+  };
+  windows_ = std::make_unique<AppWindows>(services_, library_, menuBarPrefs_, updater_, hotKey,
+                                          opening_ == Opening::window);
+  followAppearance();
+  MainWindow& main = windows_->main;
+  main.setMayClose([this] { return mayCloseWindow(); });
+  connect(&windows_->engine, &QQmlEngine::quit, this, [this] { requestQuit(); });
+  connect(&main, &MainWindow::settingsRequested, this, &TarnLoftApp::openSettings);
+  connect(&main, &MainWindow::updateCheckRequested, this, &TarnLoftApp::checkForUpdates);
+  connect(&main, &MainWindow::closed, this, &TarnLoftApp::windowClosed);
+  connect(&windows_->settings, &SettingsWindow::closed, this, &TarnLoftApp::settingsClosed);
+  return *windows_;
+}
+
+QQuickWindow* TarnLoftApp::mainWindow() const {
+  return windows_ ? windows_->main.window() : nullptr;
+}
+
+QQuickWindow* TarnLoftApp::settingsWindow() const {
+  return windows_ ? windows_->settings.window() : nullptr;
 }
 
 TarnLoftApp::~TarnLoftApp() { running = nullptr; }
@@ -164,8 +164,8 @@ void TarnLoftApp::open(const QStringList& paths) {
 
 bool TarnLoftApp::openMainWindow() {
   services_.appearance.settle(portalPatience);
-  if (!mainWindow_.open()) return false;
-  QQuickWindow* const window = mainWindow_.window();
+  if (!windows().main.open()) return false;
+  QQuickWindow* const window = mainWindow();
   appDelegate_.setMainWindow(window);
   connect(window, &QQuickWindow::frameSwapped, this, &TarnLoftApp::firstFrameShown,
           Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
@@ -173,21 +173,23 @@ bool TarnLoftApp::openMainWindow() {
   return true;
 }
 
-void TarnLoftApp::openSettings() { settingsWindow_.open(mainWindow_.window()); }
+void TarnLoftApp::openSettings() { windows().settings.open(mainWindow()); }
+
+void TarnLoftApp::showUpdates() { windows().settings.openAtUpdates(mainWindow()); }
 
 void TarnLoftApp::checkForUpdates() {
-  settingsWindow_.openAtUpdates(mainWindow_.window());
+  showUpdates();
   updater_.checkForUpdates();
 }
 
 void TarnLoftApp::windowClosed() {
-  if (mainWindow_.window() || settingsWindow_.window()) return;
+  if (mainWindow() || settingsWindow()) return;
   appDelegate_.lastWindowClosed();
 }
 
 // Some window managers give the keyboard to none that stands outside of the taskbar.
 void TarnLoftApp::settingsClosed() {
-  if (QQuickWindow* const window = mainWindow_.window()) window->requestActivate();
+  if (QQuickWindow* const window = mainWindow()) window->requestActivate();
   windowClosed();
 }
 
@@ -196,15 +198,16 @@ void TarnLoftApp::firstFrameShown() {
   updater_.start();
   services_.media.work.resume();
   QTimer::singleShot(viewsPatience, this, [this] {
-    mainWindow_.prepareSheets();
-    settingsWindow_.prepare();
+    windows().main.prepareSheets();
+    windows().settings.prepare();
   });
   QTimer::singleShot(panelPause, this, [this] { appDelegate_.menuBar()->panel().prepare(); });
 }
 
 std::unique_ptr<MenuBarController> TarnLoftApp::makeMenuBar(std::function<void()> onOpenApp) {
   auto panel = std::make_unique<QuickGrabPanel>(
-      engine_, services_.forQuickGrab(library_, menuBarPrefs_), isScreenComposed);
+      [this]() -> QQmlEngine& { return windows().engine; },
+      services_.forQuickGrab(library_, menuBarPrefs_), isScreenComposed);
   return std::make_unique<MenuBarController>(
       services_.statusItem, *services_.hotKey, menuBarPrefs_, services_.beep, std::move(panel),
       MenuBarActions{.onOpenApp = std::move(onOpenApp),
@@ -242,7 +245,7 @@ void TarnLoftApp::quitByForce() {
 bool TarnLoftApp::mayCloseWindow() {
   if (isQuitting_) return true;
   const bool goesOn =
-      settingsWindow_.window() || !appDelegate_.applicationShouldTerminateAfterLastWindowClosed();
+      settingsWindow() || !appDelegate_.applicationShouldTerminateAfterLastWindowClosed();
   if (goesOn) {
     (void)library_.flush(0s);
     return true;
@@ -254,7 +257,7 @@ bool TarnLoftApp::mayCloseWindow() {
 
 void TarnLoftApp::askToQuit() {
   appDelegate_.showMainWindow();
-  Alerts* const alerts = mainWindow_.alerts();
+  Alerts* const alerts = windows().main.alerts();
   if (!alerts) return quitByForce();
   connect(alerts, &Alerts::quitConfirmed, this, &TarnLoftApp::quitByForce, Qt::UniqueConnection);
   alerts->askToQuit();
@@ -271,8 +274,12 @@ void TarnLoftApp::followFocus() {
 bool TarnLoftApp::finish() { return services_.finish(threadPatience); }
 
 void TarnLoftApp::followAppearance() {
-  theme_.setDark(services_.appearance.isDark());
-  services_.appearance.setColors(toolkitColors(theme_));
+  const bool isDark = services_.appearance.isDark();
+  if (windows_) windows_->theme.setDark(isDark);
+  const QColor accent = shownColor(library_.preferences().defaultAccentHex());
+  services_.appearance.setColors(toolkitColors(
+      windows_ ? windows_->theme.palette()
+               : Palette::make(isDark ? ColorScheme::dark : ColorScheme::light, accent)));
 }
 
 }  // namespace tarnloft

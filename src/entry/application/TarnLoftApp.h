@@ -1,18 +1,11 @@
 #pragma once
 
-#include "controls/loading/DeferredEnds.h"
-#include "controls/loading/ViewLoading.h"
-#include "controls/theme/Theme.h"
 #include "entry/application/AppDelegate.h"
+#include "entry/application/AppWindows.h"
 #include "entry/application/DesktopServices.h"
 #include "library/LibraryStore.h"
 #include "platform/desktop/system/TerminationSignals.h"
-#include "settings/SettingsWindow.h"
-#include "shell/window/AccentTint.h"
-#include "shell/window/MainWindow.h"
 #include "updates/UpdaterViewModel.h"
-
-#include <QQmlEngine>
 
 namespace tarnloft {
 
@@ -52,8 +45,12 @@ class TarnLoftApp : public QObject {
   bool finish();
 
  private:
+  AppWindows& windows();
+  QQuickWindow* mainWindow() const;      // null while it is closed
+  QQuickWindow* settingsWindow() const;  // null while it is closed
   bool openMainWindow();
   void openSettings();
+  void showUpdates();
   void checkForUpdates();
   void windowClosed();
   void settingsClosed();
@@ -68,16 +65,10 @@ class TarnLoftApp : public QObject {
 
   DesktopServices services_;
   LibraryStore library_;
-  DeferredEnds viewEnds_;  // of what the engine leaves
-  QQmlEngine engine_;
   const Opening opening_;
-  std::optional<ViewLoading> windowViews_;  // beside all that follows
-  Theme& theme_;
-  AccentTint tint_;
   MenuBarPrefs menuBarPrefs_;
   UpdaterViewModel updater_;
-  MainWindow mainWindow_;
-  SettingsWindow settingsWindow_;
+  std::unique_ptr<AppWindows> windows_;  // null until one is wanted
   AppDelegate appDelegate_;
   TerminationSignals terminationSignals_;
   bool isQuitting_ = false;  // whatever isn't saved

@@ -45,9 +45,10 @@ QRegion rounded(const QRect& rect) {
 
 }  // namespace
 
-QuickGrabPanel::QuickGrabPanel(QQmlEngine& engine, const QuickGrabServices& services,
+QuickGrabPanel::QuickGrabPanel(std::function<QQmlEngine&()> engine,
+                               const QuickGrabServices& services,
                                std::function<bool()> isScreenComposed)
-    : engine_(engine), isScreenComposed_(std::move(isScreenComposed)), grab_(services) {
+    : engine_(std::move(engine)), isScreenComposed_(std::move(isScreenComposed)), grab_(services) {
   connect(&grab_, &QuickGrab::closeRequested, this, &QuickGrabPanel::close);
   connect(&grab_, &QuickGrab::dragEnded, this, [this] {
     if (isShown() && !window_->isActive()) focusLoss_.start(fetchPatience);
@@ -65,7 +66,7 @@ QuickGrabPanel::~QuickGrabPanel() {
 
 void QuickGrabPanel::prepare() {
   if (window_ || component_) return;
-  component_ = std::make_unique<QQmlComponent>(&engine_, url(), QQmlComponent::Asynchronous);
+  component_ = std::make_unique<QQmlComponent>(&engine_(), url(), QQmlComponent::Asynchronous);
   connect(component_.get(), &QQmlComponent::statusChanged, this, &QuickGrabPanel::makeAhead,
           Qt::QueuedConnection);
 }
@@ -84,7 +85,7 @@ void QuickGrabPanel::makeAhead() {
 
 bool QuickGrabPanel::make() {
   if (window_) return true;
-  QQmlComponent component(&engine_, url());
+  QQmlComponent component(&engine_(), url());
   std::unique_ptr<QObject> made(component.createWithInitialProperties(
       {{QStringLiteral("grab"), QVariant::fromValue(&grab_)}}));
   window_.reset(qobject_cast<QQuickWindow*>(made.release()));

@@ -21,9 +21,10 @@ class QuickGrabPanel : public QObject {
  public:
   static constexpr QSize size{340, 480};
 
-  // Borrowed: all outlive this. `isScreenComposed` tells whether what lies behind a translucent
+  // Borrowed: all outlive this. The engine is asked for when its views are wanted.
+  // `isScreenComposed` tells whether what lies behind a translucent
   // window shows through it.
-  QuickGrabPanel(QQmlEngine& engine, const QuickGrabServices& services,
+  QuickGrabPanel(std::function<QQmlEngine&()> engine, const QuickGrabServices& services,
                  std::function<bool()> isScreenComposed);
   ~QuickGrabPanel() override;
   Q_DISABLE_COPY_MOVE(QuickGrabPanel)
@@ -52,7 +53,7 @@ class QuickGrabPanel : public QObject {
   void followFocus();
   void checkFocus();
 
-  QQmlEngine& engine_;
+  const std::function<QQmlEngine&()> engine_;
   const std::function<bool()> isScreenComposed_;
   QuickGrab grab_;
   std::unique_ptr<QQmlComponent> component_;  // while it loads
