@@ -12,6 +12,8 @@ FocusScope {
     required property QuickGrab grab
     property bool marked: false // the current entry shows as such, whoever has the keyboard
 
+    property bool pointed: true // help may come up under the pointer
+
     signal leftAtTop
 
     function enter() {
@@ -71,6 +73,7 @@ FocusScope {
             grab: root.grab
             view: GrabThingView {
                 grab: root.grab
+                pointed: root.pointed
                 keyboard: root.marked || root.activeFocus && FocusOrigin.keyboard
             }
         }

@@ -11,6 +11,7 @@ Item {
     required property grabThing thing
     required property QuickGrab grab
     required property bool keyboard // the list is worked in by keys
+    required property bool pointed // by the pointer
 
     readonly property bool held: tap.pressed // by a press that is for this thing
     readonly property bool isEntry: thing.kind !== GrabKind.BlockHeader && thing.kind !== GrabKind.GroupHeader
@@ -70,7 +71,7 @@ Item {
 
     LazyItem {
         anchors.fill: parent
-        active: hover.hovered
+        active: hover.hovered && root.pointed
         sourceComponent: Help {
             text: root.thing.help
             shown: hover.hovered

@@ -13,7 +13,13 @@ FocusScope {
 
     readonly property bool shows: grab.state === QuickGrab.List
 
+    // The pointer has moved since the panel came up under it.
+    property bool pointed: false
+    property point came: Qt.point(-1, -1)
+
     function begin() {
+        pointed = false;
+        came = Qt.point(-1, -1);
         header.field.forceActiveFocus(Qt.ActiveWindowFocusReason);
         header.field.selectAll();
     }
@@ -26,6 +32,8 @@ FocusScope {
             grab.closeRequested();
         else if (event.modifiers === Qt.ControlModifier && digit >= 1 && digit <= 9)
             grab.copyColor(digit);
+        else if (event.modifiers === Qt.ControlModifier && event.key === Qt.Key_Comma && grab.hasSettings)
+            grab.openSettingsRequested();
         else if (event.key === Qt.Key_Down && !isList && shows)
             list.enter();
         else if (isList && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter || event.key === Qt.Key_Space))
@@ -43,6 +51,16 @@ FocusScope {
     }
 
     Keys.onPressed: event => takeKey(event)
+
+    HoverHandler {
+        onPointChanged: {
+            const at = point.scenePosition;
+            if (root.came.x < 0)
+                root.came = at;
+            else if (at !== root.came)
+                root.pointed = true;
+        }
+    }
 
     PanelHeader {
         id: header
@@ -70,6 +88,7 @@ FocusScope {
         visible: root.shows
         grab: root.grab
         marked: root.grab.search.trim() !== "" && header.field.activeFocus
+        pointed: root.pointed
         onLeftAtTop: root.begin()
     }
 
