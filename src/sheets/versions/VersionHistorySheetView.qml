@@ -92,6 +92,11 @@ Sheet {
             height: Math.min(320, contentHeight)
             visible: root.model.versions.count > 0
             contentHeight: rows.height
+            onContentHeightChanged: {
+                const chosen = list.itemAt(root.model.chosen);
+                if (chosen)
+                    reveal(chosen); // what it holds has come beneath it
+            }
 
             Column {
                 id: rows
@@ -103,10 +108,14 @@ Sheet {
                 Accessible.name: "Versions"
 
                 Repeater {
+                    id: list
+
                     model: root.model.versions
                     delegate: VersionRow {
                         width: rows.width - 2 * rows.padding
                         sheet: root.model
+                        Keys.onUpPressed: list.itemAt(index - 1)?.forceActiveFocus(Qt.BacktabFocusReason)
+                        Keys.onDownPressed: list.itemAt(index + 1)?.forceActiveFocus(Qt.TabFocusReason)
                     }
                 }
             }
