@@ -2,6 +2,7 @@
 
 #include "model/ImageBackground.h"
 
+#include <QColor>
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
@@ -40,4 +41,22 @@ inline std::optional<ImageBackground> stored(Kind kind) {
 }
 
 }  // namespace Backdrop
+
+// Its colour, for QML: `BackdropColor.of(backdrop, Theme.windowBackground)`.
+class BackdropColor : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_SINGLETON
+
+ public:
+  // `ground` is what is there by default, and under a checkerboard.
+  Q_INVOKABLE static QColor of(int backdrop, const QColor& ground) {
+    switch (backdrop) {
+      case Backdrop::White: return Qt::white;
+      case Backdrop::Dark: return QColor::fromHsvF(0, 0, 0.16F);
+      default: return ground;
+    }
+  }
+};
+
 }  // namespace tarnloft

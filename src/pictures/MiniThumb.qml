@@ -14,7 +14,7 @@ RoundedRectangle {
     property int backdrop: Backdrop.Default
 
     radius: 6
-    color: backdrop === Backdrop.White ? "white" : backdrop === Backdrop.Dark ? Qt.hsva(0, 0, 0.16, 1) : Theme.windowBackground
+    color: BackdropColor.of(backdrop, Theme.windowBackground)
 
     LazyItem {
         anchors.fill: parent

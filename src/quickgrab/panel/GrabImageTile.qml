@@ -25,7 +25,7 @@ Item {
         RoundedRectangle {
             anchors.fill: parent
             radius: 8
-            color: root.thing.backdrop === Backdrop.Dark ? Qt.hsva(0, 0, 0.16, 1) : root.thing.backdrop === Backdrop.White ? "white" : Theme.menuBackground
+            color: BackdropColor.of(root.thing.backdrop, Theme.menuBackground)
         }
 
         LazyItem {

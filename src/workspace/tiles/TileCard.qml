@@ -22,16 +22,6 @@ Card {
     // What its content asks for.
     readonly property real naturalHeight: Math.max(tile.workspace.tileHeight, expanded ? content.item?.implicitHeight ?? 0 : 0)
     readonly property string help: failed ? tile.picture.failureHelp : tile.help
-    readonly property color backdrop: {
-        switch (tile.picture?.backdrop) {
-        case Backdrop.White:
-            return "white";
-        case Backdrop.Dark:
-            return Qt.hsva(0, 0, 0.16, 1);
-        default:
-            return Theme.windowBackground;
-        }
-    }
 
     onHoveringChanged: if (hovering && help !== "") helped = true
     selected: tile.selected
@@ -47,7 +37,7 @@ Card {
         case TileKind.Code:
             return Theme.textBackground;
         default:
-            return backdrop;
+            return BackdropColor.of(tile.picture?.backdrop ?? Backdrop.Default, Theme.windowBackground);
         }
     }
 
