@@ -1,10 +1,8 @@
 #include "platform/desktop/window/DesktopAppearance.h"
 #include "platform/desktop/window/DesktopMotion.h"
+#include "testing/BusService.h"
 #include "testing/Cases.h"
 
-#include <QDBusConnection>
-#include <QDBusContext>
-#include <QDBusMessage>
 #include <QDBusVariant>
 #include <QGuiApplication>
 #include <QPalette>
@@ -17,49 +15,35 @@ using namespace std::chrono_literals;
 
 namespace {
 
-const QString name = "org.freedesktop.portal.Desktop";
 const QString path = "/org/freedesktop/portal/desktop";
 const QString group = "org.freedesktop.appearance";
 const QString scheme = "color-scheme";
 
-// The desktop's settings, on a connection of its own.
-class FakeSettings : public QObject, protected QDBusContext {
-  Q_OBJECT
-  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
-
+// The desktop's settings.
+class FakeSettings {
  public:
   FakeSettings(const QString& ofGroup, const QString& ofKey, const QVariant& value)
-      : m_values{{ofGroup + ofKey, value}} {
-    m_bus.registerObject(path, this, QDBusConnection::ExportAllSlots);
-    m_bus.registerService(name);
-  }
+      : known_{ofGroup, ofKey}, value_(value) {}
   explicit FakeSettings(uint colors) : FakeSettings(group, scheme, colors) {}
-  ~FakeSettings() override {
-    m_bus.unregisterService(name);
-    m_bus.unregisterObject(path);
-  }
 
-  void change(const QString& ofGroup, const QString& ofKey, const QVariant& value) {
-    auto signal =
-        QDBusMessage::createSignal(path, "org.freedesktop.portal.Settings", "SettingChanged");
-    signal << ofGroup << ofKey << QVariant::fromValue(QDBusVariant(value));
-    m_bus.send(signal);
+  void change(const QString& ofGroup, const QString& ofKey, const QVariant& value) const {
+    bus.tell(path, "org.freedesktop.portal.Settings", "SettingChanged",
+             {ofGroup, ofKey, QVariant::fromValue(QDBusVariant(value))});
   }
-  void change(uint colors) { change(group, scheme, colors); }
+  void change(uint colors) const { change(group, scheme, colors); }
 
   int asked = 0;
-
- public slots:
-  QDBusVariant Read(const QString& ofGroup, const QString& ofKey) {
-    ++asked;
-    const QVariant value = m_values.value(ofGroup + ofKey);
-    if (!value.isValid()) sendErrorReply("org.freedesktop.portal.Error.NotFound", ofKey);
-    return QDBusVariant(QVariant::fromValue(QDBusVariant(value)));  // wrapped twice, as told
-  }
+  BusService bus{
+      "org.freedesktop.portal.Desktop", [this](const QDBusMessage& call) {
+        ++asked;
+        if (call.arguments() != known_) return refusal(call);
+        const QDBusVariant value(value_);  // wrapped twice, as told
+        return call.createReply(QVariant::fromValue(QDBusVariant(QVariant::fromValue(value))));
+      }};
 
  private:
-  QMap<QString, QVariant> m_values;
-  QDBusConnection m_bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "settings");
+  QVariantList known_;
+  QVariant value_;
 };
 
 void colorDesktop(const QColor& window, const QColor& text) {
@@ -114,7 +98,7 @@ class TestAppearance : public QObject {
   void isKnownBeforeTheFirstFrame() {
     QThread desktop;
     FakeSettings settings(1);
-    settings.moveToThread(&desktop);
+    settings.bus.moveToThread(&desktop);
     desktop.start();
     DesktopAppearance appearance;
     appearance.settle(10s);

@@ -1,7 +1,7 @@
 #include "platform/desktop/updates/PackageKitUpdater.h"
+#include "testing/BusService.h"
 #include "testing/Cases.h"
 
-#include <QDBusContext>
 #include <QDBusObjectPath>
 #include <QStringList>
 #include <QTest>
@@ -13,65 +13,10 @@ namespace {
 
 const QString packageKit = "org.freedesktop.PackageKit";
 const QString updateID = "tarnloft;0.2;amd64;source";
+const QDBusObjectPath transaction("/1");
 constexpr uint normal = 5, blocked = 9, percentUnknown = 101;
 
 using Told = std::pair<QString, QVariantList>;  // a signal of a transaction
-
-}  // namespace
-
-// The service's side of one transaction: tells what the test wants for each method.
-class FakeTransaction : public QObject, public QDBusContext {
-  Q_OBJECT
-  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.PackageKit.Transaction")
-
- public:
-  QMap<QString, QList<Told>> answers;
-  QString refused;  // a method that the policy forbids
-  QStringList calls;
-
- public slots:
-  void SetHints(const QStringList& hints) { calls << hints.filter("interactive"); }
-  void RefreshCache(bool /*force*/) { answer("RefreshCache"); }
-  void GetUpdates(qulonglong /*filter*/) { answer("GetUpdates"); }
-  void GetUpdateDetail(const QStringList& ids) { answer("GetUpdateDetail", ids); }
-  void UpdatePackages(qulonglong flags, const QStringList& ids) {
-    answer("UpdatePackages", QStringList(QString::number(flags)) + ids);
-  }
-  void Cancel() { calls << "Cancel"; }
-
- private:
-  void answer(const QString& method, const QStringList& with = {}) {
-    calls << (QStringList(method) + with).join(' ');
-    if (method == refused) {
-      sendErrorReply(packageKit + ".Transaction.RefusedByPolicy", "no");
-      return;
-    }
-    for (const auto& [name, arguments] : answers.value(method)) send(name, arguments);
-  }
-  void send(const QString& name, const QVariantList& arguments) {
-    const bool isProgress = name == "Percentage";
-    auto signal = QDBusMessage::createSignal(
-        message().path(),
-        isProgress ? "org.freedesktop.DBus.Properties" : packageKit + ".Transaction",
-        isProgress ? "PropertiesChanged" : name);
-    if (isProgress) {
-      signal << "" << QVariantMap{{name, arguments.first()}} << QStringList();
-    } else {
-      signal.setArguments(arguments);
-    }
-    connection().send(signal);
-  }
-};
-
-class FakePackageKit : public QObject {
-  Q_OBJECT
-  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.PackageKit")
-
- public slots:
-  QDBusObjectPath CreateTransaction() { return QDBusObjectPath("/1"); }
-};
-
-namespace {
 
 const Told finished{"Finished", {1u, 0u}};
 const Told failed{"Finished", {2u, 0u}};
@@ -84,27 +29,38 @@ Told detail() {
           {updateID, none, none, none, none, none, 0u, "text", "changelog", 0u, "", ""}};
 }
 
+// The service with one transaction, in which it tells what the test wants for each method.
 struct Service {
-  QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "service");
-  FakePackageKit packages;
-  FakeTransaction transaction;
+  QMap<QString, QList<Told>> answers{{"RefreshCache", {finished}},
+                                     {"GetUpdates", {finished}},
+                                     {"GetUpdateDetail", {detail(), finished}},
+                                     {"UpdatePackages", {finished}}};
+  QString refused;  // a method that the policy forbids
+  QStringList calls;
+  BusService bus{packageKit, [this](const QDBusMessage& call) { return answer(call); }};
 
-  Service() {
-    transaction.answers = {{"RefreshCache", {finished}},
-                           {"GetUpdates", {finished}},
-                           {"GetUpdateDetail", {detail(), finished}},
-                           {"UpdatePackages", {finished}}};
-    const auto all = QDBusConnection::ExportAllSlots;
-    if (!bus.registerObject("/org/freedesktop/PackageKit", &packages, all) ||
-        !bus.registerObject("/1", &transaction, all) || !bus.registerService(packageKit)) {
-      qFatal("no bus");
+  QDBusMessage answer(const QDBusMessage& call) {
+    const QString method = call.member();
+    const QVariantList arguments = call.arguments();
+    if (method == "CreateTransaction") return call.createReply(QVariant::fromValue(transaction));
+    if (method == "SetHints") {
+      calls << arguments[0].toStringList().filter("interactive");
+    } else if (method == "UpdatePackages") {
+      calls << method + ' ' + arguments[0].toString() + ' ' + arguments[1].toStringList().join(' ');
+    } else {
+      calls << method;
     }
+    if (method == refused)
+      return call.createErrorReply(packageKit + ".Transaction.RefusedByPolicy", "no");
+    for (const auto& [name, values] : answers.value(method)) tell(name, values);
+    return call.createReply();
   }
-  ~Service() {
-    bus.unregisterService(packageKit);
-    QDBusConnection::disconnectFromBus("service");
+  void tell(const QString& name, const QVariantList& values) const {
+    if (name != "Percentage")
+      return bus.tell(transaction.path(), packageKit + ".Transaction", name, values);
+    bus.tell(transaction.path(), "org.freedesktop.DBus.Properties", "PropertiesChanged",
+             {"", QVariantMap{{name, values.first()}}, QStringList()});
   }
-  Q_DISABLE_COPY_MOVE(Service)
 };
 
 std::string sayOf(const Result<std::optional<SystemUpdater::Update>>& found) {
@@ -183,8 +139,7 @@ class TestPackageKit : public QObject {
         {"no reason", {{"GetUpdates", {failed}}}, "The system's package service failed"}};
     cases.check([](const Answers& answers, const std::string& end) {
       Service service;
-      for (const auto& [method, told] : answers.asKeyValueRange())
-        service.transaction.answers[method] = told;
+      for (const auto& [method, told] : answers.asKeyValueRange()) service.answers[method] = told;
       Asked asked;
       asked.check();
       QTRY_VERIFY(asked.end.has_value());
@@ -198,15 +153,14 @@ class TestPackageKit : public QObject {
         {"the clock", SystemUpdater::Asker::clock, "interactive=false"}};
     cases.check([](SystemUpdater::Asker asker, const QString& hint) {
       Service service;
-      service.transaction.answers["UpdatePackages"] = {percentage(40), percentage(percentUnknown),
-                                                       finished};
+      service.answers["UpdatePackages"] = {percentage(40), percentage(percentUnknown), finished};
       Asked asked;
       asked.install(asker);
       QTRY_VERIFY(asked.end.has_value());
       QCOMPARE(*asked.end, "");
       QCOMPARE(asked.percents, QList<int>{40});
-      QCOMPARE(service.transaction.calls, QStringList({hint, "UpdatePackages 2 " + updateID}));
-      service.transaction.refused = "UpdatePackages";
+      QCOMPARE(service.calls, QStringList({hint, "UpdatePackages 2 " + updateID}));
+      service.refused = "UpdatePackages";
       asked.end.reset();
       asked.install(asker);
       QTRY_VERIFY(asked.end.has_value());
@@ -218,20 +172,19 @@ class TestPackageKit : public QObject {
     const Cases<std::function<void(Asked&, Service&)>, std::string, bool> cases{
         {"silence", [](Asked&, Service&) {}, "The system's package service doesn't answer", true},
         {"cancelled", [](Asked& asked, Service&) { asked.updater.cancel(); }, "Cancelled", true},
-        {"the service goes",
-         [](Asked&, Service& service) { service.bus.unregisterService(packageKit); },
+        {"the service goes", [](Asked&, Service& service) { service.bus.leave(); },
          "The system's package service has stopped", false}};
     cases.check([](const auto& happens, const std::string& end, bool isCancelled) {
       Service service;
-      service.transaction.answers["RefreshCache"].clear();
-      service.transaction.answers["GetUpdates"] = {failed};
+      service.answers["RefreshCache"].clear();
+      service.answers["GetUpdates"] = {failed};
       Asked asked(end.ends_with("answer") ? 200ms : 1min);
       asked.check();
-      QTRY_VERIFY(service.transaction.calls.contains("RefreshCache"));
+      QTRY_VERIFY(service.calls.contains("RefreshCache"));
       happens(asked, service);
       QTRY_VERIFY(asked.end.has_value());
       QCOMPARE(*asked.end, end);
-      if (isCancelled) QTRY_VERIFY(service.transaction.calls.contains("Cancel"));
+      if (isCancelled) QTRY_VERIFY(service.calls.contains("Cancel"));
     });
   }
 };

@@ -3,14 +3,12 @@
 #include "platform/desktop/window/DesktopColorSampler.h"
 #include "platform/desktop/window/DesktopFileDialogs.h"
 #include "platform/desktop/window/DesktopFileViewer.h"
+#include "testing/BusService.h"
 #include "testing/Cases.h"
 #include "testing/TestServices.h"
 
 #include <QApplication>
 #include <QDBusArgument>
-#include <QDBusConnection>
-#include <QDBusContext>
-#include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDir>
@@ -24,71 +22,6 @@
 #include <QTimer>
 
 using namespace tarnloft;
-
-// --- The other side of the bus
-
-class FakeFileManager : public QObject {
-  Q_OBJECT
-  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.FileManager1")
-
- public:
-  QStringList shown;
-
- public slots:
-  void ShowItems(const QStringList& urls, const QString& /*startup*/) { shown << urls; }
-};
-
-// A portal's answer to the call that is being served, in the next turn; gives the request's path.
-QDBusObjectPath answered(const QDBusContext& call, const QVariantMap& options, uint response,
-                         const QVariantMap& results) {
-  QString sender = call.message().service().mid(1);
-  const QString path = "/org/freedesktop/portal/desktop/request/" + sender.replace('.', '_') + '/' +
-                       options.value("handle_token").toString();
-  auto signal = QDBusMessage::createSignal(path, "org.freedesktop.portal.Request", "Response");
-  signal << response << results;
-  QTimer::singleShot(0, [bus = call.connection(), signal] { bus.send(signal); });
-  return QDBusObjectPath(path);
-}
-
-class FakePortal : public QObject, public QDBusContext {
-  Q_OBJECT
-  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Screenshot")
-
- public:
-  uint response = 0;
-
- public slots:
-  QDBusObjectPath PickColor(const QString& /*window*/, const QVariantMap& options) {
-    QDBusArgument color;
-    color.beginStructure();
-    color << 1.0 << 0.5 << 0.25;
-    color.endStructure();
-    return answered(*this, options, response, {{"color", QVariant::fromValue(color)}});
-  }
-};
-
-// A desktop's file dialogs, with a user who answers at once.
-class FakeFileChooser : public QObject, public QDBusContext {
-  Q_OBJECT
-  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.FileChooser")
-
- public:
-  QList<QStringList> answers;  // one for each dialog; empty for a cancelled one
-  QStringList asked;
-
- public slots:
-  QDBusObjectPath OpenFile(const QString& parent, const QString& title,
-                           const QVariantMap& options) {
-    asked << parent + ' ' + title + ' ' + options.value("current_name").toString() +
-                 options.value("current_folder").toByteArray();
-    const QStringList chosen = answers.takeFirst();
-    return answered(*this, options, chosen.isEmpty() ? 1 : 0, {{"uris", chosen}});
-  }
-  QDBusObjectPath SaveFile(const QString& parent, const QString& title,
-                           const QVariantMap& options) {
-    return OpenFile(parent, title, options);
-  }
-};
 
 struct Shortcut {
   QString id;
@@ -109,54 +42,55 @@ const QDBusArgument& operator>>(const QDBusArgument& in, Shortcut& shortcut) {
   return in;
 }
 
-// A desktop that keeps the first combination that it was told for an ID, as some do.
-class FakeShortcuts : public QObject, public QDBusContext {
-  Q_OBJECT
-  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.GlobalShortcuts")
-
- public:
-  FakeShortcuts() {
-    qDBusRegisterMetaType<Shortcut>();
-    qDBusRegisterMetaType<QList<Shortcut>>();
-  }
-
- public slots:
-  QDBusObjectPath CreateSession(const QVariantMap& options) {
-    const auto asked = qdbus_cast<QList<Shortcut>>(options.value("shortcuts"));
-    id_ = asked.constFirst().id;
-    if (!kept_.contains(id_)) kept_[id_] = asked.constFirst().properties["preferred_trigger"];
-    return answered(*this, options, 0, {{"session_handle", "/session"}});
-  }
-  QDBusObjectPath ListShortcuts(const QDBusObjectPath& /*session*/, const QVariantMap& options) {
-    const QList<Shortcut> list{{id_, {{"trigger_description", kept_[id_]}}}};
-    return answered(*this, options, 0, {{"shortcuts", QVariant::fromValue(list)}});
-  }
-
- private:
-  QString id_;  // of the session
-  QVariantMap kept_;
-};
-
 namespace {
 
-// A service of another program, as far as the bus knows.
-struct Service {
-  QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "other");
-  QString name;
-  QString path;
+const QString portal = "org.freedesktop.portal.Desktop";
 
-  Service(const QString& serviceName, const QString& objectPath, QObject* object)
-      : name(serviceName), path(objectPath) {
-    if (!bus.registerObject(path, object, QDBusConnection::ExportAllSlots) ||
-        !bus.registerService(name)) {
-      qFatal("no session bus");
-    }
-  }
-  ~Service() {
-    bus.unregisterService(name);
-    bus.unregisterObject(path);
-  }
-  Q_DISABLE_COPY_MOVE(Service)
+// A portal's answer, told in the turn behind the reply, which names the request.
+QDBusMessage answered(const BusService& service, const QDBusMessage& call, uint response,
+                      const QVariantMap& results) {
+  const auto options = qdbus_cast<QVariantMap>(call.arguments().constLast());
+  QString sender = call.service().mid(1);
+  const QString path = "/org/freedesktop/portal/desktop/request/" + sender.replace('.', '_') + '/' +
+                       options.value("handle_token").toString();
+  QTimer::singleShot(0, &service, [&service, path, response, results] {
+    service.tell(path, "org.freedesktop.portal.Request", "Response", {response, results});
+  });
+  return call.createReply(QVariant::fromValue(QDBusObjectPath(path)));
+}
+
+// A desktop's file dialogs, with a user who answers at once.
+struct FakeFileChooser {
+  QList<QStringList> answers;  // one for each dialog; empty for a cancelled one
+  QStringList asked;
+  BusService bus{portal, [this](const QDBusMessage& call) {
+                   const QVariantList arguments = call.arguments();
+                   const auto options = qdbus_cast<QVariantMap>(arguments.constLast());
+                   asked << arguments[0].toString() + ' ' + arguments[1].toString() + ' ' +
+                                options.value("current_name").toString() +
+                                options.value("current_folder").toByteArray();
+                   const QStringList chosen = answers.takeFirst();
+                   return answered(bus, call, chosen.isEmpty() ? 1 : 0, {{"uris", chosen}});
+                 }};
+};
+
+// A desktop that keeps the first combination that it was told for an ID, as some do.
+struct FakeShortcuts {
+  QVariantMap& kept;
+  QString id = {};  // of the session
+  BusService bus{portal, [this](const QDBusMessage& call) {
+                   if (call.member() == "ListShortcuts") {
+                     const QList<Shortcut> list{{id, {{"trigger_description", kept[id]}}}};
+                     return answered(bus, call, 0, {{"shortcuts", QVariant::fromValue(list)}});
+                   }
+                   if (call.member() != "CreateSession") return refusal(call);
+                   const auto options = qdbus_cast<QVariantMap>(call.arguments().constLast());
+                   const auto asked = qdbus_cast<QList<Shortcut>>(options["shortcuts"]);
+                   id = asked.constFirst().id;
+                   if (!kept.contains(id))
+                     kept[id] = asked.constFirst().properties["preferred_trigger"];
+                   return answered(bus, call, 0, {{"session_handle", "/session"}});
+                 }};
 };
 
 class FolderListingViewer : public DesktopFileViewer {
@@ -203,28 +137,30 @@ class TestWindow : public QObject {
     FolderListingViewer viewer;
     viewer.reveal(file.fileName());
     QTRY_COMPARE(viewer.opened, QStringList(folder.path()));
-    FakeFileManager manager;
-    const Service service("org.freedesktop.FileManager1", "/org/freedesktop/FileManager1",
-                          &manager);
+    QStringList shown;
+    const BusService manager("org.freedesktop.FileManager1", [&](const QDBusMessage& call) {
+      shown << call.arguments().constFirst().toStringList();
+      return call.createReply();
+    });
     viewer.reveal(file.fileName());
     viewer.reveal(folder.filePath("missing"));
-    QTRY_COMPARE(manager.shown.size(), 1);
-    QCOMPARE(QUrl::fromEncoded(manager.shown.first().toLatin1()).toLocalFile(), file.fileName());
+    QTRY_COMPARE(shown.size(), 1);
+    QCOMPARE(QUrl::fromEncoded(shown.first().toLatin1()).toLocalFile(), file.fileName());
     QCOMPARE(viewer.opened.size(), 1);
   }
 
   // Also another key than the first, and behind a portal that has ended and started again.
   void hasAKeyByThePortal() {
-    const QString name("org.freedesktop.portal.Desktop");
-    const QString path("/org/freedesktop/portal/desktop");
     using State = GlobalHotKey::State;
-    FakeShortcuts shortcuts;
+    qDBusRegisterMetaType<Shortcut>();
+    qDBusRegisterMetaType<QList<Shortcut>>();
+    QVariantMap kept;
     ListedLog log;
     PortalHotKey key(log);
     QList<State> states;
     key.install([] {}, [&] { states << key.state(); });
     {
-      const Service service(name, path, &shortcuts);
+      const FakeShortcuts shortcuts{kept};
       for (const auto& [code, trigger] : {std::pair(49u, "CTRL+ALT+space"), {40u, "CTRL+ALT+k"}}) {
         key.update(code, HotKeyModifier::control | HotKeyModifier::option);
         QTRY_COMPARE(key.state(), State::registered);
@@ -232,7 +168,7 @@ class TestWindow : public QObject {
       }
       states.clear();
     }
-    const Service service(name, path, &shortcuts);
+    const FakeShortcuts again{kept};
     QTRY_COMPARE(states, (QList{State::waiting, State::registered}));
     QCOMPARE(log.lines, QStringList());
   }
@@ -240,10 +176,13 @@ class TestWindow : public QObject {
   void picksByThePortal() {
     const Cases<uint, bool> cases{{"picked", 0u, true}, {"cancelled", 1u, false}};
     cases.check([&](uint response, bool picked) {
-      FakePortal portal;
-      portal.response = response;
-      const Service service("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
-                            &portal);
+      const BusService service(portal, [&](const QDBusMessage& call) {
+        QDBusArgument color;
+        color.beginStructure();
+        color << 1.0 << 0.5 << 0.25;
+        color.endStructure();
+        return answered(service, call, response, {{"color", QVariant::fromValue(color)}});
+      });
       Pick pick;
       pick.start();
       QTRY_COMPARE(pick.calls, 1);
@@ -282,8 +221,6 @@ class TestWindow : public QObject {
 
   void asksByThePortal() {
     FakeFileChooser chooser;
-    const Service service("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
-                          &chooser);
     const QTemporaryDir folder;
     const QString base = "file://" + folder.path();
     QFile there(folder.filePath("b c.html"));
