@@ -189,23 +189,6 @@ class TestKeyboard : public QObject {
     QVERIFY(button->property("visualFocus").toBool());
   }
 
-  void aSheetKeepsTheFocusAndGivesItBack() {
-    Stage stage(sheet);
-    stage.press(Qt::Key_Tab);
-    QCOMPARE(stage.focused(), "opener");
-    stage.press(Qt::Key_Space);
-    QTRY_COMPARE(stage.focused(), "name");
-    for (const char* next : {"cancel", "create", "name", "cancel"}) {
-      stage.press(Qt::Key_Tab);
-      QCOMPARE(stage.focused(), QString::fromLatin1(next));
-    }
-    stage.press(Qt::Key_Backtab, Qt::ShiftModifier);
-    stage.press(Qt::Key_Backtab, Qt::ShiftModifier);
-    QCOMPARE(stage.focused(), "create");
-    stage.press(Qt::Key_Escape);
-    QTRY_COMPARE(stage.focused(), "opener");
-  }
-
   void aSheetAnswersReturnAndEscape() {
     const Cases<QList<int>, QString> cases{
         {"return in the field", QList<int>{Qt::Key_Return}, "accepted create closed"},

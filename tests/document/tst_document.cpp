@@ -126,20 +126,6 @@ class TestDocument : public QObject {
     QCOMPARE(items.size(), count);
   }
 
-  void refusesHostileAssetNames() {
-    TestServices disk;
-    const auto document = newDocument(disk);
-    const QString assets = Package::assetsPath(document->packageURL());
-    QVERIFY(writeFile(assets + "/a.png", "x") && writeFile(assets + "/sub/a.png", "x"));
-    const auto opens = [&](const QString& filename) {
-      return document->openAsset({filename, QString()}).has_value();
-    };
-    QVERIFY(opens("a.png") && !opens(QString("a.png") + QChar(u'\0') + u'x'));
-    for (const char* bad : {"", ".", "..", "../manifest.json", "sub/a.png", "/etc/hostname"}) {
-      QVERIFY2(!opens(bad), bad);
-    }
-  }
-
   void namesFitAFolder() {
     const QString letter = "é", marked = QString::fromUtf8("e\u0301\u0323");
     const QString family = QString::fromUtf8("👩‍👩‍👧");

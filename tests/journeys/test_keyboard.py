@@ -10,10 +10,6 @@ class TheKeyboard(Journey):
         tarn = self.start()
         press("ctrl+n")
         tarn.find("dialog", "New Brand")
-        press("Escape")
-        tarn.gone("dialog", "New Brand")
-        press("ctrl+n")
-        tarn.find("dialog", "New Brand")
         write("Acme")
         press("Return")
         tarn.find("heading", "Acme")
@@ -84,11 +80,6 @@ class TheKeyboard(Journey):
         self.tab_to(tarn, "list item", "Ash")
         press("Down", "Return")
         tarn.find("heading", "Birch")
-        for keys in ("Menu", "shift+F10"):
-            press(keys)
-            tarn.find("menu item", "Rename…")
-            press("Escape")
-            tarn.gone("menu item", "Rename…")
         press("Menu")
         tarn.find("menu item", "Rename…")
         press("r", "Return")
@@ -107,27 +98,6 @@ class TheKeyboard(Journey):
             self.eventually(self.home.brand_names, left)
         trashed = self.home.folder / "share/Trash/files/Beech.tarnloft/manifest.json"
         until(trashed.exists, "the brand in the trash")
-
-    def test_the_menu_bar(self):
-        self.home.add_brand("Acme")
-        tarn = self.start()
-        tarn.find("heading", "Acme")
-        for opening in ("F10", "alt+f"):
-            with self.subTest(opening):
-                press(opening)
-                tarn.find("menu item", "New Brand…")
-                press("Right")
-                tarn.find("menu item", "Undo")
-                press("Escape")
-                tarn.gone("menu item", "Undo")
-        press("F10")
-        tarn.find("menu item", "New Brand…")
-        press("Down", "Return")
-        tarn.find("dialog", "New Brand")
-        press("Escape")
-        tarn.gone("dialog")
-        press("ctrl+q")
-        self.assertEqual(tarn.wait(), 0)
 
     def tab_to(self, tarn, role, name):
         """Presses Tab until that has the focus."""

@@ -7,37 +7,10 @@
 
 using namespace tarnloft;
 
-namespace {
-
-QString str(const char* text) { return QString::fromUtf8(text); }
-Item color(const char* hex, std::optional<QString> name = {}, std::optional<QString> spot = {}) {
-  return Item::create(ColorPayload{{str(hex), std::move(name), std::move(spot)}});
-}
-Item logo(LogoRole role) {
-  return Item::create(LogoPayload{{str("Set"), {LogoVariant{{}, {}, role, {}}}}});
-}
-
-}  // namespace
-
 class TestRecords : public QObject {
   Q_OBJECT
 
  private slots:
-  void findsItems() {
-    const Cases<QString, bool> cases{{"part of the hex", "#1234", true},
-                                     {"type, any case", "cOLOR", true},
-                                     {"spot", "pms 021", true},
-                                     {"name, beyond ASCII", "ÜBER", true},
-                                     {"composed and decomposed", "u\u0308berbl", true},
-                                     {"blanks count", " 123456", false},
-                                     {"nothing finds nothing", "", false}};
-    cases.check([&](const QString& query, bool found) {
-      QCOMPARE(color("#123456", str("Überblau"), str("PMS 021 C")).matchesSearch(query), found);
-    });
-    QVERIFY(!logo(LogoRole::mono).matchesSearch(str("wordmark")));
-    QVERIFY(logo(LogoRole::mono).matchesSearch(str("monochrome")));
-  }
-
   void foldsTextsInTheUsersLanguage() {
     const Cases<QString, QString, QString> cases{
         {"nothing", "", "", ""},

@@ -1,6 +1,7 @@
 #include "controls/theme/Typography.h"
 #include "settings/SettingsWindow.h"
 #include "testing/Cases.h"
+#include "testing/FakeTray.h"
 #include "testing/FakeUpdater.h"
 #include "testing/TestLibrary.h"
 
@@ -22,20 +23,6 @@ using namespace tarnloft;
 
 namespace {
 
-struct FakeTray : StatusItem {
-  bool isThere = true;
-  void install(const QIcon&, const QString&, std::function<void()>, std::vector<Command>) override {
-  }
-  QRect place() const override { return {}; }
-  void followTray(std::function<void()>) override {}
-  bool isInTray() const override { return isThere; }
-};
-
-struct FakeTaskbar : Taskbar {
-  bool canHideWindows() const override { return true; }
-  void setWindowsShown(bool) override {}
-};
-
 struct FakeLogin : LoginItem {
   bool isThere = false;
   bool isOn() const override { return isThere; }
@@ -43,12 +30,6 @@ struct FakeLogin : LoginItem {
     isThere = on;
     return {};
   }
-};
-
-struct FakeHotKey : GlobalHotKey {
-  void install(std::function<void()>, std::function<void()>) override {}
-  void update(quint32, quint32) override {}
-  State state() const override { return State::registered; }
 };
 
 // The settings window over a library, used by keys, and read as assistive technology does.

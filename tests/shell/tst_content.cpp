@@ -27,30 +27,6 @@ class TestContent : public QObject {
   Q_OBJECT
 
  private slots:
-  void showsWhatTheLibraryHolds() {
-    ContentTest test;
-    ContentModel& content = test.start();
-    QCOMPARE(content.detail(), ContentModel::Detail::Welcome);
-    QCOMPARE(content.title(), "Tarn Loft");
-    QVERIFY(!content.commands()->hasSelection());
-
-    QSignalSpy detail(&content, &ContentModel::detailChanged);
-    QSignalSpy selection(content.commands(), &ShellCommands::hasSelectionChanged);
-    test.library.store->createBrand("Acme");
-    QVERIFY(!detail.isEmpty());
-    QVERIFY(!selection.isEmpty());
-    QCOMPARE(content.detail(), ContentModel::Detail::Brand);
-    QCOMPARE(content.title(), "Acme — Tarn Loft");
-    QVERIFY(content.commands()->hasSelection());
-
-    // Selected, but it can't be read.
-    writeFile(test.library.packagePath("Broken") + "/manifest.json", "{");
-    test.library.store->scan();
-    test.library.store->select(test.library.packagePath("Broken"));
-    QCOMPARE(content.detail(), ContentModel::Detail::NoSelection);
-    QVERIFY(content.commands()->hasSelection());
-  }
-
   void answersTheRequestForANewBrand() {
     ContentTest test;
     ContentModel& content = test.start();

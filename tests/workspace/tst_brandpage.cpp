@@ -268,6 +268,11 @@ class TestBrandPage : public QObject {
     page.key(Qt::Key_Escape);
     QCOMPARE(selectedNames(test), "");
     page.click("a", Qt::ControlModifier);
+    page.click("b", Qt::ShiftModifier);
+    QCOMPARE(selectedNames(test), "ab");
+    QCOMPARE(copied(test), "");
+    page.key(Qt::Key_Escape);
+    page.click("a", Qt::ControlModifier);
     page.key(Qt::Key_Right);
     page.key(Qt::Key_Space, Qt::ShiftModifier);
     QCOMPARE(selectedNames(test), "ab");

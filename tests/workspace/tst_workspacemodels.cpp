@@ -235,30 +235,6 @@ class TestWorkspaceModels : public QObject {
     }
   }
 
-  void clicksSelectOrAct() {
-    const int plain = Qt::NoModifier, command = Qt::ControlModifier, shift = Qt::ShiftModifier;
-    const Cases<int, QStringList, QStringList> cases{
-        {"plain", plain, QStringList(), QStringList{"#123456"}},
-        {"command", command, QStringList{"a", "d"}, QStringList()},
-        {"shift", shift, QStringList{"a", "b", "c", "d"}, QStringList()},
-        {"command comes first", (command | shift), QStringList{"a", "d"}, QStringList()}};
-    cases.check([&](int modifiers, const QStringList& selected, const QStringList& copied) {
-      TestWorkspace test({sectionOf(
-          "A", {colorItem("a"), textItem("b"), colorItem("c"), colorItem("d"), colorItem("e")})});
-      const auto& items = test.stored(0).items;
-      test.selection.toggle(items.at(0).id, test.stored(0).id);
-      Tile tile(test.section(0), items.at(3));
-      QVERIFY(!tile.isSelected() && tile.isSectionSelected());
-      tile.click(modifiers);
-      QStringList names;
-      for (const Item& item : items) {
-        if (test.selection.contains(item.id, test.stored(0).id)) names << item.displayName();
-      }
-      QCOMPARE(names, selected);
-      QCOMPARE(test.pasteboard.texts, copied);
-    });
-  }
-
   void coloursAreCopiedInTheChosenNotation() {
     TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), imageItem("b")})});
     test.library.store->preferences().setColorCopyFormat(ColorCopyFormat::rgb);
