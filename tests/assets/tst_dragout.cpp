@@ -1,14 +1,10 @@
 #include "assets/DragFileExport.h"
-#include "assets/ItemDrag.h"
-#include "assets/TiffFlavour.h"
 #include "assets/TileDrag.h"
-#include "document/BrandDocument.h"
-#include "document/Package.h"
 #include "model/Uuid.h"
 #include "testing/Cases.h"
 #include "testing/FakeDrops.h"
 #include "testing/FakeMedia.h"
-#include "testing/TestServices.h"
+#include "testing/TestDocument.h"
 
 #include <QTest>
 
@@ -17,12 +13,9 @@ using namespace tarnloft;
 namespace {
 
 // A document whose files are "<stored> of <brand folder>"; drags copy into a folder of the test's.
-struct Dragging {
-  TestServices disk;
+struct Dragging : TestDocument {
   FakeTypes types;
   FakeImages images;
-  std::unique_ptr<BrandDocument> document =
-      *BrandDocument::create(disk.services(), disk.folder.path(), "Acme");
   QString temporary = disk.path("tmp");
   QString folder = temporary + "/tarnloft-drag";
 
@@ -32,9 +25,6 @@ struct Dragging {
   }
   ~Dragging() { qunsetenv("TMPDIR"); }
 
-  QString assetPath(const QString& filename) const {
-    return Package::assetsPath(document->packageURL()) + '/' + filename;
-  }
   AssetRef asset(const QString& filename, const QString& originalName) {
     writeFile(assetPath(filename), filename.toUtf8());
     return {filename, originalName};

@@ -1,11 +1,10 @@
 #include "assets/DropImport.h"
 #include "assets/ItemDrag.h"
-#include "document/Package.h"
 #include "model/Uuid.h"
 #include "testing/Cases.h"
 #include "testing/FakeDrops.h"
 #include "testing/HeldStore.h"
-#include "testing/TestServices.h"
+#include "testing/TestDocument.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -57,16 +56,7 @@ struct Dropping {
     workers.waitForDone();
     QCoreApplication::processEvents();
   }
-  // "S:ab T:new"
-  QString shape() const {
-    QStringList sections;
-    for (const Section& each : document->brand().sections) {
-      QStringList names;
-      for (const Item& item : each.items) names << item.displayName();
-      sections << each.name + ':' + names.join(',');
-    }
-    return sections.join(' ');
-  }
+  QString shape() const { return shapeOf(document->brand(), ","); }
   QString assets() const { return Package::assetsPath(document->packageURL()) + '/'; }
   static std::shared_ptr<FakeThing> tile(const Item& item) {
     return FakeThing::of(ItemDrag::type, canonicalString(item.id).toUtf8());

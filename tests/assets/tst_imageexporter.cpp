@@ -93,15 +93,6 @@ class TestImageExporter : public QObject {
     QCOMPARE(size.pixelSize(), QSize(40, 20));
   }
 
-  void readsTheNativeSize() {
-    FakeImages images;
-    QVERIFY(!ImageExporter::nativeSize(images, "a"));
-    images.toldVectorSize = QSizeF(12.5, 10);
-    QCOMPARE(ImageExporter::nativeSize(images, "a"), QSizeF(12.5, 10));
-    images.told = ImageProperties{{30, 20}, false, {}};
-    QCOMPARE(ImageExporter::nativeSize(images, "a"), QSizeF(30, 20));
-  }
-
   void estimatesOnceTheChoiceRests() {
     QCOMPARE((ExportChoice{ExportFormat::jpeg, {800, 600}, 0.859}).key(), "800x600-jpeg-85");
     Estimate it;

@@ -12,6 +12,8 @@
 
 #include <memory>
 
+Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
+
 namespace tarnloft {
 
 // A window with a piece of QML in it, bound as all views are. The piece may add to `log`, by

@@ -4,26 +4,10 @@
 #include "testing/Cases.h"
 
 #include <QAccessible>
-#include <QGuiApplication>
-
-Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
 
 using namespace tarnloft;
 
 namespace {
-
-const QString sheet = QStringLiteral(R"(
-  Button { objectName: 'opener'; text: 'Open'; onClicked: naming.open() }
-  Sheet {
-    id: naming; objectName: 'sheet'; accessibleName: 'New Brand'
-    defaultButton: create; cancelButton: cancel
-    onClosed: log('closed')
-    Column {
-      TextField { objectName: 'name'; focus: true; placeholderText: 'Name'; onAccepted: log('accepted') }
-      Button { id: cancel; objectName: 'cancel'; text: 'Cancel'; onClicked: { log('cancel'); naming.close() } }
-      Button { id: create; objectName: 'create'; text: 'Create'; onClicked: { log('create'); naming.close() } }
-    }
-  })");
 
 const QString menus = QStringLiteral(R"(
   Button { objectName: 'opener'; text: 'Open'; onClicked: menu.popup(0, 30) }
@@ -89,8 +73,6 @@ class TestKeyboard : public QObject {
   void keysDo() {
     using namespace Qt;
     const Cases<QString, QList<int>, QString> cases{
-        {"switch", "Switch { accessibleName: 'A'; onToggled: log(checked) }",
-         QList<int>{Key_Space, Key_Space}, "true false"},
         {"pop-up picker",
          "PopUpPicker { options: [PickerOption { text: 'A' }, PickerOption { text: 'B' }]\n"
          "  onActivated: index => log(index) }",
@@ -119,7 +101,6 @@ class TestKeyboard : public QObject {
          "    onWidthChanged: log(width) }\n"
          "  Item { SplitView.fillWidth: true } }",
          QList<int>{Key_Left, Key_Left, Key_Right}, "100 91"},
-        {"field", "TextField { onAccepted: log(text) }", QList<int>{Key_A, Key_Return}, "a"},
         {"search", "SearchField { onTextEdited: log(text || 'cleared') }",
          QList<int>{Key_A, Key_Escape, Key_Escape}, "a cleared"},
         {"text area is left by Tab",
@@ -187,21 +168,6 @@ class TestKeyboard : public QObject {
     QCOMPARE(stage.focused(), "field");  // a click leaves the focus where it was
     stage.press(Qt::Key_Tab);
     QVERIFY(button->property("visualFocus").toBool());
-  }
-
-  void aSheetAnswersReturnAndEscape() {
-    const Cases<QList<int>, QString> cases{
-        {"return in the field", QList<int>{Qt::Key_Return}, "accepted create closed"},
-        {"escape", QList<int>{Qt::Key_Escape}, "cancel closed"},
-        {"return on cancel", QList<int>{Qt::Key_Tab, Qt::Key_Return}, "cancel closed"}};
-    cases.check([&](const QList<int>& keys, const QString& log) {
-      Stage stage(sheet);
-      stage.press(Qt::Key_Tab);
-      stage.press(Qt::Key_Space);
-      QTRY_COMPARE(stage.focused(), "name");
-      for (const int key : keys) stage.press(key);
-      QTRY_COMPARE(stage.log(), log);
-    });
   }
 
   void aDialogAnswersOnce() {

@@ -3,11 +3,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QQmlContext>
-#include <QQmlExpression>
 #include <QWheelEvent>
-
-Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
 
 using namespace tarnloft;
 

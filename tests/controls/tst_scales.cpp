@@ -1,11 +1,7 @@
 #include "Stage.h"
 #include "testing/Cases.h"
 
-#include <QGuiApplication>
-
 #include <algorithm>
-
-Q_IMPORT_QML_PLUGIN(TarnLoft_ControlsPlugin)
 
 using namespace tarnloft;
 

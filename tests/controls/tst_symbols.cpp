@@ -3,7 +3,6 @@
 #include "pictures/EmblemSymbols.h"
 
 #include <QFont>
-#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QRawFont>

@@ -1,6 +1,7 @@
 #include "document/BrandMerge.h"
 #include "testing/Cases.h"
 #include "testing/RandomBrand.h"
+#include "testing/TestDocument.h"
 
 #include <QSet>
 #include <QTest>
@@ -27,47 +28,6 @@ Brand brandOf(const QString& shape) {
     }
     brand.sections << section;
   }
-  return brand;
-}
-
-QString shapeOf(const Brand& brand) {
-  QStringList words;
-  for (const Section& section : brand.sections) {
-    QString word = section.name + ':';
-    for (const Item& item : section.items) word += item.displayName();
-    words << word;
-  }
-  return words.join(' ');
-}
-
-// One random edit of what a user can do to a brand.
-void edit(Brand& brand, RandomBrand& random) {
-  const auto at = [&] { return random.below(int(brand.sections.size())); };
-  if (brand.sections.isEmpty()) brand.sections << random.section(1);
-  SharedList<Item>& items = brand.sections[at()].items;
-  const int place = random.below(int(items.size()) + 1);
-  switch (random.below(9)) {
-    case 0: return items.insert(place, random.item());
-    case 1: brand.sections.insert(at(), random.section(random.below(3))); return;
-    case 2: return brand.sections.removeAt(at());
-    case 3: return brand.sections.move(at(), at());
-    case 4: brand.sections[at()].name = random.item().displayName(); return;
-    case 5: brand.name = random.item().displayName(); return;
-  }
-  if (place == items.size()) return;
-  switch (random.below(3)) {
-    case 0: items.takeAt(place); return;
-    case 1: items[place].payload = random.item().payload; return;
-    case 2: {
-      const Item moved = items.takeAt(place);
-      SharedList<Item>& target = brand.sections[at()].items;
-      return target.insert(random.below(int(target.size()) + 1), moved);
-    }
-  }
-}
-
-Brand edited(Brand brand, RandomBrand& random) {
-  for (int count = random.below(4); count >= 0; --count) edit(brand, random);
   return brand;
 }
 
@@ -154,12 +114,12 @@ class TestBrandMerge : public QObject {
     RandomBrand random(41);
     for (int round = 0; round < 300; ++round) {
       const Brand before = random.brand(random.below(4), random.below(5));
-      const Brand after = edited(before, random);
+      const Brand after = random.edited(before);
       Brand saved = after;
       saved.updatedAt += std::chrono::seconds(1);
       QVERIFY(reapplied(after, before, saved) == before);
       // A step that changes nothing takes nothing of the later work away.
-      const Brand present = edited(after, random);
+      const Brand present = random.edited(after);
       QVERIFY(reapplied(after, after, present) == present);
     }
   }
@@ -168,7 +128,7 @@ class TestBrandMerge : public QObject {
     RandomBrand random(43);
     for (int round = 0; round < 3000; ++round) {
       const Brand before = random.brand(1 + random.below(3), random.below(5));
-      const Brand after = edited(before, random), present = edited(after, random);
+      const Brand after = random.edited(before), present = random.edited(after);
       const Brand undone = reapplied(after, before, present);
       QVERIFY(hasEachIdOnce(undone));
       const auto old = itemsById(before), done = itemsById(after), now = itemsById(present),
@@ -186,7 +146,7 @@ class TestBrandMerge : public QObject {
         }
       }
       // The redo takes back the undo, whatever comes in between.
-      const Brand later = edited(undone, random), redone = reapplied(undone, present, later);
+      const Brand later = random.edited(undone), redone = reapplied(undone, present, later);
       QVERIFY(hasEachIdOnce(redone));
       const auto afterwards = itemsById(redone);
       for (const Item& item : itemsById(later)) {

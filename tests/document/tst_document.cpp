@@ -147,18 +147,6 @@ class TestDocument : public QObject {
       }
     });
   }
-
-  void namesThatAreTakenAreCounted() {
-    for (const auto& [brand, name] : {std::pair(QString("\tA/B:C\n"), QString("A-B-C")),
-                                      {QString(300, 'x'), QString(239, 'x')}}) {
-      TestServices disk;
-      for (const char* counter : {"", " 2", " 3"}) {
-        const QString path = Package::uniquePackageURL(disk.files, disk.folder.path(), brand);
-        QCOMPARE(path, disk.path(name + counter + ".tarnloft"));
-        QVERIFY(disk.files.makeFolder(path));
-      }
-    }
-  }
 };
 
 QTEST_GUILESS_MAIN(TestDocument)

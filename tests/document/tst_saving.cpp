@@ -1,9 +1,6 @@
-#include "document/BrandDocument.h"
-#include "document/Package.h"
 #include "model/Json.h"
 #include "testing/Cases.h"
-#include "testing/FaultyStore.h"
-#include "testing/TestServices.h"
+#include "testing/TestDocument.h"
 
 #include <QTest>
 
@@ -16,19 +13,9 @@ namespace {
 constexpr int exchangeStep = 4;  // behind temporary, write and sync
 constexpr int stepsOfASave = 6;  // then the removal of the old file and the sync of the folder
 
-struct Saving {
-  TestServices disk;
-  FaultyStore store;
-  std::unique_ptr<BrandDocument> document;
-  QString manifest;
-  QByteArray before;
-
-  Saving() {
-    const DocumentServices services{store, disk.log, [this] { return disk.now; }};
-    document = *BrandDocument::create(services, disk.folder.path(), "Acme");
-    manifest = Package::manifestPath(document->packageURL());
-    before = contentOf(manifest);
-  }
+struct Saving : TestDocument {
+  QString manifest = Package::manifestPath(document->packageURL());
+  QByteArray before = contentOf(manifest);
 
   void save(FaultyStore::Fault fault, int atStep) {
     store.fault = fault;

@@ -1,10 +1,7 @@
-#include "document/BrandDocument.h"
-#include "document/Package.h"
 #include "document/UndoHistory.h"
 #include "model/Json.h"
 #include "testing/Cases.h"
-#include "testing/FaultyStore.h"
-#include "testing/TestServices.h"
+#include "testing/TestDocument.h"
 
 #include <QTest>
 
@@ -13,19 +10,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
-struct Versioned {
-  TestServices disk;
-  FaultyStore store;
-  std::unique_ptr<BrandDocument> document;
-  QString versions;
-  QString manifest;
+struct Versioned : TestDocument {
+  QString versions = Package::versionsPath(document->packageURL());
+  QString manifest = Package::manifestPath(document->packageURL());
 
-  Versioned() {
-    const DocumentServices services{store, disk.log, [this] { return disk.now; }};
-    document = *BrandDocument::create(services, disk.folder.path(), "Acme");
-    versions = Package::versionsPath(document->packageURL());
-    manifest = Package::manifestPath(document->packageURL());
-  }
   void rename(const QString& name) {
     document->edit([&](Brand& brand) { brand.name = name; });
   }

@@ -212,6 +212,11 @@ class Program(Process):
     def gone(self, role, name=None):
         until(lambda: not self.all(role, name), lambda: f"{role} “{name}” to go")
 
+    def dismiss(self, role, name=None):
+        """Closes it by the Esc key."""
+        desktop.press("Escape")
+        self.gone(role, name)
+
     def focused(self):
         return accessible.focused(self.tree)
 
@@ -222,6 +227,11 @@ class Program(Process):
 
     def click(self, role, name=None, within=None, button=1):
         desktop.click(self.find(role, name, within).middle, button)
+
+    def card(self, name):
+        """The middle of a tile's card, which is above its name."""
+        x, y, width, _ = self.find("list item", name).rectangle
+        return x + width // 2, y + 48
 
     @property
     def window(self):

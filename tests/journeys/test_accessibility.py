@@ -49,8 +49,7 @@ class TheAccessibleTree(Journey):
         tarn.find(*tile).act("Toggle")
         until(lambda: "selected" in tarn.find(*tile).states, "a selected tile")
         self.check("a selection", tarn)
-        press("Escape")
-        tarn.gone("tool bar", "Selection")
+        tarn.dismiss("tool bar", "Selection")
         self.tab_round("a brand", tarn)
 
     def test_menus_and_questions(self):
@@ -62,13 +61,11 @@ class TheAccessibleTree(Journey):
             tarn.find("push button", button).act()
             tarn.find("menu item", entry)
             self.check(button, tarn)
-            press("Escape")
-            tarn.gone("menu item", entry)
+            tarn.dismiss("menu item", entry)
         tarn.find("push button", "Add Section").act()
         tarn.find("dialog", "New Section")
         self.check("new section", tarn)
-        press("Escape")
-        tarn.gone("dialog")
+        tarn.dismiss("dialog")
 
         tarn.click("list item", "Ash", button=3)
         tarn.find("menu item", "Rename…")
@@ -78,8 +75,7 @@ class TheAccessibleTree(Journey):
         self.check("delete question", tarn)
         self.assertEqual(self.tab_round("delete question", tarn, "Move “Ash” to the Trash?"),
                          ["push button “Cancel”", "push button “Move to Trash”"])
-        press("Escape")
-        tarn.gone("dialog")
+        tarn.dismiss("dialog")
 
         (self.home.brand("Birch").path / "manifest.json").write_text("")
         tarn.find("list item", "Birch").act()
@@ -101,8 +97,7 @@ class TheAccessibleTree(Journey):
         self.assertEqual(sorted(stop.partition("“")[2][:-1] for stop in round), sorted(rows))
         tarn.find("check box", "Type").act()
         self.eventually(lambda: self.home.kept("config/tarnloft.ini").get("mb.showType"), "true")
-        press("Escape")
-        tarn.gone("frame", "Settings")
+        tarn.dismiss("frame", "Settings")
 
     def check(self, state, tarn):
         tree = tarn.tree

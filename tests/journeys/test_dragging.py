@@ -40,7 +40,7 @@ class Dragging(Journey):
         self.fill("Logos", {"Mark.png": (200, 30, 40)})
         target = self.beside(gtk_partner(
             RIGHT, asks=["text/uri-list", "UTF8_STRING", "image/tiff", "com.quillmoor.tarnloft.item"]))
-        Drag(self.card("Mark")).over(RIGHT_MIDDLE).drop()
+        Drag(self.tarn.card("Mark")).over(RIGHT_MIDDLE).drop()
         path = dropped(target)
         self.assertEqual(path.name, "Mark.png")
         self.assertEqual(path.read_bytes(), self.acme.asset(self.acme.items("Logos")[0]))
@@ -56,7 +56,7 @@ class Dragging(Journey):
         write_noise(file, 3000, 2400)
         self.take("Logos", [file])
         target = self.beside(gtk_partner(RIGHT, asks=["image/tiff", "text/uri-list"]))
-        Drag(self.card("Noise")).over(RIGHT_MIDDLE).drop()
+        Drag(self.tarn.card("Noise")).over(RIGHT_MIDDLE).drop()
         self.assertIn(data(target, "image/tiff")[:4], (b"II*\0", b"MM\0*"))
         self.assertTrue(data(target, "text/uri-list"))
         self.assertFalse(self.tarn.has_ended())
@@ -75,7 +75,7 @@ class Dragging(Journey):
         left, top, _, height = self.tarn.find("panel", "Colors").rectangle
         place = (left + 600, top + height - 20)
 
-        drag = Drag(self.card("Mark")).over(place)
+        drag = Drag(self.tarn.card("Mark")).over(place)
         beside = (*place, 140, 110)
         drag.until(lambda: (200, 30, 40) in colours_in(beside), "the carried picture")
         self.assertNotIn((0, 0, 0), colours_in(beside), "its window shows around its corners")
@@ -83,7 +83,7 @@ class Dragging(Journey):
         drag.drop()
         self.assertEqual(self.names("Logos"), ["Mark", "Seal"])
 
-        self.drop_on(self.tarn, "Colors", self.card("Mark"))
+        self.drop_on(self.tarn, "Colors", self.tarn.card("Mark"))
         self.eventually(lambda: (self.names("Colors"), self.names("Logos")), (["Mark"], ["Seal"]))
         self.assertEqual(len(list((self.acme.path / "assets").iterdir())), 2)
 
@@ -96,7 +96,7 @@ class Dragging(Journey):
         brand = other.add_brand("Birch", ["Colors"])
         second = self.start(other)
         second.place((400, 420), (860, 580))
-        self.drop_on(second, "Colors", self.card("Mark"))
+        self.drop_on(second, "Colors", self.tarn.card("Mark"))
         self.eventually(lambda: [item["name"] for item in brand.items("Colors")], ["Mark"])
         self.assertEqual(brand.asset(brand.items("Colors")[0]), mark)
         self.assertEqual(self.names("Logos"), ["Mark"])
@@ -136,10 +136,6 @@ class Dragging(Journey):
         self.drop_on(self.tarn, section, LEFT_MIDDLE)
         self.eventually(lambda: len(self.acme.items(section)), len(files))
         partner.kill()
-
-    def card(self, name):
-        x, y, width, _ = self.tarn.find("list item", name).rectangle
-        return x + width // 2, y + 48
 
     def names(self, section):
         return [item["name"] for item in self.acme.items(section)]

@@ -92,17 +92,6 @@ class OneInstance(Journey):
         self.assertEqual(second.focus, "Cancel")
         return second
 
-    def test_without_a_tray_closing_the_last_window_ends_the_program(self):
-        acme = self.home.add_brand("Acme", ["Colors"])
-        tarn = self.start()
-        tarn.click("list item", "Acme")
-        tarn.click("push button", "Add content to this section")
-        tarn.find("menu item", "Text")
-        press("Down", "Return")
-        self.eventually(lambda: len(acme.items("Colors")), 1)
-        press("ctrl+w")
-        self.assertEqual(tarn.wait(), 0)
-
     def test_with_a_tray_it_stays_behind_its_window_for_as_long_as_the_tray(self):
         tray = self.beside(Process(["trayer", "--widthtype", "pixel", "--width", 100]))
         until(lambda: visible_window(tray.pid), "the tray")

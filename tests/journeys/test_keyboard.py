@@ -17,19 +17,13 @@ class TheKeyboard(Journey):
         acme = self.home.brand("Acme")
 
         self.tab_to(tarn, "push button", "Add content to this section")
-        press("space")
-        tarn.find("menu item", "Color")
-        press("c", "Return")
+        choose(tarn, "space", "Color", "c")
         self.eventually(lambda: tarn.focus, "Hex")
-        press("Escape")
-        tarn.gone("dialog")
+        tarn.dismiss("dialog")
         self.eventually(lambda: tarn.focus, "Add content to this section")
-        press("Return")
-        tarn.find("menu item", "Color")
-        press("g", "Return")
+        choose(tarn, "Return", "Color", "g")
         tarn.find("dialog", "Edit Gradient")
-        press("Escape")
-        tarn.gone("dialog")
+        tarn.dismiss("dialog")
         self.eventually(lambda: kinds(acme), ["color", "gradient"])
 
         self.tab_to(tarn, "list item", "#4C6FFF")
@@ -44,28 +38,21 @@ class TheKeyboard(Journey):
         self.eventually(lambda: kinds(acme), ["color", "gradient"])
 
         self.tab_to(tarn, "list item", "#4C6FFF")
-        press("Menu")
-        tarn.find("menu item", "Edit…")
-        press("e", "Return")
+        choose(tarn, "Menu", "Edit…", "e")
         self.eventually(lambda: tarn.focus, "Hex")
         write("#0A0B0C")
         press("Escape")
         self.eventually(lambda: tarn.focus, "#0A0B0C")
         self.eventually(lambda: colour(acme), "#0A0B0C")
 
-        press("shift+F10")
-        tarn.find("menu item", "Usage & Notes…")
-        press("u", "Return")
+        choose(tarn, "shift+F10", "Usage & Notes…", "u")
         tarn.find("dialog", "Usage & Notes")
         self.tab_to(tarn, "push button", "Add Rule")
-        press("Return")
-        tarn.find("menu item", "Don't")
-        press("Down", "Down", "Return")
+        choose(tarn, "Return", "Don't", "Down", "Down")
         self.eventually(lambda: tarn.focus, "Guidance")
         write("Never on red")
         self.eventually(lambda: rules(acme), [("dont", "Never on red")])
-        press("Escape")
-        tarn.gone("dialog")
+        tarn.dismiss("dialog")
         self.eventually(lambda: tarn.focus, "#0A0B0C")
 
         self.tab_to(tarn, "text", "Section name")  # of the section behind the tile
@@ -80,9 +67,7 @@ class TheKeyboard(Journey):
         self.tab_to(tarn, "list item", "Ash")
         press("Down", "Return")
         tarn.find("heading", "Birch")
-        press("Menu")
-        tarn.find("menu item", "Rename…")
-        press("r", "Return")
+        choose(tarn, "Menu", "Rename…", "r")
         tarn.find("dialog", "Rename Brand")
         write("Beech")
         press("Return")
@@ -110,6 +95,13 @@ class TheKeyboard(Journey):
             if (seen[-1].role, seen[-1].name) == (role, name):
                 return
         self.fail(f"Tab doesn't reach {role} “{name}”:\n" + "\n".join(map(str, seen)))
+
+
+def choose(tarn, opening, entry, *keys):
+    """Opens a menu by a key, and chooses its entry by others."""
+    press(opening)
+    tarn.find("menu item", entry)
+    press(*keys, "Return")
 
 
 def rules(brand):

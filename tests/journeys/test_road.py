@@ -38,7 +38,7 @@ class TheRoad(Journey):
         self.eventually(lambda: names(acme), ["Seal ü", "Mark", "Word Mark"])
         self.see_tiles(tarn, ["Seal ü", "Mark", "Word Mark"])
 
-        Drag(card(tarn, "Word Mark")).over(PARTNERS_MIDDLE).drop()
+        Drag(tarn.card("Word Mark")).over(PARTNERS_MIDDLE).drop()
         received = json.loads(partner.line("DROPPED"))
         content = hashlib.sha256(files[1].read_bytes()).hexdigest()
         self.assertEqual(received, {"Word Mark.png": content})
@@ -68,7 +68,7 @@ class TheRoad(Journey):
     def move_before(self, tarn, name, other):
         """One tile in front of another, where a bar shows meanwhile."""
         left, top, _, _ = tarn.find("list item", other).rectangle
-        drag = Drag(card(tarn, name)).over((left + 60, top + 60))
+        drag = Drag(tarn.card(name)).over((left + 60, top + 60))
         bar = (left - 9, top + 2, 3, 8)
         drag.until(lambda: ACCENT in colours_in(bar), "the insertion bar")
         drag.drop()
@@ -80,13 +80,7 @@ class TheRoad(Journey):
             return [tile.name for tile in sorted(tiles, key=lambda tile: tile.rectangle or ())]
         self.eventually(shown, expected)
         for name in expected:
-            self.eventually(lambda: colours_in((*card(tarn, name), 1, 1)), {COLOURS[name + ".png"]})
-
-
-def card(tarn, name):
-    """The middle of a tile's card, which is above its name."""
-    x, y, width, _ = tarn.find("list item", name).rectangle
-    return x + width // 2, y + 48
+            self.eventually(lambda: colours_in((*tarn.card(name), 1, 1)), {COLOURS[name + ".png"]})
 
 
 def names(brand):

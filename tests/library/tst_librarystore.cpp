@@ -38,29 +38,6 @@ class TestLibraryStore : public QObject {
     QCOMPARE(library.names().size(), 8);
   }
 
-  void movesRows() {
-    const Cases<QString, QString, QString> cases{
-        {"to the front", "c", "a", "cab"},  {"down", "a", "c", "bac"},
-        {"to the end", "a", "", "bca"},     {"before an unknown one", "a", "?", "bca"},
-        {"before itself", "b", "b", "abc"}, {"unknown", "?", "a", "abc"}};
-    cases.check([&](const QString& moved, const QString& before, const QString& order) {
-      TestLibrary library;
-      for (const char* name : {"a", "b", "c"}) library.add(name);
-      library.start();
-      const auto id = [&](const QString& name) {
-        for (const BrandSummary& row : library.store->brands()) {
-          if (row.name == name) return row.brandID;
-        }
-        return QUuid::createUuid();
-      };
-      library.store->moveBrand(id(moved),
-                               before.isEmpty() ? std::nullopt : std::optional(id(before)));
-      QCOMPARE(library.names().join(QString()), order);
-      library.start();
-      QCOMPARE(library.names().join(QString()), order);
-    });
-  }
-
   void listsWhatItCannotRead() {
     TestLibrary library;
     library.add("Good");

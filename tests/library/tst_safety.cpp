@@ -1,4 +1,3 @@
-#include "document/PackageVersions.h"
 #include "platform/desktop/files/DiskThread.h"
 #include "testing/Cases.h"
 #include "testing/TestLibrary.h"
@@ -6,7 +5,6 @@
 #include <QSemaphore>
 #include <QSignalSpy>
 #include <QTest>
-#include <QThread>
 
 using namespace tarnloft;
 using namespace std::chrono_literals;

@@ -70,7 +70,6 @@ class TestJson : public QObject {
 
   void refusesAndNamesThePlace() {
     const Cases<QByteArray, QString> cases{
-        {"mark", "\xEF\xBB\xBF" + itemWith("{}"), "document: begins with a byte-order mark"},
         {"missing", itemWith("{'color':{'value':{'name':'x'}}}"),
          "payload.color.value.hex: missing"},
         {"fraction", itemWith("{'header':{'text':'x','level':1.5}}"),
@@ -80,10 +79,7 @@ class TestJson : public QObject {
         {"unknown role",
          itemWith(
              R"({"logo":{"value":{"name":"","variants":[{"id":"8F0C3E5A-6B1D-4C44-9A57-0D3C2F1B7E21","asset":{"filename":"","originalName":""},"role":"hero"}]}}})"),
-         "payload.logo.value.variants[0].role: unknown value"},
-        {"long number", itemWith("{\"text\":" + QByteArray(100, '9') + "}"),
-         "payload.text: expected an object"},
-        {"number beyond all", itemWith("{\"text\":" + QByteArray(400, '9') + "}"), "document: "}};
+         "payload.logo.value.variants[0].role: unknown value"}};
     cases.check([&](const QByteArray& json, const QString& message) {
       const auto read = decode<Item>(json);
       QVERIFY(!read);

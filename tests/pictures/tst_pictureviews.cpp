@@ -18,6 +18,10 @@ using namespace tarnloft;
 
 namespace {
 
+using enum EmblemStyle::Ground;
+using enum EmblemStyle::Mark;
+using EmblemStyle::Ink;
+
 struct Window {
   FakeImages images;
   BackgroundWork work{1};
@@ -166,9 +170,6 @@ class TestPictureViews : public QObject {
   }
 
   void anEmblemsMarkStandsInTheMiddle() {
-    using enum EmblemStyle::Ground;
-    using enum EmblemStyle::Mark;
-    using EmblemStyle::Ink;
     // points that the mark is wide and high: least
     const Cases<EmblemLook, int> cases{
         {"letter", EmblemLook{Filled, Qt::blue, Monogram, "H", Ink::White}, 16},
@@ -198,8 +199,6 @@ class TestPictureViews : public QObject {
       Window test;
       Theme& theme = Theme::of(*test.window.engine());
       theme.setDark(dark);
-      using enum EmblemStyle::Ground;
-      using enum EmblemStyle::Mark;
       const QColor ground = theme.palette().windowBackground;
       (void)test.emblem({Filled, ground, NoMark, {}, {}});
       QCOMPARE(test.shown(32, 32), ground);
@@ -209,8 +208,6 @@ class TestPictureViews : public QObject {
 
   void anEmblemShowsItsPicture() {
     Window test;
-    using enum EmblemStyle::Ground;
-    using enum EmblemStyle::Mark;
     EmblemView* emblem = test.emblem({Filled, Qt::blue, Picture, "red", {}});
     QCOMPARE(test.shown(32, 32), QColor(Qt::blue));
     QTRY_COMPARE(test.shown(32, 32), QColor(Qt::red));

@@ -32,10 +32,8 @@ class FakeSettings {
   }
   void change(uint colors) const { change(group, scheme, colors); }
 
-  int asked = 0;
   BusService bus{
       "org.freedesktop.portal.Desktop", [this](const QDBusMessage& call) {
-        ++asked;
         if (call.arguments() != known_) return refusal(call);
         const QDBusVariant value(value_);  // wrapped twice, as told
         return call.createReply(QVariant::fromValue(QDBusVariant(QVariant::fromValue(value))));
@@ -78,20 +76,6 @@ class TestAppearance : public QObject {
     colorDesktop(Qt::black, Qt::white);
     settings.change(0);  // no preference: the palette
     QTRY_VERIFY(appearance.isDark());
-  }
-
-  void asksThePortalOnce() {
-    const Cases<uint, bool, bool> cases{{"dark on a light palette", 1U, false, true},
-                                        {"light on a dark palette", 2U, true, false},
-                                        {"no preference, light palette", 0U, false, false},
-                                        {"no preference, dark palette", 0U, true, true}};
-    cases.check([](uint wish, bool paletteDark, bool dark) {
-      colorDesktop(paletteDark ? Qt::black : Qt::white, paletteDark ? Qt::white : Qt::black);
-      const FakeSettings settings(wish);
-      const DesktopAppearance appearance;
-      QTRY_COMPARE(settings.asked, 1);
-      QTRY_COMPARE(appearance.isDark(), dark);
-    });
   }
 
   // Without a turn of the event loop.

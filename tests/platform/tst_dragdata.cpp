@@ -126,27 +126,23 @@ class TestDragData : public QObject {
     using Formats = QList<QPair<QString, QByteArray>>;
     const QByteArray address("h\0t\0t\0p\0:\0/\0/\0x\0/\0a\0.\0g\0i\0f\0\n\0A\0", 34);
     const Cases<Formats, QByteArray, QString> cases{
-        {"the best of many", {{"image/bmp", "bmp"}, {"image/png", "png"}}, "png", ""},
-        {"another format", {{"text/html", "<p>"}, {"image/jpeg", "jpeg"}}, "jpeg", ""},
+        {"the best of many", Formats{{"image/bmp", "bmp"}, {"image/png", "png"}}, "png", ""},
+        {"another format", Formats{{"text/html", "<p>"}, {"image/jpeg", "jpeg"}}, "jpeg", ""},
         {"named by the web",
-         {{"text/uri-list", "https://x.example/a/Hero%20%C3%BC.jpg?x=1\r\n"}, {"image/png", "png"}},
-         "png",
-         "Hero ü.jpg"},
+         Formats{{"text/uri-list", "https://x.example/a/Hero%20%C3%BC.jpg?x=1\r\n"},
+                 {"image/png", "png"}},
+         "png", "Hero ü.jpg"},
         {"a data address",
-         {{"text/uri-list", "data:image/png;base64,AAAA/BBBB"}, {"image/png", "x"}},
-         "x",
+         Formats{{"text/uri-list", "data:image/png;base64,AAAA/BBBB"}, {"image/png", "x"}}, "x",
          ""},
-        {"an empty picture", {{"image/png", ""}}, "none", ""},
+        {"an empty picture", Formats{{"image/png", ""}}, "none", ""},
         {"a picture to save",
-         {{"application/octet-stream", "GIF89a"},
-          {"XdndDirectSave0", ""},
-          {"text/x-moz-url", address}},
-         "GIF89a",
-         "a.gif"},
+         Formats{{"application/octet-stream", "GIF89a"},
+                 {"XdndDirectSave0", ""},
+                 {"text/x-moz-url", address}},
+         "GIF89a", "a.gif"},
         {"no picture to save",
-         {{"application/octet-stream", "%PDF-1.4"}, {"XdndDirectSave0", ""}},
-         "none",
-         ""}};
+         Formats{{"application/octet-stream", "%PDF-1.4"}, {"XdndDirectSave0", ""}}, "none", ""}};
     cases.check([&](const Formats& formats, const QByteArray& bytes, const QString& name) {
       const auto drop = foreign(formats);
       QVERIFY(drops.offers(*drop, DropType::image));

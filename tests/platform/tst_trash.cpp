@@ -94,28 +94,28 @@ class TestTrash : public QObject {
 
   // Faults that the system lays in the way, each by a change of the user's folders.
   void whatItCantTakeStaysWhole() {
-    using Change = std::function<void(const QString& trash, const QByteArray& library)>;
+    using Change = std::function<void(const Home& home)>;
+    const auto forbid = [](const char* name) {
+      return [name](const Home& home) {
+        ::chmod(QFile::encodeName(home.folder.filePath(name)).constData(), 0500);
+      };
+    };
+    const auto block = [](const char* name) {
+      return [name](const Home& home) {
+        const QString folder = home.folder.filePath(name);
+        QVERIFY(QDir(folder).removeRecursively() && writeFile(folder, "x"));
+      };
+    };
     const Cases<bool, Change> cases{
-        {"the trash is a file", false,
-         [](const QString& trash, const QByteArray& /*library*/) {
-           QVERIFY(QDir(trash).removeRecursively() && writeFile(trash, "x"));
-         }},
-        {"the records' folder is a file", false,
-         [](const QString& trash, const QByteArray& /*library*/) {
-           QVERIFY(QDir().rmdir(trash + "/info") && writeFile(trash + "/info", "x"));
-         }},
-        {"no right to the files' folder", false,
-         [](const QString& trash, const QByteArray& /*library*/) {
-           ::chmod(QFile::encodeName(trash + "/files").constData(), 0500);
-         }},
-        {"no right to the package's folder", false,
-         [](const QString& /*trash*/, const QByteArray& library) { ::chmod(library, 0500); }},
-        {"a full disk", true, [](const auto&, const auto&) {}}};
+        {"the trash is a file", false, block("share/Trash")},
+        {"the records' folder is a file", false, block("share/Trash/info")},
+        {"no right to the files' folder", false, forbid("share/Trash/files")},
+        {"no right to the package's folder", false, forbid("library")},
+        {"a full disk", true, [](const Home&) {}}};
     cases.check([](bool isDiskFull, const Change& change) {
       const Home home;
       QVERIFY(!throwsAway(home, home.folder.filePath("missing")) && !throwsAway(home, QString()));
-      change(home.folder.filePath("share/Trash"),
-             QFile::encodeName(home.folder.filePath("library")));
+      change(home);
       QVERIFY(!throwsAway(home, home.package, isDiskFull));
       QCOMPARE(contentOf(home.package + "/manifest.json"), "x");
       for (const char* name : {"share/Trash/info", "share/Trash/files", "work"}) {

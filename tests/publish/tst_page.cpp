@@ -1,9 +1,7 @@
-#include "document/Package.h"
 #include "publish/BrandPageExporter.h"
 #include "publish/PageMarkup.h"
-#include "testing/FaultyStore.h"
 #include "testing/RandomBrand.h"
-#include "testing/TestServices.h"
+#include "testing/TestDocument.h"
 
 #include <QTest>
 
@@ -11,27 +9,18 @@ using namespace tarnloft;
 
 namespace {
 
-QString str(const char* text) { return QString::fromUtf8(text); }
-
-struct Page {
-  TestServices disk;
-  FaultyStore store;
-  std::unique_ptr<BrandDocument> document;
+struct Page : TestDocument {
   QString path = disk.path("page.html");
   Progress progress;
 
-  Page() {
-    const DocumentServices services{store, disk.log, [this] { return disk.now; }};
-    document = *BrandDocument::create(services, disk.folder.path(), str("Acme"));
-  }
   void addAsset(const AssetRef& asset, const QByteArray& content) {
-    writeFile(Package::assetsPath(document->packageURL()) + u'/' + asset.filename, content);
+    writeFile(assetPath(asset.filename), content);
   }
   void setItems(const SharedList<Item>& items) {
     document->edit([&](Brand& brand) { brand.sections.first().items = items; });
   }
   QStringList strays() const {
-    return QDir(disk.folder.path()).entryList({str(".*")}, QDir::Files | QDir::Hidden);
+    return QDir(disk.folder.path()).entryList({".*"}, QDir::Files | QDir::Hidden);
   }
 };
 
@@ -39,10 +28,10 @@ const AssetRef picture{"a.PNG", "Mark.png"};
 
 SharedList<Item> everyUseOfAFile() {
   Item image = Item::create(ImagePayload{picture, {}});
-  image.setUsageNotes({{QUuid(), UsageKind::note, str("seen")}});
-  return {image, Item::create(VideoPayload{picture, str("Reel")}),
-          Item::create(FontPayload{{str("Face"), {}, {}, picture, {}}}),
-          Item::create(LogoPayload{{str("Set"), {{QUuid(), picture, LogoRole::icon, {}}}}})};
+  image.setUsageNotes({{QUuid(), UsageKind::note, "seen"}});
+  return {image, Item::create(VideoPayload{picture, "Reel"}),
+          Item::create(FontPayload{{"Face", {}, {}, picture, {}}}),
+          Item::create(LogoPayload{{"Set", {{QUuid(), picture, LogoRole::icon, {}}}}})};
 }
 
 }  // namespace
@@ -80,10 +69,10 @@ class TestPage : public QObject {
     Page page;
     page.setItems(everyUseOfAFile());
     const QString missing = BrandPageExporter::html(*page.document);
-    QVERIFY(missing.contains(str("<div class=\"asset\"><div class=\"frame\">Reel</div></div>")));
-    QVERIFY(!missing.contains(str("seen")) && !missing.contains(str("Download")));
+    QVERIFY(missing.contains("<div class=\"asset\"><div class=\"frame\">Reel</div></div>"));
+    QVERIFY(!missing.contains("seen") && !missing.contains("Download"));
     page.addAsset(picture, QByteArray(1000, 'x'));
-    QVERIFY(BrandPageExporter::html(*page.document).contains(str("Download font")));
+    QVERIFY(BrandPageExporter::html(*page.document).contains("Download font"));
     page.store.fault = FaultyStore::Fault::failReads;
     QCOMPARE(BrandPageExporter::html(*page.document), missing);
     QVERIFY(BrandPageExporter::writeFile(*page.document, page.store, page.path, page.progress));

@@ -20,30 +20,42 @@ Q_IMPORT_QML_PLUGIN(TarnLoft_QuickGrabPlugin)
 
 using namespace tarnloft;
 
+namespace {
+
+// The panel in its window, with the keyboard.
+struct ShownPanel : TestPanel {
+  QQmlEngine engine;
+  QuickGrabPanel panel{[this]() -> QQmlEngine& { return engine; }, grabServices(),
+                       [] { return true; }};
+
+  explicit ShownPanel(const QList<Section>& sections) : TestPanel(sections) {
+    QTest::failOnWarning(QRegularExpression("qrc:|QML|Binding"));
+    prepareTypography();
+    Theme::of(engine);
+    panel.show();
+    QVERIFY(QTest::qWaitForWindowActive(panel.window()));
+  }
+};
+
+}  // namespace
+
 // The panel's window, worked by keys and the pointer.
 class TestPanelWindow : public QObject {
   Q_OBJECT
 
  private slots:
   void isWorkedByKeysAlone() {
-    QTest::failOnWarning(QRegularExpression("qrc:|QML|Binding"));
     QAccessible::setActive(true);
-    prepareTypography();
-    TestPanel desk({sectionOfAll()});
+    ShownPanel desk({sectionOfAll()});
     writeFile(desk.library.packagePath("Acme") + "/assets/a.png", "picture");
-    QQmlEngine engine;
-    Theme::of(engine);
-    Motion::of(engine).setReduced(true);
-    QuickGrabPanel panel([&]() -> QQmlEngine& { return engine; }, desk.grabServices(),
-                         [] { return true; });
+    Motion::of(desk.engine).setReduced(true);
+    QuickGrabPanel& panel = desk.panel;
     const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
       QTest::keyClick(panel.window(), key, modifiers);
     };
     const auto copied = [&] {
       return desk.pasteboard.texts.isEmpty() ? QString() : desk.pasteboard.texts.takeLast();
     };
-    panel.show();
-    QVERIFY(QTest::qWaitForWindowActive(panel.window()));
     for (const Qt::Key key : {Qt::Key_S, Qt::Key_E, Qt::Key_A, Qt::Key_Return}) press(key);
     QCOMPARE(copied(), QString("#0000FF"));
     press(Qt::Key_Escape);
@@ -78,17 +90,11 @@ class TestPanelWindow : public QObject {
 
   // Views turn from one thing into another, but none under a press.
   void viewsFollowWhatIsTyped() {
-    QTest::failOnWarning(QRegularExpression("qrc:|QML|Binding"));
-    prepareTypography();
-    TestPanel desk(
+    ShownPanel desk(
         {sectionOfAll(), colorSection("Greys", 30), sectionOf("More", {textItem("Sun")})});
     for (const auto set : {&MenuBarPrefs::setShowType, &MenuBarPrefs::setShowCode})
       (*desk.prefs.*set)(true);
-    QQmlEngine engine;
-    QuickGrabPanel panel([&]() -> QQmlEngine& { return engine; }, desk.grabServices(),
-                         [] { return true; });
-    panel.show();
-    QVERIFY(QTest::qWaitForWindowActive(panel.window()));
+    QuickGrabPanel& panel = desk.panel;
     const auto* const views = panel.window()->findChild<GrabViews*>();
     QRandomGenerator random(7);
     for (int round = 0; round < 60; ++round) {
@@ -115,14 +121,9 @@ class TestPanelWindow : public QObject {
   // It goes with the keyboard; the click that took that doesn't bring it back, but the next one
   // does.
   void goesWithTheKeyboard() {
-    prepareTypography();
-    TestPanel desk({sectionOfAll()});
-    QQmlEngine engine;
-    QuickGrabPanel panel([&]() -> QQmlEngine& { return engine; }, desk.grabServices(),
-                         [] { return true; });
+    ShownPanel desk({sectionOfAll()});
+    QuickGrabPanel& panel = desk.panel;
     QWindow other;
-    panel.show();
-    QVERIFY(QTest::qWaitForWindowActive(panel.window()));
     other.show();
     other.requestActivate();
     QTRY_VERIFY(!panel.isShown());

@@ -47,7 +47,7 @@ struct Settings {
   std::unique_ptr<SettingsWindow> settings;
 
   // Made ahead and then shown, behind what happens between the two.
-  void open(const std::function<void()>& meanwhile = [] {}) {
+  explicit Settings(const std::function<void(Settings&)>& meanwhile = [](Settings&) {}) {
     QTest::failOnWarning(QRegularExpression("qrc:|QML|Binding"));
     QAccessible::setActive(true);
     prepareTypography();
@@ -57,7 +57,7 @@ struct Settings {
                                  taskbar, login, updates, [this] { return &hotKeySettings; }});
     settings->prepare();
     QTRY_COMPARE(QGuiApplication::allWindows().size(), 1);
-    meanwhile();
+    meanwhile(*this);
     settings->open(nullptr);
     QCOMPARE(QGuiApplication::allWindows().size(), 1);
     QVERIFY(QTest::qWaitForWindowActive(&window()));
@@ -122,7 +122,6 @@ class TestSettings : public QObject {
         {"Gradients", &MenuBarPrefs::showGradients, &MenuBarPrefs::setShowGradients},
         {"Code", &MenuBarPrefs::showCode, &MenuBarPrefs::setShowCode}};
     Settings settings;
-    settings.open();
     MenuBarPrefs& prefs = settings.menuBar;
     cases.check([&](const char* name, Get get, Set set) {
       const bool before = (prefs.*get)();
@@ -136,7 +135,6 @@ class TestSettings : public QObject {
 
   void choicesWorkBothWays() {
     Settings settings;
-    settings.open();
     LibraryPreferences& preferences = settings.preferences();
     const Cases<std::function<int()>, std::function<void()>, QString, QString> cases{
         {"Click a color to copy", [&] { return int(preferences.colorCopyFormat()); },
@@ -162,7 +160,6 @@ class TestSettings : public QObject {
 
   void aPressElsewhereEndsTheRecording() {
     Settings settings;
-    settings.open();
     const QString recording("Quick grab shortcut, Type a shortcut…");
     settings.use("Quick grab shortcut", {Qt::Key_Space});
     QVERIFY(settings.texts().contains(recording));
@@ -172,7 +169,6 @@ class TestSettings : public QObject {
 
   void aFolderIsChosenOrRefused() {
     Settings settings;
-    settings.open();
     TestLibrary& library = settings.library;
     const QString home = library.folder;
     QVERIFY(writeFile(library.disk.path("file"), "x"));
@@ -207,7 +203,6 @@ class TestSettings : public QObject {
   void updatesAreAskedForAndInstalled() {
     Settings settings;
     FakeUpdater& updater = settings.updater;
-    settings.open();
     QVERIFY(!settings.texts().contains("Software Update"));
     settings.updates.start();
     const auto find = [&](const Result<std::optional<SystemUpdater::Update>>& found) {
@@ -237,10 +232,9 @@ class TestSettings : public QObject {
   }
 
   void opensOnceAndTellsWhatTheDesktopLacks() {
-    Settings settings;
-    settings.open([&] {
-      settings.tray.isThere = false;
-      settings.login.isThere = true;
+    Settings settings([](Settings& made) {
+      made.tray.isThere = false;
+      made.login.isThere = true;
     });
     QVERIFY(!settings.item("Keep running in the tray"));  // Tab doesn't lead there
     QVERIFY(!settings.item("Show in taskbar"));

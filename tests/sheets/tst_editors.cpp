@@ -5,7 +5,7 @@
 #include "sheets/UsageNotesSheet.h"
 #include "sheets/editors/ItemEditorSheet.h"
 #include "testing/Cases.h"
-#include "testing/TestServices.h"
+#include "testing/TestDocument.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
@@ -16,10 +16,7 @@ using namespace tarnloft;
 namespace {
 
 // A brand with that one item, and its editor.
-struct EditorTest {
-  TestServices disk;
-  std::unique_ptr<BrandDocument> document =
-      *BrandDocument::create(disk.services(), disk.folder.path(), "Acme");
+struct EditorTest : TestDocument {
   Item item;
   std::function<void(const QString&)> picked;
   std::unique_ptr<ItemEditorSheet> sheet;

@@ -14,8 +14,6 @@ using Kind = EmblemPicker::Kind;
 
 // The picker of the first section's emblem.
 struct PickerTest : TestImports {
-  std::unique_ptr<BrandDocument> document =
-      *BrandDocument::create(disk.services(), disk.folder.path(), "Acme");
   QUuid section = document->brand().sections.at(0).id;
   std::unique_ptr<EmblemPicker> picker;
 

@@ -12,8 +12,6 @@ namespace {
 
 // The sheet of an empty logo set, and four files to put into it.
 struct LogoTest : TestImports {
-  std::unique_ptr<BrandDocument> document =
-      *BrandDocument::create(disk.services(), disk.folder.path(), "Acme");
   MimeDrops drops{workers};
   QStringList done;
   Item item = Item::create(LogoPayload{{"Logo", {}}});

@@ -10,7 +10,6 @@
 #include <QQuickItem>
 #include <QQuickView>
 #include <QRegularExpression>
-#include <QSignalSpy>
 #include <QTest>
 #include <QtQml/qqmlextensionplugin.h>
 

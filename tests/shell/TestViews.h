@@ -36,8 +36,9 @@ struct Views : TestShell {
   std::unique_ptr<AccentTint> tint;
   std::unique_ptr<MainWindow> main;
 
-  // From then on no complaint of a view goes unseen.
-  void start() {
+  // With these brands besides. From then on no complaint of a view goes unseen.
+  void start(const QStringList& brands = {}) {
+    for (const QString& brand : brands) library.add(brand);
     QTest::failOnWarning(QRegularExpression("qrc:|QML|Binding"));
     QAccessible::setActive(true);
     prepareTypography();

@@ -13,7 +13,8 @@ namespace {
 struct ContentTest : TestShell {
   std::unique_ptr<ContentModel> content;
 
-  ContentModel& start() {
+  ContentModel& start(const QStringList& brands = {}) {
+    for (const QString& brand : brands) library.add(brand);
     content.reset();
     library.start();
     content = makeContent();
@@ -27,15 +28,9 @@ class TestContent : public QObject {
   Q_OBJECT
 
  private slots:
-  void answersTheRequestForANewBrand() {
+  void answersTheRequestForANewBrandOfBefore() {
     ContentTest test;
-    ContentModel& content = test.start();
-    QVERIFY(!content.sheets()->current());
-    content.commands()->newBrand();
-    QVERIFY(qobject_cast<NameSheet*>(content.sheets()->current()));
-    QVERIFY(!test.library.store->newBrandRequested());
-
-    // One that was made while no window was open.
+    test.start();
     test.content.reset();
     test.library.store->setNewBrandRequested(true);
     QVERIFY(test.makeContent()->sheets()->current());
@@ -77,25 +72,9 @@ class TestContent : public QObject {
     QTRY_COMPARE(test.library.store->openDocument()->listVersions().size(), 1);
   }
 
-  void answersARequestToScroll() {
-    ContentTest test;
-    test.library.add("Acme", {Section::create("A"), Section::create("B")});
-    ContentModel& content = test.start();
-    QSignalSpy requested(&content, &ContentModel::sectionRequested);
-    LibraryStore& store = *test.library.store;
-    store.setScrollToSection(store.openDocument()->brand().sections.at(1).id);
-    QTRY_COMPARE(requested, QList<QVariantList>({{1}}));
-    QVERIFY(!store.scrollToSection());
-    store.setScrollToSection(QUuid::createUuid());
-    QTRY_VERIFY(!store.scrollToSection());
-    QCOMPARE(requested.size(), 1);
-  }
-
   void whatBelongsToABrandGoesWithIt() {
     ContentTest test;
-    test.library.add("Acme");
-    test.library.add("Birch");
-    ContentModel& content = test.start();
+    ContentModel& content = test.start({"Acme", "Birch"});
     BrandDocument& document = *test.library.store->openDocument();
     QSignalSpy undoChanged(content.undo(), &WindowUndo::changed);
     document.mutate("Delete", content.undo(), [](Brand& brand) { brand.name = "Changed"; });
@@ -119,8 +98,7 @@ class TestContent : public QObject {
 
   void picksColorsUndoably() {
     ContentTest test;
-    test.library.add("Acme");
-    ContentModel& content = test.start();
+    ContentModel& content = test.start({"Acme"});
     content.commands()->pickColorFromScreen();
     test.library.pendingPick(SampledColor{1, 0, 0});
     QCOMPARE(content.undo()->undoText(), "Undo Pick Color");

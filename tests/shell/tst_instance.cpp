@@ -1,5 +1,4 @@
 #include <QDir>
-#include <QFile>
 #include <QLocalSocket>
 #include <QLockFile>
 #include <QProcess>

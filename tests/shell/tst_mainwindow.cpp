@@ -77,8 +77,7 @@ class TestMainWindow : public QObject {
 
   void opensAndClosesAndOpensAnew() {
     Views views;
-    views.library.add("Acme");
-    views.start();
+    views.start({"Acme"});
     MainWindow& main = *views.main;
     QSignalSpy closed(&main, &MainWindow::closed);
     QPointer<QQuickWindow> window = main.window();

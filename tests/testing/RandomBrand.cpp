@@ -115,4 +115,34 @@ Brand RandomBrand::brand(int sections, int itemsEach) {
   return brand;
 }
 
+void RandomBrand::edit(Brand& brand) {
+  const auto at = [&] { return below(int(brand.sections.size())); };
+  if (brand.sections.isEmpty()) brand.sections << section(1);
+  SharedList<Item>& items = brand.sections[at()].items;
+  const int place = below(int(items.size()) + 1);
+  switch (below(9)) {
+    case 0: return items.insert(place, item());
+    case 1: brand.sections.insert(at(), section(below(3))); return;
+    case 2: return brand.sections.removeAt(at());
+    case 3: return brand.sections.move(at(), at());
+    case 4: brand.sections[at()].name = item().displayName(); return;
+    case 5: brand.name = item().displayName(); return;
+  }
+  if (place == items.size()) return;
+  switch (below(3)) {
+    case 0: items.takeAt(place); return;
+    case 1: items[place].payload = item().payload; return;
+    case 2: {
+      const Item moved = items.takeAt(place);
+      SharedList<Item>& target = brand.sections[at()].items;
+      return target.insert(below(int(target.size()) + 1), moved);
+    }
+  }
+}
+
+Brand RandomBrand::edited(Brand brand) {
+  for (int count = below(4); count >= 0; --count) edit(brand);
+  return brand;
+}
+
 }  // namespace tarnloft

@@ -15,6 +15,8 @@ class RandomBrand {
   Brand brand(int sections, int itemsEach);
   Section section(int items);
   Item item();
+  // The brand behind some of what a user can do to it.
+  Brand edited(Brand brand);
 
   int below(int bound) { return int(random_.bounded(quint32(bound))); }
 
@@ -36,6 +38,8 @@ class RandomBrand {
   GradientValue gradient();
   LogoValue logo();
   FontValue font();
+
+  void edit(Brand& brand);
 
   QRandomGenerator random_;
 };

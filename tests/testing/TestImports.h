@@ -5,13 +5,12 @@
 #include "testing/FakeDialogs.h"
 #include "testing/FakeDrops.h"
 #include "testing/FakeMedia.h"
-#include "testing/TestServices.h"
+#include "testing/TestDocument.h"
 
 namespace tarnloft {
 
 // What sheets that bring files in need.
-struct TestImports {
-  TestServices disk;
+struct TestImports : TestDocument {
   FakeImages images;
   FakeTypes types;
   FakeFonts fonts;

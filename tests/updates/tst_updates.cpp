@@ -41,27 +41,18 @@ class TestUpdates : public QObject {
 
  private slots:
   void looksOnceADayIfThatIsWanted() {
+    const auto after = [](std::chrono::seconds passed) {
+      return [passed](Updates& it) {
+        it.lookAndFind({});
+        it.disk.now += passed;
+      };
+    };
     const Cases<std::function<void(Updates&)>, bool> cases{
         {"never before", [](Updates&) {}, true},
-        {"just before", [](Updates& it) { it.lookAndFind({}); }, false},
-        {"nearly a day before",
-         [](Updates& it) {
-           it.lookAndFind({});
-           it.disk.now += 24h - 1s;
-         },
-         false},
-        {"a day before",
-         [](Updates& it) {
-           it.lookAndFind({});
-           it.disk.now += 24h;
-         },
-         true},
-        {"the clock was set back",
-         [](Updates& it) {
-           it.lookAndFind({});
-           it.disk.now -= 1h;
-         },
-         true},
+        {"just before", after(0s), false},
+        {"nearly a day before", after(24h - 1s), false},
+        {"a day before", after(24h), true},
+        {"the clock was set back", after(-1h), true},
         {"in vain",
          [](Updates& it) {
            it.model.checkIfDue();
@@ -119,48 +110,29 @@ class TestUpdates : public QObject {
   }
 
   void installsAloneIfThatIsWanted() {
-    struct Way {
-      Result<void> downloaded, installed;
-    };
-    const Cases<Way, QStringList, State, News, QString> cases{
-        {"as it should",
-         {},
-         {"clock downloads 0.2", "clock installs 0.2"},
-         State::Installed,
-         News::installed,
-         ""},
-        {"a password is wanted",
-         {{}, lacksPassword},
-         {"clock downloads 0.2", "clock installs 0.2"},
-         State::Available,
-         News::available,
-         ""},
-        {"even the download takes a password",
-         {lacksPassword, {}},
-         {"clock downloads 0.2"},
-         State::Available,
-         News::available,
-         ""},
-        {"no network",
-         {broken, {}},
-         {"clock downloads 0.2"},
-         State::Available,
-         News::none,
+    // of the download and of the installation; none where it doesn't come to that
+    using Ended = std::optional<Result<void>>;
+    const Ended good = Result<void>(), none;
+    const Cases<Ended, Ended, State, News, QString> cases{
+        {"as it should", good, good, State::Installed, News::installed, ""},
+        {"a password is wanted", good, lacksPassword, State::Available, News::available, ""},
+        {"even for the download", lacksPassword, none, State::Available, News::available, ""},
+        {"no network", broken, none, State::Available, News::none,
          "The update couldn't be downloaded: No network"},
-        {"damaged",
-         {{}, broken},
-         {"clock downloads 0.2", "clock installs 0.2"},
-         State::Available,
-         News::none,
+        {"damaged", good, broken, State::Available, News::none,
          "The update couldn't be installed: No network"}};
-    cases.check([](const Way& way, const QStringList& asked, State state, News news,
+    cases.check([](const Ended& downloaded, const Ended& installed, State state, News news,
                    const QString& problem) {
       Updates updates;
       updates.model.setDownloadsUpdates(true);
       updates.lookAndFind(newer);
-      updates.end(way.downloaded);
-      if (way.downloaded) updates.end(way.installed);
-      QCOMPARE(updates.updater.asked, QStringList("clock checks") + asked);
+      QStringList asked{"clock checks", "clock downloads 0.2"};
+      updates.end(*downloaded);
+      if (installed) {
+        asked << "clock installs 0.2";
+        updates.end(*installed);
+      }
+      QCOMPARE(updates.updater.asked, asked);
       QCOMPARE(updates.model.state(), state);
       QCOMPARE(updates.model.news(), news);
       QCOMPARE(updates.model.problem(), problem);

@@ -25,23 +25,23 @@ Q_IMPORT_QML_PLUGIN(TarnLoft_WorkspacePlugin)
 namespace tarnloft {
 
 // A brand's page in a window without a display, 1000 by 760 points.
-class TestPage {
+class TestPage : public TestWorkspace {
  public:
-  explicit TestPage(TestWorkspace& test) {
+  explicit TestPage(const QList<Section>& sections) : TestWorkspace(sections) {
     QTest::failOnWarning(QRegularExpression("."));
     QAccessible::setActive(true);
     Theme::of(*view.engine());
     view.installEventFilter(&padMouse_);
     view.setResizeMode(QQuickView::SizeRootObjectToView);
     view.resize(1000, 760);
-    show(test);
+    show();
     view.show();
     settle();
   }
 
   // A new page for what is open now.
-  void show(TestWorkspace& test) {
-    view.setInitialProperties({{"workspace", QVariant::fromValue(test.workspace.get())}});
+  void show() {
+    view.setInitialProperties({{"workspace", QVariant::fromValue(workspace.get())}});
     view.setSource(QUrl("qrc:/qt-project.org/imports/TarnLoft/Workspace/BrandPage.qml"));
   }
 
@@ -77,6 +77,20 @@ class TestPage {
     return nullptr;
   }
   QQuickItem* scroll() const { return find("QQuickFlickable", view.rootObject()); }
+  double scrolled() const { return scroll()->property("contentY").toDouble(); }
+  void scrollTo(double y) {
+    scroll()->setProperty("contentY", y);
+    settle();
+  }
+  // As far as it goes.
+  double scrollToEnd() {
+    const auto end = [&] {
+      return scroll()->property("contentHeight").toDouble() - scroll()->height();
+    };
+    scrollTo(1e6);
+    scrollTo(end());
+    return scrolled();
+  }
 
   // In the window, in the middle of a tile's card.
   QPoint middleOf(const QString& name) const {

@@ -1,4 +1,3 @@
-#include "controls/theme/Contrast.h"
 #include "testing/Cases.h"
 #include "workspace/Items.h"
 #include "workspace/TestPage.h"
@@ -84,22 +83,22 @@ bool shows(const QQuickItem* item, const QString& text) {
                      [&](const QQuickItem* child) { return shows(child, text); });
 }
 
-QString copied(const TestWorkspace& test) { return test.pasteboard.texts.join('|'); }
+QString copied(const TestPage& page) { return page.pasteboard.texts.join('|'); }
 
-QString selectedNames(TestWorkspace& test) {
+QString selectedNames(TestPage& page) {
   QString names;
-  for (const Section& section : test.document().brand().sections) {
+  for (const Section& section : page.document().brand().sections) {
     for (const Item& item : section.items) {
-      if (test.selection.contains(item.id, section.id)) names += item.displayName();
+      if (page.selection.contains(item.id, section.id)) names += item.displayName();
     }
   }
   return names;
 }
 
-QMimeData* ownDrag(TestWorkspace& test, TestPage& page, const QString& name) {
+QMimeData* ownDrag(TestPage& page, const QString& name) {
   QQuickItem* tile = page.tileNamed(name);
   TestPage::tileOf(tile)->drag(tile);
-  return new DragData(test.drags.items);
+  return new DragData(page.drags.items);
 }
 
 }  // namespace
@@ -110,30 +109,28 @@ class TestBrandPage : public QObject {
  private slots:
   void aSecondClickOnAVideoPlaysIt() {
     const Item video = Item::create(VideoPayload{{"0.mp4", "a.mp4"}, "Spot"});
-    TestWorkspace test({sectionOf("A", {video, colorItem("red", "#ff0000")})});
-    TestPage page(test);
+    TestPage page({sectionOf("A", {video, colorItem("red", "#ff0000")})});
     const auto click = [&](const char* name, Qt::KeyboardModifiers modifiers = {}) {
       QTest::mouseDClick(&page.view, Qt::LeftButton, modifiers, page.middleOf(name));
-      return test.sheets.current() != nullptr;
+      return page.sheets.current() != nullptr;
     };
     page.click("Spot");
-    QVERIFY(!test.sheets.current());
+    QVERIFY(!page.sheets.current());
     QTest::qWait(QGuiApplication::styleHints()->mouseDoubleClickInterval() + 1);
     QVERIFY(!click("red"));
     QVERIFY(!click("Spot", Qt::ControlModifier));
-    test.selection.toggle(video.id, test.section(0).id());
+    page.selection.toggle(video.id, page.section(0).id());
     QVERIFY(click("Spot"));
-    QVERIFY(test.clips.path.endsWith("/assets/0.mp4"));
-    QCOMPARE(test.selection.count(), 0);
+    QVERIFY(page.clips.path.endsWith("/assets/0.mp4"));
+    QCOMPARE(page.selection.count(), 0);
   }
 
   void aDragThatTakesTheReleaseAwayIsTheLastOfItsTile() {
-    TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), colorItem("b", "#00ff00")})});
-    TestPage page(test);
+    TestPage page({sectionOf("A", {colorItem("a", "#ff0000"), colorItem("b", "#00ff00")})});
     QList<QByteArray> dragged;
     bool isTaken = false;
-    test.drags.during = [&] {
-      dragged << test.drags.items.first().payload->bytes;
+    page.drags.during = [&] {
+      dragged << page.drags.items.first().payload->bytes;
       isTaken = true;
     };
     for (const char* name : {"a", "b", "a"}) {
@@ -145,37 +142,36 @@ class TestBrandPage : public QObject {
     QCOMPARE(dragged.size(), 3);
     QVERIFY(dragged[0] == dragged[2] && dragged[0] != dragged[1]);
     page.padDrag(Qt::LeftButton, page.middleOf("b"));
-    QCOMPARE(copied(test), "#00FF00");
+    QCOMPARE(copied(page), "#00FF00");
   }
 
   // GNOME and Plasma report any mouse so.
   void aMouseTakenForATouchpadIsAMouse() {
-    TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), textItem("calm")})});
-    TestPage page(test);
+    TestPage page({sectionOf("A", {colorItem("a", "#ff0000"), textItem("calm")})});
     const QPoint tile = page.middleOf("a");
     const auto* const shown = page.tileNamed("a")->property("tile").value<Tile*>();
     for (const QPoint& to : {tile, tile + QPoint(40, 20)}) {
       page.padDrag(Qt::MiddleButton, tile, to);
-      QCOMPARE(copied(test), "");
-      QVERIFY(test.drags.items.isEmpty());
+      QCOMPARE(copied(page), "");
+      QVERIFY(page.drags.items.isEmpty());
     }
     page.padDrag(Qt::LeftButton, tile, tile);
-    QCOMPARE(copied(test), "#FF0000");
+    QCOMPARE(copied(page), "#FF0000");
     const QPoint box = page.tileNamed("a")->mapToScene({16, 16}).toPoint();
     QTest::mouseMove(&page.view, box);
     page.settle();
     page.padDrag(Qt::LeftButton, box, box);
-    QCOMPARE(selectedNames(test), "a");
-    QCOMPARE(copied(test), "#FF0000");
+    QCOMPARE(selectedNames(page), "a");
+    QCOMPARE(copied(page), "#FF0000");
     page.padDrag(Qt::LeftButton, tile, tile + QPoint(40, 20));
-    QCOMPARE(test.drags.items.size(), 1);
+    QCOMPARE(page.drags.items.size(), 1);
     const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
     QTest::touchEvent(&page.view, screen.get()).press(1, tile, &page.view);
     QTest::touchEvent(&page.view, screen.get()).release(1, tile, &page.view);
-    QCOMPARE(test.pasteboard.texts.size(), 2);  // a finger's tap still counts
+    QCOMPARE(page.pasteboard.texts.size(), 2);  // a finger's tap still counts
     page.padDrag(Qt::RightButton, tile);
     QVERIFY(shown->isMenuOpen());
-    QCOMPARE(test.pasteboard.texts.size(), 2);
+    QCOMPARE(page.pasteboard.texts.size(), 2);
     page.key(Qt::Key_Escape);
     QTest::qWait(300);  // it fades
     page.padDrag(Qt::RightButton, page.tileNamed("calm")->mapToScene({300, 8}).toPoint());
@@ -183,9 +179,8 @@ class TestBrandPage : public QObject {
   }
 
   void theCheckBoxSelects() {
-    TestWorkspace test(
+    TestPage page(
         {sectionOf("A", {colorItem("a"), colorItem("b")}), sectionOf("B", {colorItem("x")})});
-    TestPage page(test);
     const auto boxes = [&] {
       QStringList names;
       for (QAccessibleInterface* one : accessibles(page)) {
@@ -201,24 +196,23 @@ class TestBrandPage : public QObject {
     const QPoint box = page.tileNamed("a")->mapToScene({16, 16}).toPoint();
     QTest::mouseMove(&page.view, box);
     QTest::mouseClick(&page.view, Qt::LeftButton, {}, box);
-    QCOMPARE(selectedNames(test), "a");
-    QCOMPARE(copied(test), "");
+    QCOMPARE(selectedNames(page), "a");
+    QCOMPARE(copied(page), "");
     page.settle();
     QCOMPARE(boxes(), (QStringList{"Deselect", "Select"}));  // on all of the section, and no other
   }
 
   void aClickOnTheGroundEndsSelectionAndEditing() {
-    TestWorkspace test({sectionOf("A", {colorItem("a"), colorItem("b")})});
-    TestPage page(test);
+    TestPage page({sectionOf("A", {colorItem("a"), colorItem("b")})});
     const auto click = [&](const QPoint& at) {
       QTest::mouseClick(&page.view, Qt::LeftButton, {}, at);
     };
     const QPoint behindTheTiles = page.middleOf("b") + QPoint(300, 0);
     for (const QPoint& at : {behindTheTiles, QPoint(500, 20), QPoint(500, 700)}) {
       page.click("a", Qt::ControlModifier);
-      QCOMPARE(selectedNames(test), "a");
+      QCOMPARE(selectedNames(page), "a");
       click(at);
-      QCOMPARE(selectedNames(test), "");
+      QCOMPARE(selectedNames(page), "");
       click({60, 76});  // the section's name
       QVERIFY(page.view.activeFocusItem()->inherits("QQuickTextField"));
       click(at);
@@ -226,13 +220,11 @@ class TestBrandPage : public QObject {
     }
     page.click("a", Qt::ControlModifier);
     click({60, 76});
-    QCOMPARE(selectedNames(test), "a");  // a name is no ground
+    QCOMPARE(selectedNames(page), "a");  // a name is no ground
   }
 
   void aWidePageKeepsLinesShortAndToolsNear() {
-    TestWorkspace test(
-        {sectionOf("A", {textItem(QString("word ").repeated(400)), colorItem("a")})});
-    TestPage page(test);
+    TestPage page({sectionOf("A", {textItem(QString("word ").repeated(400)), colorItem("a")})});
     page.view.resize(2400, 760);
     page.settle();
     const QAccessibleInterface* text = accessible(page, QAccessible::EditableText, "Text");
@@ -246,8 +238,7 @@ class TestBrandPage : public QObject {
   }
 
   void hoveringTellsWhatAClickDoes() {
-    TestWorkspace test({sectionOf("A", {colorItem("a", "#ff0000"), imageItem("b")})});
-    TestPage page(test);
+    TestPage page({sectionOf("A", {colorItem("a", "#ff0000"), imageItem("b")})});
     const auto tells = [&](const QString& text) { return shows(page.view.contentItem(), text); };
     const QPoint hint =
         page.tileNamed("a")->mapToScene({125, 80}).toPoint();  // of its card's corner
@@ -260,39 +251,37 @@ class TestBrandPage : public QObject {
   }
 
   void keysSelectAndClear() {
-    TestWorkspace test({sectionOf("A", {textItem("t"), colorItem("a"), colorItem("b")}),
-                        sectionOf("B", {colorItem("x")})});
-    TestPage page(test);
-    test.workspace->selected()->selectAll();
-    QCOMPARE(selectedNames(test), "ab");
+    TestPage page({sectionOf("A", {textItem("t"), colorItem("a"), colorItem("b")}),
+                   sectionOf("B", {colorItem("x")})});
+    page.workspace->selected()->selectAll();
+    QCOMPARE(selectedNames(page), "ab");
     page.key(Qt::Key_Escape);
-    QCOMPARE(selectedNames(test), "");
+    QCOMPARE(selectedNames(page), "");
     page.click("a", Qt::ControlModifier);
     page.click("b", Qt::ShiftModifier);
-    QCOMPARE(selectedNames(test), "ab");
-    QCOMPARE(copied(test), "");
+    QCOMPARE(selectedNames(page), "ab");
+    QCOMPARE(copied(page), "");
     page.key(Qt::Key_Escape);
     page.click("a", Qt::ControlModifier);
     page.key(Qt::Key_Right);
     page.key(Qt::Key_Space, Qt::ShiftModifier);
-    QCOMPARE(selectedNames(test), "ab");
+    QCOMPARE(selectedNames(page), "ab");
     page.key(Qt::Key_Space, Qt::ControlModifier);
     page.key(Qt::Key_Left);
     QCOMPARE(page.focused(), "a");
-    test.workspace->selected()->remove();
-    QCOMPARE(test.names(0), (QStringList{"t", "b"}));
+    page.workspace->selected()->remove();
+    QCOMPARE(page.names(0), (QStringList{"t", "b"}));
     QTRY_VERIFY(!page.tileNamed("a"));
     QCOMPARE(page.focused(), "b");
-    QCOMPARE(test.toasts.message(), "Deleted 1 item · ⌘Z to undo");
-    test.undo.undo();
-    QCOMPARE(test.names(0).size(), 3);
+    QCOMPARE(page.toasts.message(), "Deleted 1 item · ⌘Z to undo");
+    page.undo.undo();
+    QCOMPARE(page.names(0).size(), 3);
   }
 
   void tabAndArrowsLeadThroughTiles() {
     Section section = colorSection("A", 100);
     section.items.insert(0, headerItem("Heading"));
-    TestWorkspace test({section, sectionOf("B", {colorItem("x")})});
-    TestPage page(test);
+    TestPage page({section, sectionOf("B", {colorItem("x")})});
     const auto steps = [&](std::initializer_list<int> keys) {
       for (const int key : keys) page.key(key);
       return page.focused();
@@ -311,7 +300,7 @@ class TestBrandPage : public QObject {
     page.settle();
     QVERIFY(steps({Qt::Key_Backtab}).isEmpty());  // the heading, behind which stands its button
     QCOMPARE(steps({Qt::Key_Tab, Qt::Key_Tab}), "0");
-    test.workspace->selected()->selectAll();  // each tile shows a check box, which is no stop
+    page.workspace->selected()->selectAll();  // each tile shows a check box, which is no stop
     int tabs = 0;
     while (tabs < 10 && page.focused() != "x") {
       page.settle();
@@ -322,8 +311,7 @@ class TestBrandPage : public QObject {
   }
 
   void blocksAreEditedInPlace() {
-    TestWorkspace test({sectionOf("A", {textItem("calm"), headerItem("Voice", 2)})});
-    TestPage page(test);
+    TestPage page({sectionOf("A", {textItem("calm"), headerItem("Voice", 2)})});
     const auto typeInto = [&](const QString& name) {
       const QQuickItem* row = page.tileNamed(name);
       QTest::mouseClick(&page.view, Qt::LeftButton, {},
@@ -332,18 +320,18 @@ class TestBrandPage : public QObject {
       QTest::keyClick(&page.view, '!');
     };
     typeInto("calm");
-    QCOMPARE(test.names(0).first(), "calm!");
+    QCOMPARE(page.names(0).first(), "calm!");
     page.key(Qt::Key_Return);
     QTest::keyClick(&page.view, 'x');
     page.settle();
-    QCOMPARE(test.names(0).first(), "calm!\nx");
+    QCOMPARE(page.names(0).first(), "calm!\nx");
     typeInto("Voice");
-    QVERIFY(test.stored(0).items.at(1).payload == ItemPayload(HeaderPayload{"Voice!", 2}));
+    QVERIFY(page.stored(0).items.at(1).payload == ItemPayload(HeaderPayload{"Voice!", 2}));
     QTest::mouseClick(&page.view, Qt::LeftButton, {},
                       page.tileNamed("calm!\nx")->mapToScene({400, 8}).toPoint());
     page.key(Qt::Key_Tab);
     page.key(Qt::Key_Space);  // its button
-    QCOMPARE(test.names(0), QStringList{"Voice!"});
+    QCOMPARE(page.names(0), QStringList{"Voice!"});
   }
 
   void aRowOfTextIsDraggedBesideItsText() {
@@ -351,8 +339,7 @@ class TestBrandPage : public QObject {
                                     {"behind its text", QPoint(300, 20), true},
                                     {"not in its text", QPoint(10, 20), false}};
     cases.check([&](const QPoint& at, bool drags) {
-      TestWorkspace test({sectionOf("A", {headerItem("Heading"), colorItem("b")})});
-      TestPage page(test);
+      TestPage page({sectionOf("A", {headerItem("Heading"), colorItem("b")})});
       const QPoint from = page.tileNamed("Heading")->mapToScene(at).toPoint();
       QTest::mousePress(&page.view, Qt::LeftButton, {}, from);
       for (int step = 1; step <= 8; ++step) {
@@ -360,32 +347,24 @@ class TestBrandPage : public QObject {
         page.settle();
       }
       QTest::mouseRelease(&page.view, Qt::LeftButton, {}, from + QPoint(32, 0));
-      QCOMPARE(test.drags.items.size() == 1, drags);
-      if (!test.drags.items.isEmpty()) {
-        QVERIFY(test.drags.items.first().payload && !test.drags.items.first().file);
-        QVERIFY(test.drags.picture.width() > 36 &&
-                test.drags.picture.width() < 120);  // of the text
+      QCOMPARE(page.drags.items.size() == 1, drags);
+      if (!page.drags.items.isEmpty()) {
+        QVERIFY(page.drags.items.first().payload && !page.drags.items.first().file);
+        QVERIFY(page.drags.picture.width() > 36 &&
+                page.drags.picture.width() < 120);  // of the text
       }
     });
   }
 
   void tilesTakeItemsAndSectionsAllElse() {
-    TestWorkspace test(
-        {sectionOf("A", {headerItem("h"), colorItem("a"), colorItem("b"), colorItem("c")}),
-         sectionOf("B", {colorItem("x")})});
-    TestPage page(test);
-    HandDrag own(page.view, ownDrag(test, page, "c"));
-    QVERIFY(own.hover(page.middleOf("a")));
-    QVERIFY(page.tileNamed("a")->findChild<DropTarget*>()->isTargeted());
-    QVERIFY(own.drop(page.middleOf("a")));
-    QTRY_COMPARE(test.names(0), (QStringList{"h", "c", "a", "b"}));
-    page.settle();
-    HandDrag again(page.view, ownDrag(test, page, "b"));  // a block takes them too
-    QVERIFY(again.drop(page.tileNamed("h")->mapToScene({400, 5}).toPoint()));
-    QTRY_COMPARE(test.names(0), (QStringList{"b", "h", "c", "a"}));
+    TestPage page({sectionOf("A", {headerItem("h"), colorItem("a"), colorItem("b")}),
+                   sectionOf("B", {colorItem("x")})});
+    HandDrag own(page.view, ownDrag(page, "b"));  // a block takes them too
+    QVERIFY(own.drop(page.tileNamed("h")->mapToScene({400, 5}).toPoint()));
+    QTRY_COMPARE(page.names(0), (QStringList{"b", "h", "a"}));
     page.settle();
 
-    const QString path = test.library.disk.path("Hero.png");
+    const QString path = page.library.disk.path("Hero.png");
     QVERIFY(writeFile(path, "p"));
     HandDrag foreign(page.view, files({path}));
     QVERIFY(foreign.hover(page.middleOf("x")));
@@ -393,52 +372,45 @@ class TestBrandPage : public QObject {
     QVERIFY(!foreign.hover({500, 20}));  // the title
     foreign.leave();
     QVERIFY(foreign.drop(page.middleOf("x")));
-    QTRY_COMPARE(test.names(1), (QStringList{"x", "Hero"}));
+    QTRY_COMPARE(page.names(1), (QStringList{"x", "Hero"}));
   }
 
   void aDropAtTheEndDoesNotScroll() {
-    TestWorkspace test({colorSection("A", 60), sectionOf("B", {})});
-    TestPage page(test);
-    const double end =
-        page.scroll()->property("contentHeight").toDouble() - page.scroll()->height();
+    TestPage page({colorSection("A", 60), sectionOf("B", {})});
+    const double end = page.scrollToEnd();
     QVERIFY(end > 0);
-    page.scroll()->setProperty("contentY", end);
-    page.settle();
-    test.document().addItem(colorItem("new"), test.stored(1).id);
+    page.document().addItem(colorItem("new"), page.stored(1).id);
     page.settle();
     QVERIFY(page.tileNamed("new"));
-    QCOMPARE(page.scroll()->property("contentY").toDouble(), end);
+    QCOMPARE(page.scrolled(), end);
   }
 
   void aDragAtTheEdgeScrolls() {
-    TestWorkspace test({colorSection("A", 200)});
-    TestPage page(test);
-    const auto position = [&] { return page.scroll()->property("contentY").toDouble(); };
-    HandDrag drag(page.view, ownDrag(test, page, "0"));
+    TestPage page({colorSection("A", 200)});
+    HandDrag drag(page.view, ownDrag(page, "0"));
     (void)drag.hover({500, 400});
     QTest::qWait(100);
-    QCOMPARE(position(), 0);
+    QCOMPARE(page.scrolled(), 0);
     (void)drag.hover({500, 755});
-    QTRY_VERIFY(position() > 100);
+    QTRY_VERIFY(page.scrolled() > 100);
     for (const int y : {70, 20}) {  // near the title and on it
       (void)drag.hover({500, y});
-      QTRY_COMPARE(position(), 0);
+      QTRY_COMPARE(page.scrolled(), 0);
       (void)drag.hover({500, 755});
-      QTRY_VERIFY(position() > 100);
+      QTRY_VERIFY(page.scrolled() > 100);
     }
     drag.leave();
-    const double left = position();
+    const double left = page.scrolled();
     QTest::qWait(100);
-    QCOMPARE(position(), left);
+    QCOMPARE(page.scrolled(), left);
   }
 
   void theTargetIsWhatScrollsUnderADrag() {
-    TestWorkspace test({colorSection("A", 200)});
-    TestPage page(test);
+    TestPage page({colorSection("A", 200)});
     const auto isTargeted = [&](const QString& name) {
       return page.tileNamed(name)->findChild<DropTarget*>()->isTargeted();
     };
-    HandDrag drag(page.view, ownDrag(test, page, "0"));
+    HandDrag drag(page.view, ownDrag(page, "0"));
     (void)drag.hover(page.middleOf("13"));
     QVERIFY(isTargeted("13"));
     const double row = page.tileNamed("19")->y() - page.tileNamed("13")->y();
@@ -446,25 +418,24 @@ class TestBrandPage : public QObject {
     QTRY_VERIFY(isTargeted("19"));
     QVERIFY(!isTargeted("13"));
     QVERIFY(drag.drop(page.middleOf("19")));
-    QTRY_COMPARE(test.names(0).indexOf("0"), 18);
+    QTRY_COMPARE(page.names(0).indexOf("0"), 18);
   }
 
   void theSearchIsUsedByKeyboard() {
-    TestWorkspace test({sectionOf("A", {colorItem("Sea"), colorItem("Sand")}),
-                        sectionOf("B", {colorItem("Stone")})});
-    TestPage page(test);
+    TestPage page({sectionOf("A", {colorItem("Sea"), colorItem("Sand")}),
+                   sectionOf("B", {colorItem("Stone")})});
     const auto type = [&](const char* text) {
       for (; *text; ++text) QTest::keyClick(&page.view, *text);
       page.settle();
     };
-    emit test.workspace->searchRequested();
+    emit page.workspace->searchRequested();
     type("sea");
     QTRY_VERIFY(page.tileNamed("Sea") && !page.tileNamed("Sand"));
     QVERIFY(accessible(page, QAccessible::Grouping, "A"));
     QVERIFY(!accessible(page, QAccessible::Grouping, "B"));
     page.key(Qt::Key_Down);
     QCOMPARE(page.focused(), "Sea");
-    emit test.workspace->searchRequested();
+    emit page.workspace->searchRequested();
     type("zzz");  // in place of what stood there
     QVERIFY(shows(page.view.contentItem(), "No matches for “zzz”"));
     page.key(Qt::Key_Escape);
@@ -473,7 +444,7 @@ class TestBrandPage : public QObject {
     page.key(Qt::Key_Escape);
     QVERIFY(!page.view.activeFocusItem()->inherits("QQuickTextField"));
 
-    emit test.workspace->searchRequested();
+    emit page.workspace->searchRequested();
     page.settle();
     type("st");
     page.key(Qt::Key_Tab);
@@ -481,25 +452,24 @@ class TestBrandPage : public QObject {
     page.key(Qt::Key_Tab);
     page.key(Qt::Key_Space);
     page.settle();
-    QVERIFY(test.workspace->search()->isGlobal());
+    QVERIFY(page.workspace->search()->isGlobal());
     QVERIFY(accessible(page, QAccessible::ListItem, "Stone, Color · in B"));
-    emit test.workspace->searchRequested();
+    emit page.workspace->searchRequested();
     page.key(Qt::Key_Down);
     page.key(Qt::Key_Return);
-    QVERIFY(!test.workspace->search()->isGlobal());
+    QVERIFY(!page.workspace->search()->isGlobal());
     page.settle();
     QVERIFY(page.tileNamed("Sea"));
   }
 
   void theTitleIsEdited() {
-    TestWorkspace test({sectionOf("A", {colorItem("a")})});
-    TestPage page(test);
+    TestPage page({sectionOf("A", {colorItem("a")})});
     const auto edit = [&](auto begin, Qt::Key end) {
       begin();
       for (const char letter : {' ', 'N', ' '}) QTest::keyClick(&page.view, letter);
       page.key(end);
       page.settle();
-      return test.document().brand().name;
+      return page.document().brand().name;
     };
     const auto byKey = [&] { page.key(Qt::Key_F2); };
     const auto byPointer = [&] { QTest::mouseDClick(&page.view, Qt::LeftButton, {}, {40, 30}); };
@@ -509,17 +479,16 @@ class TestBrandPage : public QObject {
     };
     while (!isFocused("Acme")) page.key(Qt::Key_Tab);
     QCOMPARE(edit(byKey, Qt::Key_Escape), "Acme");
-    QCOMPARE(selectedNames(test), "a");  // that was the field's
+    QCOMPARE(selectedNames(page), "a");  // that was the field's
     QCOMPARE(edit(byKey, Qt::Key_Return), "N");
     QVERIFY(isFocused("N"));
-    test.document().edit([](Brand& brand) { brand.name = "Acme"; });
+    page.document().edit([](Brand& brand) { brand.name = "Acme"; });
     page.settle();
     QCOMPARE(edit(byPointer, Qt::Key_Tab), "N");
   }
 
   void aPictureThatLeadsOutOfThePackageTellsSo() {
-    TestWorkspace test({sectionOf("A", {imageItem("a", "../a.png")})});
-    TestPage page(test);
+    TestPage page({sectionOf("A", {imageItem("a", "../a.png")})});
     QTRY_VERIFY(accessible(page, QAccessible::StaticText, "Couldn't load"));
     QCOMPARE(
         accessible(page, QAccessible::StaticText, "Couldn't load")->text(QAccessible::Description),
@@ -535,18 +504,17 @@ class TestBrandPage : public QObject {
     const GradientStop stop{QUuid::createUuid(), "#000000", 0.5};
     const AssetRef font{"a.otf", "a.otf"};
     const QString line = "let some = long + enough + toBreak(inAColumn, ofAnyWidth)\n";
-    TestWorkspace test({sectionOf(
+    TestPage page({sectionOf(
         "A", {colorItem("named"), colorItem("", "teal"),
               Item::create(ColorPayload{{"#F00", {}, "PMS 1"}}),
               Item::create(GradientPayload{{{stop, stop, stop}, 45, {}}}), imageItem("image"),
               videoItem("video"), Item::create(FontPayload{{"Inter", {}, {}, {}, {}}}),
               Item::create(FontPayload{{"Inter", {}, {}, font, {}}}), logo(0), logo(1), logo(7),
               Item::create(CodePayload{{"swift", line.repeated(9), "code"}})})});
-    const Section section = test.stored(0);
-    TestPage page(test);
+    const Section section = page.stored(0);
     for (const auto mode : allCases<AssetDisplayMode>()) {
-      test.library.store->preferences().setAssetDisplayMode(mode);
-      const BrandWorkspace& workspace = *test.workspace;
+      page.library.store->preferences().setAssetDisplayMode(mode);
+      const BrandWorkspace& workspace = *page.workspace;
       const FlowMetrics metrics{workspace.gridMinWidth(), workspace.gridMaxWidth(),
                                 workspace.tileHeight(), mode == AssetDisplayMode::expanded};
       page.settle();
@@ -571,8 +539,7 @@ class TestBrandPage : public QObject {
                             {colorItem(QString("tile %1").arg(i)),
                              textItem(QString("WORDS, MANY ").repeated(1 + 40 * (i % 3)))});
     }
-    TestWorkspace test(sections);
-    TestPage page(test);
+    TestPage page(sections);
     auto* const column = page.view.rootObject()->findChild<SectionColumn*>();
     page.click("tile 0");
     QTest::mouseMove(&page.view, {5, 5});
@@ -585,25 +552,21 @@ class TestBrandPage : public QObject {
     for (int i = 990; i > 965; --i) {
       page.settle();
       const auto seen = [&] { return page.tileNamed(QString("tile %1").arg(i)); };
-      page.scroll()->setProperty("contentY", column->topOf(i));
-      page.settle();
+      page.scrollTo(column->topOf(i));
       QVERIFY(seen());
       const double before = seen()->mapToScene({}).y();
-      const double top = page.scroll()->property("contentY").toDouble();
-      page.scroll()->setProperty("contentY", top - 300);
-      page.settle();
+      page.scrollTo(page.scrolled() - 300);
       QCOMPARE(seen()->mapToScene({}).y(), before + 300);
     }
     QVERIFY(column->liveCount() < 60);
-    test.section(965).remove();
+    page.section(965).remove();
     page.settle();
     QVERIFY(!page.tileNamed("tile 965"));
   }
 
   void sectionsComeGoAndMove() {
-    TestWorkspace test({sectionOf("A", {colorItem("a"), textItem("t")}), sectionOf("B", {}),
-                        sectionOf("C", {colorItem("c")})});
-    TestPage page(test);
+    TestPage page({sectionOf("A", {colorItem("a"), textItem("t")}), sectionOf("B", {}),
+                   sectionOf("C", {colorItem("c")})});
     const auto order = [&] {
       page.settle();
       QList<TileFlow*> lists = page.flows();
@@ -617,13 +580,13 @@ class TestBrandPage : public QObject {
     QCOMPARE(order(), "ABC");
     QVERIFY(accessible(page, QAccessible::StaticText,
                        "Drop images here, or use ＋ to add colors, type, and more."));  // in B
-    test.section(2).moveUp();
+    page.section(2).moveUp();
     QCOMPARE(order(), "ACB");
-    test.section(0).moveDown();
+    page.section(0).moveDown();
     QCOMPARE(order(), "CAB");
-    test.section(1).remove();
+    page.section(1).remove();
     QCOMPARE(order(), "CB");
-    test.addSection("D");
+    page.addSection("D");
     QCOMPARE(order(), "CBD");
   }
 };

@@ -54,27 +54,6 @@ class TestFlowLayout : public QObject {
     QCOMPARE(layout.height(), layout.rect(5).bottom());
   }
 
-  void putsBlocksInRowsOfTheirOwn() {
-    const FlowLayout layout = layoutOf("bcbii", 500);
-    QCOMPARE(layout.rect(0), QRectF(0, 0, 500, 30));
-    QCOMPARE(layout.rect(1).top(), 44);
-    QCOMPARE(layout.rect(2), QRectF(0, 44 + 132 + 14, 500, 30));
-    QCOMPARE(layout.rect(3).left(), 0);
-    QVERIFY(layout.isBlock(2) && !layout.isBlock(3));
-    QCOMPARE(layoutOf("", 500).height(), 0);
-  }
-
-  void findsWhatReachesIntoAStrip() {
-    using Range = FlowLayout::Range;
-    const FlowLayout layout = layoutOf("cccccc", 278);  // rows at 0, 146 and 292, 132 high
-    QCOMPARE(layout.range(-500, -1), Range());
-    QCOMPARE(layout.range(0, 10), (Range{0, 2}));
-    QCOMPARE(layout.range(133, 145), Range());
-    QCOMPARE(layout.range(130, 146), (Range{0, 4}));
-    QCOMPARE(layout.range(-1000, 1000), (Range{0, 6}));
-    QCOMPARE(layout.range(425, 1000), Range());
-  }
-
   void leadsFromTileToTile() {
     using enum FlowLayout::Direction;
     // Rows: 0 | 1 2 3 | 4 | 5 6 | 7

@@ -1,8 +1,7 @@
-#include "document/Package.h"
 #include "document/UndoHistory.h"
 #include "testing/Cases.h"
 #include "testing/RandomBrand.h"
-#include "testing/TestServices.h"
+#include "testing/TestDocument.h"
 #include "workspace/selection/GroupOperations.h"
 
 #include <QTest>
@@ -12,10 +11,7 @@ using namespace tarnloft;
 namespace {
 
 // Sections S and T. An item is a letter: i to n are images, c to e colours, h a header.
-struct Grouping {
-  TestServices disk;
-  std::unique_ptr<BrandDocument> document =
-      *BrandDocument::create(disk.services(), disk.folder.path(), "Acme");
+struct Grouping : TestDocument {
   TileSelection selection;
   UndoHistory history;
   GroupOperations operations{*document, selection, &history};
@@ -116,25 +112,6 @@ class TestGroupOperations : public QObject {
       grouping.history.redo();
       QCOMPARE(grouping.shape(), each.shape);
     }
-  }
-
-  void countsWhatIsThere() {
-    const Cases<QString, int, int, bool> cases{
-        {"one image", "i", 1, 1, false},
-        {"two images", "ij", 2, 2, true},
-        {"two images and a colour", "ijc", 2, 2, false},
-        {"two images and one that has gone", "ij?", 2, 2, true},
-        {"what is elsewhere", "ijl", 2, 2, true}};
-    cases.check([&](const QString& selected, int exportable, int images, bool canGroup) {
-      Grouping grouping;
-      grouping.select(selected);
-      QCOMPARE(int(grouping.operations.exportableCount()), exportable);
-      QCOMPARE(int(grouping.operations.selectedImageCount()), images);
-      QCOMPARE(grouping.operations.canGroupAsLogo(), canGroup);
-      grouping.document->edit([](Brand& brand) { brand.sections.removeFirst(); });
-      QCOMPARE(grouping.operations.exportableCount(), 0);
-      QVERIFY(!grouping.operations.canGroupAsLogo());
-    });
   }
 
   void selectsAllInContext() {

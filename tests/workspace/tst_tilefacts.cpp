@@ -46,13 +46,8 @@ class TestTileFacts : public QObject {
     const Cases<Item, QString, QString, QString> cases{
         {"named colour", colorItem("Sea", "#a1b2c3"), "#A1B2C3", "Click to copy #A1B2C3",
          "Color, Sea, hex #a1b2c3"},
-        {"gradient", Item::create(GradientPayload{{{}, 0, "Dawn"}}), QString(), "",
-         "Gradient, Dawn"},
-        {"image", imageItem("Hero"), QString(), "Drag into another app to use", "Image, Hero"},
         {"font with a file", fontItem(file, "Bold"), "Bold", "", "Type, Work Sans"},
         {"name-only font", fontItem({}, "Bold"), "Bold · name only", "", "Type, Work Sans"},
-        {"code", Item::create(CodePayload{{"css", "a {}", "Reset"}}), "css", "",
-         "Code snippet, Reset"},
         {"logo set of one", logoItem(1), "1 variant", "", "Logo set, Mark, 1 variant"},
         {"logo set", logoItem(3), "3 variants", "", "Logo set, Mark, 3 variants"},
         {"heading", headerItem("Voice"), QString(), "", ""}};

@@ -35,14 +35,12 @@ class TestTileFlow : public QObject {
 
  private slots:
   void makesOnlyWhatIsNearTheViewport() {
-    TestWorkspace test({colorSection("Colors", 10000)});
-    TestPage page(test);
+    TestPage page({colorSection("Colors", 10000)});
     const int visible = visibleCount(page);
     QVERIFY(visible >= 24);
     QTest::qWait(100);
     for (int y = 0; y < 20000; y += 400) {
-      page.scroll()->setProperty("contentY", y);
-      page.settle();
+      page.scrollTo(y);
       QVERIFY(visibleCount(page) >= 24);
       QVERIFY(page.flow().liveCount() <= 3 * visible);
     }
@@ -50,9 +48,8 @@ class TestTileFlow : public QObject {
   }
 
   void theFirstFrameShowsAllThatIsSeen() {
-    TestWorkspace test({colorSection("Colors", 10000)});
-    TestPage page(test);
-    page.show(test);
+    TestPage page({colorSection("Colors", 10000)});
+    page.show();
     (void)page.view.grabWindow();
     const int visible = visibleCount(page);
     QCOMPARE(page.tiles().size(), visible);
@@ -62,16 +59,15 @@ class TestTileFlow : public QObject {
   }
 
   void aMoveMakesNoViewAnewAndGlides() {
-    TestWorkspace test({colorSection("Colors", 10000)});
-    TestPage page(test);
+    TestPage page({colorSection("Colors", 10000)});
     for (int frame = 0; frame < 20; ++frame) page.settle();
-    QSignalSpy moves(test.section(0).items(), &QAbstractItemModel::rowsMoved);
-    QSignalSpy inserts(test.section(0).items(), &QAbstractItemModel::rowsInserted);
+    QSignalSpy moves(page.section(0).items(), &QAbstractItemModel::rowsMoved);
+    QSignalSpy inserts(page.section(0).items(), &QAbstractItemModel::rowsInserted);
     const int made = page.flow().madeCount();
     QQuickItem* moved = page.tileNamed("7");
     QQuickItem* target = page.tileNamed("1");
     const QPointF from = moved->position(), to = target->position();
-    test.document().moveItem(TestPage::tileOf(moved)->item().id, test.stored(0).id,
+    page.document().moveItem(TestPage::tileOf(moved)->item().id, page.stored(0).id,
                              TestPage::tileOf(target)->item().id);
     QTRY_VERIFY(moved->position() != from);
     QCOMPARE(page.tileNamed("7"), moved);
@@ -83,30 +79,28 @@ class TestTileFlow : public QObject {
   }
 
   void aMoveFromOutOfSightComesIntoSight() {
-    TestWorkspace test({colorSection("Colors", 1000)});
-    TestPage page(test);
-    const auto& items = test.stored(0).items;
+    TestPage page({colorSection("Colors", 1000)});
+    const auto& items = page.stored(0).items;
     const QUuid first = items.at(0).id, far = items.at(900).id;
-    test.document().moveItem(far, test.stored(0).id, first);
+    page.document().moveItem(far, page.stored(0).id, first);
     QTRY_VERIFY(page.tileNamed("900"));
     QTRY_COMPARE(page.tileNamed("900")->position(), QPointF(0, 0));
-    test.document().moveItem(far, test.stored(0).id, std::nullopt);
+    page.document().moveItem(far, page.stored(0).id, std::nullopt);
     QTRY_VERIFY(!page.tileNamed("900"));
   }
 
   void viewsStayWithTheirItems() {
-    TestWorkspace test({colorSection("Colors", 12)});
-    TestPage page(test);
+    TestPage page({colorSection("Colors", 12)});
     QHash<QUuid, QQuickItem*> before;
     for (QQuickItem* tile : page.tiles()) before[TestPage::tileOf(tile)->item().id] = tile;
-    test.document().edit([](Brand& brand) {
+    page.document().edit([](Brand& brand) {
       auto& items = brand.sections[0].items;
       (void)items.takeAt(5);
       items.insert(0, colorItem("new"));
       items.append(items.takeAt(2));
     });
     QTRY_VERIFY(page.tileNamed("new"));
-    QTRY_COMPARE(shownNames(page), test.names(0));
+    QTRY_COMPARE(shownNames(page), page.names(0));
     for (QQuickItem* tile : page.tiles()) {
       const Item& item = TestPage::tileOf(tile)->item();
       if (item.displayName() != "new") QCOMPARE(tile, before.value(item.id));
@@ -115,13 +109,12 @@ class TestTileFlow : public QObject {
 
   void takesTheHeightOfItsBlocks() {
     const QString long_ = QString("many words ").repeated(40);
-    TestWorkspace test({sectionOf("A", {textItem(long_), colorItem("below")})});
-    TestPage page(test);
+    TestPage page({sectionOf("A", {textItem(long_), colorItem("below")})});
     const QQuickItem* text = page.tileNamed(long_);
     QVERIFY(text->height() >= 3 * 15);
     QCOMPARE(text->height(), std::ceil(text->implicitHeight()));
     QCOMPARE(page.tileNamed("below")->y(), text->height() + 14);
-    test.document().edit(
+    page.document().edit(
         [](Brand& brand) { brand.sections[0].items[0].payload = TextPayload{"short"}; });
     page.settle();
     QTRY_COMPARE(page.tileNamed("below")->y(), page.tileNamed("short")->implicitHeight() + 14);
@@ -132,14 +125,8 @@ class TestTileFlow : public QObject {
     Section section = Section::create("A");
     for (int i = 0; i < 60; ++i) section.items.append(textItem(QString("Wiii ").repeated(150 + i)));
     for (int i = 0; i < 60; ++i) section.items.append(colorItem(QString::number(i)));
-    TestWorkspace test({section});
-    TestPage page(test);
-    page.scroll()->setProperty("contentY", 1e6);
-    page.settle();
-    const double end =
-        page.scroll()->property("contentHeight").toDouble() - page.scroll()->height();
-    page.scroll()->setProperty("contentY", end);
-    page.settle();
+    TestPage page({section});
+    (void)page.scrollToEnd();
     for (int step = 0; step < 40; ++step) {
       QQuickItem* anchor = nullptr;  // some view in sight
       for (QQuickItem* tile : page.tiles()) {
@@ -148,8 +135,7 @@ class TestTileFlow : public QObject {
       }
       QVERIFY(anchor);
       const double before = anchor->mapToItem(page.scroll(), QPointF()).y();
-      page.scroll()->setProperty("contentY", page.scroll()->property("contentY").toDouble() - 150);
-      page.settle();
+      page.scrollTo(page.scrolled() - 150);
       QCOMPARE(anchor->mapToItem(page.scroll(), QPointF()).y(), before + 150);
     }
   }

@@ -1,4 +1,3 @@
-#include "model/ById.h"
 #include "sheets/AssetRenameSheet.h"
 #include "sheets/UsageNotesSheet.h"
 #include "sheets/editors/ItemEditorSheet.h"
