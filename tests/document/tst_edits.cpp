@@ -45,7 +45,9 @@ class TestEdits : public QObject {
  private slots:
   void movesItems() {
     const Cases<QString, QString, QString, QString> cases{
+        {"to the front", "c", "S", "a", "S:cab T:d"},
         {"to the end", "a", "S", "", "S:bca T:d"},
+        {"across", "b", "T", "d", "S:ac T:bd"},
         {"before one that is elsewhere", "b", "T", "c", "S:ac T:db"},
         {"to no section", "b", "?", "", "S:abc T:d"},
         {"no item", "?", "T", "", "S:abc T:d"}};
