@@ -27,21 +27,21 @@ Section mixedSection(int count) {
   return section;
 }
 
-void open(TestWorkspace& test, TestPage& page, const QString& brand) {
+void open(TestPage& page, const QString& brand) {
   page.view.setSource(QUrl());
-  test.workspace.reset();
-  test.library.store->select(test.library.packagePath(brand));
-  test.makeWorkspace();
-  page.show(test);
+  page.workspace.reset();
+  page.library.store->select(page.library.packagePath(brand));
+  page.makeWorkspace();
+  page.show();
 }
 
 // From the selection of a brand to its first whole frame, in milliseconds.
-double opening(TestWorkspace& test, TestPage& page, const QString& brand) {
-  open(test, page, "Acme");
+double opening(TestPage& page, const QString& brand) {
+  open(page, "Acme");
   page.settle();
   QElapsedTimer clock;
   clock.start();
-  open(test, page, brand);
+  open(page, brand);
   (void)page.view.grabWindow();
   return double(clock.nsecsElapsed()) / 1e6;
 }
@@ -71,8 +71,8 @@ int visibleTiles(const TestPage& page) {
 }
 
 // One tile of the open brand moves to another place that is seen.
-void moveOne(TestWorkspace& test, TestPage& page) {
-  ItemListModel& items = *test.section(0).items();
+void moveOne(TestPage& page) {
+  ItemListModel& items = *page.section(0).items();
   int moves = 0, others = 0;
   QObject::connect(&items, &QAbstractItemModel::rowsMoved, [&] { ++moves; });
   const auto count = [&] { ++others; };
@@ -82,7 +82,7 @@ void moveOne(TestWorkspace& test, TestPage& page) {
   QObject::connect(&items, &QAbstractItemModel::modelReset, count);
   const int made = page.flow().madeCount();
   const SharedList<Item> before = items.items();
-  test.document().moveItem(before.at(9).id, test.stored(0).id, before.at(2).id);
+  page.document().moveItem(before.at(9).id, page.stored(0).id, before.at(2).id);
   QTest::qWait(1000);
   std::printf("one tile of 10,000 moved: %d move, %d other signals, %d views made (aim: 1, 0, 0)\n",
               moves, others, page.flow().madeCount() - made);
@@ -93,15 +93,14 @@ void moveOne(TestWorkspace& test, TestPage& page) {
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QGuiApplication application(argc, argv);
-  TestWorkspace test({});
-  test.library.add("Twenty", {mixedSection(20)});
-  test.library.add("Many", {mixedSection(10000)});
+  TestPage page({});
+  page.library.add("Twenty", {mixedSection(20)});
+  page.library.add("Many", {mixedSection(10000)});
 
   {
-    TestPage page(test);
     QTest::qWait(300);
     const double atRest = residentMegabytes();
-    open(test, page, "Many");
+    open(page, "Many");
     QTest::qWait(500);
     std::printf("memory with 10,000 tiles open: %.1f MB more than with none (aim: at most 60)\n",
                 residentMegabytes() - atRest);
@@ -109,24 +108,23 @@ int main(int argc, char** argv) {
                double(page.flow().liveCount()) / visibleTiles(page), Aim::atMost, 3);
   }
 
-  TestPage page(test);
   std::vector<double> few, many;
   for (int round = 0; round < 15; ++round) {
-    few.push_back(opening(test, page, "Twenty"));
-    many.push_back(opening(test, page, "Many"));
+    few.push_back(opening(page, "Twenty"));
+    many.push_back(opening(page, "Many"));
   }
   std::printf("opening: %.1f ms with 20 tiles, %.1f ms with 10,000\n", median(few), median(many));
   printRatio("opening a brand of 10,000 tiles / of 20", median(many) / median(few), Aim::atMost, 2);
 
-  open(test, page, "Many");
+  open(page, "Many");
   QTest::qWait(500);
-  moveOne(test, page);
+  moveOne(page);
   constexpr int frames = 1200;
   std::printf(
       "frames over 16.7 ms, scrolling 10,000 tiles in %d frames: %.1f %% (aim: at most 5)\n",
       frames, slowFrames(page, frames));
   std::printf("views made: %d\n", page.flow().madeCount());
-  open(test, page, "Twenty");
+  open(page, "Twenty");
   std::printf("the same with 20 tiles: %.1f %%\n", slowFrames(page, frames));
   return 0;
 }

@@ -44,18 +44,18 @@ struct Keystrokes {
 };
 
 // From the key to the frame that shows what is found.
-Keystrokes keystrokes(TestWorkspace& test, TestPage& page) {
+Keystrokes keystrokes(TestPage& page) {
   std::vector<double> times;
   for (const char* number : {"173", "184", "195", "137", "148", "159"}) {
     const QString text = QLatin1String(number);
     for (int length = 1; length <= text.size(); ++length) {
       times.push_back(milliseconds([&] {
-        test.workspace->search()->setText(text.left(length));
+        page.workspace->search()->setText(text.left(length));
         QCoreApplication::processEvents();
         (void)page.view.grabWindow();
       }));
     }
-    test.workspace->search()->setText({});
+    page.workspace->search()->setText({});
     page.settle();
     page.settle();
   }
@@ -65,9 +65,8 @@ Keystrokes keystrokes(TestWorkspace& test, TestPage& page) {
 // Of 10,000 tiles, the same are found as of 20; and pages full of others at each keystroke.
 void compareKeystrokes() {
   const auto of = [](const Section& section) {
-    TestWorkspace test({section});
-    TestPage page(test);
-    return keystrokes(test, page);
+    TestPage page({section});
+    return keystrokes(page);
   };
   const Keystrokes few = of(namedSection(20)), same = of(namedSection(10'000, 20));
   const Keystrokes many = of(namedSection(10'000));
@@ -81,22 +80,21 @@ void compareKeystrokes() {
 
 void searchAll() {
   constexpr int packages = 1'000;
-  TestWorkspace test({namedSection(300)});
+  TestPage page({namedSection(300)});
   for (int i = 0; i < packages; ++i)
-    test.library.add(QString::number(i), RandomBrand(quint32(i)).brand(10, 30).sections);
-  test.library.store->scan();
-  TestPage page(test);
-  PageSearch& search = *test.workspace->search();
+    page.library.add(QString::number(i), RandomBrand(quint32(i)).brand(10, 30).sections);
+  page.library.store->scan();
+  PageSearch& search = *page.workspace->search();
   search.setScope(PageSearch::Scope::AllBrands);
   search.setText(QStringLiteral("m"));
   page.settle();
   std::vector<double> greps, searches, shows;
   for (const char* text : {"ma", "mar", "mark", "mark ", "mark 9", "mark 99", "mark 997"}) {
     const QString query = QLatin1String(text);
-    greps.push_back(milliseconds([&] { grepManifests(test.library.disk.folder.path(), query); }));
+    greps.push_back(milliseconds([&] { grepManifests(page.library.disk.folder.path(), query); }));
     SearchHits hits;
     searches.push_back(milliseconds([&] {
-      test.library.store->searchAllBrands(query,
+      page.library.store->searchAllBrands(query,
                                           [&](SearchHits found) { hits = std::move(found); });
     }));
     shows.push_back(milliseconds([&] {
@@ -117,19 +115,18 @@ void searchAll() {
 }
 
 void switchBrands() {
-  TestWorkspace test({namedSection(300)});
-  test.library.add(QStringLiteral("Other"), {namedSection(300)});
-  test.library.add(QStringLiteral("One"), {namedSection(1)});
-  test.library.add(QStringLiteral("Single"), {namedSection(1)});
-  test.library.store->scan();
-  TestPage page(test);
+  TestPage page({namedSection(300)});
+  page.library.add(QStringLiteral("Other"), {namedSection(300)});
+  page.library.add(QStringLiteral("One"), {namedSection(1)});
+  page.library.add(QStringLiteral("Single"), {namedSection(1)});
+  page.library.store->scan();
   const auto open = [&](const QString& brand) {
     return milliseconds([&] {
       page.view.setSource(QUrl());
-      test.workspace.reset();
-      test.library.store->select(test.library.packagePath(brand));
-      test.makeWorkspace();
-      page.show(test);
+      page.workspace.reset();
+      page.library.store->select(page.library.packagePath(brand));
+      page.makeWorkspace();
+      page.show();
       (void)page.view.grabWindow();
     });
   };
