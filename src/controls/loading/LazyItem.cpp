@@ -1,6 +1,6 @@
 #include "controls/loading/LazyItem.h"
 
-#include <QQmlEngine>
+#include "controls/loading/ItemMaking.h"
 
 #include <utility>
 
@@ -49,18 +49,12 @@ void LazyItem::drop() {
 }
 
 void LazyItem::make() {
-  QObject* const object = component_->beginCreate(component_->creationContext());
-  item_ = qobject_cast<QQuickItem*>(object);
-  if (!item_) {
-    qWarning("%s", qPrintable(component_->errorString()));
-    delete object;
-    return;
-  }
-  QQmlEngine::setObjectOwnership(item_, QQmlEngine::CppOwnership);
-  item_->setParent(this);
-  item_->setParentItem(this);
-  followSize();
-  component_->completeCreate();
+  const QQuickItem* const made = makeItem(*component_, *this, [this](QQuickItem& item) {
+    item_ = &item;
+    followSize();
+    return QVariantMap();
+  });
+  if (!made) return;
   connect(item_, &QQuickItem::widthChanged, this, &LazyItem::followSize);
   connect(item_, &QQuickItem::heightChanged, this, &LazyItem::followSize);
   followSize();

@@ -1,7 +1,6 @@
 #include "quickgrab/panel/GrabViews.h"
 
-#include <QQmlContext>
-#include <QQmlEngine>
+#include "controls/loading/ItemMaking.h"
 
 #include <algorithm>
 #include <utility>
@@ -69,19 +68,9 @@ GrabViews::View GrabViews::obtain(const GrabThing& thing) {
 }
 
 QQuickItem* GrabViews::make(const GrabThing& thing) {
-  QObject* const object = view_->beginCreate(view_->creationContext());
-  auto* const item = qobject_cast<QQuickItem*>(object);
-  if (!item) {
-    qWarning("%s", qPrintable(view_->errorString()));
-    delete object;
-    return nullptr;
-  }
-  QQmlEngine::setObjectOwnership(item, QQmlEngine::CppOwnership);
-  item->setParent(this);
-  item->setParentItem(this);
-  view_->setInitialProperties(item, {{QStringLiteral("thing"), QVariant::fromValue(thing)}});
-  view_->completeCreate();
-  return item;
+  return makeItem(*view_, *this, [&](QQuickItem&) {
+    return QVariantMap{{QStringLiteral("thing"), QVariant::fromValue(thing)}};
+  });
 }
 
 void GrabViews::release(const View& view) {

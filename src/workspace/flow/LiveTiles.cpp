@@ -1,7 +1,7 @@
 #include "workspace/flow/LiveTiles.h"
 
-#include <QQmlContext>
-#include <QQmlEngine>
+#include "controls/loading/ItemMaking.h"
+
 #include <QQuickWindow>
 
 #include <algorithm>
@@ -79,22 +79,13 @@ std::unique_ptr<LiveTile> LiveTiles::takeWaiting(const Item& item) {
 std::unique_ptr<LiveTile> LiveTiles::make(SectionModel& section, const Item& item,
                                           QQmlComponent& component, const QSizeF& size) {
   auto live = std::make_unique<LiveTile>();
-  QObject* const object = component.beginCreate(component.creationContext());
-  live->view = qobject_cast<QQuickItem*>(object);
-  if (!live->view) {
-    qWarning("%s", qPrintable(component.errorString()));
-    delete object;
-    return nullptr;
-  }
-  QQmlEngine::setObjectOwnership(live->view, QQmlEngine::CppOwnership);
-  live->tile = new Tile(section, item);
-  live->tile->setParent(live->view);
-  live->view->setParent(&parent_);
-  live->view->setParentItem(&parent_);
-  live->view->setSize(size);  // before its content is made, which then needs no second layout
-  component.setInitialProperties(live->view,
-                                 {{QStringLiteral("tile"), QVariant::fromValue(live->tile)}});
-  component.completeCreate();
+  live->view = makeItem(component, parent_, [&](QQuickItem& view) {
+    live->tile = new Tile(section, item);
+    live->tile->setParent(&view);
+    view.setSize(size);
+    return QVariantMap{{QStringLiteral("tile"), QVariant::fromValue(live->tile)}};
+  });
+  if (!live->view) return nullptr;
   ++made_;
   return live;
 }

@@ -1,13 +1,12 @@
 #include "workspace/page/SectionColumn.h"
 
+#include "controls/loading/ItemMaking.h"
 #include "controls/theme/Typography.h"
 #include "workspace/BrandWorkspace.h"
 #include "workspace/flow/FlowLayout.h"
 #include "workspace/flow/TileFlow.h"
 
 #include <QFontMetricsF>
-#include <QQmlContext>
-#include <QQmlEngine>
 
 #include <algorithm>
 #include <cmath>
@@ -296,21 +295,12 @@ QQuickItem* SectionColumn::show(size_t row) {
 }
 
 QQuickItem* SectionColumn::make(SectionModel& section, double top) {
-  QObject* const object = component_->beginCreate(component_->creationContext());
-  auto* const view = qobject_cast<QQuickItem*>(object);
-  if (!view) {
-    qWarning("%s", qPrintable(component_->errorString()));
-    delete object;
-    return nullptr;
-  }
-  QQmlEngine::setObjectOwnership(view, QQmlEngine::CppOwnership);
-  view->setParent(this);
-  view->setParentItem(this);
-  view->setWidth(width());  // before its content is made, which then needs no second layout
-  view->setY(top);
-  component_->setInitialProperties(view,
-                                   {{QStringLiteral("section"), QVariant::fromValue(&section)}});
-  component_->completeCreate();
+  QQuickItem* const view = makeItem(*component_, *this, [&](QQuickItem& item) {
+    item.setWidth(width());
+    item.setY(top);
+    return QVariantMap{{QStringLiteral("section"), QVariant::fromValue(&section)}};
+  });
+  if (!view) return nullptr;
   connect(view, &QQuickItem::implicitHeightChanged, this, &SectionColumn::heightsChanged);
   connect(view, &QQuickItem::activeFocusChanged, this, [this, view] { focusMoved(view); });
   return view;
