@@ -16,15 +16,7 @@ AppWindows::AppWindows(DesktopServices& services, LibraryStore& library, MenuBar
       theme(Theme::of(engine)),
       tint(library, theme),
       main(engine, services.forWorkspace(library), services.state, &updater),
-      settings(engine, {.library = library,
-                        .menuBar = menuBar,
-                        .dialogs = services.dialogs,
-                        .viewer = services.viewer,
-                        .statusItem = services.statusItem,
-                        .taskbar = services.taskbar,
-                        .loginItem = services.autostart,
-                        .updater = updater,
-                        .hotKey = std::move(hotKey)}) {
+      settings(engine, services.forSettings(library, menuBar, updater, std::move(hotKey))) {
   symbols::fontFamily();  // registered before any text, which it would lay out again
   ViewLoading::answer();
   services.motion.follow(

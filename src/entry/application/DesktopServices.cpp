@@ -8,6 +8,7 @@
 #include <QFileInfo>
 
 #include <dlfcn.h>
+#include <utility>
 
 namespace tarnloft {
 
@@ -83,6 +84,20 @@ QuickGrabServices DesktopServices::forQuickGrab(LibraryStore& library, MenuBarPr
           .fonts = fonts,
           .workers = workers,
           .dragThreads = dragThreads};
+}
+
+SettingsServices DesktopServices::forSettings(LibraryStore& library, MenuBarPrefs& prefs,
+                                              UpdaterViewModel& updates,
+                                              std::function<HotKeySettings*()> key) {
+  return {.library = library,
+          .menuBar = prefs,
+          .dialogs = dialogs,
+          .viewer = viewer,
+          .statusItem = statusItem,
+          .taskbar = taskbar,
+          .loginItem = autostart,
+          .updater = updates,
+          .hotKey = std::move(key)};
 }
 
 bool DesktopServices::finish(std::chrono::milliseconds patience) {

@@ -22,6 +22,7 @@
 #include "platform/desktop/window/DesktopStatusItem.h"
 #include "platform/desktop/window/DesktopTaskbar.h"
 #include "quickgrab/panel/QuickGrab.h"
+#include "settings/SettingsModel.h"
 #include "workspace/WorkspaceServices.h"
 
 #include <QCoreApplication>
@@ -70,6 +71,8 @@ struct DesktopServices {
   LibraryServices forLibrary();
   WorkspaceServices forWorkspace(LibraryStore& library);
   QuickGrabServices forQuickGrab(LibraryStore& library, MenuBarPrefs& prefs);
+  SettingsServices forSettings(LibraryStore& library, MenuBarPrefs& prefs,
+                               UpdaterViewModel& updates, std::function<HotKeySettings*()> key);
 
   // For the end: forgets work that hasn't begun, and waits for threads that use any of this, at
   // most so long. False if some still do.
