@@ -35,7 +35,7 @@ void SettingsModel::followDesktop() {
   lookAtDesktop();
   desktopCheck_.start();
   emit loginChanged();
-  emit desktopChanged();
+  emit hotKeyChanged();
 }
 
 void SettingsModel::chooseFolder() {

@@ -49,7 +49,7 @@ class SettingsModel : public QObject {
       QColor defaultAccent READ defaultAccent WRITE setDefaultAccent NOTIFY defaultAccentChanged)
   Q_PROPERTY(tarnloft::UpdaterViewModel* updater READ updater CONSTANT)
   Q_PROPERTY(tarnloft::MenuBarPrefs* menuBar READ menuBar CONSTANT)
-  Q_PROPERTY(tarnloft::HotKeySettings* hotKey READ hotKey NOTIFY desktopChanged)
+  Q_PROPERTY(tarnloft::HotKeySettings* hotKey READ hotKey NOTIFY hotKeyChanged)
   // The session starts the program, without a window.
   Q_PROPERTY(bool startsAtLogin READ startsAtLogin NOTIFY loginChanged)
   // Why that couldn't be changed; empty if it could.
@@ -105,6 +105,7 @@ class SettingsModel : public QObject {
   void appearanceModeChanged();
   void defaultAccentChanged();
   void desktopChanged();
+  void hotKeyChanged();
   void loginChanged();
 
  private:

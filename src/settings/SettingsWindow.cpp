@@ -10,9 +10,9 @@
 namespace tarnloft {
 namespace {
 
-const auto url = QStringLiteral("qrc:/qt-project.org/imports/TarnLoft/Settings/SettingsWindow.qml");
-
 using namespace std::chrono_literals;
+
+const auto url = QStringLiteral("qrc:/qt-project.org/imports/TarnLoft/Settings/SettingsWindow.qml");
 
 constexpr auto remaking = 1s;  // behind a closing, for the next opening
 constexpr int frameRoom = 60;  // for the desktop's own at both ends of the window

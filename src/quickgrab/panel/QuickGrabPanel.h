@@ -22,8 +22,7 @@ class QuickGrabPanel : public QObject {
   static constexpr QSize size{340, 480};
 
   // Borrowed: all outlive this. The engine is asked for when its views are wanted.
-  // `isScreenComposed` tells whether what lies behind a translucent
-  // window shows through it.
+  // `isScreenComposed` tells whether what lies behind a translucent window shows through it.
   QuickGrabPanel(std::function<QQmlEngine&()> engine, const QuickGrabServices& services,
                  std::function<bool()> isScreenComposed);
   ~QuickGrabPanel() override;
