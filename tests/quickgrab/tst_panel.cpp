@@ -91,7 +91,10 @@ class TestPanelWindow : public QObject {
   // Views turn from one thing into another, but none under a press.
   void viewsFollowWhatIsTyped() {
     ShownPanel desk(
-        {sectionOfAll(), colorSection("Greys", 30), sectionOf("More", {textItem("Sun")})});
+        {sectionOfAll(), colorSection("Greys", 30),
+         sectionOf("More", {textItem("Sun"),
+                            Item::create(LogoPayload{
+                                {"Sign", {{QUuid::createUuid(), {"s.svg", "s.svg"}, {}, {}}}}})})});
     for (const auto set : {&MenuBarPrefs::setShowType, &MenuBarPrefs::setShowCode})
       (*desk.prefs.*set)(true);
     QuickGrabPanel& panel = desk.panel;
@@ -116,6 +119,18 @@ class TestPanelWindow : public QObject {
     QVERIFY(desk.pasteboard.texts.isEmpty());
     QTest::mouseClick(panel.window(), Qt::LeftButton, {}, at);
     QCOMPARE(desk.pasteboard.texts, QStringList{"#0000FF"});
+
+    writeFile(desk.library.packagePath("Acme") + "/assets/s.svg", "picture");
+    panel.grab().setSearch("mark");
+    const QPoint picture = views->mapToScene(panel.grab().things().last().room.center()).toPoint();
+    for (const bool changes : {true, false}) {  // while the button is down
+      QTest::mousePress(panel.window(), Qt::LeftButton, {}, picture);
+      if (changes) panel.grab().setSearch("sign");
+      for (const int by : {6, 12, 18}) QTest::mouseMove(panel.window(), picture + QPoint(by, by));
+      QCOMPARE(QTest::qWaitFor([&] { return !desk.drags.items.isEmpty(); }, 200), !changes);
+      QTest::mouseRelease(panel.window(), Qt::LeftButton, {}, picture + QPoint(18, 18));
+    }
+    QVERIFY(desk.drags.items.first().suggestedName.contains("s"));
   }
 
   // It goes with the keyboard; the click that took that doesn't bring it back, but the next one

@@ -14,6 +14,8 @@ DragHandler {
 
     // The picture is there a frame later, when the button may be up again.
     function start() {
+        if (!view.Window.window)
+            return; // it was taken away under the press
         const ratio = view.Screen.devicePixelRatio;
         const size = Qt.size(Math.round(view.width * ratio), Math.round(view.height * ratio));
         view.grabToImage(result => {

@@ -13,7 +13,7 @@ Item {
     required property bool keyboard // the list is worked in by keys
     required property bool pointed // by the pointer
 
-    readonly property bool held: tap.pressed // by a press that is for this thing
+    readonly property bool held: press.active // by a press that is for this thing
     readonly property bool isEntry: thing.kind !== GrabKind.BlockHeader && thing.kind !== GrabKind.GroupHeader
     readonly property bool isMedia: thing.kind === GrabKind.Media
     readonly property bool isCurrent: isEntry && grab.current === thing.place
@@ -43,6 +43,10 @@ Item {
         id: hover
 
         enabled: root.isEntry
+    }
+
+    PointHandler {
+        id: press
     }
 
     PlainTap {

@@ -2,6 +2,8 @@
 
 #include "controls/loading/ItemMaking.h"
 
+#include <QScopedValueRollback>
+
 #include <algorithm>
 #include <utility>
 
@@ -22,8 +24,15 @@ void GrabViews::componentComplete() {
   follow();
 }
 
+// A view that comes may take the keyboard and be scrolled into sight, so that others are in it.
 void GrabViews::follow() {
-  const QList<GrabThing>& things = grab_->things();
+  isStale_ = true;
+  if (isFollowing_) return;
+  const QScopedValueRollback following(isFollowing_, true);
+  while (std::exchange(isStale_, false)) show(QList(grab_->things()));
+}
+
+void GrabViews::show(const QList<GrabThing>& things) {
   QHash<QUuid, int> kinds;
   for (const GrabThing& thing : things) kinds[thing.id] = thing.kind;
   for (auto entry = views_.begin(); entry != views_.end();) {

@@ -32,6 +32,7 @@ class GrabViews : public QQuickItem {
   };
 
   void follow();
+  void show(const QList<GrabThing>& things);
   void show(const GrabThing& thing, QQuickItem*& before);
   View obtain(const GrabThing& thing);
   QQuickItem* make(const GrabThing& thing);
@@ -41,6 +42,8 @@ class GrabViews : public QQuickItem {
   QQmlComponent* view_ = nullptr;
   QHash<QUuid, View> views_;   // by the thing's id
   std::vector<View> waiting_;  // for another thing; the newest last
+  bool isStale_ = false;
+  bool isFollowing_ = false;
 };
 
 }  // namespace tarnloft
