@@ -105,6 +105,12 @@ class TestTileFlow : public QObject {
       const Item& item = TestPage::tileOf(tile)->item();
       if (item.displayName() != "new") QCOMPARE(tile, before.value(item.id));
     }
+    const QPoint pressed = page.middleOf("new");
+    QTest::mousePress(&page.view, Qt::LeftButton, {}, pressed);
+    page.document().edit([](Brand& brand) { brand.sections[0].items[0] = colorItem("newer"); });
+    QTRY_VERIFY(page.tileNamed("newer"));
+    QTest::mouseRelease(&page.view, Qt::LeftButton, {}, pressed);
+    QVERIFY(page.pasteboard.texts.isEmpty());  // of either
   }
 
   void takesTheHeightOfItsBlocks() {

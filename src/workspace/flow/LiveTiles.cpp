@@ -93,7 +93,8 @@ std::unique_ptr<LiveTile> LiveTiles::make(SectionModel& section, const Item& ite
 LiveTiles::Map::iterator LiveTiles::release(Map::iterator entry) {
   auto live = std::move(entry->second);
   entry = live_.erase(entry);
-  if (TileFacts::isBlock(live->tile->item())) {  // its editor keeps what it knows of its text
+  // A block's editor keeps what it knows of its text; a press is for what was there.
+  if (TileFacts::isBlock(live->tile->item()) || live->view->property("pressed").toBool()) {
     end(*live);
     return entry;
   }

@@ -14,6 +14,7 @@ Item {
     // An expanded colour's card tells its name as well.
     readonly property real captionHeight: expanded && tile.kind === TileKind.Color ? 0 : tile.subcaption === "" ? 22 : 36
     readonly property bool focused: activeFocus && FocusOrigin.keyboard
+    readonly property bool pressed: tap.pressed || drag.active
     readonly property bool dragged: drag.active || tile.dragged
     readonly property bool hovering: (hover.hovered || tile.menuOpen) && !dragged
 
@@ -122,6 +123,8 @@ Item {
     }
 
     PlainTap {
+        id: tap
+
         onClicked: modifiers => {
             root.forceActiveFocus(Qt.MouseFocusReason);
             root.tile.click(modifiers);
