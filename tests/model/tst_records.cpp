@@ -1,3 +1,4 @@
+#include "model/FileName.h"
 #include "model/SearchText.h"
 #include "testing/Cases.h"
 
@@ -30,6 +31,18 @@ class TestRecords : public QObject {
         QCOMPARE(ofText, expected.toStdString());
         QCOMPARE(ofUtf8, ofText);
       }
+    });
+  }
+
+  void splitsExtensions() {
+    const Cases<QString, QString, QString> cases{{"plain", "Mark.PNG", "Mark", "PNG"},
+                                                 {"two", "a.tar.gz", "a.tar", "gz"},
+                                                 {"hidden", ".png", ".png", ""},
+                                                 {"dot at the end", "Mark.", "Mark.", ""},
+                                                 {"dot in a folder", "a.b/c", "a.b/c", ""}};
+    cases.check([&](const QString& path, const QString& base, const QString& extension) {
+      QCOMPARE(withoutPathExtension(path), base);
+      QCOMPARE(pathExtension(path), extension);
     });
   }
 };

@@ -5,6 +5,7 @@
 #include "testing/RandomBrand.h"
 #include "workspace/Items.h"
 #include "workspace/TestWorkspace.h"
+#include "workspace/search/SearchableItems.h"
 #include "workspace/tiles/Tile.h"
 
 #include <QAbstractItemModelTester>
@@ -178,6 +179,29 @@ class TestWorkspaceModels : public QObject {
       search.setScope(PageSearch::Scope::AllBrands);
       QCOMPARE(search.isGlobal(), QString(text).contains('z'));
       QCOMPARE(results.count(), 0);
+    }
+  }
+
+  // The page's packed texts find what each item tells of itself.
+  void thePagesSearchIsThatOfItsItems() {
+    RandomBrand random(5);
+    for (int round = 0; round < 40; ++round) {
+      SharedList<Item> items;
+      for (const Section& section : random.brand(3, 12).sections)
+        for (const Item& item : section.items) items.append(item);
+      const SearchableItems searchable(items);
+      QStringList queries{"\u00ff", "e", "a\u0308"};
+      for (const Item& item : items) {
+        const QString token = item.searchTokens().at(random.below(2));
+        queries << token << token.toUpper() << token.mid(token.size() / 3, 3);
+      }
+      for (const QString& query : queries) {
+        if (query.trimmed().isEmpty()) continue;
+        SharedList<Item> matching;
+        for (const Item& item : items)
+          if (item.matchesSearch(query.trimmed())) matching.append(item);
+        QVERIFY2(searchable.matching(query) == matching, qPrintable(query));
+      }
     }
   }
 
