@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import TarnLoft.Controls
 
 // Drags something out of the item that it stands in: `carried` comes with a picture of `view`, for
 // `carryOut`, while the button is down.
@@ -25,5 +26,9 @@ DragHandler {
     }
 
     target: null
+    onGrabChanged: (transition, point) => {
+        if (transition === PointerDevice.GrabPassive) // of a press, which never becomes a drag if it is for a popup
+            dragThreshold = PopupCover.covers(parent, point.scenePosition) ? 32000 : undefined;
+    }
     onActiveChanged: if (active) start()
 }
