@@ -19,6 +19,15 @@ class KeyText : public QObject {
   Q_INVOKABLE static QString display(const QString& keys) {
     return QKeySequence(keys).toString(QKeySequence::NativeText);
   }
+
+  // Whether a key with that text is one that writes, anything but a space; Esc and Delete have a
+  // text as well.
+  Q_INVOKABLE static bool writes(const QString& text, int modifiers) {
+    constexpr int commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    const bool isInk = !text.isEmpty() && !text.at(0).isSpace() &&
+                       (text.at(0).isPrint() || text.at(0).isSurrogate());
+    return isInk && !(modifiers & commands);
+  }
 };
 
 }  // namespace tarnloft

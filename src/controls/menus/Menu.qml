@@ -73,13 +73,12 @@ T.Menu {
 
     // For the keys that the template leaves alone, from the menu itself and from its entries.
     function takeKey(event: KeyEvent) {
-        const plain = !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier));
         event.accepted = true;
         if (event.key === Qt.Key_Home)
             goOn(-1, 1);
         else if (event.key === Qt.Key_End || event.key === Qt.Key_Up && currentIndex < 0)
             goOn(count, -1);
-        else if (plain && event.text.length === 1 && event.text > " ")
+        else if (KeyText.writes(event.text, event.modifiers))
             goOn(currentIndex, 1, event.text);
         else
             event.accepted = false;

@@ -38,7 +38,7 @@ FocusScope {
             list.enter();
         else if (isList && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter || event.key === Qt.Key_Space))
             chosen();
-        else if (isList && event.text.length === 1 && event.text > " " && !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier)))
+        else if (isList && KeyText.writes(event.text, event.modifiers))
             header.field.take(event.text);
         else
             event.accepted = false;
