@@ -1,6 +1,8 @@
 #include "controls/motion/Motion.h"
+#include "sheets/emblems/EmblemPicker.h"
 #include "shell/TestViews.h"
 #include "testing/Cases.h"
+#include "testing/DrawnText.h"
 #include "workspace/Items.h"
 
 using namespace tarnloft;
@@ -217,6 +219,61 @@ class TestShellViews : public QObject {
     QTRY_VERIFY(!views.item(dialog, "New Brand"));
     views.press(Qt::Key_I, Qt::ControlModifier | Qt::ShiftModifier);
     QVERIFY(!views.library.dialogs.openTypes.isEmpty());
+  }
+
+  // One picture shows the symbols; the pointer, the keys and assistive technology agree on it.
+  void aSymbolIsChosenInEachWay() {
+    Views views;
+    views.library.add("Acme", {colorSection("Colors", 60)});
+    views.start();
+    Motion::of(views.engine).setReduced(true);
+    auto& content = *views.window().property("content").value<ContentModel*>();
+    content.workspace()->sections()->models().front()->editEmblem();
+    QTRY_VERIFY(views.window().activeFocusItem()->inherits("QQuickTextField"));
+    auto& picker = *qobject_cast<EmblemPicker*>(content.sheets()->current());
+    const QAccessibleInterface* const list =
+        QAccessible::queryAccessibleInterface(views.item(QAccessible::List, "Symbols"));
+    QCOMPARE(list->childCount(), 262);
+    QVERIFY(list->parent()->indexOfChild(list) >= 0);
+    const auto middle = [&](int place) { return list->child(place)->rect().center(); };
+    const auto isDrawn = [&](int place) {  // in the middle of where it is said to be
+      const QRect rect = list->child(place)->rect().translated(-views.window().position());
+      const QRect ink = inkOf(views.window().grabWindow().copy(rect));
+      const QPoint off = ink.center() - QRect(QPoint(), rect.size()).center();
+      return ink.width() > 8 && off.manhattanLength() < 6;
+    };
+    const auto chosen = [&] {
+      for (int place = 0; place < list->childCount(); ++place)
+        if (list->child(place)->state().checked) return place;
+      return -1;
+    };
+    QTest::mouseClick(&views.window(), Qt::LeftButton, {}, middle(12) - views.window().position());
+    QCOMPARE(chosen(), 12);
+    QCOMPARE(picker.symbol(), picker.symbols().at(12));
+    QVERIFY(isDrawn(0) && isDrawn(13) &&
+            list->childAt(middle(13).x(), middle(13).y()) == list->child(13));
+    // What is pressed and pulled isn't a tile under the sheet.
+    for (const QPoint from :
+         {Views::centerOf(views.item(button, "Done")), middle(36) - views.window().position()}) {
+      QTest::mousePress(&views.window(), Qt::LeftButton, {}, from);
+      for (const int by : {8, 16, 24}) QTest::mouseMove(&views.window(), from + QPoint(by, by));
+      QTest::qWait(100);
+      QTest::mouseRelease(&views.window(), Qt::LeftButton, {}, from + QPoint(24, 24));
+    }
+    QVERIFY(views.drags.items.isEmpty() && views.pasteboard.texts.isEmpty());
+    views.press(Qt::Key_Right);
+    QCOMPARE(chosen(), 13);
+    QCOMPARE(list->focusChild(), list->child(13));
+    QVERIFY(list->child(200)->state().offscreen);
+    list->child(200)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(picker.symbol(), picker.symbols().at(200));
+    QVERIFY(!list->child(200)->state().offscreen && isDrawn(199));
+    views.type("carrot");
+    QVERIFY(list->childCount() == 1 && !list->child(1));
+    QCOMPARE(list->child(0)->text(QAccessible::Name), QString("carrot"));
+    views.press(Qt::Key_Down);
+    views.press(Qt::Key_Escape);
+    QTRY_VERIFY(!content.sheets()->current());
   }
 
   void aNarrowWindowFoldsItsSidebar() {

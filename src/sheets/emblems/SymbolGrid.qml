@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import TarnLoft.Controls
 import TarnLoft.Sheets
 
@@ -11,134 +10,69 @@ FocusScope {
 
     required property EmblemPicker picker
 
-    function choose(index: int) {
-        if (index < 0 || index >= grid.count)
+    readonly property int count: picker.symbols.length
+    readonly property int hovered: hover.hovered ? board.placeAt(hover.point.position) : -1
+
+    function goTo(place: int) {
+        board.current = place;
+        const cell = board.cell(place);
+        if (cell.y < scroll.contentY)
+            scroll.contentY = cell.y;
+        else if (cell.y + cell.height > scroll.contentY + scroll.height)
+            scroll.contentY = cell.y + cell.height - scroll.height;
+    }
+
+    function choose(place: int) {
+        if (place < 0 || place >= count)
             return;
-        grid.currentIndex = index;
-        picker.symbol = picker.symbols[index];
+        goTo(place);
+        picker.symbol = picker.symbols[place];
     }
 
-    readonly property int hovered: hover.hovered ? placeAt(hover.point.position) : -1
-
-    function leftOf(place: int): real {
-        return place % grid.columns * grid.cellWidth;
-    }
-
-    function topOf(place: int): real {
-        return Math.floor(place / grid.columns) * grid.cellHeight;
-    }
-
-    // Of a point in the grid as it is seen; -1 beside all.
-    function placeAt(point: point): int {
-        return grid.indexAt(point.x + grid.contentX, point.y + grid.contentY);
-    }
-
-    // The chosen one, or the first.
-    function enter() {
-        grid.currentIndex = Math.max(0, picker.symbolPlace);
-        grid.positionViewAtIndex(grid.currentIndex, GridView.Contain);
+    function search(text: string) {
+        picker.query = text;
+        goTo(0);
     }
 
     implicitHeight: 288
 
     SearchField {
-        id: search
+        id: field
 
         width: parent.width
         focus: true
         placeholderText: "Search symbols"
         accessibleName: "Search symbols"
         text: root.picker.query
-        onTextEdited: {
-            root.picker.query = text;
-            grid.currentIndex = 0;
-        }
-        Keys.onDownPressed: if (grid.count > 0) grid.forceActiveFocus(Qt.TabFocusReason)
+        onTextEdited: root.search(text)
+        Keys.onDownPressed: if (root.count > 0) board.forceActiveFocus(Qt.TabFocusReason)
         Keys.onReturnPressed: event => {
-            event.accepted = text !== "" && grid.count > 0;
+            event.accepted = text !== "" && root.count > 0;
             if (event.accepted)
-                root.choose(grid.currentIndex);
+                root.choose(board.current);
         }
     }
 
-    GridView {
-        id: grid
+    ScrollArea {
+        id: scroll
 
-        readonly property int columns: Math.max(1, Math.floor(width / 40))
-
-        y: search.height + 8
+        y: field.height + 8
         width: parent.width
         height: parent.height - y
-        cellWidth: Math.floor(width / columns)
-        cellHeight: 40
-        clip: true
-        cacheBuffer: 0 // a row takes a millisecond
-        boundsBehavior: Flickable.StopAtBounds
-        activeFocusOnTab: true
-        keyNavigationEnabled: false // an arrow chooses as well
-        highlightFollowsCurrentItem: true
-        highlightMoveDuration: 0
-        model: root.picker.symbols
-        Accessible.role: Accessible.List
-        Accessible.name: "Symbols"
-
-        Keys.onPressed: event => {
-            const step = {
-                [Qt.Key_Left]: -1,
-                [Qt.Key_Right]: 1,
-                [Qt.Key_Up]: -columns,
-                [Qt.Key_Down]: columns,
-                [Qt.Key_PageUp]: -columns * 5,
-                [Qt.Key_PageDown]: columns * 5,
-                [Qt.Key_Home]: -count,
-                [Qt.Key_End]: count
-            }[event.key] ?? 0;
-            if (step === 0) {
-                if (event.text.trim() === "" || event.modifiers & (Qt.ControlModifier | Qt.AltModifier))
-                    return;
-                search.forceActiveFocus(Qt.TabFocusReason); // typing goes on searching
-                search.text += event.text;
-                search.textEdited();
-            } else if (event.key === Qt.Key_Up && currentIndex < columns) {
-                search.forceActiveFocus(Qt.TabFocusReason);
-            } else {
-                root.choose(Math.max(0, Math.min(count - 1, currentIndex + step)));
-            }
-            event.accepted = true;
-        }
-        Keys.onSpacePressed: root.choose(currentIndex)
-
-        T.ScrollBar.vertical: ScrollBar {}
-
-        WheelScroll {
-            flickable: grid
-        }
+        contentHeight: board.contentHeight
+        followsFocus: false
 
         // Of the chosen one, under all.
-        RoundedRectangle {
-            readonly property int place: root.picker.symbolPlace
-
-            parent: grid.contentItem
-            z: -1
-            visible: place >= 0
-            x: root.leftOf(place) + 2
-            y: root.topOf(place) + 2
-            width: grid.cellWidth - 4
-            height: grid.cellHeight - 4
-            radius: 8
+        SymbolGround {
+            cell: board.chosenCell
+            visible: board.chosen >= 0
             color: Theme.accent
         }
 
         // Of the one under the pointer.
-        RoundedRectangle {
-            parent: grid.contentItem
-            z: -1
-            visible: root.hovered >= 0 && root.hovered !== root.picker.symbolPlace
-            x: root.leftOf(root.hovered) + 2
-            y: root.topOf(root.hovered) + 2
-            width: grid.cellWidth - 4
-            height: grid.cellHeight - 4
-            radius: 8
+        SymbolGround {
+            cell: board.cell(root.hovered)
+            visible: root.hovered >= 0 && root.hovered !== board.chosen
             color: Theme.thin(Theme.primary, 0.08)
 
             Help {
@@ -148,56 +82,75 @@ FocusScope {
         }
 
         // Of the one that the keyboard is at.
-        Item {
-            parent: grid.contentItem
-            x: root.leftOf(grid.currentIndex) + 2
-            y: root.topOf(grid.currentIndex) + 2
-            width: grid.cellWidth - 4
-            height: grid.cellHeight - 4
+        SymbolGround {
+            cell: board.currentCell
+            color: "transparent"
 
             FocusRing {
-                shown: grid.activeFocus && FocusOrigin.keyboard && grid.count > 0
-                base: 8
+                shown: board.activeFocus && FocusOrigin.keyboard && root.count > 0
+                base: parent.radius
             }
         }
 
-        HoverHandler {
-            id: hover
-        }
+        SymbolBoard {
+            id: board
 
-        TapHandler {
-            onTapped: eventPoint => {
-                grid.forceActiveFocus(Qt.MouseFocusReason);
-                root.choose(root.placeAt(eventPoint.position));
+            y: scroll.contentY // it stands still
+            width: scroll.width
+            height: scroll.height
+            symbols: root.picker.symbols
+            chosen: root.picker.symbolPlace
+            scrolled: scroll.contentY
+            activeFocusOnTab: true
+            onPressed: place => root.choose(place)
+            Accessible.role: Accessible.List
+
+            Keys.onPressed: event => {
+                const step = {
+                    [Qt.Key_Left]: -1,
+                    [Qt.Key_Right]: 1,
+                    [Qt.Key_Up]: -columns,
+                    [Qt.Key_Down]: columns,
+                    [Qt.Key_PageUp]: -columns * 5,
+                    [Qt.Key_PageDown]: columns * 5,
+                    [Qt.Key_Home]: -root.count,
+                    [Qt.Key_End]: root.count
+                }[event.key] ?? 0;
+                if (step === 0) {
+                    if (!KeyText.writes(event.text, event.modifiers))
+                        return;
+                    field.forceActiveFocus(Qt.TabFocusReason); // typing goes on searching
+                    root.search(field.text + event.text);
+                } else if (event.key === Qt.Key_Up && current < columns) {
+                    field.forceActiveFocus(Qt.TabFocusReason);
+                } else {
+                    root.choose(Math.max(0, Math.min(root.count - 1, current + step)));
+                }
+                event.accepted = true;
             }
-        }
+            Keys.onSpacePressed: root.choose(current)
 
-        // Many are made at once: a cell is no more than its symbol.
-        delegate: Symbol {
-            required property string modelData
-            required property int index
+            HoverHandler {
+                id: hover
+            }
 
-            width: grid.cellWidth
-            height: grid.cellHeight
-            name: modelData
-            size: 17
-            color: modelData === root.picker.symbol ? Theme.onAccent : Theme.label
-            Accessible.role: Accessible.RadioButton
-            Accessible.name: root.picker.spoken(modelData)
-            Accessible.checkable: true
-            Accessible.checked: modelData === root.picker.symbol
-            Accessible.onPressAction: root.choose(index)
+            PlainTap {
+                onClicked: {
+                    board.forceActiveFocus(Qt.MouseFocusReason);
+                    root.choose(board.placeAt(point.position));
+                }
+            }
         }
     }
 
     EmptyState {
-        anchors.centerIn: grid
-        width: grid.width - 40
-        visible: grid.count === 0
+        anchors.centerIn: scroll
+        width: scroll.width - 40
+        visible: root.count === 0
         symbol: "magnifyingglass"
         title: "No matches"
         message: "Try a different search."
     }
 
-    Component.onCompleted: enter()
+    Component.onCompleted: goTo(Math.max(0, picker.symbolPlace)) // the chosen one, or the first
 }
