@@ -82,7 +82,7 @@ T.Button {
 
     LazyItem {
         anchors.fill: parent
-        active: root.help !== ""
+        active: root.help !== "" && (root.hovered || root.visualFocus) || item !== null // from the first time on
         sourceComponent: Help {
             text: root.help
             shown: (root.hovered || root.symbolOnly && root.visualFocus) && !root.down

@@ -91,7 +91,7 @@ MenuOpener {
 
     LazyItem {
         anchors.fill: parent
-        active: root.help !== ""
+        active: root.help !== "" && face.hovered || item !== null // from the first time on
         sourceComponent: Help {
             text: root.help
             shown: face.hovered && !face.down

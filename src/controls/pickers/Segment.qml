@@ -10,6 +10,7 @@ T.RadioButton {
 
     required property PickerOption modelData
     required property int index
+    readonly property string help: modelData.help // which goes before those who show it
     property bool chosen: false
     property int controlSize: ControlSize.Regular
 
@@ -33,8 +34,12 @@ T.RadioButton {
         color: root.chosen || root.hovered ? Theme.label : Theme.secondaryLabel
     }
 
-    Help {
-        text: root.modelData.help
-        shown: root.hovered && !root.down
+    LazyItem {
+        anchors.fill: parent
+        active: root.hovered || item !== null // from the first time on
+        sourceComponent: Help {
+            text: root.help
+            shown: root.hovered && !root.down
+        }
     }
 }
