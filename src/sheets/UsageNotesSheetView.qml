@@ -45,16 +45,14 @@ Sheet {
             }
         }
 
-        Item {
-            width: parent.width
-            height: nothing.height + 32
-            visible: root.model.notes.count === 0
-
-            EmptyState {
-                id: nothing
-
-                anchors.centerIn: parent
-                width: Math.min(300, parent.width)
+        LazyItem {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: Math.min(300, parent.width)
+            active: root.model.notes.count === 0
+            visible: active
+            sourceComponent: EmptyState {
+                topPadding: 16
+                bottomPadding: 16
                 symbol: "checklist"
                 symbolSize: 32
                 title: "No rules yet"

@@ -66,7 +66,7 @@ FocusScope {
 
         anchors.fill: parent
         anchors.leftMargin: lens.x + lens.width + 5
-        anchors.rightMargin: clearing.visible ? clearing.width + 8 : 8
+        anchors.rightMargin: clearing.active ? clearing.width + 8 : 8
         focus: true
         bordered: false
         font: Theme.font(13)
@@ -74,18 +74,20 @@ FocusScope {
         onAccepted: root.accepted()
     }
 
-    Button {
+    LazyItem {
         id: clearing
 
         anchors.right: parent.right
         anchors.rightMargin: 6
         anchors.verticalCenter: parent.verticalCenter
-        visible: field.text !== ""
-        kind: Button.Plain
-        symbol: "xmark.circle.fill"
-        symbolSize: 12
-        tint: hovered ? Theme.secondaryLabel : Theme.tertiaryLabel
-        accessibleName: "Clear"
-        onClicked: root.clear()
+        active: field.text !== ""
+        sourceComponent: Button {
+            kind: Button.Plain
+            symbol: "xmark.circle.fill"
+            symbolSize: 12
+            tint: hovered ? Theme.secondaryLabel : Theme.tertiaryLabel
+            accessibleName: "Clear"
+            onClicked: root.clear()
+        }
     }
 }

@@ -143,13 +143,15 @@ FocusScope {
         }
     }
 
-    EmptyState {
+    LazyItem {
         anchors.centerIn: scroll
         width: scroll.width - 40
-        visible: root.count === 0
-        symbol: "magnifyingglass"
-        title: "No matches"
-        message: "Try a different search."
+        active: root.count === 0
+        sourceComponent: EmptyState {
+            symbol: "magnifyingglass"
+            title: "No matches"
+            message: "Try a different search."
+        }
     }
 
     Component.onCompleted: goTo(Math.max(0, picker.symbolPlace)) // the chosen one, or the first

@@ -47,16 +47,13 @@ Sheet {
             }
         }
 
-        Item {
+        LazyItem {
             width: parent.width
-            height: nothing.height + 48
-            visible: root.empty
-
-            EmptyState {
-                id: nothing
-
-                anchors.centerIn: parent
-                width: parent.width
+            active: root.empty
+            visible: active
+            sourceComponent: EmptyState {
+                topPadding: 24
+                bottomPadding: 24
                 symbol: "square.stack.3d.up"
                 symbolSize: 32
                 title: "No variants yet"
