@@ -7,9 +7,10 @@
 
 namespace tarnloft {
 
-// Tells handlers of the pointer what a popup keeps from them. The toolkit gives a press that an item
-// of a popup takes to the handlers beneath it as well, also where the popup is modal: a click on a
-// list in a sheet would be one on the tile under it, and a press on its button could drag that.
+// Tells handlers of the pointer what a popup keeps from them. The toolkit gives a press that an
+// item of a popup takes to the handlers beneath it as well, also where the popup is modal: a click
+// on a list in a sheet would be one on the tile under it, and a press on its button could drag
+// that.
 class PopupCover : public QObject {
   Q_OBJECT
   QML_ELEMENT

@@ -17,8 +17,8 @@ class TileFlow : public QQuickItem {
   QML_ELEMENT
   Q_PROPERTY(
       tarnloft::SectionModel* section READ section WRITE setSection NOTIFY sectionChanged REQUIRED)
-  // Make the views, which have a required property `tile`. A tile is given its size, and one that is
-  // `pressed` serves no other item; a block is given its width, and it tells its height by its
+  // Make the views, which have a required property `tile`. A tile is given its size, and one that
+  // is `pressed` serves no other item; a block is given its width, and it tells its height by its
   // implicit one.
   Q_PROPERTY(QQmlComponent* tile MEMBER tile_ NOTIFY viewsChanged REQUIRED)
   Q_PROPERTY(QQmlComponent* block MEMBER block_ NOTIFY viewsChanged REQUIRED)
