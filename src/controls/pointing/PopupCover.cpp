@@ -2,8 +2,6 @@
 
 #include <QQuickWindow>
 
-#include <ranges>
-
 namespace tarnloft {
 
 bool PopupCover::covers(const QQuickItem* item, const QPointF& scenePoint) {
@@ -11,7 +9,8 @@ bool PopupCover::covers(const QQuickItem* item, const QPointF& scenePoint) {
   for (const QQuickItem* const layer : item->window()->contentItem()->childItems()) {
     if (!layer->inherits("QQuickOverlay")) continue;
     const QList<QQuickItem*> popups = layer->childItems();
-    for (const QQuickItem* const popup : std::views::reverse(popups)) {
+    for (auto top = popups.rbegin(); top != popups.rend(); ++top) {
+      const QQuickItem* const popup = *top;
       if (popup->isAncestorOf(item)) return false;
       const QObject* const owner = popup->parent();
       if (!popup->isVisible() || !owner || !owner->inherits("QQuickPopup")) continue;

@@ -57,7 +57,8 @@ qreal SymbolBoard::contentHeight() const {
 
 QRectF SymbolBoard::cell(int place) const {
   const double width = std::floor(this->width() / columns());
-  return {place % columns() * width, double(place / columns() * pitch), width, pitch};
+  const int row = place / columns();
+  return {place % columns() * width, double(row * pitch), width, pitch};
 }
 
 int SymbolBoard::placeAt(const QPointF& point) const {

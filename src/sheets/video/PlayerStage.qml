@@ -66,7 +66,7 @@ Rectangle {
         shown: root.activeFocus && FocusOrigin.keyboard
     }
 
-    TapHandler {
-        onTapped: root.playback.toggle()
+    PlainTap {
+        onClicked: root.playback.toggle()
     }
 }
