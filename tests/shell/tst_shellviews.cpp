@@ -221,6 +221,31 @@ class TestShellViews : public QObject {
     QVERIFY(!views.library.dialogs.openTypes.isEmpty());
   }
 
+  // Pressed, pulled and let go. A quick click that slips leaves it open.
+  void aMenuIsUsedByOnePress() {
+    Views views;
+    views.library.add("Acme", {sectionOf("Colors", {colorItem("Sky", "#aabbcc")})});
+    views.start();
+    Motion::of(views.engine).setReduced(true);
+    QTRY_VERIFY(views.item(row, "Sky"));
+    const QPoint tile = Views::centerOf(views.item(row, "Sky"));
+    const auto pull = [&](int held) {
+      QTest::mousePress(&views.window(), Qt::RightButton, {}, tile);
+      QTRY_VERIFY(views.item(entry, "Duplicate"));
+      QTest::qWait(held);
+      const QPoint to = Views::centerOf(views.item(entry, "Duplicate"));
+      for (const QPoint& at : {to - QPoint(0, 4), to}) QTest::mouseMove(&views.window(), at);
+      QTest::mouseRelease(&views.window(), Qt::RightButton, {}, to);
+    };
+    pull(0);
+    QVERIFY(views.item(entry, "Duplicate"));
+    views.press(Qt::Key_Escape);
+    QTRY_VERIFY(!views.item(entry, "Duplicate"));
+    pull(300);
+    QTRY_VERIFY(!views.item(entry, "Duplicate"));
+    QCOMPARE(views.library.store->openDocument()->brand().sections.first().items.size(), 2);
+  }
+
   // One picture shows the symbols; the pointer, the keys and assistive technology agree on it.
   void aSymbolIsChosenInEachWay() {
     Views views;

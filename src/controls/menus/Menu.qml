@@ -6,7 +6,8 @@ import TarnLoft.Controls
 
 // A menu of MenuItem, MenuSeparator, MenuTitle and further menus. Open it with `popup()` under the
 // pointer or `popup(item, x, y)`. Arrows, Home, End, Return and Esc work, Tab goes round, and a
-// letter goes to the next entry that begins with it. The keys are its own from its opening, whatever
+// letter goes to the next entry that begins with it. The press that opened it may be pulled onto an
+// entry and let go there. The keys are its own from its opening, whatever
 // else the press that opened it gave them to. The focus goes back as soon as it begins to close, so
 // that no key falls between a menu and what lies under it.
 T.Menu {
@@ -87,6 +88,7 @@ T.Menu {
     onAboutToShow: {
         focusReturn.remember();
         keysLater.start();
+        press.begin(parent);
     }
     onAboutToHide: focusReturn.giveBack()
 
@@ -97,6 +99,24 @@ T.Menu {
             if (root.visible && !root.activeFocus)
                 root.forceActiveFocus(Qt.PopupFocusReason);
         }
+    }
+
+    // The entry at that point of the window, of this or of the menus that are open in it; null for none.
+    function entryAt(scenePoint: point): MenuItem {
+        for (let i = 0; i < count; ++i) {
+            const entry = itemAt(i) as MenuItem;
+            const inner = entry?.subMenu as Menu;
+            const found = inner?.visible ? inner.entryAt(scenePoint) : null;
+            if (found)
+                return found;
+            if (entry?.contains(entry.mapFromItem(null, scenePoint)))
+                return entry;
+        }
+        return null;
+    }
+
+    readonly property MenuPress press: MenuPress {
+        onReleased: scenePoint => root.entryAt(scenePoint)?.choose()
     }
 
     readonly property FocusReturn focusReturn: FocusReturn {

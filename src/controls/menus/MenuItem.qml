@@ -30,6 +30,12 @@ T.MenuItem {
     spacing: 24
     font: Theme.body
 
+    // As a click does.
+    function choose() {
+        if (enabled && !subMenu)
+            triggered();
+    }
+
     onTriggered: (menu as Menu)?.goOnAfterClosing(root)
 
     // Here, since the template would take Tab for itself.

@@ -26,6 +26,7 @@ Item {
     }
 
     PointHandler {
+        acceptedButtons: Qt.AllButtons
         onActiveChanged: root.spent = true
     }
 
