@@ -90,7 +90,10 @@ T.Menu {
         keysLater.start();
         press.begin(parent);
     }
-    onAboutToHide: focusReturn.giveBack()
+    onAboutToHide: {
+        press.end();
+        focusReturn.giveBack();
+    }
 
     // Behind the event that opened it, which may give the focus to what was pressed.
     readonly property Timer keysLater: Timer {

@@ -22,6 +22,8 @@ class MenuPress : public QObject {
 
   // A menu opens in the item's window. Nothing if no button is down.
   Q_INVOKABLE void begin(const QQuickItem* item);
+  // It closes.
+  Q_INVOKABLE void end();
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -30,8 +32,6 @@ class MenuPress : public QObject {
   void released(const QPointF& scenePoint);
 
  private:
-  void takePointer();
-
   QPointer<QQuickWindow> window_;
   QElapsedTimer since_;
   QPointF from_;  // on the desktop
